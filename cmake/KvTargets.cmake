@@ -1,0 +1,58 @@
+# One place for compiler settings and for the three kinds of target: library, program, test.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_AUTOUIC ON)
+set(CMAKE_AUTORCC ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+
+find_program(KV_CCACHE ccache)
+if(KV_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${KV_CCACHE}")
+endif()
+
+# Settings of our own code: warnings, and no silent conversions between bytes and text.
+add_library(kv_options INTERFACE)
+if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+  target_compile_options(kv_options INTERFACE -Wall -Wextra -Wshadow -Wconversion)
+  if(KV_WERROR)
+    target_compile_options(kv_options INTERFACE -Werror -Wno-error=deprecated-declarations)
+  endif()
+elseif(MSVC)
+  target_compile_options(kv_options INTERFACE /W4 /utf-8)
+endif()
+target_compile_definitions(kv_options INTERFACE
+  QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
+  QT_NO_NARROWING_CONVERSIONS_IN_CONNECT)
+
+# kv_library(kv_link SOURCES a.cpp a.h LINK Qt6::Core kv_app): a static library whose includes start at src/.
+function(kv_library name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+  add_library(${name} STATIC ${ARG_SOURCES})
+  target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
+  target_link_libraries(${name} PUBLIC ${ARG_LINK} PRIVATE kv_options)
+endfunction()
+
+# kv_test(tst_imu_parser SOURCES tst_imu_parser.cpp LINK kv_link [LABELS gui]): one test executable, one ctest entry.
+# It runs in a folder of its own, because the program writes its settings and logs into the working folder.
+function(kv_test name)
+  cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LINK;LABELS" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+  target_link_libraries(${name} PRIVATE ${ARG_LINK} Qt6::Test kv_options)
+  target_compile_definitions(${name} PRIVATE
+    KV_SIMULATOR_PATH="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/kv_simulator")
+  set(folder "${CMAKE_BINARY_DIR}/test-run/${name}")
+  file(MAKE_DIRECTORY "${folder}")
+  add_test(NAME ${name} COMMAND ${name} WORKING_DIRECTORY "${folder}")
+  if(NOT ARG_TIMEOUT)
+    set(ARG_TIMEOUT 120)
+  endif()
+  set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT})
+  if(ARG_LABELS)
+    set_tests_properties(${name} PROPERTIES LABELS "${ARG_LABELS}")
+  endif()
+endfunction()

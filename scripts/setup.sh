@@ -1,0 +1,40 @@
+#!/usr/bin/env bash
+# Installs, by name, every Debian package that building, testing and checking KVCenter needs.
+# Quiet and quick when nothing is missing. Uses sudo when it is not run as root.
+set -euo pipefail
+
+packages=(
+  # compilers and build tools
+  g++ cmake ninja-build ccache git
+  # the toolkit
+  qt6-base-dev qt6-serialport-dev libgl-dev libgl1-mesa-dri
+  # benchmarks
+  libbenchmark-dev
+  # fonts: the interface and the two built-in fixed-pitch fonts
+  fonts-noto-core fonts-noto-mono fonts-hack
+  # tests: a display without a screen
+  xvfb xauth
+  # checks
+  clang-format-14 clang-tidy-14 python3
+)
+
+missing=()
+for package in "${packages[@]}"; do
+  status=$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null || true)
+  [ "$status" = installed ] || missing+=("$package")
+done
+[ "${#missing[@]}" -eq 0 ] && exit 0
+
+sudo=()
+[ "$(id -u)" -eq 0 ] || sudo=(sudo)
+echo "setup: installing ${missing[*]}"
+log=$(mktemp)
+trap 'rm -f "$log"' EXIT
+export DEBIAN_FRONTEND=noninteractive
+if ! { "${sudo[@]}" apt-get update -q &&
+       "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -qy --no-install-recommends "${missing[@]}"; } \
+     >"$log" 2>&1 </dev/null; then
+  cat "$log" >&2
+  echo "setup: the packages could not be installed, see above" >&2
+  exit 1
+fi

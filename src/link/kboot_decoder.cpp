@@ -1,0 +1,154 @@
+#include "link/kboot_protocol.h"
+
+#include <QtEndian>
+
+namespace {
+
+constexpr quint8 kStartByte = 0x5A;
+constexpr quint8 kTypeCommand = 0xA4;
+constexpr quint8 kTypeData = 0xA5;
+constexpr quint8 kTypePing = 0xA6;
+constexpr quint8 kTypePingResponse = 0xA7;
+
+constexpr int kHeaderSize = 6;
+constexpr int kLengthOffset = 2;
+constexpr int kCrcOffset = 4;
+constexpr int kPingResponseSize = 10;
+constexpr int kMaxPacketSize = 2047;
+
+// While hunting, discarded bytes collect behind the last packet, because whoever waits for an acknowledge looks at the
+// first two. Noise without a single start byte must not fill the memory, so beyond this size they are let go.
+constexpr qsizetype kMaxDiscardedBytes = 4096;
+
+quint16 u16At(const QByteArray &bytes, int offset)
+{
+    return qFromLittleEndian<quint16>(bytes.constData() + offset);
+}
+
+} // namespace
+
+KbootProtocol::KbootProtocol(QObject *parent) : QObject(parent)
+{
+    m_frameBuffer.reserve(kMaxPacketSize);
+}
+
+void KbootProtocol::serial_read(const QByteArray &data)
+{
+    // A receiver of kbootRecv() may spin an event loop and so come back here: decode a copy.
+    m_rxStaging.append(data);
+    const QByteArray chunk = m_rxStaging;
+    m_rxStaging.clear();
+    decode(chunk);
+}
+
+void KbootProtocol::clear()
+{
+    m_decodeState = Hunting;
+    m_expectedLength = 0;
+    m_responseReceived = false;
+    m_rxStaging.clear();
+    m_frameBuffer.clear();
+}
+
+void KbootProtocol::decode(const QByteArray &data)
+{
+    for (const char byte : data)
+        decodeByte(byte);
+}
+
+void KbootProtocol::decodeByte(char byte)
+{
+    if (m_decodeState == Hunting) {
+        if (quint8(byte) == kStartByte) {
+            m_frameBuffer.resize(0); // keeps the capacity
+            m_decodeState = Type;
+        } else if (m_frameBuffer.size() >= kMaxDiscardedBytes) {
+            return;
+        }
+        m_frameBuffer.append(byte);
+        return;
+    }
+
+    m_frameBuffer.append(byte);
+    switch (m_decodeState) {
+    case Type:
+        takeType(quint8(byte));
+        break;
+    case LengthLow:
+    case LengthHigh:
+    case CrcLow:
+        ++m_decodeState;
+        break;
+    case CrcHigh:
+        finishHeader();
+        break;
+    default:
+        // Looked at only when a byte arrives: a packet with an empty payload therefore waits for the byte behind it.
+        if (m_frameBuffer.size() >= m_expectedLength)
+            finishPacket();
+        break;
+    }
+}
+
+void KbootProtocol::takeType(quint8 type)
+{
+    switch (type) {
+    case kTypeCommand:
+    case kTypeData:
+        m_decodeState = LengthLow;
+        break;
+    case kTypePing:
+        m_responseReceived = true;
+        m_decodeState = Hunting;
+        break;
+    case kTypePingResponse:
+        m_expectedLength = kPingResponseSize;
+        m_responseReceived = true;
+        m_decodeState = Payload;
+        break;
+    default:
+        m_decodeState = Hunting;
+        break;
+    }
+}
+
+void KbootProtocol::finishHeader()
+{
+    m_expectedLength = u16At(m_frameBuffer, kLengthOffset) + kHeaderSize;
+    m_decodeState = m_expectedLength > kMaxPacketSize ? Hunting : Payload;
+}
+
+void KbootProtocol::finishPacket()
+{
+    m_decodeState = Hunting;
+    if (do_crc_check(m_frameBuffer) != u16At(m_frameBuffer, kCrcOffset))
+        return;
+    if (quint8(m_frameBuffer.at(1)) == kTypeData) {
+        m_frameBuffer.remove(0, kHeaderSize);
+        emit kbootRecv(m_frameBuffer);
+    }
+    m_responseReceived = true;
+}
+
+quint16 KbootProtocol::do_crc_check(const QByteArray &packet)
+{
+    const auto *bytes = reinterpret_cast<const quint8 *>(packet.constData());
+    quint16 crc = 0;
+    crc16(&crc, bytes, quint32(qMin<qsizetype>(packet.size(), kCrcOffset)));
+    if (packet.size() > kHeaderSize)
+        crc16(&crc, bytes + kHeaderSize, quint32(packet.size() - kHeaderSize));
+    return crc;
+}
+
+quint16 KbootProtocol::crc16(quint16 *crc, const quint8 *data, quint32 length)
+{
+    quint32 value = *crc;
+    for (quint32 i = 0; i < length; ++i) {
+        value ^= quint32(data[i]) << 8;
+        for (int bit = 0; bit < 8; ++bit)
+            value = (value & 0x8000U) != 0 ? (value << 1) ^ 0x1021U : value << 1;
+        value &= 0xFFFFU;
+    }
+    *crc = quint16(value);
+    return *crc;
+}

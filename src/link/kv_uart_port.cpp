@@ -1,0 +1,184 @@
+#include "link/kv_uart_port.h"
+
+#include <QCoreApplication>
+
+#include "app/app_log.h"
+#include "link/kboot_protocol.h"
+
+namespace {
+
+constexpr int kSecondMs = 1000;
+constexpr unsigned long kCloseTimeoutMs = 5000;
+
+void moveIfNeeded(QObject *object, QThread *target)
+{
+    if (object->thread() != target)
+        object->moveToThread(target);
+}
+
+} // namespace
+
+KvUartPort::KvUartPort(QObject *parent)
+    : QSerialPort(parent), m_kboot(std::make_unique<KbootProtocol>()), m_secondTimer(std::make_unique<QTimer>()),
+      m_workerThread(std::make_unique<QThread>())
+{
+    connect(m_workerThread.get(), &QThread::started, this, &KvUartPort::threadStarted, Qt::QueuedConnection);
+    connect(this, &QIODevice::readyRead, this, &KvUartPort::onReadyRead, Qt::QueuedConnection);
+    connect(m_kboot.get(), &KbootProtocol::kbootRecv, this, &KvUartPort::onKbootRecv);
+    connect(m_kboot.get(), &KbootProtocol::serialSend, this, &KvUartPort::serialSend);
+    connect(m_secondTimer.get(), &QTimer::timeout, this, &KvUartPort::onTimer1000ms);
+    m_secondTimer->setInterval(kSecondMs);
+}
+
+KvUartPort::~KvUartPort()
+{
+    closeUART();
+}
+
+void KvUartPort::openUART(const QString &portName, int baud)
+{
+    if (m_workerThread->isRunning()) {
+        stopInWorker();
+        m_workerThread->wait();
+    }
+    m_portName = portName;
+    m_baudRate = baud;
+    m_startPending = true;
+    moveAllTo(m_workerThread.get());
+    m_workerThread->start(QThread::InheritPriority);
+}
+
+void KvUartPort::closeUART()
+{
+    if (!m_workerThread->isRunning())
+        return;
+    stopInWorker();
+    if (!m_workerThread->wait(kCloseTimeoutMs)) {
+        AppLog::logfile(QtWarningMsg, QStringLiteral("thread deadlock detected, force stopped uart-thread"));
+        m_workerThread->terminate();
+        m_workerThread->wait();
+    }
+}
+
+void KvUartPort::stopInWorker()
+{
+    QMetaObject::invokeMethod(this, &KvUartPort::threadStopped, Qt::BlockingQueuedConnection);
+    m_workerThread->quit();
+}
+
+void KvUartPort::threadStarted()
+{
+    // A close right behind an open overtakes the start, which then arrives in the main thread, or in the next session
+    // as a second start. Neither may open the port.
+    if (!m_startPending || QThread::currentThread() != m_workerThread.get())
+        return;
+    m_startPending = false;
+
+    setPortName(m_portName);
+    setBaudRate(m_baudRate);
+    clear();
+    if (isOpen()) {
+        close();
+        AppLog::logfile(QtWarningMsg, QStringLiteral("found port is opened while uart-thread starting."));
+    }
+    if (!open(QIODevice::ReadWrite))
+        emit errorOpenPort();
+    m_secondTimer->start();
+    AppLog::logfile(QtInfoMsg, QStringLiteral("uart-thread=%1 started")
+                                   .arg(reinterpret_cast<quintptr>(QThread::currentThreadId())));
+}
+
+void KvUartPort::threadStopped()
+{
+    m_startPending = false;
+    if (isOpen())
+        close();
+    m_secondTimer->stop();
+    AppLog::logfile(QtInfoMsg, QStringLiteral("uart-thread stopped."));
+    moveAllTo(QCoreApplication::instance()->thread());
+}
+
+void KvUartPort::moveAllTo(QThread *target)
+{
+    moveIfNeeded(m_kboot.get(), target);
+    moveIfNeeded(m_secondTimer.get(), target);
+    moveIfNeeded(this, target);
+}
+
+void KvUartPort::onReadyRead()
+{
+    if (!isReadable() || bytesAvailable() <= 0)
+        return;
+    const QByteArray data = readAll();
+    {
+        const QMutexLocker lock(&m_statsMutex);
+        m_rxBytes += quint64(data.size());
+    }
+    m_kboot->serial_read(data);
+    emit serialRecv(data);
+}
+
+void KvUartPort::onKbootRecv(const QByteArray &payload)
+{
+    {
+        const QMutexLocker lock(&m_statsMutex);
+        ++m_framesCounter;
+    }
+    emit kbootRecv(payload);
+}
+
+void KvUartPort::serialSend(const QByteArray &data)
+{
+    if (!isOpen())
+        return;
+    const qint64 written = write(data);
+    if (written > 0) {
+        const QMutexLocker lock(&m_statsMutex);
+        m_txBytes += quint64(written);
+    }
+}
+
+bool KvUartPort::serialSendBlocking(const QByteArray &data, int timeoutMs)
+{
+    serialSend(data);
+    return isOpen() && waitForBytesWritten(timeoutMs);
+}
+
+void KvUartPort::clear()
+{
+    m_kboot->clear();
+    const QMutexLocker lock(&m_statsMutex);
+    m_lastSecond = {};
+    m_txBytes = 0;
+    m_rxBytes = 0;
+    m_framesCounter = 0;
+}
+
+LinkStatistics KvUartPort::statistics() const
+{
+    const QMutexLocker lock(&m_statsMutex);
+    return m_lastSecond;
+}
+
+quint32 KvUartPort::loadPercent(quint64 bytes, int bitsPerSecond, int bitsPerCharacter)
+{
+    const double charactersPerSecond = double(bitsPerSecond) / bitsPerCharacter;
+    if (charactersPerSecond < 1.0)
+        return 0;
+    return quint32(bytes * 100 / quint64(charactersPerSecond));
+}
+
+void KvUartPort::onTimer1000ms()
+{
+    // The settings' values as the library numbers them, plus the start bit: 8 + 0 + 1 + 1 = 10 for 8N1.
+    const int bitsPerCharacter = int(dataBits()) + int(parity()) + int(stopBits()) + 1;
+    const QMutexLocker lock(&m_statsMutex);
+    m_lastSecond.txBytesLastSecond = m_txBytes;
+    m_lastSecond.rxBytesLastSecond = m_rxBytes;
+    m_lastSecond.framesLastSecond = m_framesCounter;
+    m_lastSecond.txLoadPercent = loadPercent(m_txBytes, m_baudRate, bitsPerCharacter);
+    m_lastSecond.rxLoadPercent = loadPercent(m_rxBytes, m_baudRate, bitsPerCharacter);
+    m_txBytes = 0;
+    m_rxBytes = 0;
+    m_framesCounter = 0;
+}

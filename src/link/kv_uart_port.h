@@ -1,0 +1,90 @@
+#pragma once
+
+#include <QMutex>
+#include <QSerialPort>
+#include <QThread>
+#include <QTimer>
+
+#include <memory>
+
+class KbootProtocol;
+
+/// What the link carried during the last whole second. Loads are in per cent of the line's capacity.
+struct LinkStatistics
+{
+    quint32 framesLastSecond = 0; ///< payloads forwarded
+    quint64 txBytesLastSecond = 0;
+    quint64 rxBytesLastSecond = 0;
+    quint32 txLoadPercent = 0;
+    quint32 rxLoadPercent = 0;
+};
+
+/// The program's serial link. While a port is open, this object, its deframer and its one-second timer live in a worker
+/// thread of their own; while closed, they live in the application's main thread. Always 8N1 without flow control.
+///
+/// openUART() and closeUART() are called from the main thread. The sending slots are for queued calls (or signals).
+/// Whether opening worked arrives as QSerialPort::errorOccurred() and errorOpenPort(). Signals are emitted in the worker
+/// thread; receivers in the main thread get them queued.
+class KvUartPort : public QSerialPort
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(KvUartPort)
+
+public:
+    explicit KvUartPort(QObject *parent = nullptr);
+    ~KvUartPort() override;
+
+    /// Starts the worker thread, which opens the port `portName` (a name or an absolute path) at `baud` baud. A port that
+    /// is open is closed first. Returns before the port is open.
+    void openUART(const QString &portName, int baud);
+
+    /// Closes the port in its thread and waits at most 5 s for the thread to end. When it returns, everything that the
+    /// worker has emitted is already posted to the main thread. Nothing happens when nothing is open.
+    void closeUART();
+
+    /// Counters of the last whole second. Any thread.
+    LinkStatistics statistics() const;
+
+    /// Load in per cent of a line with `bitsPerSecond` and `bitsPerCharacter` that carried `bytes` in a second.
+    static quint32 loadPercent(quint64 bytes, int bitsPerSecond, int bitsPerCharacter);
+
+public slots:
+    /// Writes bytes; they count when the port took them. Closed: nothing happens.
+    void serialSend(const QByteArray &data);
+    /// Writes bytes and waits up to `timeoutMs` until the system has taken them all. Worker thread only.
+    bool serialSendBlocking(const QByteArray &data, int timeoutMs);
+    /// Resets the deframer and all counters. Worker thread, or any time while closed.
+    void clear();
+
+signals:
+    /// Payload of one good data packet, without its framing header.
+    void kbootRecv(QByteArray payload);
+    /// Every chunk as it was read, after it has been through the deframer.
+    void serialRecv(QByteArray data);
+    /// The port could not be opened; errorOccurred() has told why.
+    void errorOpenPort();
+
+private slots:
+    void threadStarted();
+    void threadStopped();
+    void onReadyRead();
+    void onKbootRecv(const QByteArray &payload);
+    void onTimer1000ms();
+
+private:
+    void stopInWorker();
+    void moveAllTo(QThread *target);
+
+    std::unique_ptr<KbootProtocol> m_kboot;
+    std::unique_ptr<QTimer> m_secondTimer;
+    std::unique_ptr<QThread> m_workerThread;
+    QString m_portName;
+    int m_baudRate = 0;
+    bool m_startPending = false; ///< openUART() has asked for a start that has not run yet
+
+    mutable QMutex m_statsMutex; ///< guards all below
+    LinkStatistics m_lastSecond;
+    quint64 m_txBytes = 0; ///< of the current second, as all below
+    quint64 m_rxBytes = 0;
+    quint32 m_framesCounter = 0;
+};
