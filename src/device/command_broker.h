@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QObject>
+#include <QPointer>
+
+#include "device/settings_command_adapter.h"
+
+class KvUartPort;
+
+/// Sends text commands to the device, one at a time, and collects whatever comes back during a fixed time window. It
+/// reads nothing into the bytes: an empty reply is the only sign of a silent device.
+///
+/// Lives in the main thread. A call with a window returns when the window has passed; meanwhile a local event loop
+/// runs, so replies, timers and clicks are delivered. A command that such an event issues is rejected: callers that
+/// offer commands ask isCollecting() first. If the application quits, or the broker dies, inside a window, the call
+/// returns early and a sequence sends no further command.
+class CommandBroker : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(CommandBroker)
+
+public:
+    explicit CommandBroker(QObject *parent = nullptr);
+
+    /// Connects both directions with a port, which is not owned and may live in another thread; null detaches.
+    void attachPort(KvUartPort *port);
+
+    /// Sends bytes and returns what came back within `windowMs` milliseconds, at most 1 MiB (the rest is dropped with
+    /// one warning in the log). 0 sends and returns at once. Empty, and nothing is sent, while another command is in
+    /// flight.
+    QByteArray sendAndCollect(const QByteArray &bytes, unsigned int windowMs);
+
+    /// Sends a text as UTF-8 and returns its reply. An empty text sends nothing and returns an empty reply.
+    QByteArray executeCommand(const QString &text, unsigned int windowMs);
+
+    /// Sends commands in order, each with its own window, passing over empty ones. Returns the reply of the last one
+    /// only, so a sequence ends with its informative command.
+    QByteArray executeSequence(const QList<SettingsCommand> &commands);
+
+    /// Reply of the last executeCommand() or executeSequence().
+    const QByteArray &lastResult() const { return m_lastResult; }
+
+    /// A command is in flight; another one would be rejected.
+    bool isCollecting() const { return m_collecting; }
+
+public slots:
+    /// Takes bytes that the port received. Outside a window they are dropped.
+    void serialRecv(const QByteArray &data);
+
+signals:
+    /// Bytes for the port to write.
+    void serialSend(QByteArray data);
+
+private:
+    enum class Window { Complete, CutShort, BrokerGone };
+
+    Window collect(const QByteArray &bytes, unsigned int windowMs, QByteArray *reply);
+    Window runWindow(unsigned int windowMs);
+
+    QPointer<KvUartPort> m_port;
+    QByteArray m_buffer; ///< bytes of the current window
+    QByteArray m_lastResult;
+    bool m_collecting = false;
+    bool m_truncationReported = false; ///< in the current window
+};

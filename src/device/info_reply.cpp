@@ -1,0 +1,100 @@
+#include "device/info_reply.h"
+
+#include <QtEndian>
+
+#include <algorithm>
+
+#include "link/kboot_protocol.h"
+
+namespace {
+
+constexpr quint8 kStartByte = 0x5A;
+constexpr quint8 kTypeData = 0xA5;
+constexpr qsizetype kHeaderSize = 6;
+constexpr int kLengthOffset = 2;
+constexpr int kCrcOffset = 4;
+constexpr qsizetype kMaxPacketSize = 2047;
+
+constexpr qsizetype kMaxLines = 64;
+constexpr qsizetype kMaxLineLength = 256;
+constexpr qsizetype kMinReadableEnd = 4;
+
+// Bytes that may be checked in vain, as a multiple of the reply's size. A reply made of nothing but packet headers
+// would otherwise have the same bytes checked hundreds of times.
+constexpr qsizetype kMaxVainChecks = 4;
+
+/// Size of the packet that the header at `offset` announces, 0 if there is no header or the packet is not complete.
+qsizetype announcedSize(const QByteArray &bytes, qsizetype offset)
+{
+    if (bytes.size() - offset < kHeaderSize || quint8(bytes[offset]) != kStartByte ||
+        quint8(bytes[offset + 1]) != kTypeData)
+        return 0;
+    const qsizetype size = kHeaderSize + qFromLittleEndian<quint16>(bytes.constData() + offset + kLengthOffset);
+    return size <= kMaxPacketSize && size <= bytes.size() - offset ? size : 0;
+}
+
+QByteArray withoutPackets(const QByteArray &reply)
+{
+    QByteArray rest;
+    rest.reserve(reply.size());
+    qsizetype vainBudget = kMaxVainChecks * reply.size();
+    qsizetype offset = 0;
+    while (offset < reply.size()) {
+        const qsizetype size = vainBudget > 0 ? announcedSize(reply, offset) : 0;
+        if (size > 0) {
+            const QByteArray packet = QByteArray::fromRawData(reply.constData() + offset, size);
+            if (KbootProtocol::do_crc_check(packet) == qFromLittleEndian<quint16>(packet.constData() + kCrcOffset)) {
+                offset += size;
+                continue;
+            }
+            vainBudget -= size;
+        }
+        rest.append(reply[offset]);
+        ++offset;
+    }
+    return rest;
+}
+
+bool isBad(QChar character)
+{
+    return character == QChar::ReplacementCharacter ||
+           (character.category() == QChar::Other_Control && character != u'\t');
+}
+
+/// The readable part of one line; empty if there is none.
+QString readable(QString line)
+{
+    const qsizetype bad = std::count_if(line.cbegin(), line.cend(), isBad);
+    if (bad * 4 > line.size()) {
+        const qsizetype end = std::find_if(line.crbegin(), line.crend(), isBad) - line.crbegin();
+        if (end < kMinReadableEnd)
+            return {};
+        line = line.last(end);
+    }
+    line.truncate(line.size() > kMaxLineLength && line[kMaxLineLength].isLowSurrogate() ? kMaxLineLength - 1
+                                                                                        : kMaxLineLength);
+    std::replace_if(line.begin(), line.end(), isBad, QChar(u' '));
+    return line.trimmed().isEmpty() ? QString() : line;
+}
+
+bool isLineEnd(char byte)
+{
+    return byte == '\r' || byte == '\n';
+}
+
+} // namespace
+
+QList<QString> info_reply::lines(const QByteArray &reply)
+{
+    const QByteArray text = withoutPackets(reply);
+    QList<QString> result;
+    auto begin = text.cbegin();
+    while (begin != text.cend() && result.size() < kMaxLines) {
+        const auto end = std::find_if(begin, text.cend(), isLineEnd);
+        const QString line = readable(QString::fromUtf8(begin, end - begin));
+        if (!line.isEmpty())
+            result.append(line);
+        begin = end == text.cend() ? end : end + 1;
+    }
+    return result;
+}
