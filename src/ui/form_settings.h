@@ -1,0 +1,90 @@
+#pragma once
+
+#include <QDialog>
+#include <QHash>
+#include <QStringList>
+
+#include <memory>
+
+#include "device/product_resolver.h"
+#include "device/settings_command_adapter.h"
+
+class CommandBroker;
+class CommandSession;
+class QPushButton;
+
+namespace Ui {
+class form_settings;
+}
+
+/// Settings of the connected device: what it is, its node id, output rate and attitude mode, and one-click commands with
+/// a log of what was sent and what came back. It also identifies the device for the main window, visible or not.
+///
+/// Commands wait for their replies in nested event loops. Until one has ended every other is refused and all that sends
+/// is disabled; the port, this window and the program may be closed meanwhile. What a connection answered after it was
+/// closed is thrown away.
+///
+/// Main thread only.
+class form_settings : public QDialog
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(form_settings)
+
+public:
+    explicit form_settings(QWidget *parent = nullptr);
+    ~form_settings() override;
+
+    /// The broker that carries the commands; not owned, may be null and may die first.
+    void set_broker(CommandBroker *broker);
+    /// Baud rate of the open port: the time that a reply needs depends on it. Values below 1 are ignored.
+    void set_baud(int baud);
+    /// Tells that a port was opened or closed. Every call starts a new connection: replies to commands sent before it
+    /// are thrown away.
+    void set_connected(bool connected);
+
+    /// Identifies the device: stops its output, reads its information, resolves it and resumes the output. Takes some
+    /// 0.5 s at 115200 baud, in a nested event loop. Returns the lines of the reply; detectedDevice() is what they
+    /// resolve to. Empty when nothing is connected or the device stays silent; also, leaving detectedDevice() alone,
+    /// while another command runs and when the connection ended meanwhile.
+    QStringList get_prod_info();
+
+    /// The device as it was identified last; `valid` is false and `profile` may be null when none was.
+    const DetectedDevice &detectedDevice() const;
+    /// Forgets the device. What was chosen for its settings is kept until the program ends.
+    void clear_device();
+
+signals:
+    /// The window was closed and no command runs any more. Output that was stopped here has been told to resume.
+    void settingsClosed();
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private slots:
+    void on_BTN_identify_clicked();
+    void on_BTN_save_clicked();
+    void on_BTN_copy_clicked();
+
+private:
+    struct Hotkey;
+
+    void createHotkeys();
+    void showDevice();
+    void showEditors(const ProductProfile &profile);
+    void loadChoice();
+    void storeChoice();
+    void updateState();
+    void finishClosing();
+    QString blockedReason() const;
+    QString saveProblem() const;
+    SettingsSaveRequest request() const;
+
+    std::unique_ptr<Ui::form_settings> m_ui;
+    CommandSession *m_session;
+    QList<QPushButton *> m_hotkeyButtons; ///< one per row of the hotkey table
+    QHash<ProductKey, SettingsSaveRequest> m_choices; ///< what the user chose last, for as long as the program runs
+    ProductKey m_shownKey{};
+    bool m_closePending = false; ///< settingsClosed() is still to be told
+};
