@@ -6,10 +6,10 @@ namespace {
 
 using namespace payload_item;
 
-constexpr SampleFields kInertial = SampleFields(SampleField::Acceleration) | SampleField::AngularRate
-                                   | SampleField::MagneticField | SampleField::Quaternion;
-constexpr SampleFields kFull = kInertial | SampleField::Euler | SampleField::Pressure | SampleField::Temperature
-                               | SampleField::Time;
+constexpr SampleFields kInertial = SampleFields(SampleField::Acceleration) | SampleField::AngularRate |
+                                   SampleField::MagneticField | SampleField::Quaternion;
+constexpr SampleFields kFull =
+    kInertial | SampleField::Euler | SampleField::Pressure | SampleField::Temperature | SampleField::Time;
 
 SampleFields fieldsOf(quint8 tag)
 {
@@ -44,10 +44,11 @@ SampleFields fieldsOf(quint8 tag)
 SampleFields sampleFields(const DecodedFrame &frame)
 {
     SampleFields fields;
-    for (const char tag : frame.item_tags)
+    for (const char tag : frame.item_tags) {
+        // A compact record takes back the angles and the time of what stood before it.
+        if (quint8(tag) == kCompactRecord)
+            fields &= ~(SampleFields(SampleField::Euler) | SampleField::Time);
         fields |= fieldsOf(quint8(tag));
-    // A compact record takes back the angles and the time of what stood before it.
-    if (frame.family == frame_family::SingleNode)
-        fields.setFlag(SampleField::Euler, frame.has_euler);
+    }
     return fields;
 }
