@@ -1,0 +1,87 @@
+#include "simulator/manual.h"
+
+#include "simulator/control_console.h"
+#include "simulator/device_type.h"
+
+namespace kvsim {
+
+namespace {
+
+// %1 is the table of devices, %2 that of controls.
+constexpr char kText[] = R"manual(Simulates an inertial measurement unit on a serial line.
+
+Opens a pseudo-terminal, prints "port: /dev/pts/N" on standard output and behaves
+there like the device: it streams data packets and answers commands. Open that port
+with KVCenter at any baud rate. Nothing is sent into a port that nobody has open.
+SIGINT, SIGTERM and the control "quit" end the program; its link goes with it.
+
+Devices (--device):
+%1
+Commands, one per line, answered OK or ERROR:
+  all           AT+INFO  AT+EOUT=0|1  AT+RST
+  AT modules    AT+ID=0..255  AT+ODR=1|2|10|50|100|200|400  AT+MODE=0|1
+  text modules  AT+ODR=1|2|10|50|100|250|500  CONFIG ATT MODE 0|1  SAVECONFIG
+                REBOOT  LOG COMCONFIG  LOG USRCONFIG  LOG DISABLE  LOG ENABLE
+A restart is silent for 300 ms; then output is on and device time is 0. Rate, id and
+AT+MODE are kept over it; CONFIG ATT MODE only after SAVECONFIG.
+
+Layouts (--layout):
+  91       full record of floats, 76 bytes (default of modules)
+  93       compact record of integers, 28 bytes
+  items    small items 90 A0 B0 C0 D0 D1 F0
+  62       gateway batch of full records (default of the gateway)
+  63       gateway batch of compact records
+  dynamic  gateway batches 62 and 63 in turn
+
+Axes: AT modules and gateway x forward, y left, z up with Z-Y-X Euler angles; text
+modules x right, y forward, z up with 3-1-2 Euler angles. Level and at rest, the
+z axis reads +1 G.
+
+Fixed values (--fixed): acc 0.25 -0.5 0.75 G; gyr 10.5 -20.5 30.5 deg/s; mag 12.5
+-25 37.5 uT; roll 10, pitch -20, yaw 30 deg; quaternion 0.8 0.2 -0.4 0.4; 25 C;
+101325 Pa. Gateway nodes have the ids 1, 2, 3 ... and node n adds (n - 1) * 0.125 G
+to acc X. The device time runs.
+
+Recordings (--replay): CSV with the columns "Time (s)", "Gyroscope X (deg/s)" and
+"Accelerometer X (g)" with Y and Z each, optionally "Magnetometer X (uT)"; played
+round and round, one row per frame.
+
+Controls (--control), one per line on standard input, each answered "ok" or
+"error: ..."; the end of the input ends the program:
+%2
+Exit codes: 0 ended on request, 1 the port or the link cannot be made, 2 the command
+line or the recording makes no sense.
+
+Examples:
+  kv_simulator --device mz221 --link /tmp/imu
+  kv_simulator --device kv104 --rate 1000 --baud 921600 --motion spin
+  kv_simulator --device gateway --nodes 8 --layout dynamic --noise 0.5
+  kv_simulator --device mz221 --replay walk.csv --control)manual";
+
+const char *kindOf(Dialect dialect)
+{
+    switch (dialect) {
+    case Dialect::Legacy:
+        return "module, AT commands";
+    case Dialect::Text:
+        return "module, text commands";
+    case Dialect::Gateway:
+        break;
+    }
+    return "wireless gateway, AT commands";
+}
+
+} // namespace
+
+QString manual()
+{
+    QString devices;
+    for (const DeviceType &type : deviceTypes()) {
+        devices += QStringLiteral("  %1 %2 (%3)\n")
+                       .arg(QLatin1String(type.name), -8)
+                       .arg(QLatin1String(type.modelLine), QLatin1String(kindOf(type.dialect)));
+    }
+    return QString(QLatin1String(kText)).arg(devices, ControlConsole::help());
+}
+
+} // namespace kvsim

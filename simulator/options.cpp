@@ -1,0 +1,182 @@
+#include "simulator/options.h"
+
+#include <QCommandLineParser>
+
+#include <array>
+#include <limits>
+
+#include "simulator/manual.h"
+
+namespace kvsim {
+
+namespace {
+
+template <typename T> struct Choice
+{
+    const char *name;
+    T value;
+};
+
+constexpr std::array<Choice<MotionKind>, 3> kMotions{{
+    {"rest", MotionKind::Rest},
+    {"swing", MotionKind::Swing},
+    {"spin", MotionKind::Spin},
+}};
+
+constexpr std::array<Choice<LayoutChoice>, 6> kLayouts{{
+    {"91", LayoutChoice::Full91},
+    {"93", LayoutChoice::Compact93},
+    {"items", LayoutChoice::Items},
+    {"62", LayoutChoice::Batch62},
+    {"63", LayoutChoice::Batch63},
+    {"dynamic", LayoutChoice::Dynamic},
+}};
+
+// Fault options that are one control line each: "--noise 3" is "noise 3" before the first frame.
+constexpr std::array<const char *, 9> kValueControls{"noise", "drop",   "insert", "burst",     "values",
+                                                     "reply", "silent", "deaf",   "rotate-ids"};
+constexpr std::array<const char *, 2> kSwitchControls{"reply-binary", "wrong-device"};
+
+template <typename T, std::size_t N>
+bool choose(const std::array<Choice<T>, N> &choices, const QString &name, T &value, const QString &option,
+            QString *error)
+{
+    QStringList names;
+    for (const Choice<T> &choice : choices) {
+        if (name == QLatin1String(choice.name)) {
+            value = choice.value;
+            return true;
+        }
+        names += QLatin1String(choice.name);
+    }
+    *error = QStringLiteral("--%1 must be one of: %2").arg(option, names.join(QStringLiteral(", ")));
+    return false;
+}
+
+bool readNumber(const QCommandLineParser &parser, const QString &option, qint64 low, qint64 high, qint64 &value,
+                QString *error)
+{
+    if (!parser.isSet(option))
+        return true;
+    bool ok = false;
+    value = parser.value(option).toLongLong(&ok);
+    if (ok && value >= low && value <= high)
+        return true;
+    *error = QStringLiteral("--%1 must be a whole number from %2 to %3").arg(option).arg(low).arg(high);
+    return false;
+}
+
+void addOptions(QCommandLineParser &parser)
+{
+    const auto add = [&parser](const char *name, const char *text, const char *value = nullptr,
+                               const char *standard = nullptr) {
+        parser.addOption({QLatin1String(name), QLatin1String(text), QLatin1String(value), QLatin1String(standard)});
+    };
+    add("device", "Device to simulate, see above.", "NAME", "mz221");
+    add("layout", "Payload layout, see above.", "NAME");
+    add("nodes", "Radio nodes behind the gateway, 1 to 16 (default 4).", "N");
+    add("rate", "Frames per second, 1 to 2000 (default 100, or the recording's own).", "HZ");
+    add("baud",
+        "Send no faster than this baud rate, 10 bits per byte; frames that do not fit are dropped whole and "
+        "counted. 0 (default): unlimited.",
+        "N");
+    add("id", "Id of the module or the gateway, 0 to 255 (default 1).", "N");
+    add("motion", "rest, swing or spin.", "KIND", "swing");
+    add("fixed", "Send constant values, see above; same as --values fixed.");
+    add("replay", "Play a CSV recording instead of the motion model.", "FILE");
+    add("link", "Keep a symbolic link to the port at this path.", "PATH");
+    add("seed", "Seed of all randomness (default 1).", "N");
+    add("control", "Take controls from standard input.");
+    for (const char *name : kValueControls)
+        add(name, "Start with this control, see above.", "VALUE");
+    for (const char *name : kSwitchControls)
+        add(name, "Start with this control on.");
+}
+
+bool checkLayout(const QCommandLineParser &parser, Options &options, QString *error)
+{
+    const QString option = QStringLiteral("layout");
+    const bool gateway = options.device->isGateway();
+    options.layout = gateway ? LayoutChoice::Batch62 : LayoutChoice::Full91;
+    if (!parser.isSet(option))
+        return true;
+    if (!choose(kLayouts, parser.value(option), options.layout, option, error))
+        return false;
+    const bool batch = options.layout == LayoutChoice::Batch62 || options.layout == LayoutChoice::Batch63 ||
+                       options.layout == LayoutChoice::Dynamic;
+    if (batch != gateway)
+        *error = gateway ? QStringLiteral("the gateway sends the layouts 62, 63 and dynamic")
+                         : QStringLiteral("a module sends the layouts 91, 93 and items");
+    return batch == gateway;
+}
+
+} // namespace
+
+std::optional<Options> parseOptions(const QStringList &arguments, QString *error)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(manual());
+    parser.addHelpOption();
+    parser.addVersionOption();
+    addOptions(parser);
+    if (!parser.parse(arguments)) {
+        *error = parser.errorText();
+        return {};
+    }
+    if (parser.isSet(QStringLiteral("help")) || parser.isSet(QStringLiteral("help-all")))
+        parser.showHelp();
+    if (parser.isSet(QStringLiteral("version")))
+        parser.showVersion();
+    if (!parser.positionalArguments().isEmpty()) {
+        *error = QStringLiteral("unexpected argument \"%1\"").arg(parser.positionalArguments().constFirst());
+        return {};
+    }
+
+    Options options;
+    options.device = findDeviceType(parser.value(QStringLiteral("device")));
+    if (options.device == nullptr) {
+        *error = QStringLiteral("unknown device \"%1\"").arg(parser.value(QStringLiteral("device")));
+        return {};
+    }
+    qint64 nodes = options.nodes;
+    qint64 rate = 0;
+    qint64 baud = 0;
+    qint64 id = options.id;
+    qint64 seed = qint64(options.seed);
+    const bool ok =
+        checkLayout(parser, options, error) &&
+        choose(kMotions, parser.value(QStringLiteral("motion")), options.motion, QStringLiteral("motion"), error) &&
+        readNumber(parser, QStringLiteral("nodes"), 1, kMaxNodes, nodes, error) &&
+        readNumber(parser, QStringLiteral("rate"), 1, kMaxRateHz, rate, error) &&
+        readNumber(parser, QStringLiteral("baud"), 0, 100'000'000, baud, error) &&
+        readNumber(parser, QStringLiteral("id"), 0, 255, id, error) &&
+        readNumber(parser, QStringLiteral("seed"), 0, std::numeric_limits<qint64>::max(), seed, error);
+    if (!ok)
+        return {};
+    options.nodes = options.device->isGateway() ? int(nodes) : 1;
+    if (rate > 0)
+        options.rateHz = int(rate);
+    options.baudRate = int(baud);
+    options.id = int(id);
+    options.seed = quint64(seed);
+    options.replayPath = parser.value(QStringLiteral("replay"));
+    if (parser.isSet(QStringLiteral("replay")) && options.replayPath.isEmpty()) {
+        *error = QStringLiteral("--replay needs a file");
+        return {};
+    }
+    options.linkPath = parser.value(QStringLiteral("link"));
+    options.control = parser.isSet(QStringLiteral("control"));
+    for (const char *name : kValueControls) {
+        if (parser.isSet(QLatin1String(name)))
+            options.startControls += QLatin1String(name) + u' ' + parser.value(QLatin1String(name));
+    }
+    for (const char *name : kSwitchControls) {
+        if (parser.isSet(QLatin1String(name)))
+            options.startControls += QLatin1String(name) + QLatin1String(" on");
+    }
+    if (parser.isSet(QStringLiteral("fixed")))
+        options.startControls += QStringLiteral("values fixed");
+    return options;
+}
+
+} // namespace kvsim

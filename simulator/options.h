@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+#include "simulator/device_type.h"
+#include "simulator/motion_model.h"
+
+namespace kvsim {
+
+constexpr int kMaxRateHz = 2000;
+constexpr int kMaxNodes = 16;
+
+/// What the command line asks for, checked: layout and device fit together, numbers are in range.
+struct Options
+{
+    const DeviceType *device = nullptr;
+    LayoutChoice layout = LayoutChoice::Full91;
+    int nodes = 4;
+    std::optional<int> rateHz; ///< not given: 100, or the rate of the recording
+    int baudRate = 0;          ///< 0: unlimited
+    int id = 1;
+    MotionKind motion = MotionKind::Swing;
+    QString replayPath;
+    QString linkPath;
+    quint64 seed = 1;
+    bool control = false;
+    QStringList startControls; ///< control lines that stand for the fault options, in order
+};
+
+/// Reads the command line, program name first. Prints the manual or the version and ends the program when asked to.
+/// @return nothing, with a sentence in `error`, when it does not make sense
+std::optional<Options> parseOptions(const QStringList &arguments, QString *error);
+
+} // namespace kvsim

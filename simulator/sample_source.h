@@ -1,0 +1,40 @@
+#pragma once
+
+#include <optional>
+
+#include "simulator/csv_recording.h"
+#include "simulator/motion_model.h"
+
+namespace kvsim {
+
+/// What the numbers of the stream are.
+enum class ValueKind {
+    Normal, ///< the motion model or the recording
+    Nan,    ///< the same with NaN and infinities among the values
+    Fixed,  ///< fixedSample()
+};
+
+/// The constant values of ValueKind::Fixed. Every field differs, so that swapped fields show; the quaternion has length
+/// 1 and is not that of the angles. Node k of a gateway reads 0.125 G more per k on its x axis.
+ImuSample fixedSample(int node);
+
+/// Where samples come from: the motion model, or a recording that is played round and round.
+class SampleSource
+{
+public:
+    SampleSource(MotionKind motion, AxisConvention convention, std::optional<CsvRecording> recording);
+
+    void setValues(ValueKind values) { m_values = values; }
+
+    /// The sample of one node, without id and time stamp. Nodes move differently; a recording gives each node its own
+    /// place to start from.
+    /// @param frame running number of the frame since the device started  @param seconds device time
+    ImuSample sampleAt(quint64 frame, double seconds, int node, int nodeCount) const;
+
+private:
+    MotionModel m_motion;
+    std::optional<CsvRecording> m_recording;
+    ValueKind m_values = ValueKind::Normal;
+};
+
+} // namespace kvsim

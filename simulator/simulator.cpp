@@ -1,0 +1,217 @@
+#include "simulator/simulator.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "simulator/frame_encoder.h"
+
+namespace kvsim {
+
+namespace {
+
+constexpr int kDefaultRateHz = 100;
+constexpr int kRotatingIds = 250;
+
+int startRate(const Options &options, const std::optional<CsvRecording> &recording)
+{
+    if (options.rateHz)
+        return *options.rateHz;
+    return recording ? int(std::lround(recording->rateHz())) : kDefaultRateHz;
+}
+
+} // namespace
+
+Simulator::Simulator(const Options &options, std::optional<CsvRecording> recording)
+    : m_options(options), m_source(options.motion, options.device->convention(), recording),
+      m_device(*options.device, {startRate(options, recording), options.id, 0}, options.baudRate),
+      m_faults(options.seed), m_line(options.baudRate), m_link(options.linkPath), m_nodes(options.nodes)
+{
+    m_timer.setTimerType(Qt::PreciseTimer);
+    connect(&m_timer, &QTimer::timeout, this, &Simulator::tick);
+    connect(&m_port, &PtyPort::received, this, &Simulator::receive);
+}
+
+bool Simulator::start(QString *error)
+{
+    m_elapsed.start();
+    if (!replug(error))
+        return false;
+    takeRate();
+    return true;
+}
+
+bool Simulator::replug(QString *error)
+{
+    if (!m_port.isOpen() && !m_port.open(error))
+        return false;
+    if (!m_link.pointTo(m_port.slaveName(), error))
+        return false;
+    emit portOpened(m_port.slaveName());
+    return true;
+}
+
+void Simulator::unplug()
+{
+    m_link.remove();
+    m_port.close();
+}
+
+Simulator::Statistics Simulator::statistics() const
+{
+    Statistics result = m_statistics;
+    result.sent = m_line.sentFrames();
+    result.intact = m_line.sentIntactFrames();
+    result.bytes = m_line.sentBytes();
+    return result;
+}
+
+void Simulator::silenceFor(int milliseconds)
+{
+    m_muteUntilNs = now() + qint64(milliseconds) * 1'000'000;
+}
+
+bool Simulator::setNodes(int nodes)
+{
+    if (!m_options.device->isGateway())
+        return false;
+    m_nodes = nodes;
+    return true;
+}
+
+void Simulator::setRate(int rateHz)
+{
+    m_device.setRate(rateHz);
+    takeRate();
+}
+
+// Brings the clock and the timer in line with what the device does now.
+void Simulator::takeRate()
+{
+    const int rateHz = m_device.isStreaming() ? m_device.settings().rateHz : 0;
+    if (rateHz == m_clockRateHz && m_timer.isActive())
+        return;
+    m_clockRateHz = rateHz;
+    if (rateHz > 0)
+        m_clock.restart(now(), rateHz);
+    // A paced line trickles; an unlimited one only needs to be looked at a few times per frame.
+    m_timer.start(m_options.baudRate > 0 ? 1 : std::clamp(250 / std::max(rateHz, 1), 1, 5));
+}
+
+void Simulator::tick()
+{
+    const qint64 nowNs = now();
+    if (m_device.finishRestart(nowNs)) {
+        m_bootNs = nowNs;
+        m_frame = 0;
+        takeRate();
+    }
+    const bool hasHost = m_port.checkHost();
+    if (!hasHost)
+        discardUnsent();
+    while (m_clockRateHz > 0) {
+        const std::optional<qint64> moment = m_clock.takeDue(nowNs);
+        if (!moment)
+            break;
+        if (hasHost)
+            produceFrame(*moment);
+        else
+            ++m_statistics.unheard;
+        ++m_frame;
+    }
+    m_line.advance(nowNs);
+    flush();
+}
+
+void Simulator::receive(const QByteArray &bytes)
+{
+    const qint64 nowNs = now();
+    if (m_deaf || isMute(nowNs))
+        return;
+    const QByteArray replies = m_device.receive(bytes, nowNs);
+    takeRate();
+    if (m_clockRateHz == 0)
+        releaseHeldFrames();
+    if (!replies.isEmpty())
+        m_line.pushReply(m_faults.apply(replies).bytes);
+    m_line.advance(now());
+    flush();
+}
+
+void Simulator::produceFrame(qint64 momentNs)
+{
+    ++m_statistics.frames;
+    if (isMute(momentNs)) {
+        ++m_statistics.dropped;
+        return;
+    }
+    const FaultInjector::Result result = m_faults.apply(encodeFrame(nextPayload(momentNs)));
+    m_held.bytes += result.bytes;
+    ++m_held.frames;
+    m_held.intact += result.intact ? 1 : 0;
+    if (m_held.frames < m_burst)
+        return;
+    // The line has carried bytes up to this frame's moment, even when the timer comes late.
+    m_line.advance(momentNs);
+    releaseHeldFrames();
+}
+
+void Simulator::releaseHeldFrames()
+{
+    if (m_held.frames > 0 && !m_line.pushFrames(m_held))
+        m_statistics.dropped += quint64(m_held.frames);
+    m_held = {};
+}
+
+QByteArray Simulator::nextPayload(qint64 momentNs)
+{
+    const qint64 timeNs = std::max<qint64>(0, momentNs - m_bootNs);
+    const double seconds = double(timeNs) * 1e-9;
+    const auto timeMs = quint32(timeNs / 1'000'000);
+    const int id = m_device.settings().id;
+
+    QList<ImuSample> nodes;
+    nodes.reserve(m_nodes);
+    for (int node = 0; node < m_nodes; ++node) {
+        ImuSample sample = m_source.sampleAt(m_frame, seconds, node, m_nodes);
+        sample.timeMs = timeMs;
+        sample.id = quint8(m_options.device->isGateway() ? node + 1 : id);
+        if (m_rotateIds)
+            sample.id = quint8(1 + (m_frame * quint64(m_nodes) + quint64(node)) % kRotatingIds);
+        nodes += sample;
+    }
+    const auto gatewayId = quint8(id);
+    switch (m_options.layout) {
+    case LayoutChoice::Full91:
+        return encodeSinglePayload(PayloadLayout::FullRecord91, nodes.constFirst());
+    case LayoutChoice::Compact93:
+        return encodeSinglePayload(PayloadLayout::CompactRecord93, nodes.constFirst());
+    case LayoutChoice::Items:
+        return encodeSinglePayload(PayloadLayout::Items, nodes.constFirst());
+    case LayoutChoice::Batch62:
+        return encodeBatchPayload(PayloadLayout::Batch62, gatewayId, timeMs, nodes);
+    case LayoutChoice::Batch63:
+        return encodeBatchPayload(PayloadLayout::Batch63, gatewayId, timeMs, nodes);
+    case LayoutChoice::Dynamic:
+        break;
+    }
+    return encodeBatchPayload(m_frame % 2 == 0 ? PayloadLayout::Batch62 : PayloadLayout::Batch63, gatewayId, timeMs,
+                              nodes);
+}
+
+void Simulator::discardUnsent()
+{
+    m_statistics.dropped += quint64(m_held.frames + m_line.clear());
+    m_held = {};
+}
+
+void Simulator::flush()
+{
+    while (!m_line.ready().isEmpty()) {
+        const qsizetype taken = m_port.write(m_line.ready());
+        if (taken <= 0)
+            return;
+        m_line.take(taken);
+    }
+}
+
+} // namespace kvsim

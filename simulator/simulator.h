@@ -1,0 +1,109 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QTimer>
+
+#include "simulator/device_model.h"
+#include "simulator/fault_injector.h"
+#include "simulator/frame_clock.h"
+#include "simulator/options.h"
+#include "simulator/port_link.h"
+#include "simulator/pty_port.h"
+#include "simulator/sample_source.h"
+#include "simulator/transmit_line.h"
+
+namespace kvsim {
+
+/// The whole device on its port. A timer finds the frames that are due; each is sampled, laid out, framed, damaged as
+/// asked, queued on the line and written to the pseudo-terminal. Received bytes go to the device model, its replies to
+/// the line.
+///
+/// Main thread, event loop needed. All controls act at once.
+class Simulator : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(Simulator)
+
+public:
+    /// Counts since the start. At any moment frames = sent + dropped + those still waiting.
+    struct Statistics
+    {
+        quint64 frames = 0;  ///< that were due while a host had the port open
+        quint64 sent = 0;    ///< written to the port to the last byte
+        quint64 intact = 0;  ///< of those sent, not touched by a fault
+        quint64 dropped = 0; ///< lost: line too slow, host too slow or gone, gap, silence
+        quint64 unheard = 0; ///< that were due while no host had the port open
+        quint64 bytes = 0;   ///< written to the port, replies included
+    };
+
+    /// @param recording played instead of the motion model when given
+    Simulator(const Options &options, std::optional<CsvRecording> recording);
+
+    /// Opens the port and begins. @return false with a sentence in `error`
+    bool start(QString *error);
+
+    Statistics statistics() const;
+    FaultInjector &faults() { return m_faults; }
+    DeviceModel &device() { return m_device; }
+    SampleSource &source() { return m_source; }
+
+    /// Sends nothing and hears nothing for a while, once.
+    void silenceFor(int milliseconds);
+    /// The same until further notice.
+    void setSilent(bool silent) { m_silent = silent; }
+    /// Streams on, but commands are lost.
+    void setDeaf(bool deaf) { m_deaf = deaf; }
+    /// Holds frames back and sends `frames` of them at once, over and over; 1 sends each by itself.
+    void setBurst(int frames) { m_burst = frames; }
+    /// @return false when the device is no gateway
+    bool setNodes(int nodes);
+    /// Every batch brings new node ids, running through 1..250.
+    void setRotateIds(bool rotate) { m_rotateIds = rotate; }
+    void setRate(int rateHz);
+
+    /// Closes the port as if the cable were pulled; the device itself runs on.
+    void unplug();
+    /// Opens a new port, or keeps the one that is open. @return false with a sentence in `error`
+    bool replug(QString *error);
+
+signals:
+    /// A port was opened; `path` is what a host opens.
+    void portOpened(const QString &path);
+
+private:
+    qint64 now() const { return m_elapsed.nsecsElapsed(); }
+    bool isMute(qint64 nowNs) const { return m_silent || nowNs < m_muteUntilNs; }
+    void tick();
+    void receive(const QByteArray &bytes);
+    void takeRate();
+    void produceFrame(qint64 momentNs);
+    QByteArray nextPayload(qint64 momentNs);
+    void releaseHeldFrames();
+    void discardUnsent();
+    void flush();
+
+    Options m_options;
+    SampleSource m_source;
+    DeviceModel m_device;
+    FaultInjector m_faults;
+    TransmitLine m_line;
+    FrameClock m_clock;
+    PortLink m_link;
+    PtyPort m_port;
+    QTimer m_timer;
+    QElapsedTimer m_elapsed;
+    Statistics m_statistics;
+    TransmitLine::Chunk m_held; // frames of a burst not yet complete
+    qint64 m_bootNs = 0;        // when device time was 0
+    quint64 m_frame = 0;        // frames since then
+    qint64 m_muteUntilNs = 0;
+    int m_clockRateHz = 0; // the rate that m_clock runs at; 0: it does not run
+    int m_nodes;
+    int m_burst = 1;
+    bool m_silent = false;
+    bool m_deaf = false;
+    bool m_rotateIds = false;
+};
+
+} // namespace kvsim

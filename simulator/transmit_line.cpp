@@ -1,0 +1,87 @@
+#include "simulator/transmit_line.h"
+
+#include <algorithm>
+
+namespace kvsim {
+
+namespace {
+
+constexpr qsizetype kSmallestDeviceBuffer = 512;
+
+} // namespace
+
+void TransmitLine::advance(qint64 nowNs)
+{
+    const qsizetype waiting = m_bytes.size() - m_left;
+    if (m_bytesPerSecond <= 0.0) {
+        m_left += waiting;
+    } else {
+        m_credit += double(nowNs - m_nowNs) * 1e-9 * m_bytesPerSecond;
+        const qsizetype leaving = qsizetype(std::min(m_credit, double(waiting)));
+        m_left += leaving;
+        // An idle line saves nothing up: the next byte needs its own time.
+        m_credit = leaving == waiting ? 0.0 : m_credit - double(leaving);
+    }
+    m_nowNs = nowNs;
+}
+
+bool TransmitLine::pushFrames(const Chunk &chunk)
+{
+    const qsizetype waiting = m_bytes.size() - m_left;
+    const qsizetype room = std::max(kSmallestDeviceBuffer, 2 * chunk.bytes.size());
+    if (m_bytesPerSecond > 0.0 && waiting + chunk.bytes.size() > room)
+        return false;
+    if (m_bytes.size() - m_taken + chunk.bytes.size() > std::max(kMaxBacklogBytes, room))
+        return false;
+    append(chunk);
+    return true;
+}
+
+bool TransmitLine::pushReply(const QByteArray &bytes)
+{
+    if (m_bytes.size() - m_taken + bytes.size() > kMaxReplyBacklogBytes)
+        return false;
+    append({bytes, 0, 0});
+    return true;
+}
+
+void TransmitLine::append(const Chunk &chunk)
+{
+    m_bytes += chunk.bytes;
+    m_acceptedBytes += quint64(chunk.bytes.size());
+    if (chunk.frames > 0)
+        m_marks.push_back({m_acceptedBytes, chunk.frames, chunk.intact});
+}
+
+void TransmitLine::take(qsizetype count)
+{
+    m_taken += count;
+    m_sentBytes += quint64(count);
+    while (!m_marks.empty() && m_marks.front().end <= m_sentBytes) {
+        m_sentFrames += quint64(m_marks.front().frames);
+        m_sentIntactFrames += quint64(m_marks.front().intact);
+        m_marks.pop_front();
+    }
+    // Moving the rest to the front costs as much as it is long, so do it only when it is short.
+    if (m_taken == m_bytes.size() || m_taken > m_bytes.size() / 2) {
+        m_bytes.remove(0, m_taken);
+        m_left -= m_taken;
+        m_taken = 0;
+    }
+}
+
+int TransmitLine::clear()
+{
+    int lost = 0;
+    for (const Mark &mark : m_marks)
+        lost += mark.frames;
+    m_marks.clear();
+    m_bytes.clear();
+    m_taken = 0;
+    m_left = 0;
+    m_credit = 0.0;
+    m_acceptedBytes = m_sentBytes;
+    return lost;
+}
+
+} // namespace kvsim

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <QByteArray>
+
+#include <deque>
+
+namespace kvsim {
+
+/// The device's transmit buffer and the serial line behind it. Bytes leave in order and no faster than the baud rate;
+/// when the line cannot keep up, whole frames are refused, like in a device whose buffer is full. No port and no clock:
+/// the owner advances the time, takes the bytes that have left and tells how many the port took.
+class TransmitLine
+{
+public:
+    /// Frames are refused beyond this when the baud rate is unlimited or the reader is slow, bytes.
+    static constexpr qsizetype kMaxBacklogBytes = 64 * 1024;
+    /// Replies are refused beyond this, bytes.
+    static constexpr qsizetype kMaxReplyBacklogBytes = 128 * 1024 * 1024;
+
+    /// @param baudRate bits per second, 10 per byte; 0: bytes leave at once
+    explicit TransmitLine(int baudRate) : m_bytesPerSecond(double(baudRate) / 10.0) {}
+
+    struct Chunk
+    {
+        QByteArray bytes;
+        int frames = 0; ///< frames in it; 0 for a reply
+        int intact = 0; ///< frames of them without damage
+    };
+
+    /// Lets the line run until `nowNs` (nanoseconds, never backwards).
+    void advance(qint64 nowNs);
+
+    /// Takes frames that go out together, all or none.
+    /// @return false when the buffer has no room: they are lost
+    bool pushFrames(const Chunk &chunk);
+    /// Takes a text reply; it waits behind what is in the buffer already.
+    bool pushReply(const QByteArray &bytes);
+
+    /// The bytes that have left the device and wait for the port.
+    QByteArrayView ready() const { return QByteArrayView(m_bytes).sliced(m_taken, m_left - m_taken); }
+    /// The port took the first `count` bytes of ready().
+    void take(qsizetype count);
+    /// Forgets all bytes waiting; frames among them are not counted as sent.
+    /// @return how many frames were lost
+    int clear();
+
+    quint64 sentBytes() const { return m_sentBytes; }
+    /// Frames whose last byte the port took.
+    quint64 sentFrames() const { return m_sentFrames; }
+    /// Those of them that no fault had touched.
+    quint64 sentIntactFrames() const { return m_sentIntactFrames; }
+
+private:
+    struct Mark
+    {
+        quint64 end; // position after the chunk's last byte, counted like m_sentBytes
+        int frames;
+        int intact;
+    };
+
+    void append(const Chunk &chunk);
+
+    double m_bytesPerSecond;
+    double m_credit = 0.0; // bytes that the line may still carry by m_nowNs
+    qint64 m_nowNs = 0;
+    QByteArray m_bytes;
+    qsizetype m_taken = 0; // of m_bytes: taken by the port
+    qsizetype m_left = 0;  // of m_bytes: have left the device
+    std::deque<Mark> m_marks;
+    quint64 m_acceptedBytes = 0;
+    quint64 m_sentBytes = 0;
+    quint64 m_sentFrames = 0;
+    quint64 m_sentIntactFrames = 0;
+};
+
+} // namespace kvsim
