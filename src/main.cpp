@@ -1,1 +1,67 @@
-int main() { return 0; }
+// The program's entry point: the start-up order, and nothing else.
+
+#include <QApplication>
+#include <QDebug>
+#include <QIcon>
+#include <QSerialPort>
+#include <QStyleFactory>
+#include <QSurfaceFormat>
+
+#include <memory>
+
+#include "app/application_fonts.h"
+#include "app/message_log.h"
+#include "app/theme.h"
+#include "link/node_data.h"
+#include "ui/form_base.h"
+
+namespace {
+
+constexpr int kSamplesPerPixel = 6; // for the 3D and chart views
+
+void applyLook()
+{
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(theme::palette());
+    if (const QString family = application_fonts::chooseFontFamily(application_fonts::latinFamilies());
+        !family.isEmpty()) {
+        QFont font = QApplication::font();
+        font.setFamily(family);
+        QApplication::setFont(font);
+    }
+    qobject_cast<QApplication *>(QCoreApplication::instance())->setStyleSheet(theme::styleSheet());
+}
+
+/// Runs the program; returns the event loop's exit code.
+int qMain(int argc, char **argv)
+{
+    const QApplication application(argc, argv);
+    message_log::open(QStringLiteral("qt6_debug.log"));
+    message_log::install();
+
+    qRegisterMetaType<QSerialPort::SerialPortError>("QSerialPort::SerialPortError");
+    qRegisterMetaType<node_data_t>("node_data_t");
+    qRegisterMetaType<QVector<node_data_t>>("QVector<node_data_t>");
+
+    QSurfaceFormat format = QSurfaceFormat::defaultFormat();
+    format.setSamples(kSamplesPerPixel);
+    QSurfaceFormat::setDefaultFormat(format);
+
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/mainicon.png")));
+    application_fonts::loadAll();
+    applyLook();
+
+    auto window = std::make_unique<form_base>();
+    window->show();
+    const int exitCode = QApplication::exec();
+
+    message_log::close();
+    return exitCode;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    return qMain(argc, argv);
+}

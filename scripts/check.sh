@@ -1,0 +1,15 @@
+#!/usr/bin/env bash
+# Checks of form: the folder graph, formatting, clang-tidy. Needs a configured dev build (./test makes one).
+# Prints only what is wrong, and a line when all is well.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+python3 scripts/check_folders.py
+
+mapfile -t files < <(git ls-files '*.cpp' '*.h')
+clang-format-14 --dry-run --Werror "${files[@]}"
+
+mapfile -t sources < <(git ls-files 'src/*.cpp' 'simulator/*.cpp')
+printf '%s\0' "${sources[@]}" |
+  xargs -0 -P 2 -n 4 clang-tidy-14 -p build/dev --quiet --extra-arg=-Wno-unknown-warning-option 2>/dev/null
+echo "check: folders, formatting and clang-tidy are in order"

@@ -1,0 +1,31 @@
+#!/usr/bin/env python3
+"""Checks that no folder of src/ includes one on its own floor or above, and that the simulator stands alone."""
+
+import pathlib
+import re
+import sys
+
+FLOORS = {"app": 1, "link": 2, "attitude": 3, "wave": 3, "fft": 3, "record": 3, "updater": 3, "device": 4, "ui": 5}
+# fft/ takes its ring of samples from wave/.
+ALLOWED = {("fft", "wave")}
+INCLUDE = re.compile(r'^\s*#\s*include\s+"([a-z_]+)/')
+
+root = pathlib.Path(__file__).resolve().parent.parent
+faults = []
+for path in sorted([*root.glob("src/*/**/*"), *root.glob("simulator/**/*")]):
+    if path.suffix not in {".h", ".cpp"}:
+        continue
+    parts = path.relative_to(root).parts
+    own = parts[1] if parts[0] == "src" else "simulator"
+    if own != "simulator" and own not in FLOORS:
+        faults.append(f"{path.relative_to(root)}: folder {own} has no floor")
+        continue
+    for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
+        match = INCLUDE.match(line)
+        other = match.group(1) if match else own
+        if other == own or (own, other) in ALLOWED:
+            continue
+        if own == "simulator" or other not in FLOORS or FLOORS[other] >= FLOORS[own]:
+            faults.append(f"{path.relative_to(root)}:{number}: {own} may not include {other}/")
+print("\n".join(faults), end="\n" if faults else "")
+sys.exit(1 if faults else 0)

@@ -1,0 +1,274 @@
+#include "ui/form_base.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QDir>
+#include <QLabel>
+#include <QScrollArea>
+#include <QSettings>
+#include <QThread>
+#include <QToolButton>
+
+#include "app/app_log.h"
+#include "app/application_fonts.h"
+#include "app/settings_keys.h"
+#include "app/theme.h"
+#include "attitude/tool_adi.h"
+#include "device/command_broker.h"
+#include "link/imu_parser.h"
+#include "link/kv_uart_port.h"
+#include "link/stream_dispatcher.h"
+#include "ui/app_version.h"
+#include "ui/form_about.h"
+#include "ui/form_com_select.h"
+#include "ui/form_settings.h"
+#include "ui/sensor_data_panel.h"
+#include "ui/value_strip.h"
+#include "ui_form_base.h"
+
+namespace {
+
+constexpr int kUiTickMs = 20;
+constexpr int kRetryMs = 2000;
+
+constexpr int kFontSmall = 9;
+constexpr int kFontMedium = 10;
+constexpr int kFontBig = 12;
+constexpr int kFontMin = 7;
+constexpr int kFontMax = 24;
+
+QSettings settingsFile()
+{
+    return QSettings(settings_keys::kFile, QSettings::IniFormat);
+}
+
+} // namespace
+
+form_base::form_base(QWidget *parent) : QMainWindow(parent), m_ui(std::make_unique<Ui::form_base>())
+{
+    m_ui->setupUi(this);
+    setUpPanels();
+
+    AppLog::init();
+    AppLog::logfile(QtInfoMsg, QStringLiteral("ui-thread=%1 started")
+                                   .arg(reinterpret_cast<quintptr>(QThread::currentThreadId())));
+    if (!QFileInfo(QDir::currentPath()).isWritable())
+        qWarning().noquote() << "The working folder cannot be written: no settings and logs are kept" << QDir::currentPath();
+
+    m_port = std::make_unique<KvUartPort>();
+    m_portDialog = new form_com_select(this);
+    m_aboutDialog = new form_about(this);
+    m_settingsDialog = new form_settings(this);
+    setUpActions();
+
+    m_adi = new ToolADI(this);
+    m_ui->layout_adi->addWidget(m_adi);
+    m_angles = new ValueStrip(this);
+    m_ui->layout_angles->addWidget(m_angles);
+
+    m_parser = new ImuParser(this);
+    m_dispatcher = new StreamDispatcher(this);
+    m_broker = new CommandBroker(this);
+    m_broker->attachPort(m_port.get());
+    m_settingsDialog->set_broker(m_broker);
+
+    m_uiTimer.setInterval(kUiTickMs);
+    m_retryTimer = new QTimer(this);
+    m_retryTimer->setInterval(kRetryMs);
+    m_clock.start();
+    setUpConnections();
+
+    const QSettings settings(settings_keys::kFile, QSettings::IniFormat);
+    const int points = settings.value(settings_keys::kFontSize, kFontMedium).toInt();
+    applyFontSize(points >= kFontMin && points <= kFontMax ? points : kFontMedium);
+    restoreGeometry(settings.value(settings_keys::kGeometry).toByteArray());
+    retranslate();
+    enable_all_page(false);
+}
+
+form_base::~form_base()
+{
+    closeConnection();
+}
+
+QString form_base::appWindowTitle()
+{
+    return QStringLiteral("ORVEL-IMU ") + appVersion();
+}
+
+void form_base::setUpPanels()
+{
+    m_panel = new SensorDataPanel;
+    m_scrollArea = new QScrollArea(this);
+    m_scrollArea->setObjectName(QStringLiteral("sensorDataScrollArea"));
+    m_scrollArea->setFrameShape(QFrame::NoFrame);
+    m_scrollArea->setWidgetResizable(true);
+    m_scrollArea->setWidget(m_panel);
+    m_scrollArea->viewport()->setAutoFillBackground(false);
+    m_panel->setAutoFillBackground(false);
+    m_ui->layout_panel->addWidget(m_scrollArea);
+
+    m_statusLabel = new QLabel(tr("Unconnected..."), this);
+    m_statusLabel->setObjectName(QStringLiteral("label_status"));
+    m_nodeLabel = new QLabel(this);
+    m_nodeLabel->setObjectName(QStringLiteral("label_node"));
+    m_trafficLabel = new QLabel(this);
+    m_trafficLabel->setObjectName(QStringLiteral("label_traffic"));
+    m_ui->statusbar->addWidget(m_statusLabel, 1);
+    m_ui->statusbar->addPermanentWidget(m_nodeLabel);
+    m_ui->statusbar->addPermanentWidget(m_trafficLabel);
+    m_ui->statusbar->setSizeGripEnabled(false);
+    m_ui->label_icon->setPixmap(QIcon(QStringLiteral(":/images/mainicon.png")).pixmap(64, 64));
+
+    auto *language = new QToolButton(this);
+    language->setObjectName(QStringLiteral("button_language"));
+    language->setText(QStringLiteral("English"));
+    language->setAutoRaise(true);
+    language->setEnabled(false);
+    m_ui->menubar->setCornerWidget(language);
+}
+
+void form_base::setUpActions()
+{
+    auto *dashboard = new QAction(this);
+    dashboard->setObjectName(QStringLiteral("action_sensor_dashboard"));
+    auto *gateway = new QAction(this);
+    gateway->setObjectName(QStringLiteral("action_wireless_gateway_dashboard"));
+    m_ui->menuView->insertActions(m_ui->actionFFT_Chart, {dashboard, gateway});
+    // The windows behind these come with later versions.
+    for (QAction *action : {dashboard, gateway, m_ui->action3D_view, m_ui->actionFFT_Chart, m_ui->action_export_data,
+                            m_ui->action_firmware_update})
+        action->setEnabled(false);
+
+    m_connectButton = new QToolButton(this);
+    m_connectButton->setObjectName(QStringLiteral("button_connect"));
+    m_connectButton->setProperty("primary", true);
+    m_connectButton->setFocusPolicy(Qt::StrongFocus);
+    m_ui->toolbar->addWidget(m_connectButton);
+    m_ui->toolbar->addSeparator();
+    m_ui->toolbar->addActions({m_ui->action_export_data, dashboard, m_ui->actionFFT_Chart, m_ui->action3D_view, gateway});
+    m_ui->toolbar->addSeparator();
+    m_ui->toolbar->addActions({m_ui->actionDevice_Settiing, m_ui->action_firmware_update});
+
+    connect(m_ui->action_copy_values, &QAction::triggered, this, &form_base::copyValues);
+    connect(m_ui->action_quit, &QAction::triggered, this, &form_base::close);
+    connect(m_ui->button_open, &QPushButton::clicked, m_ui->action_serial_open, &QAction::trigger);
+}
+
+void form_base::setUpConnections()
+{
+    connect(m_port.get(), &KvUartPort::kbootRecv, this, &form_base::onKbootFrameRecv);
+    connect(m_port.get(), &QSerialPort::errorOccurred, this, &form_base::onSerialError);
+    connect(m_settingsDialog, &form_settings::settingsClosed, this, &form_base::on_form_settings_closed);
+    connect(m_dispatcher, &StreamDispatcher::selectedNodeChanged, this, &form_base::onSelectedNodeChanged);
+    connect(m_dispatcher, &StreamDispatcher::streamSnapshotChanged, this, &form_base::onSnapshotChanged);
+    connect(m_retryTimer, &QTimer::timeout, this, &form_base::try_read_prod_info);
+    connect(m_ui->list_nodes, &QListWidget::currentRowChanged, this, [this](int row) {
+        if (row < 0 || row >= m_shownNodeIds.size())
+            return;
+        m_chosenNodeId = m_shownNodeIds.at(row);
+        m_dispatcher->setSelectedNodeIndex(row);
+    });
+    connect(m_ui->combo_mounting, &QComboBox::activated, this,
+            [this](int index) { on_orientation_preset_changed(OrientationPreset(index)); });
+}
+
+void form_base::applyFontSize(int points)
+{
+    QFont font = QApplication::font();
+    font.setPointSize(points);
+    QApplication::setFont(font);
+    setStyleSheet(QStringLiteral("QMenu {font: %1pt '%2';}").arg(QString::number(points), font.family()));
+    m_trafficLabel->setFont(theme::fixedPitchFont(points));
+    m_ui->actionFontSmall->setChecked(points == kFontSmall);
+    m_ui->actionFontMedium->setChecked(points == kFontMedium);
+    m_ui->actionFontBig->setChecked(points == kFontBig);
+}
+
+void form_base::storeFontSize(int points)
+{
+    settingsFile().setValue(settings_keys::kFontSize, points);
+    applyFontSize(points);
+}
+
+void form_base::on_actionFontSmall_triggered()
+{
+    storeFontSize(kFontSmall);
+}
+
+void form_base::on_actionFontMedium_triggered()
+{
+    storeFontSize(kFontMedium);
+}
+
+void form_base::on_actionFontBig_triggered()
+{
+    storeFontSize(kFontBig);
+}
+
+void form_base::on_actionDevice_Settiing_triggered()
+{
+    m_settingsDialog->show();
+    m_settingsDialog->raise();
+    m_settingsDialog->activateWindow();
+}
+
+void form_base::on_actionAbout_triggered()
+{
+    m_aboutDialog->open();
+}
+
+void form_base::copyValues()
+{
+    QGuiApplication::clipboard()->setText(m_panel->text() + u'\n' + m_angles->lines().join(u'\n'));
+}
+
+void form_base::retranslate()
+{
+    setWindowTitle(appWindowTitle());
+    m_panel->retranslate();
+    m_angles->setCells({{tr("Roll"), QStringLiteral("\u00B0"), theme::kAxisX, 7},
+                        {tr("Pitch"), QStringLiteral("\u00B0"), theme::kAxisY, 7},
+                        {tr("Yaw"), QStringLiteral("\u00B0"), theme::kAxisZ, 7}});
+    const auto findAction = [this](const char *name) { return findChild<QAction *>(QLatin1String(name)); };
+    const auto text = [](QAction *action, const QString &title, const QString &toolTip) {
+        action->setText(title);
+        action->setToolTip(toolTip);
+    };
+    text(findAction("action_sensor_dashboard"), tr("Sensor Dashboard"), tr("Waveforms come with a later version."));
+    text(findAction("action_wireless_gateway_dashboard"), tr("Wireless Gateway Dashboard"),
+         tr("The dashboard of radio nodes comes with a later version."));
+    m_ui->actionFFT_Chart->setToolTip(tr("The spectrum comes with a later version."));
+    m_ui->action3D_view->setToolTip(tr("The 3D view comes with a later version."));
+    m_ui->action_export_data->setToolTip(tr("Recording comes with a later version."));
+    m_ui->action_firmware_update->setToolTip(tr("The firmware update comes with a later version."));
+    findChild<QToolButton *>(QStringLiteral("button_language"))
+        ->setToolTip(tr("Other languages come with a later version."));
+    const QString shortcut = m_ui->action_serial_open->shortcut().toString(QKeySequence::NativeText);
+    m_ui->action_serial_open->setToolTip(tr("Choose a serial port and connect (%1)").arg(shortcut));
+    m_ui->action_serial_stop->setToolTip(
+        tr("Close the serial port (%1)").arg(m_ui->action_serial_stop->shortcut().toString(QKeySequence::NativeText)));
+    m_ui->label_welcome->setText(
+        tr("Plug in a module or a gateway, press <b>Open port</b> (%1) and choose its serial port.").arg(shortcut));
+    showDevice();
+}
+
+void form_base::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange && m_angles != nullptr) {
+        m_ui->retranslateUi(this);
+        retranslate();
+    }
+    QMainWindow::changeEvent(event);
+}
+
+void form_base::closeEvent(QCloseEvent *event)
+{
+    on_action_serial_stop_triggered();
+    settingsFile().setValue(settings_keys::kGeometry, saveGeometry());
+    for (QDialog *dialog : {static_cast<QDialog *>(m_portDialog), static_cast<QDialog *>(m_settingsDialog),
+                            static_cast<QDialog *>(m_aboutDialog)})
+        dialog->close();
+    QMainWindow::closeEvent(event);
+}

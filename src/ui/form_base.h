@@ -1,0 +1,148 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QMainWindow>
+#include <QPointer>
+#include <QSerialPort>
+#include <QTimer>
+
+#include <array>
+#include <memory>
+#include <optional>
+
+#include "attitude/attitude_convention.h"
+#include "device/product_resolver.h"
+#include "link/stream_state.h"
+
+class CommandBroker;
+class ImuParser;
+class KvUartPort;
+class QLabel;
+class QMessageBox;
+class QScrollArea;
+class QToolButton;
+class SensorDataPanel;
+class StreamDispatcher;
+class ToolADI;
+class ValueStrip;
+class form_about;
+class form_com_select;
+class form_settings;
+
+namespace Ui {
+class form_base;
+}
+
+/// The main window: owner of every long-lived object and of one serial connection at a time. It opens and closes the
+/// port, has the product identified, runs the 20 ms tick and routes decoded data to the views; it decodes, formats and
+/// draws nothing itself.
+///
+/// Identification waits in nested event loops, so every handler may run inside a wait of another: a session number tells
+/// a continued handler whether the connection it belongs to is still the one that is open.
+class form_base : public QMainWindow
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(form_base)
+
+public:
+    explicit form_base(QWidget *parent = nullptr);
+    ~form_base() override;
+
+    /// "ORVEL-IMU V1.2.3"
+    static QString appWindowTitle();
+
+    /// The user's preset for the product where one is stored in the settings file, else the product's own.
+    static OrientationPreset resolveOrientationPreset(const DetectedDevice &device);
+
+public slots:
+    /// Lets the user choose a port, opens it and has the device identified.
+    void on_action_serial_open_triggered();
+    /// Ends the connection. Safe in every state.
+    void on_action_serial_stop_triggered();
+    void on_actionDevice_Settiing_triggered();
+    void on_actionAbout_triggered();
+    void on_actionFontSmall_triggered();
+    void on_actionFontMedium_triggered();
+    void on_actionFontBig_triggered();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    // construction
+    void setUpPanels();
+    void setUpActions();
+    void setUpConnections();
+    void applyFontSize(int points);
+    void storeFontSize(int points);
+    void retranslate();
+
+    // connection
+    void open_port();
+    void closeConnection();
+    void enable_all_page(bool enabled);
+    void onSerialError(QSerialPort::SerialPortError error);
+    void showPortError(const QString &portName, const QString &reason);
+    void try_read_prod_info();
+    void on_form_settings_closed();
+    void takeDetectedDevice(const DetectedDevice &device);
+    void clearDetectedDevice();
+    void on_orientation_preset_changed(OrientationPreset preset);
+    const ProductProfile &currentProfile() const;
+
+    // stream and views
+    void onKbootFrameRecv(const QByteArray &payload);
+    void onSelectedNodeChanged(const node_data_t &node);
+    void onSnapshotChanged(const StreamSnapshot &snapshot);
+    /// A node that joins or leaves shifts the places of the others: stays with the node that the user picked.
+    void followChosenNode(const QList<node_data_t> &nodes);
+    void run_uart_UItmr();
+    void update_status_bar_text(const StreamSnapshot &snapshot);
+    void updateConnectionPanel(const StreamSnapshot &snapshot);
+    void update_wireless_node_list(const QList<node_data_t> &nodes);
+    void refresh_selected_node_views();
+    void show_text(const node_data_t &node, const std::array<float, 3> &euler);
+    void showDevice();
+    void copyValues();
+    bool isStreaming() const;
+
+    std::unique_ptr<Ui::form_base> m_ui;
+    SensorDataPanel *m_panel = nullptr;
+    QScrollArea *m_scrollArea = nullptr;
+    QLabel *m_statusLabel = nullptr;
+    QLabel *m_nodeLabel = nullptr;
+    QLabel *m_trafficLabel = nullptr;
+    QToolButton *m_connectButton = nullptr;
+    ToolADI *m_adi = nullptr;
+    ValueStrip *m_angles = nullptr;
+
+    std::unique_ptr<KvUartPort> m_port;
+    form_com_select *m_portDialog = nullptr;
+    form_settings *m_settingsDialog = nullptr;
+    form_about *m_aboutDialog = nullptr;
+    QPointer<QMessageBox> m_errorBox;
+
+    ImuParser *m_parser = nullptr;
+    StreamDispatcher *m_dispatcher = nullptr;
+    CommandBroker *m_broker = nullptr;
+    QTimer m_uiTimer;
+    QTimer *m_retryTimer = nullptr;
+
+    // the connection
+    unsigned int m_session = 0; ///< counts openings and closings
+    QElapsedTimer m_openedAt;
+    DetectedDevice m_device;
+    OrientationPreset m_preset = OrientationPreset::RfuEnu312;
+    bool m_productInfoRequested = false;
+    bool m_liveStreamSkipLogged = false;
+
+    // what the views show
+    NormalizedAttitude m_attitude; ///< of the newest sample of the selected node
+    QElapsedTimer m_clock;         ///< steady time of the traces
+    qint64 m_lastFrameMs = -1;     ///< on m_clock, -1: none in this connection
+    qint64 m_lastFollowMs = 0;     ///< on m_clock
+    QString m_shownStatus;
+    QList<quint8> m_shownNodeIds;
+    std::optional<quint8> m_chosenNodeId; ///< the node that the user picked, followed when its place changes
+};

@@ -1,0 +1,229 @@
+// The connection of the main window: opening, closing, errors, identification.
+
+#include "ui/form_base.h"
+
+#include <QCoreApplication>
+#include <QMessageBox>
+#include <QSettings>
+#include <QToolButton>
+
+#include "app/app_log.h"
+#include "app/settings_keys.h"
+#include "attitude/tool_adi.h"
+#include "device/command_broker.h"
+#include "device/orientation_override.h"
+#include "device/product_profile.h"
+#include "link/kv_uart_port.h"
+#include "link/stream_dispatcher.h"
+#include "ui/form_com_select.h"
+#include "ui/form_settings.h"
+#include "ui/sensor_data_panel.h"
+#include "ui/serial_error_text.h"
+#include "ui/status_text.h"
+#include "ui/value_strip.h"
+#include "ui_form_base.h"
+
+namespace {
+
+constexpr int kConnectedTextDelayMs = 200;
+
+} // namespace
+
+void form_base::on_action_serial_open_triggered()
+{
+    if (m_portDialog->isVisible()) {
+        m_portDialog->raise();
+        return;
+    }
+    if (m_portDialog->exec() != QDialog::Accepted)
+        return;
+    open_port();
+    const unsigned int session = m_session;
+    clearDetectedDevice();
+    m_productInfoRequested = false;
+    m_liveStreamSkipLogged = false;
+    try_read_prod_info();
+    if (session == m_session && !m_device.valid && !m_liveStreamSkipLogged)
+        m_retryTimer->start();
+}
+
+void form_base::open_port()
+{
+    closeConnection();
+    delete m_errorBox;
+    ++m_session;
+    const QString portName = m_portDialog->portName();
+    const int baudRate = m_portDialog->baudRate();
+
+    m_statusLabel->setText(tr("Connecting..."));
+    m_shownStatus.clear();
+    m_port->openUART(portName, baudRate);
+    m_openedAt.start();
+    m_settingsDialog->set_baud(baudRate);
+    m_dispatcher->clear();
+    m_dispatcher->setLinkConnected(true);
+    m_settingsDialog->set_connected(true);
+    m_panel->clear();
+
+    disconnect(&m_uiTimer, &QTimer::timeout, this, &form_base::run_uart_UItmr);
+    connect(&m_uiTimer, &QTimer::timeout, this, &form_base::run_uart_UItmr);
+    m_uiTimer.start();
+    enable_all_page(true);
+
+    QTimer::singleShot(kConnectedTextDelayMs, this, [this, session = m_session, portName, baudRate] {
+        if (session == m_session && m_dispatcher->snapshot().link_connected)
+            m_statusLabel->setText(tr("Connected... %1, %2 baud").arg(portName).arg(baudRate));
+    });
+}
+
+void form_base::on_action_serial_stop_triggered()
+{
+    closeConnection();
+    enable_all_page(false);
+    m_statusLabel->setText(tr("Unconnected..."));
+}
+
+void form_base::closeConnection()
+{
+    if (!m_dispatcher->snapshot().link_connected)
+        return;
+    ++m_session;
+    m_uiTimer.stop();
+    disconnect(&m_uiTimer, &QTimer::timeout, this, &form_base::run_uart_UItmr);
+    m_retryTimer->stop();
+    m_port->closeUART();
+    m_dispatcher->setLinkConnected(false);
+    // What the worker had posted before it ended belongs to this connection: taken now, while the link counts as
+    // closed, it is ignored instead of turning up in the next connection.
+    QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
+    m_dispatcher->clear();
+    m_settingsDialog->set_connected(false);
+    clearDetectedDevice();
+    m_chosenNodeId.reset();
+    m_lastFrameMs = -1;
+    m_attitude = {};
+    m_panel->clear();
+    m_adi->setAttitude(m_attitude);
+    m_angles->setTexts({});
+    update_wireless_node_list({});
+    m_nodeLabel->clear();
+    m_ui->label_connection->clear();
+    m_trafficLabel->clear();
+}
+
+void form_base::enable_all_page(bool enabled)
+{
+    QAction *now = enabled ? m_ui->action_serial_stop : m_ui->action_serial_open;
+    QAction *then = enabled ? m_ui->action_serial_open : m_ui->action_serial_stop;
+    m_connectButton->removeAction(then);
+    m_connectButton->setDefaultAction(now);
+    m_ui->action_serial_stop->setEnabled(enabled);
+    m_ui->action_copy_values->setEnabled(enabled);
+    m_ui->stack_pages->setCurrentWidget(enabled ? m_ui->page_live : m_ui->page_welcome);
+}
+
+void form_base::onSerialError(QSerialPort::SerialPortError error)
+{
+    if (error == QSerialPort::NoError || error == QSerialPort::NotOpenError)
+        return;
+    if (!m_dispatcher->snapshot().link_connected) // an echo of a failure that has been told
+        return;
+    const QString portName = m_portDialog->portName();
+    const QString reason = serial_error_text::describe(error, serial_error_text::facts(portName, m_portDialog->baudRate()));
+    on_action_serial_stop_triggered();
+    AppLog::logfile(QtWarningMsg, QStringLiteral("failed to open serial port."));
+    showPortError(portName, reason);
+}
+
+void form_base::showPortError(const QString &portName, const QString &reason)
+{
+    delete m_errorBox;
+    m_errorBox = new QMessageBox(QMessageBox::Information, appWindowTitle(), tr("Open Serial Port Error."),
+                                 QMessageBox::Ok, this);
+    m_errorBox->setAttribute(Qt::WA_DeleteOnClose);
+    m_errorBox->setInformativeText(portName + QLatin1String("\n") + reason);
+    m_errorBox->setTextInteractionFlags(Qt::TextSelectableByMouse); // so that a command in it can be copied
+    m_errorBox->open();
+}
+
+void form_base::try_read_prod_info()
+{
+    if (!m_dispatcher->snapshot().link_connected || m_broker->isCollecting())
+        return;
+    if (m_productInfoRequested && !m_device.valid && m_dispatcher->snapshot().has_frame_items) {
+        m_retryTimer->stop();
+        if (!m_liveStreamSkipLogged) {
+            AppLog::logfile(QtInfoMsg, QStringLiteral("product-info read skipped because live frame stream is active"));
+            m_liveStreamSkipLogged = true;
+        }
+        return;
+    }
+    m_productInfoRequested = true;
+    const unsigned int session = m_session;
+    const QStringList lines = m_settingsDialog->get_prod_info();
+    if (session != m_session) // closed, or another port opened, while waiting for the reply
+        return;
+    if (lines.isEmpty()) {
+        clearDetectedDevice();
+        m_dispatcher->setProductInfoReady(false);
+        m_dispatcher->setProductProfileResolved(false);
+        m_dispatcher->setTransportRole(TransportRole::Unknown);
+        return;
+    }
+    takeDetectedDevice(m_settingsDialog->detectedDevice());
+}
+
+void form_base::takeDetectedDevice(const DetectedDevice &device)
+{
+    m_device = device;
+    const ProductProfile &profile = currentProfile();
+    const TransportRole role = product_profile::transportRole(profile);
+    const bool known = product_profile::isKnownProduct(profile.key);
+    m_retryTimer->stop();
+    m_liveStreamSkipLogged = false;
+    m_dispatcher->setProductInfoReady(true);
+    m_dispatcher->setProductProfileResolved(known);
+    m_dispatcher->setTransportRole(role);
+    m_preset = resolveOrientationPreset(m_device);
+    AppLog::logfile(QtInfoMsg, QStringLiteral("product-info resolved model=\"%1\" profile=%2 known=%3 transport=%4")
+                                   .arg(m_device.modelLine, product_profile::toString(profile.key),
+                                        known ? QStringLiteral("true") : QStringLiteral("false"),
+                                        product_profile::toString(role)));
+    showDevice();
+}
+
+void form_base::clearDetectedDevice()
+{
+    m_device = {};
+    m_settingsDialog->clear_device();
+    m_preset = resolveOrientationPreset(m_device);
+    showDevice();
+}
+
+const ProductProfile &form_base::currentProfile() const
+{
+    return m_device.profile != nullptr ? *m_device.profile : product_profile::profile(ProductKey::None);
+}
+
+void form_base::on_form_settings_closed()
+{
+    const DetectedDevice &device = m_settingsDialog->detectedDevice();
+    if (m_dispatcher->snapshot().link_connected && device.valid)
+        takeDetectedDevice(device);
+}
+
+OrientationPreset form_base::resolveOrientationPreset(const DetectedDevice &device)
+{
+    QSettings settings(settings_keys::kFile, QSettings::IniFormat);
+    return orientation_override::resolve(device, settings);
+}
+
+void form_base::on_orientation_preset_changed(OrientationPreset preset)
+{
+    QSettings settings(settings_keys::kFile, QSettings::IniFormat);
+    orientation_override::store(m_device.key, preset, settings);
+    m_preset = preset;
+    showDevice();
+    if (m_dispatcher->hasCurrentSelectedNode())
+        m_attitude = attitude_convention::normalizeAttitude(m_dispatcher->currentSelectedSnapshot(), m_preset);
+}

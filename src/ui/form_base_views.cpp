@@ -1,0 +1,173 @@
+// What the main window does with decoded data: routing per frame, showing per tick.
+
+#include "ui/form_base.h"
+
+#include <QToolButton>
+
+#include <algorithm>
+
+#include "attitude/tool_adi.h"
+#include "device/product_profile.h"
+#include "link/imu_parser.h"
+#include "link/kv_uart_port.h"
+#include "link/stream_dispatcher.h"
+#include "ui/form_com_select.h"
+#include "ui/sensor_data_panel.h"
+#include "ui/status_text.h"
+#include "ui/value_format.h"
+#include "ui/value_strip.h"
+#include "ui_form_base.h"
+
+namespace {
+
+constexpr qint64 kStreamTimeoutMs = 2500; // longer than the pause between samples at the lowest output rate, 1 Hz
+constexpr qint64 kSettledMs = 2500;
+// A gateway whose nodes change places with every batch must not make the selection, and its log line, follow each time.
+constexpr qint64 kFollowMs = 500;
+
+void setTextIfChanged(QLabel *label, const QString &text)
+{
+    if (label->text() != text)
+        label->setText(text);
+}
+
+} // namespace
+
+void form_base::onKbootFrameRecv(const QByteArray &payload)
+{
+    if (!m_dispatcher->snapshot().link_connected)
+        return;
+    m_lastFrameMs = m_clock.elapsed();
+    m_dispatcher->setMeasuredFrameRate(m_port->statistics().framesLastSecond);
+    m_dispatcher->publishFrame(m_parser->parseFrame(payload));
+}
+
+void form_base::onSelectedNodeChanged(const node_data_t &node)
+{
+    m_attitude = attitude_convention::normalizeAttitude(m_dispatcher->currentSelectedSnapshot(), m_preset);
+    m_panel->appendSample(m_clock.elapsed(), node, sampleFields(m_dispatcher->currentFrame()));
+}
+
+void form_base::onSnapshotChanged(const StreamSnapshot &snapshot)
+{
+    if (!snapshot.link_connected || snapshot.product_info_ready)
+        m_retryTimer->stop();
+}
+
+void form_base::followChosenNode(const QList<node_data_t> &nodes)
+{
+    if (!m_chosenNodeId || m_clock.elapsed() - m_lastFollowMs < kFollowMs)
+        return;
+    m_lastFollowMs = m_clock.elapsed();
+    const auto chosen = [this](const node_data_t &node) { return node.id == *m_chosenNodeId; };
+    const auto at = std::find_if(nodes.begin(), nodes.end(), chosen);
+    if (at != nodes.end())
+        m_dispatcher->setSelectedNodeIndex(int(at - nodes.begin()));
+}
+
+bool form_base::isStreaming() const
+{
+    return m_lastFrameMs >= 0 && m_clock.elapsed() - m_lastFrameMs < kStreamTimeoutMs;
+}
+
+void form_base::run_uart_UItmr()
+{
+    const LinkStatistics statistics = m_port->statistics();
+    m_dispatcher->setMeasuredFrameRate(statistics.framesLastSecond);
+    const StreamSnapshot &snapshot = m_dispatcher->snapshot();
+    update_status_bar_text(snapshot);
+    setTextIfChanged(m_trafficLabel, status_text::traffic(statistics));
+    updateConnectionPanel(snapshot);
+    followChosenNode(m_dispatcher->currentNodes());
+    update_wireless_node_list(m_dispatcher->currentNodes());
+    refresh_selected_node_views();
+}
+
+void form_base::update_status_bar_text(const StreamSnapshot &snapshot)
+{
+    const QString text = status_text::statusBar(snapshot, m_liveStreamSkipLogged);
+    if (text == m_shownStatus) // leaves the text that names the port until the state changes
+        return;
+    m_shownStatus = text;
+    m_statusLabel->setText(text);
+}
+
+void form_base::updateConnectionPanel(const StreamSnapshot &snapshot)
+{
+    setTextIfChanged(m_ui->label_connection,
+                     status_text::connectionPanel(m_portDialog->portName(), m_portDialog->baudRate(),
+                                                  m_dispatcher->currentFrame(), snapshot.measured_frame_rate,
+                                                  isStreaming(), m_openedAt.elapsed() > kSettledMs));
+    const bool isGateway = snapshot.transport_role == TransportRole::WirelessGateway;
+    m_ui->label_gateway->setVisible(isGateway);
+    if (isGateway)
+        setTextIfChanged(m_ui->label_gateway, status_text::gatewaySummary(snapshot.gwid, snapshot.node_ids.size()));
+}
+
+void form_base::update_wireless_node_list(const QList<node_data_t> &nodes)
+{
+    QList<quint8> ids;
+    ids.reserve(nodes.size());
+    for (const node_data_t &node : nodes)
+        ids.append(node.id);
+    QListWidget *list = m_ui->list_nodes;
+    const QSignalBlocker blocker(list);
+    if (ids != m_shownNodeIds) {
+        m_shownNodeIds = ids;
+        while (list->count() > ids.size())
+            delete list->takeItem(list->count() - 1);
+        for (int row = 0; row < int(ids.size()); ++row) {
+            const QString text = tr("Node ID:%1").arg(ids.at(row));
+            if (row < list->count())
+                list->item(row)->setText(text);
+            else
+                list->addItem(text);
+        }
+    }
+    list->setCurrentRow(ids.isEmpty() ? -1 : m_dispatcher->snapshot().selected_node_index);
+}
+
+void form_base::refresh_selected_node_views()
+{
+    const bool streaming = isStreaming();
+    m_panel->setEnabled(streaming);
+    m_angles->setEnabled(streaming);
+    m_panel->advance(m_clock.elapsed());
+    const StreamSnapshot &snapshot = m_dispatcher->snapshot();
+    if (!snapshot.has_selected_node) {
+        m_adi->setAttitude({});
+        return;
+    }
+    m_adi->setAttitude(m_attitude);
+    show_text(m_dispatcher->currentSelectedNode(),
+              {m_attitude.euler.x(), m_attitude.euler.y(), m_attitude.euler.z()});
+}
+
+void form_base::show_text(const node_data_t &node, const std::array<float, 3> &euler)
+{
+    SensorDataModel model;
+    model.node = node;
+    model.fields = sampleFields(m_dispatcher->currentFrame());
+    model.showSummary = m_dispatcher->snapshot().transport_role == TransportRole::WirelessGateway
+                        || currentProfile().showSensorSummary;
+    m_panel->show(model);
+    setTextIfChanged(m_nodeLabel, tr("Node ID:%1").arg(node.id));
+    QStringList angles;
+    if (m_attitude.valid) {
+        for (const float angle : euler)
+            angles.append(value_format::signedNumber(double(angle), 2));
+    }
+    m_angles->setTexts(angles);
+}
+
+void form_base::showDevice()
+{
+    const auto orDash = [](const QString &text) { return text.isEmpty() ? value_format::absent() : text; };
+    m_ui->label_product->setText(m_device.valid ? currentProfile().displayName : value_format::absent());
+    m_ui->label_model->setText(orDash(m_device.modelLine));
+    m_ui->label_build->setText(orDash(m_device.buildLine));
+    m_ui->label_uuid->setText(orDash(m_device.uuidLine));
+    for (QLabel *label : {m_ui->label_product, m_ui->label_model, m_ui->label_build, m_ui->label_uuid})
+        label->setToolTip(label->text());
+    m_ui->combo_mounting->setCurrentIndex(m_preset == OrientationPreset::FluNwuZyx ? 1 : 0);
+}

@@ -1,0 +1,145 @@
+#include "ui/sensor_data_panel.h"
+
+#include <QFrame>
+#include <QGridLayout>
+#include <QHBoxLayout>
+
+#include <cmath>
+
+#include "app/theme.h"
+#include "ui/value_card.h"
+#include "ui/value_format.h"
+#include "ui/value_strip.h"
+
+namespace {
+
+QList<ValueCard::Channel> vectorChannels(const QString &norm)
+{
+    return {{QStringLiteral("X"), theme::kAxisX},
+            {QStringLiteral("Y"), theme::kAxisY},
+            {QStringLiteral("Z"), theme::kAxisZ},
+            {norm, theme::kNorm, true}};
+}
+
+QList<ValueCard::Channel> quaternionChannels()
+{
+    return {{QStringLiteral("W"), theme::kAxisW},
+            {QStringLiteral("X"), theme::kAxisX},
+            {QStringLiteral("Y"), theme::kAxisY},
+            {QStringLiteral("Z"), theme::kAxisZ}};
+}
+
+std::array<float, 4> withNorm(const float (&v)[3])
+{
+    return {v[0], v[1], v[2], std::hypot(v[0], v[1], v[2])};
+}
+
+void showOn(ValueCard *card, bool present, std::span<const float> values)
+{
+    if (present)
+        card->setValues(values);
+    else
+        card->setAbsent();
+}
+
+} // namespace
+
+SensorDataPanel::SensorDataPanel(QWidget *parent)
+    : QWidget(parent),
+      m_acceleration(new ValueCard(vectorChannels(QStringLiteral("|a|")), {3, 2, 1.0}, this)),
+      m_angularRate(new ValueCard(vectorChannels(QStringLiteral("|\u03C9|")), {2, 4, 10.0}, this)),
+      m_magneticField(new ValueCard(vectorChannels(QStringLiteral("|m|")), {1, 4, 50.0}, this)),
+      m_quaternion(new ValueCard(quaternionChannels(), {4, 1, 1.0}, this)), m_summaryCard(new QFrame(this)),
+      m_summary(new ValueStrip(m_summaryCard))
+{
+    m_summaryCard->setProperty("card", true);
+    auto *summaryLayout = new QHBoxLayout(m_summaryCard);
+    summaryLayout->setContentsMargins(theme::kGrid, theme::kGrid, theme::kGrid, theme::kGrid);
+    summaryLayout->addWidget(m_summary);
+
+    auto *layout = new QGridLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(theme::kGrid);
+    layout->addWidget(m_acceleration, 0, 0);
+    layout->addWidget(m_angularRate, 0, 1);
+    layout->addWidget(m_magneticField, 1, 0);
+    layout->addWidget(m_quaternion, 1, 1);
+    layout->addWidget(m_summaryCard, 2, 0, 1, 2);
+    layout->setRowStretch(0, 1);
+    layout->setRowStretch(1, 1);
+    layout->setColumnStretch(0, 1);
+    layout->setColumnStretch(1, 1);
+    retranslate();
+    clear();
+}
+
+QList<ValueCard *> SensorDataPanel::cards() const
+{
+    return {m_acceleration, m_angularRate, m_magneticField, m_quaternion};
+}
+
+void SensorDataPanel::retranslate()
+{
+    m_acceleration->setTitle(tr("Acceleration"), QStringLiteral("G"));
+    m_angularRate->setTitle(tr("Angular rate"), QStringLiteral("deg/s"));
+    m_magneticField->setTitle(tr("Magnetic field"), QStringLiteral("\u00B5T"));
+    m_quaternion->setTitle(tr("Quaternion"), QString());
+    m_summary->setCells({{tr("Node"), QString(), theme::kText, 3},
+                         {tr("Device time"), QString(), theme::kText, 12},
+                         {tr("Temperature"), QStringLiteral("\u00B0C"), theme::kText, 6},
+                         {tr("Pressure"), QStringLiteral("Pa"), theme::kText, 8}});
+}
+
+void SensorDataPanel::appendSample(qint64 nowMs, const node_data_t &node, SampleFields fields)
+{
+    if (fields.testFlag(SampleField::Acceleration))
+        m_acceleration->appendTrace(nowMs, node.acc);
+    if (fields.testFlag(SampleField::AngularRate))
+        m_angularRate->appendTrace(nowMs, node.gyr);
+    if (fields.testFlag(SampleField::MagneticField))
+        m_magneticField->appendTrace(nowMs, node.mag);
+    if (fields.testFlag(SampleField::Quaternion))
+        m_quaternion->appendTrace(nowMs, node.quat);
+}
+
+void SensorDataPanel::show(const SensorDataModel &model)
+{
+    const node_data_t &node = model.node;
+    showOn(m_acceleration, model.fields.testFlag(SampleField::Acceleration), withNorm(node.acc));
+    showOn(m_angularRate, model.fields.testFlag(SampleField::AngularRate), withNorm(node.gyr));
+    showOn(m_magneticField, model.fields.testFlag(SampleField::MagneticField), withNorm(node.mag));
+    showOn(m_quaternion, model.fields.testFlag(SampleField::Quaternion), node.quat);
+
+    const auto orDash = [&model](SampleField field, const QString &text) {
+        return model.fields.testFlag(field) ? text : value_format::absent();
+    };
+    m_summary->setTexts({QString::number(node.id),
+                         orDash(SampleField::Time, value_format::deviceTime(node.time_ms)),
+                         orDash(SampleField::Temperature, value_format::number(double(node.temperature), 1)),
+                         orDash(SampleField::Pressure, value_format::number(double(node.pressure), 1))});
+    m_summaryCard->setVisible(model.showSummary);
+}
+
+void SensorDataPanel::advance(qint64 nowMs)
+{
+    for (ValueCard *card : cards())
+        card->advance(nowMs);
+}
+
+void SensorDataPanel::clear()
+{
+    for (ValueCard *card : cards())
+        card->clear();
+    m_summary->setTexts({});
+    m_summaryCard->setVisible(true);
+}
+
+QString SensorDataPanel::text() const
+{
+    QStringList all;
+    for (const ValueCard *card : cards())
+        all += card->lines();
+    if (m_summaryCard->isVisibleTo(this))
+        all += m_summary->lines();
+    return all.join(u'\n');
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QWidget>
+
+#include <array>
+
+#include "link/node_data.h"
+#include "link/sample_fields.h"
+
+class QLabel;
+class ValueCard;
+class ValueStrip;
+
+/// What the numeric panel shows: one sample of the selected node.
+struct SensorDataModel
+{
+    node_data_t node;
+    SampleFields fields;          ///< what the stream carries; all else is a dash
+    bool showSummary = false;     ///< the row with node, time, temperature and pressure
+};
+
+/// The numeric panel: all values of the selected node with units, in cards with bars and a trace of the last seconds,
+/// and the summary row. Shows dashes for what the stream does not carry. Repaints only what changed.
+class SensorDataPanel : public QWidget
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(SensorDataPanel)
+
+public:
+    explicit SensorDataPanel(QWidget *parent = nullptr);
+
+    /// Adds a sample to the traces without repainting. `nowMs` is arrival time on a steady clock.
+    void appendSample(qint64 nowMs, const node_data_t &node, SampleFields fields);
+    /// Shows the values. Call at the pace of the display, not of the stream.
+    void show(const SensorDataModel &model);
+    /// Lets the traces move on when no sample arrives.
+    void advance(qint64 nowMs);
+    /// Dashes everywhere.
+    void clear();
+    void retranslate();
+
+    /// All values as lines "name<TAB>value unit", for the clipboard.
+    QString text() const;
+
+private:
+    QList<ValueCard *> cards() const;
+
+    ValueCard *m_acceleration;
+    ValueCard *m_angularRate;
+    ValueCard *m_magneticField;
+    ValueCard *m_quaternion;
+    QWidget *m_summaryCard;
+    ValueStrip *m_summary;
+};

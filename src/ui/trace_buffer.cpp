@@ -1,0 +1,53 @@
+#include "ui/trace_buffer.h"
+
+#include <algorithm>
+#include <cmath>
+
+void TraceBuffer::append(qint64 nowMs, std::span<const float> values)
+{
+    advance(nowMs);
+    Bucket &bucket = m_buckets[size_t(m_newest % kBuckets)];
+    const size_t count = std::min(values.size(), bucket.size());
+    for (size_t channel = 0; channel < count; ++channel) {
+        if (!std::isfinite(values[channel]))
+            continue;
+        bucket[channel].low = std::min(bucket[channel].low, values[channel]);
+        bucket[channel].high = std::max(bucket[channel].high, values[channel]);
+    }
+}
+
+bool TraceBuffer::advance(qint64 nowMs)
+{
+    const qint64 target = nowMs / kBucketMs;
+    if (target <= m_newest)
+        return false;
+    for (qint64 passed = std::max(m_newest + 1, target - kBuckets + 1); passed <= target; ++passed)
+        m_buckets[size_t(passed % kBuckets)] = {};
+    m_newest = target;
+    return true;
+}
+
+void TraceBuffer::clear()
+{
+    m_buckets = {};
+}
+
+const TraceBuffer::Extent &TraceBuffer::at(int channel, int age) const
+{
+    static const Extent empty;
+    if (age < 0 || age >= kBuckets || age > m_newest)
+        return empty;
+    return m_buckets[size_t((m_newest - age) % kBuckets)][size_t(channel)];
+}
+
+TraceBuffer::Extent TraceBuffer::total() const
+{
+    Extent all;
+    for (const Bucket &bucket : m_buckets) {
+        for (const Extent &extent : bucket) {
+            all.low = std::min(all.low, extent.low);
+            all.high = std::max(all.high, extent.high);
+        }
+    }
+    return all;
+}

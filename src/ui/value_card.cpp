@@ -1,0 +1,240 @@
+#include "ui/value_card.h"
+
+#include <QEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+#include "app/theme.h"
+#include "ui/value_format.h"
+
+namespace {
+
+constexpr int kPadding = 2 * theme::kGrid;
+constexpr int kBarHeight = 5;
+constexpr int kMinTraceHeight = 36;
+constexpr int kMaxTraceHeight = 160;
+constexpr QColor kBarGround{0xF3, 0xF4, 0xF6};
+
+} // namespace
+
+ValueCard::ValueCard(QList<Channel> channels, Format format, QWidget *parent)
+    : QWidget(parent), m_channels(std::move(channels)), m_format(format)
+{
+    Q_ASSERT(m_channels.size() <= TraceBuffer::kChannels);
+    updateMetrics();
+    setAbsent();
+}
+
+void ValueCard::setTitle(const QString &title, const QString &unit)
+{
+    m_title = title;
+    m_unit = unit;
+    setAccessibleName(title);
+    update();
+}
+
+void ValueCard::setValues(std::span<const float> values)
+{
+    QStringList texts;
+    texts.reserve(m_channels.size());
+    for (qsizetype i = 0; i < m_channels.size(); ++i) {
+        const float value = size_t(i) < values.size() ? values[size_t(i)] : 0.0F;
+        m_values[size_t(i)] = value;
+        texts.append(m_channels.at(i).isNorm ? value_format::number(value, m_format.decimals)
+                                             : value_format::signedNumber(value, m_format.decimals));
+    }
+    m_isAbsent = false;
+    showTexts(texts);
+}
+
+void ValueCard::setAbsent()
+{
+    m_isAbsent = true;
+    m_values = {};
+    showTexts(QStringList(m_channels.size(), value_format::absent()));
+}
+
+void ValueCard::appendTrace(qint64 nowMs, std::span<const float> values)
+{
+    m_trace.append(nowMs, values);
+}
+
+void ValueCard::advance(qint64 nowMs)
+{
+    if (m_trace.advance(nowMs))
+        update();
+}
+
+void ValueCard::clear()
+{
+    m_trace.clear();
+    setAbsent();
+    update();
+}
+
+void ValueCard::showTexts(const QStringList &texts)
+{
+    if (texts == m_texts)
+        return;
+    m_texts = texts;
+    update();
+}
+
+QStringList ValueCard::lines() const
+{
+    QStringList lines;
+    for (qsizetype i = 0; i < m_channels.size(); ++i) {
+        lines.append(QStringLiteral("%1 %2\t%3 %4")
+                         .arg(m_title, m_channels.at(i).label, m_texts.at(i), m_unit)
+                         .trimmed());
+    }
+    return lines;
+}
+
+void ValueCard::updateMetrics()
+{
+    m_valueFont = theme::fixedPitchFont(font().pointSizeF() + 2);
+    const QFontMetrics valueMetrics(m_valueFont);
+    QFont labelFont = font();
+    labelFont.setBold(true);
+    const QFontMetrics labelMetrics(labelFont);
+    m_rowHeight = std::max(valueMetrics.height(), labelMetrics.height()) + 4;
+    m_labelWidth = 0;
+    for (const Channel &channel : m_channels)
+        m_labelWidth = std::max(m_labelWidth, labelMetrics.horizontalAdvance(channel.label));
+    const int characters = 1 + m_format.integerDigits + 1 + m_format.decimals;
+    m_valueWidth = valueMetrics.horizontalAdvance(QString(characters, u'0'));
+    updateGeometry();
+}
+
+void ValueCard::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::FontChange)
+        updateMetrics();
+    QWidget::changeEvent(event);
+}
+
+int ValueCard::headerHeight() const
+{
+    return fontMetrics().height() + theme::kGrid;
+}
+
+QSize ValueCard::minimumSizeHint() const
+{
+    const int rows = int(m_channels.size());
+    return {2 * kPadding + m_labelWidth + theme::kGrid + m_valueWidth + 6 * theme::kGrid,
+            kPadding + headerHeight() + rows * m_rowHeight + kPadding};
+}
+
+QSize ValueCard::sizeHint() const
+{
+    return minimumSizeHint() + QSize(12 * theme::kGrid, kMinTraceHeight + theme::kGrid);
+}
+
+void ValueCard::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(theme::kLine);
+    painter.setBrush(theme::kSurface);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), theme::kGrid, theme::kGrid);
+    paintHeader(painter);
+
+    const TraceBuffer::Extent extent = m_trace.total();
+    double magnitude = extent.isEmpty() ? 0.0 : std::max(std::abs(extent.low), std::abs(extent.high));
+    for (const float value : m_values) {
+        if (std::isfinite(value))
+            magnitude = std::max(magnitude, double(std::abs(value)));
+    }
+    const double range = value_format::niceRange(magnitude, m_format.minimumRange);
+
+    QRect area = rect().adjusted(kPadding, kPadding + headerHeight(), -kPadding, -kPadding);
+    for (int row = 0; row < int(m_channels.size()); ++row) {
+        paintRow(painter, row, QRect(area.left(), area.top(), area.width(), m_rowHeight), range);
+        area.setTop(area.top() + m_rowHeight);
+    }
+    area.setTop(area.top() + theme::kGrid);
+    if (area.height() >= kMinTraceHeight) {
+        if (area.height() > kMaxTraceHeight)
+            area.setTop(area.bottom() - kMaxTraceHeight);
+        paintTrace(painter, area, range);
+    }
+}
+
+void ValueCard::paintHeader(QPainter &painter) const
+{
+    const QRect area(kPadding, kPadding - 2, width() - 2 * kPadding, fontMetrics().height());
+    QFont bold = font();
+    bold.setWeight(QFont::DemiBold);
+    painter.setFont(bold);
+    painter.setPen(theme::kTextSecondary);
+    painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter, m_title);
+    painter.setFont(font());
+    painter.drawText(area, Qt::AlignRight | Qt::AlignVCenter, m_unit);
+}
+
+void ValueCard::paintRow(QPainter &painter, int row, const QRect &area, double range) const
+{
+    const Channel &channel = m_channels.at(row);
+    QFont bold = font();
+    bold.setBold(true);
+    painter.setFont(bold);
+    painter.setPen(channel.color);
+    painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter, channel.label);
+
+    QRect valueArea(area.left() + m_labelWidth + theme::kGrid, area.top(), m_valueWidth, area.height());
+    const QString &text = m_texts.at(row);
+    const int textWidth = QFontMetrics(m_valueFont).horizontalAdvance(text);
+    if (textWidth > valueArea.width()) // a value beyond the layout's digits takes the bar's place
+        valueArea.setWidth(std::min(textWidth, area.right() - valueArea.left()));
+    painter.setFont(m_valueFont);
+    painter.setPen(m_isAbsent || !isEnabled() ? theme::kTextDisabled : theme::kText);
+    painter.drawText(valueArea, Qt::AlignRight | Qt::AlignVCenter, text);
+
+    const int barLeft = valueArea.right() + 2 * theme::kGrid;
+    const QRectF ground(barLeft, area.center().y() - kBarHeight / 2.0 + 0.5, area.right() + 1 - barLeft, kBarHeight);
+    if (ground.width() < 3 * theme::kGrid)
+        return;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(kBarGround);
+    painter.drawRoundedRect(ground, kBarHeight / 2.0, kBarHeight / 2.0);
+    const float value = m_values[size_t(row)];
+    if (m_isAbsent || !std::isfinite(value))
+        return;
+    const double fraction = std::clamp(double(value) / range, -1.0, 1.0);
+    const double zero = channel.isNorm ? ground.left() : ground.center().x();
+    const double full = channel.isNorm ? ground.width() : ground.width() / 2.0;
+    QRectF bar(zero, ground.top(), fraction * full, ground.height());
+    painter.setBrush(channel.color);
+    painter.drawRect(bar.normalized());
+}
+
+void ValueCard::paintTrace(QPainter &painter, const QRect &area, double range) const
+{
+    painter.setPen(QPen(theme::kLine, 1));
+    const double middle = area.center().y() + 0.5;
+    painter.drawLine(QPointF(area.left(), middle), QPointF(area.right(), middle));
+
+    const double xStep = double(area.width()) / (TraceBuffer::kBuckets - 1);
+    const double yScale = area.height() / 2.0 / range;
+    const auto yOf = [&](float value) { return middle - std::clamp(double(value), -range, range) * yScale; };
+    for (int channel = 0; channel < int(m_channels.size()); ++channel) {
+        if (m_channels.at(channel).isNorm)
+            continue;
+        QPolygonF line;
+        line.reserve(2 * TraceBuffer::kBuckets);
+        painter.setPen(QPen(m_channels.at(channel).color, 1.25));
+        for (int age = TraceBuffer::kBuckets - 1; age >= 0; --age) {
+            const TraceBuffer::Extent &extent = m_trace.at(channel, age);
+            if (extent.isEmpty())
+                continue;
+            const double x = area.right() - age * xStep;
+            line.append(QPointF(x, yOf(extent.low)));
+            if (extent.high > extent.low)
+                line.append(QPointF(x, yOf(extent.high)));
+        }
+        painter.drawPolyline(line);
+    }
+}

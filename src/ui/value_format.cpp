@@ -1,0 +1,78 @@
+#include "ui/value_format.h"
+
+#include <cmath>
+
+namespace {
+
+constexpr QChar kMinus(0x2212);
+constexpr double kScientificFrom = 1e6;
+constexpr double kMaxRange = 1e12;
+
+QString magnitudeText(double magnitude, int decimals)
+{
+    if (std::isinf(magnitude))
+        return QStringLiteral("\u221E");
+    if (magnitude >= kScientificFrom)
+        return QString::number(magnitude, 'e', 2);
+    return QString::number(magnitude, 'f', decimals);
+}
+
+bool isZeroText(const QString &text)
+{
+    for (const QChar c : text) {
+        if (c != u'0' && c != u'.')
+            return false;
+    }
+    return true;
+}
+
+QString format(double value, int decimals, const QString &plus)
+{
+    if (std::isnan(value))
+        return QStringLiteral("NaN");
+    const QString text = magnitudeText(std::abs(value), decimals);
+    if (isZeroText(text))
+        return text;
+    return (value < 0 ? QString(kMinus) : plus) + text;
+}
+
+} // namespace
+
+QString value_format::signedNumber(double value, int decimals)
+{
+    return format(value, decimals, QStringLiteral("+"));
+}
+
+QString value_format::number(double value, int decimals)
+{
+    return format(value, decimals, QString());
+}
+
+QString value_format::absent()
+{
+    return QStringLiteral("\u2013");
+}
+
+QString value_format::deviceTime(quint32 milliseconds)
+{
+    const quint32 seconds = milliseconds / 1000;
+    return QStringLiteral("%1:%2:%3.%4")
+        .arg(seconds / 3600, 2, 10, QLatin1Char('0'))
+        .arg(seconds / 60 % 60, 2, 10, QLatin1Char('0'))
+        .arg(seconds % 60, 2, 10, QLatin1Char('0'))
+        .arg(milliseconds % 1000, 3, 10, QLatin1Char('0'));
+}
+
+double value_format::niceRange(double magnitude, double minimum)
+{
+    if (!(magnitude > minimum))
+        return minimum;
+    if (magnitude > kMaxRange)
+        return kMaxRange;
+    const double decade = std::pow(10.0, std::floor(std::log10(magnitude)));
+    for (const double step : {1.0, 2.0, 5.0}) {
+        if (step * decade >= magnitude)
+            return step * decade;
+    }
+    return 10.0 * decade;
+}
