@@ -43,9 +43,9 @@ private:
     struct Shown
     {
         bool valid = false;
-        float roll = 0;
-        float pitch = 0;
-        float yaw = 0;
+        qreal roll = 0;
+        qreal pitch = 0;
+        qreal yaw = 0;
         bool operator==(const Shown &) const = default;
     };
 
