@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <QHash>
+#include <QPointer>
 #include <QStringList>
 
 #include <memory>
@@ -17,8 +18,8 @@ namespace Ui {
 class form_settings;
 }
 
-/// Settings of the connected device: what it is, its node id, output rate and attitude mode, and one-click commands with
-/// a log of what was sent and what came back. It also identifies the device for the main window, visible or not.
+/// Settings of the connected device: what it is, its node id, output rate and attitude mode, and one-click commands
+/// with a log of what was sent and what came back. It also identifies the device for the main window, visible or not.
 ///
 /// Commands wait for their replies in nested event loops. Until one has ended every other is refused and all that sends
 /// is disabled; the port, this window and the program may be closed meanwhile. What a connection answered after it was
@@ -44,8 +45,8 @@ public:
 
     /// Identifies the device: stops its output, reads its information, resolves it and resumes the output. Takes some
     /// 0.5 s at 115200 baud, in a nested event loop. Returns the lines of the reply; detectedDevice() is what they
-    /// resolve to. Empty when nothing is connected or the device stays silent; also, leaving detectedDevice() alone,
-    /// while another command runs and when the connection ended meanwhile.
+    /// resolve to. A silent device gives no lines and an invalid device. Empty too, leaving detectedDevice() alone,
+    /// when nothing is connected, while another command runs, and when the connection ended meanwhile.
     QStringList get_prod_info();
 
     /// The device as it was identified last; `valid` is false and `profile` may be null when none was.
@@ -68,14 +69,13 @@ private slots:
     void on_BTN_copy_clicked();
 
 private:
-    struct Hotkey;
-
     void createHotkeys();
     void showDevice();
     void showEditors(const ProductProfile &profile);
     void loadChoice();
     void storeChoice();
     void updateState();
+    void enableSender(QPushButton *button, const QString &blocked, const QString &what);
     void finishClosing();
     QString blockedReason() const;
     QString saveProblem() const;
@@ -83,8 +83,11 @@ private:
 
     std::unique_ptr<Ui::form_settings> m_ui;
     CommandSession *m_session;
-    QList<QPushButton *> m_hotkeyButtons; ///< one per row of the hotkey table
+    QList<QPushButton *> m_hotkeyButtons;             ///< one per row of the hotkey table
     QHash<ProductKey, SettingsSaveRequest> m_choices; ///< what the user chose last, for as long as the program runs
-    ProductKey m_shownKey{};
+    ProductKey m_shownKey = ProductKey::None;
+    QPointer<QWidget> m_focusBefore; ///< had the focus when sending was last blocked
+    QString m_outcome;               ///< how the last operation ended
+    bool m_outcomeIsProblem = false;
     bool m_closePending = false; ///< settingsClosed() is still to be told
 };

@@ -93,7 +93,9 @@ QString usbIdText(const PortEntry &port)
 {
     if (!port.hasUsbId)
         return {};
-    return QStringLiteral("%1:%2").arg(port.vendorId, 4, 16, QLatin1Char('0')).arg(port.productId, 4, 16, QLatin1Char('0'));
+    return QStringLiteral("%1:%2")
+        .arg(port.vendorId, 4, 16, QLatin1Char('0'))
+        .arg(port.productId, 4, 16, QLatin1Char('0'));
 }
 
 Remembered read(const QSettings &settings)

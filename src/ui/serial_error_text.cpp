@@ -57,8 +57,9 @@ QString serial_error_text::describe(QSerialPort::SerialPortError error, const Po
     if (error == QSerialPort::NoError)
         return {};
     if (error == QSerialPort::ResourceError || error == QSerialPort::ReadError || error == QSerialPort::WriteError) {
-        return Texts::tr("The connection to %1 was lost: the device was unplugged or switched off. Check the cable, then "
-                         "open the port again.")
+        return Texts::tr(
+                   "The connection to %1 was lost: the device was unplugged or switched off. Check the cable, then "
+                   "open the port again.")
             .arg(facts.port);
     }
     if (error == QSerialPort::DeviceNotFoundError || !facts.exists)

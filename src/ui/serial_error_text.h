@@ -9,12 +9,12 @@ namespace serial_error_text {
 /// What is known about the port when an error is told.
 struct PortFacts
 {
-    QString port;             ///< as the user chose it
-    int baudRate = 0;         ///< baud
-    bool exists = true;       ///< the device file is there; true where ports are not files
-    bool accessible = true;   ///< this user may read and write the device file; true where ports are not files
-    QString group;            ///< group of the device file whose members may open it; empty when there is none
-    QString user;             ///< login name of this user
+    QString port;           ///< as the user chose it
+    int baudRate = 0;       ///< baud
+    bool exists = true;     ///< the device file is there; true where ports are not files
+    bool accessible = true; ///< this user may read and write the device file; true where ports are not files
+    QString group;          ///< group of the device file whose members may open it; empty when there is none
+    QString user;           ///< login name of this user
 };
 
 /// Looks at the device file of `port` and at who is logged in.

@@ -1,0 +1,217 @@
+#include "ui/command_session.h"
+
+#include "device/command_broker.h"
+#include "device/info_reply.h"
+
+namespace {
+
+/// Bit times per byte on the line: 10, and a margin.
+constexpr float kBitTimesPerByteMs = 12000.0F;
+constexpr quint32 kResumeWindowMs = 50;
+
+} // namespace
+
+CommandSession::CommandSession(QObject *parent) : QObject(parent) {}
+
+void CommandSession::setBroker(CommandBroker *broker)
+{
+    m_broker = broker;
+    emit stateChanged();
+}
+
+void CommandSession::setBaud(int baud)
+{
+    if (baud > 0)
+        m_baudRate = baud;
+}
+
+void CommandSession::setConnected(bool connected)
+{
+    ++m_connection;
+    m_connected = connected;
+    m_outputStopped = false;
+    emit outcome({}, false);
+    emit stateChanged();
+}
+
+bool CommandSession::isBusy() const
+{
+    return m_busy || (m_broker != nullptr && m_broker->isCollecting());
+}
+
+const ProductProfile &CommandSession::profile() const
+{
+    return m_device.profile != nullptr ? *m_device.profile : product_profile::profile(ProductKey::None);
+}
+
+void CommandSession::clearDevice()
+{
+    m_device = {};
+    emit deviceChanged();
+}
+
+QStringList CommandSession::readInfo()
+{
+    if (!begin())
+        return {};
+    const QPointer<CommandSession> self(this);
+    QStringList lines = readInfoNow();
+    if (self != nullptr)
+        end();
+    return lines;
+}
+
+QStringList CommandSession::readInfoNow()
+{
+    const QPointer<CommandSession> self(this);
+    const quint64 connection = m_connection;
+    const QList<SettingsCommand> sequence = settings_command_adapter::buildReadInfoSequence(byteTimeMs());
+    m_currentCommand = sequence.constLast().text.trimmed();
+    emit stateChanged();
+    logCommands(sequence);
+    const QByteArray reply = m_broker->executeSequence(sequence);
+    if (self == nullptr)
+        return {};
+
+    QStringList lines;
+    if (connection == m_connection) {
+        lines = info_reply::lines(reply);
+        logReply(lines);
+    }
+    // Also on a connection that began meanwhile: the rest of the sequence has quieted its device.
+    if (m_connected)
+        execute(settings_command_adapter::buildResumeOutputCommand(), kResumeWindowMs);
+    if (self == nullptr || connection != m_connection)
+        return {};
+    m_outputStopped = false;
+    m_device = product_resolver::resolve(lines);
+    emit outcome(m_device.valid ? QString()
+                                : tr("The device does not answer. Check the baud rate, then identify it again."),
+                 !m_device.valid);
+    emit deviceChanged();
+    return lines;
+}
+
+void CommandSession::save(const SettingsSaveRequest &request)
+{
+    const QList<SettingsCommand> sequence = settings_command_adapter::buildSaveSequence(profile(), request);
+    if (sequence.isEmpty() || !begin())
+        return;
+    // One by one instead of as the broker's sequence: settings must not reach a device that is plugged in meanwhile.
+    const QPointer<CommandSession> self(this);
+    QStringList refused;
+    for (const SettingsCommand &command : sequence) {
+        const std::optional<QStringList> reply = execute(command.text, command.waitMs);
+        if (self == nullptr)
+            return;
+        if (!reply.has_value()) {
+            end();
+            return;
+        }
+        if (reply->contains(QLatin1String("ERROR"), Qt::CaseInsensitive))
+            refused.append(command.text.trimmed());
+    }
+    const quint64 connection = m_connection;
+    readInfoNow();
+    if (self == nullptr)
+        return;
+    if (connection == m_connection) {
+        if (!refused.isEmpty())
+            emit outcome(tr("The device refused %1.").arg(refused.join(QLatin1String(", "))), true);
+        else if (m_device.valid)
+            emit outcome(tr("The settings were sent and the device has restarted."), false);
+    }
+    end();
+}
+
+void CommandSession::runHotkey(SettingsHotkeyAction action)
+{
+    const QString text = settings_command_adapter::hotkeyCommand(profile(), action);
+    if (text.isEmpty() || !begin())
+        return;
+    emit outcome({}, false);
+    const QPointer<CommandSession> self(this);
+    m_outputStopped =
+        action == SettingsHotkeyAction::StopOutput ||
+        (m_outputStopped && action != SettingsHotkeyAction::Reset && action != SettingsHotkeyAction::Reboot);
+    execute(text, replyWindowMs());
+    if (self != nullptr)
+        end();
+}
+
+void CommandSession::resumeOutput(bool waitForReply)
+{
+    if (!begin())
+        return;
+    emit outcome({}, false);
+    const QPointer<CommandSession> self(this);
+    m_outputStopped = false;
+    execute(settings_command_adapter::buildResumeOutputCommand(), waitForReply ? kResumeWindowMs : 0);
+    if (self != nullptr)
+        end();
+}
+
+bool CommandSession::begin()
+{
+    if (isBusy() || !m_connected || m_broker == nullptr)
+        return false;
+    m_busy = true;
+    return true;
+}
+
+void CommandSession::end()
+{
+    m_busy = false;
+    m_currentCommand.clear();
+    emit stateChanged();
+}
+
+/// Sends one command. No value when its connection, or this object, did not live to see the reply.
+std::optional<QStringList> CommandSession::execute(const QString &text, quint32 waitMs)
+{
+    if (m_broker == nullptr)
+        return std::nullopt;
+    const QPointer<CommandSession> self(this);
+    const quint64 connection = m_connection;
+    m_currentCommand = text.trimmed();
+    emit stateChanged();
+    logCommands({{text, waitMs}});
+    const QByteArray reply = m_broker->executeCommand(text, waitMs);
+    if (self == nullptr || connection != m_connection)
+        return std::nullopt;
+    const QStringList lines = info_reply::lines(reply);
+    if (waitMs > 0)
+        logReply(lines);
+    return lines;
+}
+
+void CommandSession::logCommands(const QList<SettingsCommand> &commands)
+{
+    for (qsizetype i = 0; i < commands.size();) {
+        qsizetype next = i + 1;
+        while (next < commands.size() && commands[next].text == commands[i].text)
+            ++next;
+        const QString times = next - i > 1 ? QStringLiteral(" (%1x)").arg(next - i) : QString();
+        emit logLine(QLatin1String("> ") + commands[i].text.trimmed() + times);
+        i = next;
+    }
+}
+
+void CommandSession::logReply(const QStringList &lines)
+{
+    for (const QString &line : lines)
+        emit logLine(QLatin1String("< ") + line);
+    if (lines.isEmpty())
+        emit logLine(QLatin1String("< ") + tr("(no reply)"));
+}
+
+float CommandSession::byteTimeMs() const
+{
+    return kBitTimesPerByteMs / float(m_baudRate);
+}
+
+/// The window for an information reply; no other reply is longer.
+quint32 CommandSession::replyWindowMs() const
+{
+    return settings_command_adapter::buildReadInfoSequence(byteTimeMs()).constLast().waitMs;
+}

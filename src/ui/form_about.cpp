@@ -1,0 +1,53 @@
+#include "ui/form_about.h"
+
+#include <QDir>
+#include <QEvent>
+#include <QIcon>
+
+#include "ui/app_version.h"
+#include "ui_form_about.h"
+
+namespace {
+
+constexpr QLatin1String kIcon(":/images/mainicon.png");
+constexpr int kIconSize = 64;
+constexpr int kTextWidth = 432;
+
+} // namespace
+
+form_about::form_about(QWidget *parent) : QDialog(parent), m_ui(std::make_unique<Ui::form_about>())
+{
+    m_ui->setupUi(this);
+    // Wrapped texts need a width to lay themselves out in; it follows the font.
+    m_ui->LBL_what->setMinimumWidth(qMax(kTextWidth, 56 * fontMetrics().averageCharWidth()));
+    const QPixmap icon = QIcon(kIcon).pixmap(QSize(kIconSize, kIconSize), devicePixelRatio());
+    m_ui->LBL_icon->setPixmap(icon);
+    m_ui->LBL_icon->setVisible(!icon.isNull());
+    fillTexts();
+}
+
+form_about::~form_about() = default;
+
+void form_about::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        m_ui->retranslateUi(this);
+        fillTexts();
+    } else if (event->type() == QEvent::FontChange) {
+        fillTexts();
+    }
+    QDialog::changeEvent(event);
+}
+
+void form_about::fillTexts()
+{
+    QFont nameFont = font();
+    nameFont.setPointSizeF(font().pointSizeF() * 1.5);
+    nameFont.setWeight(QFont::DemiBold);
+    m_ui->LBL_name->setFont(nameFont);
+    m_ui->LBL_version->setText(tr("Version %1").arg(appVersion()));
+    m_ui->LBL_toolkit->setText(
+        tr("Qt %1, under the GNU Lesser General Public License, version 3").arg(QLatin1String(qVersion())));
+    m_ui->LE_folder->setText(QDir::toNativeSeparators(QDir::currentPath()));
+    m_ui->LE_folder->setCursorPosition(0);
+}

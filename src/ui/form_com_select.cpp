@@ -1,0 +1,216 @@
+#include "ui/form_com_select.h"
+
+#include <QEvent>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QSettings>
+#include <QShowEvent>
+#include <QSignalBlocker>
+
+#include "app/app_log.h"
+#include "app/settings_keys.h"
+#include "ui/tool_tip.h"
+#include "ui_form_com_select.h"
+
+namespace {
+
+constexpr int kRefreshMs = 1000;
+constexpr int kMaximumPathLength = 4096;
+
+enum Column { PathColumn, DescriptionColumn, MakerColumn, SerialNumberColumn, UsbIdColumn };
+
+void fillRow(QTreeWidgetItem *item, const port_choice::PortEntry &port)
+{
+    const QStringList texts{port.path, port.description, port.maker, port.serialNumber, port_choice::usbIdText(port)};
+    for (int column = 0; column < texts.size(); ++column) {
+        item->setText(column, texts[column]);
+        item->setToolTip(column, plainToolTip(texts[column])); // a column may be too narrow for it
+    }
+}
+
+QString pathProblem(const QString &path)
+{
+    switch (port_choice::pathState(path)) {
+    case port_choice::PathState::Usable:
+        return {};
+    case port_choice::PathState::Empty:
+        return form_com_select::tr("Choose a port or type its path.");
+    case port_choice::PathState::Missing:
+        return form_com_select::tr("%1 is not there at the moment. Plug the device in, or choose another port.")
+            .arg(path);
+    case port_choice::PathState::NotADevice:
+        return form_com_select::tr("%1 is not a serial port.").arg(path);
+    }
+    return {};
+}
+
+} // namespace
+
+form_com_select::form_com_select(QWidget *parent, PortSource source)
+    : QDialog(parent), m_ui(std::make_unique<Ui::form_com_select>()), m_source(std::move(source))
+{
+    m_ui->setupUi(this);
+    m_ui->LE_path->setMaxLength(kMaximumPathLength);
+    m_ui->CB_baud->addItems(port_choice::usualBaudRates());
+    m_ui->CB_baud->setCompleter(nullptr); // it would turn 9600 into 921600 while typing
+    QHeaderView *header = m_ui->TREE_ports->header();
+    header->setStretchLastSection(false);
+    header->setSectionResizeMode(QHeaderView::ResizeToContents);
+    header->setSectionResizeMode(DescriptionColumn, QHeaderView::Stretch);
+
+    const QSettings settings(settings_keys::kFile, QSettings::IniFormat);
+    m_remembered = port_choice::read(settings);
+
+    connect(&m_refreshTimer, &QTimer::timeout, this, &form_com_select::refreshPorts);
+    m_refreshTimer.setInterval(kRefreshMs);
+    connect(m_ui->TREE_ports, &QTreeWidget::currentItemChanged, this, &form_com_select::rowChosen);
+    connect(m_ui->TREE_ports, &QTreeWidget::itemDoubleClicked, this, &form_com_select::accept);
+    connect(m_ui->LE_path, &QLineEdit::textEdited, this, [this] { m_userChose = true; });
+    connect(m_ui->LE_path, &QLineEdit::textChanged, this, [this] {
+        selectRowOfPath();
+        updateState();
+    });
+    connect(m_ui->CB_baud, &QComboBox::editTextChanged, this, &form_com_select::updateState);
+    updateState();
+}
+
+form_com_select::~form_com_select() = default;
+
+void form_com_select::accept()
+{
+    if (!m_ui->BTN_open->isEnabled())
+        return;
+    m_portName = typedPath();
+    m_baudRate = port_choice::parseBaud(m_ui->CB_baud->currentText());
+    const int row = port_choice::indexOfPath(m_ports, m_portName);
+    m_remembered.port = row >= 0 ? m_ports[row] : port_choice::PortEntry{};
+    m_remembered.port.path = m_portName;
+    m_remembered.baudRate = m_baudRate;
+    QSettings settings(settings_keys::kFile, QSettings::IniFormat);
+    if (!port_choice::write(settings, m_remembered))
+        AppLog::logfile(QtWarningMsg, QStringLiteral("failed to store the serial port selection."));
+    QDialog::accept();
+}
+
+void form_com_select::showEvent(QShowEvent *event)
+{
+    if (!event->spontaneous()) {
+        m_userChose = false;
+        m_ui->CB_baud->setCurrentText(QString::number(m_remembered.baudRate));
+        m_ui->LE_path->clear();
+        updateRows(m_source());
+        offerRemembered();
+        QWidget *first = m_ports.isEmpty() ? static_cast<QWidget *>(m_ui->LE_path) : m_ui->TREE_ports;
+        first->setFocus(Qt::OtherFocusReason);
+    }
+    m_refreshTimer.start();
+    QDialog::showEvent(event);
+}
+
+void form_com_select::hideEvent(QHideEvent *event)
+{
+    m_refreshTimer.stop();
+    QDialog::hideEvent(event);
+}
+
+void form_com_select::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        m_ui->retranslateUi(this);
+        updateState();
+    }
+    QDialog::changeEvent(event);
+}
+
+void form_com_select::refreshPorts()
+{
+    const QList<port_choice::PortEntry> ports = m_source();
+    if (ports != m_ports) {
+        updateRows(ports);
+        if (!m_userChose)
+            offerRemembered();
+        selectRowOfPath();
+    }
+    updateState(); // a typed path may have come or gone
+}
+
+/// Changes only the rows that differ, so that the scrolling and the other rows stay as they are.
+void form_com_select::updateRows(const QList<port_choice::PortEntry> &ports)
+{
+    const QSignalBlocker quiet(m_ui->TREE_ports);
+    for (qsizetype row = m_ports.size() - 1; row >= 0; --row) {
+        if (port_choice::indexOfPath(ports, m_ports[row].path) < 0) {
+            delete m_ui->TREE_ports->takeTopLevelItem(int(row));
+            m_ports.removeAt(row);
+        }
+    }
+    for (qsizetype row = 0; row < ports.size(); ++row) {
+        const bool isNew = row >= m_ports.size() || m_ports[row].path != ports[row].path;
+        if (isNew) {
+            m_ui->TREE_ports->insertTopLevelItem(int(row), new QTreeWidgetItem);
+            m_ports.insert(row, {});
+        }
+        if (m_ports[row] != ports[row]) {
+            m_ports[row] = ports[row];
+            fillRow(m_ui->TREE_ports->topLevelItem(int(row)), ports[row]);
+        }
+    }
+    while (m_ports.size() > ports.size()) { // rows that have changed places
+        m_ports.removeLast();
+        delete m_ui->TREE_ports->takeTopLevelItem(int(m_ports.size()));
+    }
+    m_ui->STACK_ports->setCurrentWidget(m_ports.isEmpty() ? static_cast<QWidget *>(m_ui->CARD_empty)
+                                                          : m_ui->TREE_ports);
+}
+
+void form_com_select::offerRemembered()
+{
+    int row = port_choice::preselect(m_ports, m_remembered.port);
+    // Without a memory the first port that can be a device is a fair guess.
+    for (int i = 0; row < 0 && m_remembered.port.path.isEmpty() && i < m_ports.size(); ++i) {
+        if (m_ports[i].hasUsbId)
+            row = i;
+    }
+    m_ui->LE_path->setText(row >= 0 ? m_ports[row].path : m_remembered.port.path);
+    selectRowOfPath();
+}
+
+void form_com_select::selectRowOfPath()
+{
+    const int row = port_choice::indexOfPath(m_ports, typedPath());
+    const QSignalBlocker quiet(m_ui->TREE_ports);
+    if (row < 0) {
+        m_ui->TREE_ports->setCurrentItem(nullptr);
+        m_ui->TREE_ports->clearSelection();
+    } else if (m_ui->TREE_ports->indexOfTopLevelItem(m_ui->TREE_ports->currentItem()) != row) {
+        m_ui->TREE_ports->setCurrentItem(m_ui->TREE_ports->topLevelItem(row));
+    }
+}
+
+void form_com_select::rowChosen(QTreeWidgetItem *item)
+{
+    if (item == nullptr)
+        return;
+    m_userChose = true;
+    m_ui->LE_path->setText(item->text(PathColumn));
+}
+
+void form_com_select::updateState()
+{
+    const QString path = typedPath();
+    const QString pathText = pathProblem(path);
+    const QString baudText = port_choice::baudProblem(m_ui->CB_baud->currentText());
+    m_ui->LBL_pathProblem->setText(pathText);
+    m_ui->LBL_baudProblem->setText(baudText);
+
+    // A missing device may be there again a moment later: that is told, but does not forbid trying.
+    const port_choice::PathState state = port_choice::pathState(path);
+    const bool pathOk = state == port_choice::PathState::Usable || state == port_choice::PathState::Missing;
+    m_ui->BTN_open->setEnabled(pathOk && baudText.isEmpty());
+    m_ui->BTN_open->setToolTip(plainToolTip(!pathOk ? pathText : baudText));
+}
+
+QString form_com_select::typedPath() const
+{
+    return m_ui->LE_path->text().trimmed();
+}

@@ -1,0 +1,333 @@
+#include "ui/form_settings.h"
+
+#include <QClipboard>
+#include <QEvent>
+#include <QGuiApplication>
+#include <QHideEvent>
+#include <QPushButton>
+#include <QShowEvent>
+#include <QSignalBlocker>
+#include <QStyle>
+
+#include "app/theme.h"
+#include "ui/command_session.h"
+#include "ui/tool_tip.h"
+#include "ui_form_settings.h"
+
+namespace {
+
+constexpr int kLogLines = 500;
+constexpr int kHotkeysPerRow = 4;
+constexpr int kModulePage = 0;
+constexpr int kCommandsPage = 1;
+
+/// What a product's editors show before the user has chosen, for the device does not tell its settings: the mode
+/// selector's entry behind modes 0 and 1, which writes none; no rate; the id editor's value below 0.
+constexpr SettingsSaveRequest kNothingChosen{2, 0, -1};
+
+/// One button of the command page.
+struct Hotkey
+{
+    const char *objectName;
+    const char *text;
+    std::optional<SettingsHotkeyAction> action; ///< none: resume the output
+    HotkeyGroup firstGroup;                     ///< the smallest group that has it; every group holds those before it
+};
+
+// In the order of the groups, so that each fills the grid without gaps.
+constexpr Hotkey kHotkeys[] = {
+    {"BTN_readInfo", QT_TRANSLATE_NOOP("form_settings", "Read info"), SettingsHotkeyAction::ReadInfo,
+     HotkeyGroup::None},
+    {"BTN_reset", QT_TRANSLATE_NOOP("form_settings", "Reset"), SettingsHotkeyAction::Reset, HotkeyGroup::LegacyAt},
+    {"BTN_stopOutput", QT_TRANSLATE_NOOP("form_settings", "Stop output"), SettingsHotkeyAction::StopOutput,
+     HotkeyGroup::LegacyAt},
+    {"BTN_resumeOutput", QT_TRANSLATE_NOOP("form_settings", "Resume output"), std::nullopt, HotkeyGroup::LegacyAt},
+    {"BTN_saveConfig", QT_TRANSLATE_NOOP("form_settings", "Save config"), SettingsHotkeyAction::SaveConfig,
+     HotkeyGroup::Mz14},
+    {"BTN_logComConfig", QT_TRANSLATE_NOOP("form_settings", "Log COM config"), SettingsHotkeyAction::LogComConfig,
+     HotkeyGroup::Mz14},
+    {"BTN_logUsrConfig", QT_TRANSLATE_NOOP("form_settings", "Log user config"), SettingsHotkeyAction::LogUsrConfig,
+     HotkeyGroup::Mz14},
+    {"BTN_logDisable", QT_TRANSLATE_NOOP("form_settings", "Log disable"), SettingsHotkeyAction::LogDisable,
+     HotkeyGroup::Mz14},
+    {"BTN_reboot", QT_TRANSLATE_NOOP("form_settings", "Reboot"), SettingsHotkeyAction::Reboot, HotkeyGroup::Mz14},
+};
+
+QString commandText(const Hotkey &hotkey, const ProductProfile &profile)
+{
+    const QString text = hotkey.action ? settings_command_adapter::hotkeyCommand(profile, *hotkey.action)
+                                       : settings_command_adapter::buildResumeOutputCommand();
+    return text.trimmed();
+}
+
+void showText(QLabel *label, const QString &text)
+{
+    label->setText(text.isEmpty() ? QStringLiteral("–") : text);
+    label->setToolTip(plainToolTip(text)); // it may be too long for the window
+}
+
+/// A save writes the rate of one dialect only, although the other has a list of rates as well.
+bool writesOutputRate(const ProductProfile &profile)
+{
+    return profile.supportsOutputRate && profile.protocolFamily == ProtocolFamily::LegacyAt;
+}
+
+} // namespace
+
+form_settings::form_settings(QWidget *parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::form_settings>()), m_session(new CommandSession(this))
+{
+    m_ui->setupUi(this);
+    for (QLabel *label : {m_ui->LBL_product, m_ui->LBL_model, m_ui->LBL_build, m_ui->LBL_uuid}) {
+        label->setTextFormat(Qt::PlainText);
+        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    }
+    m_ui->PTE_log->setMaximumBlockCount(kLogLines);
+    m_ui->PTE_log->setFont(theme::fixedPitchFont(font().pointSizeF()));
+    createHotkeys();
+
+    connect(m_session, &CommandSession::stateChanged, this, &form_settings::updateState);
+    connect(m_session, &CommandSession::stateChanged, this, &form_settings::finishClosing);
+    connect(m_session, &CommandSession::deviceChanged, this, &form_settings::showDevice);
+    connect(m_session, &CommandSession::logLine, m_ui->PTE_log, &QPlainTextEdit::appendPlainText);
+    connect(m_session, &CommandSession::outcome, this, [this](const QString &text, bool isProblem) {
+        m_outcome = text;
+        m_outcomeIsProblem = isProblem;
+    });
+    connect(m_ui->SB_id, &QSpinBox::valueChanged, this, &form_settings::storeChoice);
+    connect(m_ui->CB_rate, &QComboBox::currentIndexChanged, this, &form_settings::storeChoice);
+    connect(m_ui->CB_mode, &QComboBox::currentIndexChanged, this, &form_settings::storeChoice);
+    showDevice();
+}
+
+form_settings::~form_settings() = default;
+
+void form_settings::set_broker(CommandBroker *broker)
+{
+    m_session->setBroker(broker);
+}
+
+void form_settings::set_baud(int baud)
+{
+    m_session->setBaud(baud);
+}
+
+void form_settings::set_connected(bool connected)
+{
+    m_session->setConnected(connected);
+}
+
+QStringList form_settings::get_prod_info()
+{
+    return m_session->readInfo();
+}
+
+const DetectedDevice &form_settings::detectedDevice() const
+{
+    return m_session->device();
+}
+
+void form_settings::clear_device()
+{
+    m_session->clearDevice();
+}
+
+void form_settings::showEvent(QShowEvent *event)
+{
+    if (!event->spontaneous())
+        m_closePending = false;
+    QDialog::showEvent(event);
+}
+
+void form_settings::hideEvent(QHideEvent *event)
+{
+    QDialog::hideEvent(event);
+    if (!event->spontaneous()) {
+        m_closePending = true;
+        finishClosing();
+    }
+}
+
+void form_settings::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        m_ui->retranslateUi(this);
+        showDevice();
+    } else if (event->type() == QEvent::FontChange) {
+        m_ui->PTE_log->setFont(theme::fixedPitchFont(font().pointSizeF()));
+    }
+    QDialog::changeEvent(event);
+}
+
+// Nothing may follow the session's calls: the window can be gone when they return.
+
+void form_settings::on_BTN_identify_clicked()
+{
+    m_session->readInfo();
+}
+
+void form_settings::on_BTN_save_clicked()
+{
+    if (saveProblem().isEmpty())
+        m_session->save(request());
+}
+
+void form_settings::on_BTN_copy_clicked()
+{
+    QGuiApplication::clipboard()->setText(m_ui->PTE_log->toPlainText());
+}
+
+void form_settings::createHotkeys()
+{
+    int place = 0;
+    for (const Hotkey &hotkey : kHotkeys) {
+        auto *button = new QPushButton(m_ui->PAGE_commands);
+        button->setObjectName(QLatin1String(hotkey.objectName));
+        button->setAutoDefault(false);
+        m_ui->LAY_hotkeys->addWidget(button, place / kHotkeysPerRow, place % kHotkeysPerRow);
+        ++place;
+        m_hotkeyButtons.append(button);
+        connect(button, &QPushButton::clicked, this, [this, &hotkey] {
+            if (hotkey.action)
+                m_session->runHotkey(*hotkey.action);
+            else
+                m_session->resumeOutput(true);
+        });
+    }
+    for (int column = 0; column < kHotkeysPerRow; ++column)
+        m_ui->LAY_hotkeys->setColumnStretch(column, 1);
+}
+
+void form_settings::showDevice()
+{
+    const DetectedDevice &device = m_session->device();
+    const ProductProfile &profile = m_session->profile();
+    showText(m_ui->LBL_product, device.valid ? profile.displayName : tr("No device identified"));
+    showText(m_ui->LBL_model, device.modelLine);
+    showText(m_ui->LBL_build, device.buildLine);
+    showText(m_ui->LBL_uuid, device.uuidLine);
+
+    showEditors(profile);
+    for (qsizetype i = 0; i < m_hotkeyButtons.size(); ++i) {
+        m_hotkeyButtons[i]->setText(tr(kHotkeys[i].text));
+        m_hotkeyButtons[i]->setVisible(kHotkeys[i].firstGroup <= profile.hotkeyGroup);
+    }
+    m_ui->TAB_pages->setTabVisible(kModulePage, profile.showFirstSettingsTab);
+    if (!profile.showFirstSettingsTab || profile.key != m_shownKey)
+        m_ui->TAB_pages->setCurrentIndex(profile.showFirstSettingsTab ? kModulePage : kCommandsPage);
+    m_shownKey = profile.key;
+    updateState();
+}
+
+void form_settings::showEditors(const ProductProfile &profile)
+{
+    m_ui->LBL_id->setVisible(profile.supportsNodeId);
+    m_ui->SB_id->setVisible(profile.supportsNodeId);
+    m_ui->LBL_rate->setVisible(profile.supportsOutputRate);
+    m_ui->CB_rate->setVisible(profile.supportsOutputRate);
+    m_ui->LBL_mode->setVisible(profile.supportsAttitudeMode);
+    m_ui->CB_mode->setVisible(profile.supportsAttitudeMode);
+    m_ui->LBL_noSettings->setVisible(!profile.supportsNodeId && !profile.supportsOutputRate &&
+                                     !profile.supportsAttitudeMode);
+
+    const bool rateIsFixed = profile.supportsOutputRate && !writesOutputRate(profile);
+    const QString rateText = rateIsFixed ? tr("Saving does not change the rate of this device.") : QString();
+    m_ui->CB_rate->setEnabled(!rateIsFixed);
+    m_ui->CB_rate->setToolTip(rateText);
+    m_ui->LBL_rateHint->setText(rateText);
+
+    const QSignalBlocker quietId(m_ui->SB_id);
+    const QSignalBlocker quietRate(m_ui->CB_rate);
+    const QSignalBlocker quietMode(m_ui->CB_mode);
+    m_ui->CB_rate->clear();
+    m_ui->CB_rate->addItems(profile.outputRates);
+    const SettingsSaveRequest choice = m_choices.value(profile.key, kNothingChosen);
+    m_ui->SB_id->setValue(choice.nodeId);
+    m_ui->CB_rate->setCurrentIndex(m_ui->CB_rate->findText(QString::number(choice.outputRateHz)));
+    m_ui->CB_mode->setCurrentIndex(choice.attitudeMode);
+}
+
+void form_settings::storeChoice()
+{
+    m_choices.insert(m_session->profile().key, request());
+    updateState();
+}
+
+SettingsSaveRequest form_settings::request() const
+{
+    SettingsSaveRequest request;
+    request.attitudeMode = m_ui->CB_mode->currentIndex();
+    request.outputRateHz = m_ui->CB_rate->currentText().toInt();
+    request.nodeId = m_ui->SB_id->value();
+    return request;
+}
+
+/// Why nothing can be sent now; empty when it can.
+QString form_settings::blockedReason() const
+{
+    if (!m_session->isConnected())
+        return tr("Nothing is connected: open a serial port first.");
+    if (m_session->isBusy())
+        return tr("Waiting for the device: %1").arg(m_session->currentCommand());
+    return {};
+}
+
+/// What the user still has to do before the settings can be saved; empty when nothing.
+QString form_settings::saveProblem() const
+{
+    const ProductProfile &profile = m_session->profile();
+    if (profile.protocolFamily == ProtocolFamily::Unknown)
+        return tr("Identify the device first.");
+    if (profile.supportsNodeId && m_ui->SB_id->value() < 0)
+        return tr("Choose a node ID first.");
+    if (writesOutputRate(profile) && m_ui->CB_rate->currentIndex() < 0)
+        return tr("Choose an output rate first.");
+    return {};
+}
+
+void form_settings::updateState()
+{
+    const QString blocked = blockedReason();
+    const bool warn = !m_session->isConnected() || (blocked.isEmpty() && m_outcomeIsProblem);
+    m_ui->LBL_status->setText(blocked.isEmpty() ? m_outcome : blocked);
+    m_ui->LBL_status->setProperty("role", warn ? QStringLiteral("warning") : QStringLiteral("secondary"));
+    m_ui->LBL_status->style()->unpolish(m_ui->LBL_status);
+    m_ui->LBL_status->style()->polish(m_ui->LBL_status);
+
+    // A button that has the focus loses it while its command runs.
+    if (!blocked.isEmpty() && m_focusBefore == nullptr)
+        m_focusBefore = focusWidget();
+
+    const ProductProfile &profile = m_session->profile();
+    for (qsizetype i = 0; i < m_hotkeyButtons.size(); ++i)
+        enableSender(m_hotkeyButtons[i], blocked, tr("Sends %1").arg(commandText(kHotkeys[i], profile)));
+    enableSender(m_ui->BTN_identify, blocked, tr("Stops the output, reads what the device is and resumes the output"));
+    const QString saveBlocked = blocked.isEmpty() ? saveProblem() : blocked;
+    enableSender(m_ui->BTN_save, saveBlocked, tr("Writes these settings and restarts the device"));
+    m_ui->LBL_saveHint->setText(saveBlocked.isEmpty() ? tr("Saving restarts the device; this takes 2 seconds.")
+                                                      : saveProblem());
+
+    if (blocked.isEmpty() && m_focusBefore != nullptr) {
+        if (m_focusBefore->isVisible() && m_focusBefore->isEnabled())
+            m_focusBefore->setFocus();
+        m_focusBefore.clear();
+    }
+}
+
+/// Tells what a button that sends does, or why it cannot.
+void form_settings::enableSender(QPushButton *button, const QString &blocked, const QString &what)
+{
+    button->setEnabled(blocked.isEmpty());
+    button->setToolTip(plainToolTip(blocked.isEmpty() ? what : what + QLatin1String(".\n") + blocked));
+}
+
+void form_settings::finishClosing()
+{
+    if (!m_closePending || m_session->isBusy())
+        return;
+    m_closePending = false;
+    if (m_session->isOutputStopped())
+        m_session->resumeOutput(false);
+    emit settingsClosed();
+}
