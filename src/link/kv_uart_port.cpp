@@ -24,6 +24,7 @@ KvUartPort::KvUartPort(QObject *parent)
 {
     connect(m_workerThread.get(), &QThread::started, this, &KvUartPort::threadStarted, Qt::QueuedConnection);
     connect(this, &QIODevice::readyRead, this, &KvUartPort::onReadyRead, Qt::QueuedConnection);
+    connect(this, &QSerialPort::errorOccurred, this, &KvUartPort::onErrorOccurred, Qt::QueuedConnection);
     connect(m_kboot.get(), &KbootProtocol::kbootRecv, this, &KvUartPort::onKbootRecv);
     connect(m_kboot.get(), &KbootProtocol::serialSend, this, &KvUartPort::serialSend);
     connect(m_secondTimer.get(), &QTimer::timeout, this, &KvUartPort::onTimer1000ms);
@@ -84,8 +85,9 @@ void KvUartPort::threadStarted()
     if (!open(QIODevice::ReadWrite))
         emit errorOpenPort();
     m_secondTimer->start();
-    AppLog::logfile(QtInfoMsg, QStringLiteral("uart-thread=%1 started")
-                                   .arg(reinterpret_cast<quintptr>(QThread::currentThreadId())));
+    AppLog::logfile(
+        QtInfoMsg,
+        QStringLiteral("uart-thread=%1 started").arg(reinterpret_cast<quintptr>(QThread::currentThreadId())));
 }
 
 void KvUartPort::threadStopped()
@@ -116,6 +118,14 @@ void KvUartPort::onReadyRead()
     }
     m_kboot->serial_read(data);
     emit serialRecv(data);
+}
+
+void KvUartPort::onErrorOccurred(QSerialPort::SerialPortError error)
+{
+    // A device that has vanished stays readable and fails at every read, so that an open port would report errors by
+    // the thousand. Queued, because the port may not be closed from inside its own notifier.
+    if (isOpen() && (error == QSerialPort::ReadError || error == QSerialPort::ResourceError))
+        close();
 }
 
 void KvUartPort::onKbootRecv(const QByteArray &payload)

@@ -23,8 +23,9 @@ struct LinkStatistics
 /// thread of their own; while closed, they live in the application's main thread. Always 8N1 without flow control.
 ///
 /// openUART() and closeUART() are called from the main thread. The sending slots are for queued calls (or signals).
-/// Whether opening worked arrives as QSerialPort::errorOccurred() and errorOpenPort(). Signals are emitted in the worker
-/// thread; receivers in the main thread get them queued.
+/// Whether opening worked arrives as QSerialPort::errorOccurred() and errorOpenPort(). A port whose device vanishes
+/// tells so by errorOccurred() and closes itself; the thread runs on until closeUART(). Signals are emitted in the
+/// worker thread; receivers in the main thread get them queued.
 class KvUartPort : public QSerialPort
 {
     Q_OBJECT
@@ -34,8 +35,8 @@ public:
     explicit KvUartPort(QObject *parent = nullptr);
     ~KvUartPort() override;
 
-    /// Starts the worker thread, which opens the port `portName` (a name or an absolute path) at `baud` baud. A port that
-    /// is open is closed first. Returns before the port is open.
+    /// Starts the worker thread, which opens the port `portName` (a name or an absolute path) at `baud` baud. A port
+    /// that is open is closed first. Returns before the port is open.
     void openUART(const QString &portName, int baud);
 
     /// Closes the port in its thread and waits at most 5 s for the thread to end. When it returns, everything that the
@@ -68,6 +69,7 @@ private slots:
     void threadStarted();
     void threadStopped();
     void onReadyRead();
+    void onErrorOccurred(QSerialPort::SerialPortError error);
     void onKbootRecv(const QByteArray &payload);
     void onTimer1000ms();
 
