@@ -34,8 +34,8 @@ public:
     /// Path of the end that the program opens.
     const QString &path() const { return m_path; }
 
-    /// Writes all bytes as the device, as fast as the other end reads. False when that takes more than `timeoutMs`
-    /// without progress.
+    /// Writes all bytes as the device, as fast as the other end reads. False when `timeoutMs` pass without progress, or
+    /// at once when the line is full and nobody has it open.
     bool write(QByteArray bytes, int timeoutMs = 5000)
     {
         while (!bytes.isEmpty()) {
@@ -69,7 +69,7 @@ private:
     bool waitFor(short events, int timeoutMs) const
     {
         pollfd descriptor = {m_master, events, 0};
-        return ::poll(&descriptor, 1, timeoutMs) > 0;
+        return ::poll(&descriptor, 1, timeoutMs) > 0 && (descriptor.revents & events) != 0;
     }
 
     int m_master;
