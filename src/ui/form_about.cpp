@@ -45,9 +45,8 @@ void form_about::fillTexts()
     nameFont.setPointSizeF(font().pointSizeF() * 1.5);
     nameFont.setWeight(QFont::DemiBold);
     m_ui->LBL_name->setFont(nameFont);
-    m_ui->LBL_version->setText(tr("Version %1").arg(appVersion()));
-    m_ui->LBL_toolkit->setText(
-        tr("Qt %1, under the GNU Lesser General Public License, version 3").arg(QLatin1String(qVersion())));
+    m_ui->LBL_version->setText(appVersion());
+    m_ui->LBL_toolkit->setText(tr("Qt %1 (licence: GNU LGPL, version 3)").arg(QLatin1String(qVersion())));
     m_ui->LE_folder->setText(QDir::toNativeSeparators(QDir::currentPath()));
     m_ui->LE_folder->setCursorPosition(0);
 }

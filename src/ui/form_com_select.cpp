@@ -28,9 +28,9 @@ void fillRow(QTreeWidgetItem *item, const port_choice::PortEntry &port)
     }
 }
 
-QString pathProblem(const QString &path)
+QString pathProblem(const QString &path, port_choice::PathState state)
 {
-    switch (port_choice::pathState(path)) {
+    switch (state) {
     case port_choice::PathState::Usable:
         return {};
     case port_choice::PathState::Empty:
@@ -198,13 +198,14 @@ void form_com_select::rowChosen(QTreeWidgetItem *item)
 void form_com_select::updateState()
 {
     const QString path = typedPath();
-    const QString pathText = pathProblem(path);
+    const bool isListed = port_choice::indexOfPath(m_ports, path) >= 0;
+    const port_choice::PathState state = isListed ? port_choice::PathState::Usable : port_choice::pathState(path);
+    const QString pathText = pathProblem(path, state);
     const QString baudText = port_choice::baudProblem(m_ui->CB_baud->currentText());
     m_ui->LBL_pathProblem->setText(pathText);
     m_ui->LBL_baudProblem->setText(baudText);
 
     // A missing device may be there again a moment later: that is told, but does not forbid trying.
-    const port_choice::PathState state = port_choice::pathState(path);
     const bool pathOk = state == port_choice::PathState::Usable || state == port_choice::PathState::Missing;
     m_ui->BTN_open->setEnabled(pathOk && baudText.isEmpty());
     m_ui->BTN_open->setToolTip(plainToolTip(!pathOk ? pathText : baudText));

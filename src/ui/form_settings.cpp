@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QHideEvent>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QShowEvent>
 #include <QSignalBlocker>
 #include <QStyle>
@@ -60,6 +61,17 @@ QString commandText(const Hotkey &hotkey, const ProductProfile &profile)
     return text.trimmed();
 }
 
+/// A line of the reply without the word that its label says already.
+QString withoutKeyword(const QString &line, QLatin1String keyword)
+{
+    if (!line.startsWith(keyword, Qt::CaseInsensitive))
+        return line;
+    qsizetype at = keyword.size();
+    while (at < line.size() && (line[at].isSpace() || line[at] == u':' || line[at] == u'='))
+        ++at;
+    return line.mid(at);
+}
+
 void showText(QLabel *label, const QString &text)
 {
     label->setText(text.isEmpty() ? QStringLiteral("–") : text);
@@ -87,6 +99,9 @@ form_settings::form_settings(QWidget *parent)
     m_ui->PTE_log->setFont(theme::fixedPitchFont(font().pointSizeF()));
     createHotkeys();
 
+    // The log shows its end, also when its window shrinks.
+    QScrollBar *bar = m_ui->PTE_log->verticalScrollBar();
+    connect(bar, &QScrollBar::rangeChanged, bar, [bar](int, int maximum) { bar->setValue(maximum); });
     connect(m_session, &CommandSession::stateChanged, this, &form_settings::updateState);
     connect(m_session, &CommandSession::stateChanged, this, &form_settings::finishClosing);
     connect(m_session, &CommandSession::deviceChanged, this, &form_settings::showDevice);
@@ -205,8 +220,8 @@ void form_settings::showDevice()
     const ProductProfile &profile = m_session->profile();
     showText(m_ui->LBL_product, device.valid ? profile.displayName : tr("No device identified"));
     showText(m_ui->LBL_model, device.modelLine);
-    showText(m_ui->LBL_build, device.buildLine);
-    showText(m_ui->LBL_uuid, device.uuidLine);
+    showText(m_ui->LBL_build, withoutKeyword(device.buildLine, QLatin1String("build")));
+    showText(m_ui->LBL_uuid, withoutKeyword(device.uuidLine, QLatin1String("UUID")));
 
     showEditors(profile);
     for (qsizetype i = 0; i < m_hotkeyButtons.size(); ++i) {
@@ -305,8 +320,10 @@ void form_settings::updateState()
     enableSender(m_ui->BTN_identify, blocked, tr("Stops the output, reads what the device is and resumes the output"));
     const QString saveBlocked = blocked.isEmpty() ? saveProblem() : blocked;
     enableSender(m_ui->BTN_save, saveBlocked, tr("Writes these settings and restarts the device"));
-    m_ui->LBL_saveHint->setText(saveBlocked.isEmpty() ? tr("Saving restarts the device; this takes 2 seconds.")
-                                                      : saveProblem());
+    const bool hasSettings = m_ui->LBL_noSettings->isHidden(); // else that label says what to do
+    const QString hint =
+        saveProblem().isEmpty() ? tr("Saving restarts the device; this takes 2 seconds.") : saveProblem();
+    m_ui->LBL_saveHint->setText(hasSettings ? hint : QString());
 
     if (blocked.isEmpty() && m_focusBefore != nullptr) {
         if (m_focusBefore->isVisible() && m_focusBefore->isEnabled())
