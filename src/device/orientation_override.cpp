@@ -16,8 +16,9 @@ QString settingsKey(ProductKey key)
 OrientationPreset orientation_override::resolve(const DetectedDevice &device, QSettings &settings)
 {
     bool isNumber = false;
-    const auto stored = quint32(settings.value(settingsKey(device.key)).toInt(&isNumber));
-    if (isNumber && stored < kPresetCount)
+    // As a wide integer: toInt() would let the low half of a larger number pass.
+    const qlonglong stored = settings.value(settingsKey(device.key)).toLongLong(&isNumber);
+    if (isNumber && stored >= 0 && stored < kPresetCount)
         return OrientationPreset(stored);
 
     const ProductProfile &profile =
