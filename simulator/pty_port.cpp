@@ -67,16 +67,35 @@ bool PtyPort::checkHost()
 {
     if (m_master < 0)
         return false;
-    pollfd request{m_master, POLLOUT, 0};
+    pollfd request{m_master, POLLIN | POLLOUT, 0};
     const bool hasHost = ::poll(&request, 1, 0) >= 0 && (request.revents & (POLLHUP | POLLERR)) == 0;
-    if (hasHost != m_hasHost) {
-        m_hasHost = hasHost;
-        // Without a host the descriptor is readable all the time, with an error.
-        m_notifier->setEnabled(hasHost);
-        if (!hasHost)
-            ::tcflush(m_master, TCIOFLUSH);
+    if (hasHost && !m_hasHost) {
+        m_hasHost = true;
+        m_notifier->setEnabled(true);
+    } else if (!hasHost) {
+        // A host that only came to write a command may have left again already.
+        if ((request.revents & POLLIN) != 0)
+            readAvailable();
+        if (m_hasHost)
+            loseHost();
     }
     return hasHost;
+}
+
+void PtyPort::loseHost()
+{
+    m_hasHost = false;
+    // Without a host the descriptor is readable all the time, with an error.
+    m_notifier->setEnabled(false);
+    // What the host has not read would meet the next one; what it wrote last is still wanted. The kernel keeps the
+    // unread bytes in two places: on their way, and in the host's end, where only that end can discard them.
+    ::tcflush(m_master, TCOFLUSH);
+    const int slave = ::open(QFile::encodeName(m_slaveName).constData(), O_RDWR | O_NOCTTY | O_CLOEXEC | O_NONBLOCK);
+    if (slave >= 0) {
+        ::tcflush(slave, TCIFLUSH);
+        ::close(slave);
+    }
+    emit hostLeft();
 }
 
 qsizetype PtyPort::write(QByteArrayView bytes)
@@ -90,13 +109,10 @@ void PtyPort::readAvailable()
 {
     char buffer[4096];
     const ssize_t count = ::read(m_master, buffer, sizeof(buffer));
-    if (count > 0) {
+    if (count > 0)
         emit received(QByteArray(buffer, qsizetype(count)));
-    } else if (count == 0 || (errno != EAGAIN && errno != EINTR)) {
-        // The host left. checkHost() watches for the next one, which may be there already.
-        m_notifier->setEnabled(false);
-        m_hasHost = false;
-    }
+    else if (count == 0 || (errno != EAGAIN && errno != EINTR))
+        loseHost(); // the next one, which may be there already, is found by checkHost()
 }
 
 } // namespace kvsim

@@ -41,9 +41,12 @@ public:
 
 signals:
     void received(const QByteArray &bytes);
+    /// The host has closed the port; what it had not read yet is gone.
+    void hostLeft();
 
 private:
     void readAvailable();
+    void loseHost();
 
     int m_master = -1;
     QString m_slaveName;

@@ -24,6 +24,12 @@ class SampleSource
 public:
     SampleSource(MotionKind motion, AxisConvention convention, std::optional<CsvRecording> recording);
 
+    /// Rate of the recording, Hz; nothing for the motion model.
+    std::optional<double> recordedRateHz() const
+    {
+        return m_recording ? std::optional(m_recording->rateHz()) : std::nullopt;
+    }
+
     void setValues(ValueKind values) { m_values = values; }
 
     /// The sample of one node, without id and time stamp. Nodes move differently; a recording gives each node its own

@@ -12,23 +12,22 @@ namespace {
 constexpr int kDefaultRateHz = 100;
 constexpr int kRotatingIds = 250;
 
-int startRate(const Options &options, const std::optional<CsvRecording> &recording)
+int startRate(const Options &options, const SampleSource &source)
 {
-    if (options.rateHz)
-        return *options.rateHz;
-    return recording ? int(std::lround(recording->rateHz())) : kDefaultRateHz;
+    return options.rateHz.value_or(int(std::lround(source.recordedRateHz().value_or(kDefaultRateHz))));
 }
 
 } // namespace
 
 Simulator::Simulator(const Options &options, std::optional<CsvRecording> recording)
-    : m_options(options), m_source(options.motion, options.device->convention(), recording),
-      m_device(*options.device, {startRate(options, recording), options.id, 0}, options.baudRate),
+    : m_options(options), m_source(options.motion, options.device->convention(), std::move(recording)),
+      m_device(*options.device, {startRate(options, m_source), options.id, 0}, options.baudRate),
       m_faults(options.seed), m_line(options.baudRate), m_link(options.linkPath), m_nodes(options.nodes)
 {
     m_timer.setTimerType(Qt::PreciseTimer);
     connect(&m_timer, &QTimer::timeout, this, &Simulator::tick);
     connect(&m_port, &PtyPort::received, this, &Simulator::receive);
+    connect(&m_port, &PtyPort::hostLeft, this, &Simulator::discardUnsent);
 }
 
 bool Simulator::start(QString *error)
@@ -54,6 +53,7 @@ void Simulator::unplug()
 {
     m_link.remove();
     m_port.close();
+    discardUnsent();
 }
 
 Simulator::Statistics Simulator::statistics() const
