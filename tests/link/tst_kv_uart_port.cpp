@@ -21,7 +21,9 @@ class Listener : public QObject
 public:
     explicit Listener(KvUartPort &port)
     {
-        const auto here = [this] { inMainThread = inMainThread && QThread::currentThread() == qApp->thread(); };
+        const auto here = [this] {
+            inMainThread = inMainThread && QThread::currentThread() == QCoreApplication::instance()->thread();
+        };
         connect(&port, &KvUartPort::kbootRecv, this, [this, here](const QByteArray &payload) {
             here();
             payloads.append(payload);
@@ -59,7 +61,7 @@ bool isOpenInItsThread(KvUartPort &port)
 
 bool isIdle(const KvUartPort &port)
 {
-    return port.thread() == qApp->thread() && !port.isOpen();
+    return port.thread() == QCoreApplication::instance()->thread() && !port.isOpen();
 }
 
 void send(KvUartPort &port, const QByteArray &data)
@@ -165,7 +167,7 @@ void TestKvUartPort::livesInAThreadOfItsOwn()
     QVERIFY(pty.write(frames::packet("ab")));
     QTRY_COMPARE(listener.payloads.size(), 1);
     QVERIFY(listener.inMainThread);
-    QVERIFY(emitter != qApp->thread());
+    QVERIFY(emitter != QCoreApplication::instance()->thread());
     QCOMPARE(port.thread(), emitter.load());
     port.closeUART();
     QVERIFY(isIdle(port));
