@@ -17,11 +17,11 @@ enum class ProductKey : quint32 {
     KV108 = 6,
     KV110 = 7,
     MZ14 = 8,
-    LegacyWirelessGateway62_63 = 9,
-    UnknownLegacy = 10, ///< the family is known, the model is not; so are the next two
+    LegacyWirelessGateway62_63 = 9, // NOLINT(readability-identifier-naming)
+    UnknownLegacy = 10,             ///< the family is known, the model is not; so are the next two
     UnknownMz14 = 11,
-    UnknownGateway62_63 = 12,
-    None = 13, ///< no product: the catch-all profile
+    UnknownGateway62_63 = 12, // NOLINT(readability-identifier-naming)
+    None = 13,                ///< no product: the catch-all profile
 };
 
 /// Command dialect of a device.

@@ -197,7 +197,7 @@ private slots:
         peer.replies.insert("A", {"half"});
         QByteArray reply;
         QTimer::singleShot(0, &broker, [&] {
-            QTimer::singleShot(20, qApp, &QCoreApplication::quit);
+            QTimer::singleShot(20, QCoreApplication::instance(), &QCoreApplication::quit);
             reply = broker.executeSequence({{s("A"), 600000}, {s("B"), 600000}});
         });
         QCOMPARE(QCoreApplication::exec(), 0);

@@ -37,7 +37,7 @@ private slots:
         QTest::addColumn<quint32>("key");
         QTest::addColumn<QList<qint32>>("request"); // mode, rate, id
         QTest::addColumn<QString>("commands");
-        const auto row = [](const char *name, ProductKey key, QList<qint32> request, const char *commands) {
+        const auto row = [](const char *name, ProductKey key, const QList<qint32> &request, const char *commands) {
             QTest::newRow(name) << quint32(key) << request << s(commands);
         };
         using enum ProductKey;
