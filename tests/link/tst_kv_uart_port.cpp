@@ -7,6 +7,7 @@
 #include <atomic>
 #include <thread>
 
+#include "app/app_log.h"
 #include "link/kv_uart_port.h"
 #include "support/frames.h"
 #include "support/pty_pair.h"
@@ -225,6 +226,7 @@ void TestKvUartPort::statistics()
     QCOMPARE(seen.txLoadPercent, 10U);
     QCOMPARE(seen.framesLastSecond, 72U);
     QTRY_COMPARE_WITH_TIMEOUT(port.statistics().rxBytesLastSecond, quint64(0), 5000);
+    QCOMPARE(port.statistics().txBytesLastSecond, quint64(0));
     QCOMPARE(port.statistics().framesLastSecond, 0U);
     QCOMPARE(port.statistics().rxLoadPercent, 0U);
 }
@@ -321,6 +323,7 @@ void TestKvUartPort::reopenForgetsHalfAPacket()
 
 void TestKvUartPort::closeRightBehindOpen()
 {
+    AppLog::init();
     PtyPair pty;
     PtyPair other;
     KvUartPort port;
@@ -340,6 +343,16 @@ void TestKvUartPort::closeRightBehindOpen()
     QVERIFY(pty.write(frames::packet("ab")));
     QTRY_COMPARE(listener.payloads, QList<QByteArray>{"ab"});
     QVERIFY(listener.errors.isEmpty());
+    port.closeUART();
+    // No session has started twice, for instance by a start that belonged to the one before.
+    QFile log(QStringLiteral("debug.log"));
+    QVERIFY(log.open(QIODevice::ReadOnly));
+    const QByteArray lines = log.readAll();
+    QVERIFY(!lines.contains("[W]: "));
+    QCOMPARE(lines.count("[I]: uart-thread stopped.\r\n"), 61);
+    QVERIFY(lines.count(" started\r\n") <= 61);
+    static const QRegularExpression started(QStringLiteral("\\[I\\]: uart-thread=\\d+ started\r\n"));
+    QVERIFY(started.match(QString::fromUtf8(lines)).hasMatch());
 }
 
 void TestKvUartPort::closeInAFlood()
