@@ -5,7 +5,8 @@
 namespace kvsim {
 
 /// Attitude from angular rate and specific force: the rate is integrated, and the tilt is pulled slowly towards the
-/// measured direction of gravity while the force is near 1 G. The heading has no reference and starts at 0.
+/// measured direction of gravity while the force is near 1 G. The heading has no reference:
+/// the first attitude is the shortest turn that levels the device.
 class AttitudeFilter
 {
 public:

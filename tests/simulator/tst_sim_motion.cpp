@@ -86,7 +86,8 @@ void TestSimMotion::eulerAndQuaternionAgree()
     QFETCH(AxisConvention, convention);
     QFETCH(double, phase);
     const bool flu = convention == AxisConvention::FluZyx;
-    for (double t = 0.0; t < 12.0; t += 0.37) {
+    for (int step = 0; step < 33; ++step) {
+        const double t = 0.37 * step;
         const ImuSample s = MotionModel(kind, convention).sampleAt(t, phase);
         const Matrix matrix = product(product(about(2, double(s.yaw)), about(flu ? 1 : 0, double(s.pitch))),
                                       about(flu ? 0 : 1, double(s.roll)));
@@ -107,7 +108,8 @@ void TestSimMotion::rateIsDerivativeOfAttitude()
     const MotionModel model(kind, convention);
     constexpr double kStep = 0.004;
     double largest = 0.0;
-    for (double t = 0.1; t < 12.0; t += 0.29) {
+    for (int step = 0; step < 41; ++step) {
+        const double t = 0.1 + 0.29 * step;
         const Quaternion before = attitudeOf(model.sampleAt(t - kStep, phase));
         const Quaternion after = attitudeOf(model.sampleAt(t + kStep, phase));
         Quaternion turn = conjugated(before) * after;
@@ -128,7 +130,8 @@ void TestSimMotion::fieldsAreThoseOfTheWorld()
     QFETCH(AxisConvention, convention);
     QFETCH(double, phase);
     const Vector3 north = convention == AxisConvention::FluZyx ? Vector3{20, 0, -45} : Vector3{0, 20, -45};
-    for (double t = 0.0; t < 12.0; t += 0.43) {
+    for (int step = 0; step < 28; ++step) {
+        const double t = 0.43 * step;
         const ImuSample s = MotionModel(kind, convention).sampleAt(t, phase);
         QVERIFY(std::abs(lengthOf(toDoubles(s.acc)) - 1.0) < 1e-6);
         QVERIFY(distance(rotated(attitudeOf(s), toDoubles(s.acc)), {0, 0, 1}) < 1e-5);
