@@ -125,6 +125,7 @@ void TestAppLog::manyThreads()
         return QStringLiteral("thread=%1 line=%2 ").arg(thread).arg(line) + QString(100, QChar(u'a' + thread));
     };
     std::vector<std::thread> threads;
+    threads.reserve(kThreads);
     for (int thread = 0; thread < kThreads; ++thread) {
         threads.emplace_back([thread, &text] {
             for (int line = 0; line < kLines; ++line)

@@ -172,6 +172,7 @@ void TestMessageLog::manyThreads()
     {
         const Installed installed;
         std::vector<std::thread> threads;
+        threads.reserve(kThreads);
         for (int thread = 0; thread < kThreads; ++thread) {
             threads.emplace_back([thread, &tail] {
                 for (int line = 0; line < kLines; ++line)
