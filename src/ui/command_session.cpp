@@ -63,6 +63,8 @@ QStringList CommandSession::readInfo()
 
 QStringList CommandSession::readInfoNow()
 {
+    if (m_broker == nullptr)
+        return {};
     const QPointer<CommandSession> self(this);
     const quint64 connection = m_connection;
     const QList<SettingsCommand> sequence = settings_command_adapter::buildReadInfoSequence(byteTimeMs());
