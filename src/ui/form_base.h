@@ -143,6 +143,7 @@ private:
     qint64 m_lastFrameMs = -1;     ///< on m_clock, -1: none in this connection
     qint64 m_lastFollowMs = 0;     ///< on m_clock
     QString m_shownStatus;
+    qint64 m_statusHeldUntilMs = 0; ///< on m_clock: till then the text that names the port stays
     QList<quint8> m_shownNodeIds;
     std::optional<quint8> m_chosenNodeId; ///< the node that the user picked, followed when its place changes
 };

@@ -26,6 +26,7 @@
 namespace {
 
 constexpr int kConnectedTextDelayMs = 200;
+constexpr int kConnectedTextHoldMs = 1500;
 
 } // namespace
 
@@ -71,8 +72,10 @@ void form_base::open_port()
     enable_all_page(true);
 
     QTimer::singleShot(kConnectedTextDelayMs, this, [this, session = m_session, portName, baudRate] {
-        if (session == m_session && m_dispatcher->snapshot().link_connected)
-            m_statusLabel->setText(tr("Connected... %1, %2 baud").arg(portName).arg(baudRate));
+        if (session != m_session)
+            return;
+        m_statusHeldUntilMs = m_clock.elapsed() + kConnectedTextHoldMs;
+        m_statusLabel->setText(tr("Connected... %1, %2 baud").arg(portName).arg(baudRate));
     });
 }
 

@@ -86,10 +86,10 @@ void form_base::run_uart_UItmr()
 void form_base::update_status_bar_text(const StreamSnapshot &snapshot)
 {
     const QString text = status_text::statusBar(snapshot, m_liveStreamSkipLogged);
-    if (text == m_shownStatus) // leaves the text that names the port until the state changes
+    if (text == m_shownStatus && m_clock.elapsed() < m_statusHeldUntilMs)
         return;
     m_shownStatus = text;
-    m_statusLabel->setText(text);
+    setTextIfChanged(m_statusLabel, text);
 }
 
 void form_base::updateConnectionPanel(const StreamSnapshot &snapshot)

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <QApplication>
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include "ui/form_base.h"
+#include "ui/form_com_select.h"
+#include "ui/form_settings.h"
+#include "ui/sensor_data_panel.h"
+
+/// A user's desk: the real main window in a working folder of its own, and what the user does and sees there.
+class Desk
+{
+public:
+    Desk()
+    {
+        QDir::setCurrent(m_folder.path());
+        window = std::make_unique<form_base>();
+        window->show();
+    }
+    ~Desk()
+    {
+        window.reset();
+        QDir::setCurrent(QDir::rootPath());
+    }
+    Q_DISABLE_COPY_MOVE(Desk)
+
+    template <typename T> T *find(const char *name) const { return window->findChild<T *>(QLatin1String(name)); }
+    QString label(const char *name) const { return find<QLabel>(name)->text(); }
+    QString panel() const { return window->findChild<SensorDataPanel *>()->text(); }
+    QMessageBox *errorBox() const { return window->findChild<QMessageBox *>(); }
+    form_settings *settings() const { return window->findChild<form_settings *>(); }
+    bool isOpen() const { return find<QWidget>("page_live")->isVisible(); }
+
+    /// The value of a line of the panel, such as "Acceleration X": "+0.250 G".
+    QString value(const char *name) const
+    {
+        const QString start = QLatin1String(name) + u'\t';
+        for (const QString &line : panel().split(u'\n')) {
+            if (line.startsWith(start))
+                return line.mid(start.size());
+        }
+        return QStringLiteral("not shown");
+    }
+
+    /// Opens a port as a user does: the action, the path typed into the dialog, the button. Returns when identification
+    /// has ended.
+    void open(const QString &path, int baud = 921600)
+    {
+        QTimer typist;
+        QObject::connect(&typist, &QTimer::timeout, &typist, [&] {
+            auto *dialog = window->findChild<form_com_select *>();
+            if (!dialog->isVisible())
+                return;
+            typist.stop();
+            dialog->findChild<QLineEdit *>(QStringLiteral("LE_path"))->setText(path);
+            dialog->findChild<QComboBox *>(QStringLiteral("CB_baud"))->setCurrentText(QString::number(baud));
+            auto *button = dialog->findChild<QPushButton *>(QStringLiteral("BTN_open"));
+            if (button->isEnabled())
+                button->click();
+            else
+                dialog->reject();
+        });
+        typist.start(5);
+        find<QAction>("action_serial_open")->trigger();
+    }
+
+    QByteArray log() const
+    {
+        QFile file(QStringLiteral("debug.log"));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    std::unique_ptr<form_base> window;
+
+private:
+    QTemporaryDir m_folder;
+};
