@@ -102,8 +102,8 @@ bool checkLayout(const QCommandLineParser &parser, Options &options, QString *er
         return true;
     if (!choose(kLayouts, parser.value(option), options.layout, option, error))
         return false;
-    const bool batch = options.layout == LayoutChoice::Batch62 || options.layout == LayoutChoice::Batch63 ||
-                       options.layout == LayoutChoice::Dynamic;
+    const bool batch = options.layout == LayoutChoice::Batch62 || options.layout == LayoutChoice::Batch63
+                       || options.layout == LayoutChoice::Dynamic;
     if (batch != gateway)
         *error = gateway ? QStringLiteral("the gateway sends the layouts 62, 63 and dynamic")
                          : QStringLiteral("a module sends the layouts 91, 93 and items");
@@ -144,13 +144,13 @@ std::optional<Options> parseOptions(const QStringList &arguments, QString *error
     qint64 id = options.id;
     qint64 seed = qint64(options.seed);
     const bool ok =
-        checkLayout(parser, options, error) &&
-        choose(kMotions, parser.value(QStringLiteral("motion")), options.motion, QStringLiteral("motion"), error) &&
-        readNumber(parser, QStringLiteral("nodes"), 1, kMaxNodes, nodes, error) &&
-        readNumber(parser, QStringLiteral("rate"), 1, kMaxRateHz, rate, error) &&
-        readNumber(parser, QStringLiteral("baud"), 0, 100'000'000, baud, error) &&
-        readNumber(parser, QStringLiteral("id"), 0, 255, id, error) &&
-        readNumber(parser, QStringLiteral("seed"), 0, std::numeric_limits<qint64>::max(), seed, error);
+        checkLayout(parser, options, error)
+        && choose(kMotions, parser.value(QStringLiteral("motion")), options.motion, QStringLiteral("motion"), error)
+        && readNumber(parser, QStringLiteral("nodes"), 1, kMaxNodes, nodes, error)
+        && readNumber(parser, QStringLiteral("rate"), 1, kMaxRateHz, rate, error)
+        && readNumber(parser, QStringLiteral("baud"), 0, 100'000'000, baud, error)
+        && readNumber(parser, QStringLiteral("id"), 0, 255, id, error)
+        && readNumber(parser, QStringLiteral("seed"), 0, std::numeric_limits<qint64>::max(), seed, error);
     if (!ok)
         return {};
     options.nodes = options.device->isGateway() ? int(nodes) : 1;

@@ -23,8 +23,8 @@ bool PortLink::pointTo(const QString &target, QString *error)
     const QByteArray path = QFile::encodeName(m_path);
     const QByteArray temporary = path + '.' + QByteArray::number(qint64(::getpid()));
     ::unlink(temporary.constData());
-    if (::symlink(QFile::encodeName(target).constData(), temporary.constData()) != 0 ||
-        std::rename(temporary.constData(), path.constData()) != 0) {
+    if (::symlink(QFile::encodeName(target).constData(), temporary.constData()) != 0
+        || std::rename(temporary.constData(), path.constData()) != 0) {
         *error = QStringLiteral("cannot make the link %1: %2").arg(m_path, QString::fromLocal8Bit(strerror(errno)));
         ::unlink(temporary.constData());
         return false;

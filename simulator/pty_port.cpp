@@ -31,8 +31,8 @@ bool PtyPort::open(QString *error)
         name = ::ptsname(m_master);
     const int slave = name != nullptr ? ::open(name, O_RDWR | O_NOCTTY | O_CLOEXEC) : -1;
     termios settings{};
-    const bool ready = slave >= 0 && ::tcgetattr(slave, &settings) == 0 &&
-                       ::fcntl(m_master, F_SETFL, ::fcntl(m_master, F_GETFL) | O_NONBLOCK) == 0;
+    const bool ready = slave >= 0 && ::tcgetattr(slave, &settings) == 0
+                       && ::fcntl(m_master, F_SETFL, ::fcntl(m_master, F_GETFL) | O_NONBLOCK) == 0;
     if (ready) {
         ::cfmakeraw(&settings);
         ::tcsetattr(slave, TCSANOW, &settings);

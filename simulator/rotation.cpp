@@ -75,8 +75,8 @@ double lengthOf(const Vector3 &v)
 
 Quaternion quaternionOf(const EulerAngles &angles, AxisConvention convention)
 {
-    return rotationAbout(kYawAxis, angles.yaw) * rotationAbout(pitchAxis(convention), angles.pitch) *
-           rotationAbout(rollAxis(convention), angles.roll);
+    return rotationAbout(kYawAxis, angles.yaw) * rotationAbout(pitchAxis(convention), angles.pitch)
+           * rotationAbout(rollAxis(convention), angles.roll);
 }
 
 EulerAngles eulerOf(const Quaternion &q, AxisConvention convention)

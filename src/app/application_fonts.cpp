@@ -49,9 +49,9 @@ void application_fonts::loadAll()
 {
     const QDir folder(QCoreApplication::applicationDirPath() + QLatin1String("/fonts"));
     if (folder.exists()) {
-        const QStringList names = folder.entryList({QStringLiteral("*.ttf"), QStringLiteral("*.otf"),
-                                                    QStringLiteral("*.ttc"), QStringLiteral("*.otc")},
-                                                   QDir::Files, QDir::Name | QDir::IgnoreCase);
+        const QStringList names = folder.entryList(
+            {QStringLiteral("*.ttf"), QStringLiteral("*.otf"), QStringLiteral("*.ttc"), QStringLiteral("*.otc")},
+            QDir::Files, QDir::Name | QDir::IgnoreCase);
         for (const QString &name : names)
             loadApplicationFontFile(folder.filePath(name), true);
     }

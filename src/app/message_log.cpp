@@ -43,11 +43,11 @@ QLatin1String levelName(QtMsgType type)
 void handleMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
     if (std::FILE *file = logFile().get()) {
-        const QByteArray line = QStringLiteral("[%1] %2: %3 (%4:%5)\n")
-                                    .arg(QTime::currentTime().toString(u"hh:mm:ss.zzz"), levelName(type), message,
-                                         QString::fromUtf8(context.file ? context.file : ""),
-                                         QString::number(context.line))
-                                    .toUtf8();
+        const QByteArray line =
+            QStringLiteral("[%1] %2: %3 (%4:%5)\n")
+                .arg(QTime::currentTime().toString(u"hh:mm:ss.zzz"), levelName(type), message,
+                     QString::fromUtf8(context.file ? context.file : ""), QString::number(context.line))
+                .toUtf8();
         std::fwrite(line.constData(), 1, size_t(line.size()), file);
         std::fflush(file);
     }

@@ -8,11 +8,11 @@ namespace settings_keys {
 
 constexpr QLatin1String kFile("param.ini");
 
-constexpr QLatin1String kFontSize("Main/FONTSIZE");         ///< interface font size, points
-constexpr QLatin1String kGeometry("Main/GEOMETRY");         ///< main window's size and place
-constexpr QLatin1String kPort("SERIAL/PORT");               ///< last port, name or path
-constexpr QLatin1String kBaudRate("SERIAL/BAUDRATE");       ///< last baud rate
-constexpr QLatin1String kPortVendor("SERIAL/VENDOR_ID");    ///< USB identity of the last port, decimal
+constexpr QLatin1String kFontSize("Main/FONTSIZE");      ///< interface font size, points
+constexpr QLatin1String kGeometry("Main/GEOMETRY");      ///< main window's size and place
+constexpr QLatin1String kPort("SERIAL/PORT");            ///< last port, name or path
+constexpr QLatin1String kBaudRate("SERIAL/BAUDRATE");    ///< last baud rate
+constexpr QLatin1String kPortVendor("SERIAL/VENDOR_ID"); ///< USB identity of the last port, decimal
 constexpr QLatin1String kPortProduct("SERIAL/PRODUCT_ID");
 constexpr QLatin1String kPortSerial("SERIAL/SERIAL_NUMBER");
 

@@ -36,7 +36,7 @@ QMenu::item:disabled { color: #9CA3AF; background: transparent; }
 QMenu::separator { height: 1px; background: #E5E7EB; margin: 4px 8px; }
 QToolBar { background: #FFFFFF; border: none; border-bottom: 1px solid #E5E7EB; padding: 6px 8px; spacing: 8px; }
 QToolBar::separator { background: #E5E7EB; width: 1px; margin: 4px 4px; }
-QStatusBar { background: #FFFFFF; border-top: 1px solid #E5E7EB; }
+QStatusBar { background: #FFFFFF; border-top: 1px solid #E5E7EB; padding: 0 8px; }
 QStatusBar::item { border: none; }
 QToolTip { background: #111827; color: #FFFFFF; border: 1px solid #111827; padding: 4px 6px; }
 
@@ -58,16 +58,25 @@ QLineEdit, QComboBox, QSpinBox, QPlainTextEdit {
     selection-background-color: #2563EB; selection-color: #FFFFFF; }
 QLineEdit:focus, QComboBox:focus, QSpinBox:focus, QPlainTextEdit:focus { border-color: #2563EB; }
 QLineEdit:disabled, QComboBox:disabled, QSpinBox:disabled { background: #F9FAFB; color: #9CA3AF; }
+QComboBox::drop-down { subcontrol-origin: padding; subcontrol-position: center right; width: 24px; border: none; }
+QComboBox::down-arrow { image: url(:/images/chevron-down.png); width: 12px; height: 12px; }
+QComboBox QAbstractItemView { border: 1px solid #D1D5DB; selection-background-color: #EFF6FF;
+    selection-color: #1D4ED8; }
+QSpinBox::up-button { subcontrol-position: top right; width: 20px; border: none; }
+QSpinBox::down-button { subcontrol-position: bottom right; width: 20px; border: none; }
+QSpinBox::up-arrow { image: url(:/images/chevron-up.png); width: 10px; height: 10px; }
+QSpinBox::down-arrow { image: url(:/images/chevron-down.png); width: 10px; height: 10px; }
 QTreeView, QListView, QTableView {
     background: #FFFFFF; border: 1px solid #E5E7EB; border-radius: 6px; outline: none;
     selection-background-color: #EFF6FF; selection-color: #1D4ED8; }
-QTreeView::item, QListView::item { padding: 4px 6px; }
+QTreeView::item, QListView::item { padding: 4px 6px; border: 0; }
 QTreeView::item:selected, QListView::item:selected { background: #EFF6FF; color: #1D4ED8; }
 QHeaderView::section {
     background: #FFFFFF; color: #4B5563; border: none; border-bottom: 1px solid #E5E7EB; padding: 5px 8px; }
 
 QFrame[card="true"] { background: #FFFFFF; border: 1px solid #E5E7EB; border-radius: 8px; }
 QLabel[role="title"] { color: #4B5563; font-weight: 600; }
+QLabel[role="headline"] { font-weight: 600; font-size: 16pt; }
 QLabel[role="secondary"] { color: #4B5563; }
 QLabel[role="warning"] { color: #B45309; }
 

@@ -78,9 +78,9 @@ DisplayAttitude attitude_convention::toDisplayAttitude(float roll, float pitch, 
     if (preset != OrientationPreset::RfuEnu312 && preset != OrientationPreset::FluNwuZyx)
         return {QQuaternion(), kIdentityAxes};
     const float turn = preset == OrientationPreset::FluNwuZyx ? -yaw : yaw;
-    const QQuaternion quaternion = QQuaternion::fromAxisAndAngle(0, 1, 0, turn) *
-                                   QQuaternion::fromAxisAndAngle(0, 0, 1, pitch) *
-                                   QQuaternion::fromAxisAndAngle(1, 0, 0, roll);
+    const QQuaternion quaternion = QQuaternion::fromAxisAndAngle(0, 1, 0, turn)
+                                   * QQuaternion::fromAxisAndAngle(0, 0, 1, pitch)
+                                   * QQuaternion::fromAxisAndAngle(1, 0, 0, roll);
     return {quaternion, axesOf(preset)};
 }
 

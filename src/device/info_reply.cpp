@@ -26,8 +26,8 @@ constexpr qsizetype kMaxVainChecks = 4;
 /// Size of the packet that the header at `offset` announces, 0 if there is no header or the packet is not complete.
 qsizetype announcedSize(const QByteArray &bytes, qsizetype offset)
 {
-    if (bytes.size() - offset < kHeaderSize || quint8(bytes[offset]) != kStartByte ||
-        quint8(bytes[offset + 1]) != kTypeData)
+    if (bytes.size() - offset < kHeaderSize || quint8(bytes[offset]) != kStartByte
+        || quint8(bytes[offset + 1]) != kTypeData)
         return 0;
     const qsizetype size = kHeaderSize + qFromLittleEndian<quint16>(bytes.constData() + offset + kLengthOffset);
     return size <= kMaxPacketSize && size <= bytes.size() - offset ? size : 0;
@@ -57,8 +57,8 @@ QByteArray withoutPackets(const QByteArray &reply)
 
 bool isBad(QChar character)
 {
-    return character == QChar::ReplacementCharacter ||
-           (character.category() == QChar::Other_Control && character != u'\t');
+    return character == QChar::ReplacementCharacter
+           || (character.category() == QChar::Other_Control && character != u'\t');
 }
 
 /// The readable part of one line; empty if there is none.

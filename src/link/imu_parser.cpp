@@ -101,8 +101,7 @@ class PayloadScan
 public:
     PayloadScan(const QByteArray &payload, DecodedFrame &frame)
         : m_cursor(payload.constData(), payload.size()), m_frame(frame)
-    {
-    }
+    {}
 
     void run()
     {

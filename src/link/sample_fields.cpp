@@ -6,8 +6,8 @@ namespace {
 
 using namespace payload_item;
 
-constexpr SampleFields kInertial = SampleFields(SampleField::Acceleration) | SampleField::AngularRate |
-                                   SampleField::MagneticField | SampleField::Quaternion;
+constexpr SampleFields kInertial = SampleFields(SampleField::Acceleration) | SampleField::AngularRate
+                                   | SampleField::MagneticField | SampleField::Quaternion;
 constexpr SampleFields kFull =
     kInertial | SampleField::Euler | SampleField::Pressure | SampleField::Temperature | SampleField::Time;
 

@@ -81,10 +81,9 @@ void StreamDispatcher::setSelectedNodeIndex(int index)
         return;
     m_snapshot.selected_node_index = index;
     updateSelectedNode();
-    AppLog::logfile(QtDebugMsg,
-                    QStringLiteral("stream selected_node requested=%1 effective=%2 current=%3")
-                        .arg(QString::number(index), QString::number(m_snapshot.selected_node_index),
-                             selectedNodeText()));
+    AppLog::logfile(QtDebugMsg, QStringLiteral("stream selected_node requested=%1 effective=%2 current=%3")
+                                    .arg(QString::number(index), QString::number(m_snapshot.selected_node_index),
+                                         selectedNodeText()));
     emit streamSnapshotChanged(m_snapshot);
 }
 

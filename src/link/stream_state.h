@@ -17,7 +17,7 @@ enum class TransportRole : quint32 {
 namespace product_profile {
 /// Text of a role for logs and files: "DirectSingleNode", "WirelessGateway", "RemoteWirelessNode", else "Unknown".
 QString toString(TransportRole role);
-}
+} // namespace product_profile
 
 /// The one description of the stream's state that status displays bind to.
 struct StreamSnapshot

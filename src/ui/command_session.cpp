@@ -134,8 +134,8 @@ void CommandSession::runHotkey(SettingsHotkeyAction action)
     emit outcome({}, false);
     const QPointer<CommandSession> self(this);
     m_outputStopped =
-        action == SettingsHotkeyAction::StopOutput ||
-        (m_outputStopped && action != SettingsHotkeyAction::Reset && action != SettingsHotkeyAction::Reboot);
+        action == SettingsHotkeyAction::StopOutput
+        || (m_outputStopped && action != SettingsHotkeyAction::Reset && action != SettingsHotkeyAction::Reboot);
     execute(text, replyWindowMs());
     if (self != nullptr)
         end();

@@ -32,6 +32,8 @@ namespace {
 constexpr int kUiTickMs = 20;
 constexpr int kRetryMs = 2000;
 
+constexpr int kAdiHeight = 296;
+
 constexpr int kFontSmall = 9;
 constexpr int kFontMedium = 10;
 constexpr int kFontBig = 12;
@@ -51,10 +53,11 @@ form_base::form_base(QWidget *parent) : QMainWindow(parent), m_ui(std::make_uniq
     setUpPanels();
 
     AppLog::init();
-    AppLog::logfile(QtInfoMsg, QStringLiteral("ui-thread=%1 started")
-                                   .arg(reinterpret_cast<quintptr>(QThread::currentThreadId())));
+    AppLog::logfile(QtInfoMsg,
+                    QStringLiteral("ui-thread=%1 started").arg(reinterpret_cast<quintptr>(QThread::currentThreadId())));
     if (!QFileInfo(QDir::currentPath()).isWritable())
-        qWarning().noquote() << "The working folder cannot be written: no settings and logs are kept" << QDir::currentPath();
+        qWarning().noquote() << "The working folder cannot be written: no settings and logs are kept"
+                             << QDir::currentPath();
 
     m_port = std::make_unique<KvUartPort>();
     m_portDialog = new form_com_select(this);
@@ -66,6 +69,8 @@ form_base::form_base(QWidget *parent) : QMainWindow(parent), m_ui(std::make_uniq
     m_ui->layout_adi->addWidget(m_adi);
     m_angles = new ValueStrip(this);
     m_ui->layout_angles->addWidget(m_angles);
+    m_ui->layout_card_attitude->addStretch(1);
+    m_adi->setMinimumHeight(kAdiHeight);
 
     m_parser = new ImuParser(this);
     m_dispatcher = new StreamDispatcher(this);
@@ -119,6 +124,7 @@ void form_base::setUpPanels()
     m_ui->statusbar->addPermanentWidget(m_nodeLabel);
     m_ui->statusbar->addPermanentWidget(m_trafficLabel);
     m_ui->statusbar->setSizeGripEnabled(false);
+    m_ui->statusbar->setContentsMargins(theme::kGrid, 0, theme::kGrid, 0);
     m_ui->label_icon->setPixmap(QIcon(QStringLiteral(":/images/mainicon.png")).pixmap(64, 64));
 
     auto *language = new QToolButton(this);
@@ -147,7 +153,8 @@ void form_base::setUpActions()
     m_connectButton->setFocusPolicy(Qt::StrongFocus);
     m_ui->toolbar->addWidget(m_connectButton);
     m_ui->toolbar->addSeparator();
-    m_ui->toolbar->addActions({m_ui->action_export_data, dashboard, m_ui->actionFFT_Chart, m_ui->action3D_view, gateway});
+    m_ui->toolbar->addActions(
+        {m_ui->action_export_data, dashboard, m_ui->actionFFT_Chart, m_ui->action3D_view, gateway});
     m_ui->toolbar->addSeparator();
     m_ui->toolbar->addActions({m_ui->actionDevice_Settiing, m_ui->action_firmware_update});
 

@@ -37,8 +37,8 @@ class form_base;
 /// port, has the product identified, runs the 20 ms tick and routes decoded data to the views; it decodes, formats and
 /// draws nothing itself.
 ///
-/// Identification waits in nested event loops, so every handler may run inside a wait of another: a session number tells
-/// a continued handler whether the connection it belongs to is still the one that is open.
+/// Identification waits in nested event loops, so every handler may run inside a wait of another: a session number
+/// tells a continued handler whether the connection it belongs to is still the one that is open.
 class form_base : public QMainWindow
 {
     Q_OBJECT

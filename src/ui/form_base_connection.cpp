@@ -132,7 +132,8 @@ void form_base::onSerialError(QSerialPort::SerialPortError error)
     if (!m_dispatcher->snapshot().link_connected) // an echo of a failure that has been told
         return;
     const QString portName = m_portDialog->portName();
-    const QString reason = serial_error_text::describe(error, serial_error_text::facts(portName, m_portDialog->baudRate()));
+    const QString reason =
+        serial_error_text::describe(error, serial_error_text::facts(portName, m_portDialog->baudRate()));
     on_action_serial_stop_triggered();
     AppLog::logfile(QtWarningMsg, QStringLiteral("failed to open serial port."));
     showPortError(portName, reason);

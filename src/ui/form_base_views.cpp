@@ -2,7 +2,8 @@
 
 #include "ui/form_base.h"
 
-#include <QToolButton>
+#include <QLabel>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -24,6 +25,21 @@ constexpr qint64 kStreamTimeoutMs = 2500; // longer than the pause between sampl
 constexpr qint64 kSettledMs = 2500;
 // A gateway whose nodes change places with every batch must not make the selection, and its log line, follow each time.
 constexpr qint64 kFollowMs = 500;
+
+/// A path that may be broken into lines behind its separators.
+QString breakable(QString path)
+{
+    static const QRegularExpression separators(QStringLiteral("([/_-])"));
+    return path.replace(separators, QStringLiteral("\\1\u200B"));
+}
+
+/// The line without the word that stands before it as a caption anyway.
+QString withoutCaption(const QString &line)
+{
+    static const QRegularExpression caption(QStringLiteral("^(build|uuid)\\s*[:=]?\\s*"),
+                                            QRegularExpression::CaseInsensitiveOption);
+    return QString(line).remove(caption);
+}
 
 void setTextIfChanged(QLabel *label, const QString &text)
 {
@@ -95,7 +111,7 @@ void form_base::update_status_bar_text(const StreamSnapshot &snapshot)
 void form_base::updateConnectionPanel(const StreamSnapshot &snapshot)
 {
     setTextIfChanged(m_ui->label_connection,
-                     status_text::connectionPanel(m_portDialog->portName(), m_portDialog->baudRate(),
+                     status_text::connectionPanel(breakable(m_portDialog->portName()), m_portDialog->baudRate(),
                                                   m_dispatcher->currentFrame(), snapshot.measured_frame_rate,
                                                   isStreaming(), m_openedAt.elapsed() > kSettledMs));
     const bool isGateway = snapshot.transport_role == TransportRole::WirelessGateway;
@@ -139,8 +155,7 @@ void form_base::refresh_selected_node_views()
         return;
     }
     m_adi->setAttitude(m_attitude);
-    show_text(m_dispatcher->currentSelectedNode(),
-              {m_attitude.euler.x(), m_attitude.euler.y(), m_attitude.euler.z()});
+    show_text(m_dispatcher->currentSelectedNode(), {m_attitude.euler.x(), m_attitude.euler.y(), m_attitude.euler.z()});
 }
 
 void form_base::show_text(const node_data_t &node, const std::array<float, 3> &euler)
@@ -148,8 +163,8 @@ void form_base::show_text(const node_data_t &node, const std::array<float, 3> &e
     SensorDataModel model;
     model.node = node;
     model.fields = sampleFields(m_dispatcher->currentFrame());
-    model.showSummary = m_dispatcher->snapshot().transport_role == TransportRole::WirelessGateway
-                        || currentProfile().showSensorSummary;
+    model.showSummary =
+        m_dispatcher->snapshot().transport_role == TransportRole::WirelessGateway || currentProfile().showSensorSummary;
     m_panel->show(model);
     setTextIfChanged(m_nodeLabel, tr("Node ID:%1").arg(node.id));
     QStringList angles;
@@ -165,8 +180,8 @@ void form_base::showDevice()
     const auto orDash = [](const QString &text) { return text.isEmpty() ? value_format::absent() : text; };
     m_ui->label_product->setText(m_device.valid ? currentProfile().displayName : value_format::absent());
     m_ui->label_model->setText(orDash(m_device.modelLine));
-    m_ui->label_build->setText(orDash(m_device.buildLine));
-    m_ui->label_uuid->setText(orDash(m_device.uuidLine));
+    m_ui->label_build->setText(orDash(withoutCaption(m_device.buildLine)));
+    m_ui->label_uuid->setText(orDash(withoutCaption(m_device.uuidLine)));
     for (QLabel *label : {m_ui->label_product, m_ui->label_model, m_ui->label_build, m_ui->label_uuid})
         label->setToolTip(label->text());
     m_ui->combo_mounting->setCurrentIndex(m_preset == OrientationPreset::FluNwuZyx ? 1 : 0);

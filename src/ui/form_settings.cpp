@@ -243,8 +243,8 @@ void form_settings::showEditors(const ProductProfile &profile)
     m_ui->CB_rate->setVisible(profile.supportsOutputRate);
     m_ui->LBL_mode->setVisible(profile.supportsAttitudeMode);
     m_ui->CB_mode->setVisible(profile.supportsAttitudeMode);
-    m_ui->LBL_noSettings->setVisible(!profile.supportsNodeId && !profile.supportsOutputRate &&
-                                     !profile.supportsAttitudeMode);
+    m_ui->LBL_noSettings->setVisible(!profile.supportsNodeId && !profile.supportsOutputRate
+                                     && !profile.supportsAttitudeMode);
 
     const bool rateIsFixed = profile.supportsOutputRate && !writesOutputRate(profile);
     const QString rateText = rateIsFixed ? tr("Saving does not change the rate of this device.") : QString();

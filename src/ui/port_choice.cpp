@@ -46,8 +46,8 @@ bool readId(const QSettings &settings, QLatin1String key, quint16 *id)
 
 bool sameDevice(const port_choice::PortEntry &a, const port_choice::PortEntry &b)
 {
-    return a.hasUsbId && b.hasUsbId && a.vendorId == b.vendorId && a.productId == b.productId &&
-           a.serialNumber == b.serialNumber;
+    return a.hasUsbId && b.hasUsbId && a.vendorId == b.vendorId && a.productId == b.productId
+           && a.serialNumber == b.serialNumber;
 }
 
 } // namespace
@@ -103,8 +103,8 @@ Remembered read(const QSettings &settings)
     Remembered remembered;
     remembered.port.path = readText(settings, settings_keys::kPort, kMaximumPathLength);
     remembered.port.serialNumber = readText(settings, settings_keys::kPortSerial, kMaximumSerialNumberLength);
-    remembered.port.hasUsbId = readId(settings, settings_keys::kPortVendor, &remembered.port.vendorId) &&
-                               readId(settings, settings_keys::kPortProduct, &remembered.port.productId);
+    remembered.port.hasUsbId = readId(settings, settings_keys::kPortVendor, &remembered.port.vendorId)
+                               && readId(settings, settings_keys::kPortProduct, &remembered.port.productId);
     if (const int baud = parseBaud(settings.value(settings_keys::kBaudRate).toString()))
         remembered.baudRate = baud;
     return remembered;

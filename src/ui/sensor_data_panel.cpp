@@ -45,8 +45,7 @@ void showOn(ValueCard *card, bool present, std::span<const float> values)
 } // namespace
 
 SensorDataPanel::SensorDataPanel(QWidget *parent)
-    : QWidget(parent),
-      m_acceleration(new ValueCard(vectorChannels(QStringLiteral("|a|")), {3, 2, 1.0}, this)),
+    : QWidget(parent), m_acceleration(new ValueCard(vectorChannels(QStringLiteral("|a|")), {3, 2, 1.0}, this)),
       m_angularRate(new ValueCard(vectorChannels(QStringLiteral("|\u03C9|")), {2, 4, 10.0}, this)),
       m_magneticField(new ValueCard(vectorChannels(QStringLiteral("|m|")), {1, 4, 50.0}, this)),
       m_quaternion(new ValueCard(quaternionChannels(), {4, 1, 1.0}, this)), m_summaryCard(new QFrame(this)),
@@ -113,8 +112,7 @@ void SensorDataPanel::show(const SensorDataModel &model)
     const auto orDash = [&model](SampleField field, const QString &text) {
         return model.fields.testFlag(field) ? text : value_format::absent();
     };
-    m_summary->setTexts({QString::number(node.id),
-                         orDash(SampleField::Time, value_format::deviceTime(node.time_ms)),
+    m_summary->setTexts({QString::number(node.id), orDash(SampleField::Time, value_format::deviceTime(node.time_ms)),
                          orDash(SampleField::Temperature, value_format::number(double(node.temperature), 1)),
                          orDash(SampleField::Pressure, value_format::number(double(node.pressure), 1))});
     m_summaryCard->setVisible(model.showSummary);

@@ -15,8 +15,8 @@ class ValueStrip;
 struct SensorDataModel
 {
     node_data_t node;
-    SampleFields fields;          ///< what the stream carries; all else is a dash
-    bool showSummary = false;     ///< the row with node, time, temperature and pressure
+    SampleFields fields;      ///< what the stream carries; all else is a dash
+    bool showSummary = false; ///< the row with node, time, temperature and pressure
 };
 
 /// The numeric panel: all values of the selected node with units, in cards with bars and a trace of the last seconds,

@@ -21,7 +21,8 @@ QString status_text::statusBar(const StreamSnapshot &snapshot, bool infoDeferred
     if (!snapshot.link_connected)
         return Text::tr("Unconnected...");
     if (snapshot.product_info_ready)
-        return snapshot.product_profile_resolved ? Text::tr("Connected...") : Text::tr("Using fallback product profile.");
+        return snapshot.product_profile_resolved ? Text::tr("Connected...")
+                                                 : Text::tr("Using fallback product profile.");
     return infoDeferred ? Text::tr("Product info deferred during live stream.") : Text::tr("Product info pending...");
 }
 

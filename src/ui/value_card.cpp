@@ -86,9 +86,8 @@ QStringList ValueCard::lines() const
 {
     QStringList lines;
     for (qsizetype i = 0; i < m_channels.size(); ++i) {
-        lines.append(QStringLiteral("%1 %2\t%3 %4")
-                         .arg(m_title, m_channels.at(i).label, m_texts.at(i), m_unit)
-                         .trimmed());
+        lines.append(
+            QStringLiteral("%1 %2\t%3 %4").arg(m_title, m_channels.at(i).label, m_texts.at(i), m_unit).trimmed());
     }
     return lines;
 }
@@ -155,7 +154,7 @@ void ValueCard::paintEvent(QPaintEvent *)
         paintRow(painter, row, QRect(area.left(), area.top(), area.width(), m_rowHeight), range);
         area.setTop(area.top() + m_rowHeight);
     }
-    area.setTop(area.top() + theme::kGrid);
+    area.setTop(area.top() + theme::kGrid + theme::kGrid / 2);
     if (area.height() >= kMinTraceHeight) {
         if (area.height() > kMaxTraceHeight)
             area.setTop(area.bottom() - kMaxTraceHeight);
@@ -231,9 +230,14 @@ void ValueCard::paintTrace(QPainter &painter, const QRect &area, double range) c
             if (extent.isEmpty())
                 continue;
             const double x = area.right() - age * xStep;
-            line.append(QPointF(x, yOf(extent.low)));
+            const double low = yOf(extent.low);
+            const double high = yOf(extent.high);
+            // Nearer end first, so that a slope does not become a staircase.
+            const bool highFirst =
+                !line.isEmpty() && std::abs(line.last().y() - high) < std::abs(line.last().y() - low);
+            line.append(QPointF(x, highFirst ? high : low));
             if (extent.high > extent.low)
-                line.append(QPointF(x, yOf(extent.high)));
+                line.append(QPointF(x + xStep / 2, highFirst ? low : high));
         }
         painter.drawPolyline(line);
     }

@@ -9,8 +9,8 @@
 
 #include "ui/trace_buffer.h"
 
-/// A card of the numeric panel: title and unit, up to four values with their axis colours and a bar each, and a trace of
-/// the last seconds where the card is high enough. Painted as one widget, because it changes fifty times a second.
+/// A card of the numeric panel: title and unit, up to four values with their axis colours and a bar each, and a trace
+/// of the last seconds where the card is high enough. Painted as one widget, because it changes fifty times a second.
 class ValueCard : public QWidget
 {
     Q_OBJECT

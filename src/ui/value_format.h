@@ -6,8 +6,8 @@
 /// fits, so that nothing jumps when a value changes its sign or its size.
 namespace value_format {
 
-/// `value` with a sign and `decimals` digits behind the point; a value that rounds to zero has no sign. NaN and infinity
-/// are shown as "NaN" and "∞" with its sign; values beyond a million in scientific notation.
+/// `value` with a sign and `decimals` digits behind the point; a value that rounds to zero has no sign. NaN and
+/// infinity are shown as "NaN" and "∞" with its sign; values beyond a million in scientific notation.
 QString signedNumber(double value, int decimals);
 
 /// As signedNumber() without a plus sign.

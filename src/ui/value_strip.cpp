@@ -46,7 +46,8 @@ QStringList ValueStrip::lines() const
 {
     QStringList lines;
     for (qsizetype i = 0; i < m_cells.size(); ++i)
-        lines.append(QStringLiteral("%1\t%2 %3").arg(m_cells.at(i).caption, m_texts.at(i), m_cells.at(i).unit).trimmed());
+        lines.append(
+            QStringLiteral("%1\t%2 %3").arg(m_cells.at(i).caption, m_texts.at(i), m_cells.at(i).unit).trimmed());
     return lines;
 }
 

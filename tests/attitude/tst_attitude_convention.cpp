@@ -98,11 +98,11 @@ private slots:
         QFETCH(QVector3D, angles);
         // The device turns by yaw about its up axis, then pitch nose up, then roll right side down, in its own axes.
         const bool rfu = preset == OrientationPreset::RfuEnu312;
-        const QQuaternion device = QQuaternion::fromAxisAndAngle(0, 0, 1, angles.z()) *
-                                   (rfu ? QQuaternion::fromAxisAndAngle(1, 0, 0, angles.y())
-                                        : QQuaternion::fromAxisAndAngle(0, 1, 0, -angles.y())) *
-                                   (rfu ? QQuaternion::fromAxisAndAngle(0, 1, 0, angles.x())
-                                        : QQuaternion::fromAxisAndAngle(1, 0, 0, angles.x()));
+        const QQuaternion device = QQuaternion::fromAxisAndAngle(0, 0, 1, angles.z())
+                                   * (rfu ? QQuaternion::fromAxisAndAngle(1, 0, 0, angles.y())
+                                          : QQuaternion::fromAxisAndAngle(0, 1, 0, -angles.y()))
+                                   * (rfu ? QQuaternion::fromAxisAndAngle(0, 1, 0, angles.x())
+                                          : QQuaternion::fromAxisAndAngle(1, 0, 0, angles.x()));
         NodeSnapshot node = withQuaternion(device * 3.0F); // the length must not matter
         addEuler(node, 7, 8, 9);                           // nor angles beside it
 
@@ -147,9 +147,9 @@ private slots:
     {
         // A FLU device at Z-Y-X angles 10/20/30: as a quaternion and as angles, its display rotation is one and the
         // same.
-        const QQuaternion device = QQuaternion::fromAxisAndAngle(0, 0, 1, 30) *
-                                   QQuaternion::fromAxisAndAngle(0, 1, 0, 20) *
-                                   QQuaternion::fromAxisAndAngle(1, 0, 0, 10);
+        const QQuaternion device = QQuaternion::fromAxisAndAngle(0, 0, 1, 30)
+                                   * QQuaternion::fromAxisAndAngle(0, 1, 0, 20)
+                                   * QQuaternion::fromAxisAndAngle(1, 0, 0, 10);
         NodeSnapshot angles;
         addEuler(angles, 10, 20, 30);
         const QQuaternion a = normalizeAttitude(withQuaternion(device), OrientationPreset::FluNwuZyx).quaternion;

@@ -47,8 +47,8 @@ private slots:
         if (!stored.isNull()) {
             QFile file(path);
             QVERIFY(file.open(QIODevice::WriteOnly));
-            file.write("[DISPLAY_OVERRIDES]\n" + product_profile::toString(product).toLatin1() +
-                       "\\orientation_preset=" + stored + '\n');
+            file.write("[DISPLAY_OVERRIDES]\n" + product_profile::toString(product).toLatin1()
+                       + "\\orientation_preset=" + stored + '\n');
         }
         QSettings settings(path, QSettings::IniFormat);
         DetectedDevice device;

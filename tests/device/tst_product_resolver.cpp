@@ -129,10 +129,10 @@ private slots:
             QTEST(product_profile::toString(p->protocolFamily), "family");
             QTEST(product_profile::toString(p->packetFormat), "format");
             QTEST(product_profile::toString(p->hotkeyGroup), "hotkeys");
-            const QString flags = QString(mark(p->showFirstSettingsTab, 'T')) + mark(p->supportsNodeId, 'I') +
-                                  mark(p->supportsOutputRate, 'R') + mark(p->supportsAttitudeMode, 'M') +
-                                  mark(p->directSingleNode, 'S') + mark(p->wirelessGateway, 'G') +
-                                  mark(p->showSensorSummary, '+') + mark(p->knownFamily, 'K');
+            const QString flags = QString(mark(p->showFirstSettingsTab, 'T')) + mark(p->supportsNodeId, 'I')
+                                  + mark(p->supportsOutputRate, 'R') + mark(p->supportsAttitudeMode, 'M')
+                                  + mark(p->directSingleNode, 'S') + mark(p->wirelessGateway, 'G')
+                                  + mark(p->showSensorSummary, '+') + mark(p->knownFamily, 'K');
             QTEST(flags, "flags");
             QTEST(QStringList(p->outputRates).join(u' '), "rates");
             QTEST(product_profile::toString(p->defaultOrientation), "orientation");

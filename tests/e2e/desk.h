@@ -35,7 +35,8 @@ public:
     Q_DISABLE_COPY_MOVE(Desk)
 
     template <typename T> T *find(const char *name) const { return window->findChild<T *>(QLatin1String(name)); }
-    QString label(const char *name) const { return find<QLabel>(name)->text(); }
+    /// The text of a label, without the places where it may break.
+    QString label(const char *name) const { return find<QLabel>(name)->text().remove(QChar(0x200B)); }
     QString panel() const { return window->findChild<SensorDataPanel *>()->text(); }
     QMessageBox *errorBox() const { return window->findChild<QMessageBox *>(); }
     form_settings *settings() const { return window->findChild<form_settings *>(); }

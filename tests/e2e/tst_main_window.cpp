@@ -312,8 +312,8 @@ void TestMainWindow::defersIdentificationOfADeafStream()
     QVERIFY(simulator.control("deaf on"));
     Desk desk;
     desk.open(simulator.port());
-    QTRY_COMPARE_WITH_TIMEOUT(desk.label("label_status"),
-                              QStringLiteral("Product info deferred during live stream."), 8000);
+    QTRY_COMPARE_WITH_TIMEOUT(desk.label("label_status"), QStringLiteral("Product info deferred during live stream."),
+                              8000);
     QTRY_COMPARE(desk.value("Acceleration X"), QStringLiteral("+0.250 G"));
     QCOMPARE(desk.log().count("product-info read skipped because live frame stream is active"), 1);
     QCOMPARE(desk.log().count("command sequence start"), 1);
@@ -417,9 +417,9 @@ void TestMainWindow::readsHostileSettings_data()
     QTest::newRow("empty") << QByteArray();
     QTest::newRow("binary") << QByteArray(4096, '\xFF') + QByteArray(4096, '\0');
     QTest::newRow("no sections") << QByteArray("=\n[\n]\n[[[\n%%%\n");
-    QTest::newRow("out of range")
-        << QByteArray("[Main]\nFONTSIZE=-2147483648\nGEOMETRY=@ByteArray(rubbish)\n[SERIAL]\nBAUDRATE=99999999999\n"
-                      "PORT=@Invalid()\n[DISPLAY_OVERRIDES]\nMZ221\\orientation_preset=5\n");
+    QTest::newRow("out of range") << QByteArray(
+        "[Main]\nFONTSIZE=-2147483648\nGEOMETRY=@ByteArray(rubbish)\n[SERIAL]\nBAUDRATE=99999999999\n"
+        "PORT=@Invalid()\n[DISPLAY_OVERRIDES]\nMZ221\\orientation_preset=5\n");
     QTest::newRow("wrong types") << QByteArray("[Main]\nFONTSIZE=@Variant(\\0\\0\\0\\x8)\n[SERIAL]\nPORT=a, b, c\n");
 }
 

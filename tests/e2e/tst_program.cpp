@@ -56,12 +56,14 @@ void TestProgram::startsWhereNothingCanBeWritten()
     QTemporaryDir folder;
     QProcess program;
     // The shell leaves its own working folder without one, and the program must not mind.
-    program.start(QStringLiteral("/bin/sh"),
-                  {QStringLiteral("-c"), QStringLiteral("cd '%1' && rmdir '%1' && exec '%2'")
-                                             .arg(folder.path(), QStringLiteral(KV_PROGRAM_PATH))});
+    program.start(
+        QStringLiteral("/bin/sh"),
+        {QStringLiteral("-c"),
+         QStringLiteral("cd '%1' && rmdir '%1' && exec '%2'").arg(folder.path(), QStringLiteral(KV_PROGRAM_PATH))});
     QVERIFY(program.waitForStarted());
     QByteArray errors;
-    QTRY_VERIFY_WITH_TIMEOUT((errors += program.readAllStandardError()).contains("Failed to open Qt6 log file:"), 20000);
+    QTRY_VERIFY_WITH_TIMEOUT((errors += program.readAllStandardError()).contains("Failed to open Qt6 log file:"),
+                             20000);
     QVERIFY(!program.waitForFinished(1500)); // it stays up
     program.terminate();
     QVERIFY(program.waitForFinished());

@@ -105,11 +105,11 @@ QByteArray record63()
 /// Every item once, the batches last.
 QByteArray everyItem()
 {
-    return hex("90 05") + full() + compact() + hex("A0 E8 03 18 FC 00 00") + hex("B0 0A 00 14 00 1E 00") +
-           hex("B1 0A 00 14 00 1E 00") + hex("C0 0A 00 14 00 1E 00") + hex("D0 10 27 E8 03 08 07") +
-           hex("D1 00 00 80 3F 00 00 00 00 00 00 00 00 00 00 00 00") + hex("F0 00 50 C3 47") + QByteArray(1, 0x60) +
-           QByteArray(32, char(0xA0)) + hex("62 01 01 00 00 00 00 00") + full() + hex("63 01 01 00 64 00 00 00") +
-           record63();
+    return hex("90 05") + full() + compact() + hex("A0 E8 03 18 FC 00 00") + hex("B0 0A 00 14 00 1E 00")
+           + hex("B1 0A 00 14 00 1E 00") + hex("C0 0A 00 14 00 1E 00") + hex("D0 10 27 E8 03 08 07")
+           + hex("D1 00 00 80 3F 00 00 00 00 00 00 00 00 00 00 00 00") + hex("F0 00 50 C3 47") + QByteArray(1, 0x60)
+           + QByteArray(32, char(0xA0)) + hex("62 01 01 00 00 00 00 00") + full() + hex("63 01 01 00 64 00 00 00")
+           + record63();
 }
 
 } // namespace
@@ -161,8 +161,8 @@ void TestImuParser::payloads_data()
 
     // Several items make one sample; the later one wins.
     row("small items together",
-        hex("A0 E8 03 00 00 00 00") + hex("B0 0A 00 00 00 00 00") + hex("00") + hex("C0 0A 00 00 00 00 00") +
-            hex("F0 00 50 C3 47"),
+        hex("A0 E8 03 00 00 00 00") + hex("B0 0A 00 00 00 00 00") + hex("00") + hex("C0 0A 00 00 00 00 00")
+            + hex("F0 00 50 C3 47"),
         latin1("4 [a0 b0 c0 f0]: id=0 acc=1,0,0 gyr=1,0,0 mag=1,0,0 p=100000"));
     row("same item twice", hex("A0 E8 03 E8 03 E8 03") + hex("A0 D0 07 00 00 00 00"),
         latin1("4 [a0 a0]: id=0 acc=2,0,0"));

@@ -8,8 +8,8 @@ using frames::hex;
 
 namespace {
 
-constexpr SampleFields kInertial = SampleFields(SampleField::Acceleration) | SampleField::AngularRate |
-                                   SampleField::MagneticField | SampleField::Quaternion;
+constexpr SampleFields kInertial = SampleFields(SampleField::Acceleration) | SampleField::AngularRate
+                                   | SampleField::MagneticField | SampleField::Quaternion;
 
 } // namespace
 

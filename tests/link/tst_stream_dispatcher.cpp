@@ -38,8 +38,8 @@ struct Stream
         QObject::connect(&dispatcher, &StreamDispatcher::streamSnapshotChanged, &dispatcher,
                          [this](const StreamSnapshot &s) {
                              signalled += QStringLiteral("snapshot");
-                             matches = matches && s.seq == dispatcher.snapshot().seq &&
-                                       s.selected_node_index == dispatcher.snapshot().selected_node_index;
+                             matches = matches && s.seq == dispatcher.snapshot().seq
+                                       && s.selected_node_index == dispatcher.snapshot().selected_node_index;
                          });
         QObject::connect(&dispatcher, &StreamDispatcher::selectedNodeChanged, &dispatcher,
                          [this](const node_data_t &n) { signalled += QStringLiteral("selected %1").arg(n.id); });
@@ -313,8 +313,8 @@ void TestStreamDispatcher::clearKeepsTheLink()
     QCOMPARE(logLines().last(), QStringLiteral("[I]: stream clear link_connected=true"));
     const StreamSnapshot &snapshot = stream.dispatcher.snapshot();
     QVERIFY(snapshot.link_connected);
-    QVERIFY(!snapshot.product_info_ready && !snapshot.product_profile_resolved && !snapshot.has_frame_items &&
-            !snapshot.has_selected_node);
+    QVERIFY(!snapshot.product_info_ready && !snapshot.product_profile_resolved && !snapshot.has_frame_items
+            && !snapshot.has_selected_node);
     QCOMPARE(product_profile::toString(snapshot.transport_role), QStringLiteral("Unknown"));
     QCOMPARE(snapshot.frame_family, 4);
     QCOMPARE(snapshot.seq, quint64(0));

@@ -90,8 +90,9 @@ void TestSimRecording::rateAndLoop()
 {
     // Doubled and late rows do not disturb the median step.
     QString error;
-    const auto recording = parse(kHeader + "\n0,1,0,0,0,0,1\n0.005,2,0,0,0,0,1\n0.005,3,0,0,0,0,1\n0.010,4,0,0,0,0,1\n"
-                                           "0.9,5,0,0,0,0,1\n0.905,6,0,0,0,0,1\n",
+    const auto recording = parse(kHeader
+                                     + "\n0,1,0,0,0,0,1\n0.005,2,0,0,0,0,1\n0.005,3,0,0,0,0,1\n0.010,4,0,0,0,0,1\n"
+                                       "0.9,5,0,0,0,0,1\n0.905,6,0,0,0,0,1\n",
                                  &error);
     QVERIFY2(recording, qPrintable(error));
     QVERIFY(std::abs(recording->rateHz() - 200.0) < 0.1);

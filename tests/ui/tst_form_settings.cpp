@@ -459,9 +459,9 @@ private slots:
             QVERIFY2(dialog->width() <= 1366 && dialog->height() <= 768 - 64, qPrintable(dialog->objectName()));
             // Nothing that is read is cut off; device texts, which may be of any length, are.
             for (const QWidget *widget : dialog->findChildren<QWidget *>()) {
-                const bool isText = qobject_cast<const QPushButton *>(widget) != nullptr ||
-                                    (qobject_cast<const QLabel *>(widget) != nullptr &&
-                                     widget->sizePolicy().horizontalPolicy() != QSizePolicy::Ignored);
+                const bool isText = qobject_cast<const QPushButton *>(widget) != nullptr
+                                    || (qobject_cast<const QLabel *>(widget) != nullptr
+                                        && widget->sizePolicy().horizontalPolicy() != QSizePolicy::Ignored);
                 if (!isText || !widget->isVisible())
                     continue;
                 const int needed = widget->hasHeightForWidth() ? widget->heightForWidth(widget->width())

@@ -1,0 +1,10 @@
+#!/usr/bin/env bash
+# Draws the pictures of resources/images/ from their sources. Needed only after a change of a drawing
+# (Debian package librsvg2-bin).
+set -euo pipefail
+cd "$(dirname "$0")/../resources/images"
+rsvg-convert --width 256 --height 256 mainicon.svg --output mainicon.png
+for name in chevron-down chevron-up; do
+  rsvg-convert --width 12 --height 12 "$name.svg" --output "$name.png"
+  rsvg-convert --width 24 --height 24 "$name.svg" --output "$name@2x.png"
+done
