@@ -165,7 +165,7 @@ void form_base::show_text(const node_data_t &node, const std::array<float, 3> &e
     model.fields = sampleFields(m_dispatcher->currentFrame());
     model.showSummary =
         m_dispatcher->snapshot().transport_role == TransportRole::WirelessGateway || currentProfile().showSensorSummary;
-    m_panel->show(model);
+    m_panel->setModel(model);
     setTextIfChanged(m_nodeLabel, tr("Node ID:%1").arg(node.id));
     QStringList angles;
     if (m_attitude.valid) {

@@ -101,7 +101,7 @@ void SensorDataPanel::appendSample(qint64 nowMs, const node_data_t &node, Sample
         m_quaternion->appendTrace(nowMs, node.quat);
 }
 
-void SensorDataPanel::show(const SensorDataModel &model)
+void SensorDataPanel::setModel(const SensorDataModel &model)
 {
     const node_data_t &node = model.node;
     showOn(m_acceleration, model.fields.testFlag(SampleField::Acceleration), withNorm(node.acc));

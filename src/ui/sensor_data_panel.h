@@ -32,7 +32,7 @@ public:
     /// Adds a sample to the traces without repainting. `nowMs` is arrival time on a steady clock.
     void appendSample(qint64 nowMs, const node_data_t &node, SampleFields fields);
     /// Shows the values. Call at the pace of the display, not of the stream.
-    void show(const SensorDataModel &model);
+    void setModel(const SensorDataModel &model);
     /// Lets the traces move on when no sample arrives.
     void advance(qint64 nowMs);
     /// Dashes everywhere.
