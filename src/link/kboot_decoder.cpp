@@ -60,7 +60,7 @@ void KbootProtocol::decodeByte(char byte)
 {
     if (m_decodeState == Hunting) {
         if (quint8(byte) == kStartByte) {
-            m_frameBuffer.resize(0); // keeps the capacity
+            startPacket();
             m_decodeState = Type;
         } else if (m_frameBuffer.size() >= kMaxDiscardedBytes) {
             return;
@@ -88,6 +88,17 @@ void KbootProtocol::decodeByte(char byte)
             finishPacket();
         break;
     }
+}
+
+void KbootProtocol::startPacket()
+{
+    if (m_frameBuffer.isDetached()) {
+        m_frameBuffer.resize(0); // keeps the capacity
+        return;
+    }
+    // The last payload is still on its way to the main thread and has the buffer; the next packet is likely as long.
+    m_frameBuffer = QByteArray();
+    m_frameBuffer.reserve(m_expectedLength);
 }
 
 void KbootProtocol::takeType(quint8 type)

@@ -60,6 +60,7 @@ private:
     enum State { Hunting, Type, LengthLow, LengthHigh, CrcLow, CrcHigh, Payload };
 
     void decodeByte(char byte);
+    void startPacket();
     void takeType(quint8 type);
     void finishHeader();
     void finishPacket();

@@ -63,7 +63,7 @@ void KvUartPort::closeUART()
 
 void KvUartPort::stopInWorker()
 {
-    QMetaObject::invokeMethod(this, &KvUartPort::threadStopped, Qt::BlockingQueuedConnection);
+    QMetaObject::invokeMethod(this, "threadStopped", Qt::BlockingQueuedConnection);
     m_workerThread->quit();
 }
 

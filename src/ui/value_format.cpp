@@ -30,7 +30,7 @@ QString format(double value, int decimals, const QString &plus)
 {
     if (std::isnan(value))
         return QStringLiteral("NaN");
-    const QString text = magnitudeText(std::abs(value), decimals);
+    QString text = magnitudeText(std::abs(value), decimals);
     if (isZeroText(text))
         return text;
     return (value < 0 ? QString(kMinus) : plus) + text;

@@ -1,5 +1,6 @@
 #include <QSettings>
 #include <QSpinBox>
+#include <QTest>
 
 #include "desk.h"
 #include "support/simulator_process.h"
