@@ -93,12 +93,12 @@ int main(int argc, char **argv)
     out << "whole run: " << 100.0 * double(processorMs() - startProcessorMs) / double(clock.elapsed())
         << " % of a core, memory " << startKib << " -> " << residentKib() << " KiB\n";
 
+    const qint64 dropped = simulator.stat("dropped"); // what the line was too slow for
     simulator.control("silent on");
     wait(kDrainMs);
     const qint64 sent = simulator.stat("frames_sent");
     const quint64 decoded = dispatcher->snapshot().seq;
-    out << "frames sent " << sent << ", decoded " << decoded << ", dropped by the simulated line "
-        << simulator.stat("dropped") << '\n'
+    out << "frames sent " << sent << ", decoded " << decoded << ", dropped by the simulated line " << dropped << '\n'
         << Qt::flush;
     return quint64(sent) == decoded ? 0 : 1;
 }

@@ -16,15 +16,14 @@ void TraceBuffer::append(qint64 nowMs, std::span<const float> values)
     }
 }
 
-bool TraceBuffer::advance(qint64 nowMs)
+void TraceBuffer::advance(qint64 nowMs)
 {
     const qint64 target = nowMs / kBucketMs;
     if (target <= m_newest)
-        return false;
+        return;
     for (qint64 passed = std::max(m_newest + 1, target - kBuckets + 1); passed <= target; ++passed)
         m_buckets[size_t(passed % kBuckets)] = {};
     m_newest = target;
-    return true;
 }
 
 void TraceBuffer::clear()

@@ -24,8 +24,10 @@ public:
 
     /// Adds one sample at `nowMs` on any clock that does not run backwards; buckets that time has passed are emptied.
     void append(qint64 nowMs, std::span<const float> values);
-    /// Lets time pass without a sample. True when the picture has moved.
-    bool advance(qint64 nowMs);
+    /// Lets time pass without a sample.
+    void advance(qint64 nowMs);
+    /// Running number of the newest bucket: the picture has moved when it changes.
+    qint64 newest() const { return m_newest; }
     void clear();
 
     /// Extent of a channel `age` buckets ago, 0 the newest.

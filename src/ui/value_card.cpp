@@ -1,6 +1,7 @@
 #include "ui/value_card.h"
 
 #include <QEvent>
+#include <QPaintEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -13,6 +14,7 @@ namespace {
 
 constexpr int kPadding = 2 * theme::kGrid;
 constexpr int kBarHeight = 5;
+constexpr int kTraceGap = theme::kGrid + theme::kGrid / 2;
 constexpr int kMinTraceHeight = 36;
 constexpr int kMaxTraceHeight = 160;
 constexpr QColor kBarGround{0xF3, 0xF4, 0xF6};
@@ -63,8 +65,11 @@ void ValueCard::appendTrace(qint64 nowMs, std::span<const float> values)
 
 void ValueCard::advance(qint64 nowMs)
 {
-    if (m_trace.advance(nowMs))
-        update();
+    m_trace.advance(nowMs);
+    if (m_trace.newest() == m_shownBucket)
+        return;
+    m_shownBucket = m_trace.newest();
+    update(traceArea());
 }
 
 void ValueCard::clear()
@@ -79,7 +84,34 @@ void ValueCard::showTexts(const QStringList &texts)
     if (texts == m_texts)
         return;
     m_texts = texts;
-    update();
+    update(rowsArea());
+}
+
+QRect ValueCard::rowsArea() const
+{
+    return {kPadding, kPadding + headerHeight(), width() - 2 * kPadding, int(m_channels.size()) * m_rowHeight};
+}
+
+QRect ValueCard::traceArea() const
+{
+    QRect area = rect().adjusted(kPadding, rowsArea().bottom() + 1 + kTraceGap, -kPadding, -kPadding);
+    if (area.height() < kMinTraceHeight)
+        return {};
+    if (area.height() > kMaxTraceHeight)
+        area.setTop(area.bottom() - kMaxTraceHeight);
+    return area;
+}
+
+/// Full scale of bars and trace: 1-2-5 steps above the largest value of the last seconds.
+double ValueCard::range() const
+{
+    const TraceBuffer::Extent extent = m_trace.total();
+    double magnitude = extent.isEmpty() ? 0.0 : std::max(std::abs(extent.low), std::abs(extent.high));
+    for (const float value : m_values) {
+        if (std::isfinite(value))
+            magnitude = std::max(magnitude, double(std::abs(value)));
+    }
+    return value_format::niceRange(magnitude, m_format.minimumRange);
 }
 
 QStringList ValueCard::lines() const
@@ -132,8 +164,9 @@ QSize ValueCard::sizeHint() const
     return minimumSizeHint() + QSize(12 * theme::kGrid, kMinTraceHeight + theme::kGrid);
 }
 
-void ValueCard::paintEvent(QPaintEvent *)
+void ValueCard::paintEvent(QPaintEvent *event)
 {
+    // The values change fifty times a second, the trace twenty times: only what changed is drawn.
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(theme::kLine);
@@ -141,25 +174,15 @@ void ValueCard::paintEvent(QPaintEvent *)
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), theme::kGrid, theme::kGrid);
     paintHeader(painter);
 
-    const TraceBuffer::Extent extent = m_trace.total();
-    double magnitude = extent.isEmpty() ? 0.0 : std::max(std::abs(extent.low), std::abs(extent.high));
-    for (const float value : m_values) {
-        if (std::isfinite(value))
-            magnitude = std::max(magnitude, double(std::abs(value)));
+    const double fullScale = range();
+    if (event->region().intersects(rowsArea())) {
+        QRect row = rowsArea();
+        row.setHeight(m_rowHeight);
+        for (int i = 0; i < int(m_channels.size()); ++i, row.translate(0, m_rowHeight))
+            paintRow(painter, i, row, fullScale);
     }
-    const double range = value_format::niceRange(magnitude, m_format.minimumRange);
-
-    QRect area = rect().adjusted(kPadding, kPadding + headerHeight(), -kPadding, -kPadding);
-    for (int row = 0; row < int(m_channels.size()); ++row) {
-        paintRow(painter, row, QRect(area.left(), area.top(), area.width(), m_rowHeight), range);
-        area.setTop(area.top() + m_rowHeight);
-    }
-    area.setTop(area.top() + theme::kGrid + theme::kGrid / 2);
-    if (area.height() >= kMinTraceHeight) {
-        if (area.height() > kMaxTraceHeight)
-            area.setTop(area.bottom() - kMaxTraceHeight);
-        paintTrace(painter, area, range);
-    }
+    if (event->region().intersects(traceArea()))
+        paintTrace(painter, traceArea(), fullScale);
 }
 
 void ValueCard::paintHeader(QPainter &painter) const

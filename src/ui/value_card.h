@@ -61,6 +61,9 @@ private:
     void updateMetrics();
     void showTexts(const QStringList &texts);
     int headerHeight() const;
+    QRect rowsArea() const;
+    QRect traceArea() const; ///< empty where the card is too low for a trace
+    double range() const;
     void paintHeader(QPainter &painter) const;
     void paintRow(QPainter &painter, int row, const QRect &area, double range) const;
     void paintTrace(QPainter &painter, const QRect &area, double range) const;
@@ -73,6 +76,7 @@ private:
     std::array<float, TraceBuffer::kChannels> m_values{};
     bool m_isAbsent = true;
     TraceBuffer m_trace;
+    qint64 m_shownBucket = 0; ///< newest bucket when the trace was last repainted
 
     QFont m_valueFont;
     int m_rowHeight = 0;

@@ -15,6 +15,7 @@ private slots:
     void showsWhatTheStreamCarries();
     void hidesAndShowsTheSummary();
     void paintsAxisColours();
+    void movesTheTraceUnderASteadyStream();
     void paintsAnything_data();
     void paintsAnything();
 };
@@ -49,6 +50,20 @@ bool contains(const QImage &image, const QColor &color)
     }
     return false;
 }
+
+/// Counts how often a widget is painted.
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        paints += event->type() == QEvent::Paint ? 1 : 0;
+        return QObject::eventFilter(watched, event);
+    }
+
+    int paints = 0;
+};
 
 } // namespace
 
@@ -99,6 +114,26 @@ void TestSensorDataPanel::paintsAxisColours()
     model.node.acc[0] = -0.5F;
     panel.setModel(model);
     QVERIFY(panel.grab().toImage() != shown);
+}
+
+void TestSensorDataPanel::movesTheTraceUnderASteadyStream()
+{
+    SensorDataPanel panel;
+    panel.resize(900, 600);
+    panel.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&panel));
+    SensorDataModel model = sampleModel();
+    panel.setModel(model);
+    auto *card = panel.findChild<ValueCard *>();
+    PaintCounter counter(card);
+    QTRY_VERIFY(!panel.testAttribute(Qt::WA_PendingUpdate));
+    // The values stand still: what is painted is the trace, once per step of its time, samples or not.
+    for (qint64 now = 1000; now < 1000 + 10 * TraceBuffer::kBucketMs; ++now) {
+        panel.appendSample(now, model.node, model.fields);
+        panel.advance(now);
+        QCoreApplication::sendPostedEvents();
+    }
+    QVERIFY2(counter.paints >= 10 && counter.paints <= 12, qPrintable(QString::number(counter.paints)));
 }
 
 void TestSensorDataPanel::paintsAnything_data()
