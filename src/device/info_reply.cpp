@@ -4,16 +4,12 @@
 
 #include <algorithm>
 
+#include "link/framing_packet.h"
 #include "link/kboot_protocol.h"
 
 namespace {
 
-constexpr quint8 kStartByte = 0x5A;
-constexpr quint8 kTypeData = 0xA5;
-constexpr qsizetype kHeaderSize = 6;
-constexpr int kLengthOffset = 2;
-constexpr int kCrcOffset = 4;
-constexpr qsizetype kMaxPacketSize = 2047;
+using namespace framing_packet;
 
 constexpr qsizetype kMaxLines = 64;
 constexpr qsizetype kMaxLineLength = 256;
@@ -23,14 +19,14 @@ constexpr qsizetype kMinReadableEnd = 4;
 // would otherwise have the same bytes checked hundreds of times.
 constexpr qsizetype kMaxVainChecks = 4;
 
-/// Size of the packet that the header at `offset` announces, 0 if there is no header or the packet is not complete.
+/// Size of the packet that the header at `offset` announces, 0 if there is no header.
 qsizetype announcedSize(const QByteArray &bytes, qsizetype offset)
 {
     if (bytes.size() - offset < kHeaderSize || quint8(bytes[offset]) != kStartByte
         || quint8(bytes[offset + 1]) != kTypeData)
         return 0;
     const qsizetype size = kHeaderSize + qFromLittleEndian<quint16>(bytes.constData() + offset + kLengthOffset);
-    return size <= kMaxPacketSize && size <= bytes.size() - offset ? size : 0;
+    return size <= kMaxPacketSize ? size : 0;
 }
 
 QByteArray withoutPackets(const QByteArray &reply)
@@ -41,7 +37,12 @@ QByteArray withoutPackets(const QByteArray &reply)
     qsizetype offset = 0;
     while (offset < reply.size()) {
         const qsizetype size = vainBudget > 0 ? announcedSize(reply, offset) : 0;
-        if (size > 0) {
+        if (size > reply.size() - offset) {
+            // A packet that the window's end has cut. With a line in it, it may as well be noise in front of text.
+            if (reply.indexOf('\n', offset) < 0)
+                break;
+            vainBudget -= reply.size() - offset;
+        } else if (size > 0) {
             const QByteArray packet = QByteArray::fromRawData(reply.constData() + offset, size);
             if (KbootProtocol::do_crc_check(packet) == qFromLittleEndian<quint16>(packet.constData() + kCrcOffset)) {
                 offset += size;

@@ -2,19 +2,11 @@
 
 #include <QtEndian>
 
+#include "link/framing_packet.h"
+
 namespace {
 
-constexpr quint8 kStartByte = 0x5A;
-constexpr quint8 kTypeCommand = 0xA4;
-constexpr quint8 kTypeData = 0xA5;
-constexpr quint8 kTypePing = 0xA6;
-constexpr quint8 kTypePingResponse = 0xA7;
-
-constexpr int kHeaderSize = 6;
-constexpr int kLengthOffset = 2;
-constexpr int kCrcOffset = 4;
-constexpr int kPingResponseSize = 10;
-constexpr int kMaxPacketSize = 2047;
+using namespace framing_packet;
 
 // While hunting, discarded bytes collect behind the last packet, because whoever waits for an acknowledge looks at the
 // first two. Noise without a single start byte must not fill the memory, so beyond this size they are let go.

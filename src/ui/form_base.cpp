@@ -114,8 +114,14 @@ void form_base::setUpPanels()
     m_panel->setAutoFillBackground(false);
     m_ui->layout_panel->addWidget(m_scrollArea);
 
+    // These show texts from outside, which are not to be read as markup.
+    for (QLabel *label :
+         {m_ui->label_connection, m_ui->label_product, m_ui->label_model, m_ui->label_build, m_ui->label_uuid})
+        label->setTextFormat(Qt::PlainText);
+
     m_statusLabel = new QLabel(tr("Unconnected..."), this);
     m_statusLabel->setObjectName(QStringLiteral("label_status"));
+    m_statusLabel->setTextFormat(Qt::PlainText);
     m_nodeLabel = new QLabel(this);
     m_nodeLabel->setObjectName(QStringLiteral("label_node"));
     m_trafficLabel = new QLabel(this);
@@ -125,7 +131,7 @@ void form_base::setUpPanels()
     m_ui->statusbar->addPermanentWidget(m_trafficLabel);
     m_ui->statusbar->setSizeGripEnabled(false);
     m_ui->statusbar->setContentsMargins(theme::kGrid, 0, theme::kGrid, 0);
-    m_ui->label_icon->setPixmap(QIcon(QStringLiteral(":/images/mainicon.png")).pixmap(64, 64));
+    m_ui->label_icon->setPixmap(QIcon(QStringLiteral(":/images/mainicon.png")).pixmap(72, 72));
 
     auto *language = new QToolButton(this);
     language->setObjectName(QStringLiteral("button_language"));

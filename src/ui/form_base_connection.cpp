@@ -123,6 +123,7 @@ void form_base::enable_all_page(bool enabled)
     m_ui->action_serial_stop->setEnabled(enabled);
     m_ui->action_copy_values->setEnabled(enabled);
     m_ui->stack_pages->setCurrentWidget(enabled ? m_ui->page_live : m_ui->page_welcome);
+    (enabled ? static_cast<QWidget *>(m_ui->list_nodes) : m_ui->button_open)->setFocus();
 }
 
 void form_base::onSerialError(QSerialPort::SerialPortError error)
@@ -145,6 +146,7 @@ void form_base::showPortError(const QString &portName, const QString &reason)
     m_errorBox = new QMessageBox(QMessageBox::Information, appWindowTitle(), tr("Open Serial Port Error."),
                                  QMessageBox::Ok, this);
     m_errorBox->setAttribute(Qt::WA_DeleteOnClose);
+    m_errorBox->setTextFormat(Qt::PlainText);
     m_errorBox->setInformativeText(portName + QLatin1String("\n") + reason);
     m_errorBox->setTextInteractionFlags(Qt::TextSelectableByMouse); // so that a command in it can be copied
     m_errorBox->open();

@@ -3,7 +3,6 @@
 #include "ui/form_base.h"
 
 #include <QLabel>
-#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -12,6 +11,7 @@
 #include "link/imu_parser.h"
 #include "link/kv_uart_port.h"
 #include "link/stream_dispatcher.h"
+#include "ui/device_text.h"
 #include "ui/form_com_select.h"
 #include "ui/sensor_data_panel.h"
 #include "ui/status_text.h"
@@ -25,21 +25,6 @@ constexpr qint64 kStreamTimeoutMs = 2500; // longer than the pause between sampl
 constexpr qint64 kSettledMs = 2500;
 // A gateway whose nodes change places with every batch must not make the selection, and its log line, follow each time.
 constexpr qint64 kFollowMs = 500;
-
-/// A path that may be broken into lines behind its separators.
-QString breakable(QString path)
-{
-    static const QRegularExpression separators(QStringLiteral("([/_-])"));
-    return path.replace(separators, QStringLiteral("\\1\u200B"));
-}
-
-/// The line without the word that stands before it as a caption anyway.
-QString withoutCaption(const QString &line)
-{
-    static const QRegularExpression caption(QStringLiteral("^(build|uuid)\\s*[:=]?\\s*"),
-                                            QRegularExpression::CaseInsensitiveOption);
-    return QString(line).remove(caption);
-}
 
 void setTextIfChanged(QLabel *label, const QString &text)
 {
@@ -111,9 +96,10 @@ void form_base::update_status_bar_text(const StreamSnapshot &snapshot)
 void form_base::updateConnectionPanel(const StreamSnapshot &snapshot)
 {
     setTextIfChanged(m_ui->label_connection,
-                     status_text::connectionPanel(breakable(m_portDialog->portName()), m_portDialog->baudRate(),
-                                                  m_dispatcher->currentFrame(), snapshot.measured_frame_rate,
-                                                  isStreaming(), m_openedAt.elapsed() > kSettledMs));
+                     status_text::connectionPanel(device_text::breakable(m_portDialog->portName()),
+                                                  m_portDialog->baudRate(), m_dispatcher->currentFrame(),
+                                                  snapshot.measured_frame_rate, isStreaming(),
+                                                  m_openedAt.elapsed() > kSettledMs));
     const bool isGateway = snapshot.transport_role == TransportRole::WirelessGateway;
     m_ui->label_gateway->setVisible(isGateway);
     if (isGateway)
@@ -180,9 +166,9 @@ void form_base::showDevice()
     const auto orDash = [](const QString &text) { return text.isEmpty() ? value_format::absent() : text; };
     m_ui->label_product->setText(m_device.valid ? currentProfile().displayName : value_format::absent());
     m_ui->label_model->setText(orDash(m_device.modelLine));
-    m_ui->label_build->setText(orDash(withoutCaption(m_device.buildLine)));
-    m_ui->label_uuid->setText(orDash(withoutCaption(m_device.uuidLine)));
+    m_ui->label_build->setText(orDash(device_text::withoutKeyword(m_device.buildLine, QLatin1String("build"))));
+    m_ui->label_uuid->setText(orDash(device_text::withoutKeyword(m_device.uuidLine, QLatin1String("UUID"))));
     for (QLabel *label : {m_ui->label_product, m_ui->label_model, m_ui->label_build, m_ui->label_uuid})
-        label->setToolTip(label->text());
+        label->setToolTip(device_text::plainToolTip(label->text()));
     m_ui->combo_mounting->setCurrentIndex(m_preset == OrientationPreset::FluNwuZyx ? 1 : 0);
 }

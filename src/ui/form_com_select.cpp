@@ -9,7 +9,7 @@
 
 #include "app/app_log.h"
 #include "app/settings_keys.h"
-#include "ui/tool_tip.h"
+#include "ui/device_text.h"
 #include "ui_form_com_select.h"
 
 namespace {
@@ -24,7 +24,7 @@ void fillRow(QTreeWidgetItem *item, const port_choice::PortEntry &port)
     const QStringList texts{port.path, port.description, port.maker, port.serialNumber, port_choice::usbIdText(port)};
     for (int column = 0; column < texts.size(); ++column) {
         item->setText(column, texts[column]);
-        item->setToolTip(column, plainToolTip(texts[column])); // a column may be too narrow for it
+        item->setToolTip(column, device_text::plainToolTip(texts[column])); // a column may be too narrow for it
     }
 }
 
@@ -208,7 +208,7 @@ void form_com_select::updateState()
     // A missing device may be there again a moment later: that is told, but does not forbid trying.
     const bool pathOk = state == port_choice::PathState::Usable || state == port_choice::PathState::Missing;
     m_ui->BTN_open->setEnabled(pathOk && baudText.isEmpty());
-    m_ui->BTN_open->setToolTip(plainToolTip(!pathOk ? pathText : baudText));
+    m_ui->BTN_open->setToolTip(device_text::plainToolTip(!pathOk ? pathText : baudText));
 }
 
 QString form_com_select::typedPath() const

@@ -12,7 +12,7 @@
 
 #include "app/theme.h"
 #include "ui/command_session.h"
-#include "ui/tool_tip.h"
+#include "ui/device_text.h"
 #include "ui_form_settings.h"
 
 namespace {
@@ -61,21 +61,10 @@ QString commandText(const Hotkey &hotkey, const ProductProfile &profile)
     return text.trimmed();
 }
 
-/// A line of the reply without the word that its label says already.
-QString withoutKeyword(const QString &line, QLatin1String keyword)
-{
-    if (!line.startsWith(keyword, Qt::CaseInsensitive))
-        return line;
-    qsizetype at = keyword.size();
-    while (at < line.size() && (line[at].isSpace() || line[at] == u':' || line[at] == u'='))
-        ++at;
-    return line.mid(at);
-}
-
 void showText(QLabel *label, const QString &text)
 {
     label->setText(text.isEmpty() ? QStringLiteral("–") : text);
-    label->setToolTip(plainToolTip(text)); // it may be too long for the window
+    label->setToolTip(device_text::plainToolTip(text)); // it may be too long for the window
 }
 
 /// A save writes the rate of one dialect only, although the other has a list of rates as well.
@@ -220,8 +209,8 @@ void form_settings::showDevice()
     const ProductProfile &profile = m_session->profile();
     showText(m_ui->LBL_product, device.valid ? profile.displayName : tr("No device identified"));
     showText(m_ui->LBL_model, device.modelLine);
-    showText(m_ui->LBL_build, withoutKeyword(device.buildLine, QLatin1String("build")));
-    showText(m_ui->LBL_uuid, withoutKeyword(device.uuidLine, QLatin1String("UUID")));
+    showText(m_ui->LBL_build, device_text::withoutKeyword(device.buildLine, QLatin1String("build")));
+    showText(m_ui->LBL_uuid, device_text::withoutKeyword(device.uuidLine, QLatin1String("UUID")));
 
     showEditors(profile);
     for (qsizetype i = 0; i < m_hotkeyButtons.size(); ++i) {
@@ -336,7 +325,7 @@ void form_settings::updateState()
 void form_settings::enableSender(QPushButton *button, const QString &blocked, const QString &what)
 {
     button->setEnabled(blocked.isEmpty());
-    button->setToolTip(plainToolTip(blocked.isEmpty() ? what : what + QLatin1String(".\n") + blocked));
+    button->setToolTip(device_text::plainToolTip(blocked.isEmpty() ? what : what + QLatin1String(".\n") + blocked));
 }
 
 void form_settings::finishClosing()

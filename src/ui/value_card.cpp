@@ -239,8 +239,8 @@ void ValueCard::paintTrace(QPainter &painter, const QRect &area, double range) c
     const double middle = area.center().y() + 0.5;
     painter.drawLine(QPointF(area.left(), middle), QPointF(area.right(), middle));
 
-    const double xStep = double(area.width()) / (TraceBuffer::kBuckets - 1);
-    const double yScale = area.height() / 2.0 / range;
+    const double xStep = double(area.width() - 1) / (TraceBuffer::kBuckets - 0.5); // half a step for the second end
+    const double yScale = (area.height() / 2.0 - 1.0) / range;
     const auto yOf = [&](float value) { return middle - std::clamp(double(value), -range, range) * yScale; };
     for (int channel = 0; channel < int(m_channels.size()); ++channel) {
         if (m_channels.at(channel).isNorm)
@@ -252,7 +252,7 @@ void ValueCard::paintTrace(QPainter &painter, const QRect &area, double range) c
             const TraceBuffer::Extent &extent = m_trace.at(channel, age);
             if (extent.isEmpty())
                 continue;
-            const double x = area.right() - age * xStep;
+            const double x = area.left() + (TraceBuffer::kBuckets - 1 - age) * xStep;
             const double low = yOf(extent.low);
             const double high = yOf(extent.high);
             // Nearer end first, so that a slope does not become a staircase.

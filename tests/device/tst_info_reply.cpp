@@ -43,6 +43,9 @@ private slots:
         row("text as payload of a packet is data", frames::packet("MZ221\r\n") + "OK", {"OK"});
         row("tail of a packet before the text", QByteArray(30, '\x80') + "MZ221 V1\r\n", {"MZ221 V1"});
         row("head of a packet after the text", "MZ221\r\n" + packet.left(40), {"MZ221"});
+        row("head of a packet with a readable piece", "OK\r\n" + packet.left(12) + "5 A?", {"OK"});
+        row("what looks like the head of a packet before the text",
+            QByteArray("\x5A\xA5\x40\0\0\0", 6) + "MZ221\r\nOK\r\n", {"MZ221", "OK"});
         row("damaged packet does not swallow the text", broken + "\r\nMZ221\r\n" + packet, {"MZ221"});
         row("start byte before a packet", "Z" + packet + "OK", {"ZOK"});
         row("a few bad characters", "model \x01KV040\xFF!\n", {"model  KV040 !"});

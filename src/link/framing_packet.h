@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QtGlobal>
+
+/// Numbers of the framing packet, which KbootProtocol describes.
+namespace framing_packet {
+
+constexpr quint8 kStartByte = 0x5A;
+
+constexpr quint8 kTypeCommand = 0xA4;
+constexpr quint8 kTypeData = 0xA5;
+constexpr quint8 kTypePing = 0xA6;
+constexpr quint8 kTypePingResponse = 0xA7;
+
+constexpr int kLengthOffset = 2;
+constexpr int kCrcOffset = 4;
+constexpr int kHeaderSize = 6;
+
+constexpr int kMaxPacketSize = 2047; ///< header and payload
+constexpr int kPingResponseSize = 10;
+
+} // namespace framing_packet

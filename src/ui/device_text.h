@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+/// Showing texts that come from devices, ports and files, and so may hold any character.
+namespace device_text {
+
+/// Text for a tool tip, shown as it stands: tool tips read anything that looks like markup as markup.
+QString plainToolTip(const QString &text);
+
+/// The line without the keyword that it begins with, in any letter case, where a caption says the same:
+/// "UUID: 0B3F" is "0B3F".
+QString withoutKeyword(const QString &line, QLatin1String keyword);
+
+/// A path that a label may break into lines behind its separators.
+QString breakable(const QString &path);
+
+} // namespace device_text
