@@ -26,7 +26,8 @@ elseif(MSVC)
 endif()
 target_compile_definitions(kv_options INTERFACE
   QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
-  QT_NO_NARROWING_CONVERSIONS_IN_CONNECT)
+  QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
+  QT_MESSAGELOGCONTEXT) # files and lines in the message log of release builds too
 
 # kv_library(kv_link SOURCES a.cpp a.h LINK Qt6::Core kv_app): a static library whose includes start at src/.
 function(kv_library name)

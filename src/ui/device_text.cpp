@@ -9,10 +9,11 @@ QString device_text::plainToolTip(const QString &text)
 
 QString device_text::withoutKeyword(const QString &line, QLatin1String keyword)
 {
-    if (!line.startsWith(keyword, Qt::CaseInsensitive))
-        return line;
+    const auto separates = [](QChar c) { return c.isSpace() || c == u':' || c == u'='; };
     qsizetype at = keyword.size();
-    while (at < line.size() && (line[at].isSpace() || line[at] == u':' || line[at] == u'='))
+    if (!line.startsWith(keyword, Qt::CaseInsensitive) || (at < line.size() && !separates(line[at])))
+        return line;
+    while (at < line.size() && separates(line[at]))
         ++at;
     return line.mid(at);
 }

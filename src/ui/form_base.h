@@ -90,6 +90,7 @@ private:
     void clearDetectedDevice();
     void on_orientation_preset_changed(OrientationPreset preset);
     const ProductProfile &currentProfile() const;
+    bool isStreamLive() const;
 
     // stream and views
     void onKbootFrameRecv(const QByteArray &payload);
@@ -103,6 +104,7 @@ private:
     void update_wireless_node_list(const QList<node_data_t> &nodes);
     void refresh_selected_node_views();
     void show_text(const node_data_t &node, const std::array<float, 3> &euler);
+    void showSummary();
     void showDevice();
     void copyValues();
     bool isStreaming() const;
@@ -134,16 +136,16 @@ private:
     QElapsedTimer m_openedAt;
     DetectedDevice m_device;
     OrientationPreset m_preset = OrientationPreset::RfuEnu312;
+    qint64 m_lastReadMs = -1; ///< when the last read of product information ended, on m_clock
     bool m_productInfoRequested = false;
     bool m_liveStreamSkipLogged = false;
 
     // what the views show
-    NormalizedAttitude m_attitude; ///< of the newest sample of the selected node
-    QElapsedTimer m_clock;         ///< steady time of the traces
-    qint64 m_lastFrameMs = -1;     ///< on m_clock, -1: none in this connection
-    qint64 m_lastFollowMs = 0;     ///< on m_clock
-    QString m_shownStatus;
-    qint64 m_statusHeldUntilMs = 0; ///< on m_clock: till then the text that names the port stays
+    NormalizedAttitude m_attitude;  ///< of the newest sample of the selected node
+    QElapsedTimer m_clock;          ///< steady time of the traces
+    qint64 m_lastFrameMs = -1;      ///< on m_clock, -1: none in this connection
+    qint64 m_lastFollowMs = 0;      ///< on m_clock
+    qint64 m_statusHeldUntilMs = 0; ///< on m_clock: till then the texts of opening stay
     QList<quint8> m_shownNodeIds;
     std::optional<quint8> m_chosenNodeId; ///< the node that the user picked, followed when its place changes
 };

@@ -15,6 +15,7 @@
 #include "device/product_profile.h"
 #include "link/kv_uart_port.h"
 #include "link/stream_dispatcher.h"
+#include "ui/device_text.h"
 #include "ui/form_com_select.h"
 #include "ui/form_settings.h"
 #include "ui/sensor_data_panel.h"
@@ -57,9 +58,10 @@ void form_base::open_port()
     const int baudRate = m_portDialog->baudRate();
 
     m_statusLabel->setText(tr("Connecting..."));
-    m_shownStatus.clear();
+    m_statusHeldUntilMs = m_clock.elapsed() + kConnectedTextDelayMs + kConnectedTextHoldMs;
     m_port->openUART(portName, baudRate);
     m_openedAt.start();
+    m_ui->label_connection->setToolTip(device_text::plainToolTip(portName));
     m_settingsDialog->set_baud(baudRate);
     m_dispatcher->clear();
     m_dispatcher->setLinkConnected(true);
@@ -72,10 +74,8 @@ void form_base::open_port()
     enable_all_page(true);
 
     QTimer::singleShot(kConnectedTextDelayMs, this, [this, session = m_session, portName, baudRate] {
-        if (session != m_session)
-            return;
-        m_statusHeldUntilMs = m_clock.elapsed() + kConnectedTextHoldMs;
-        m_statusLabel->setText(tr("Connected... %1, %2 baud").arg(portName).arg(baudRate));
+        if (session == m_session)
+            m_statusLabel->setText(tr("Connected... %1, %2 baud").arg(portName).arg(baudRate));
     });
 }
 
@@ -104,6 +104,7 @@ void form_base::closeConnection()
     clearDetectedDevice();
     m_chosenNodeId.reset();
     m_lastFrameMs = -1;
+    m_lastReadMs = -1;
     m_attitude = {};
     m_panel->clear();
     m_adi->setAttitude(m_attitude);
@@ -156,7 +157,7 @@ void form_base::try_read_prod_info()
 {
     if (!m_dispatcher->snapshot().link_connected || m_broker->isCollecting())
         return;
-    if (m_productInfoRequested && !m_device.valid && m_dispatcher->snapshot().has_frame_items) {
+    if (m_productInfoRequested && !m_device.valid && isStreamLive()) {
         m_retryTimer->stop();
         if (!m_liveStreamSkipLogged) {
             AppLog::logfile(QtInfoMsg, QStringLiteral("product-info read skipped because live frame stream is active"));
@@ -169,6 +170,7 @@ void form_base::try_read_prod_info()
     const QStringList lines = m_settingsDialog->get_prod_info();
     if (session != m_session) // closed, or another port opened, while waiting for the reply
         return;
+    m_lastReadMs = m_clock.elapsed();
     if (lines.isEmpty()) {
         clearDetectedDevice();
         m_dispatcher->setProductInfoReady(false);
@@ -177,6 +179,12 @@ void form_base::try_read_prod_info()
         return;
     }
     takeDetectedDevice(m_settingsDialog->detectedDevice());
+}
+
+bool form_base::isStreamLive() const
+{
+    // Frames from before the last read do not count: the read has stopped the output.
+    return m_dispatcher->snapshot().has_frame_items && m_lastFrameMs > m_lastReadMs;
 }
 
 void form_base::takeDetectedDevice(const DetectedDevice &device)

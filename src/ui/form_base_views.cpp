@@ -86,11 +86,8 @@ void form_base::run_uart_UItmr()
 
 void form_base::update_status_bar_text(const StreamSnapshot &snapshot)
 {
-    const QString text = status_text::statusBar(snapshot, m_liveStreamSkipLogged);
-    if (text == m_shownStatus && m_clock.elapsed() < m_statusHeldUntilMs)
-        return;
-    m_shownStatus = text;
-    setTextIfChanged(m_statusLabel, text);
+    if (m_clock.elapsed() >= m_statusHeldUntilMs)
+        setTextIfChanged(m_statusLabel, status_text::statusBar(snapshot, m_liveStreamSkipLogged));
 }
 
 void form_base::updateConnectionPanel(const StreamSnapshot &snapshot)
@@ -149,9 +146,8 @@ void form_base::show_text(const node_data_t &node, const std::array<float, 3> &e
     SensorDataModel model;
     model.node = node;
     model.fields = sampleFields(m_dispatcher->currentFrame());
-    model.showSummary =
-        m_dispatcher->snapshot().transport_role == TransportRole::WirelessGateway || currentProfile().showSensorSummary;
     m_panel->setModel(model);
+    showSummary();
     setTextIfChanged(m_nodeLabel, tr("Node ID:%1").arg(node.id));
     QStringList angles;
     if (m_attitude.valid) {
@@ -161,8 +157,15 @@ void form_base::show_text(const node_data_t &node, const std::array<float, 3> &e
     m_angles->setTexts(angles);
 }
 
+void form_base::showSummary()
+{
+    m_panel->setSummaryVisible(m_dispatcher->snapshot().transport_role == TransportRole::WirelessGateway
+                               || currentProfile().showSensorSummary);
+}
+
 void form_base::showDevice()
 {
+    showSummary();
     const auto orDash = [](const QString &text) { return text.isEmpty() ? value_format::absent() : text; };
     m_ui->label_product->setText(m_device.valid ? currentProfile().displayName : value_format::absent());
     m_ui->label_model->setText(orDash(m_device.modelLine));

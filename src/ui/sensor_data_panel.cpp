@@ -115,7 +115,11 @@ void SensorDataPanel::setModel(const SensorDataModel &model)
     m_summary->setTexts({QString::number(node.id), orDash(SampleField::Time, value_format::deviceTime(node.time_ms)),
                          orDash(SampleField::Temperature, value_format::number(double(node.temperature), 1)),
                          orDash(SampleField::Pressure, value_format::number(double(node.pressure), 1))});
-    m_summaryCard->setVisible(model.showSummary);
+}
+
+void SensorDataPanel::setSummaryVisible(bool visible)
+{
+    m_summaryCard->setVisible(visible);
 }
 
 void SensorDataPanel::advance(qint64 nowMs)
@@ -129,7 +133,6 @@ void SensorDataPanel::clear()
     for (ValueCard *card : cards())
         card->clear();
     m_summary->setTexts({});
-    m_summaryCard->setVisible(true);
 }
 
 QString SensorDataPanel::text() const

@@ -15,8 +15,7 @@ class ValueStrip;
 struct SensorDataModel
 {
     node_data_t node;
-    SampleFields fields;      ///< what the stream carries; all else is a dash
-    bool showSummary = false; ///< the row with node, time, temperature and pressure
+    SampleFields fields; ///< what the stream carries; all else is a dash
 };
 
 /// The numeric panel: all values of the selected node with units, in cards with bars and a trace of the last seconds,
@@ -33,6 +32,8 @@ public:
     void appendSample(qint64 nowMs, const node_data_t &node, SampleFields fields);
     /// Shows the values. Call at the pace of the display, not of the stream.
     void setModel(const SensorDataModel &model);
+    /// Shows or hides the row with node, time, temperature and pressure.
+    void setSummaryVisible(bool visible);
     /// Lets the traces move on when no sample arrives.
     void advance(qint64 nowMs);
     /// Dashes everywhere.

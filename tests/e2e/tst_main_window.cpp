@@ -39,6 +39,7 @@ private slots:
     void closesInEachState_data();
     void closesInEachState();
     void retriesASilentDeviceUntilFramesFlow();
+    void asksAgainWhenTheStreamHasEnded();
     void defersIdentificationOfADeafStream();
     void fallsBackForStrangeReplies_data();
     void fallsBackForStrangeReplies();
@@ -305,6 +306,19 @@ void TestMainWindow::retriesASilentDeviceUntilFramesFlow()
     QTRY_COMPARE_WITH_TIMEOUT(desk.log().count("command sequence finish"), 2, 8000);
     QVERIFY(simulator.control("silent off"));
     QTRY_VERIFY_WITH_TIMEOUT(desk.log().contains("product-info"), 8000);
+}
+
+void TestMainWindow::asksAgainWhenTheStreamHasEnded()
+{
+    SimulatorProcess simulator(words("--device mz221 --fixed --rate 400"));
+    Desk desk;
+    // The device hears that it shall stop, and then nothing for the rest of the reading.
+    QTimer::singleShot(250, desk.window.get(), [&] { QVERIFY(simulator.control("silent on")); });
+    desk.open(simulator.port());
+    QVERIFY(desk.log().contains("stream frame seq=1"));
+    QVERIFY(!desk.log().contains("product-info"));
+    QVERIFY(simulator.control("silent off"));
+    QTRY_COMPARE_WITH_TIMEOUT(desk.label("label_product"), QStringLiteral("MZ221"), 8000);
 }
 
 void TestMainWindow::defersIdentificationOfADeafStream()

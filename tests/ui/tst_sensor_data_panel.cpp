@@ -32,7 +32,6 @@ SensorDataModel sampleModel()
     model.node.acc[0] = 1.0F;
     model.node.quat[0] = 1.0F;
     model.fields = SampleField::Acceleration;
-    model.showSummary = true;
     return model;
 }
 
@@ -94,7 +93,7 @@ void TestSensorDataPanel::hidesAndShowsTheSummary()
     SensorDataModel model = sampleModel();
     panel.setModel(model);
     QVERIFY(panel.text().contains(QLatin1String("Pressure")));
-    model.showSummary = false;
+    panel.setSummaryVisible(false);
     panel.setModel(model);
     QVERIFY(!panel.text().contains(QLatin1String("Pressure")));
 }
