@@ -52,6 +52,9 @@ QPushButton:default:hover, QPushButton[primary="true"]:hover, QToolBar QToolButt
     background: #1D4ED8; border-color: #1D4ED8; }
 QPushButton:default:disabled, QPushButton[primary="true"]:disabled {
     background: #BFDBFE; border-color: #BFDBFE; color: #FFFFFF; }
+QToolBar QToolButton#qt_toolbar_ext_button { padding: 0; min-width: 16px; image: url(:/images/chevron-down.png); }
+QMessageBox { dialogbuttonbox-buttons-have-icons: 0; }
+QLabel#qt_msgbox_informativelabel { min-width: 360px; }
 
 QLineEdit, QComboBox, QSpinBox, QPlainTextEdit {
     background: #FFFFFF; border: 1px solid #D1D5DB; border-radius: 6px; padding: 4px 8px;
@@ -80,7 +83,7 @@ QLabel[role="headline"] { font-weight: 600; font-size: 16pt; }
 QLabel[role="secondary"] { color: #4B5563; }
 QLabel[role="warning"] { color: #B45309; }
 
-QScrollArea { background: transparent; border: none; }
+QScrollArea, QScrollArea > QWidget > QWidget#column_left { background: transparent; border: none; }
 QTabWidget::pane { border: 1px solid #E5E7EB; border-radius: 8px; background: #FFFFFF; top: -1px; }
 QTabBar::tab { padding: 6px 16px; border: 1px solid transparent; color: #4B5563; background: transparent; }
 QTabBar::tab:selected { color: #1D4ED8; border-bottom: 2px solid #2563EB; }

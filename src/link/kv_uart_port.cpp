@@ -9,6 +9,7 @@ namespace {
 
 constexpr int kSecondMs = 1000;
 constexpr unsigned long kCloseTimeoutMs = 5000;
+constexpr int kLastBytesMs = 200;
 
 void moveIfNeeded(QObject *object, QThread *target)
 {
@@ -93,8 +94,11 @@ void KvUartPort::threadStarted()
 void KvUartPort::threadStopped()
 {
     m_startPending = false;
-    if (isOpen())
+    if (isOpen()) {
+        if (bytesToWrite() > 0) // a last command, queued just before the close
+            waitForBytesWritten(kLastBytesMs);
         close();
+    }
     m_secondTimer->stop();
     AppLog::logfile(QtInfoMsg, QStringLiteral("uart-thread stopped."));
     moveAllTo(QCoreApplication::instance()->thread());

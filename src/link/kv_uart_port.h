@@ -39,8 +39,9 @@ public:
     /// that is open is closed first. Returns before the port is open.
     void openUART(const QString &portName, int baud);
 
-    /// Closes the port in its thread and waits at most 5 s for the thread to end. When it returns, everything that the
-    /// worker has emitted is already posted to the main thread. Nothing happens when nothing is open.
+    /// Sends what was queued before, closes the port in its thread, and then waits at most 5 s for the thread to end.
+    /// When it returns, everything that the worker has emitted is already posted to the main thread. Nothing happens
+    /// when nothing is open.
     void closeUART();
 
     /// Counters of the last whole second. Any thread.

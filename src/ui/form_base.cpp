@@ -45,19 +45,32 @@ QSettings settingsFile()
     return QSettings(settings_keys::kFile, QSettings::IniFormat);
 }
 
+int storedFontSize()
+{
+    const int points = settingsFile().value(settings_keys::kFontSize, kFontMedium).toInt();
+    return points >= kFontMin && points <= kFontMax ? points : kFontMedium;
+}
+
+void setApplicationFontSize(int points)
+{
+    QFont font = QApplication::font();
+    font.setPointSize(points);
+    QApplication::setFont(font);
+}
+
 } // namespace
 
 form_base::form_base(QWidget *parent) : QMainWindow(parent), m_ui(std::make_unique<Ui::form_base>())
 {
+    const int fontSize = storedFontSize();
+    setApplicationFontSize(fontSize); // before any widget: a style sheet keeps widgets from following later
+
     m_ui->setupUi(this);
     setUpPanels();
 
     AppLog::init();
     AppLog::logfile(QtInfoMsg,
                     QStringLiteral("ui-thread=%1 started").arg(reinterpret_cast<quintptr>(QThread::currentThreadId())));
-    if (!QFileInfo(QDir::currentPath()).isWritable())
-        qWarning().noquote() << "The working folder cannot be written: no settings and logs are kept"
-                             << QDir::currentPath();
 
     m_port = std::make_unique<KvUartPort>();
     m_portDialog = new form_com_select(this);
@@ -84,10 +97,9 @@ form_base::form_base(QWidget *parent) : QMainWindow(parent), m_ui(std::make_uniq
     m_clock.start();
     setUpConnections();
 
-    const QSettings settings(settings_keys::kFile, QSettings::IniFormat);
-    const int points = settings.value(settings_keys::kFontSize, kFontMedium).toInt();
-    applyFontSize(points >= kFontMin && points <= kFontMax ? points : kFontMedium);
-    restoreGeometry(settings.value(settings_keys::kGeometry).toByteArray());
+    applyFontSize(fontSize);
+    restoreGeometry(settingsFile().value(settings_keys::kGeometry).toByteArray());
+    m_ui->label_folder->setVisible(!QFileInfo(QDir::currentPath()).isWritable());
     retranslate();
     enable_all_page(false);
 }
@@ -173,6 +185,7 @@ void form_base::setUpConnections()
 {
     connect(m_port.get(), &KvUartPort::kbootRecv, this, &form_base::onKbootFrameRecv);
     connect(m_port.get(), &QSerialPort::errorOccurred, this, &form_base::onSerialError);
+    connect(m_portDialog, &QDialog::accepted, this, &form_base::onPortChosen);
     connect(m_settingsDialog, &form_settings::settingsClosed, this, &form_base::on_form_settings_closed);
     connect(m_dispatcher, &StreamDispatcher::selectedNodeChanged, this, &form_base::onSelectedNodeChanged);
     connect(m_dispatcher, &StreamDispatcher::streamSnapshotChanged, this, &form_base::onSnapshotChanged);
@@ -189,10 +202,9 @@ void form_base::setUpConnections()
 
 void form_base::applyFontSize(int points)
 {
-    QFont font = QApplication::font();
-    font.setPointSize(points);
-    QApplication::setFont(font);
-    setStyleSheet(QStringLiteral("QMenu {font: %1pt '%2';}").arg(QString::number(points), font.family()));
+    setApplicationFontSize(points);
+    setStyleSheet(
+        QStringLiteral("QMenu {font: %1pt '%2';}").arg(QString::number(points), QApplication::font().family()));
     m_trafficLabel->setFont(theme::fixedPitchFont(points));
     m_ui->actionFontSmall->setChecked(points == kFontSmall);
     m_ui->actionFontMedium->setChecked(points == kFontMedium);
@@ -264,6 +276,8 @@ void form_base::retranslate()
         tr("Close the serial port (%1)").arg(m_ui->action_serial_stop->shortcut().toString(QKeySequence::NativeText)));
     m_ui->label_welcome->setText(
         tr("Plug in a module or a gateway, press <b>Open port</b> (%1) and choose its serial port.").arg(shortcut));
+    m_ui->label_folder->setText(
+        tr("The folder %1 cannot be written: settings and logs of this run are not kept.").arg(QDir::currentPath()));
     showDevice();
 }
 

@@ -55,7 +55,7 @@ public:
     static OrientationPreset resolveOrientationPreset(const DetectedDevice &device);
 
 public slots:
-    /// Lets the user choose a port, opens it and has the device identified.
+    /// Lets the user choose a port; on acceptance opens it and has the device identified.
     void on_action_serial_open_triggered();
     /// Ends the connection. Safe in every state.
     void on_action_serial_stop_triggered();
@@ -79,11 +79,13 @@ private:
     void retranslate();
 
     // connection
+    void onPortChosen();
     void open_port();
     void closeConnection();
+    void leaveDeviceStreaming();
     void enable_all_page(bool enabled);
     void onSerialError(QSerialPort::SerialPortError error);
-    void showPortError(const QString &portName, const QString &reason);
+    void showPortError(const QString &reason);
     void try_read_prod_info();
     void on_form_settings_closed();
     void takeDetectedDevice(const DetectedDevice &device);

@@ -13,6 +13,7 @@
 #include "device/command_broker.h"
 #include "device/orientation_override.h"
 #include "device/product_profile.h"
+#include "device/settings_command_adapter.h"
 #include "link/kv_uart_port.h"
 #include "link/stream_dispatcher.h"
 #include "ui/device_text.h"
@@ -33,12 +34,13 @@ constexpr int kConnectedTextHoldMs = 1500;
 
 void form_base::on_action_serial_open_triggered()
 {
-    if (m_portDialog->isVisible()) {
-        m_portDialog->raise();
-        return;
-    }
-    if (m_portDialog->exec() != QDialog::Accepted)
-        return;
+    // Not exec(): a command that waits for its reply meanwhile must not wait for the user as well.
+    m_portDialog->open();
+    m_portDialog->raise();
+}
+
+void form_base::onPortChosen()
+{
     open_port();
     const unsigned int session = m_session;
     clearDetectedDevice();
@@ -94,6 +96,7 @@ void form_base::closeConnection()
     m_uiTimer.stop();
     disconnect(&m_uiTimer, &QTimer::timeout, this, &form_base::run_uart_UItmr);
     m_retryTimer->stop();
+    leaveDeviceStreaming();
     m_port->closeUART();
     m_dispatcher->setLinkConnected(false);
     // What the worker had posted before it ended belongs to this connection: taken now, while the link counts as
@@ -113,6 +116,15 @@ void form_base::closeConnection()
     m_nodeLabel->clear();
     m_ui->label_connection->clear();
     m_trafficLabel->clear();
+}
+
+void form_base::leaveDeviceStreaming()
+{
+    if (!m_broker->isCollecting() && !m_settingsDialog->is_output_stopped())
+        return;
+    // A reading in progress, or the user, has stopped the output: the next program must not find a mute device.
+    QMetaObject::invokeMethod(m_port.get(), "serialSend", Qt::QueuedConnection,
+                              Q_ARG(QByteArray, settings_command_adapter::buildResumeOutputCommand().toUtf8()));
 }
 
 void form_base::enable_all_page(bool enabled)
@@ -138,17 +150,17 @@ void form_base::onSerialError(QSerialPort::SerialPortError error)
         serial_error_text::describe(error, serial_error_text::facts(portName, m_portDialog->baudRate()));
     on_action_serial_stop_triggered();
     AppLog::logfile(QtWarningMsg, QStringLiteral("failed to open serial port."));
-    showPortError(portName, reason);
+    showPortError(reason);
 }
 
-void form_base::showPortError(const QString &portName, const QString &reason)
+void form_base::showPortError(const QString &reason)
 {
     delete m_errorBox;
     m_errorBox = new QMessageBox(QMessageBox::Information, appWindowTitle(), tr("Open Serial Port Error."),
                                  QMessageBox::Ok, this);
     m_errorBox->setAttribute(Qt::WA_DeleteOnClose);
     m_errorBox->setTextFormat(Qt::PlainText);
-    m_errorBox->setInformativeText(portName + QLatin1String("\n") + reason);
+    m_errorBox->setInformativeText(reason);
     m_errorBox->setTextInteractionFlags(Qt::TextSelectableByMouse); // so that a command in it can be copied
     m_errorBox->open();
 }

@@ -1,7 +1,9 @@
 #include "ui/form_com_select.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QSettings>
 #include <QShowEvent>
@@ -100,8 +102,9 @@ void form_com_select::showEvent(QShowEvent *event)
         m_ui->LE_path->clear();
         updateRows(m_source());
         offerRemembered();
-        QWidget *first = m_ports.isEmpty() ? static_cast<QWidget *>(m_ui->LE_path) : m_ui->TREE_ports;
-        first->setFocus(Qt::OtherFocusReason);
+        // The field, not the list, whose search by typed letters would turn a typed path into another port.
+        m_ui->LE_path->setFocus(Qt::OtherFocusReason);
+        m_ui->LE_path->selectAll();
     }
     m_refreshTimer.start();
     QDialog::showEvent(event);
@@ -111,6 +114,14 @@ void form_com_select::hideEvent(QHideEvent *event)
 {
     m_refreshTimer.stop();
     QDialog::hideEvent(event);
+}
+
+void form_com_select::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) // the field has no use for them
+        QCoreApplication::sendEvent(m_ui->TREE_ports, event);
+    else
+        QDialog::keyPressEvent(event);
 }
 
 void form_com_select::changeEvent(QEvent *event)

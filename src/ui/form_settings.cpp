@@ -127,6 +127,11 @@ QStringList form_settings::get_prod_info()
     return m_session->readInfo();
 }
 
+bool form_settings::is_output_stopped() const
+{
+    return m_session->isOutputStopped();
+}
+
 const DetectedDevice &form_settings::detectedDevice() const
 {
     return m_session->device();

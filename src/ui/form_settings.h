@@ -49,6 +49,9 @@ public:
     /// when nothing is connected, while another command runs, and when the connection ended meanwhile.
     QStringList get_prod_info();
 
+    /// The device's output was stopped by a command of this dialog and not resumed since.
+    bool is_output_stopped() const;
+
     /// The device as it was identified last; `valid` is false and `profile` may be null when none was.
     const DetectedDevice &detectedDevice() const;
     /// Forgets the device. What was chosen for its settings is kept until the program ends.

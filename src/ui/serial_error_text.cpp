@@ -73,7 +73,7 @@ QString serial_error_text::describe(QSerialPort::SerialPortError error, const Po
     case QSerialPort::OpenError:
         return Texts::tr("%1 is open already.").arg(facts.port);
     case QSerialPort::UnsupportedOperationError:
-        return Texts::tr("%1 does not support these settings. Choose another baud rate than %2.")
+        return Texts::tr("%1 is not a serial port, or it does not support %2 baud. Choose another port or baud rate.")
             .arg(facts.port)
             .arg(facts.baudRate);
     default:

@@ -56,22 +56,15 @@ public:
     /// has ended.
     void open(const QString &path, int baud = 921600)
     {
-        QTimer typist;
-        QObject::connect(&typist, &QTimer::timeout, &typist, [&] {
-            auto *dialog = window->findChild<form_com_select *>();
-            if (!dialog->isVisible())
-                return;
-            typist.stop();
-            dialog->findChild<QLineEdit *>(QStringLiteral("LE_path"))->setText(path);
-            dialog->findChild<QComboBox *>(QStringLiteral("CB_baud"))->setCurrentText(QString::number(baud));
-            auto *button = dialog->findChild<QPushButton *>(QStringLiteral("BTN_open"));
-            if (button->isEnabled())
-                button->click();
-            else
-                dialog->reject();
-        });
-        typist.start(5);
         find<QAction>("action_serial_open")->trigger();
+        auto *dialog = window->findChild<form_com_select *>();
+        dialog->findChild<QLineEdit *>(QStringLiteral("LE_path"))->setText(path);
+        dialog->findChild<QComboBox *>(QStringLiteral("CB_baud"))->setCurrentText(QString::number(baud));
+        auto *button = dialog->findChild<QPushButton *>(QStringLiteral("BTN_open"));
+        if (button->isEnabled())
+            button->click();
+        else
+            dialog->reject();
     }
 
     QByteArray log() const

@@ -2,6 +2,7 @@
 #include <QSpinBox>
 #include <QTest>
 
+#include "app/theme.h"
 #include "desk.h"
 #include "support/simulator_process.h"
 
@@ -46,7 +47,10 @@ private slots:
     void showsStrangeNumbers();
     void shrugsOffNoise();
     void savesSettingsThroughTheDialog();
+    void leavesTheDeviceStreaming_data();
+    void leavesTheDeviceStreaming();
     void remembersMountingPerProduct();
+    void restoresTheFontSizeEverywhere();
     void readsHostileSettings_data();
     void readsHostileSettings();
     void runsWithoutAWorkingFolder();
@@ -55,6 +59,8 @@ private slots:
 void TestMainWindow::initTestCase()
 {
     QVERIFY2(QFile::exists(QStringLiteral(KV_SIMULATOR_PATH)), "build kv_simulator first");
+    QApplication::setStyle(QStringLiteral("fusion"));
+    qApp->setStyleSheet(theme::styleSheet());
 }
 
 void TestMainWindow::identifiesAndShowsNumbers_data()
@@ -219,6 +225,7 @@ void TestMainWindow::tellsWhyAPortCannotBeOpened()
     QTRY_VERIFY(desk.errorBox());
     QVERIFY(!desk.isOpen());
     const QString gone = desk.errorBox()->informativeText();
+    QVERIFY(gone.contains(QLatin1String("/dev/pts/does-not-exist")));
 
     QSerialPort holder;
     holder.setPortName(simulator.port());
@@ -285,8 +292,7 @@ void TestMainWindow::closesInEachState()
             QVERIFY(desk.window->close());
     };
     if (afterMs >= 0) {
-        // The typist in the dialog takes some milliseconds of it.
-        QTimer::singleShot(afterMs + 40, desk.window.get(), end);
+        QTimer::singleShot(afterMs, desk.window.get(), end);
     }
     desk.open(simulator.port());
     if (afterMs < 0)
@@ -403,6 +409,66 @@ void TestMainWindow::savesSettingsThroughTheDialog()
                                  || desk.label("label_connection").contains(QLatin1String("FrameRate: 11 Hz"))
                                  || desk.label("label_connection").contains(QLatin1String("FrameRate: 9 Hz")),
                              8000);
+}
+
+void TestMainWindow::leavesTheDeviceStreaming_data()
+{
+    QTest::addColumn<bool>("identifying"); // else stopped by the user
+    QTest::addColumn<bool>("quit");        // else only the port is closed
+    QTest::newRow("port closed while identifying") << true << false;
+    QTest::newRow("window closed while identifying") << true << true;
+    QTest::newRow("port closed after a stop") << false << false;
+    QTest::newRow("window closed after a stop") << false << true;
+}
+
+void TestMainWindow::leavesTheDeviceStreaming()
+{
+    QFETCH(bool, identifying);
+    QFETCH(bool, quit);
+    SimulatorProcess simulator(words("--device mz221 --fixed --rate 100"));
+    Desk desk;
+    const auto end = [&] {
+        if (quit)
+            desk.window->close();
+        else
+            desk.find<QAction>("action_serial_stop")->trigger();
+    };
+    if (identifying)
+        QTimer::singleShot(250, desk.window.get(), end);
+    desk.open(simulator.port());
+    if (!identifying) {
+        desk.find<QAction>("actionDevice_Settiing")->trigger();
+        const auto buttons = desk.settings()->findChildren<QPushButton *>();
+        const auto isStop = [](const QPushButton *button) { return button->text() == QLatin1String("Stop output"); };
+        const auto stop = std::find_if(buttons.begin(), buttons.end(), isStop);
+        QVERIFY(stop != buttons.end());
+        (*stop)->click();
+        end();
+    }
+    QTRY_VERIFY(!desk.isOpen());
+    QSerialPort other;
+    other.setPortName(simulator.port());
+    QVERIFY(other.open(QIODevice::ReadWrite));
+    QTRY_VERIFY(other.bytesAvailable() > 200);
+}
+
+void TestMainWindow::restoresTheFontSizeEverywhere()
+{
+    Desk desk;
+    desk.find<QAction>("actionFontBig")->trigger();
+    const auto sizes = [&desk] {
+        QList<int> points;
+        for (const char *name : {"menubar", "button_open", "title_card_device", "button_connect", "label_status",
+                                 "list_nodes", "combo_mounting", "title_card_attitude"})
+            points.append(desk.find<QWidget>(name)->fontInfo().pointSize());
+        return points;
+    };
+    QCOMPARE(sizes(), QList<int>(8, 12));
+    desk.window = std::make_unique<form_base>();
+    desk.window->show();
+    QCOMPARE(sizes(), QList<int>(8, 12));
+    desk.find<QAction>("actionFontMedium")->trigger();
+    QCOMPARE(sizes(), QList<int>(8, 10));
 }
 
 void TestMainWindow::remembersMountingPerProduct()

@@ -40,7 +40,7 @@ private slots:
         row("gone between choosing and opening", QSerialPort::PermissionError, gone, "is not there");
         row("unplugged", QSerialPort::ResourceError, gone, "unplugged");
         row("unplugged, file still there", QSerialPort::ResourceError, there, "unplugged");
-        row("settings", QSerialPort::UnsupportedOperationError, there, "another baud rate than 123456");
+        row("settings", QSerialPort::UnsupportedOperationError, there, "does not support 123456 baud");
         row("other", QSerialPort::UnknownError, there, "error 8");
     }
     void saysWhyAndWhatToDo()
