@@ -84,6 +84,12 @@ QLabel[role="secondary"] { color: #4B5563; }
 QLabel[role="warning"] { color: #B45309; }
 
 QScrollArea, QScrollArea > QWidget > QWidget#column_left { background: transparent; border: none; }
+QScrollBar:vertical { background: transparent; width: 10px; margin: 0; }
+QScrollBar:horizontal { background: transparent; height: 10px; margin: 0; }
+QScrollBar::handle { background: #D1D5DB; border-radius: 3px; margin: 2px; min-height: 24px; min-width: 24px; }
+QScrollBar::handle:hover { background: #9CA3AF; }
+QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
+QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QTabWidget::pane { border: 1px solid #E5E7EB; border-radius: 8px; background: #FFFFFF; top: -1px; }
 QTabBar::tab { padding: 6px 16px; border: 1px solid transparent; color: #4B5563; background: transparent; }
 QTabBar::tab:selected { color: #1D4ED8; border-bottom: 2px solid #2563EB; }

@@ -33,6 +33,7 @@ constexpr int kUiTickMs = 20;
 constexpr int kRetryMs = 2000;
 
 constexpr int kAdiHeight = 296;
+constexpr int kLeftWidthPerPoint = 27;
 
 constexpr int kFontSmall = 9;
 constexpr int kFontMedium = 10;
@@ -206,6 +207,7 @@ void form_base::applyFontSize(int points)
     setStyleSheet(
         QStringLiteral("QMenu {font: %1pt '%2';}").arg(QString::number(points), QApplication::font().family()));
     m_trafficLabel->setFont(theme::fixedPitchFont(points));
+    m_ui->scroll_left->setFixedWidth(points * kLeftWidthPerPoint);
     m_ui->actionFontSmall->setChecked(points == kFontSmall);
     m_ui->actionFontMedium->setChecked(points == kFontMedium);
     m_ui->actionFontBig->setChecked(points == kFontBig);
@@ -264,6 +266,8 @@ void form_base::retranslate()
     text(findAction("action_sensor_dashboard"), tr("Sensor Dashboard"), tr("Waveforms come with a later version."));
     text(findAction("action_wireless_gateway_dashboard"), tr("Wireless Gateway Dashboard"),
          tr("The dashboard of radio nodes comes with a later version."));
+    findAction("action_sensor_dashboard")->setIconText(tr("Waves")); // short ones for the toolbar
+    findAction("action_wireless_gateway_dashboard")->setIconText(tr("Gateway"));
     m_ui->actionFFT_Chart->setToolTip(tr("The spectrum comes with a later version."));
     m_ui->action3D_view->setToolTip(tr("The 3D view comes with a later version."));
     m_ui->action_export_data->setToolTip(tr("Recording comes with a later version."));

@@ -45,9 +45,9 @@ void showOn(ValueCard *card, bool present, std::span<const float> values)
 } // namespace
 
 SensorDataPanel::SensorDataPanel(QWidget *parent)
-    : QWidget(parent), m_acceleration(new ValueCard(vectorChannels(QStringLiteral("|a|")), {3, 2, 1.0}, this)),
+    : QWidget(parent), m_acceleration(new ValueCard(vectorChannels(QStringLiteral("|a|")), {3, 2, 2.0}, this)),
       m_angularRate(new ValueCard(vectorChannels(QStringLiteral("|\u03C9|")), {2, 4, 10.0}, this)),
-      m_magneticField(new ValueCard(vectorChannels(QStringLiteral("|m|")), {1, 4, 50.0}, this)),
+      m_magneticField(new ValueCard(vectorChannels(QStringLiteral("|m|")), {1, 4, 100.0}, this)),
       m_quaternion(new ValueCard(quaternionChannels(), {4, 1, 1.0}, this)), m_summaryCard(new QFrame(this)),
       m_summary(new ValueStrip(m_summaryCard))
 {

@@ -15,6 +15,7 @@ namespace {
 constexpr int kPadding = 2 * theme::kGrid;
 constexpr int kBarHeight = 5;
 constexpr int kTraceGap = theme::kGrid + theme::kGrid / 2;
+constexpr double kRoundingMargin = 1.001;
 constexpr int kMinTraceHeight = 36;
 constexpr int kMaxTraceHeight = 160;
 constexpr QColor kBarGround{0xF3, 0xF4, 0xF6};
@@ -111,7 +112,8 @@ double ValueCard::range() const
         if (std::isfinite(value))
             magnitude = std::max(magnitude, double(std::abs(value)));
     }
-    return value_format::niceRange(magnitude, m_format.minimumRange);
+    // A unit quaternion may be a rounding error longer than 1.
+    return value_format::niceRange(magnitude / kRoundingMargin, m_format.minimumRange);
 }
 
 QStringList ValueCard::lines() const

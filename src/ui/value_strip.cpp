@@ -61,11 +61,11 @@ int ValueStrip::cellWidth(const Cell &cell) const
 
 QSize ValueStrip::sizeHint() const
 {
-    int widest = 0;
+    int total = 0;
     for (const Cell &cell : m_cells)
-        widest = std::max(widest, cellWidth(cell));
+        total += cellWidth(cell);
     const QFontMetrics valueMetrics(theme::fixedPitchFont(font().pointSizeF() + 2));
-    return {widest * int(m_cells.size()), fontMetrics().height() + kSpacing + valueMetrics.height()};
+    return {total, fontMetrics().height() + kSpacing + valueMetrics.height()};
 }
 
 void ValueStrip::changeEvent(QEvent *event)
@@ -82,9 +82,11 @@ void ValueStrip::paintEvent(QPaintEvent *)
     QPainter painter(this);
     const QFont valueFont = theme::fixedPitchFont(font().pointSizeF() + 2);
     const int captionHeight = fontMetrics().height();
-    const double cellWidth = double(width()) / double(m_cells.size());
+    const double spare = double(width() - sizeHint().width()) / double(m_cells.size());
+    double left = 0;
     for (qsizetype i = 0; i < m_cells.size(); ++i) {
-        const QRectF cell(double(i) * cellWidth, 0, cellWidth, height());
+        const QRectF cell(left, 0, cellWidth(m_cells.at(i)) + spare, height());
+        left = cell.right();
         painter.setFont(font());
         painter.setPen(theme::kTextSecondary);
         painter.drawText(QRectF(cell.left(), 0, cell.width(), captionHeight), Qt::AlignCenter,

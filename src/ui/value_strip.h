@@ -4,7 +4,7 @@
 #include <QList>
 #include <QWidget>
 
-/// A row of captions with a value under each, equally wide: the summary row and the angles.
+/// A row of captions with a value under each: the summary row and the angles. Cells share spare width equally.
 class ValueStrip : public QWidget
 {
     Q_OBJECT
