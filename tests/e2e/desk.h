@@ -23,8 +23,7 @@ public:
     Desk()
     {
         QDir::setCurrent(m_folder.path());
-        window = std::make_unique<form_base>();
-        window->show();
+        restart();
     }
     ~Desk()
     {
@@ -32,6 +31,14 @@ public:
         QDir::setCurrent(QDir::rootPath());
     }
     Q_DISABLE_COPY_MOVE(Desk)
+
+    /// Ends the program and starts it anew in the working folder.
+    void restart()
+    {
+        window.reset();
+        window = std::make_unique<form_base>();
+        window->show();
+    }
 
     template <typename T> T *find(const char *name) const { return window->findChild<T *>(QLatin1String(name)); }
     /// The text of a label, without the places where it may break.

@@ -6,16 +6,6 @@
 
 #include "support/simulator_process.h"
 
-/// The program itself as a user starts it.
-class TestProgram : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void startsWithCleanLogs();
-    void startsWhereNothingCanBeWritten();
-};
-
 namespace {
 
 QByteArray content(const QString &path)
@@ -26,48 +16,55 @@ QByteArray content(const QString &path)
 
 } // namespace
 
-void TestProgram::startsWithCleanLogs()
+/// The program itself as a user starts it.
+class TestProgram : public QObject
 {
-    const QTemporaryDir folder;
-    QFile old(folder.filePath(QStringLiteral("debug.log")));
-    QVERIFY(old.open(QIODevice::WriteOnly));
-    old.write("a line of the run before\r\n");
-    old.close();
+    Q_OBJECT
 
-    QProcess program;
-    program.setWorkingDirectory(folder.path());
-    program.start(QStringLiteral(KV_PROGRAM_PATH), QStringList());
-    QVERIFY(program.waitForStarted());
-    const QString appLog = folder.filePath(QStringLiteral("debug.log"));
-    QTRY_VERIFY_WITH_TIMEOUT(content(appLog).contains("ui-thread="), 20000);
-    QVERIFY(!content(appLog).contains("a line of the run before"));
-    QTRY_VERIFY(content(folder.filePath(QStringLiteral("qt6_debug.log"))).contains("Old log file was removed."));
-    program.terminate();
-    QVERIFY(program.waitForFinished());
+private slots:
+    void startsWithCleanLogs()
+    {
+        const QTemporaryDir folder;
+        QFile old(folder.filePath(QStringLiteral("debug.log")));
+        QVERIFY(old.open(QIODevice::WriteOnly));
+        old.write("a line of the run before\r\n");
+        old.close();
 
-    const QByteArray log = content(folder.filePath(QStringLiteral("qt6_debug.log")));
-    static const QRegularExpression line(QStringLiteral(R"(^\[\d\d:\d\d:\d\d\.\d{3}\] (DBG|INF): .* \(.*:\d+\)$)"));
-    for (const QByteArray &text : log.trimmed().split('\n'))
-        QVERIFY2(line.match(QString::fromUtf8(text)).hasMatch(), text.constData());
-}
+        QProcess program;
+        program.setWorkingDirectory(folder.path());
+        program.start(QStringLiteral(KV_PROGRAM_PATH), QStringList());
+        QVERIFY(program.waitForStarted());
+        const QString appLog = folder.filePath(QStringLiteral("debug.log"));
+        QTRY_VERIFY_WITH_TIMEOUT(content(appLog).contains("ui-thread="), 20000);
+        QVERIFY(!content(appLog).contains("a line of the run before"));
+        QTRY_VERIFY(content(folder.filePath(QStringLiteral("qt6_debug.log"))).contains("Old log file was removed."));
+        program.terminate();
+        QVERIFY(program.waitForFinished());
 
-void TestProgram::startsWhereNothingCanBeWritten()
-{
-    QTemporaryDir folder;
-    QProcess program;
-    // The shell leaves its own working folder without one, and the program must not mind.
-    program.start(
-        QStringLiteral("/bin/sh"),
-        {QStringLiteral("-c"),
-         QStringLiteral("cd '%1' && rmdir '%1' && exec '%2'").arg(folder.path(), QStringLiteral(KV_PROGRAM_PATH))});
-    QVERIFY(program.waitForStarted());
-    QByteArray errors;
-    QTRY_VERIFY_WITH_TIMEOUT((errors += program.readAllStandardError()).contains("Failed to open Qt6 log file:"),
-                             20000);
-    QVERIFY(!program.waitForFinished(1500)); // it stays up
-    program.terminate();
-    QVERIFY(program.waitForFinished());
-}
+        const QByteArray log = content(folder.filePath(QStringLiteral("qt6_debug.log")));
+        static const QRegularExpression line(QStringLiteral(R"(^\[\d\d:\d\d:\d\d\.\d{3}\] (DBG|INF): .* \(.*:\d+\)$)"));
+        for (const QByteArray &text : log.trimmed().split('\n'))
+            QVERIFY2(line.match(QString::fromUtf8(text)).hasMatch(), text.constData());
+    }
+
+    void startsWhereNothingCanBeWritten()
+    {
+        QTemporaryDir folder;
+        QProcess program;
+        // The shell leaves its own working folder without one, and the program must not mind.
+        program.start(
+            QStringLiteral("/bin/sh"),
+            {QStringLiteral("-c"),
+             QStringLiteral("cd '%1' && rmdir '%1' && exec '%2'").arg(folder.path(), QStringLiteral(KV_PROGRAM_PATH))});
+        QVERIFY(program.waitForStarted());
+        QByteArray errors;
+        QTRY_VERIFY_WITH_TIMEOUT((errors += program.readAllStandardError()).contains("Failed to open Qt6 log file:"),
+                                 20000);
+        QVERIFY(!program.waitForFinished(1500)); // it stays up
+        program.terminate();
+        QVERIFY(program.waitForFinished());
+    }
+};
 
 QTEST_GUILESS_MAIN(TestProgram)
 
