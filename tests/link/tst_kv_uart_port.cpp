@@ -22,25 +22,12 @@ class Listener : public QObject
 public:
     explicit Listener(KvUartPort &port)
     {
-        const auto here = [this] {
-            inMainThread = inMainThread && QThread::currentThread() == QCoreApplication::instance()->thread();
-        };
-        connect(&port, &KvUartPort::kbootRecv, this, [this, here](const QByteArray &payload) {
-            here();
-            payloads.append(payload);
-        });
-        connect(&port, &KvUartPort::serialRecv, this, [this, here](const QByteArray &data) {
-            here();
-            received += data;
-        });
-        connect(&port, &QSerialPort::errorOccurred, this, [this, here](QSerialPort::SerialPortError error) {
-            here();
+        connect(&port, &KvUartPort::kbootRecv, this, [this](const QByteArray &payload) { payloads.append(payload); });
+        connect(&port, &KvUartPort::serialRecv, this, [this](const QByteArray &data) { received += data; });
+        connect(&port, &KvUartPort::errorOpenPort, this, [this] { ++openErrors; });
+        connect(&port, &QSerialPort::errorOccurred, this, [this](QSerialPort::SerialPortError error) {
             if (error != QSerialPort::NoError)
                 errors.append(error);
-        });
-        connect(&port, &KvUartPort::errorOpenPort, this, [this, here] {
-            here();
-            ++openErrors;
         });
     }
 
@@ -48,7 +35,6 @@ public:
     QByteArray received;
     QList<QSerialPort::SerialPortError> errors;
     int openErrors = 0;
-    bool inMainThread = true;
 };
 
 /// The port with what the tests want to know from inside its thread. Called by name and answered through an atomic,
@@ -58,8 +44,11 @@ class TestedPort : public KvUartPort
     Q_OBJECT
 
 public:
-    using KvUartPort::KvUartPort;
-
+    bool opens(const PtyPair &pty)
+    {
+        openUART(pty.path(), kBaud);
+        return QTest::qWaitFor([this] { return isOpenInItsThread(); });
+    }
     bool isOpenInItsThread() { return ask("lookWhetherOpen"); }
     bool sendsBlocking() { return ask("sendBlocking"); }
 
@@ -87,30 +76,17 @@ void send(KvUartPort &port, const QByteArray &data)
     QMetaObject::invokeMethod(&port, "serialSend", Qt::QueuedConnection, Q_ARG(QByteArray, data));
 }
 
-/// A device that sends packets as fast as the line takes them, from a thread of its own, until it is destroyed.
-class Flood
+/// A device that sends packets as fast as the line takes them, from a thread of its own, until that is destroyed.
+std::jthread flood(PtyPair &pty)
 {
-public:
-    explicit Flood(PtyPair &pty)
-        : m_thread([this, &pty] {
-              const QByteArray packets = frames::packet(frames::fullRecord(1)).repeated(20);
-              while (!m_stop) {
-                  if (!pty.write(packets, 20))
-                      std::this_thread::yield(); // nobody listens
-              }
-          })
-    {}
-    ~Flood()
-    {
-        m_stop = true;
-        m_thread.join();
-    }
-    Q_DISABLE_COPY_MOVE(Flood)
-
-private:
-    std::atomic<bool> m_stop = false;
-    std::thread m_thread;
-};
+    return std::jthread([&pty](const std::stop_token &stop) {
+        const QByteArray packets = frames::packet(frames::fullRecord(1)).repeated(20);
+        while (!stop.stop_requested()) {
+            if (!pty.write(packets, 20))
+                std::this_thread::yield(); // nobody listens
+        }
+    });
+}
 
 } // namespace
 
@@ -119,320 +95,244 @@ class TestKvUartPort : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void packetsInPieces();
-    void livesInAThreadOfItsOwn();
-    void sends();
-    void sendingWhileClosed();
-    void statistics();
-    void loadPercent_data();
-    void loadPercent();
-    void missingPort();
-    void busyPort();
-    void openWhileOpen();
-    void reopenForgetsHalfAPacket();
-    void closeRightBehindOpen();
-    void closeInAFlood();
-    void destroyedWhileOpen();
-    void unplugged();
+    void initTestCase() { QVERIFY(QDir::setCurrent(m_folder.path())); }
+
+    void packetsInPiecesFromAThreadOfItsOwn()
+    {
+        PtyPair pty;
+        TestedPort port;
+        Listener listener(port);
+        std::atomic<QThread *> emitter = nullptr;
+        connect(
+            &port, &KvUartPort::kbootRecv, &port, [&] { emitter = QThread::currentThread(); }, Qt::DirectConnection);
+        QVERIFY(port.opens(pty));
+        const QByteArray payload = frames::fullRecord(7);
+        const QByteArray packet = frames::packet(payload);
+        for (qsizetype at = 0; at < packet.size(); at += 11) {
+            QVERIFY(listener.payloads.isEmpty());
+            QVERIFY(pty.write(packet.mid(at, 11)));
+            QTRY_COMPARE(listener.received, packet.left(at + 11));
+        }
+        QTRY_COMPARE(listener.payloads, QList<QByteArray>{payload});
+        QVERIFY(pty.write(packet + frames::packet("ab") + packet.left(3)));
+        QTRY_COMPARE(listener.payloads, (QList<QByteArray>{payload, payload, "ab"}));
+        QVERIFY(listener.errors.isEmpty());
+        QVERIFY(emitter != QCoreApplication::instance()->thread());
+        QCOMPARE(port.thread(), emitter.load());
+        port.closeUART();
+        QVERIFY(isIdle(port));
+        port.closeUART(); // nothing is open: nothing happens
+        QVERIFY(isIdle(port));
+    }
+
+    void sends()
+    {
+        PtyPair pty;
+        TestedPort port;
+        QVERIFY(port.opens(pty));
+        QByteArray arrived;
+        send(port, "AT+INFO\r\n");
+        QTRY_COMPARE((arrived += pty.read()), QByteArray("AT+INFO\r\n"));
+        QVERIFY(port.sendsBlocking());
+        QCOMPARE(pty.read(), QByteArray("AT+EOUT=1\r\n"));
+        QTRY_VERIFY_WITH_TIMEOUT(port.statistics().txBytesLastSecond > 0, 5000);
+    }
+
+    void sendingWhileClosed()
+    {
+        QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+        PtyPair pty;
+        TestedPort port;
+        port.serialSend("AT+INFO\r\n");
+        QVERIFY(!port.serialSendBlocking("AT+INFO\r\n", 1000));
+        QVERIFY(port.opens(pty));
+        port.closeUART();
+        port.serialSend("AT+INFO\r\n");
+        QVERIFY(!port.serialSendBlocking("AT+INFO\r\n", 1000));
+        QCOMPARE(pty.read(), QByteArray());
+    }
+
+    void statistics()
+    {
+        PtyPair pty;
+        TestedPort port;
+        QVERIFY(port.opens(pty));
+        // Half a line's worth in a second: 72 packets of 80 bytes. Begun right behind a tick, so that one second holds
+        // all.
+        const QByteArray packets = frames::packet(QByteArray(74, 'x')).repeated(72);
+        QCOMPARE(packets.size(), 5760);
+        QVERIFY(pty.write("-"));
+        QTRY_COMPARE_WITH_TIMEOUT(port.statistics().rxBytesLastSecond, quint64(1), 5000);
+        QCOMPARE(port.statistics().rxLoadPercent, 0U);
+        QVERIFY(pty.write(packets));
+        send(port, QByteArray(1152, 'y'));
+        QTRY_COMPARE_WITH_TIMEOUT(port.statistics().rxBytesLastSecond, quint64(5760), 5000);
+        const LinkStatistics seen = port.statistics();
+        QCOMPARE(seen.rxLoadPercent, 50U);
+        QCOMPARE(seen.txBytesLastSecond, quint64(1152));
+        QCOMPARE(seen.txLoadPercent, 10U);
+        QCOMPARE(seen.framesLastSecond, 72U);
+        QTRY_COMPARE_WITH_TIMEOUT(port.statistics().rxBytesLastSecond, quint64(0), 5000);
+        QVERIFY(port.statistics().txBytesLastSecond == 0 && port.statistics().framesLastSecond == 0);
+    }
+
+    void loadPercent()
+    {
+        QCOMPARE(KvUartPort::loadPercent(11519, 115200, 10), 99U);
+        QCOMPARE(KvUartPort::loadPercent(23040, 115200, 10), 200U);
+        QCOMPARE(KvUartPort::loadPercent(872, 9600, 11), 100U); // of 872.7, cut to an integer
+        QCOMPARE(KvUartPort::loadPercent(500, 9, 10), 0U);
+        QCOMPARE(KvUartPort::loadPercent(500, 0, 10), 0U);
+        QCOMPARE(KvUartPort::loadPercent(500, -115200, 10), 0U);
+    }
+
+    void missingOrBusyPort()
+    {
+        PtyPair pty;
+        TestedPort port;
+        Listener listener(port);
+        port.openUART(m_folder.filePath(QStringLiteral("no-such-port")), kBaud);
+        QTRY_COMPARE(listener.openErrors, 1);
+        QCOMPARE(listener.errors, QList{QSerialPort::DeviceNotFoundError});
+        QVERIFY(!port.isOpenInItsThread());
+        // The object is ready for the next try, without a close.
+        QSerialPort holder;
+        holder.setPortName(pty.path());
+        QVERIFY(holder.open(QIODevice::ReadWrite));
+        port.openUART(pty.path(), kBaud);
+        QTRY_COMPARE(listener.openErrors, 2);
+        QCOMPARE(listener.errors.last(), QSerialPort::PermissionError);
+        port.closeUART();
+        QVERIFY(isIdle(port));
+        holder.close();
+        QVERIFY(port.opens(pty));
+        QVERIFY(pty.write(frames::packet("ab")));
+        QTRY_COMPARE(listener.payloads.size(), 1);
+        QCOMPARE(listener.openErrors, 2);
+    }
+
+    void openWhileOpenForgetsHalfAPacket()
+    {
+        PtyPair first;
+        PtyPair second;
+        TestedPort port;
+        Listener listener(port);
+        QVERIFY(port.opens(first));
+        const QByteArray half = frames::packet("abcdef").left(8);
+        QVERIFY(first.write(half));
+        QTRY_COMPARE(listener.received, half);
+        QVERIFY(port.opens(second));
+        QVERIFY(first.write(frames::packet("old")));
+        QVERIFY(second.write(frames::packet("new")));
+        QTRY_COMPARE(listener.payloads, QList<QByteArray>{"new"});
+        QSerialPort other; // the first one has been let go
+        other.setPortName(first.path());
+        QVERIFY(other.open(QIODevice::ReadWrite));
+    }
+
+    void closeRightBehindOpen()
+    {
+        AppLog::init();
+        PtyPair pty;
+        PtyPair other;
+        TestedPort port;
+        Listener listener(port);
+        for (int i = 0; i < 50; ++i) {
+            port.openUART(i % 3 == 0 ? other.path() : pty.path(), kBaud);
+            if (i % 5 == 0)
+                port.openUART(pty.path(), kBaud);
+            port.closeUART();
+            QVERIFY(isIdle(port));
+            if (i % 2 == 0)
+                QCoreApplication::processEvents(); // a start that was overtaken arrives here
+            QVERIFY(isIdle(port));
+        }
+        QCOMPARE(listener.openErrors, 0);
+        QVERIFY(port.opens(pty));
+        QVERIFY(pty.write(frames::packet("ab")));
+        QTRY_COMPARE(listener.payloads, QList<QByteArray>{"ab"});
+        QVERIFY(listener.errors.isEmpty());
+        port.closeUART();
+        // No session has started twice, for instance by a start that belonged to the one before.
+        QFile log(QStringLiteral("debug.log"));
+        QVERIFY(log.open(QIODevice::ReadOnly));
+        const QByteArray lines = log.readAll();
+        QVERIFY(!lines.contains("[W]: "));
+        QCOMPARE(lines.count("[I]: uart-thread stopped.\r\n"), 61);
+        QVERIFY(lines.count(" started\r\n") <= 61);
+        static const QRegularExpression started(QStringLiteral("\\[I\\]: uart-thread=\\d+ started\r\n"));
+        QVERIFY(started.match(QString::fromUtf8(lines)).hasMatch());
+    }
+
+    void closeInAFlood()
+    {
+        PtyPair pty;
+        TestedPort port;
+        Listener listener(port);
+        const std::jthread device = flood(pty);
+        for (int round = 0; round < 5; ++round) {
+            listener.payloads.clear();
+            port.openUART(pty.path(), kBaud);
+            QTRY_VERIFY(listener.payloads.size() > 10);
+            port.closeUART();
+            QVERIFY(isIdle(port));
+            // All that the port has emitted is posted by now; nothing follows.
+            QCoreApplication::sendPostedEvents();
+            const qsizetype count = listener.payloads.size();
+            QVERIFY(listener.payloads.count(frames::fullRecord(1)) == count);
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+            QCOMPARE(listener.payloads.size(), count);
+        }
+        QVERIFY(listener.errors.isEmpty());
+    }
+
+    void destroyedWhileOpen()
+    {
+        PtyPair pty;
+        const std::jthread device = flood(pty);
+        for (int round = 0; round < 5; ++round) {
+            auto port = std::make_unique<KvUartPort>();
+            Listener listener(*port);
+            port->openUART(pty.path(), kBaud);
+            QTRY_VERIFY(listener.payloads.size() > 10);
+            port.reset();
+            QCoreApplication::processEvents();
+        }
+        TestedPort port;
+        port.openUART(pty.path(), kBaud); // destroyed before it has started
+    }
+
+    void unplugged()
+    {
+        TestedPort port;
+        Listener listener(port);
+        {
+            PtyPair pty;
+            QVERIFY(port.opens(pty));
+            QVERIFY(pty.write(frames::packet("ab").repeated(100)));
+            QTRY_COMPARE(listener.payloads.size(), 100);
+        }
+        QTRY_VERIFY(!listener.errors.isEmpty());
+        QVERIFY(listener.errors.first() == QSerialPort::ResourceError
+                || listener.errors.first() == QSerialPort::ReadError);
+        // A vanished device is told of, not reported without end.
+        QTRY_VERIFY(!port.isOpenInItsThread());
+        QCoreApplication::processEvents();
+        const qsizetype told = listener.errors.size();
+        QVERIFY2(told < 10, qPrintable(QString::number(told)));
+        QVERIFY(!port.isOpenInItsThread());
+        QCoreApplication::processEvents();
+        QCOMPARE(listener.errors.size(), told);
+        send(port, "AT+INFO\r\n"); // a user may press a button before the link is closed
+        PtyPair next;
+        QVERIFY(port.opens(next));
+        QVERIFY(next.write(frames::packet("cd")));
+        QTRY_COMPARE(listener.payloads.last(), QByteArray("cd"));
+    }
 
 private:
     QTemporaryDir m_folder; ///< for the application log
 };
-
-#define OPEN(port, pty)                                                                                                \
-    do {                                                                                                               \
-        (port).openUART((pty).path(), kBaud);                                                                          \
-        QTRY_VERIFY(port.isOpenInItsThread());                                                                         \
-    } while (false)
-
-void TestKvUartPort::initTestCase()
-{
-    QVERIFY(QDir::setCurrent(m_folder.path()));
-}
-
-void TestKvUartPort::packetsInPieces()
-{
-    PtyPair pty;
-    TestedPort port;
-    Listener listener(port);
-    OPEN(port, pty);
-    const QByteArray payload = frames::fullRecord(7);
-    const QByteArray packet = frames::packet(payload);
-    QByteArray sent;
-    for (qsizetype at = 0; at < packet.size(); at += 11) {
-        QVERIFY(listener.payloads.isEmpty());
-        QVERIFY(pty.write(packet.mid(at, 11)));
-        sent += packet.mid(at, 11);
-        QTRY_COMPARE(listener.received, sent);
-    }
-    QTRY_COMPARE(listener.payloads, QList<QByteArray>{payload});
-    QVERIFY(pty.write(packet + frames::packet("ab") + packet.left(3)));
-    QTRY_COMPARE(listener.payloads, (QList<QByteArray>{payload, payload, "ab"}));
-    QVERIFY(listener.errors.isEmpty());
-}
-
-void TestKvUartPort::livesInAThreadOfItsOwn()
-{
-    PtyPair pty;
-    TestedPort port;
-    Listener listener(port);
-    std::atomic<QThread *> emitter = nullptr;
-    connect(
-        &port, &KvUartPort::kbootRecv, &port, [&] { emitter = QThread::currentThread(); }, Qt::DirectConnection);
-    OPEN(port, pty);
-    QVERIFY(pty.write(frames::packet("ab")));
-    QTRY_COMPARE(listener.payloads.size(), 1);
-    QVERIFY(listener.inMainThread);
-    QVERIFY(emitter != QCoreApplication::instance()->thread());
-    QCOMPARE(port.thread(), emitter.load());
-    port.closeUART();
-    QVERIFY(isIdle(port));
-    port.closeUART(); // nothing is open: nothing happens
-    QVERIFY(isIdle(port));
-}
-
-void TestKvUartPort::sends()
-{
-    PtyPair pty;
-    TestedPort port;
-    OPEN(port, pty);
-    QByteArray arrived;
-    send(port, "AT+INFO\r\n");
-    QTRY_COMPARE((arrived += pty.read()), QByteArray("AT+INFO\r\n"));
-    QVERIFY(port.sendsBlocking());
-    QCOMPARE(pty.read(), QByteArray("AT+EOUT=1\r\n"));
-    QTRY_VERIFY_WITH_TIMEOUT(port.statistics().txBytesLastSecond > 0, 5000);
-}
-
-void TestKvUartPort::sendingWhileClosed()
-{
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
-    PtyPair pty;
-    TestedPort port;
-    port.serialSend("AT+INFO\r\n");
-    QVERIFY(!port.serialSendBlocking("AT+INFO\r\n", 1000));
-    OPEN(port, pty);
-    port.closeUART();
-    port.serialSend("AT+INFO\r\n");
-    QVERIFY(!port.serialSendBlocking("AT+INFO\r\n", 1000));
-    QCOMPARE(pty.read(), QByteArray());
-}
-
-void TestKvUartPort::statistics()
-{
-    PtyPair pty;
-    TestedPort port;
-    OPEN(port, pty);
-    // Half a line's worth in a second: 72 packets of 80 bytes. Begun right behind a tick, so that one second holds all.
-    const QByteArray packets = frames::packet(QByteArray(74, 'x')).repeated(72);
-    QCOMPARE(packets.size(), 5760);
-    QVERIFY(pty.write("-"));
-    QTRY_COMPARE_WITH_TIMEOUT(port.statistics().rxBytesLastSecond, quint64(1), 5000);
-    QCOMPARE(port.statistics().rxLoadPercent, 0U);
-    QVERIFY(pty.write(packets));
-    send(port, QByteArray(1152, 'y'));
-    QTRY_COMPARE_WITH_TIMEOUT(port.statistics().rxBytesLastSecond, quint64(5760), 5000);
-    const LinkStatistics seen = port.statistics();
-    QCOMPARE(seen.rxLoadPercent, 50U);
-    QCOMPARE(seen.txBytesLastSecond, quint64(1152));
-    QCOMPARE(seen.txLoadPercent, 10U);
-    QCOMPARE(seen.framesLastSecond, 72U);
-    QTRY_COMPARE_WITH_TIMEOUT(port.statistics().rxBytesLastSecond, quint64(0), 5000);
-    QCOMPARE(port.statistics().txBytesLastSecond, quint64(0));
-    QCOMPARE(port.statistics().framesLastSecond, 0U);
-    QCOMPARE(port.statistics().rxLoadPercent, 0U);
-}
-
-void TestKvUartPort::loadPercent_data()
-{
-    QTest::addColumn<quint64>("bytes");
-    QTest::addColumn<int>("bitsPerSecond");
-    QTest::addColumn<int>("bitsPerCharacter");
-    QTest::addColumn<quint32>("expected");
-    QTest::newRow("half") << quint64(5760) << 115200 << 10 << 50U;
-    QTest::newRow("idle") << quint64(0) << 115200 << 10 << 0U;
-    QTest::newRow("rounded down") << quint64(11519) << 115200 << 10 << 99U;
-    QTest::newRow("more than the line carries") << quint64(23040) << 115200 << 10 << 200U;
-    QTest::newRow("characters per second cut to an integer") << quint64(872) << 9600 << 11 << 100U; // 872.7
-    QTest::newRow("slowest") << quint64(1) << 10 << 10 << 100U;
-    QTest::newRow("below one character per second") << quint64(500) << 9 << 10 << 0U;
-    QTest::newRow("no rate") << quint64(500) << 0 << 10 << 0U;
-    QTest::newRow("negative rate") << quint64(500) << -115200 << 10 << 0U;
-}
-
-void TestKvUartPort::loadPercent()
-{
-    QFETCH(const quint64, bytes);
-    QFETCH(const int, bitsPerSecond);
-    QFETCH(const int, bitsPerCharacter);
-    QTEST(KvUartPort::loadPercent(bytes, bitsPerSecond, bitsPerCharacter), "expected");
-}
-
-void TestKvUartPort::missingPort()
-{
-    PtyPair pty;
-    TestedPort port;
-    Listener listener(port);
-    port.openUART(m_folder.filePath(QStringLiteral("no-such-port")), kBaud);
-    QTRY_COMPARE(listener.openErrors, 1);
-    QCOMPARE(listener.errors, QList{QSerialPort::DeviceNotFoundError});
-    QVERIFY(listener.inMainThread);
-    QVERIFY(!port.isOpenInItsThread());
-    // The object is ready for the next try, without a close.
-    OPEN(port, pty);
-    QVERIFY(pty.write(frames::packet("ab")));
-    QTRY_COMPARE(listener.payloads.size(), 1);
-    QCOMPARE(listener.openErrors, 1);
-}
-
-void TestKvUartPort::busyPort()
-{
-    PtyPair pty;
-    QSerialPort holder;
-    holder.setPortName(pty.path());
-    QVERIFY(holder.open(QIODevice::ReadWrite));
-    TestedPort port;
-    Listener listener(port);
-    port.openUART(pty.path(), kBaud);
-    QTRY_COMPARE(listener.openErrors, 1);
-    QCOMPARE(listener.errors, QList{QSerialPort::PermissionError});
-    port.closeUART();
-    QVERIFY(isIdle(port));
-    holder.close();
-    OPEN(port, pty);
-}
-
-void TestKvUartPort::openWhileOpen()
-{
-    PtyPair first;
-    PtyPair second;
-    TestedPort port;
-    Listener listener(port);
-    OPEN(port, first);
-    OPEN(port, second);
-    QVERIFY(first.write(frames::packet("old")));
-    QVERIFY(second.write(frames::packet("new")));
-    QTRY_COMPARE(listener.payloads, QList<QByteArray>{"new"});
-    QSerialPort other; // the first one has been let go
-    other.setPortName(first.path());
-    QVERIFY(other.open(QIODevice::ReadWrite));
-}
-
-void TestKvUartPort::reopenForgetsHalfAPacket()
-{
-    PtyPair first;
-    PtyPair second;
-    TestedPort port;
-    Listener listener(port);
-    OPEN(port, first);
-    const QByteArray half = frames::packet("abcdef").left(8);
-    QVERIFY(first.write(half));
-    QTRY_COMPARE(listener.received, half);
-    OPEN(port, second);
-    QVERIFY(second.write(frames::packet("uvwxyz")));
-    QTRY_COMPARE(listener.payloads, QList<QByteArray>{"uvwxyz"});
-}
-
-void TestKvUartPort::closeRightBehindOpen()
-{
-    AppLog::init();
-    PtyPair pty;
-    PtyPair other;
-    TestedPort port;
-    Listener listener(port);
-    for (int i = 0; i < 50; ++i) {
-        port.openUART(i % 3 == 0 ? other.path() : pty.path(), kBaud);
-        if (i % 5 == 0)
-            port.openUART(pty.path(), kBaud);
-        port.closeUART();
-        QVERIFY(isIdle(port));
-        if (i % 2 == 0)
-            QCoreApplication::processEvents(); // a start that was overtaken arrives here
-        QVERIFY(isIdle(port));
-    }
-    QCOMPARE(listener.openErrors, 0);
-    OPEN(port, pty);
-    QVERIFY(pty.write(frames::packet("ab")));
-    QTRY_COMPARE(listener.payloads, QList<QByteArray>{"ab"});
-    QVERIFY(listener.errors.isEmpty());
-    port.closeUART();
-    // No session has started twice, for instance by a start that belonged to the one before.
-    QFile log(QStringLiteral("debug.log"));
-    QVERIFY(log.open(QIODevice::ReadOnly));
-    const QByteArray lines = log.readAll();
-    QVERIFY(!lines.contains("[W]: "));
-    QCOMPARE(lines.count("[I]: uart-thread stopped.\r\n"), 61);
-    QVERIFY(lines.count(" started\r\n") <= 61);
-    static const QRegularExpression started(QStringLiteral("\\[I\\]: uart-thread=\\d+ started\r\n"));
-    QVERIFY(started.match(QString::fromUtf8(lines)).hasMatch());
-}
-
-void TestKvUartPort::closeInAFlood()
-{
-    PtyPair pty;
-    TestedPort port;
-    Listener listener(port);
-    Flood flood(pty);
-    for (int round = 0; round < 5; ++round) {
-        listener.payloads.clear();
-        port.openUART(pty.path(), kBaud);
-        QTRY_VERIFY(listener.payloads.size() > 10);
-        port.closeUART();
-        QVERIFY(isIdle(port));
-        // All that the port has emitted is posted by now; nothing follows.
-        QCoreApplication::sendPostedEvents();
-        const qsizetype count = listener.payloads.size();
-        QVERIFY(listener.payloads.count(frames::fullRecord(1)) == count);
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-        QCOMPARE(listener.payloads.size(), count);
-    }
-    QVERIFY(listener.errors.isEmpty());
-}
-
-void TestKvUartPort::destroyedWhileOpen()
-{
-    PtyPair pty;
-    Flood flood(pty);
-    for (int round = 0; round < 5; ++round) {
-        auto port = std::make_unique<KvUartPort>();
-        Listener listener(*port);
-        port->openUART(pty.path(), kBaud);
-        QTRY_VERIFY(listener.payloads.size() > 10);
-        port.reset();
-        QCoreApplication::processEvents();
-    }
-    TestedPort port;
-    port.openUART(pty.path(), kBaud); // destroyed before it has started
-}
-
-void TestKvUartPort::unplugged()
-{
-    TestedPort port;
-    Listener listener(port);
-    {
-        PtyPair pty;
-        OPEN(port, pty);
-        QVERIFY(pty.write(frames::packet("ab").repeated(100)));
-        QTRY_COMPARE(listener.payloads.size(), 100);
-    }
-    QTRY_VERIFY(!listener.errors.isEmpty());
-    QVERIFY(listener.errors.first() == QSerialPort::ResourceError || listener.errors.first() == QSerialPort::ReadError);
-    // A vanished device is told of, not reported without end.
-    QTRY_VERIFY(!port.isOpenInItsThread());
-    QCoreApplication::processEvents();
-    const qsizetype told = listener.errors.size();
-    QVERIFY2(told < 10, qPrintable(QString::number(told)));
-    QVERIFY(!port.isOpenInItsThread());
-    QCoreApplication::processEvents();
-    QCOMPARE(listener.errors.size(), told);
-    send(port, "AT+INFO\r\n"); // a user may press a button before the link is closed
-    PtyPair next;
-    OPEN(port, next);
-    QVERIFY(next.write(frames::packet("cd")));
-    QTRY_COMPARE(listener.payloads.last(), QByteArray("cd"));
-    QVERIFY(listener.inMainThread);
-}
 
 QTEST_GUILESS_MAIN(TestKvUartPort)
 #include "tst_kv_uart_port.moc"
