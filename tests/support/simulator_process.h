@@ -26,6 +26,7 @@ public:
 
     /// Path of the device's end of the line; empty when the process did not start.
     const QString &port() const { return m_port; }
+    QProcess &process() { return m_process; }
 
     /// Sends one control and waits for its answer. "replug" changes port().
     bool control(const char *line)
