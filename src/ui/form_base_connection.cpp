@@ -77,7 +77,7 @@ void form_base::open_port()
 
     QTimer::singleShot(kConnectedTextDelayMs, this, [this, session = m_session, portName, baudRate] {
         if (session == m_session)
-            m_statusLabel->setText(tr("Connected... %1, %2 baud").arg(portName).arg(baudRate));
+            m_statusLabel->setText(tr("Connected... %1, %2 baud").arg(portName, QString::number(baudRate)));
     });
 }
 
