@@ -53,23 +53,6 @@ private slots:
             QCOMPARE(KbootProtocol::do_crc_check(packet.left(size)), frames::crc16(packet.left(qMin(size, 4))));
     }
 
-    void everySplitPoint()
-    {
-        const QByteArray payload = counting(20);
-        const QByteArray packet = frames::packet(payload);
-        Decoder decoder;
-        for (qsizetype first = 0; first <= packet.size(); ++first) {
-            for (qsizetype second = first; second <= packet.size(); ++second) {
-                decoder.payloads.clear();
-                decoder.serial_read(packet.left(first));
-                decoder.serial_read(packet.mid(first, second - first));
-                QVERIFY(decoder.payloads.isEmpty() || second == packet.size());
-                decoder.serial_read(packet.mid(second));
-                QCOMPARE(decoder.payloads, Payloads{payload});
-            }
-        }
-    }
-
     void singleBitFlips()
     {
         const QByteArray payload = counting(20);
@@ -139,15 +122,13 @@ private slots:
     void streams()
     {
         QFETCH(const QByteArray, stream);
-        Decoder atOnce;
-        atOnce.serial_read(stream);
-        Decoder byteByByte;
-        for (const char byte : stream)
-            byteByByte.serial_read(QByteArray(1, byte));
-        for (const Decoder *decoder : {&atOnce, &byteByByte}) {
-            QTEST(decoder->payloads, "payloads");
-            QTEST(decoder->responseReceived(), "response");
-            QTEST(decoder->frameBuffer(), "frameBuffer");
+        for (qsizetype chunk = 1; chunk <= stream.size(); ++chunk) { // from byte by byte to all at once
+            Decoder decoder;
+            for (qsizetype at = 0; at < stream.size(); at += chunk)
+                decoder.serial_read(stream.mid(at, chunk));
+            QTEST(decoder.payloads, "payloads");
+            QTEST(decoder.responseReceived(), "response");
+            QTEST(decoder.frameBuffer(), "frameBuffer");
         }
     }
 

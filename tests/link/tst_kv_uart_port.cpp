@@ -125,30 +125,22 @@ private slots:
         QVERIFY(isIdle(port));
     }
 
-    void sends()
+    void sendsWhileOpenOnly()
     {
+        QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
         PtyPair pty;
         TestedPort port;
+        port.serialSend("closed");
+        QVERIFY(!port.serialSendBlocking("closed", 1000));
         QVERIFY(port.opens(pty));
         QByteArray arrived;
         send(port, "AT+INFO\r\n");
         QTRY_COMPARE((arrived += pty.read()), QByteArray("AT+INFO\r\n"));
         QVERIFY(port.sendsBlocking());
         QCOMPARE(pty.read(), QByteArray("AT+EOUT=1\r\n"));
-        QTRY_VERIFY_WITH_TIMEOUT(port.statistics().txBytesLastSecond > 0, 5000);
-    }
-
-    void sendingWhileClosed()
-    {
-        QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
-        PtyPair pty;
-        TestedPort port;
-        port.serialSend("AT+INFO\r\n");
-        QVERIFY(!port.serialSendBlocking("AT+INFO\r\n", 1000));
-        QVERIFY(port.opens(pty));
         port.closeUART();
-        port.serialSend("AT+INFO\r\n");
-        QVERIFY(!port.serialSendBlocking("AT+INFO\r\n", 1000));
+        port.serialSend("closed");
+        QVERIFY(!port.serialSendBlocking("closed", 1000));
         QCOMPARE(pty.read(), QByteArray());
     }
 
@@ -182,7 +174,6 @@ private slots:
         QCOMPARE(KvUartPort::loadPercent(23040, 115200, 10), 200U);
         QCOMPARE(KvUartPort::loadPercent(872, 9600, 11), 100U); // of 872.7, cut to an integer
         QCOMPARE(KvUartPort::loadPercent(500, 9, 10), 0U);
-        QCOMPARE(KvUartPort::loadPercent(500, 0, 10), 0U);
         QCOMPARE(KvUartPort::loadPercent(500, -115200, 10), 0U);
     }
 
