@@ -17,13 +17,6 @@ bool writeFile(const QString &path, const QByteArray &bytes)
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
 }
 
-/// The built-in font's file, or nothing where the build machine had none.
-QByteArray builtInFont()
-{
-    QFile file(QStringLiteral(":/fonts/DroidSansMono.ttf"));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 } // namespace
 
 class TestApplicationFonts : public QObject
@@ -31,106 +24,83 @@ class TestApplicationFonts : public QObject
     Q_OBJECT
 
 private slots:
-    void missingFile_data();
-    void missingFile();
-    void brokenFile_data();
-    void brokenFile();
-    void folderBesideTheProgram();
-    void fixedPitch();
-    void choosesAFamily();
+    void missingFile()
+    {
+        const QString path = m_folder.filePath(QStringLiteral("missing.ttf"));
+        for (const bool warn : {true, false}) {
+            QTest::ignoreMessage(warn ? QtWarningMsg : QtDebugMsg,
+                                 qPrintable(QStringLiteral("Application font file not found: ") + path));
+            QVERIFY(!application_fonts::loadApplicationFontFile(path, warn));
+        }
+    }
+
+    void brokenFile()
+    {
+        const QString path = m_folder.filePath(QStringLiteral("broken.ttf"));
+        const QByteArray signature("\0\1\0\0\0\x0F\0\x80", 8);
+        for (const QByteArray &bytes : {QByteArray(), QByteArray("no font\n").repeated(1000), signature}) {
+            QVERIFY(writeFile(path, bytes));
+            QTest::ignoreMessage(QtWarningMsg, qPrintable(QStringLiteral("Failed to load application font: ") + path));
+            QVERIFY(!application_fonts::loadApplicationFontFile(path, false));
+        }
+    }
+
+    void folderBesideTheProgram()
+    {
+        // A copy of this program with a folder of fonts, none of which is one, so that each is told of.
+        const QString program = m_folder.filePath(QStringLiteral("program"));
+        QVERIFY(QFile::copy(QCoreApplication::applicationFilePath(), program));
+        const QDir fonts(m_folder.filePath(QStringLiteral("fonts")));
+        QVERIFY(QDir().mkdir(fonts.path()));
+        for (const char *name : {"b.ttf", "C.ttc", "A.otf", "d.OTC", "notes.txt", "e.ttf.bak"})
+            QVERIFY(writeFile(fonts.filePath(QLatin1String(name)), "no font"));
+        QVERIFY(fonts.mkdir(QStringLiteral("folder.ttf")));
+
+        QProcess child;
+        child.setProcessChannelMode(QProcess::MergedChannels);
+        child.start(program, {QStringLiteral("--load-all")});
+        QVERIFY(child.waitForFinished());
+        QCOMPARE(child.exitStatus(), QProcess::NormalExit);
+        static const QRegularExpression told(QStringLiteral("Failed to load application font: \\S*/([^/\\s]+)"));
+        QStringList names;
+        for (auto at = told.globalMatch(QString::fromUtf8(child.readAll())); at.hasNext();)
+            names += at.next().captured(1);
+        QCOMPARE(names.join(u' '), QStringLiteral("A.otf b.ttf C.ttc d.OTC"));
+    }
+
+    void fixedPitch()
+    {
+        QVERIFY(!application_fonts::fixedPitchFamily().isEmpty()); // the system's
+        application_fonts::loadAll();
+        const QString family = application_fonts::fixedPitchFamily();
+        QVERIFY(QFontDatabase::isFixedPitch(family));
+        application_fonts::loadAll(); // again changes nothing
+        QCOMPARE(application_fonts::fixedPitchFamily(), family);
+    }
+
+    void choosesAFamily()
+    {
+        application_fonts::loadAll();
+        QStringList known = QFontDatabase::families();
+        // Two families whose names show whether the case is the database's.
+        known.removeIf([](const QString &name) { return name.toUpper() == name || name.toLower() == name; });
+        if (known.size() < 2)
+            QSKIP("fewer than two font families are installed");
+        const QString first = known.first();
+        const QString last = known.last();
+        const QString unknown = QStringLiteral("No Such Family");
+        QCOMPARE(application_fonts::chooseFontFamily({unknown, last, first}), last);
+        QCOMPARE(application_fonts::chooseFontFamily({first, last}), first);
+        QCOMPARE(application_fonts::chooseFontFamily({last.toUpper()}), last);
+        QCOMPARE(application_fonts::chooseFontFamily({first.toLower(), last}), first);
+        QCOMPARE(application_fonts::chooseFontFamily({first.left(first.size() - 1) + u'\u00B5'}), QString());
+        QCOMPARE(application_fonts::chooseFontFamily({unknown, QString()}), QString());
+        QCOMPARE(application_fonts::chooseFontFamily({}), QString());
+    }
 
 private:
     QTemporaryDir m_folder;
 };
-
-void TestApplicationFonts::missingFile_data()
-{
-    QTest::addColumn<bool>("warn");
-    QTest::addColumn<int>("level");
-    QTest::newRow("told as a warning") << true << int(QtWarningMsg);
-    QTest::newRow("told at debug level") << false << int(QtDebugMsg);
-}
-
-void TestApplicationFonts::missingFile()
-{
-    QFETCH(const bool, warn);
-    QFETCH(const int, level);
-    const QString path = m_folder.filePath(QStringLiteral("missing.ttf"));
-    QTest::ignoreMessage(QtMsgType(level), qPrintable(QStringLiteral("Application font file not found: ") + path));
-    QVERIFY(!application_fonts::loadApplicationFontFile(path, warn));
-}
-
-void TestApplicationFonts::brokenFile_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("empty") << QByteArray();
-    QTest::newRow("text") << QByteArray("this is no font\n").repeated(1000);
-    QTest::newRow("only the signature") << QByteArray("\0\1\0\0\0\x0F\0\x80", 8);
-    if (!builtInFont().isEmpty())
-        QTest::newRow("cut off") << builtInFont().left(200);
-}
-
-void TestApplicationFonts::brokenFile()
-{
-    QFETCH(const QByteArray, bytes);
-    const QString path = m_folder.filePath(QStringLiteral("broken.ttf"));
-    QVERIFY(writeFile(path, bytes));
-    QTest::ignoreMessage(QtWarningMsg, qPrintable(QStringLiteral("Failed to load application font: ") + path));
-    QVERIFY(!application_fonts::loadApplicationFontFile(path, false));
-}
-
-void TestApplicationFonts::folderBesideTheProgram()
-{
-    // A copy of this program with a folder of fonts, none of which is one, so that each is told of.
-    const QString program = m_folder.filePath(QStringLiteral("program"));
-    QVERIFY(QFile::copy(QCoreApplication::applicationFilePath(), program));
-    const QDir fonts(m_folder.filePath(QStringLiteral("fonts")));
-    QVERIFY(QDir().mkdir(fonts.path()));
-    for (const char *name : {"b.ttf", "C.ttc", "A.otf", "d.OTC", "notes.txt", "e.ttf.bak"})
-        QVERIFY(writeFile(fonts.filePath(QLatin1String(name)), "no font"));
-    QVERIFY(fonts.mkdir(QStringLiteral("folder.ttf")));
-
-    QProcess child;
-    child.setProcessChannelMode(QProcess::MergedChannels);
-    child.start(program, {QStringLiteral("--load-all")});
-    QVERIFY(child.waitForFinished());
-    QCOMPARE(child.exitStatus(), QProcess::NormalExit);
-    static const QRegularExpression told(QStringLiteral("Failed to load application font: \\S*/([^/\\s]+)"));
-    QStringList names;
-    for (auto at = told.globalMatch(QString::fromUtf8(child.readAll())); at.hasNext();)
-        names += at.next().captured(1);
-    QCOMPARE(names.join(u' '), QStringLiteral("A.otf b.ttf C.ttc d.OTC"));
-}
-
-void TestApplicationFonts::fixedPitch()
-{
-    QVERIFY(!application_fonts::fixedPitchFamily().isEmpty()); // the system's
-    application_fonts::loadAll();
-    const QString family = application_fonts::fixedPitchFamily();
-    QVERIFY(QFontDatabase::isFixedPitch(family));
-    application_fonts::loadAll(); // again changes nothing
-    QCOMPARE(application_fonts::fixedPitchFamily(), family);
-}
-
-void TestApplicationFonts::choosesAFamily()
-{
-    application_fonts::loadAll();
-    QStringList known = QFontDatabase::families();
-    // Two families whose names show whether the case is the database's.
-    known.removeIf([](const QString &name) { return name.toUpper() == name || name.toLower() == name; });
-    if (known.size() < 2)
-        QSKIP("fewer than two font families are installed");
-    const QString first = known.first();
-    const QString last = known.last();
-    const QString unknown = QStringLiteral("No Such Family");
-    QCOMPARE(application_fonts::chooseFontFamily({unknown, last, first}), last);
-    QCOMPARE(application_fonts::chooseFontFamily({first, last}), first);
-    QCOMPARE(application_fonts::chooseFontFamily({last.toUpper()}), last);
-    QCOMPARE(application_fonts::chooseFontFamily({first.toLower(), last}), first);
-    QCOMPARE(application_fonts::chooseFontFamily({first.left(first.size() - 1) + u'\u00B5'}), QString());
-    QCOMPARE(application_fonts::chooseFontFamily({unknown, QString()}), QString());
-    QCOMPARE(application_fonts::chooseFontFamily({}), QString());
-}
 
 int main(int argc, char *argv[])
 {
