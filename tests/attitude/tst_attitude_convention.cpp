@@ -6,6 +6,7 @@
 #include "attitude/attitude_convention.h"
 
 using namespace attitude_convention;
+using enum OrientationPreset;
 
 namespace {
 
@@ -18,31 +19,33 @@ struct Vector
     double x, y, z;
 };
 
-// Plain rotations in double precision, written apart from the code under test: about one axis, right-handed.
-Vector aboutX(Vector v, double degrees)
+/// A device attitude as the display must show it: by yaw about the up axis, pitch nose up, roll right side down. Plain
+/// rotations in double precision, written apart from the code under test.
+Vector turned(Vector v, double roll, double pitch, double yaw)
 {
-    const double c = std::cos(degrees * kRadians), s = std::sin(degrees * kRadians);
-    return {v.x, c * v.y - s * v.z, s * v.y + c * v.z};
-}
-Vector aboutY(Vector v, double degrees)
-{
-    const double c = std::cos(degrees * kRadians), s = std::sin(degrees * kRadians);
-    return {c * v.x + s * v.z, v.y, -s * v.x + c * v.z};
-}
-Vector aboutZ(Vector v, double degrees)
-{
-    const double c = std::cos(degrees * kRadians), s = std::sin(degrees * kRadians);
-    return {c * v.x - s * v.y, s * v.x + c * v.y, v.z};
+    const auto rotate = [](double &first, double &second, double degrees) {
+        const double c = std::cos(degrees * kRadians), s = std::sin(degrees * kRadians), before = first;
+        first = c * before - s * second;
+        second = s * before + c * second;
+    };
+    rotate(v.y, v.z, roll);
+    rotate(v.x, v.y, pitch);
+    rotate(v.z, v.x, yaw);
+    return v;
 }
 
-bool rotatesTo(const QQuaternion &q, const QVector3D &from, Vector to)
+/// Nose and right wing come to lie where turned() carries them.
+bool shows(const QQuaternion &q, double roll, double pitch, double yaw)
 {
-    const QVector3D got = q.rotatedVector(from);
-    const bool same =
-        std::abs(got.x() - to.x) < 1e-5 && std::abs(got.y() - to.y) < 1e-5 && std::abs(got.z() - to.z) < 1e-5;
-    if (!same)
-        qWarning() << got << "expected" << to.x << to.y << to.z;
-    return same;
+    for (const Vector axis : {Vector{1, 0, 0}, Vector{0, 0, 1}}) {
+        const QVector3D got = q.rotatedVector({float(axis.x), 0, float(axis.z)});
+        const Vector to = turned(axis, roll, pitch, yaw);
+        if (std::hypot(got.x() - to.x, got.y() - to.y, got.z() - to.z) > 1e-5) {
+            qWarning() << got << "expected" << to.x << to.y << to.z;
+            return false;
+        }
+    }
+    return true;
 }
 
 bool near(const QVector3D &a, const QVector3D &b, float tolerance = 0.01F)
@@ -74,161 +77,102 @@ void addEuler(NodeSnapshot &node, float roll, float pitch, float yaw)
 
 } // namespace
 
-Q_DECLARE_METATYPE(OrientationPreset)
-
 class TestAttitudeConvention : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void quaternionIsSeenInDisplayAxes_data()
-    {
-        QTest::addColumn<OrientationPreset>("preset");
-        QTest::addColumn<QVector3D>("angles"); // x roll, y pitch, z yaw
-        const QVector3D rows[] = {{0, 0, 0}, {30, -15, 120}, {-170, 80, -60}, {90, 0, 180}, {1, 2, 3}};
-        for (const QVector3D &row : rows) {
-            const QByteArray name = QByteArray::number(row.x()) + '/' + QByteArray::number(row.y());
-            QTest::addRow("rfu %s", name.constData()) << OrientationPreset::RfuEnu312 << row;
-            QTest::addRow("flu %s", name.constData()) << OrientationPreset::FluNwuZyx << row;
-        }
-    }
     void quaternionIsSeenInDisplayAxes()
     {
-        QFETCH(OrientationPreset, preset);
-        QFETCH(QVector3D, angles);
-        // The device turns by yaw about its up axis, then pitch nose up, then roll right side down, in its own axes.
-        const bool rfu = preset == OrientationPreset::RfuEnu312;
-        const QQuaternion device = QQuaternion::fromAxisAndAngle(0, 0, 1, angles.z())
-                                   * (rfu ? QQuaternion::fromAxisAndAngle(1, 0, 0, angles.y())
-                                          : QQuaternion::fromAxisAndAngle(0, 1, 0, -angles.y()))
-                                   * (rfu ? QQuaternion::fromAxisAndAngle(0, 1, 0, angles.x())
-                                          : QQuaternion::fromAxisAndAngle(1, 0, 0, angles.x()));
-        NodeSnapshot node = withQuaternion(device * 3.0F); // the length must not matter
-        addEuler(node, 7, 8, 9);                           // nor angles beside it
-
-        const NormalizedAttitude result = normalizeAttitude(node, preset);
-        QVERIFY(result.valid);
-        QVERIFY(result.fromQuaternion);
-        QVERIFY(near(result.euler, angles, 0.05F));
-        // Nose and right wing in the display frame, by formulas of our own.
-        const auto turned = [&](Vector v) { return aboutY(aboutZ(aboutX(v, angles.x()), angles.y()), angles.z()); };
-        QVERIFY(rotatesTo(result.quaternion, {1, 0, 0}, turned({1, 0, 0})));
-        QVERIFY(rotatesTo(result.quaternion, {0, 0, 1}, turned({0, 0, 1})));
+        const auto about = [](int x, int y, int z, float degrees) {
+            return QQuaternion::fromAxisAndAngle(float(x), float(y), float(z), degrees);
+        };
+        for (const QVector3D angles : // x roll, y pitch, z yaw
+             {QVector3D(0, 0, 0), QVector3D(30, -15, 120), QVector3D(-170, 80, -60), QVector3D(90, 0, 180)}) {
+            for (const bool rfu : {true, false}) {
+                const QQuaternion device = about(0, 0, 1, angles.z())
+                                           * (rfu ? about(1, 0, 0, angles.y()) : about(0, 1, 0, -angles.y()))
+                                           * (rfu ? about(0, 1, 0, angles.x()) : about(1, 0, 0, angles.x()));
+                NodeSnapshot node = withQuaternion(device * 3.0F); // the length must not matter
+                addEuler(node, 7, 8, 9);                           // nor angles beside it
+                const NormalizedAttitude result = normalizeAttitude(node, rfu ? RfuEnu312 : FluNwuZyx);
+                QVERIFY(result.valid && result.fromQuaternion);
+                QVERIFY(near(result.euler, angles, 0.05F));
+                QVERIFY(shows(result.quaternion, angles.x(), angles.y(), angles.z()));
+            }
+        }
     }
 
-    void eulerAnglesKeepTheirSigns_data()
-    {
-        QTest::addColumn<OrientationPreset>("preset");
-        QTest::addColumn<QVector3D>("reported");
-        QTest::addColumn<float>("turnSign"); // of the device's yaw in the rotation
-        QTest::addColumn<float>("pitchSign");
-        QTest::newRow("rfu") << OrientationPreset::RfuEnu312 << QVector3D(20, 30, 200) << 1.0F << 1.0F;
-        QTest::newRow("flu") << OrientationPreset::FluNwuZyx << QVector3D(20, -30, -200) << 1.0F << -1.0F;
-    }
     void eulerAnglesKeepTheirSigns()
     {
-        QFETCH(OrientationPreset, preset);
-        QFETCH(QVector3D, reported);
-        QFETCH(float, turnSign);
-        QFETCH(float, pitchSign);
         NodeSnapshot node;
         addEuler(node, 20, 30, 200); // beyond 180 and not wrapped
-        const NormalizedAttitude result = normalizeAttitude(node, preset);
-        QVERIFY(result.valid);
-        QVERIFY(!result.fromQuaternion);
-        QCOMPARE(result.euler, reported);
-        const Vector nose = aboutY(aboutZ(aboutX({1, 0, 0}, 20), pitchSign * 30.0), turnSign * 200.0);
-        const Vector wing = aboutY(aboutZ(aboutX({0, 0, 1}, 20), pitchSign * 30.0), turnSign * 200.0);
-        QVERIFY(rotatesTo(result.quaternion, {1, 0, 0}, nose));
-        QVERIFY(rotatesTo(result.quaternion, {0, 0, 1}, wing));
+        const NormalizedAttitude rfu = normalizeAttitude(node, RfuEnu312);
+        QVERIFY(rfu.valid && !rfu.fromQuaternion);
+        QCOMPARE(rfu.euler, QVector3D(20, 30, 200));
+        QVERIFY(shows(rfu.quaternion, 20, 30, 200));
+        const NormalizedAttitude flu = normalizeAttitude(node, FluNwuZyx);
+        QCOMPARE(flu.euler, QVector3D(20, -30, -200)); // yaw as reported, while the rotation follows the device
+        QVERIFY(shows(flu.quaternion, 20, -30, 200));
     }
 
-    void bothPathsShowTheSameAttitude()
-    {
-        // A FLU device at Z-Y-X angles 10/20/30: as a quaternion and as angles, its display rotation is one and the
-        // same.
-        const QQuaternion device = QQuaternion::fromAxisAndAngle(0, 0, 1, 30)
-                                   * QQuaternion::fromAxisAndAngle(0, 1, 0, 20)
-                                   * QQuaternion::fromAxisAndAngle(1, 0, 0, 10);
-        NodeSnapshot angles;
-        addEuler(angles, 10, 20, 30);
-        const QQuaternion a = normalizeAttitude(withQuaternion(device), OrientationPreset::FluNwuZyx).quaternion;
-        const QQuaternion b = normalizeAttitude(angles, OrientationPreset::FluNwuZyx).quaternion;
-        QVERIFY(near(relativeDisplayEuler(a, b), {0, 0, 0}));
-    }
-
-    void unusableQuaternions_data()
-    {
-        QTest::addColumn<QQuaternion>("quaternion");
-        QTest::addColumn<bool>("usable");
-        QTest::newRow("all zero") << QQuaternion(0, 0, 0, 0) << false;
-        QTest::newRow("just too short") << QQuaternion(0.00099F, 0, 0, 0) << false;
-        QTest::newRow("just long enough") << QQuaternion(0.00101F, 0, 0, 0) << true;
-        QTest::newRow("huge") << QQuaternion(1e30F, 0, 0, 0) << true;
-        QTest::newRow("nan") << QQuaternion(1, kNaN, 0, 0) << false;
-        QTest::newRow("infinite") << QQuaternion(1, 0, kInfinity, 0) << false;
-    }
     void unusableQuaternions()
     {
-        QFETCH(QQuaternion, quaternion);
-        QFETCH(bool, usable);
-        NodeSnapshot node = withQuaternion(quaternion);
-        const NormalizedAttitude alone = normalizeAttitude(node, OrientationPreset::RfuEnu312);
-        QCOMPARE(alone.valid, usable);
-        QCOMPARE(alone.fromQuaternion, usable);
-        QCOMPARE(alone.quaternion, QQuaternion());
-        QCOMPARE(alone.euler, QVector3D());
-        QCOMPARE(alone.axisMatrix, (AxisMatrix{0, 0, 1, 1, 0, 0, 0, 1, 0}));
+        const std::pair<QQuaternion, bool> rows[] = {{{0, 0, 0, 0}, false},       {{0.00099F, 0, 0, 0}, false},
+                                                     {{0.00101F, 0, 0, 0}, true}, {{1e30F, 0, 0, 0}, true},
+                                                     {{1, kNaN, 0, 0}, false},    {{1, 0, kInfinity, 0}, false}};
+        for (const auto &[quaternion, usable] : rows) {
+            NodeSnapshot node = withQuaternion(quaternion);
+            const NormalizedAttitude alone = normalizeAttitude(node, RfuEnu312);
+            QCOMPARE(alone.valid, usable);
+            QCOMPARE(alone.fromQuaternion, usable);
+            QCOMPARE(alone.quaternion, QQuaternion());
+            QCOMPARE(alone.euler, QVector3D());
 
-        addEuler(node, 5, 6, 7);
-        const NormalizedAttitude fallback = normalizeAttitude(node, OrientationPreset::RfuEnu312);
-        QVERIFY(fallback.valid);
-        QCOMPARE(fallback.fromQuaternion, usable);
-        QCOMPARE(fallback.euler, usable ? QVector3D() : QVector3D(5, 6, 7));
-
-        node.has_quat = false; // the flag decides, not the numbers
-        QVERIFY(!normalizeAttitude(node, OrientationPreset::RfuEnu312).fromQuaternion);
+            addEuler(node, 5, 6, 7);
+            const NormalizedAttitude fallback = normalizeAttitude(node, RfuEnu312);
+            QVERIFY(fallback.valid);
+            QCOMPARE(fallback.fromQuaternion, usable);
+            QCOMPARE(fallback.euler, usable ? QVector3D() : QVector3D(5, 6, 7));
+            node.has_quat = false; // the flag decides, not the numbers
+            QVERIFY(!normalizeAttitude(node, RfuEnu312).fromQuaternion);
+        }
     }
 
-    void displayEulerLimits_data()
-    {
-        QTest::addColumn<QQuaternion>("quaternion");
-        QTest::addColumn<QVector3D>("angles");
-        // In single precision the sine of the pitch ends just below or above 1; only the latter needs the clamp.
-        const float half = std::sqrt(0.5F);
-        QTest::newRow("nearly +90") << QQuaternion(half, 0, 0, half) << QVector3D(0, 89.98F, 0);
-        QTest::newRow("nearly -90") << QQuaternion(half, 0, 0, -half) << QVector3D(0, -89.98F, 0);
-        QTest::newRow("clamped to +90") << QQuaternion(0.70711F, 0, 0, 0.70711F) << QVector3D(0, 90, 0);
-        QTest::newRow("clamped to -90") << QQuaternion(0.70711F, 0, 0, -0.70711F) << QVector3D(0, -90, 0);
-        QTest::newRow("roll 180") << QQuaternion(0, 1, 0, 0) << QVector3D(180, 0, 0);
-        QTest::newRow("roll -180 becomes 180") << QQuaternion(0, -1, 0, 0) << QVector3D(180, 0, 0);
-        QTest::newRow("yaw -180 becomes 180") << QQuaternion(0, 0, -1, 0) << QVector3D(0, 0, 180);
-        QTest::newRow("yaw 90, not of unit length") << QQuaternion(5, 0, 5, 0) << QVector3D(0, 0, 90);
-    }
     void displayEulerLimits()
     {
-        QFETCH(QQuaternion, quaternion);
-        QFETCH(QVector3D, angles);
-        const QVector3D got = displayEulerFromQuaternion(quaternion);
-        QCOMPARE(QByteArray::number(got.y(), 'f', 2), QByteArray::number(angles.y(), 'f', 2));
-        if (std::abs(angles.y()) < 89.0F) // roll and yaw cannot be told apart beyond
-            QVERIFY(near(got, angles, 0.0005F));
+        // In single precision the sine of the pitch ends just below or above 1; only the latter needs the clamp.
+        const float half = std::sqrt(0.5F);
+        const std::tuple<QQuaternion, QVector3D> rows[] = {{{half, 0, 0, half}, {0, 89.98F, 0}},
+                                                           {{half, 0, 0, -half}, {0, -89.98F, 0}},
+                                                           {{0.70711F, 0, 0, 0.70711F}, {0, 90, 0}},
+                                                           {{0.70711F, 0, 0, -0.70711F}, {0, -90, 0}},
+                                                           {{0, 1, 0, 0}, {180, 0, 0}},
+                                                           {{0, -1, 0, 0}, {180, 0, 0}}, // not -180
+                                                           {{0, 0, -1, 0}, {0, 0, 180}},
+                                                           {{5, 0, 5, 0}, {0, 0, 90}}};
+        for (const auto &[quaternion, angles] : rows) {
+            const QVector3D got = displayEulerFromQuaternion(quaternion);
+            QCOMPARE(QByteArray::number(got.y(), 'f', 2), QByteArray::number(angles.y(), 'f', 2));
+            if (std::abs(angles.y()) < 89.0F) // roll and yaw cannot be told apart beyond
+                QVERIFY(near(got, angles, 0.0005F));
+        }
     }
 
     void withoutPresetNothingTurns()
     {
-        const DisplayAttitude display = toDisplayAttitude(10, 20, 30, OrientationPreset::None);
+        const DisplayAttitude display = toDisplayAttitude(10, 20, 30, None);
         QCOMPARE(display.quaternion, QQuaternion());
         QCOMPARE(display.axisMatrix, (AxisMatrix{1, 0, 0, 0, 1, 0, 0, 0, 1}));
         QCOMPARE(toDisplayQuaternion(10, 20, 30, OrientationPreset(77)), QQuaternion());
-        QCOMPARE(toDisplayAttitude(0, 0, 0, OrientationPreset::FluNwuZyx).axisMatrix,
-                 (AxisMatrix{1, 0, 0, 0, 0, -1, 0, 1, 0}));
+        QCOMPARE(toDisplayAttitude(0, 0, 0, RfuEnu312).axisMatrix, (AxisMatrix{0, 0, 1, 1, 0, 0, 0, 1, 0}));
+        QCOMPARE(toDisplayAttitude(0, 0, 0, FluNwuZyx).axisMatrix, (AxisMatrix{1, 0, 0, 0, 0, -1, 0, 1, 0}));
     }
 
     void relativeAngles()
     {
-        const QQuaternion reference = toDisplayQuaternion(0, 0, 50, OrientationPreset::RfuEnu312);
-        const QQuaternion attitude = toDisplayQuaternion(0, 0, 80, OrientationPreset::RfuEnu312) * 4.0F;
+        const QQuaternion reference = toDisplayQuaternion(0, 0, 50, RfuEnu312);
+        const QQuaternion attitude = toDisplayQuaternion(0, 0, 80, RfuEnu312) * 4.0F;
         QVERIFY(near(relativeDisplayEuler(attitude, reference), {0, 0, 30}));
         QVERIFY(near(relativeDisplayEuler(reference, attitude), {0, 0, -30}));
     }

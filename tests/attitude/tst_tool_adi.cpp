@@ -1,5 +1,4 @@
 #include <QImage>
-#include <QSignalSpy>
 #include <QTest>
 
 #include <limits>
@@ -10,29 +9,39 @@
 namespace {
 
 constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
+constexpr float kInfinity = std::numeric_limits<float>::infinity();
 
-NormalizedAttitude attitude(float roll, float pitch, float heading)
+NormalizedAttitude attitude(const QQuaternion &quaternion)
 {
     NormalizedAttitude result;
     result.valid = true;
-    result.quaternion = attitude_convention::toDisplayQuaternion(roll, pitch, -heading, OrientationPreset::RfuEnu312);
+    result.quaternion = quaternion;
     return result;
 }
-
-bool isSky(QColor color)
+NormalizedAttitude attitude(float roll, float pitch, float yaw)
 {
-    return color.blue() > color.red() + 60;
-}
-bool isGround(QColor color)
-{
-    return color.red() > color.blue() + 40;
+    return attitude(attitude_convention::toDisplayQuaternion(roll, pitch, yaw, OrientationPreset::RfuEnu312));
 }
 
-/// Counts what it is told to paint, because repainting is what a live view pays for.
-class CountingAdi : public ToolADI
+/// A real window on the screen. Counts its paintings, because repainting is what a live view pays for.
+class Window : public ToolADI
 {
 public:
     int paints = 0;
+
+    Window()
+    {
+        setStyleSheet(QStringLiteral("background: white"));
+        resize(240, 240);
+        show();
+    }
+    /// Colour at a place relative to the ball's centre, in radii; y grows downwards.
+    QColor at(qreal x, qreal y)
+    {
+        const AdiLayout layout = AdiLayout::forSize(size());
+        const QImage image = grab().toImage();
+        return image.pixelColor(((layout.center + QPointF(x, y) * layout.radius) * image.devicePixelRatio()).toPoint());
+    }
 
 protected:
     void paintEvent(QPaintEvent *event) override
@@ -42,35 +51,11 @@ protected:
     }
 };
 
-/// A real window on the screen with its picture.
-struct Window
-{
-    CountingAdi adi;
-
-    explicit Window(int side = 240)
-    {
-        adi.setStyleSheet(QStringLiteral("background: white"));
-        adi.resize(side, side);
-        adi.show();
-    }
-    bool isUp() { return QTest::qWaitForWindowExposed(&adi); }
-    /// Colour at a place relative to the ball's centre, in radii; y grows downwards.
-    QColor at(qreal x, qreal y)
-    {
-        const AdiLayout layout = AdiLayout::forSize(adi.size());
-        const QImage image = adi.grab().toImage();
-        const QPointF point = (layout.center + QPointF(x, y) * layout.radius) * image.devicePixelRatio();
-        return image.pixelColor(point.toPoint());
-    }
-};
-
 int failures = 0;
 void countWarnings(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
-    if (type != QtDebugMsg && type != QtInfoMsg) {
-        ++failures;
-        fprintf(stderr, "%s\n", qPrintable(message));
-    }
+    failures += type != QtDebugMsg && type != QtInfoMsg ? 1 : 0;
+    fprintf(stderr, "%s\n", qPrintable(message));
 }
 
 } // namespace
@@ -80,102 +65,80 @@ class TestToolAdi : public QObject
     Q_OBJECT
 
 private slots:
-    void skyAndGround_data()
-    {
-        QTest::addColumn<float>("roll");
-        QTest::addColumn<float>("pitch");
-        QTest::addColumn<QPointF>("sky"); // in radii from the centre of the ball
-        QTest::addColumn<QPointF>("ground");
-        QTest::newRow("level") << 0.0F << 0.0F << QPointF(0.6, -0.3) << QPointF(0.6, 0.3);
-        QTest::newRow("inverted") << 180.0F << 0.0F << QPointF(0.6, 0.3) << QPointF(0.6, -0.3);
-        QTest::newRow("right wing down") << 45.0F << 0.0F << QPointF(-0.5, 0.3) << QPointF(0.5, -0.3);
-        QTest::newRow("left wing down") << -45.0F << 0.0F << QPointF(0.5, 0.3) << QPointF(-0.5, -0.3);
-        QTest::newRow("nose up") << 0.0F << 15.0F << QPointF(0.6, 0.3) << QPointF(0.3, 0.8);
-        QTest::newRow("nose down") << 0.0F << -15.0F << QPointF(0.3, -0.8) << QPointF(0.6, -0.3);
-        QTest::newRow("straight up keeps a sliver") << 0.0F << 89.0F << QPointF(0.6, 0.5) << QPointF(0.0, 0.94);
-    }
     void skyAndGround()
     {
-        QFETCH(float, roll);
-        QFETCH(float, pitch);
-        QFETCH(QPointF, sky);
-        QFETCH(QPointF, ground);
+        const struct
+        {
+            const char *name;
+            float roll, pitch;
+            qreal skyX, skyY, groundX, groundY; // in radii from the centre of the ball
+        } rows[] = {
+            {"level", 0, 0, 0.6, -0.3, 0.6, 0.3},
+            {"inverted", 180, 0, 0.6, 0.3, 0.6, -0.3},
+            {"right wing down", 45, 0, -0.5, 0.3, 0.5, -0.3},
+            {"left wing down", -45, 0, 0.5, 0.3, -0.5, -0.3},
+            {"nose up", 0, 15, 0.6, 0.3, 0.3, 0.8},
+            {"nose down", 0, -15, 0.3, -0.8, 0.6, -0.3},
+            {"straight up keeps a sliver", 0, 89, 0.6, 0.5, 0, 0.94},
+        };
         Window window;
-        QVERIFY(window.isUp());
-        window.adi.setAttitude(attitude(roll, pitch, 0));
-        QVERIFY(window.adi.hasAttitude());
-        QVERIFY2(isSky(window.at(sky.x(), sky.y())), qPrintable(window.at(sky.x(), sky.y()).name()));
-        QVERIFY2(isGround(window.at(ground.x(), ground.y())), qPrintable(window.at(ground.x(), ground.y()).name()));
-    }
-
-    void withoutAttitudeItIsGrey_data()
-    {
-        QTest::addColumn<NormalizedAttitude>("value");
-        NormalizedAttitude value;
-        QTest::newRow("not valid") << value;
-        value.valid = true;
-        value.quaternion = QQuaternion(kNaN, 0, 0, 0);
-        QTest::newRow("nan") << value;
-        value.quaternion = QQuaternion(1, std::numeric_limits<float>::infinity(), 0, 0);
-        QTest::newRow("infinite") << value;
-        value.quaternion = attitude_convention::toDisplayQuaternion(kNaN, 1, 2, OrientationPreset::RfuEnu312);
-        QTest::newRow("angles that are no numbers") << value;
-    }
-    void withoutAttitudeItIsGrey()
-    {
-        QFETCH(NormalizedAttitude, value);
-        Window window;
-        QVERIFY(window.isUp());
-        window.adi.setAttitude(attitude(10, 10, 10));
-        window.adi.setAttitude(value);
-        QVERIFY(!window.adi.hasAttitude());
-        for (const qreal y : {-0.7, -0.4, 0.4, 0.7}) {
-            const QColor color = window.at(0.3, y);
-            QVERIFY2(color.saturation() < 20, qPrintable(color.name()));
-            QVERIFY2(color != QColor(Qt::white), "the ball is still there");
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        for (const auto &row : rows) {
+            window.setAttitude(attitude(row.roll, row.pitch, 0));
+            const QColor sky = window.at(row.skyX, row.skyY);
+            const QColor ground = window.at(row.groundX, row.groundY);
+            QVERIFY2(sky.blue() > sky.red() + 60 && ground.red() > ground.blue() + 40, row.name);
         }
     }
 
-    void headingCountsClockwise_data()
+    void withoutAttitudeItIsGrey()
     {
-        QTest::addColumn<float>("yaw"); // of the display rotation, to the left
-        QTest::addColumn<int>("heading");
-        QTest::newRow("north") << 0.0F << 0;
-        QTest::newRow("nose to the left") << 90.0F << 270;
-        QTest::newRow("nose to the right") << -120.0F << 120;
-        QTest::newRow("rounds up to north") << 0.4F << 0;
-        QTest::newRow("south") << 180.0F << 180;
+        Window window;
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        for (const NormalizedAttitude &value : {NormalizedAttitude(), attitude(QQuaternion(kNaN, 0, 0, 0)),
+                                                attitude(QQuaternion(1, 0, kInfinity, 0)), attitude(kNaN, 1, 2)}) {
+            window.setAttitude(attitude(10, 10, 10));
+            QVERIFY(window.hasAttitude());
+            window.setAttitude(value);
+            QVERIFY(!window.hasAttitude());
+            for (const qreal y : {-0.7, -0.4, 0.4, 0.7}) {
+                const QColor color = window.at(0.3, y);
+                QVERIFY2(color.saturation() < 20 && color != QColor(Qt::white), qPrintable(color.name()));
+            }
+        }
     }
+
     void headingCountsClockwise()
     {
-        QFETCH(float, yaw);
-        QFETCH(int, heading);
-        ToolADI adi;
-        adi.setAttitude(attitude(20, -30, -yaw));
-        QCOMPARE(adi.heading(), heading);
+        // The yaw of the display rotation counts to the left; the fourth rounds up to north.
+        for (const auto &[yaw, heading] :
+             {std::pair(0.0F, 0), {90.0F, 270}, {-120.0F, 120}, {0.4F, 0}, {180.0F, 180}}) {
+            ToolADI adi;
+            adi.setAttitude(attitude(20, -30, yaw));
+            QCOMPARE(adi.heading(), heading);
+        }
     }
 
     void repaintsOnlyOnChange()
     {
         Window window;
-        QVERIFY(window.isUp());
-        window.adi.setAttitude(attitude(1, 2, 3));
-        QTRY_VERIFY(window.adi.paints > 0);
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        window.setAttitude(attitude(1, 2, 3));
+        QTRY_VERIFY(window.paints > 0);
         QCoreApplication::processEvents();
-        const int before = window.adi.paints;
+        const int before = window.paints;
         for (int i = 0; i < 5; ++i) {
-            window.adi.setAttitude(attitude(1, 2, 3));
+            window.setAttitude(attitude(1, 2, 3));
             QCoreApplication::processEvents();
         }
-        QCOMPARE(window.adi.paints, before);
-        window.adi.setAttitude(attitude(1, 2, 4));
-        QTRY_VERIFY(window.adi.paints > before);
+        QCOMPARE(window.paints, before);
+        window.setAttitude(attitude(1, 2, 4));
+        QTRY_VERIFY(window.paints > before);
     }
 
     void everySizePaintsWithoutWarning()
     {
         ToolADI adi;
-        failures = 0;
         const QtMessageHandler old = qInstallMessageHandler(countWarnings);
         for (int side = 1; side <= 600; side += side < 120 ? 1 : 37) {
             for (const QSize size : {QSize(side, side), QSize(side, 1), QSize(side, 40), QSize(60, side)}) {
@@ -195,15 +158,14 @@ private slots:
                 const AdiLayout layout = AdiLayout::forSize(QSizeF(w, h));
                 if (layout.radius <= 0)
                     continue;
-                const qreal reach = layout.radius * 1.03 + layout.tickLength();
+                const qreal bottom = layout.center.y() + layout.radius * 1.02;
                 const QByteArray size = QByteArray::number(w) + 'x' + QByteArray::number(h);
-                QVERIFY2(layout.center.y() - reach >= -1, size.constData());
+                QVERIFY2(layout.center.y() - layout.radius * 1.03 - layout.tickLength() >= -1, size.constData());
                 QVERIFY2(layout.center.x() - layout.radius * 1.04 >= -1, size.constData());
-                QVERIFY2(layout.center.y() + layout.radius * 1.02 <= h + 1, size.constData());
-                if (layout.heading.isEmpty())
-                    continue;
-                QVERIFY2(layout.heading.top() > layout.center.y() + layout.radius * 1.02, size.constData());
-                QVERIFY2(QRectF(0, 0, w, h).contains(layout.heading), size.constData());
+                QVERIFY2(bottom <= h + 1, size.constData());
+                const QRectF &heading = layout.heading;
+                const bool clear = heading.top() > bottom && QRectF(0, 0, w, h).contains(heading);
+                QVERIFY2(heading.isEmpty() || clear, size.constData());
             }
         }
     }
