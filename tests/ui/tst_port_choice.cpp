@@ -23,92 +23,56 @@ PortEntry plainPort(const char *path)
 
 } // namespace
 
-Q_DECLARE_METATYPE(PortEntry)
-Q_DECLARE_METATYPE(PathState)
-
 class TestPortChoice : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void preselects_data()
+    void preselects()
     {
-        QTest::addColumn<QList<PortEntry>>("ports");
-        QTest::addColumn<PortEntry>("remembered");
-        QTest::addColumn<int>("row");
-
         const PortEntry a0 = usbPort("/dev/ttyUSB0", "A");
         const PortEntry a1 = usbPort("/dev/ttyUSB1", "A");
         const PortEntry b0 = usbPort("/dev/ttyUSB0", "B");
         const PortEntry plain = plainPort("/dev/ttyS0");
-        QTest::newRow("same device at its place") << QList{plain, a0} << a0 << 1;
-        QTest::newRow("device has moved") << QList{plain, a1} << a0 << 1;
-        QTest::newRow("device has moved, another took its place") << QList{b0, a1} << a0 << 1;
-        QTest::newRow("another device in its place") << QList{plain, b0} << a0 << 1;
-        QTest::newRow("two alike without serial numbers: the place decides")
-            << QList{usbPort("/dev/ttyUSB0", ""), usbPort("/dev/ttyUSB1", "")} << usbPort("/dev/ttyUSB1", "") << 1;
-        QTest::newRow("same adapter type, other serial number elsewhere")
-            << QList{usbPort("/dev/ttyUSB1", "B")} << a0 << -1;
-        QTest::newRow("other product, same serial number elsewhere")
-            << QList{usbPort("/dev/ttyUSB1", "A", 0x0403, 0x6015)} << a0 << -1;
-        QTest::newRow("without identity the place decides") << QList{a0, plain} << plain << 1;
-        QTest::newRow("without identity nothing moves") << QList{a0} << plain << -1;
-        QTest::newRow("nothing remembered") << QList{plain} << PortEntry{} << -1;
-        QTest::newRow("nothing plugged in") << QList<PortEntry>{} << a0 << -1;
-    }
-    void preselects()
-    {
-        QFETCH(QList<PortEntry>, ports);
-        QFETCH(PortEntry, remembered);
-        QTEST(preselect(ports, remembered), "row");
+        QCOMPARE(preselect({b0, a1}, a0), 1); // it has moved, and another took its place
+        QCOMPARE(preselect({plain, b0}, a0), 1);
+        QCOMPARE(preselect({usbPort("/dev/ttyUSB1", "B")}, a0), -1);
+        QCOMPARE(preselect({usbPort("/dev/ttyUSB1", "A", 0x0403, 0x6015)}, a0), -1);
+        QCOMPARE(preselect({usbPort("/dev/ttyUSB1", "A", 0x0404)}, a0), -1);
+        // Two alike without serial numbers, and one without any identity: the place decides.
+        QCOMPARE(preselect({usbPort("/dev/ttyUSB0", ""), usbPort("/dev/ttyUSB1", "")}, usbPort("/dev/ttyUSB1", "")), 1);
+        QCOMPARE(preselect({a0, plain}, plain), 1);
+        QCOMPARE(preselect({plainPort("/dev/ttyS1")}, plain), -1);
+        QCOMPARE(preselect({plain}, {}), -1);
+        QCOMPARE(preselect({}, a0), -1);
     }
 
-    void readsHostileSettings_data()
-    {
-        QTest::addColumn<QByteArray>("file");
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<bool>("hasUsbId");
-        QTest::addColumn<int>("baud");
-
-        const QString path = QStringLiteral("/dev/ttyUSB0");
-        QTest::newRow("empty") << QByteArray() << QString() << false << kDefaultBaud;
-        QTest::newRow("good") << QByteArray("[SERIAL]\nPORT=/dev/ttyUSB0\nBAUDRATE=921600\nVENDOR_ID=1027\n"
-                                            "PRODUCT_ID=24577\nSERIAL_NUMBER=A5\n")
-                              << path << true << 921600;
-        QTest::newRow("baud too low") << QByteArray("[SERIAL]\nBAUDRATE=1199\n") << QString() << false << kDefaultBaud;
-        QTest::newRow("baud too high") << QByteArray("[SERIAL]\nBAUDRATE=4000001\n") << QString() << false
-                                       << kDefaultBaud;
-        QTest::newRow("baud overflows") << QByteArray("[SERIAL]\nBAUDRATE=4294967296009600\n") << QString() << false
-                                        << kDefaultBaud;
-        QTest::newRow("baud is a list") << QByteArray("[SERIAL]\nBAUDRATE=9600, 19200\n") << QString() << false
-                                        << kDefaultBaud;
-        QTest::newRow("baud is words") << QByteArray("[SERIAL]\nBAUDRATE=fast\n") << QString() << false << kDefaultBaud;
-        QTest::newRow("identity out of range")
-            << QByteArray("[SERIAL]\nPORT=/dev/ttyUSB0\nVENDOR_ID=65536\nPRODUCT_ID=1\n") << path << false
-            << kDefaultBaud;
-        QTest::newRow("identity negative")
-            << QByteArray("[SERIAL]\nPORT=/dev/ttyUSB0\nVENDOR_ID=-1\nPRODUCT_ID=1\n") << path << false << kDefaultBaud;
-        QTest::newRow("half an identity")
-            << QByteArray("[SERIAL]\nPORT=/dev/ttyUSB0\nVENDOR_ID=1027\n") << path << false << kDefaultBaud;
-        QTest::newRow("path with control characters")
-            << QByteArray("[SERIAL]\nPORT=\"/dev/tty\\x1b[2J\"\n") << QString() << false << kDefaultBaud;
-        QTest::newRow("path endless") << QByteArray("[SERIAL]\nPORT=/" + QByteArray(100000, 'x') + "\n") << QString()
-                                      << false << kDefaultBaud;
-        QTest::newRow("no settings file at all")
-            << QByteArray("\x00\xff\xfe[[[\n=\n;\n", 12) << QString() << false << kDefaultBaud;
-    }
     void readsHostileSettings()
     {
-        QFETCH(QByteArray, file);
-        const QTemporaryDir folder;
-        const QString name = folder.filePath(settings_keys::kFile);
-        QFile out(name);
-        QVERIFY(out.open(QIODevice::WriteOnly) && out.write(file) == file.size());
-        out.close();
-        const Remembered remembered = read(QSettings(name, QSettings::IniFormat));
-        QTEST(remembered.port.path, "path");
-        QTEST(remembered.port.hasUsbId, "hasUsbId");
-        QTEST(remembered.baudRate, "baud");
+        const QByteArray port = "PORT=/dev/ttyUSB0\n";
+        // The file, whether it gives the path and an identity, and the rate.
+        const std::tuple<QByteArray, bool, bool, int> rows[] = {
+            {"", false, false, kDefaultBaud},
+            {port + "BAUDRATE=921600\nVENDOR_ID=1027\nPRODUCT_ID=24577\n", true, true, 921600},
+            {"BAUDRATE=1199\n", false, false, kDefaultBaud},
+            {"BAUDRATE=4294967296009600\n", false, false, kDefaultBaud},
+            {"BAUDRATE=9600, 19200\n", false, false, kDefaultBaud},
+            {port + "VENDOR_ID=65536\nPRODUCT_ID=1\n", true, false, kDefaultBaud},
+            {port + "VENDOR_ID=-1\nPRODUCT_ID=1\n", true, false, kDefaultBaud},
+            {port + "VENDOR_ID=1027\n", true, false, kDefaultBaud},
+            {"PORT=\"/dev/tty\\x1b[2J\"\n", false, false, kDefaultBaud},
+            {"PORT=/" + QByteArray(100000, 'x') + "\n", false, false, kDefaultBaud},
+            {QByteArray("\x00\xff\xfe[[[\n=\n;\n", 12), false, false, kDefaultBaud},
+        };
+        for (const auto &[text, hasPath, hasUsbId, baud] : rows) {
+            const QTemporaryDir folder;
+            QFile out(folder.filePath(settings_keys::kFile));
+            QVERIFY(out.open(QIODevice::WriteOnly) && out.write("[SERIAL]\n" + text) > text.size());
+            out.close();
+            const Remembered remembered = read(QSettings(out.fileName(), QSettings::IniFormat));
+            QVERIFY2(remembered.port.path == QLatin1String(hasPath ? "/dev/ttyUSB0" : ""), text.left(80));
+            QVERIFY2(remembered.port.hasUsbId == hasUsbId && remembered.baudRate == baud, text.left(80));
+        }
     }
 
     void remembersWhatWasWritten()
@@ -124,37 +88,24 @@ private slots:
         QCOMPARE(read(settings).port, plainPort("/dev/pts/3"));
     }
 
-    void judgesBaudRates_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("baud");
-        QTest::addColumn<QString>("problem"); // a word of it
-
-        const auto row = [](const char *text, int baud, const char *problem) {
-            QTest::newRow(text) << QString::fromUtf8(text) << baud << QString::fromUtf8(problem);
-        };
-        row("115200", 115200, "");
-        row(" 9600 ", 9600, "");
-        row("1200", 1200, "");
-        row("4000000", 4000000, "");
-        row("1199", 0, "lowest");
-        row("0", 0, "lowest");
-        row("4000001", 0, "highest");
-        row("99999999999999999999", 0, "highest");
-        row("-9600", 0, "whole number");
-        row("9600.5", 0, "whole number");
-        row("1e6", 0, "whole number");
-        row("0x2580", 0, "whole number");
-        row("fast", 0, "whole number");
-        row("", 0, "Enter");
-    }
     void judgesBaudRates()
     {
-        QFETCH(QString, text);
-        QFETCH(QString, problem);
-        QTEST(parseBaud(text), "baud");
-        QCOMPARE(baudProblem(text).isEmpty(), problem.isEmpty());
-        QVERIFY2(baudProblem(text).contains(problem), qPrintable(baudProblem(text)));
+        // The text, its rate and a word of the problem.
+        const std::tuple<const char *, int, const char *> rows[] = {
+            {" 1200 ", 1200, ""},
+            {"4000000", 4000000, ""},
+            {"1199", 0, "lowest"},
+            {"4000001", 0, "highest"},
+            {"99999999999999999999", 0, "highest"},
+            {"-9600", 0, "whole number"},
+            {"1e6", 0, "whole number"},
+            {"", 0, "Enter"},
+        };
+        for (const auto &[text, baud, problem] : rows) {
+            const QString told = baudProblem(QLatin1String(text));
+            QVERIFY2(parseBaud(QLatin1String(text)) == baud, text);
+            QVERIFY2(told.contains(QLatin1String(problem)) && told.isEmpty() == (baud > 0), text);
+        }
     }
 
     void judgesPaths()
@@ -168,7 +119,6 @@ private slots:
         QFile file(folder.filePath(QStringLiteral("file")));
         QVERIFY(file.open(QIODevice::WriteOnly));
 
-        QCOMPARE(pathState(pty.path()), PathState::Usable);
         QCOMPARE(pathState(link), PathState::Usable);
         QCOMPARE(pathState(QStringLiteral("null")), PathState::Usable); // a short name is one of /dev
         QCOMPARE(pathState(dangling), PathState::Missing);
