@@ -31,13 +31,6 @@ class TestSimLine : public QObject
     Q_OBJECT
 
 private slots:
-    void faultsAreDeterministic()
-    {
-        const auto damage = [](quint64 seed) { return injector(seed, 20, 20, 20).apply(QByteArray(5000, 'a')).bytes; };
-        QCOMPARE(damage(7), damage(7));
-        QVERIFY(damage(7) != damage(8));
-    }
-
     void faultKinds()
     {
         const std::array<double, 3> rows[] = {{0, 0, 0}, {10, 0, 0}, {0, 10, 0}, {0, 0, 10}, {0, 1e9, 0}};
@@ -59,6 +52,8 @@ private slots:
             QVERIFY(std::abs(double(growth) - wantedGrowth) <= (drop > 1024 ? 0 : 360));
             QVERIFY(std::abs(double(bits) - flip * kKilobytes) <= 360);
         }
+        const auto damage = [](quint64 seed) { return injector(seed, 9, 9, 9).apply(QByteArray(5000, 'a')).bytes; };
+        QVERIFY(damage(7) == damage(7) && damage(7) != damage(8));
     }
 
     void clockKeepsItsRate()
@@ -92,17 +87,6 @@ private slots:
         QVERIFY(clock.takeDue(3600 * kSecondNs) && !clock.takeDue(3600 * kSecondNs));
     }
 
-    void linePacesBytes()
-    {
-        TransmitLine line(9600);
-        for (qint64 nowNs = 0; nowNs < 10 * kSecondNs; nowNs += 1'300'000) {
-            line.advance(nowNs);
-            line.pushFrames(frame(82));
-            line.take(line.ready().size());
-        }
-        QVERIFY2(line.sentBytes() > 9590 && line.sentBytes() <= 9600, qPrintable(QString::number(line.sentBytes())));
-    }
-
     void lineDropsWholeFrames()
     {
         TransmitLine line(9600);
@@ -119,12 +103,12 @@ private slots:
     void idleLineSavesNothingUp()
     {
         TransmitLine line(9600);
-        line.advance(10 * kSecondNs);
+        qint64 nowNs = 10 * kSecondNs;
+        line.advance(nowNs);
         line.pushFrames(frame(100));
-        line.advance(10 * kSecondNs + 1'000'000);
-        QCOMPARE(line.ready().size(), 0);
-        line.advance(10 * kSecondNs + 105'000'000);
-        QCOMPARE(line.ready().size(), 100);
+        for (int step = 0; step < 40; ++step) // parts of a byte are not lost between the steps
+            line.advance(nowNs += 1'300'000);
+        QCOMPARE(line.ready().size(), 49);
     }
 
     void slowReaderIsBounded()

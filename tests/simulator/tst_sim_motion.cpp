@@ -90,29 +90,6 @@ private slots:
         QCOMPARE(largest > 20.0, kind != MotionKind::Rest);
     }
 
-    void signsOfTilt()
-    {
-        const struct
-        {
-            const char *name;
-            AxisConvention convention;
-            double roll, pitch;
-            Vector3 acc;
-        } rows[] = {
-            {"level", AxisConvention::FluZyx, 0, 0, {0, 0, 1}},
-            {"FLU left side up", AxisConvention::FluZyx, 90, 0, {0, 1, 0}},
-            {"FLU nose down", AxisConvention::FluZyx, 0, 30, {-0.5, 0, 0.866025}},
-            {"RFU nose up", AxisConvention::RfuZxy, 0, 30, {0, 0.5, 0.866025}},
-            {"RFU right side down", AxisConvention::RfuZxy, 30, 0, {-0.5, 0, 0.866025}},
-        };
-        for (const auto &row : rows) {
-            ImuSample sample;
-            setAttitude(sample, quaternionOf({row.roll, row.pitch, 77.0}, row.convention), row.convention);
-            QVERIFY2(distance(toDoubles(sample.acc), row.acc) < 1e-5, row.name);
-            QVERIFY2(std::abs(double(sample.yaw) - 77.0) < 1e-4, row.name);
-        }
-    }
-
     // Fed with what a swinging body measures, the filter finds the body's tilt, from a first step on that is level only
     // as far as gravity tells.
     void filterFollowsMotion()

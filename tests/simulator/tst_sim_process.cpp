@@ -55,10 +55,6 @@ public:
             return payloads.size() >= count;
         });
     }
-    bool readReply()
-    {
-        return readUntil([this] { return bytes.endsWith("OK\r\n"); });
-    }
     void findFrames()
     {
         payloads.clear();
@@ -111,14 +107,12 @@ private slots:
         }
     }
 
-    void answersCommands()
+    void restartBringsTheOutputBack()
     {
-        SimulatorProcess simulator(words("--device mz226"));
+        SimulatorProcess simulator({});
         Host host(simulator.port());
-        QVERIFY(host.write("AT+EOUT=0\r\n") && host.readReply());
-        QVERIFY(host.write("AT+INFO\r\n") && host.readReply());
-        QVERIFY2(host.bytes.startsWith("MZ226 V"), host.bytes.constData());
-        // A restart brings the output back, with the new settings and the device time from 0.
+        QVERIFY(host.write("AT+EOUT=0\r\n") && host.readUntil([&host] { return host.bytes.endsWith("OK\r\n"); }));
+        // With the new settings and the device time from 0.
         QVERIFY(host.write("AT+ID=77\r\nAT+ODR=200\r\nAT+RST\r\n") && host.readFrames(3));
         QCOMPARE(host.payloads.first().at(1), char(77));
         QCOMPARE(host.timeOf(0), 0U);
@@ -209,52 +203,40 @@ private slots:
             QVERIFY2(simulator.control(good), good);
     }
 
-    void endsOnRequest_data()
-    {
-        QTest::addColumn<int>("signal"); // 0: by control, -1: by the end of the input
-        QTest::newRow("interrupt") << SIGINT;
-        QTest::newRow("terminate") << SIGTERM;
-        QTest::newRow("control") << 0;
-        QTest::newRow("end of input") << -1;
-    }
     void endsOnRequest()
     {
-        QFETCH(int, signal);
-        const QTemporaryDir folder;
-        const QString link = folder.filePath(QStringLiteral("imu"));
-        QVERIFY(QFile::link(QStringLiteral("/dev/null"), link)); // an old link is replaced
-        SimulatorProcess simulator({QStringLiteral("--link"), link});
-        QCOMPARE(QFile::symLinkTarget(link), simulator.port());
-        const Host host(link);
-        if (signal > 0)
-            ::kill(pid_t(simulator.process().processId()), signal);
-        else if (signal == 0)
-            QVERIFY(simulator.control("quit"));
-        else
-            simulator.process().closeWriteChannel();
-        QVERIFY(simulator.process().waitForFinished());
-        QCOMPARE(simulator.process().exitStatus(), QProcess::NormalExit);
-        QCOMPARE(simulator.process().exitCode(), 0);
-        QVERIFY(!QFileInfo(link).isSymbolicLink());
+        constexpr int kQuit = 0;
+        constexpr int kEndOfInput = -1;
+        for (const int request : {SIGINT, SIGTERM, kQuit, kEndOfInput}) {
+            const QTemporaryDir folder;
+            const QString link = folder.filePath(QStringLiteral("imu"));
+            QVERIFY(QFile::link(QStringLiteral("/dev/null"), link)); // an old link is replaced
+            SimulatorProcess simulator({QStringLiteral("--link"), link});
+            QCOMPARE(QFile::symLinkTarget(link), simulator.port());
+            const Host host(link);
+            if (request > 0)
+                ::kill(pid_t(simulator.process().processId()), request);
+            else if (request == kQuit)
+                QVERIFY(simulator.control("quit"));
+            else
+                simulator.process().closeWriteChannel();
+            const QByteArray name = QByteArray::number(request);
+            QVERIFY2(simulator.process().waitForFinished() && !QFileInfo(link).isSymbolicLink(), name);
+            QVERIFY2(simulator.process().exitStatus() == QProcess::NormalExit, name);
+            QVERIFY2(simulator.process().exitCode() == 0, name);
+        }
     }
 
     void refuses()
     {
-        for (const auto &[arguments, exitCode] : {std::pair("--bogus", 2),
-                                                  {"--device mz999", 2},
-                                                  {"--device mz221 --layout 62", 2},
-                                                  {"--device gateway --layout 91", 2},
-                                                  {"--rate 2001", 2},
-                                                  {"--noise much", 2},
-                                                  {"walk.csv", 2},
-                                                  {"--replay /tmp", 2},
-                                                  {"--replay " KV_SIMULATOR_PATH, 2},
-                                                  {"--link " KV_SIMULATOR_PATH, 1},
-                                                  {"--link /nonexistent/imu", 1}}) {
+        for (const char *arguments :
+             {"--bogus", "--device mz999", "--device mz221 --layout 62", "--device gateway --layout 91", "--rate 2001",
+              "--noise much", "walk.csv", "--replay /tmp", "--replay " KV_SIMULATOR_PATH, "--link " KV_SIMULATOR_PATH,
+              "--link /nonexistent/imu"}) {
             QProcess process;
             process.start(QStringLiteral(KV_SIMULATOR_PATH), words(arguments));
-            QVERIFY2(process.waitForFinished(), arguments);
-            QVERIFY2(process.exitStatus() == QProcess::NormalExit && process.exitCode() == exitCode, arguments);
+            QVERIFY2(process.waitForFinished() && process.exitStatus() == QProcess::NormalExit, arguments);
+            QVERIFY2(process.exitCode() == (qstrncmp(arguments, "--link", 6) == 0 ? 1 : 2), arguments);
             QVERIFY2(process.readAllStandardError().startsWith("kv_simulator: "), arguments);
         }
     }
