@@ -50,52 +50,29 @@ QByteArray describe(const DecodedFrame &frame)
 }
 
 // A full record, byte by byte: id 7, -5 degrees C, 101325 Pa, 0x01020304 ms, then 0.5, 1, 1.5 ... 6.5.
-const char *const kFull = "91 07 EE FB  80 E6 C5 47  04 03 02 01"
-                          "00 00 00 3F  00 00 80 3F  00 00 C0 3F"               // acceleration
-                          "00 00 00 40  00 00 20 40  00 00 40 40"               // angular rate
-                          "00 00 60 40  00 00 80 40  00 00 90 40"               // magnetic field
-                          "00 00 A0 40  00 00 B0 40  00 00 C0 40"               // roll, pitch, yaw
-                          "00 00 80 BF  00 00 00 BF  00 00 00 00  00 00 D0 40"; // W, X, Y, Z
-const char *const kFullText = "id=7 t=-5 ms=16909060 acc=0.5,1,1.5 gyr=2,2.5,3 mag=3.5,4,4.5 p=101325 "
-                              "rpy=5,5.5,6 quat=-1,-0.5,0,6.5 q e";
-
+const QByteArray kFull = hex("91 07 EE FB  80 E6 C5 47  04 03 02 01"
+                             "00 00 00 3F  00 00 80 3F  00 00 C0 3F"                // acceleration
+                             "00 00 00 40  00 00 20 40  00 00 40 40"                // angular rate
+                             "00 00 60 40  00 00 80 40  00 00 90 40"                // magnetic field
+                             "00 00 A0 40  00 00 B0 40  00 00 C0 40"                // roll, pitch, yaw
+                             "00 00 80 BF  00 00 00 BF  00 00 00 00  00 00 D0 40"); // W, X, Y, Z
+const QByteArray kFullText("id=7 t=-5 ms=16909060 acc=0.5,1,1.5 gyr=2,2.5,3 mag=3.5,4,4.5 p=101325 "
+                           "rpy=5,5.5,6 quat=-1,-0.5,0,6.5 q e");
 // The shared part of the compact records, from the id on: id 9, 1/-1/0.5 G, 50/-0.1/100 uT, 200/-200/0.1 deg/s.
-const char *const kCompact = "09  E8 03  18 FC  F4 01   F4 01  FF FF  E8 03   D0 07  30 F8  01 00"
-                             "FF 7F  01 80  00 00  00 40"; // 1, -1, 0, 16384/32767
+const QByteArray kShared = hex("09  E8 03  18 FC  F4 01   F4 01  FF FF  E8 03   D0 07  30 F8  01 00"
+                               "FF 7F  01 80  00 00  00 40"); // 1, -1, 0, 16384/32767
+const QByteArray kCompact = hex("93") + kShared;
 const QByteArray kCompactText("acc=1,-1,0.5 gyr=200,-200,0.1 mag=50,-0.1,100");
 const QByteArray kCompactQuat(" quat=1,-1,0,0.500015 q");
-
-QByteArray full()
-{
-    return hex(kFull);
-}
-
-QByteArray compact()
-{
-    return hex("93") + hex(kCompact);
-}
-
-/// A 0x63 record: 10, -20 and 90 degrees.
-QByteArray record63()
-{
-    return hex("AA") + hex(kCompact) + hex("E8 03  30 F8  28 23");
-}
-
-/// Every item that is no record, once; 0xB1 is another 0xB0.
-QByteArray smallItems()
-{
-    return hex("A0 FF 7F 00 80 01 00") + hex("B0 0A 00 F6 FF 01 00") + hex("C0 F4 01 0C FE 01 00")
-           + hex("D0 10 27 E8 03 08 07") + hex("D1 00 00 80 3F 00 00 00 3F 00 00 00 BF 00 00 00 00")
-           + hex("F0 80 E6 C5 47");
-}
-
-/// Every item once, the batches last.
-QByteArray everyItem()
-{
-    return hex("90 05") + full() + compact() + smallItems() + hex("B1 0A 00 14 00 1E 00") + '\x60'
-           + QByteArray(32, '\xA0') + hex("62 01 01 00 00 00 00 00") + full() + hex("63 01 01 00 64 00 00 00")
-           + record63();
-}
+const QByteArray kRecord63 = hex("AA") + kShared + hex("E8 03  30 F8  28 23"); // 10, -20 and 90 degrees
+// Every item that is no record, once; 0xB1 is another 0xB0.
+const QByteArray kSmallItems = hex("A0 FF 7F 00 80 01 00  B0 0A 00 F6 FF 01 00  C0 F4 01 0C FE 01 00"
+                                   "D0 10 27 E8 03 08 07  D1 00 00 80 3F 00 00 00 3F 00 00 00 BF 00 00 00 00"
+                                   "F0 80 E6 C5 47");
+// Every item once, the batches last.
+const QByteArray kEveryItem = hex("90 05") + kFull + kCompact + kSmallItems + hex("B1 0A 00 14 00 1E 00 60")
+                              + QByteArray(32, '\xA0') + hex("62 01 01 00 00 00 00 00") + kFull
+                              + hex("63 01 01 00 64 00 00 00") + kRecord63;
 
 } // namespace
 
@@ -117,17 +94,17 @@ private slots:
 
         row("empty", {}, "4 []: ");
         row("user id", hex("90 2A"), "4 [90]: id=0");
-        row("compact record", compact(), "0 [93] q: id=9 " + kCompactText + kCompactQuat);
-        row("small items are one sample", smallItems(),
+        row("compact record", kCompact, "0 [93] q: id=9 " + kCompactText + kCompactQuat);
+        row("small items are one sample", kSmallItems,
             "4 [a0 b0 c0 d0 d1 f0] q e: id=0 acc=32.767,-32.768,0.001 gyr=1,-1,0.1 mag=50,-50,0.1 p=101325 "
             "rpy=10,100,180 quat=1,0.5,-0.5,0 q e");
         row("filler is skipped whole", '\x60' + QByteArray(32, '\xF0') + acc, "4 [a0]: id=0 " + accText);
         row("foreign bytes are stepped over", hex("00 01 92 FF") + acc + hex("EE A1"), "4 [a0]: id=0 " + accText);
         row("same item twice, the later one wins", hex("A0 D0 07 00 00 00 00") + acc, "4 [a0 a0]: id=0 " + accText);
-        row("acceleration, then full record", acc + full(), QByteArray("0 [a0 91] q e: ") + kFullText);
-        row("compact record keeps temperature and pressure alone", full() + compact(),
+        row("acceleration, then full record", acc + kFull, "0 [a0 91] q e: " + kFullText);
+        row("compact record keeps temperature and pressure alone", kFull + kCompact,
             "0 [91 93] q: id=9 t=-5 " + kCompactText + " p=101325" + kCompactQuat);
-        row("angles after a compact record", compact() + angles,
+        row("angles after a compact record", kCompact + angles,
             "0 [93 d0] q e: id=9 " + kCompactText + " rpy=10,100,180" + kCompactQuat + " e");
         row("NaN, infinities and the largest float go through",
             hex("D1 00 00 C0 7F 00 00 80 7F 00 00 80 FF FF FF 7F 7F") + hex("F0 01 00 C0 FF"),
@@ -135,9 +112,9 @@ private slots:
 
         // Items that come too short.
         row("tag of a user id", hex("90"), "4 [90]: id=0");
-        row("short full record is all zero", hex("F0 00 50 C3 47") + full().left(75), "0 [f0 91] q e: id=0 q e");
-        row("short full record has the user id", hex("90 2A") + full().left(4), "0 [90 91] q e: id=42 q e");
-        row("short compact record is zero", acc + compact().left(27), "0 [a0 93] q: id=0 q");
+        row("short full record is all zero", hex("F0 00 50 C3 47") + kFull.left(75), "0 [f0 91] q e: id=0 q e");
+        row("short full record has the user id", hex("90 2A") + kFull.left(4), "0 [90 91] q e: id=42 q e");
+        row("short compact record is zero", acc + kCompact.left(27), "0 [a0 93] q: id=0 q");
         row("short triple first", hex("A0 E8 03 00 00 00"), "4 [a0]: id=0");
         row("short triple takes the raw values before it", acc + hex("D0"),
             "4 [a0 d0] e: id=0 " + accText + " rpy=-10,10,1 e");
@@ -151,18 +128,18 @@ private slots:
         const QByteArray head63 = hex("63 0B 02 00 40 E2 01 00");
         const QByteArray text63 = "ms=123456 " + kCompactText;
         const QByteArray node63 = "id=9 " + text63 + " rpy=10,-20,90" + kCompactQuat + " e";
-        row("0x62: three claimed, two whole, tags not checked", head62 + full() + hex("00") + full().mid(1),
-            QByteArray("1 [62] batch q e gw11@0: ") + kFullText + "; " + kFullText);
-        row("0x63 takes temperature and pressure so far", full() + head63 + record63(),
+        row("0x62: three claimed, two whole, tags not checked", head62 + kFull + hex("00") + kFull.mid(1),
+            "1 [62] batch q e gw11@0: " + kFullText + "; " + kFullText);
+        row("0x63 takes temperature and pressure so far", kFull + head63 + kRecord63,
             "2 [91 63] batch q e gw11@123456: id=9 t=-5 " + text63 + " p=101325 rpy=10,-20,90" + kCompactQuat + " e");
-        row("fewer claimed than sent: the rest is scanned", hex("63 0B 01 00 40 E2 01 00") + record63() + full(),
+        row("fewer claimed than sent: the rest is scanned", hex("63 0B 01 00 40 E2 01 00") + kRecord63 + kFull,
             "0 [63 91] batch q e gw11@123456: " + node63);
         row("no records claimed", hex("62 0B 00 00 00 00 00 00") + acc, "1 [62 a0] batch q e gw11@0: ");
         row("first record does not fit: scanned", hex("62 0B FF 00 00 00 00 00") + acc, "1 [62 a0] batch q e gw11@0: ");
-        row("255 claimed, the last does not fit: scanned", hex("63 0B FF 00 40 E2 01 00") + record63() + acc,
+        row("255 claimed, the last does not fit: scanned", hex("63 0B FF 00 40 E2 01 00") + kRecord63 + acc,
             "2 [63 a0] batch q e gw11@123456: " + node63);
         row("short batch header ends the scan", acc + hex("62 0B 01 00 F0 00 50"), "1 [a0 62]: id=0 " + accText);
-        row("two batches", head63 + record63() + record63() + hex("62 0C 01 00 01 00 00 00") + full(),
+        row("two batches", head63 + kRecord63 + kRecord63 + hex("62 0C 01 00 01 00 00 00") + kFull,
             "1 [63 62] batch q e gw12@123456: " + node63 + "; " + node63 + "; " + kFullText);
     }
     void payloads()
@@ -173,14 +150,13 @@ private slots:
 
     void everyTruncation()
     {
-        const QByteArray whole = everyItem();
-        const DecodedFrame all = ImuParser().parseFrame(whole);
+        const DecodedFrame all = ImuParser().parseFrame(kEveryItem);
         QCOMPARE(all.item_tags, hex("90 91 93 A0 B0 C0 D0 D1 F0 B1 62 63"));
         QCOMPARE(all.nodes.size(), 2);
-        const qsizetype batchAt = whole.indexOf(hex("62 01 01 00"));
-        for (qsizetype size = 0; size <= whole.size(); ++size) {
+        const qsizetype batchAt = kEveryItem.indexOf(hex("62 01 01 00"));
+        for (qsizetype size = 0; size <= kEveryItem.size(); ++size) {
             // A copy of its own, so that a read behind the end is one that the sanitizer sees.
-            const QByteArray cut(whole.constData(), size);
+            const QByteArray cut(kEveryItem.constData(), size);
             const DecodedFrame frame = ImuParser().parseFrame(cut);
             if (size <= batchAt + 8)
                 QVERIFY2(all.item_tags.startsWith(frame.item_tags), qPrintable(QString::number(size)));
@@ -193,12 +169,12 @@ private slots:
     {
         ImuParser parser;
         QCOMPARE(parser.parseFrame({}).seq, quint64(1));
-        const QByteArray before = describe(parser.parseFrame(everyItem()));
+        const QByteArray before = describe(parser.parseFrame(kEveryItem));
         // Nothing but the number carries over.
         QCOMPARE(describe(parser.parseFrame(hex("A0"))), QByteArray("4 [a0]: id=0"));
         QCOMPARE(describe(parser.parseFrame(hex("91"))), QByteArray("0 [91] q e: id=0 q e"));
         QCOMPARE(describe(parser.parseFrame(hex("93"))), QByteArray("0 [93] q: id=0 q"));
-        const DecodedFrame again = parser.parseFrame(everyItem());
+        const DecodedFrame again = parser.parseFrame(kEveryItem);
         QCOMPARE(describe(again), before);
         QCOMPARE(again.seq, quint64(6));
     }
@@ -233,14 +209,14 @@ private slots:
         const auto fields = [](const QByteArray &payload) { return sampleFields(ImuParser().parseFrame(payload)); };
         const QByteArray angles = hex("D0 00 00 00 00 00 00");
         QCOMPARE(fields(hex("90 01")), SampleFields());
-        QCOMPARE(fields(smallItems()), inertial | Euler | Pressure);
+        QCOMPARE(fields(kSmallItems), inertial | Euler | Pressure);
         QCOMPARE(fields(hex("B1 00 00 00 00 00 00")), SampleFields(AngularRate));
-        QCOMPARE(fields(compact()), inertial);
-        QCOMPARE(fields(full() + compact()), inertial | Pressure | Temperature); // it takes back angles and time
-        QCOMPARE(fields(angles + compact()), inertial);
-        QCOMPARE(fields(compact() + angles), inertial | Euler);
-        QCOMPARE(fields(frames::batch(0x62, 1, 0, {full()})), inertial | Euler | Pressure | Temperature | Time);
-        QCOMPARE(fields(frames::batch(0x63, 1, 0, {record63()})), inertial | Euler | Time);
+        QCOMPARE(fields(kCompact), inertial);
+        QCOMPARE(fields(kFull + kCompact), inertial | Pressure | Temperature); // it takes back angles and time
+        QCOMPARE(fields(angles + kCompact), inertial);
+        QCOMPARE(fields(kCompact + angles), inertial | Euler);
+        QCOMPARE(fields(frames::batch(0x62, 1, 0, {kFull})), inertial | Euler | Pressure | Temperature | Time);
+        QCOMPARE(fields(frames::batch(0x63, 1, 0, {kRecord63})), inertial | Euler | Time);
     }
 };
 

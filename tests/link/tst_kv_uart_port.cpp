@@ -16,34 +16,26 @@ namespace {
 
 constexpr int kBaud = 115200;
 
-/// What a port has told the main thread. (A QSignalSpy would record in the port's thread.)
-class Listener : public QObject
-{
-public:
-    explicit Listener(KvUartPort &port)
-    {
-        connect(&port, &KvUartPort::kbootRecv, this, [this](const QByteArray &payload) { payloads.append(payload); });
-        connect(&port, &KvUartPort::serialRecv, this, [this](const QByteArray &data) { received += data; });
-        connect(&port, &KvUartPort::errorOpenPort, this, [this] { ++openErrors; });
-        connect(&port, &QSerialPort::errorOccurred, this, [this](QSerialPort::SerialPortError error) {
-            if (error != QSerialPort::NoError)
-                errors.append(error);
-        });
-    }
-
-    QList<QByteArray> payloads;
-    QByteArray received;
-    QList<QSerialPort::SerialPortError> errors;
-    int openErrors = 0;
-};
-
-/// The port with what the tests want to know from inside its thread. Called by name and answered through an atomic,
-/// because the thread sanitizer does not see how the toolkit hands over functors and return values.
+/// The port with what it has told the main thread (a QSignalSpy would record in the port's thread) and what the tests
+/// want to know from inside its thread. The latter is called by name and answered through an atomic, because the thread
+/// sanitizer does not see how the toolkit hands over functors and return values.
 class TestedPort : public KvUartPort
 {
     Q_OBJECT
 
 public:
+    TestedPort()
+    {
+        connect(this, &KvUartPort::kbootRecv, &m_main, [this](const QByteArray &payload) { payloads.append(payload); });
+        connect(this, &KvUartPort::serialRecv, &m_main, [this](const QByteArray &data) { received += data; });
+        connect(this, &KvUartPort::errorOpenPort, &m_main, [this] { ++openErrors; });
+        connect(this, &QSerialPort::errorOccurred, &m_main, [this](QSerialPort::SerialPortError error) {
+            if (error != QSerialPort::NoError)
+                errors.append(error);
+        });
+    }
+    ~TestedPort() override { closeUART(); }
+
     bool opens(const PtyPair &pty)
     {
         openUART(pty.path(), kBaud);
@@ -51,6 +43,11 @@ public:
     }
     bool isOpenInItsThread() { return ask("lookWhetherOpen"); }
     bool sendsBlocking() { return ask("sendBlocking"); }
+
+    QList<QByteArray> payloads;
+    QByteArray received;
+    QList<QSerialPort::SerialPortError> errors;
+    int openErrors = 0;
 
 public slots:
     void lookWhetherOpen() { m_answer = isOpen(); }
@@ -63,6 +60,7 @@ private:
         return m_answer;
     }
 
+    QObject m_main; ///< stays in the main thread
     std::atomic<bool> m_answer = false;
 };
 
@@ -101,7 +99,6 @@ private slots:
     {
         PtyPair pty;
         TestedPort port;
-        Listener listener(port);
         std::atomic<QThread *> emitter = nullptr;
         connect(
             &port, &KvUartPort::kbootRecv, &port, [&] { emitter = QThread::currentThread(); }, Qt::DirectConnection);
@@ -109,14 +106,14 @@ private slots:
         const QByteArray payload = frames::fullRecord(7);
         const QByteArray packet = frames::packet(payload);
         for (qsizetype at = 0; at < packet.size(); at += 11) {
-            QVERIFY(listener.payloads.isEmpty());
+            QVERIFY(port.payloads.isEmpty());
             QVERIFY(pty.write(packet.mid(at, 11)));
-            QTRY_COMPARE(listener.received, packet.left(at + 11));
+            QTRY_COMPARE(port.received, packet.left(at + 11));
         }
-        QTRY_COMPARE(listener.payloads, QList<QByteArray>{payload});
+        QTRY_COMPARE(port.payloads, QList<QByteArray>{payload});
         QVERIFY(pty.write(packet + frames::packet("ab") + packet.left(3)));
-        QTRY_COMPARE(listener.payloads, (QList<QByteArray>{payload, payload, "ab"}));
-        QVERIFY(listener.errors.isEmpty());
+        QTRY_COMPARE(port.payloads, (QList<QByteArray>{payload, payload, "ab"}));
+        QVERIFY(port.errors.isEmpty());
         QVERIFY(emitter != QCoreApplication::instance()->thread());
         QCOMPARE(port.thread(), emitter.load());
         port.closeUART();
@@ -149,8 +146,7 @@ private slots:
         PtyPair pty;
         TestedPort port;
         QVERIFY(port.opens(pty));
-        // Half a line's worth in a second: 72 packets of 80 bytes. Begun right behind a tick, so that one second holds
-        // all.
+        // Half a line's worth: 72 packets of 80 bytes. Begun right behind a tick, so that one second holds all.
         const QByteArray packets = frames::packet(QByteArray(74, 'x')).repeated(72);
         QCOMPARE(packets.size(), 5760);
         QVERIFY(pty.write("-"));
@@ -181,25 +177,24 @@ private slots:
     {
         PtyPair pty;
         TestedPort port;
-        Listener listener(port);
         port.openUART(m_folder.filePath(QStringLiteral("no-such-port")), kBaud);
-        QTRY_COMPARE(listener.openErrors, 1);
-        QCOMPARE(listener.errors, QList{QSerialPort::DeviceNotFoundError});
+        QTRY_COMPARE(port.openErrors, 1);
+        QCOMPARE(port.errors, QList{QSerialPort::DeviceNotFoundError});
         QVERIFY(!port.isOpenInItsThread());
         // The object is ready for the next try, without a close.
         QSerialPort holder;
         holder.setPortName(pty.path());
         QVERIFY(holder.open(QIODevice::ReadWrite));
         port.openUART(pty.path(), kBaud);
-        QTRY_COMPARE(listener.openErrors, 2);
-        QCOMPARE(listener.errors.last(), QSerialPort::PermissionError);
+        QTRY_COMPARE(port.openErrors, 2);
+        QCOMPARE(port.errors.last(), QSerialPort::PermissionError);
         port.closeUART();
         QVERIFY(isIdle(port));
         holder.close();
         QVERIFY(port.opens(pty));
         QVERIFY(pty.write(frames::packet("ab")));
-        QTRY_COMPARE(listener.payloads.size(), 1);
-        QCOMPARE(listener.openErrors, 2);
+        QTRY_COMPARE(port.payloads.size(), 1);
+        QCOMPARE(port.openErrors, 2);
     }
 
     void openWhileOpenForgetsHalfAPacket()
@@ -207,15 +202,14 @@ private slots:
         PtyPair first;
         PtyPair second;
         TestedPort port;
-        Listener listener(port);
         QVERIFY(port.opens(first));
         const QByteArray half = frames::packet("abcdef").left(8);
         QVERIFY(first.write(half));
-        QTRY_COMPARE(listener.received, half);
+        QTRY_COMPARE(port.received, half);
         QVERIFY(port.opens(second));
         QVERIFY(first.write(frames::packet("old")));
         QVERIFY(second.write(frames::packet("new")));
-        QTRY_COMPARE(listener.payloads, QList<QByteArray>{"new"});
+        QTRY_COMPARE(port.payloads, QList<QByteArray>{"new"});
         QSerialPort other; // the first one has been let go
         other.setPortName(first.path());
         QVERIFY(other.open(QIODevice::ReadWrite));
@@ -227,7 +221,6 @@ private slots:
         PtyPair pty;
         PtyPair other;
         TestedPort port;
-        Listener listener(port);
         for (int i = 0; i < 50; ++i) {
             port.openUART(i % 3 == 0 ? other.path() : pty.path(), kBaud);
             if (i % 5 == 0)
@@ -238,11 +231,11 @@ private slots:
                 QCoreApplication::processEvents(); // a start that was overtaken arrives here
             QVERIFY(isIdle(port));
         }
-        QCOMPARE(listener.openErrors, 0);
+        QCOMPARE(port.openErrors, 0);
         QVERIFY(port.opens(pty));
         QVERIFY(pty.write(frames::packet("ab")));
-        QTRY_COMPARE(listener.payloads, QList<QByteArray>{"ab"});
-        QVERIFY(listener.errors.isEmpty());
+        QTRY_COMPARE(port.payloads, QList<QByteArray>{"ab"});
+        QVERIFY(port.errors.isEmpty());
         port.closeUART();
         // No session has started twice, for instance by a start that belonged to the one before.
         QFile log(QStringLiteral("debug.log"));
@@ -251,30 +244,27 @@ private slots:
         QVERIFY(!lines.contains("[W]: "));
         QCOMPARE(lines.count("[I]: uart-thread stopped.\r\n"), 61);
         QVERIFY(lines.count(" started\r\n") <= 61);
-        static const QRegularExpression started(QStringLiteral("\\[I\\]: uart-thread=\\d+ started\r\n"));
-        QVERIFY(started.match(QString::fromUtf8(lines)).hasMatch());
     }
 
     void closeInAFlood()
     {
         PtyPair pty;
         TestedPort port;
-        Listener listener(port);
         const std::jthread device = flood(pty);
         for (int round = 0; round < 5; ++round) {
-            listener.payloads.clear();
+            port.payloads.clear();
             port.openUART(pty.path(), kBaud);
-            QTRY_VERIFY(listener.payloads.size() > 10);
+            QTRY_VERIFY(port.payloads.size() > 10);
             port.closeUART();
             QVERIFY(isIdle(port));
             // All that the port has emitted is posted by now; nothing follows.
             QCoreApplication::sendPostedEvents();
-            const qsizetype count = listener.payloads.size();
-            QVERIFY(listener.payloads.count(frames::fullRecord(1)) == count);
+            const qsizetype count = port.payloads.size();
+            QVERIFY(port.payloads.count(frames::fullRecord(1)) == count);
             QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-            QCOMPARE(listener.payloads.size(), count);
+            QCOMPARE(port.payloads.size(), count);
         }
-        QVERIFY(listener.errors.isEmpty());
+        QVERIFY(port.errors.isEmpty());
     }
 
     void destroyedWhileOpen()
@@ -283,42 +273,42 @@ private slots:
         const std::jthread device = flood(pty);
         for (int round = 0; round < 5; ++round) {
             auto port = std::make_unique<KvUartPort>();
-            Listener listener(*port);
+            int payloads = 0;
+            QObject receiver;
+            connect(port.get(), &KvUartPort::kbootRecv, &receiver, [&payloads] { ++payloads; });
             port->openUART(pty.path(), kBaud);
-            QTRY_VERIFY(listener.payloads.size() > 10);
+            QTRY_VERIFY(payloads > 10);
             port.reset();
             QCoreApplication::processEvents();
         }
-        TestedPort port;
+        KvUartPort port;
         port.openUART(pty.path(), kBaud); // destroyed before it has started
     }
 
     void unplugged()
     {
         TestedPort port;
-        Listener listener(port);
         {
             PtyPair pty;
             QVERIFY(port.opens(pty));
             QVERIFY(pty.write(frames::packet("ab").repeated(100)));
-            QTRY_COMPARE(listener.payloads.size(), 100);
+            QTRY_COMPARE(port.payloads.size(), 100);
         }
-        QTRY_VERIFY(!listener.errors.isEmpty());
-        QVERIFY(listener.errors.first() == QSerialPort::ResourceError
-                || listener.errors.first() == QSerialPort::ReadError);
+        QTRY_VERIFY(!port.errors.isEmpty());
+        QVERIFY(port.errors.first() == QSerialPort::ResourceError || port.errors.first() == QSerialPort::ReadError);
         // A vanished device is told of, not reported without end.
         QTRY_VERIFY(!port.isOpenInItsThread());
         QCoreApplication::processEvents();
-        const qsizetype told = listener.errors.size();
+        const qsizetype told = port.errors.size();
         QVERIFY2(told < 10, qPrintable(QString::number(told)));
         QVERIFY(!port.isOpenInItsThread());
         QCoreApplication::processEvents();
-        QCOMPARE(listener.errors.size(), told);
+        QCOMPARE(port.errors.size(), told);
         send(port, "AT+INFO\r\n"); // a user may press a button before the link is closed
         PtyPair next;
         QVERIFY(port.opens(next));
         QVERIFY(next.write(frames::packet("cd")));
-        QTRY_COMPARE(listener.payloads.last(), QByteArray("cd"));
+        QTRY_COMPARE(port.payloads.last(), QByteArray("cd"));
     }
 
 private:

@@ -87,12 +87,7 @@ private slots:
 
     void families()
     {
-        struct Row
-        {
-            int family;
-            QList<quint8> nodes;
-            const char *expected; ///< the signals and the role, which was RemoteWirelessNode
-        };
+        using Row = std::tuple<int, QList<quint8>, const char *>; // at last the role, which was RemoteWirelessNode
         for (const auto &[family, nodes, expected] : {
                  Row{0, {7}, "selected:7 single:7 snapshot DirectSingleNode"},
                  Row{1, {7, 8}, "selected:7 62:7,8 snapshot WirelessGateway"},
