@@ -6,14 +6,9 @@
 #include "device/command_broker.h"
 #include "link/kv_uart_port.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
-
-constexpr qsizetype kCap = 1048576;
-
-QString s(const char *text)
-{
-    return QString::fromLatin1(text);
-}
 
 /// Answers what the broker sends by posting to it, as the port does from its own thread.
 class Peer : public QObject
@@ -23,10 +18,8 @@ public:
     {
         connect(&broker, &CommandBroker::serialSend, this, [this](const QByteArray &data) {
             sent.append(data);
-            for (const QByteArray &chunk : replies.value(data)) {
-                QMetaObject::invokeMethod(
-                    &m_broker, [this, chunk] { m_broker.serialRecv(chunk); }, Qt::QueuedConnection);
-            }
+            for (const QByteArray &chunk : replies.value(data))
+                QTimer::singleShot(0, &m_broker, [this, chunk] { m_broker.serialRecv(chunk); });
         });
     }
 
@@ -44,12 +37,8 @@ class TestCommandBroker : public QObject
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_folder = std::make_unique<QTemporaryDir>();
-        QVERIFY(QDir::setCurrent(m_folder->path())); // the log is written into the working folder
-    }
-    void cleanup() { QDir::setCurrent(QDir::tempPath()); }
+    void initTestCase() { QVERIFY(QDir::setCurrent(m_folder.path())); } // where the log is written
+    void init() { QFile::remove(u"debug.log"_s); }
 
     void commandCollectsItsWindow()
     {
@@ -57,26 +46,20 @@ private slots:
         Peer peer(broker);
         peer.replies.insert("AT+INFO\r\n", {"MZ2", "21\r\n"});
         broker.serialRecv("before");
-        QCOMPARE(broker.executeCommand(s("AT+INFO\r\n"), 30), QByteArray("MZ221\r\n"));
+        QCOMPARE(broker.executeCommand(u"AT+INFO\r\n"_s, 30), QByteArray("MZ221\r\n"));
         QCOMPARE(broker.lastResult(), QByteArray("MZ221\r\n"));
         QVERIFY(!broker.isCollecting());
-        QCOMPARE(log(), s("[D]: command send window_ms=30 bytes=9 preview=\"AT+INFO\\r\\n\"\n"
-                          "[D]: command complete response_bytes=7 preview=\"MZ221\\r\\n\"\n"));
+        QCOMPARE(log(), u"[D]: command send window_ms=30 bytes=9 preview=\"AT+INFO\\r\\n\"\n"
+                        "[D]: command complete response_bytes=7 preview=\"MZ221\\r\\n\"\n"_s);
 
         QVERIFY(broker.executeCommand(QString(), 30).isEmpty() && broker.lastResult().isEmpty());
         QCOMPARE(peer.sent.size(), 1);
-    }
-
-    void windowOfZeroReturnsAtOnce()
-    {
-        CommandBroker broker;
-        Peer peer(broker);
-        peer.replies.insert("X", {"late"});
-        QCOMPARE(broker.sendAndCollect("X", 0), QByteArray());
+        // A window of zero returns at once, and the reply finds nobody collecting.
+        QCOMPARE(broker.executeCommand(u"AT+INFO\r\n"_s, 0), QByteArray());
         QVERIFY(!broker.isCollecting());
-        QCoreApplication::processEvents(); // the reply arrives and finds nobody collecting
-        QCOMPARE(broker.sendAndCollect("Y", 5), QByteArray());
-        QVERIFY(log().contains(s("[D]: command complete window_ms=0 response_bytes=0\n")));
+        QCoreApplication::processEvents();
+        QCOMPARE(broker.executeCommand(u"Y"_s, 5), QByteArray());
+        QVERIFY(log().contains(u"[D]: command complete window_ms=0 response_bytes=0\n"_s));
     }
 
     void sequenceKeepsTheLastReply()
@@ -84,17 +67,17 @@ private slots:
         CommandBroker broker;
         Peer peer(broker);
         peer.replies = {{"A", {"first"}}, {"B", {"second"}}};
-        const QList<SettingsCommand> commands = {{s("A"), 10}, {QString(), 5000}, {s("B"), 10}, {QString(), 5000}};
+        const QList<SettingsCommand> commands = {{u"A"_s, 10}, {QString(), 5000}, {u"B"_s, 10}, {QString(), 5000}};
         QCOMPARE(broker.executeSequence(commands), QByteArray("second"));
         QCOMPARE(broker.lastResult(), QByteArray("second"));
         QCOMPARE(peer.sent, QList<QByteArray>({"A", "B"}));
         // A silent last command leaves nothing of the one before.
-        QCOMPARE(broker.executeSequence({{s("A"), 10}, {s("C"), 10}}), QByteArray());
+        QCOMPARE(broker.executeSequence({{u"A"_s, 10}, {u"C"_s, 10}}), QByteArray());
 
-        QFile::remove(s("debug.log"));
+        QFile::remove(u"debug.log"_s);
         QCOMPARE(broker.executeSequence({{QString(), 10}, {QString(), 10}}), QByteArray());
-        QCOMPARE(log(), s("[I]: command sequence start count=2\n"
-                          "[I]: command sequence finish count=2 response_bytes=0\n"));
+        QCOMPARE(log(), u"[I]: command sequence start count=2\n"
+                        "[I]: command sequence finish count=2 response_bytes=0\n"_s);
     }
 
     void commandInFlightIsLeftAlone()
@@ -106,22 +89,23 @@ private slots:
         bool collecting = false;
         QTimer::singleShot(0, &broker, [&] {
             collecting = broker.isCollecting();
-            inner = broker.executeCommand(s("B"), 1000);
-            inner += broker.executeSequence({{s("B"), 1000}});
+            inner = broker.executeCommand(u"B"_s, 1000);
+            inner += broker.executeSequence({{u"B"_s, 1000}});
         });
-        QCOMPARE(broker.executeSequence({{s("A"), 40}}), QByteArray("answer"));
+        QCOMPARE(broker.executeSequence({{u"A"_s, 40}}), QByteArray("answer"));
         QVERIFY(collecting);
         QCOMPARE(inner, QByteArray());
         QCOMPARE(peer.sent, QList<QByteArray>({"A"}));
         QCOMPARE(broker.lastResult(), QByteArray("answer"));
-        QCOMPARE(log().count(s("[W]: command rejected while another command is in flight\n")), 2);
+        QCOMPARE(log().count(u"[W]: command rejected while another command is in flight\n"_s), 2);
     }
 
     void longRepliesAreCut()
     {
+        constexpr qsizetype kCap = 1048576;
         CommandBroker broker;
         Peer peer(broker);
-        const QString warning = s("[W]: command response truncated at 1048576 bytes\n");
+        const QString warning = u"[W]: command response truncated at 1048576 bytes\n"_s;
         peer.replies = {{"full", {QByteArray(kCap, 'x')}},
                         {"more", {QByteArray(kCap - 1, 'x'), "yz", "more", "and more"}}};
         broker.serialRecv(QByteArray(kCap + 1, 'x')); // in no window: dropped, not kept and cut
@@ -141,7 +125,7 @@ private slots:
         broker.sendAndCollect(QByteArray(79, 'a') + "\r\nrest", 0);
         broker.sendAndCollect("%1 \xE9", 0);
         const QStringList lines = log().split(u'\n');
-        QCOMPARE(lines[0], s("[D]: command send window_ms=0 bytes=85 preview=\"") + QString(79, u'a') + s("\\r\""));
+        QCOMPARE(lines[0], u"[D]: command send window_ms=0 bytes=85 preview=\""_s + QString(79, u'a') + u"\\r\""_s);
         QVERIFY(lines[2].endsWith(QString::fromUtf8("preview=\"%1 \xC3\xA9\"")));
     }
 
@@ -164,8 +148,8 @@ private slots:
         broker.attachPort(nullptr);
         broker.attachPort(std::make_unique<KvUartPort>().get());
         broker.attachPort(nullptr); // of a port that has gone
-        QCOMPARE(log().count(s("[I]: command-broker attached to uart-port\n")), 3);
-        QCOMPARE(log().count(s("[I]: command-broker detached from uart-port\n")), 1);
+        QCOMPARE(log().count(u"[I]: command-broker attached to uart-port\n"_s), 3);
+        QCOMPARE(log().count(u"[I]: command-broker detached from uart-port\n"_s), 1);
     }
 
     void brokerMayDieInItsWindow()
@@ -174,7 +158,7 @@ private slots:
         Peer peer(*broker);
         QTimer::singleShot(0, this, [broker] { delete broker; });
         // The window is far longer than the test's time limit.
-        QCOMPARE(broker->executeSequence({{s("A"), 600000}, {s("B"), 600000}}), QByteArray());
+        QCOMPARE(broker->executeSequence({{u"A"_s, 600000}, {u"B"_s, 600000}}), QByteArray());
         QCOMPARE(peer.sent, QList<QByteArray>({"A"}));
     }
 
@@ -186,7 +170,7 @@ private slots:
         QByteArray reply;
         QTimer::singleShot(0, &broker, [&] {
             QTimer::singleShot(20, QCoreApplication::instance(), &QCoreApplication::quit);
-            reply = broker.executeSequence({{s("A"), 600000}, {s("B"), 600000}});
+            reply = broker.executeSequence({{u"A"_s, 600000}, {u"B"_s, 600000}});
         });
         QCOMPARE(QCoreApplication::exec(), 0);
         QCOMPARE(reply, QByteArray("half"));
@@ -198,16 +182,15 @@ private:
     /// The application log without times, one line feed per line.
     static QString log()
     {
-        QFile file(s("debug.log"));
-        if (!file.open(QIODevice::ReadOnly))
-            return {};
+        QFile file(u"debug.log"_s);
         QString text;
-        for (const QString &line : QString::fromUtf8(file.readAll()).split(s("\r\n"), Qt::SkipEmptyParts))
+        file.open(QIODevice::ReadOnly);
+        for (const QString &line : QString::fromUtf8(file.readAll()).split(u"\r\n"_s, Qt::SkipEmptyParts))
             text += line.mid(int(qstrlen("(yyyy-MM-dd hh:mm:ss) "))) + u'\n';
         return text;
     }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
+    const QTemporaryDir m_folder;
 };
 
 QTEST_GUILESS_MAIN(TestCommandBroker)

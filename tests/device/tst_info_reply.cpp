@@ -56,8 +56,7 @@ private slots:
         const QString emoji = QString::fromUtf8("\xF0\x9F\x98\x80");
         const QByteArray text = QByteArray(255, 'a') + emoji.toUtf8() + QByteArray(kMegabyte, 'b');
         const QList<QString> lines = info_reply::lines(text + "\nnext");
-        QCOMPARE(lines.size(), 2);
-        QCOMPARE(lines[0], QString(255, u'a')); // half of a character is not kept
+        QCOMPARE(lines, QStringList({QString(255, u'a'), u"next"_s})); // half of a character is not kept
         QCOMPARE(info_reply::lines(QByteArray(300, 'a')).first().size(), 256);
     }
 

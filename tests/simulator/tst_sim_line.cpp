@@ -82,8 +82,6 @@ private slots:
     {
         FrameClock clock;
         clock.restart(0, 1000);
-        while (clock.takeDue(kSecondNs / 10))
-            continue;
         QVERIFY(clock.takeDue(3600 * kSecondNs) && !clock.takeDue(3600 * kSecondNs));
     }
 
