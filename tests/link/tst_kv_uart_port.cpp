@@ -260,7 +260,7 @@ private slots:
             // All that the port has emitted is posted by now; nothing follows.
             QCoreApplication::sendPostedEvents();
             const qsizetype count = port.payloads.size();
-            QVERIFY(port.payloads.count(frames::fullRecord(1)) == count);
+            QCOMPARE(port.payloads.count(frames::fullRecord(1)), count);
             QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
             QCOMPARE(port.payloads.size(), count);
         }
