@@ -148,7 +148,6 @@ private slots:
         QVERIFY(port.opens(pty));
         // Half a line's worth: 72 packets of 80 bytes. Begun right behind a tick, so that one second holds all.
         const QByteArray packets = frames::packet(QByteArray(74, 'x')).repeated(72);
-        QCOMPARE(packets.size(), 5760);
         QVERIFY(pty.write("-"));
         QTRY_COMPARE_WITH_TIMEOUT(port.statistics().rxBytesLastSecond, quint64(1), 5000);
         QCOMPARE(port.statistics().rxLoadPercent, 0U);
@@ -301,7 +300,7 @@ private slots:
         QCoreApplication::processEvents();
         const qsizetype told = port.errors.size();
         QVERIFY2(told < 10, qPrintable(QString::number(told)));
-        QVERIFY(!port.isOpenInItsThread());
+        QVERIFY(!port.isOpenInItsThread()); // and what the worker had to tell is posted
         QCoreApplication::processEvents();
         QCOMPARE(port.errors.size(), told);
         send(port, "AT+INFO\r\n"); // a user may press a button before the link is closed
