@@ -109,7 +109,7 @@ private slots:
         QCOMPARE(m_trace.newest(), 5);
         m_trace.advance((5 + TraceBuffer::kBuckets - 1) * kStep);
         QCOMPARE(m_trace.at(0, TraceBuffer::kBuckets - 1).high, 1.0F);
-        m_trace.advance((5 + TraceBuffer::kBuckets) * kStep);
+        m_trace.advance((5 + TraceBuffer::kBuckets + 3) * kStep); // steps may be left out
         QVERIFY(m_trace.total().isEmpty());
     }
 

@@ -234,8 +234,10 @@ private slots:
         QVERIFY(!linesAtClose.isEmpty()); // the link was free for the window that waited for this
         QTRY_VERIFY(bench.peer.received.startsWith("AT+EOUT=0\r\nAT+EOUT=1\r\n")); // not left stopped
         bench.dialog->show();
+        bench.press("BTN_stopOutput");
         QTest::keyClick(bench.dialog.get(), Qt::Key_Escape);
         QCOMPARE(closed.size(), 2);
+        QTRY_COMPARE(bench.peer.received.count("AT+EOUT=0\r\nAT+EOUT=1\r\n"), 2);
     }
 
     void throwsAwayWhatADeadConnectionAnswered()
