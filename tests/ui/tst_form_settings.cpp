@@ -297,6 +297,7 @@ private slots:
         QCOMPARE(model->text(), QLatin1String(hostile));
         QCOMPARE(model->textFormat(), Qt::PlainText);
         QVERIFY(!model->toolTip().contains(QLatin1String("<img")));
+        QCoreApplication::sendPostedEvents(); // lays out
         QVERIFY(bench.dialog->sizeHint().width() < 600);
         auto *log = bench.child<QPlainTextEdit>("PTE_log");
         for (int i = 0; i < 300; ++i)
