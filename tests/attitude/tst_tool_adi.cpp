@@ -51,13 +51,6 @@ protected:
     }
 };
 
-int failures = 0;
-void countWarnings(QtMsgType type, const QMessageLogContext &, const QString &message)
-{
-    failures += type != QtDebugMsg && type != QtInfoMsg ? 1 : 0;
-    fprintf(stderr, "%s\n", qPrintable(message));
-}
-
 } // namespace
 
 class TestToolAdi : public QObject
@@ -127,7 +120,12 @@ private slots:
     void everySizePaintsWithoutWarning()
     {
         ToolADI adi;
-        const QtMessageHandler old = qInstallMessageHandler(countWarnings);
+        static int failures = 0;
+        const auto count = [](QtMsgType type, const QMessageLogContext &, const QString &message) {
+            failures += type != QtDebugMsg && type != QtInfoMsg ? 1 : 0;
+            fprintf(stderr, "%s\n", qPrintable(message));
+        };
+        const QtMessageHandler old = qInstallMessageHandler(count);
         for (int side = 1; side <= 600; side += side < 120 ? 1 : 37) {
             for (const QSize size : {QSize(side, side), QSize(side, 1), QSize(side, 40), QSize(60, side)}) {
                 adi.resize(size);

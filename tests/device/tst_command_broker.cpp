@@ -69,7 +69,6 @@ private slots:
         peer.replies = {{"A", {"first"}}, {"B", {"second"}}};
         const QList<SettingsCommand> commands = {{u"A"_s, 10}, {QString(), 5000}, {u"B"_s, 10}, {QString(), 5000}};
         QCOMPARE(broker.executeSequence(commands), QByteArray("second"));
-        QCOMPARE(broker.lastResult(), QByteArray("second"));
         QCOMPARE(peer.sent, QList<QByteArray>({"A", "B"}));
         // A silent last command leaves nothing of the one before.
         QCOMPARE(broker.executeSequence({{u"A"_s, 10}, {u"C"_s, 10}}), QByteArray());
@@ -93,8 +92,7 @@ private slots:
             inner += broker.executeSequence({{u"B"_s, 1000}});
         });
         QCOMPARE(broker.executeSequence({{u"A"_s, 40}}), QByteArray("answer"));
-        QVERIFY(collecting);
-        QCOMPARE(inner, QByteArray());
+        QVERIFY(collecting && inner.isEmpty());
         QCOMPARE(peer.sent, QList<QByteArray>({"A"}));
         QCOMPARE(broker.lastResult(), QByteArray("answer"));
         QCOMPARE(log().count(u"[W]: command rejected while another command is in flight\n"_s), 2);
@@ -113,8 +111,7 @@ private slots:
         QVERIFY(!log().contains(warning));
         for (int window = 1; window <= 2; ++window) { // once per window
             const QByteArray reply = broker.sendAndCollect("more", 50);
-            QCOMPARE(reply.size(), kCap);
-            QCOMPARE(reply.back(), 'y');
+            QVERIFY(reply.size() == kCap && reply.back() == 'y');
             QCOMPARE(log().count(warning), window);
         }
     }

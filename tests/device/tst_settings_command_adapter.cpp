@@ -63,17 +63,14 @@ private slots:
                      u"AT+EOUT=0 %1, AT+EOUT=0 %1, AT+EOUT=0 %1, AT+INFO %2"_s.arg(stopMs).arg(infoMs));
     }
 
-    void hotkeys()
+    void resetKeyFollowsTheFamily()
     {
-        const QString texts[] = {u"AT+INFO"_s,       u"AT+RST"_s,        u"AT+EOUT=0"_s,   u"SAVECONFIG"_s,
-                                 u"LOG COMCONFIG"_s, u"LOG USRCONFIG"_s, u"LOG DISABLE"_s, u"REBOOT"_s};
-        for (const ProductProfile *profile : product_profile::allProfiles()) {
-            const bool mz14 = profile->protocolFamily == ProtocolFamily::Mz14;
-            for (int i = 0; i < 8; ++i)
-                QCOMPARE(hotkeyCommand(*profile, SettingsHotkeyAction(i)), texts[i == 1 && mz14 ? 7 : i] + u"\r\n"_s);
-            QCOMPARE(hotkeyCommand(*profile, SettingsHotkeyAction(8)), QString());
+        using enum ProductKey;
+        for (const auto &[key, text] : {std::pair(MZ221, u"AT+RST\r\n"_s), {MZ14, u"REBOOT\r\n"_s}}) {
+            const ProductProfile &profile = product_profile::profile(key);
+            QCOMPARE(hotkeyCommand(profile, SettingsHotkeyAction::Reset), text);
+            QCOMPARE(hotkeyCommand(profile, SettingsHotkeyAction(8)), QString());
         }
-        QCOMPARE(buildResumeOutputCommand(), u"AT+EOUT=1\r\n"_s);
     }
 };
 

@@ -61,13 +61,9 @@ private slots:
         ImuSample sample = fixedSample(0);
         sample.id = 7;
         sample.quat = {1.0F, 0.0F, -0.5F, 0.0F};
-        const QByteArray expected = "9007"
-                                    "a0fa000cfeee02"
-                                    "b0690033ff3101"
-                                    "c07d0006ff7701"
+        const QByteArray expected = "9007a0fa000cfeee02b0690033ff3101c07d0006ff7701"
                                     "d030f8e8032c01" // pitch -2000, roll 1000, yaw 300
-                                    "d10000803f00000000000000bf00000000"
-                                    "f080e6c547";
+                                    "d10000803f00000000000000bf00000000f080e6c547";
         QCOMPARE(encodeSinglePayload(PayloadLayout::Items, sample).toHex(), expected);
     }
 

@@ -132,13 +132,11 @@ private slots:
         line.take(9);
         QCOMPARE(line.sentFrames(), 0U);
         line.take(1);
-        QCOMPARE(line.sentFrames(), 2U);
-        QCOMPARE(line.sentIntactFrames(), 1U);
+        QVERIFY(line.sentFrames() == 2 && line.sentIntactFrames() == 1);
         QVERIFY(line.ready().startsWith("OK\r\nff"));
         line.take(5);
         QCOMPARE(line.clear(), 1); // half sent is lost
-        QCOMPARE(line.sentFrames(), 2U);
-        QCOMPARE(line.sentBytes(), 15U);
+        QVERIFY(line.sentFrames() == 2 && line.sentBytes() == 15);
     }
 };
 
