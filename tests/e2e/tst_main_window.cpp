@@ -131,7 +131,7 @@ private slots:
         QTest::keyClick(list, Qt::Key_Down);
         QTRY_COMPARE(desk.value("Acceleration X"), QStringLiteral("+0.500 G"));
         QTRY_COMPARE(desk.label("label_node"), QStringLiteral("Node ID:3"));
-        QVERIFY(desk.label("label_gateway").contains(QLatin1String("TOTAL OF NODE:5")));
+        QCOMPARE(desk.label("label_gateway"), QStringLiteral("[Wireless]\nDONGLE ID:1\nTOTAL OF NODE:5"));
 
         QVERIFY(simulator.control("nodes 2")); // the chosen one is gone: the last that is there is shown
         QTRY_COMPARE(list->count(), 2);

@@ -87,15 +87,10 @@ private slots:
 
     void lineDropsWholeFrames()
     {
-        TransmitLine line(9600);
-        int accepted = 0;
-        for (int i = 0; i < 100; ++i)
-            accepted += line.pushFrames(frame(100)) ? 1 : 0;
-        QCOMPARE(accepted, 5);
-        QVERIFY(line.pushReply("OK\r\n")); // never refused for want of room
         TransmitLine gateway(9600);
         for (int i = 0; i < 3; ++i) // a large batch fits twice
             QCOMPARE(gateway.pushFrames(frame(1230)), i < 2);
+        QVERIFY(gateway.pushReply("OK\r\n")); // never refused for want of room
     }
 
     void idleLineSavesNothingUp()
