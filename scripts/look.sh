@@ -21,7 +21,10 @@ export DISPLAY=":$number" QT_QPA_PLATFORM=xcb
 openbox &
 "$top/run" "$@" &
 run=$!
-xdotool search --sync --onlyvisible --name 'ORVEL-IMU' >/dev/null
+until xdotool search --onlyvisible --name 'ORVEL-IMU' >/dev/null 2>&1; do
+  kill -0 "$run" 2>/dev/null || { echo "look: ./run has ended" >&2; exit 1; }
+  sleep 0.5
+done
 sleep 1
 [ "${LOOK_OPEN:-1}" = 0 ] || { xdotool key ctrl+o; sleep 1; xdotool key Return; }
 sleep "$seconds"

@@ -5,6 +5,7 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QLabel>
+#include <QScreen>
 #include <QScrollArea>
 #include <QSettings>
 #include <QThread>
@@ -99,7 +100,8 @@ form_base::form_base(QWidget *parent) : QMainWindow(parent), m_ui(std::make_uniq
     setUpConnections();
 
     applyFontSize(fontSize);
-    restoreGeometry(settingsFile().value(settings_keys::kGeometry).toByteArray());
+    if (!restoreGeometry(settingsFile().value(settings_keys::kGeometry).toByteArray()))
+        resize(size().boundedTo(screen()->availableSize()));
     m_ui->label_folder->setVisible(!QFileInfo(QDir::currentPath()).isWritable());
     retranslate();
     enable_all_page(false);
