@@ -53,7 +53,6 @@ QPushButton:default:hover, QPushButton[primary="true"]:hover, QToolBar QToolButt
 QPushButton:default:disabled, QPushButton[primary="true"]:disabled {
     background: #BFDBFE; border-color: #BFDBFE; color: #FFFFFF; }
 QToolBar QToolButton#qt_toolbar_ext_button { padding: 0; min-width: 16px; image: url(:/images/chevron-down.png); }
-QMessageBox { dialogbuttonbox-buttons-have-icons: 0; }
 QLabel#qt_msgbox_informativelabel { min-width: 360px; }
 
 QLineEdit, QComboBox, QSpinBox, QPlainTextEdit {

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QSettings>
 #include <QToolButton>
 
@@ -159,6 +160,7 @@ void form_base::showPortError(const QString &reason)
     m_errorBox = new QMessageBox(QMessageBox::Information, appWindowTitle(), tr("Open Serial Port Error."),
                                  QMessageBox::Ok, this);
     m_errorBox->setAttribute(Qt::WA_DeleteOnClose);
+    m_errorBox->button(QMessageBox::Ok)->setIcon({}); // the stock picture does not read on the accent colour
     m_errorBox->setTextFormat(Qt::PlainText);
     m_errorBox->setInformativeText(reason);
     m_errorBox->setTextInteractionFlags(Qt::TextSelectableByMouse); // so that a command in it can be copied
