@@ -21,9 +21,6 @@ inline constexpr QColor kText{0x11, 0x18, 0x27};
 inline constexpr QColor kTextSecondary{0x4B, 0x55, 0x63};
 inline constexpr QColor kTextDisabled{0x9C, 0xA3, 0xAF};
 inline constexpr QColor kAccent{0x25, 0x63, 0xEB};
-inline constexpr QColor kAccentSoft{0xEF, 0xF6, 0xFF};
-inline constexpr QColor kGood{0x0D, 0x8B, 0x4D};
-inline constexpr QColor kWarning{0xB4, 0x53, 0x09};
 
 /// Distance unit in device-independent pixels.
 inline constexpr int kGrid = 8;
