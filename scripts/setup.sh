@@ -8,10 +8,14 @@ packages=(
   g++ cmake ninja-build ccache git
   # the toolkit
   qt6-base-dev qt6-serialport-dev libgl-dev libgl1-mesa-dri
-  # benchmarks
-  libbenchmark-dev
-  # fonts: the interface and the two built-in fixed-pitch fonts
-  fonts-noto-core fonts-noto-mono fonts-hack
+  qt6-declarative-dev qt6-declarative-dev-tools qt6-shadertools-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
+  qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts qml6-module-qtquick-templates
+  qml6-module-qtquick-window qml6-module-qtquick-shapes qml6-module-qtqml-workerscript
+  qt6-translations-l10n
+  # benchmarks, and a plotting library to compare with
+  libbenchmark-dev libqcustomplot-dev
+  # fonts: the interface in Latin and in Chinese, Japanese and Korean, and the two built-in fixed-pitch fonts
+  fonts-noto-core fonts-noto-cjk fonts-noto-mono fonts-hack
   # tests: a display without a screen
   xvfb xauth
   # checks
