@@ -1,0 +1,367 @@
+#include "record/csv_writer.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace {
+
+constexpr qsizetype kQueueLimit = 512;
+constexpr qint64 kSecondsPerFile = 3600;
+constexpr qint64 kFlushAbove = 65535;
+constexpr int kGroups = 16;
+constexpr int kFreeSlot = -1;
+
+constexpr qsizetype kReserve91 = 220;
+constexpr qsizetype kReserve62 = 2240;
+constexpr qsizetype kReserve63 = 2260;
+
+constexpr int kFine = 3; // decimals
+constexpr int kCoarse = 2;
+
+constexpr const char *kMotionColumns[] = {
+    "AccX[G]",  "AccY[G]",   "AccZ[G]",    "GyrX[deg/s]", "GyrY[deg/s]", "GyrZ[deg/s]", "MagX[uT]", "MagY[uT]",
+    "MagZ[uT]", "Roll[deg]", "Pitch[deg]", "Yaw[deg]",    "Qw",          "Qx",          "Qy",       "Qz",
+};
+constexpr int kMotionFields = int(std::size(kMotionColumns));
+
+void appendFixed(QByteArray &line, const float *values, int count, int decimals)
+{
+    for (int i = 0; i < count; ++i) {
+        line += ',';
+        line += QByteArray::number(double(values[i]), 'f', decimals);
+    }
+}
+
+void appendMotion(QByteArray &line, const node_data_t &node, int gyrDecimals)
+{
+    const float angles[] = {node.roll, node.pitch, node.yaw};
+    appendFixed(line, node.acc, 3, kFine);
+    appendFixed(line, node.gyr, 3, gyrDecimals);
+    appendFixed(line, node.mag, 3, kCoarse);
+    appendFixed(line, angles, 3, kCoarse);
+    appendFixed(line, node.quat, 4, kFine);
+}
+
+void appendGroupHeaders(QByteArray &line)
+{
+    for (int group = 1; group <= kGroups; ++group) {
+        const QByteArray prefix = ",Node" + QByteArray::number(group) + '_';
+        line += prefix + "ID";
+        for (const char *column : kMotionColumns)
+            line += prefix + column;
+    }
+    line += '\n';
+}
+
+/// Gateway records carry the time in 32 bits.
+QByteArray shortUnixTime()
+{
+    return QByteArray::number(quint32(QDateTime::currentSecsSinceEpoch()));
+}
+
+} // namespace
+
+CsvWriter::CsvWriter(const QString &basePath, QObject *parent) : QObject(parent), m_basePath(basePath)
+{
+    openNewFile(QDateTime::currentDateTime());
+}
+
+CsvWriter::~CsvWriter()
+{
+    if (m_file->isOpen()) {
+        m_file->flush();
+        m_file->close();
+    }
+}
+
+void CsvWriter::enqueue91(const node_data_t &node)
+{
+    enqueueRecord({PendingRecordType::Record91, node, {}, 0});
+}
+
+void CsvWriter::enqueue62(const QList<node_data_t> &nodes)
+{
+    enqueueRecord({PendingRecordType::Record62, {}, nodes, 0});
+}
+
+void CsvWriter::enqueue63(const QList<node_data_t> &nodes, unsigned int timestampMs)
+{
+    enqueueRecord({PendingRecordType::Record63, {}, nodes, timestampMs});
+}
+
+QString CsvWriter::filePath() const
+{
+    const QMutexLocker locker(&m_queueLock);
+    return m_filePath;
+}
+
+QString CsvWriter::fileError() const
+{
+    const QMutexLocker locker(&m_queueLock);
+    return m_fileError;
+}
+
+void CsvWriter::enqueueRecord(PendingRecord &&record)
+{
+    QMutexLocker locker(&m_queueLock);
+    if (m_pendingQueue.size() < kQueueLimit) {
+        m_pendingQueue.append(std::move(record));
+        if (m_drainScheduled)
+            return;
+        m_drainScheduled = true;
+        locker.unlock();
+        QMetaObject::invokeMethod(this, "drainPending", Qt::QueuedConnection);
+        return;
+    }
+    ++m_droppedRecords;
+    if (m_overflowReported)
+        return;
+    m_overflowReported = true;
+    locker.unlock();
+    emit queueOverflow();
+}
+
+void CsvWriter::drainPending()
+{
+    for (;;) {
+        QMutexLocker locker(&m_queueLock);
+        if (m_pendingQueue.isEmpty()) {
+            m_drainScheduled = false;
+            return;
+        }
+        const PendingRecord record = m_pendingQueue.takeFirst();
+        locker.unlock();
+        writePendingRecord(record);
+    }
+}
+
+void CsvWriter::flushPendingAndClose()
+{
+    drainPending();
+    if (m_file->isOpen()) {
+        flush();
+        m_file->close();
+    }
+}
+
+void CsvWriter::writePendingRecord(const PendingRecord &record)
+{
+    ensureWritableFile(now(), record.type);
+    switch (record.type) {
+    case PendingRecordType::Record91:
+        writeRecord91(record.node);
+        break;
+    case PendingRecordType::Record62:
+        writeRecord62(record.nodes);
+        break;
+    case PendingRecordType::Record63:
+        writeRecord63(record.nodes, record.timestampMs);
+        break;
+    }
+    ++m_frameCounter;
+}
+
+void CsvWriter::ensureWritableFile(const QDateTime &time, PendingRecordType type)
+{
+    if (!m_file->isOpen() || m_fileStartTime.secsTo(time) >= kSecondsPerFile)
+        openNewFile(time);
+    if (headerWritten(type))
+        return;
+    switch (type) {
+    case PendingRecordType::Record91:
+        writeHeader91();
+        break;
+    case PendingRecordType::Record62:
+        writeHeader62();
+        break;
+    case PendingRecordType::Record63:
+        writeHeader63();
+        break;
+    }
+    headerWritten(type) = true;
+}
+
+QString CsvWriter::pathOf(const QDateTime &start) const
+{
+    const QFileInfo base(m_basePath);
+    const QString folder = base.path().isEmpty() ? QDir::currentPath() : base.path();
+    const QString stem = base.completeBaseName().isEmpty() ? base.fileName() : base.completeBaseName();
+    const QString suffix = base.suffix().isEmpty() ? QStringLiteral("csv") : base.suffix();
+    const QString time = start.toString(QStringLiteral("yyyyMMdd_HHmmss"));
+    return QDir(folder).filePath(QStringLiteral("%1_%2.%3").arg(stem, time, suffix));
+}
+
+void CsvWriter::openNewFile(const QDateTime &start)
+{
+    if (m_file && m_file->isOpen()) {
+        flush();
+        m_file->close();
+    }
+    // An hour that the clock goes through twice would name a file of this recording again and empty it.
+    QDateTime nameTime = start;
+    QString path = pathOf(nameTime);
+    while (m_usedPaths.contains(path)) {
+        nameTime = nameTime.addSecs(1);
+        path = pathOf(nameTime);
+    }
+    m_file = std::make_unique<QFile>(path);
+    const bool isOpen = m_file->open(QIODevice::WriteOnly | QIODevice::Truncate);
+    if (isOpen)
+        m_usedPaths.insert(path);
+    m_fileStartTime = start;
+    m_headerWritten.fill(false);
+    m_bytesSinceFlush = 0;
+    m_fileSize = 0;
+    m_slots62.fill(kFreeSlot, kGroups);
+    m_slots63.fill(kFreeSlot, kGroups);
+    {
+        const QMutexLocker locker(&m_queueLock);
+        m_filePath = path;
+    }
+    setFileError(isOpen ? QString() : m_file->errorString());
+}
+
+/// Hands bytes to the file; false when it took none of them.
+bool CsvWriter::give(const QByteArray &bytes)
+{
+    if (!m_file->isOpen())
+        return false;
+    if (m_file->write(bytes) != bytes.size()) {
+        setFileError(m_file->errorString());
+        return false;
+    }
+    m_fileSize += bytes.size();
+    if (m_hasFileError) // the bytes may just have found room in the buffer
+        flush();
+    return true;
+}
+
+void CsvWriter::flush()
+{
+    m_bytesSinceFlush = 0;
+    if (m_file->isOpen())
+        setFileError(m_file->flush() ? QString() : m_file->errorString());
+}
+
+void CsvWriter::setFileError(const QString &error)
+{
+    if (!m_hasFileError && error.isEmpty())
+        return;
+    m_hasFileError = !error.isEmpty();
+    const QMutexLocker locker(&m_queueLock);
+    m_fileError = error;
+}
+
+void CsvWriter::writeHeader(const QByteArray &header)
+{
+    give(header);
+    flush();
+}
+
+void CsvWriter::writeLine(const QByteArray &line)
+{
+    if (!give(line))
+        ++m_lostRecords;
+    m_bytesSinceFlush += line.size();
+    if (m_bytesSinceFlush > kFlushAbove)
+        flush();
+}
+
+void CsvWriter::writeHeader91()
+{
+    QByteArray header("UnixTimeStamp(sec),Time(ms),Pressure(Pa),Temperature(\xC2\xB0"
+                      "C)");
+    for (const char *column : kMotionColumns)
+        (header += ',') += column;
+    writeHeader(header += '\n');
+}
+
+void CsvWriter::writeHeader62()
+{
+    QByteArray header("UnixTimeStamp(sec)");
+    appendGroupHeaders(header);
+    writeHeader(header);
+}
+
+void CsvWriter::writeHeader63()
+{
+    QByteArray header("ts_ms(ms),UnixTimeStamp(sec)");
+    appendGroupHeaders(header);
+    writeHeader(header);
+}
+
+void CsvWriter::writeRecord91(const node_data_t &node)
+{
+    QByteArray line;
+    line.reserve(kReserve91);
+    line += QByteArray::number(QDateTime::currentSecsSinceEpoch());
+    (line += ',') += QByteArray::number(node.time_ms);
+    (line += ',') += QByteArray::number(double(node.pressure), 'g', 6);
+    (line += ',') += QByteArray::number(double(node.temperature), 'g', 6);
+    appendMotion(line, node, kFine);
+    writeLine(line += '\n');
+}
+
+void CsvWriter::writeRecord62(const QList<node_data_t> &nodes)
+{
+    QByteArray line;
+    line.reserve(kReserve62);
+    line += shortUnixTime();
+    appendGroups(line, nodes, m_slots62);
+    writeLine(line);
+}
+
+void CsvWriter::writeRecord63(const QList<node_data_t> &nodes, unsigned int timestampMs)
+{
+    QByteArray line;
+    line.reserve(kReserve63);
+    line += QByteArray::number(timestampMs);
+    (line += ',') += shortUnixTime();
+    appendGroups(line, nodes, m_slots63);
+    writeLine(line);
+}
+
+// A group is 17 columns: the id, then what moves. Nodes have angular rates with one digit less than single modules.
+void CsvWriter::appendNodeFields(QByteArray &line, const node_data_t &node)
+{
+    appendMotion(line, node, kCoarse);
+}
+
+void CsvWriter::appendEmptyFields(QByteArray &line, int count)
+{
+    if (count > 0)
+        line.append(count, ',');
+}
+
+void CsvWriter::assignSlots(const QList<node_data_t> &nodes, QList<int> &slotMap)
+{
+    if (slotMap.size() != kGroups)
+        slotMap.fill(kFreeSlot, kGroups);
+    for (const node_data_t &node : nodes) {
+        if (slotMap.contains(int(node.id)))
+            continue;
+        const qsizetype freeSlot = slotMap.indexOf(kFreeSlot);
+        if (freeSlot < 0)
+            return;
+        slotMap[freeSlot] = node.id;
+    }
+}
+
+void CsvWriter::appendGroups(QByteArray &line, const QList<node_data_t> &nodes, QList<int> &slotMap)
+{
+    assignSlots(nodes, slotMap);
+    std::array<const node_data_t *, 256> byId{}; // of two samples with one id the later counts
+    for (const node_data_t &node : nodes)
+        byId[node.id] = &node;
+    for (const int id : qAsConst(slotMap)) {
+        line += ',';
+        if (id >= 0)
+            line += QByteArray::number(id);
+        const node_data_t *node = id >= 0 ? byId[std::size_t(id)] : nullptr;
+        if (node != nullptr)
+            appendNodeFields(line, *node);
+        else
+            appendEmptyFields(line, kMotionFields);
+    }
+    line += '\n';
+}

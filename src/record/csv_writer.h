@@ -1,0 +1,139 @@
+#pragma once
+
+#include <QDateTime>
+#include <QFile>
+#include <QList>
+#include <QMutex>
+#include <QObject>
+#include <QSet>
+#include <QString>
+
+#include <array>
+#include <atomic>
+#include <memory>
+
+#include "link/node_data.h"
+
+/// Writes samples into comma-separated text files, on a thread of its own. One writer serves one recording.
+///
+/// Made from the path "logs/data.csv" at 14:05:09 on 3 March 2025 it writes "logs/data_20250303_140509.csv", and opens
+/// a new file, named by its own time, with the first record that arrives an hour or more later. Three kinds of record,
+/// each with a header line in front of its first record in every file:
+///
+///     0x91  UnixTimeStamp(sec),Time(ms),Pressure(Pa),Temperature(°C),<motion>                    20 columns
+///     0x62  UnixTimeStamp(sec),Node1_ID,Node1_<motion>,...,Node16_ID,Node16_<motion>             273 columns
+///     0x63  ts_ms(ms),UnixTimeStamp(sec),Node1_ID,Node1_<motion>,...,Node16_ID,Node16_<motion>   274 columns
+///
+/// <motion> is AccX[G]...Z, GyrX[deg/s]...Z, MagX[uT]...Z, Roll[deg], Pitch[deg], Yaw[deg], Qw, Qx, Qy, Qz. A radio
+/// node gets the lowest free column group when it is first seen in a file and keeps it for that file; while it is
+/// silent its id stands there with empty values. The seventeenth node of a file is left out. UnixTimeStamp is the
+/// computer's clock when the line is written. Numbers have a decimal point in every locale, lines end with LF.
+///
+/// Threads: made in the thread that records; then moved to its own thread, which runs both slots. Samples and questions
+/// come from any thread. The destructor writes nothing that is still queued: run flushPendingAndClose() first.
+///
+/// Nothing fails loudly: records that find no open file are lost and counted, every later record tries a new file,
+/// and fileError() tells how things stand.
+class CsvWriter : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(CsvWriter)
+
+public:
+    enum class PendingRecordType { Record91 = 0, Record62 = 1, Record63 = 2 };
+
+    /// A record on its way to the writer's thread.
+    struct PendingRecord
+    {
+        PendingRecordType type = PendingRecordType::Record91;
+        node_data_t node;         ///< of Record91
+        QList<node_data_t> nodes; ///< of the gateway records
+        quint32 timestampMs = 0;  ///< of Record63
+    };
+
+    /// Opens the first file at once. `basePath` gives folder, stem and suffix of all files; the current folder and
+    /// "csv" stand in for what it does not name. The folder has to exist.
+    explicit CsvWriter(const QString &basePath, QObject *parent = nullptr);
+    ~CsvWriter() override;
+
+    /// Queues the sample of a single module. A full queue (512 records) drops it. Any thread.
+    void enqueue91(const node_data_t &node);
+    /// Queues a batch of full gateway records, likewise.
+    void enqueue62(const QList<node_data_t> &nodes);
+    /// Queues a batch of compact gateway records with the gateway's time stamp in milliseconds, likewise.
+    void enqueue63(const QList<node_data_t> &nodes, unsigned int timestampMs);
+
+    /// Records taken from the queue over all files, those included that could not be written. Any thread.
+    Q_INVOKABLE unsigned int getFrameCtr() const { return m_frameCounter; }
+
+    /// Path of the file that was opened, or tried, last. Any thread, as all below.
+    QString filePath() const;
+    /// Bytes of records and headers given to that file.
+    qint64 fileSize() const { return m_fileSize; }
+    /// The system's words for why opening, writing or flushing failed last; empty when it works, or works again.
+    QString fileError() const;
+    /// Records that were dropped because the queue was full.
+    unsigned int droppedRecords() const { return m_droppedRecords; }
+    /// Records that no file took.
+    unsigned int lostRecords() const { return m_lostRecords; }
+
+public slots:
+    /// Writes what is queued. Writer's thread.
+    void drainPending();
+    /// Writes what is queued and closes the file; a later record would open a new one. Writer's thread.
+    void flushPendingAndClose();
+
+signals:
+    /// The queue was full for the first time. Emitted in the thread that queued, once in a writer's life.
+    void queueOverflow();
+
+protected:
+    /// The time that names files and tells when the next is due. Writer's thread.
+    virtual QDateTime now() const { return QDateTime::currentDateTime(); }
+
+private:
+    void enqueueRecord(PendingRecord &&record);
+    void openNewFile(const QDateTime &start);
+    void ensureWritableFile(const QDateTime &time, PendingRecordType type);
+    void writePendingRecord(const PendingRecord &record);
+
+    void writeHeader91();
+    void writeHeader62();
+    void writeHeader63();
+    void writeRecord91(const node_data_t &node);
+    void writeRecord62(const QList<node_data_t> &nodes);
+    void writeRecord63(const QList<node_data_t> &nodes, unsigned int timestampMs);
+    static void appendNodeFields(QByteArray &line, const node_data_t &node);
+    static void appendEmptyFields(QByteArray &line, int count);
+    static void assignSlots(const QList<node_data_t> &nodes, QList<int> &slotMap);
+    static void appendGroups(QByteArray &line, const QList<node_data_t> &nodes, QList<int> &slotMap);
+
+    QString pathOf(const QDateTime &start) const;
+    bool &headerWritten(PendingRecordType type) { return m_headerWritten[std::size_t(type)]; }
+    void writeHeader(const QByteArray &header);
+    void writeLine(const QByteArray &line);
+    bool give(const QByteArray &bytes);
+    void flush();
+    void setFileError(const QString &error);
+
+    std::unique_ptr<QFile> m_file;
+    QDateTime m_fileStartTime;
+    QString m_basePath;
+    mutable QMutex m_queueLock;            ///< guards the queue with its two flags, and the two texts for other threads
+    std::array<bool, 3> m_headerWritten{}; ///< by record type, for the current file
+    qint64 m_bytesSinceFlush = 0;
+    std::atomic<quint32> m_frameCounter = 0;
+    QList<int> m_slots62; ///< column group to node id, -1: free
+    QList<int> m_slots63;
+    QList<PendingRecord> m_pendingQueue;
+    bool m_drainScheduled = false;
+    bool m_overflowReported = false;
+
+    QSet<QString> m_usedPaths;   ///< files of this recording: none is opened twice
+    bool m_hasFileError = false; ///< writer's thread: fileError() is not empty
+    QString m_filePath;
+    QString m_fileError;
+    std::atomic<qint64> m_fileSize = 0;
+    std::atomic<quint32> m_droppedRecords = 0;
+    std::atomic<quint32> m_lostRecords = 0;
+};
