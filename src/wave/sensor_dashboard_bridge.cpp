@@ -1,0 +1,166 @@
+#include "wave/sensor_dashboard_bridge.h"
+
+#include <utility>
+
+#include <QSettings>
+
+#include "wave/sensor_types.h"
+
+namespace {
+
+const QString kSelectionKey = QStringLiteral("SENSOR_DASHBOARD/SELECTED_SENSORS");
+
+} // namespace
+
+SensorDashboardBridge::SensorDashboardBridge(QObject *parent) : QObject(parent)
+{
+    for (const SensorType &type : ::sensorTypes()) {
+        m_sensorTypes += type.key;
+        m_bridges.insert(type.key, new WaveChartBridge(type.key, this));
+        m_selected.insert(type.key, true);
+    }
+    retranslate();
+}
+
+QVariantList SensorDashboardBridge::paneStates() const
+{
+    QVariantList states;
+    for (const QString &type : m_sensorTypes)
+        states += paneState(type);
+    return states;
+}
+
+QVariantList SensorDashboardBridge::visiblePaneStates() const
+{
+    QVariantList states;
+    for (const QString &type : selectedSensorTypes())
+        states += paneState(type);
+    return states;
+}
+
+QVariantMap SensorDashboardBridge::paneState(const QString &type) const
+{
+    return {{QStringLiteral("type"), type},
+            {QStringLiteral("label"), m_paneLabels.value(type)},
+            {QStringLiteral("selected"), isSensorSelected(type)},
+            {QStringLiteral("backend"), QVariant::fromValue<QObject *>(backend(type))}};
+}
+
+QStringList SensorDashboardBridge::selectedSensorTypes() const
+{
+    QStringList selected;
+    for (const QString &type : m_sensorTypes) {
+        if (isSensorSelected(type))
+            selected += type;
+    }
+    return selected;
+}
+
+QSize SensorDashboardBridge::layoutForCount(int count)
+{
+    if (count < 1)
+        return {0, 0};
+    if (count <= 3)
+        return {count, 1};
+    return {count == 4 ? 2 : 3, 2};
+}
+
+void SensorDashboardBridge::setSensorSelected(const QString &type, bool selected)
+{
+    const auto flag = m_selected.find(type);
+    if (flag == m_selected.end() || *flag == selected)
+        return;
+    *flag = selected;
+    syncObservedStates();
+    emit selectionChanged();
+    emit paneStatesChanged();
+}
+
+void SensorDashboardBridge::resetSelectionsToDefault()
+{
+    for (bool &flag : m_selected)
+        flag = true;
+    syncObservedStates();
+    emit selectionChanged();
+    emit paneStatesChanged();
+}
+
+void SensorDashboardBridge::pushSample(const QString &type, const float *values, int n, unsigned int timestampMs)
+{
+    WaveChartBridge *chart = m_dashboardActive ? bridge(type) : nullptr;
+    if (chart)
+        chart->pushSample(values, n, timestampMs);
+}
+
+void SensorDashboardBridge::setPlaying(bool playing)
+{
+    if (playing == m_playing)
+        return;
+    m_playing = playing;
+    for (WaveChartBridge *chart : std::as_const(m_bridges))
+        chart->setPlaying(playing);
+    emit playingChanged();
+}
+
+void SensorDashboardBridge::setFrameRate(unsigned int samplesPerSecond)
+{
+    for (WaveChartBridge *chart : std::as_const(m_bridges))
+        chart->setFrameRate(samplesPerSecond);
+}
+
+void SensorDashboardBridge::setDashboardActive(bool active)
+{
+    if (active == m_dashboardActive)
+        return;
+    m_dashboardActive = active;
+    syncObservedStates();
+    if (!active)
+        resetBackends();
+}
+
+void SensorDashboardBridge::resetBackends()
+{
+    for (WaveChartBridge *chart : std::as_const(m_bridges))
+        chart->reset();
+}
+
+void SensorDashboardBridge::syncObservedStates()
+{
+    for (const QString &type : std::as_const(m_sensorTypes))
+        m_bridges.value(type)->setObserved(m_dashboardActive && isSensorSelected(type));
+}
+
+void SensorDashboardBridge::loadSelectionState(const QString &iniPath)
+{
+    const QSettings settings(iniPath, QSettings::IniFormat);
+    if (!settings.contains(kSelectionKey))
+        return;
+    const QStringList stored = settings.value(kSelectionKey).toStringList();
+    bool changed = false;
+    for (const QString &type : std::as_const(m_sensorTypes)) {
+        const bool selected = stored.contains(type);
+        changed |= std::exchange(m_selected[type], selected) != selected;
+    }
+    if (!changed)
+        return;
+    syncObservedStates();
+    emit selectionChanged();
+    emit paneStatesChanged();
+    emit layoutChanged();
+}
+
+void SensorDashboardBridge::saveSelectionState(const QString &iniPath) const
+{
+    QSettings settings(iniPath, QSettings::IniFormat);
+    settings.setValue(kSelectionKey, selectedSensorTypes());
+    settings.sync();
+}
+
+void SensorDashboardBridge::retranslate()
+{
+    for (const SensorType &type : ::sensorTypes())
+        m_paneLabels.insert(type.key, tr(type.label));
+    m_windowTitle = tr("Sensor Dashboard");
+    emit windowTitleChanged();
+    emit paneStatesChanged();
+}

@@ -1,0 +1,206 @@
+#include "wave/wave_chart_bridge.h"
+
+#include <algorithm>
+#include <cmath>
+#include <stdexcept>
+
+#include "wave/sensor_types.h"
+
+WaveChartBridge::WaveChartBridge(const QString &sensorType, QObject *parent)
+    : QObject(parent), m_sensorType(sensorType), m_type(findSensorType(sensorType)),
+      m_model(m_type ? int(m_type->channels.size()) : 0)
+{
+    m_model.setFrameRate(m_appliedFrameRate);
+    retranslate();
+}
+
+QStringList WaveChartBridge::channelNames() const
+{
+    QStringList names;
+    if (m_type) {
+        for (const SensorChannel &channel : m_type->channels)
+            names += channel.name;
+    }
+    return names;
+}
+
+QVariantList WaveChartBridge::channelColors() const
+{
+    QVariantList colors;
+    if (m_type) {
+        for (const SensorChannel &channel : m_type->channels)
+            colors += channel.color;
+    }
+    return colors;
+}
+
+double WaveChartBridge::yMin() const
+{
+    return m_type ? m_type->yMin : 0;
+}
+
+double WaveChartBridge::yMax() const
+{
+    return m_type ? m_type->yMax : 0;
+}
+
+double WaveChartBridge::yMinZoom() const
+{
+    return m_type ? m_type->yMinZoom : 0.1;
+}
+
+bool WaveChartBridge::hasFilter() const
+{
+    return m_type && m_type->hasFilter;
+}
+
+QList<QPointF> WaveChartBridge::getDecimatedPoints(int channel, double tMin, double tMax, int maxPoints) const
+{
+    QList<QPointF> points;
+    m_model.getDecimatedPointsByTime(channel, tMin, tMax, maxPoints, points);
+    return points;
+}
+
+QVariantList WaveChartBridge::getValuesAtTime(double timeSec) const
+{
+    const int offset = m_model.sampleOffsetAtTime(timeSec);
+    if (offset < 0)
+        return {};
+    const int slot = (m_model.head() + offset) % WaveformDataModel::kCapacity;
+    QVariantList values;
+    for (int channel = 0; channel < channelCount(); ++channel)
+        values += m_model.rawValue(channel, slot);
+    return values;
+}
+
+void WaveChartBridge::pushSample(const float *values, int n, unsigned int timestampMs)
+{
+    if (!m_playing)
+        return;
+    m_model.pushSample(values, std::min(n, channelCount()), timestampMs);
+    if (!m_model.shouldRedraw())
+        return;
+    if (m_observed && !m_updatePosted) {
+        m_updatePosted = true;
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                m_updatePosted = false;
+                if (m_observed) // it may have been hidden meanwhile
+                    notifyView();
+            },
+            Qt::QueuedConnection);
+    }
+    m_model.markRedrawn();
+}
+
+void WaveChartBridge::setPlaying(bool playing)
+{
+    if (playing == m_playing)
+        return;
+    m_playing = playing;
+    emit playingChanged();
+    if (m_playing)
+        applyFrameRate(m_requestedFrameRate);
+}
+
+void WaveChartBridge::setObserved(bool observed)
+{
+    if (observed == m_observed)
+        return;
+    m_observed = observed;
+    if (!m_observed || !m_model.hasData())
+        return;
+    if (!m_updatePosted)
+        notifyView();
+}
+
+void WaveChartBridge::setFrameRate(unsigned int samplesPerSecond)
+{
+    m_requestedFrameRate = std::max(samplesPerSecond, 1U);
+    if (m_playing)
+        applyFrameRate(m_requestedFrameRate);
+}
+
+void WaveChartBridge::applyFrameRate(unsigned int samplesPerSecond)
+{
+    if (samplesPerSecond == m_appliedFrameRate)
+        return;
+    m_appliedFrameRate = samplesPerSecond;
+    m_model.setFrameRate(samplesPerSecond);
+    emit framerateChanged();
+}
+
+void WaveChartBridge::reset()
+{
+    const bool hadData = m_model.hasData();
+    const bool wasFiltered = filterOn();
+    m_model.reset();
+    m_updatePosted = false;
+    if (wasFiltered)
+        emit filterChanged();
+    if (hadData && m_observed)
+        notifyView();
+}
+
+void WaveChartBridge::setFilterEnabled(int channel, bool enabled)
+{
+    m_model.setFilterEnabled(channel, enabled);
+}
+
+void WaveChartBridge::setFilterCutoff(int channel, double hz)
+{
+    m_model.setFilterCutoff(channel, hz);
+}
+
+QString WaveChartBridge::trySetFilter(bool on, double hz)
+{
+    // Off while the cutoff changes, so that each filter is built once and the switch alone can fail.
+    switchFilters(false);
+    QString problem;
+    if (on && (!std::isfinite(hz) || hz <= 0)) {
+        problem = tr("The cutoff frequency must be above 0 Hz.");
+    } else {
+        for (int channel = 0; channel < channelCount(); ++channel)
+            m_model.setFilterCutoff(channel, hz);
+        try {
+            if (on)
+                switchFilters(true);
+        } catch (const std::domain_error &) {
+            switchFilters(false);
+            problem = tr("The cutoff frequency is too low for %1 samples per second.").arg(m_appliedFrameRate);
+        }
+    }
+    emit filterChanged();
+    return problem;
+}
+
+bool WaveChartBridge::filterOn() const
+{
+    for (int channel = 0; channel < channelCount(); ++channel) {
+        if (m_model.filterEnabled(channel))
+            return true;
+    }
+    return false;
+}
+
+void WaveChartBridge::retranslate()
+{
+    const QString title = m_type ? tr(m_type->title) : QString();
+    if (title == m_chartTitle)
+        return;
+    m_chartTitle = title;
+    emit chartTitleChanged();
+}
+
+void WaveChartBridge::notifyView()
+{
+    emit viewLimitsChanged();
+    emit dataChanged();
+}
+
+void WaveChartBridge::switchFilters(bool on)
+{
+    for (int channel = 0; channel < channelCount(); ++channel)
+        m_model.setFilterEnabled(channel, on);
+}

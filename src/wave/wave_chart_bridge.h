@@ -1,0 +1,133 @@
+#pragma once
+
+#include <QList>
+#include <QObject>
+#include <QPointF>
+#include <QString>
+#include <QStringList>
+#include <QVariantList>
+
+#include "wave/waveform_data_model.h"
+
+struct SensorType;
+
+/// The object behind one waveform chart: owns the samples of one sensor type, describes the chart to the view, tells it
+/// when to repaint and answers its queries. The time axis counts seconds before the newest sample: 0 is the newest,
+/// negative is older.
+///
+/// dataChanged() comes at most once per pass of the event loop, about 30 times a second for fast streams, and never
+/// while nobody observes the chart. Main thread only.
+class WaveChartBridge : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(WaveChartBridge)
+    Q_PROPERTY(QString sensorType READ sensorType CONSTANT)
+    Q_PROPERTY(QString chartTitle READ chartTitle NOTIFY chartTitleChanged)
+    Q_PROPERTY(int channelCount READ channelCount CONSTANT)
+    Q_PROPERTY(QStringList channelNames READ channelNames CONSTANT)
+    Q_PROPERTY(QVariantList channelColors READ channelColors CONSTANT)
+    Q_PROPERTY(double yMin READ yMin CONSTANT)
+    Q_PROPERTY(double yMax READ yMax CONSTANT)
+    Q_PROPERTY(bool playing READ playing NOTIFY playingChanged)
+    Q_PROPERTY(bool hasFilter READ hasFilter CONSTANT)
+    Q_PROPERTY(bool filterOn READ filterOn NOTIFY filterChanged)
+    Q_PROPERTY(double filterCutoffHz READ filterCutoffHz NOTIFY filterChanged)
+    Q_PROPERTY(bool hasData READ hasData NOTIFY dataChanged)
+    Q_PROPERTY(unsigned int framerate READ framerate NOTIFY framerateChanged)
+    Q_PROPERTY(double xLimitMin READ xLimitMin CONSTANT)
+    Q_PROPERTY(double xLimitMax READ xLimitMax CONSTANT)
+    Q_PROPERTY(double xHistoryMin READ xHistoryMin NOTIFY viewLimitsChanged)
+    Q_PROPERTY(double xDefaultMin READ xDefaultMin CONSTANT)
+    Q_PROPERTY(double xMaxViewDuration READ xMaxViewDuration CONSTANT)
+    Q_PROPERTY(double xMinZoom READ xMinZoom CONSTANT)
+    Q_PROPERTY(double xSnapStep READ xSnapStep CONSTANT)
+    Q_PROPERTY(double yMinZoom READ yMinZoom CONSTANT)
+
+public:
+    /// `sensorType` is a key of sensorTypes(); any other gives a chart without channels and title.
+    explicit WaveChartBridge(const QString &sensorType, QObject *parent = nullptr);
+
+    const QString &sensorType() const { return m_sensorType; }
+    const QString &chartTitle() const { return m_chartTitle; }
+    int channelCount() const { return m_model.channelCount(); }
+    QStringList channelNames() const;
+    QVariantList channelColors() const;
+    /// Value range of the axis.
+    double yMin() const;
+    double yMax() const;
+    bool playing() const { return m_playing; }
+    bool hasFilter() const;
+    bool hasData() const { return m_model.hasData(); }
+    /// Samples per second as applied; a change that came during a pause waits for its end.
+    unsigned int framerate() const { return m_appliedFrameRate; }
+
+    double xLimitMin() const { return -60; }
+    double xLimitMax() const { return 0; }
+    /// Time of the oldest sample in seconds.
+    double xHistoryMin() const { return -m_model.historyDurationSec(); }
+    double xDefaultMin() const { return -10; }
+    double xMaxViewDuration() const { return 60; }
+    double xMinZoom() const { return 0.01; }
+    double xSnapStep() const { return 0.001; }
+    double yMinZoom() const;
+
+    /// Points of one channel for the visible time range, newest first, at most `maxPoints`.
+    Q_INVOKABLE QList<QPointF> getDecimatedPoints(int channel, double tMin, double tMax, int maxPoints) const;
+    /// Values of all channels of the sample nearest to `timeSec`; empty without data.
+    Q_INVOKABLE QVariantList getValuesAtTime(double timeSec) const;
+    Q_INVOKABLE int headIndex() const { return m_model.head(); }
+    /// Stamp of the newest sample in seconds: tells by how much the picture moved.
+    Q_INVOKABLE double newestTimeSec() const { return double(m_model.timestampAtSampleOffset(0)) / 1000.0; }
+    /// The samples, for export.
+    const WaveformDataModel &model() const { return m_model; }
+
+    /// Appends a sample of up to channelCount() values; dropped while paused, so that a paused chart keeps its picture.
+    void pushSample(const float *values, int n, unsigned int timestampMs);
+    void setPlaying(bool playing);
+    /// Whether the chart is on the screen.
+    void setObserved(bool observed);
+    /// Samples per second, 0 is taken as 1; applied at once while playing.
+    void setFrameRate(unsigned int samplesPerSecond);
+    /// Applies the rate even while paused and leaves what setFrameRate() asked for alone.
+    void applyFrameRate(unsigned int samplesPerSecond);
+    /// Forgets the samples, and on purpose the filter settings with them.
+    void reset();
+
+    /// Filter of one channel; both may throw, see WaveformDataModel.
+    void setFilterEnabled(int channel, bool enabled);
+    void setFilterCutoff(int channel, double hz);
+    Q_INVOKABLE bool filterEnabled(int channel) const { return m_model.filterEnabled(channel); }
+    Q_INVOKABLE double filterCutoff(int channel) const { return m_model.filterCutoff(channel); }
+    /// Filter switch and cutoff in Hz of all channels, for users: returns an empty text, or a sentence that says why
+    /// the filter stays off.
+    Q_INVOKABLE QString trySetFilter(bool on, double hz);
+    /// Any channel's filter is on.
+    bool filterOn() const;
+    /// Cutoff in Hz of the first channel.
+    double filterCutoffHz() const { return m_model.filterCutoff(0); }
+
+    /// Picks the title in the current language.
+    void retranslate();
+
+signals:
+    void dataChanged();
+    void chartTitleChanged();
+    void playingChanged();
+    void framerateChanged();
+    void viewLimitsChanged();
+    void filterChanged();
+
+private:
+    void notifyView();
+    void switchFilters(bool on);
+
+    QString m_sensorType;
+    const SensorType *m_type; ///< null for an unknown key
+    WaveformDataModel m_model;
+    QString m_chartTitle;
+    bool m_playing = true;
+    unsigned int m_appliedFrameRate = 100;
+    unsigned int m_requestedFrameRate = 100;
+    bool m_observed = false;
+    bool m_updatePosted = false;
+};

@@ -1,0 +1,324 @@
+#include "wave/waveform_data_model.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+#include <numbers>
+#include <span>
+
+namespace {
+
+constexpr unsigned int kThrottledRate = 60; ///< samples/s from which redraws are fewer than samples
+constexpr unsigned int kRedrawsPerSecond = 30;
+
+/// Extremes of one bucket. `low` and `high` are NaN when it holds no number.
+struct Extremes
+{
+    double low;
+    double high;
+    bool highIsNewer;
+};
+
+/// A bucket as it lies in the ring: one run of slots, or two when it passes the end of the storage.
+using Runs = std::array<std::span<const double>, 2>;
+
+Extremes findExtremes(const Runs &runs)
+{
+    constexpr double kMax = std::numeric_limits<double>::max();
+    // Comparisons with NaN are false, so it moves neither.
+    double low = kMax;
+    double high = -kMax;
+    for (const auto &run : runs) {
+        for (const double value : run) {
+            low = value < low ? value : low;
+            high = value > high ? value : high;
+        }
+    }
+    // Infinities of one sign move only one of them, NaN neither; what was stored is finer than kMax.
+    if (low == kMax)
+        low = high == -kMax ? std::numeric_limits<double>::quiet_NaN() : high;
+    if (high == -kMax)
+        high = low;
+    // The first of both that is met is the newer; this ends long before the bucket does.
+    for (const auto &run : runs) {
+        for (const double value : run) {
+            if (value == low)
+                return {low, high, false};
+            if (value == high)
+                return {low, high, true};
+        }
+    }
+    return {low, high, false};
+}
+
+} // namespace
+
+WaveformDataModel::WaveformDataModel(int channelCount, QObject *parent)
+    : QObject(parent), m_values(std::max(channelCount, 0), QList<double>(kCapacity, 0.0)), m_timestamps(kCapacity, 0),
+      m_filters(size_t(std::max(channelCount, 0))), m_filterEnabled(std::max(channelCount, 0), false),
+      m_filterCutoff(std::max(channelCount, 0), 0.0)
+{
+    // The copies above share one storage; part them now rather than at the first sample.
+    for (QList<double> &values : m_values)
+        values.detach();
+}
+
+WaveformDataModel::~WaveformDataModel() = default;
+
+void WaveformDataModel::pushSample(const float *values, int n, unsigned int timestampMs)
+{
+    const quint64 stamp = nextTimestampMs(timestampMs);
+    m_head = m_hasData ? (m_head + kCapacity - 1) % kCapacity : 0;
+    m_hasData = true;
+    ++m_samplesSinceRedraw;
+    m_count = std::min(m_count + 1, kCapacity);
+    m_timestamps[m_head] = stamp;
+    m_lastTimestamp = stamp;
+    for (int i = 0; i < std::min(n, channelCount()); ++i) {
+        double x = double(values[i]);
+        LowPassFilter *filter = m_filterEnabled.at(i) ? m_filters[size_t(i)].get() : nullptr;
+        if (filter && std::isfinite(x)) {
+            filter->update(x);
+            x = filter->getOutput();
+        }
+        m_values[i][m_head] = x;
+    }
+}
+
+void WaveformDataModel::reset()
+{
+    m_head = 0;
+    m_count = 0;
+    m_hasData = false;
+    m_samplesSinceRedraw = 0;
+    m_lastTimestamp = 0;
+    m_timestamps.fill(0);
+    for (QList<double> &values : m_values)
+        values.fill(0.0);
+    m_filterEnabled.fill(false);
+    m_filterCutoff.fill(0.0);
+    for (auto &filter : m_filters)
+        filter.reset();
+}
+
+void WaveformDataModel::setFilterEnabled(int channel, bool enabled)
+{
+    if (!hasChannel(channel))
+        return;
+    m_filterEnabled[channel] = enabled;
+    if (enabled)
+        rebuildFilter(channel);
+}
+
+bool WaveformDataModel::filterEnabled(int channel) const
+{
+    return hasChannel(channel) && m_filterEnabled.at(channel);
+}
+
+void WaveformDataModel::setFilterCutoff(int channel, double hz)
+{
+    if (!hasChannel(channel))
+        return;
+    m_filterCutoff[channel] = hz;
+    if (m_filterEnabled.at(channel))
+        rebuildFilter(channel);
+}
+
+double WaveformDataModel::filterCutoff(int channel) const
+{
+    return hasChannel(channel) ? m_filterCutoff.at(channel) : 0.0;
+}
+
+void WaveformDataModel::rebuildFilter(int channel)
+{
+    if (!hasChannel(channel))
+        return;
+    auto &filter = m_filters[size_t(channel)];
+    filter.reset();
+    if (m_filterCutoff.at(channel) > 0 && m_frameRate != 0)
+        filter = std::make_unique<LowPassFilter>(2 * std::numbers::pi * m_filterCutoff.at(channel),
+                                                 1.0 / double(m_frameRate));
+}
+
+bool WaveformDataModel::shouldRedraw() const
+{
+    return m_samplesSinceRedraw >= (m_frameRate < kThrottledRate ? 1 : m_frameRate / kRedrawsPerSecond);
+}
+
+double WaveformDataModel::rawValue(int channel, int slot) const
+{
+    return hasChannel(channel) ? m_values.at(channel).at(slot) : 0.0;
+}
+
+double WaveformDataModel::historyDurationSec() const
+{
+    return m_count < 2 ? 0.0 : ageSecAtSampleOffset(m_count - 1);
+}
+
+quint64 WaveformDataModel::timestampAtSampleOffset(int offset) const
+{
+    return offset >= 0 && offset < m_count ? m_timestamps.at(slotAt(offset)) : 0;
+}
+
+double WaveformDataModel::ageSecAtSampleOffset(int offset) const
+{
+    if (offset < 0 || offset >= m_count)
+        return 0.0;
+    return double(m_timestamps.at(m_head) - m_timestamps.at(slotAt(offset))) / 1000.0;
+}
+
+int WaveformDataModel::sampleOffsetAtTime(double t) const
+{
+    if (!m_hasData)
+        return -1;
+    const double age = std::abs(t);
+    const int i = lowerBoundSampleForAge(age);
+    if (i == 0)
+        return 0;
+    if (i >= m_count)
+        return m_count - 1;
+    return age - ageSecAtSampleOffset(i - 1) >= ageSecAtSampleOffset(i) - age ? i : i - 1;
+}
+
+int WaveformDataModel::lowerBoundSampleForAge(double ageSec) const
+{
+    int low = 0;
+    int high = m_count;
+    while (low < high) {
+        const int middle = (low + high) / 2;
+        if (ageSecAtSampleOffset(middle) < ageSec)
+            low = middle + 1;
+        else
+            high = middle;
+    }
+    return low;
+}
+
+int WaveformDataModel::upperBoundSampleForAge(double ageSec) const
+{
+    int low = 0;
+    int high = m_count;
+    while (low < high) {
+        const int middle = (low + high) / 2;
+        if (ageSecAtSampleOffset(middle) > ageSec)
+            high = middle;
+        else
+            low = middle + 1;
+    }
+    return low;
+}
+
+void WaveformDataModel::resolveTimeWindow(double xMin, double xMax, int &first, int &last) const
+{
+    first = last = 0;
+    if (!m_hasData)
+        return;
+    const double nearAge = xMax < 0 ? -xMax : 0.0;
+    const double farAge = xMin <= 0 && -xMin > nearAge ? -xMin : nearAge;
+    last = upperBoundSampleForAge(farAge);
+    first = std::min(lowerBoundSampleForAge(nearAge), last);
+}
+
+quint64 WaveformDataModel::nextTimestampMs(unsigned int timestampMs) const
+{
+    if (!m_hasData)
+        return timestampMs;
+    if (timestampMs == 0)
+        return m_lastTimestamp + fallbackTimestampStepMs();
+    return std::max(m_lastTimestamp + 1, quint64(timestampMs));
+}
+
+unsigned int WaveformDataModel::fallbackTimestampStepMs() const
+{
+    return m_frameRate == 0 ? 1U : std::max(1U, unsigned(1000.0 / m_frameRate + 0.5));
+}
+
+void WaveformDataModel::getVisibleRawPoints(int channel, int first, int last, QList<QPointF> &out) const
+{
+    rawPoints(channel, first, last, out, [](int offset) { return -double(offset); });
+}
+
+void WaveformDataModel::getVisibleRawPointsByTime(int channel, double xMin, double xMax, QList<QPointF> &out) const
+{
+    int first = 0;
+    int last = 0;
+    resolveTimeWindow(xMin, xMax, first, last);
+    rawPoints(channel, first, last, out, [this](int offset) { return -ageSecAtSampleOffset(offset); });
+}
+
+int WaveformDataModel::getDecimatedPoints(int channel, int first, int last, int maxPoints, QList<QPointF> &out) const
+{
+    return bucketPoints(channel, first, last, maxPoints, out, [](int offset) { return -double(offset); });
+}
+
+int WaveformDataModel::getDecimatedPointsByTime(int channel, double xMin, double xMax, int maxPoints,
+                                                QList<QPointF> &out) const
+{
+    int first = 0;
+    int last = 0;
+    resolveTimeWindow(xMin, xMax, first, last);
+    return bucketPoints(channel, first, last, maxPoints, out,
+                        [this](int offset) { return -ageSecAtSampleOffset(offset); });
+}
+
+template <class XAt>
+void WaveformDataModel::rawPoints(int channel, int first, int last, QList<QPointF> &out, XAt xAt) const
+{
+    first = std::max(first, 0);
+    last = std::min(last, m_count);
+    if (!hasChannel(channel) || first >= last) {
+        out.clear();
+        return;
+    }
+    const double *values = m_values.at(channel).constData();
+    out.resize(last - first);
+    QPointF *point = out.data();
+    for (int offset = first; offset < last; ++offset)
+        *point++ = QPointF(xAt(offset), values[slotAt(offset)]);
+}
+
+template <class XAt>
+int WaveformDataModel::bucketPoints(int channel, int first, int last, int maxPoints, QList<QPointF> &out, XAt xAt) const
+{
+    first = std::max(first, 0);
+    last = std::min(last, m_count);
+    if (!hasChannel(channel) || maxPoints < 1 || first >= last) {
+        out.clear();
+        return 0;
+    }
+    const int n = last - first;
+    if (maxPoints >= n) {
+        rawPoints(channel, first, last, out, xAt);
+        return int(out.size());
+    }
+    if (maxPoints == 1)
+        return 0;
+    const int buckets = maxPoints / 2;
+    const double step = double(n) / buckets;
+    const double *values = m_values.at(channel).constData();
+    out.resize(2 * qsizetype(buckets));
+    QPointF *const begin = out.data();
+    QPointF *point = begin;
+    for (int bucket = 0; bucket < buckets; ++bucket) {
+        const int from = first + int(bucket * step);
+        const int to = std::min(first + int((bucket + 1) * step), last);
+        if (from >= to)
+            continue;
+        if (to - from == 1) {
+            *point++ = QPointF(xAt(from), values[slotAt(from)]);
+            continue;
+        }
+        const int start = m_head + from;
+        const int stop = m_head + to;
+        const int wrapped = std::max(start - kCapacity, 0);
+        const Extremes extremes =
+            findExtremes({std::span(values + std::min(start, kCapacity), values + std::min(stop, kCapacity)),
+                          std::span(values + wrapped, values + std::max(stop - kCapacity, 0))});
+        *point++ = QPointF(xAt(from), extremes.highIsNewer ? extremes.high : extremes.low);
+        *point++ = QPointF(xAt(to - 1), extremes.highIsNewer ? extremes.low : extremes.high);
+    }
+    const auto written = int(point - begin);
+    out.resize(written);
+    return written;
+}
