@@ -3,6 +3,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include "record/number_text.h"
+
 namespace {
 
 constexpr qsizetype kQueueLimit = 512;
@@ -28,7 +30,7 @@ void appendFixed(QByteArray &line, const float *values, int count, int decimals)
 {
     for (int i = 0; i < count; ++i) {
         line += ',';
-        line += QByteArray::number(double(values[i]), 'f', decimals);
+        number_text::appendFixed(line, values[i], decimals);
     }
 }
 
@@ -63,7 +65,7 @@ QByteArray shortUnixTime()
 
 CsvWriter::CsvWriter(const QString &basePath, QObject *parent) : QObject(parent), m_basePath(basePath)
 {
-    openNewFile(QDateTime::currentDateTime());
+    openNewFile(QDateTime::currentDateTimeUtc());
 }
 
 CsvWriter::~CsvWriter()
@@ -187,7 +189,7 @@ QString CsvWriter::pathOf(const QDateTime &start) const
     const QString folder = base.path().isEmpty() ? QDir::currentPath() : base.path();
     const QString stem = base.completeBaseName().isEmpty() ? base.fileName() : base.completeBaseName();
     const QString suffix = base.suffix().isEmpty() ? QStringLiteral("csv") : base.suffix();
-    const QString time = start.toString(QStringLiteral("yyyyMMdd_HHmmss"));
+    const QString time = start.toLocalTime().toString(QStringLiteral("yyyyMMdd_HHmmss"));
     return QDir(folder).filePath(QStringLiteral("%1_%2.%3").arg(stem, time, suffix));
 }
 

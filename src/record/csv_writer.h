@@ -88,8 +88,9 @@ signals:
     void queueOverflow();
 
 protected:
-    /// The time that names files and tells when the next is due. Writer's thread.
-    virtual QDateTime now() const { return QDateTime::currentDateTime(); }
+    /// The time that names files, in local time, and tells when the next is due: asked for every record, and UTC is the
+    /// one that costs little. Writer's thread.
+    virtual QDateTime now() const { return QDateTime::currentDateTimeUtc(); }
 
 private:
     void enqueueRecord(PendingRecord &&record);
