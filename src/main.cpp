@@ -7,9 +7,12 @@
 #include <QStyleFactory>
 #include <QSurfaceFormat>
 
+#include <cstdlib>
 #include <memory>
 
+#include "app/app_language_manager.h"
 #include "app/application_fonts.h"
+#include "app/initial_language_picker.h"
 #include "app/message_log.h"
 #include "app/theme.h"
 #include "link/node_data.h"
@@ -23,12 +26,6 @@ void applyLook()
 {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(theme::palette());
-    if (const QString family = application_fonts::chooseFontFamily(application_fonts::latinFamilies());
-        !family.isEmpty()) {
-        QFont font = QApplication::font();
-        font.setFamily(family);
-        QApplication::setFont(font);
-    }
     qobject_cast<QApplication *>(QCoreApplication::instance())->setStyleSheet(theme::styleSheet());
 }
 
@@ -50,6 +47,12 @@ int qMain(int argc, char **argv)
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/mainicon.png")));
     application_fonts::loadAll();
     applyLook();
+    AppLanguageManager::instance().setPicker(pickInitialLanguage);
+    if (!AppLanguageManager::instance().initialize()) {
+        qWarning() << "Failed to initialize application language manager";
+        message_log::close();
+        return EXIT_FAILURE;
+    }
 
     auto window = std::make_unique<form_base>();
     window->show();

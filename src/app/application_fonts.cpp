@@ -84,8 +84,17 @@ QString application_fonts::chooseFontFamily(const QStringList &families)
     return {};
 }
 
-QStringList application_fonts::latinFamilies()
+QStringList application_fonts::hanFallback(const QString &language)
 {
-    return {QStringLiteral("Source Sans 3"), QStringLiteral("Segoe UI"), QStringLiteral("Noto Sans"),
-            QStringLiteral("Helvetica Neue"), QStringLiteral("Arial")};
+    static constexpr std::pair<QLatin1String, QLatin1String> kRows[] = {
+        {QLatin1String("CN"), QLatin1String("Noto Sans CJK SC")},
+        {QLatin1String("TC"), QLatin1String("Noto Sans CJK TC")},
+        {QLatin1String("JA"), QLatin1String("Noto Sans CJK JP")},
+        {QLatin1String("KO"), QLatin1String("Noto Sans CJK KR")},
+    };
+    for (const auto &[code, family] : kRows) {
+        if (language == code)
+            return {family};
+    }
+    return {};
 }

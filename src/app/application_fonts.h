@@ -20,7 +20,8 @@ QString fixedPitchFamily();
 /// compared without regard to case. Empty when it knows none.
 QString chooseFontFamily(const QStringList &families);
 
-/// Preferred interface families for Latin script.
-QStringList latinFamilies();
+/// Families that draw Chinese characters as a language writes them ("CN", "TC", "JA", "KO"), for what the interface
+/// font lacks; empty for other codes.
+QStringList hanFallback(const QString &language);
 
 } // namespace application_fonts

@@ -8,6 +8,7 @@ namespace settings_keys {
 
 constexpr QLatin1String kFile("param.ini");
 
+constexpr QLatin1String kLanguage("Main/LANGUAGE");      ///< code of the interface language
 constexpr QLatin1String kFontSize("Main/FONTSIZE");      ///< interface font size, points
 constexpr QLatin1String kGeometry("Main/GEOMETRY");      ///< main window's size and place
 constexpr QLatin1String kPort("SERIAL/PORT");            ///< last port, name or path
