@@ -1,6 +1,22 @@
 #include "ui/device_text.h"
 
+#include <QCoreApplication>
 #include <QRegularExpression>
+
+#include "device/product_profile.h"
+
+namespace {
+
+// The names in the product table that are words.
+[[maybe_unused]] constexpr const char *kWords[] = {
+    QT_TRANSLATE_NOOP("product_profile", "Legacy Wireless Gateway (0x62/0x63)"),
+    QT_TRANSLATE_NOOP("product_profile", "Unknown Legacy Device"),
+    QT_TRANSLATE_NOOP("product_profile", "Unknown Mz14 Device"),
+    QT_TRANSLATE_NOOP("product_profile", "Unknown Wireless Gateway (0x62/0x63)"),
+    QT_TRANSLATE_NOOP("product_profile", "Unknown Device"),
+};
+
+} // namespace
 
 QString device_text::plainToolTip(const QString &text)
 {
@@ -16,6 +32,11 @@ QString device_text::withoutKeyword(const QString &line, QLatin1String keyword)
     while (at < line.size() && separates(line[at]))
         ++at;
     return line.mid(at);
+}
+
+QString device_text::productName(const ProductProfile &profile)
+{
+    return QCoreApplication::translate("product_profile", profile.displayName.toUtf8().constData());
 }
 
 QString device_text::breakable(const QString &path)

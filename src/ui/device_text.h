@@ -2,6 +2,8 @@
 
 #include <QString>
 
+struct ProductProfile;
+
 /// Showing texts that come from devices, ports and files, and so may hold any character.
 namespace device_text {
 
@@ -11,6 +13,9 @@ QString plainToolTip(const QString &text);
 /// The line without the keyword that it begins with, in any letter case, where a caption says the same:
 /// "UUID: 0B3F" is "0B3F".
 QString withoutKeyword(const QString &line, QLatin1String keyword);
+
+/// A product's name in the current language: names stay, the words for unknown devices are translated.
+QString productName(const ProductProfile &profile);
 
 /// A path that a label may break into lines behind its separators.
 QString breakable(const QString &path);

@@ -167,7 +167,7 @@ void form_base::showDevice()
 {
     showSummary();
     const auto orDash = [](const QString &text) { return text.isEmpty() ? value_format::absent() : text; };
-    m_ui->label_product->setText(m_device.valid ? currentProfile().displayName : value_format::absent());
+    m_ui->label_product->setText(m_device.valid ? device_text::productName(currentProfile()) : value_format::absent());
     m_ui->label_model->setText(orDash(m_device.modelLine));
     m_ui->label_build->setText(orDash(device_text::withoutKeyword(m_device.buildLine, QLatin1String("build"))));
     m_ui->label_uuid->setText(orDash(device_text::withoutKeyword(m_device.uuidLine, QLatin1String("UUID"))));

@@ -212,7 +212,7 @@ void form_settings::showDevice()
 {
     const DetectedDevice &device = m_session->device();
     const ProductProfile &profile = m_session->profile();
-    showText(m_ui->LBL_product, device.valid ? profile.displayName : tr("No device identified"));
+    showText(m_ui->LBL_product, device.valid ? device_text::productName(profile) : tr("No device identified"));
     showText(m_ui->LBL_model, device.modelLine);
     showText(m_ui->LBL_build, device_text::withoutKeyword(device.buildLine, QLatin1String("build")));
     showText(m_ui->LBL_uuid, device_text::withoutKeyword(device.uuidLine, QLatin1String("UUID")));
