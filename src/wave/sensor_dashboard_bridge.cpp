@@ -4,7 +4,7 @@
 
 #include <QSettings>
 
-#include "wave/sensor_types.h"
+#include "wave/sample_feed.h"
 
 namespace {
 
@@ -92,6 +92,12 @@ void SensorDashboardBridge::pushSample(const QString &type, const float *values,
         chart->pushSample(values, n, timestampMs);
 }
 
+void SensorDashboardBridge::pushSamples(const ChartSamples &samples, unsigned int timestampMs)
+{
+    for (const ChartSample &sample : samples)
+        pushSample(m_sensorTypes.at(sample.type), sample.values.data(), sample.count, timestampMs);
+}
+
 void SensorDashboardBridge::setPlaying(bool playing)
 {
     if (playing == m_playing)
@@ -159,7 +165,7 @@ void SensorDashboardBridge::saveSelectionState(const QString &iniPath) const
 void SensorDashboardBridge::retranslate()
 {
     for (const SensorType &type : ::sensorTypes())
-        m_paneLabels.insert(type.key, tr(type.label));
+        m_paneLabels.insert(type.key, typeLabel(type));
     m_windowTitle = tr("Sensor Dashboard");
     emit windowTitleChanged();
     emit paneStatesChanged();

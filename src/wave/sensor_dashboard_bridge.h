@@ -7,7 +7,10 @@
 #include <QStringList>
 #include <QVariantList>
 
+#include "wave/sensor_types.h"
 #include "wave/wave_chart_bridge.h"
+
+class ChartSamples;
 
 /// The object behind the waveform dashboard of one device: a chart per sensor type, the choice which of them are shown
 /// and the grid they are laid out in. Samples are kept only while the dashboard is active; closing it empties the
@@ -50,6 +53,9 @@ public:
     /// Columns (width) and rows (height) of the grid for `count` panes; empty below 1.
     static QSize layoutForCount(int count);
 
+    /// Short name of a type in the current language.
+    static QString typeLabel(const SensorType &type) { return tr(type.label); }
+
     /// Chart of a type; null for an unknown key.
     Q_INVOKABLE WaveChartBridge *backend(const QString &type) const { return m_bridges.value(type); }
     Q_INVOKABLE WaveChartBridge *bridge(const QString &type) const { return m_bridges.value(type); }
@@ -65,6 +71,8 @@ public:
 
     /// Routes a sample to the chart of its type; dropped while inactive.
     void pushSample(const QString &type, const float *values, int n, unsigned int timestampMs);
+    /// Routes all values of one sample.
+    void pushSamples(const ChartSamples &samples, unsigned int timestampMs);
     void setPlaying(bool playing);
     /// Samples per second.
     void setFrameRate(unsigned int samplesPerSecond);

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <stdexcept>
 
+#include "app/app_language_manager.h"
 #include "wave/sensor_types.h"
 
 WaveChartBridge::WaveChartBridge(const QString &sensorType, QObject *parent)
@@ -11,6 +12,7 @@ WaveChartBridge::WaveChartBridge(const QString &sensorType, QObject *parent)
       m_model(m_type ? int(m_type->channels.size()) : 0)
 {
     m_model.setFrameRate(m_appliedFrameRate);
+    connect(&AppLanguageManager::instance(), &AppLanguageManager::languageChanged, this, &WaveChartBridge::retranslate);
     retranslate();
 }
 

@@ -1,0 +1,114 @@
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include <QObject>
+#include <QTimer>
+#include <QVariantList>
+
+#include "wave/gateway_node_model.h"
+#include "wave/gateway_node_tracker.h"
+#include "wave/sample_clock.h"
+#include "wave/sample_feed.h"
+#include "wave/wave_chart_bridge.h"
+
+/// The object behind the dashboard of a wireless gateway: the table of its radio nodes, and a set of charts (one per
+/// sensor type) for each of the nodes that the user chose, at most four. The table is refreshed four times a second
+/// while the dashboard is active. While it is not, samples are dropped at once and nothing is kept but the choices.
+///
+/// A pane is a map of "nodeId", "type" (key), "label" (translated, "Node 3 · Acceleration") and "backend" (the
+/// WaveChartBridge). Chart bridges live from choosing a node to dropping it. Main thread only.
+class GatewayDashboardBridge : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(GatewayDashboardBridge)
+    Q_PROPERTY(QString windowTitle READ windowTitle NOTIFY textsChanged)
+    Q_PROPERTY(QAbstractItemModel *nodeModel READ nodeModel CONSTANT)
+    Q_PROPERTY(QString summary READ summary NOTIFY nodesRefreshed)
+    Q_PROPERTY(int nodeCount READ nodeCount NOTIFY nodesRefreshed)
+    Q_PROPERTY(QList<int> chosenNodes READ chosenNodes NOTIFY panesChanged)
+    Q_PROPERTY(int maxChosenNodes READ maxChosenNodes CONSTANT)
+    Q_PROPERTY(QVariantList typeStates READ typeStates NOTIFY panesChanged)
+    Q_PROPERTY(QVariantList panes READ panes NOTIFY panesChanged)
+    Q_PROPERTY(int paneColumns READ paneColumns NOTIFY panesChanged)
+    Q_PROPERTY(bool playing READ playing NOTIFY playingChanged)
+    Q_PROPERTY(unsigned int frameRate READ frameRate NOTIFY frameRateChanged)
+
+public:
+    static constexpr int kMaxChosenNodes = 4;
+
+    explicit GatewayDashboardBridge(QObject *parent = nullptr);
+
+    QString windowTitle() const { return tr("Wireless Gateway Dashboard"); }
+    GatewayNodeModel *nodeModel() { return &m_nodeModel; }
+    /// How many nodes there are and how many of them are late or gone.
+    QString summary() const;
+    int nodeCount() const { return m_nodeModel.rowCount(); }
+    /// Ids by ascending value.
+    QList<int> chosenNodes() const;
+    int maxChosenNodes() const { return kMaxChosenNodes; }
+    /// A map of "type", "label" and "selected" per sensor type.
+    QVariantList typeStates() const;
+    /// The charts to show, in the order in which they fill the grid row by row: type by type, or node by node where
+    /// that makes a row of each node.
+    QVariantList panes() const;
+    /// Columns of the grid: up to three panes are stacked, so that their time axes compare; more stand in two columns.
+    int paneColumns() const;
+    bool playing() const { return m_playing; }
+    unsigned int frameRate() const { return m_frameRate; }
+    bool dashboardActive() const { return m_active; }
+
+    /// Shows or drops the charts of a node; false when four are chosen already or the id is out of 0 to 255.
+    Q_INVOKABLE bool setNodeChosen(int nodeId, bool chosen);
+    Q_INVOKABLE void setTypeSelected(const QString &type, bool selected);
+    /// A paused dashboard keeps the pictures of its charts; the table goes on.
+    Q_INVOKABLE void setPlaying(bool playing);
+
+    /// Milliseconds of the clock that host times are told in; it does not run backwards.
+    static qint64 hostNowMs();
+    /// Takes the samples of a batch that arrived at `hostMs`.
+    void updateGatewaySamples(const QList<GatewaySample> &samples, qint64 hostMs = hostNowMs());
+    /// Batches per second, and so each node's samples per second.
+    void setFrameRate(unsigned int samplesPerSecond);
+    /// Active while the dashboard is open. Becoming inactive forgets nodes and samples; the choices stay.
+    void setDashboardActive(bool active);
+    /// Forgets nodes, samples and the chosen nodes: another gateway may come.
+    void clear();
+    /// Brings the table up to date as of `hostMs`; runs by itself while active.
+    void refresh(qint64 hostMs = hostNowMs());
+    /// The texts are in another language now.
+    void retranslate();
+
+signals:
+    void nodesRefreshed();
+    void panesChanged();
+    void playingChanged();
+    void frameRateChanged();
+    void textsChanged();
+
+private:
+    struct NodeCharts
+    {
+        quint8 id = 0;
+        SampleClock clock;
+        std::array<WaveChartBridge *, kSensorTypeCount> charts{}; ///< owned as children of the dashboard
+    };
+
+    NodeCharts makeCharts(quint8 id);
+    static void dropCharts(const NodeCharts &node);
+    std::vector<NodeCharts>::iterator findCharts(int nodeId);
+    void notifyChosen();
+    void forgetSamples();
+    void syncObserved();
+    int selectedTypeCount() const;
+
+    GatewayNodeTracker m_tracker;
+    GatewayNodeModel m_nodeModel;
+    std::vector<NodeCharts> m_charts; ///< by ascending id
+    std::array<bool, kSensorTypeCount> m_selectedTypes;
+    bool m_playing = true;
+    bool m_active = false;
+    unsigned int m_frameRate = 100; ///< samples per second
+    QTimer m_refreshTimer;
+};

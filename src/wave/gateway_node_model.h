@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QAbstractListModel>
+#include <QList>
+
+#include "wave/gateway_node_tracker.h"
+
+/// The table of radio nodes for the view: one row per node, sorted by id. Rows are inserted as nodes appear and stay at
+/// their place; values change by dataChanged() for the rows that differ. Main thread only.
+class GatewayNodeModel : public QAbstractListModel
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(GatewayNodeModel)
+
+public:
+    enum Role {
+        NodeIdRole = Qt::UserRole, ///< int
+        StateRole,                 ///< int, a NodeState: 0 live, 1 late, 2 gone
+        StateTextRole,             ///< translated
+        ChosenRole,                ///< bool: the node's charts are shown
+        RateHzRole,                ///< double, samples per second
+        AgeMsRole,                 ///< qint64, -1 when the node was never heard
+        MissingRole,               ///< quint64
+        TemperatureRole,           ///< float, degrees Celsius
+        PressureRole,              ///< float, Pa
+        RateTextRole,              ///< the same as texts; a dash for what is not known
+        AgeTextRole,               ///< with unit
+        MissingTextRole,
+        TemperatureTextRole,
+        PressureTextRole,
+    };
+    Q_ENUM(Role)
+
+    explicit GatewayNodeModel(QObject *parent = nullptr);
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+    const QList<GatewayNodeStatus> &nodes() const { return m_nodes; }
+    /// Takes the nodes by ascending id; those that were listed before must be among them.
+    void update(const QList<GatewayNodeStatus> &nodes);
+    void setChosen(const QList<int> &nodeIds);
+    void clear();
+    /// The texts are in another language now.
+    void retranslate() { notifyRows(0, rowCount() - 1); }
+
+private:
+    void notifyRows(int first, int last);
+
+    QList<GatewayNodeStatus> m_nodes;
+    QList<int> m_chosen;
+};

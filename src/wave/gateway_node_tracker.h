@@ -1,0 +1,73 @@
+#pragma once
+
+#include <array>
+#include <map>
+
+#include <QList>
+
+#include "wave/gateway_sample.h"
+
+/// How recently a radio node was heard. Three periods of silence, but at least half a second, are late; twice that, but
+/// at least two seconds, are gone: a single lost packet is neither, and a slow node is not gone between two samples.
+enum class NodeState { Live, Late, Gone };
+
+/// What is known about one radio node.
+struct GatewayNodeStatus
+{
+    quint8 id = 0;
+    NodeState state = NodeState::Gone;
+    double rateHz = 0;     ///< samples per second over the last two seconds
+    qint64 ageMs = -1;     ///< age of the newest sample; -1 when none was seen
+    quint64 missing = 0;   ///< samples that the gaps between the time stamps tell of
+    bool hasClock = false; ///< the samples carry time stamps, so that `missing` means something
+    float temperature = 0; ///< degrees Celsius, if `fields` has it
+    float pressure = 0;    ///< Pa, if `fields` has it
+    SampleFields fields;   ///< what the newest sample carries
+
+    bool operator==(const GatewayNodeStatus &) const = default;
+};
+
+/// Watches which radio nodes a gateway hears and how well. A node that fell silent stays listed with its last values.
+/// Host times are milliseconds of a clock that does not run backwards. Bounded: ids have 8 bits, so at most 256 nodes
+/// of fixed size.
+class GatewayNodeTracker
+{
+public:
+    void addSamples(const QList<GatewaySample> &samples, qint64 hostMs);
+    /// Lists a node before it is heard, as gone.
+    void expect(quint8 id) { m_nodes[id]; }
+    void clear() { m_nodes.clear(); }
+
+    /// All nodes by ascending id, as of `hostMs`.
+    QList<GatewayNodeStatus> nodes(qint64 hostMs) const;
+
+private:
+    static constexpr int kBucketMs = 100;
+    static constexpr int kBuckets = 20; ///< complete ones, two seconds
+    static constexpr int kSteps = 16;
+
+    struct Node
+    {
+        bool heard = false;
+        node_data_t sample{};
+        SampleFields fields;
+        qint64 heardMs = 0; ///< host time of the newest sample
+        qint64 sinceMs = 0; ///< host time from which it was heard without a break
+        bool hasNodeTime = false;
+        bool hasClock = false;
+        quint32 stampMs = 0;
+        std::array<quint32, kSteps> steps{}; ///< newest steps between samples in milliseconds, a ring
+        int stepCount = 0;
+        quint64 missing = 0;
+        std::array<quint32, kBuckets + 1> counts{}; ///< samples per bucket of host time, a ring
+    };
+
+    static void addSample(Node &node, const GatewaySample &sample, qint64 hostMs);
+    static void addStep(Node &node, quint32 stepMs);
+    static void emptyBuckets(Node &node, qint64 fromMs, qint64 toMs);
+    static double periodMs(const Node &node);
+    static double rateHz(const Node &node, qint64 hostMs);
+    static NodeState state(const Node &node, qint64 hostMs);
+
+    std::map<quint8, Node> m_nodes;
+};

@@ -1,0 +1,31 @@
+#include "wave/sample_clock.h"
+
+#include <limits>
+
+ClockStep ClockStep::between(quint32 previousMs, quint32 stampMs)
+{
+    const quint32 forward = stampMs - previousMs; // modulo 2^32, so that the wrap is no event
+    if (forward != 0 && forward <= kMaxStepMs)
+        return {Forward, forward};
+    const quint32 back = previousMs - stampMs;
+    return {back < kMaxBackMs ? Repeated : Jump, 0};
+}
+
+quint32 SampleClock::next(quint32 deviceMs, unsigned int nominalPeriodMs)
+{
+    const bool noClock = deviceMs == 0 && m_deviceMs == 0;
+    const ClockStep step = ClockStep::between(m_deviceMs, deviceMs);
+    if (!m_hasSample) {
+        m_timeMs = noClock ? 0 : 1;
+        m_deviceMs = deviceMs;
+    } else if (noClock || !m_hasClock || step.kind == ClockStep::Jump) {
+        m_timeMs += nominalPeriodMs;
+        m_deviceMs = deviceMs;
+    } else if (step.kind == ClockStep::Forward) {
+        m_timeMs += step.ms;
+        m_deviceMs = deviceMs;
+    }
+    m_hasSample = true;
+    m_hasClock |= deviceMs != 0;
+    return m_hasClock && m_timeMs <= std::numeric_limits<quint32>::max() ? quint32(m_timeMs) : 0;
+}
