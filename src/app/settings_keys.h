@@ -16,5 +16,6 @@ constexpr QLatin1String kBaudRate("SERIAL/BAUDRATE");    ///< last baud rate
 constexpr QLatin1String kPortVendor("SERIAL/VENDOR_ID"); ///< USB identity of the last port, decimal
 constexpr QLatin1String kPortProduct("SERIAL/PRODUCT_ID");
 constexpr QLatin1String kPortSerial("SERIAL/SERIAL_NUMBER");
+constexpr QLatin1String kRecordPath("RECORD/PATH"); ///< folder and name of the last recording, "<folder>/data.csv"
 
 } // namespace settings_keys

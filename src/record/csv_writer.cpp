@@ -183,9 +183,9 @@ void CsvWriter::ensureWritableFile(const QDateTime &time, PendingRecordType type
     headerWritten(type) = true;
 }
 
-QString CsvWriter::pathOf(const QDateTime &start) const
+QString CsvWriter::pathOf(const QString &basePath, const QDateTime &start)
 {
-    const QFileInfo base(m_basePath);
+    const QFileInfo base(basePath);
     const QString folder = base.path().isEmpty() ? QDir::currentPath() : base.path();
     const QString stem = base.completeBaseName().isEmpty() ? base.fileName() : base.completeBaseName();
     const QString suffix = base.suffix().isEmpty() ? QStringLiteral("csv") : base.suffix();
@@ -201,10 +201,10 @@ void CsvWriter::openNewFile(const QDateTime &start)
     }
     // An hour that the clock goes through twice would name a file of this recording again and empty it.
     QDateTime nameTime = start;
-    QString path = pathOf(nameTime);
+    QString path = pathOf(m_basePath, nameTime);
     while (m_usedPaths.contains(path)) {
         nameTime = nameTime.addSecs(1);
-        path = pathOf(nameTime);
+        path = pathOf(m_basePath, nameTime);
     }
     m_file = std::make_unique<QFile>(path);
     const bool isOpen = m_file->open(QIODevice::WriteOnly | QIODevice::Truncate);

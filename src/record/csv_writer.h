@@ -56,6 +56,9 @@ public:
     explicit CsvWriter(const QString &basePath, QObject *parent = nullptr);
     ~CsvWriter() override;
 
+    /// Path of the file that a writer made from `basePath` opens at `start`.
+    static QString pathOf(const QString &basePath, const QDateTime &start);
+
     /// Queues the sample of a single module. A full queue (512 records) drops it. Any thread.
     void enqueue91(const node_data_t &node);
     /// Queues a batch of full gateway records, likewise.
@@ -109,7 +112,6 @@ private:
     static void assignSlots(const QList<node_data_t> &nodes, QList<int> &slotMap);
     static void appendGroups(QByteArray &line, const QList<node_data_t> &nodes, QList<int> &slotMap);
 
-    QString pathOf(const QDateTime &start) const;
     bool &headerWritten(PendingRecordType type) { return m_headerWritten[std::size_t(type)]; }
     void writeHeader(const QByteArray &header);
     void writeLine(const QByteArray &line);
