@@ -2,21 +2,70 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP" sourcelanguage="en_US">
 <context>
+    <name>ActionButton</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>CommandSession</name>
     <message>
         <source>The device does not answer. Check the baud rate, then identify it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスが応答しません。ボーレートを確認して、もう一度識別してください。</translation>
     </message>
     <message>
         <source>The device refused %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスが %1 を受け付けませんでした。</translation>
     </message>
     <message>
         <source>The settings were sent and the device has restarted.</source>
-        <translation type="unfinished"></translation>
+        <translation>設定を送信し、デバイスが再起動しました。</translation>
     </message>
     <message>
         <source>(no reply)</source>
+        <translation>（応答なし）</translation>
+    </message>
+</context>
+<context>
+    <name>GatewayDashboardBridge</name>
+    <message>
+        <source>%1 nodes, %2 late, %3 gone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Node %1 · %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wireless Gateway Dashboard</source>
+        <translation>無線ゲートウェイダッシュボード</translation>
+    </message>
+</context>
+<context>
+    <name>GatewayNodeModel</name>
+    <message>
+        <source>Live</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Late</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 min</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -24,62 +73,66 @@
     <name>SensorDashboardBridge</name>
     <message>
         <source>Acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>加速度</translation>
     </message>
     <message>
         <source>Angular Velocity</source>
-        <translation type="unfinished"></translation>
+        <translation>角速度</translation>
     </message>
     <message>
         <source>Magnetic Field</source>
-        <translation type="unfinished"></translation>
+        <translation>磁場</translation>
     </message>
     <message>
         <source>Euler Angles</source>
-        <translation type="unfinished"></translation>
+        <translation>オイラー角</translation>
     </message>
     <message>
         <source>Quaternion</source>
-        <translation type="unfinished"></translation>
+        <translation>クォータニオン</translation>
     </message>
     <message>
         <source>Pressure</source>
-        <translation type="unfinished"></translation>
+        <translation>気圧</translation>
+    </message>
+    <message>
+        <source>Sensor Dashboard</source>
+        <translation>センサーダッシュボード</translation>
     </message>
 </context>
 <context>
     <name>SensorDataPanel</name>
     <message>
         <source>Acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>加速度</translation>
     </message>
     <message>
         <source>Angular rate</source>
-        <translation type="unfinished"></translation>
+        <translation>角速度</translation>
     </message>
     <message>
         <source>Magnetic field</source>
-        <translation type="unfinished"></translation>
+        <translation>磁場</translation>
     </message>
     <message>
         <source>Quaternion</source>
-        <translation type="unfinished"></translation>
+        <translation>クォータニオン</translation>
     </message>
     <message>
         <source>Node</source>
-        <translation type="unfinished"></translation>
+        <translation>ノード</translation>
     </message>
     <message>
         <source>Device time</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイス時間</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>温度</translation>
     </message>
     <message>
         <source>Pressure</source>
-        <translation type="unfinished"></translation>
+        <translation>気圧</translation>
     </message>
 </context>
 <context>
@@ -87,427 +140,620 @@
     <message>
         <source>N</source>
         <comment>north</comment>
-        <translation type="unfinished"></translation>
+        <translation>北</translation>
     </message>
     <message>
         <source>E</source>
         <comment>east</comment>
-        <translation type="unfinished"></translation>
+        <translation>東</translation>
     </message>
     <message>
         <source>S</source>
         <comment>south</comment>
-        <translation type="unfinished"></translation>
+        <translation>南</translation>
     </message>
     <message>
         <source>W</source>
         <comment>west</comment>
-        <translation type="unfinished"></translation>
+        <translation>西</translation>
     </message>
     <message>
         <source>Attitude indicator</source>
-        <translation type="unfinished"></translation>
+        <translation>姿勢指示器</translation>
     </message>
     <message>
         <source>No attitude</source>
-        <translation type="unfinished"></translation>
+        <translation>姿勢データなし</translation>
     </message>
 </context>
 <context>
     <name>WaveChartBridge</name>
     <message>
         <source>Acceleration (G)</source>
-        <translation type="unfinished"></translation>
+        <translation>加速度 (G)</translation>
     </message>
     <message>
         <source>Angular Velocity (°/s)</source>
-        <translation type="unfinished"></translation>
+        <translation>角速度 (°/s)</translation>
     </message>
     <message>
         <source>Magnetic Field (μT)</source>
-        <translation type="unfinished"></translation>
+        <translation>磁場 (μT)</translation>
     </message>
     <message>
         <source>Euler Angles (°)</source>
-        <translation type="unfinished"></translation>
+        <translation>オイラー角 (°)</translation>
     </message>
     <message>
         <source>Quaternion (Norm)</source>
-        <translation type="unfinished"></translation>
+        <translation>クォータニオン (正規化)</translation>
     </message>
     <message>
         <source>Pressure (Pa)</source>
-        <translation type="unfinished"></translation>
+        <translation>気圧 (Pa)</translation>
+    </message>
+    <message>
+        <source>The cutoff frequency must be above 0 Hz.</source>
+        <translation>カットオフ周波数には 0 Hz より大きい値を指定してください。</translation>
+    </message>
+    <message>
+        <source>The cutoff frequency is too low for %1 samples per second.</source>
+        <translation>サンプリング周波数 %1 Hz に対して、カットオフ周波数が低すぎます。</translation>
     </message>
 </context>
 <context>
     <name>form_about</name>
     <message>
         <source>About ORVEL-IMU</source>
-        <translation type="unfinished"></translation>
+        <translation>ORVEL-IMU のバージョン情報</translation>
     </message>
     <message>
         <source>KVCenter shows the data of inertial measurement units on a serial line and sets the units up.</source>
-        <translation type="unfinished"></translation>
+        <translation>KVCenter は、シリアル接続した慣性計測装置 (IMU) のデータを表示し、装置の設定を行います。</translation>
     </message>
     <message>
         <source>Toolkit</source>
-        <translation type="unfinished"></translation>
+        <translation>ツールキット</translation>
     </message>
     <message>
         <source>Settings and logs</source>
-        <translation type="unfinished"></translation>
+        <translation>設定とログ</translation>
     </message>
     <message>
         <source>Folder of settings and logs</source>
-        <translation type="unfinished"></translation>
+        <translation>設定とログのフォルダー</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Qt %1 (licence: GNU LGPL, version 3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Qt %1 (ライセンス: GNU LGPL バージョン 3)</translation>
     </message>
 </context>
 <context>
     <name>form_base</name>
     <message>
         <source>No device connected</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスが接続されていません</translation>
     </message>
     <message>
         <source>Open port...</source>
-        <translation type="unfinished"></translation>
+        <translation>ポートを開く...</translation>
     </message>
     <message>
         <source>No hardware at hand? The simulator kv_simulator behaves like a device and prints the path of the port to open.</source>
-        <translation type="unfinished"></translation>
+        <translation>実機がない場合は、シミュレーター kv_simulator を使用できます。デバイスと同じように動作し、開くべきポートのパスを表示します。</translation>
     </message>
     <message>
         <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>接続</translation>
     </message>
     <message>
         <source>Device</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイス</translation>
     </message>
     <message>
         <source>Product</source>
-        <translation type="unfinished"></translation>
+        <translation>製品</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>モデル</translation>
     </message>
     <message>
         <source>Build</source>
-        <translation type="unfinished"></translation>
+        <translation>ビルド</translation>
     </message>
     <message>
         <source>UUID</source>
-        <translation type="unfinished"></translation>
+        <translation>UUID</translation>
     </message>
     <message>
         <source>&amp;Mounting</source>
-        <translation type="unfinished"></translation>
+        <translation>取り付け(&amp;M)</translation>
     </message>
     <message>
         <source>How the device is mounted; remembered for each product</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスの取り付け方向（製品ごとに記憶されます）</translation>
     </message>
     <message>
         <source>RFU / ENU (3-1-2)</source>
-        <translation type="unfinished"></translation>
+        <translation>RFU / ENU (3-1-2)</translation>
     </message>
     <message>
         <source>FLU / NWU (Z-Y-X)</source>
-        <translation type="unfinished"></translation>
+        <translation>FLU / NWU (Z-Y-X)</translation>
     </message>
     <message>
         <source>Nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>ノード</translation>
     </message>
     <message>
         <source>The node whose values are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>値を表示するノード</translation>
     </message>
     <message>
         <source>Attitude</source>
-        <translation type="unfinished"></translation>
+        <translation>姿勢</translation>
     </message>
     <message>
         <source>&amp;Serial</source>
-        <translation type="unfinished"></translation>
+        <translation>シリアル(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>表示(&amp;V)</translation>
     </message>
     <message>
         <source>&amp;Font size</source>
-        <translation type="unfinished"></translation>
+        <translation>文字サイズ(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>ツール(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>ヘルプ(&amp;H)</translation>
     </message>
     <message>
         <source>Toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>ツールバー</translation>
     </message>
     <message>
         <source>&amp;Open port...</source>
-        <translation type="unfinished"></translation>
+        <translation>ポートを開く(&amp;O)...</translation>
     </message>
     <message>
         <source>Ctrl+O</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+O</translation>
     </message>
     <message>
         <source>&amp;Close port</source>
-        <translation type="unfinished"></translation>
+        <translation>ポートを閉じる(&amp;C)</translation>
     </message>
     <message>
         <source>Ctrl+W</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+W</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>終了(&amp;Q)</translation>
     </message>
     <message>
         <source>Ctrl+Q</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Q</translation>
     </message>
     <message>
         <source>&amp;Spectrum</source>
-        <translation type="unfinished"></translation>
+        <translation>スペクトル(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;3D view</source>
-        <translation type="unfinished"></translation>
+        <translation>3D ビュー(&amp;3)</translation>
     </message>
     <message>
         <source>&amp;Copy values</source>
-        <translation type="unfinished"></translation>
+        <translation>値をコピー(&amp;C)</translation>
     </message>
     <message>
         <source>Ctrl+Shift+C</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Shift+C</translation>
     </message>
     <message>
         <source>Copy all values of the selected node to the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>選択したノードのすべての値をクリップボードにコピーします</translation>
     </message>
     <message>
         <source>&amp;Small</source>
-        <translation type="unfinished"></translation>
+        <translation>小(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Medium</source>
-        <translation type="unfinished"></translation>
+        <translation>中(&amp;M)</translation>
     </message>
     <message>
         <source>&amp;Big</source>
-        <translation type="unfinished"></translation>
+        <translation>大(&amp;B)</translation>
     </message>
     <message>
         <source>&amp;Record...</source>
-        <translation type="unfinished"></translation>
+        <translation>記録(&amp;R)...</translation>
     </message>
     <message>
         <source>&amp;Device settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイス設定(&amp;D)...</translation>
     </message>
     <message>
         <source>Ctrl+E</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+E</translation>
     </message>
     <message>
         <source>Identify and configure the device (Ctrl+E)</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスを識別して設定します (Ctrl+E)</translation>
     </message>
     <message>
         <source>&amp;Firmware update...</source>
-        <translation type="unfinished"></translation>
+        <translation>ファームウェア更新(&amp;F)...</translation>
     </message>
     <message>
         <source>&amp;About</source>
-        <translation type="unfinished"></translation>
+        <translation>バージョン情報(&amp;A)</translation>
     </message>
     <message>
         <source>Unconnected...</source>
-        <translation type="unfinished"></translation>
+        <translation>未接続...</translation>
     </message>
     <message>
         <source>Roll</source>
-        <translation type="unfinished"></translation>
+        <translation>ロール</translation>
     </message>
     <message>
         <source>Pitch</source>
-        <translation type="unfinished"></translation>
+        <translation>ピッチ</translation>
     </message>
     <message>
         <source>Yaw</source>
-        <translation type="unfinished"></translation>
+        <translation>ヨー</translation>
     </message>
     <message>
         <source>Sensor Dashboard</source>
-        <translation type="unfinished"></translation>
+        <translation>センサーダッシュボード</translation>
     </message>
     <message>
         <source>Waveforms come with a later version.</source>
-        <translation type="unfinished"></translation>
+        <translation>波形表示は今後のバージョンで追加されます。</translation>
     </message>
     <message>
         <source>Wireless Gateway Dashboard</source>
-        <translation type="unfinished"></translation>
+        <translation>無線ゲートウェイダッシュボード</translation>
     </message>
     <message>
         <source>The dashboard of radio nodes comes with a later version.</source>
-        <translation type="unfinished"></translation>
+        <translation>無線ノードのダッシュボードは今後のバージョンで追加されます。</translation>
     </message>
     <message>
         <source>Waves</source>
-        <translation type="unfinished"></translation>
+        <translation>波形</translation>
     </message>
     <message>
         <source>Gateway</source>
-        <translation type="unfinished"></translation>
+        <translation>ゲートウェイ</translation>
     </message>
     <message>
         <source>The spectrum comes with a later version.</source>
-        <translation type="unfinished"></translation>
+        <translation>スペクトル表示は今後のバージョンで追加されます。</translation>
     </message>
     <message>
         <source>The 3D view comes with a later version.</source>
-        <translation type="unfinished"></translation>
+        <translation>3D ビューは今後のバージョンで追加されます。</translation>
     </message>
     <message>
         <source>Recording comes with a later version.</source>
-        <translation type="unfinished"></translation>
+        <translation>記録機能は今後のバージョンで追加されます。</translation>
     </message>
     <message>
         <source>The firmware update comes with a later version.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファームウェア更新は今後のバージョンで追加されます。</translation>
     </message>
     <message>
         <source>Other languages come with a later version.</source>
-        <translation type="unfinished"></translation>
+        <translation>ほかの言語は今後のバージョンで追加されます。</translation>
     </message>
     <message>
         <source>Choose a serial port and connect (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>シリアルポートを選択して接続します (%1)</translation>
     </message>
     <message>
         <source>Close the serial port (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>シリアルポートを閉じます (%1)</translation>
     </message>
     <message>
         <source>Plug in a module or a gateway, press &lt;b&gt;Open port&lt;/b&gt; (%1) and choose its serial port.</source>
-        <translation type="unfinished"></translation>
+        <translation>モジュールまたはゲートウェイを接続し、&lt;b&gt;ポートを開く&lt;/b&gt; (%1) を押して、そのシリアルポートを選択してください。</translation>
     </message>
     <message>
         <source>The folder %1 cannot be written: settings and logs of this run are not kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダー %1 に書き込めないため、今回の設定とログは保存されません。</translation>
     </message>
     <message>
         <source>Connecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>接続中...</translation>
     </message>
     <message>
         <source>Connected... %1, %2 baud</source>
-        <translation type="unfinished"></translation>
+        <translation>接続済み... %1、%2 baud</translation>
     </message>
     <message>
         <source>Open Serial Port Error.</source>
-        <translation type="unfinished"></translation>
+        <translation>シリアルポートを開けませんでした。</translation>
     </message>
     <message>
         <source>Node ID:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>ノード ID:%1</translation>
     </message>
 </context>
 <context>
     <name>form_com_select</name>
     <message>
         <source>Open serial port</source>
-        <translation type="unfinished"></translation>
+        <translation>シリアルポートを開く</translation>
     </message>
     <message>
         <source>&amp;Serial ports</source>
-        <translation type="unfinished"></translation>
+        <translation>シリアルポート(&amp;S)</translation>
     </message>
     <message>
         <source>Serial ports</source>
-        <translation type="unfinished"></translation>
+        <translation>シリアルポート</translation>
     </message>
     <message>
         <source>Port</source>
-        <translation type="unfinished"></translation>
+        <translation>ポート</translation>
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>説明</translation>
     </message>
     <message>
         <source>Maker</source>
-        <translation type="unfinished"></translation>
+        <translation>メーカー</translation>
     </message>
     <message>
         <source>Serial number</source>
-        <translation type="unfinished"></translation>
+        <translation>シリアル番号</translation>
     </message>
     <message>
         <source>No serial port found</source>
-        <translation type="unfinished"></translation>
+        <translation>シリアルポートが見つかりません</translation>
     </message>
     <message>
         <source>Plug the device in: it appears here by itself.
 
 To try the program without a device, start the simulator in a terminal with ./run or kv_simulator. It prints a path: type that below.</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスを接続すると、ここに自動的に表示されます。
+
+デバイスなしで試すには、ターミナルで ./run または kv_simulator を実行してシミュレーターを起動し、表示されたパスを下に入力してください。</translation>
     </message>
     <message>
         <source>&amp;Port or path</source>
-        <translation type="unfinished"></translation>
+        <translation>ポートまたはパス(&amp;P)</translation>
     </message>
     <message>
         <source>A port of the list, or a path typed by hand: a pseudo-terminal or a link to a device file</source>
-        <translation type="unfinished"></translation>
+        <translation>一覧のポート、または直接入力したパス（疑似端末やデバイスファイルへのリンク）</translation>
     </message>
     <message>
         <source>&amp;Baud rate</source>
-        <translation type="unfinished"></translation>
+        <translation>ボーレート(&amp;B)</translation>
     </message>
     <message>
         <source>Bits per second, as set in the device</source>
-        <translation type="unfinished"></translation>
+        <translation>1 秒あたりのビット数（デバイスの設定と同じ値）</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>開く(&amp;O)</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>Choose a port or type its path.</source>
-        <translation type="unfinished"></translation>
+        <translation>ポートを選択するか、パスを入力してください。</translation>
     </message>
     <message>
         <source>%1 is not there at the moment. Plug the device in, or choose another port.</source>
-        <translation type="unfinished"></translation>
+        <translation>現在 %1 は見つかりません。デバイスを接続するか、別のポートを選択してください。</translation>
     </message>
     <message>
         <source>%1 is not a serial port.</source>
+        <translation>%1 はシリアルポートではありません。</translation>
+    </message>
+</context>
+<context>
+    <name>form_record</name>
+    <message>
+        <source>Record to file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Elapsed time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Records</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Free on disk</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show in f&amp;older</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens the folder of the recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type a name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is too long.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A name cannot hold any of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is reserved by some systems. Choose another one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder for recordings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing is connected: open a serial port first.</source>
+        <translation>何も接続されていません。先にシリアルポートを開いてください。</translation>
+    </message>
+    <message>
+        <source>Choose a folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Stop recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Start recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes what has arrived and closes the file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes every sample that arrives into a file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recording ended: the port was closed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recording stopped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recording goes on when this window is closed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop the recording to change this</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This folder was created for the recording.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This folder does not exist yet: starting creates it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved as %1; a new file begins every hour.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 records/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, enough for days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, enough for %2 h</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, enough for %2 min</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is a file, not a folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be created. Choose another one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The disk is too slow. Records dropped: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file cannot be written: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Records that could not be written: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has been deleted or moved. Stop and start again to record into a new file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The disk is nearly full.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -515,185 +761,208 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <name>form_settings</name>
     <message>
         <source>Device settings</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイス設定</translation>
     </message>
     <message>
         <source>Product</source>
-        <translation type="unfinished"></translation>
+        <translation>製品</translation>
     </message>
     <message>
         <source>&amp;Identify</source>
-        <translation type="unfinished"></translation>
+        <translation>識別(&amp;I)</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>モデル</translation>
     </message>
     <message>
         <source>Build</source>
-        <translation type="unfinished"></translation>
+        <translation>ビルド</translation>
     </message>
     <message>
         <source>&amp;Module</source>
-        <translation type="unfinished"></translation>
+        <translation>モジュール(&amp;M)</translation>
     </message>
     <message>
         <source>&amp;Node ID</source>
-        <translation type="unfinished"></translation>
+        <translation>ノード ID(&amp;N)</translation>
     </message>
     <message>
         <source>Choose</source>
-        <translation type="unfinished"></translation>
+        <translation>選択</translation>
     </message>
     <message>
         <source>Number of the module in a radio network, 0 to 255</source>
-        <translation type="unfinished"></translation>
+        <translation>無線ネットワーク内のモジュール番号 (0～255)</translation>
     </message>
     <message>
         <source>Output &amp;rate (Hz)</source>
-        <translation type="unfinished"></translation>
+        <translation>出力レート (Hz)(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Attitude mode</source>
-        <translation type="unfinished"></translation>
+        <translation>姿勢モード(&amp;A)</translation>
     </message>
     <message>
         <source>0: 6-axis, without magnetometer</source>
-        <translation type="unfinished"></translation>
+        <translation>0: 6 軸（磁気センサーなし）</translation>
     </message>
     <message>
         <source>1: 9-axis, with magnetometer</source>
-        <translation type="unfinished"></translation>
+        <translation>1: 9 軸（磁気センサーあり）</translation>
     </message>
     <message>
         <source>Leave as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>変更しない</translation>
     </message>
     <message>
         <source>Which settings can be changed depends on the device. Connect it and identify it.</source>
-        <translation type="unfinished"></translation>
+        <translation>変更できる設定はデバイスによって異なります。デバイスを接続して識別してください。</translation>
     </message>
     <message>
         <source>&amp;Save to device</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスに保存(&amp;S)</translation>
     </message>
     <message>
         <source>C&amp;ommands</source>
-        <translation type="unfinished"></translation>
+        <translation>コマンド(&amp;O)</translation>
     </message>
     <message>
         <source>Sent and received</source>
-        <translation type="unfinished"></translation>
+        <translation>送受信</translation>
     </message>
     <message>
         <source>&amp;Copy log</source>
-        <translation type="unfinished"></translation>
+        <translation>ログをコピー(&amp;C)</translation>
     </message>
     <message>
         <source>Nothing sent yet</source>
-        <translation type="unfinished"></translation>
+        <translation>まだ何も送信していません</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる(&amp;L)</translation>
     </message>
     <message>
         <source>Read info</source>
-        <translation type="unfinished"></translation>
+        <translation>情報を読み出す</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>リセット</translation>
     </message>
     <message>
         <source>Stop output</source>
-        <translation type="unfinished"></translation>
+        <translation>出力を停止</translation>
     </message>
     <message>
         <source>Resume output</source>
-        <translation type="unfinished"></translation>
+        <translation>出力を再開</translation>
     </message>
     <message>
         <source>Save config</source>
-        <translation type="unfinished"></translation>
+        <translation>設定を保存</translation>
     </message>
     <message>
         <source>Log COM config</source>
-        <translation type="unfinished"></translation>
+        <translation>COM 設定を出力</translation>
     </message>
     <message>
         <source>Log user config</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザー設定を出力</translation>
     </message>
     <message>
         <source>Log disable</source>
-        <translation type="unfinished"></translation>
+        <translation>ログを無効化</translation>
     </message>
     <message>
         <source>Reboot</source>
-        <translation type="unfinished"></translation>
+        <translation>再起動</translation>
     </message>
     <message>
         <source>No device identified</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスは未識別です</translation>
     </message>
     <message>
         <source>Saving does not change the rate of this device.</source>
-        <translation type="unfinished"></translation>
+        <translation>このデバイスの出力レートは、保存しても変わりません。</translation>
     </message>
     <message>
         <source>Nothing is connected: open a serial port first.</source>
-        <translation type="unfinished"></translation>
+        <translation>何も接続されていません。先にシリアルポートを開いてください。</translation>
     </message>
     <message>
         <source>Waiting for the device: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスの応答待ち: %1</translation>
     </message>
     <message>
         <source>Identify the device first.</source>
-        <translation type="unfinished"></translation>
+        <translation>先にデバイスを識別してください。</translation>
     </message>
     <message>
         <source>Choose a node ID first.</source>
-        <translation type="unfinished"></translation>
+        <translation>先にノード ID を選択してください。</translation>
     </message>
     <message>
         <source>Choose an output rate first.</source>
-        <translation type="unfinished"></translation>
+        <translation>先に出力レートを選択してください。</translation>
     </message>
     <message>
         <source>Sends %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 を送信します</translation>
     </message>
     <message>
         <source>Stops the output, reads what the device is and resumes the output</source>
-        <translation type="unfinished"></translation>
+        <translation>出力を停止してデバイスの情報を読み出し、出力を再開します</translation>
     </message>
     <message>
         <source>Writes these settings and restarts the device</source>
-        <translation type="unfinished"></translation>
+        <translation>これらの設定を書き込み、デバイスを再起動します</translation>
     </message>
     <message>
         <source>Saving restarts the device; this takes 2 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>保存するとデバイスが再起動します（所要時間 2 秒）。</translation>
     </message>
 </context>
 <context>
     <name>port_choice</name>
     <message>
         <source>Enter a baud rate.</source>
-        <translation type="unfinished"></translation>
+        <translation>ボーレートを入力してください。</translation>
     </message>
     <message>
         <source>Enter a whole number, such as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 のような整数を入力してください。</translation>
     </message>
     <message>
         <source>Too low: the lowest rate is %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>値が小さすぎます。下限は %1 です。</translation>
     </message>
     <message>
         <source>Too high: the highest rate is %1.</source>
+        <translation>値が大きすぎます。上限は %1 です。</translation>
+    </message>
+</context>
+<context>
+    <name>product_profile</name>
+    <message>
+        <source>Legacy Wireless Gateway (0x62/0x63)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown Legacy Device</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown Mz14 Device</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown Wireless Gateway (0x62/0x63)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown Device</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -701,109 +970,112 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <name>serial_error_text</name>
     <message>
         <source>You are not allowed to open %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 を開く権限がありません。</translation>
     </message>
     <message>
         <source>Ask the administrator of this computer for access.</source>
-        <translation type="unfinished"></translation>
+        <translation>このコンピューターの管理者にアクセス権を依頼してください。</translation>
     </message>
     <message>
         <source>Run &quot;%1&quot; in a terminal, then log out and in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>ターミナルで「%1」を実行し、いったんログアウトしてから、もう一度ログインしてください。</translation>
     </message>
     <message>
         <source>The connection to %1 was lost: the device was unplugged or switched off. Check the cable, then open the port again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 との接続が切れました。デバイスが取り外されたか、電源が切れています。ケーブルを確認して、もう一度ポートを開いてください。</translation>
     </message>
     <message>
         <source>%1 is not there. Check the cable and that the device is switched on.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 が見つかりません。ケーブルと、デバイスの電源が入っていることを確認してください。</translation>
     </message>
     <message>
         <source>Another program uses %1. Close it and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 は別のプログラムで使用中です。そのプログラムを終了して、もう一度お試しください。</translation>
     </message>
     <message>
         <source>%1 is open already.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 はすでに開いています。</translation>
     </message>
     <message>
         <source>%1 is not a serial port, or it does not support %2 baud. Choose another port or baud rate.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 はシリアルポートではないか、%2 baud に対応していません。別のポートまたはボーレートを選択してください。</translation>
     </message>
     <message>
         <source>%1 cannot be used (error %2). Unplug the device, plug it in again and retry.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 を使用できません（エラー %2）。デバイスをいったん取り外し、接続し直してから、もう一度お試しください。</translation>
     </message>
 </context>
 <context>
     <name>status_text</name>
     <message>
         <source>Unconnected...</source>
-        <translation type="unfinished"></translation>
+        <translation>未接続...</translation>
     </message>
     <message>
         <source>Connected...</source>
-        <translation type="unfinished"></translation>
+        <translation>接続済み...</translation>
     </message>
     <message>
         <source>Using fallback product profile.</source>
-        <translation type="unfinished"></translation>
+        <translation>代替の製品プロファイルを使用しています。</translation>
     </message>
     <message>
         <source>Product info deferred during live stream.</source>
-        <translation type="unfinished"></translation>
+        <translation>データ受信中のため、製品情報の取得を保留しています。</translation>
     </message>
     <message>
         <source>Product info pending...</source>
-        <translation type="unfinished"></translation>
+        <translation>製品情報を取得中...</translation>
     </message>
     <message>
         <source>Single node (0x%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>単一ノード (0x%1)</translation>
     </message>
     <message>
         <source>Gateway (0x%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>ゲートウェイ (0x%1)</translation>
     </message>
     <message>
         <source>Items %1</source>
-        <translation type="unfinished"></translation>
+        <translation>項目 %1</translation>
     </message>
     <message>
         <source>Connected.
 No frame stream detected.</source>
-        <translation type="unfinished"></translation>
+        <translation>接続しました。
+フレームが検出されません。</translation>
     </message>
     <message>
         <source>Building connection...</source>
-        <translation type="unfinished"></translation>
+        <translation>接続を確立しています...</translation>
     </message>
     <message>
         <source>[Serial]
 %1 %2
 </source>
-        <translation type="unfinished"></translation>
+        <translation>[シリアル]
+%1 %2
+</translation>
     </message>
     <message>
         <source>Protocol:</source>
-        <translation type="unfinished"></translation>
+        <translation>プロトコル:</translation>
     </message>
     <message>
         <source>FrameRate:</source>
-        <translation type="unfinished"></translation>
+        <translation>フレームレート:</translation>
     </message>
     <message>
         <source>Wireless</source>
-        <translation type="unfinished"></translation>
+        <translation>無線</translation>
     </message>
     <message>
         <source>DONGLE ID</source>
-        <translation type="unfinished"></translation>
+        <translation>ドングル ID</translation>
     </message>
     <message>
         <source>TOTAL OF NODE</source>
-        <translation type="unfinished"></translation>
+        <translation>ノード総数</translation>
     </message>
 </context>
 </TS>

@@ -2,21 +2,70 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko_KR" sourcelanguage="en_US">
 <context>
+    <name>ActionButton</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>CommandSession</name>
     <message>
         <source>The device does not answer. Check the baud rate, then identify it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>장치가 응답하지 않습니다. 보드 레이트를 확인한 다음 다시 식별하십시오.</translation>
     </message>
     <message>
         <source>The device refused %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>장치가 명령을 거부했습니다: %1.</translation>
     </message>
     <message>
         <source>The settings were sent and the device has restarted.</source>
-        <translation type="unfinished"></translation>
+        <translation>설정을 전송했으며 장치가 다시 시작되었습니다.</translation>
     </message>
     <message>
         <source>(no reply)</source>
+        <translation>(응답 없음)</translation>
+    </message>
+</context>
+<context>
+    <name>GatewayDashboardBridge</name>
+    <message>
+        <source>%1 nodes, %2 late, %3 gone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Node %1 · %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wireless Gateway Dashboard</source>
+        <translation>무선 게이트웨이 대시보드</translation>
+    </message>
+</context>
+<context>
+    <name>GatewayNodeModel</name>
+    <message>
+        <source>Live</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Late</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 min</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -24,62 +73,66 @@
     <name>SensorDashboardBridge</name>
     <message>
         <source>Acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>가속도</translation>
     </message>
     <message>
         <source>Angular Velocity</source>
-        <translation type="unfinished"></translation>
+        <translation>각속도</translation>
     </message>
     <message>
         <source>Magnetic Field</source>
-        <translation type="unfinished"></translation>
+        <translation>자기장</translation>
     </message>
     <message>
         <source>Euler Angles</source>
-        <translation type="unfinished"></translation>
+        <translation>오일러 각</translation>
     </message>
     <message>
         <source>Quaternion</source>
-        <translation type="unfinished"></translation>
+        <translation>쿼터니언</translation>
     </message>
     <message>
         <source>Pressure</source>
-        <translation type="unfinished"></translation>
+        <translation>기압</translation>
+    </message>
+    <message>
+        <source>Sensor Dashboard</source>
+        <translation>센서 대시보드</translation>
     </message>
 </context>
 <context>
     <name>SensorDataPanel</name>
     <message>
         <source>Acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>가속도</translation>
     </message>
     <message>
         <source>Angular rate</source>
-        <translation type="unfinished"></translation>
+        <translation>각속도</translation>
     </message>
     <message>
         <source>Magnetic field</source>
-        <translation type="unfinished"></translation>
+        <translation>자기장</translation>
     </message>
     <message>
         <source>Quaternion</source>
-        <translation type="unfinished"></translation>
+        <translation>쿼터니언</translation>
     </message>
     <message>
         <source>Node</source>
-        <translation type="unfinished"></translation>
+        <translation>노드</translation>
     </message>
     <message>
         <source>Device time</source>
-        <translation type="unfinished"></translation>
+        <translation>장치 시간</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>온도</translation>
     </message>
     <message>
         <source>Pressure</source>
-        <translation type="unfinished"></translation>
+        <translation>기압</translation>
     </message>
 </context>
 <context>
@@ -87,427 +140,620 @@
     <message>
         <source>N</source>
         <comment>north</comment>
-        <translation type="unfinished"></translation>
+        <translation>북</translation>
     </message>
     <message>
         <source>E</source>
         <comment>east</comment>
-        <translation type="unfinished"></translation>
+        <translation>동</translation>
     </message>
     <message>
         <source>S</source>
         <comment>south</comment>
-        <translation type="unfinished"></translation>
+        <translation>남</translation>
     </message>
     <message>
         <source>W</source>
         <comment>west</comment>
-        <translation type="unfinished"></translation>
+        <translation>서</translation>
     </message>
     <message>
         <source>Attitude indicator</source>
-        <translation type="unfinished"></translation>
+        <translation>자세 지시계</translation>
     </message>
     <message>
         <source>No attitude</source>
-        <translation type="unfinished"></translation>
+        <translation>자세 데이터 없음</translation>
     </message>
 </context>
 <context>
     <name>WaveChartBridge</name>
     <message>
         <source>Acceleration (G)</source>
-        <translation type="unfinished"></translation>
+        <translation>가속도 (G)</translation>
     </message>
     <message>
         <source>Angular Velocity (°/s)</source>
-        <translation type="unfinished"></translation>
+        <translation>각속도 (°/s)</translation>
     </message>
     <message>
         <source>Magnetic Field (μT)</source>
-        <translation type="unfinished"></translation>
+        <translation>자기장 (μT)</translation>
     </message>
     <message>
         <source>Euler Angles (°)</source>
-        <translation type="unfinished"></translation>
+        <translation>오일러 각 (°)</translation>
     </message>
     <message>
         <source>Quaternion (Norm)</source>
-        <translation type="unfinished"></translation>
+        <translation>쿼터니언 (정규화)</translation>
     </message>
     <message>
         <source>Pressure (Pa)</source>
-        <translation type="unfinished"></translation>
+        <translation>기압 (Pa)</translation>
+    </message>
+    <message>
+        <source>The cutoff frequency must be above 0 Hz.</source>
+        <translation>차단 주파수는 0 Hz보다 커야 합니다.</translation>
+    </message>
+    <message>
+        <source>The cutoff frequency is too low for %1 samples per second.</source>
+        <translation>차단 주파수가 샘플링 주파수 %1 Hz에 비해 너무 낮습니다.</translation>
     </message>
 </context>
 <context>
     <name>form_about</name>
     <message>
         <source>About ORVEL-IMU</source>
-        <translation type="unfinished"></translation>
+        <translation>ORVEL-IMU 정보</translation>
     </message>
     <message>
         <source>KVCenter shows the data of inertial measurement units on a serial line and sets the units up.</source>
-        <translation type="unfinished"></translation>
+        <translation>KVCenter는 시리얼로 연결된 관성 측정 장치(IMU)의 데이터를 표시하고 장치를 설정합니다.</translation>
     </message>
     <message>
         <source>Toolkit</source>
-        <translation type="unfinished"></translation>
+        <translation>툴킷</translation>
     </message>
     <message>
         <source>Settings and logs</source>
-        <translation type="unfinished"></translation>
+        <translation>설정 및 로그</translation>
     </message>
     <message>
         <source>Folder of settings and logs</source>
-        <translation type="unfinished"></translation>
+        <translation>설정 및 로그 폴더</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>확인</translation>
     </message>
     <message>
         <source>Qt %1 (licence: GNU LGPL, version 3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Qt %1(라이선스: GNU LGPL 버전 3)</translation>
     </message>
 </context>
 <context>
     <name>form_base</name>
     <message>
         <source>No device connected</source>
-        <translation type="unfinished"></translation>
+        <translation>연결된 장치 없음</translation>
     </message>
     <message>
         <source>Open port...</source>
-        <translation type="unfinished"></translation>
+        <translation>포트 열기...</translation>
     </message>
     <message>
         <source>No hardware at hand? The simulator kv_simulator behaves like a device and prints the path of the port to open.</source>
-        <translation type="unfinished"></translation>
+        <translation>실제 장치가 없으면 시뮬레이터 kv_simulator를 사용할 수 있습니다. 시뮬레이터는 장치처럼 동작하며 열어야 할 포트의 경로를 출력합니다.</translation>
     </message>
     <message>
         <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>연결</translation>
     </message>
     <message>
         <source>Device</source>
-        <translation type="unfinished"></translation>
+        <translation>장치</translation>
     </message>
     <message>
         <source>Product</source>
-        <translation type="unfinished"></translation>
+        <translation>제품</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>모델</translation>
     </message>
     <message>
         <source>Build</source>
-        <translation type="unfinished"></translation>
+        <translation>빌드</translation>
     </message>
     <message>
         <source>UUID</source>
-        <translation type="unfinished"></translation>
+        <translation>UUID</translation>
     </message>
     <message>
         <source>&amp;Mounting</source>
-        <translation type="unfinished"></translation>
+        <translation>장착 방향(&amp;M)</translation>
     </message>
     <message>
         <source>How the device is mounted; remembered for each product</source>
-        <translation type="unfinished"></translation>
+        <translation>장치의 장착 방향(제품별로 기억됨)</translation>
     </message>
     <message>
         <source>RFU / ENU (3-1-2)</source>
-        <translation type="unfinished"></translation>
+        <translation>RFU / ENU (3-1-2)</translation>
     </message>
     <message>
         <source>FLU / NWU (Z-Y-X)</source>
-        <translation type="unfinished"></translation>
+        <translation>FLU / NWU (Z-Y-X)</translation>
     </message>
     <message>
         <source>Nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>노드</translation>
     </message>
     <message>
         <source>The node whose values are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>값을 표시할 노드</translation>
     </message>
     <message>
         <source>Attitude</source>
-        <translation type="unfinished"></translation>
+        <translation>자세</translation>
     </message>
     <message>
         <source>&amp;Serial</source>
-        <translation type="unfinished"></translation>
+        <translation>시리얼(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>보기(&amp;V)</translation>
     </message>
     <message>
         <source>&amp;Font size</source>
-        <translation type="unfinished"></translation>
+        <translation>글꼴 크기(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>도구(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>도움말(&amp;H)</translation>
     </message>
     <message>
         <source>Toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>도구 모음</translation>
     </message>
     <message>
         <source>&amp;Open port...</source>
-        <translation type="unfinished"></translation>
+        <translation>포트 열기(&amp;O)...</translation>
     </message>
     <message>
         <source>Ctrl+O</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+O</translation>
     </message>
     <message>
         <source>&amp;Close port</source>
-        <translation type="unfinished"></translation>
+        <translation>포트 닫기(&amp;C)</translation>
     </message>
     <message>
         <source>Ctrl+W</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+W</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>종료(&amp;Q)</translation>
     </message>
     <message>
         <source>Ctrl+Q</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Q</translation>
     </message>
     <message>
         <source>&amp;Spectrum</source>
-        <translation type="unfinished"></translation>
+        <translation>스펙트럼(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;3D view</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 보기(&amp;3)</translation>
     </message>
     <message>
         <source>&amp;Copy values</source>
-        <translation type="unfinished"></translation>
+        <translation>값 복사(&amp;C)</translation>
     </message>
     <message>
         <source>Ctrl+Shift+C</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Shift+C</translation>
     </message>
     <message>
         <source>Copy all values of the selected node to the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>선택한 노드의 모든 값을 클립보드에 복사</translation>
     </message>
     <message>
         <source>&amp;Small</source>
-        <translation type="unfinished"></translation>
+        <translation>작게(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Medium</source>
-        <translation type="unfinished"></translation>
+        <translation>보통(&amp;M)</translation>
     </message>
     <message>
         <source>&amp;Big</source>
-        <translation type="unfinished"></translation>
+        <translation>크게(&amp;B)</translation>
     </message>
     <message>
         <source>&amp;Record...</source>
-        <translation type="unfinished"></translation>
+        <translation>기록(&amp;R)...</translation>
     </message>
     <message>
         <source>&amp;Device settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>장치 설정(&amp;D)...</translation>
     </message>
     <message>
         <source>Ctrl+E</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+E</translation>
     </message>
     <message>
         <source>Identify and configure the device (Ctrl+E)</source>
-        <translation type="unfinished"></translation>
+        <translation>장치 식별 및 설정 (Ctrl+E)</translation>
     </message>
     <message>
         <source>&amp;Firmware update...</source>
-        <translation type="unfinished"></translation>
+        <translation>펌웨어 업데이트(&amp;F)...</translation>
     </message>
     <message>
         <source>&amp;About</source>
-        <translation type="unfinished"></translation>
+        <translation>정보(&amp;A)</translation>
     </message>
     <message>
         <source>Unconnected...</source>
-        <translation type="unfinished"></translation>
+        <translation>연결 안 됨...</translation>
     </message>
     <message>
         <source>Roll</source>
-        <translation type="unfinished"></translation>
+        <translation>롤</translation>
     </message>
     <message>
         <source>Pitch</source>
-        <translation type="unfinished"></translation>
+        <translation>피치</translation>
     </message>
     <message>
         <source>Yaw</source>
-        <translation type="unfinished"></translation>
+        <translation>요</translation>
     </message>
     <message>
         <source>Sensor Dashboard</source>
-        <translation type="unfinished"></translation>
+        <translation>센서 대시보드</translation>
     </message>
     <message>
         <source>Waveforms come with a later version.</source>
-        <translation type="unfinished"></translation>
+        <translation>파형 기능은 이후 버전에서 제공됩니다.</translation>
     </message>
     <message>
         <source>Wireless Gateway Dashboard</source>
-        <translation type="unfinished"></translation>
+        <translation>무선 게이트웨이 대시보드</translation>
     </message>
     <message>
         <source>The dashboard of radio nodes comes with a later version.</source>
-        <translation type="unfinished"></translation>
+        <translation>무선 노드 대시보드는 이후 버전에서 제공됩니다.</translation>
     </message>
     <message>
         <source>Waves</source>
-        <translation type="unfinished"></translation>
+        <translation>파형</translation>
     </message>
     <message>
         <source>Gateway</source>
-        <translation type="unfinished"></translation>
+        <translation>게이트웨이</translation>
     </message>
     <message>
         <source>The spectrum comes with a later version.</source>
-        <translation type="unfinished"></translation>
+        <translation>스펙트럼 기능은 이후 버전에서 제공됩니다.</translation>
     </message>
     <message>
         <source>The 3D view comes with a later version.</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 보기는 이후 버전에서 제공됩니다.</translation>
     </message>
     <message>
         <source>Recording comes with a later version.</source>
-        <translation type="unfinished"></translation>
+        <translation>기록 기능은 이후 버전에서 제공됩니다.</translation>
     </message>
     <message>
         <source>The firmware update comes with a later version.</source>
-        <translation type="unfinished"></translation>
+        <translation>펌웨어 업데이트는 이후 버전에서 제공됩니다.</translation>
     </message>
     <message>
         <source>Other languages come with a later version.</source>
-        <translation type="unfinished"></translation>
+        <translation>다른 언어는 이후 버전에서 제공됩니다.</translation>
     </message>
     <message>
         <source>Choose a serial port and connect (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>시리얼 포트를 선택하여 연결 (%1)</translation>
     </message>
     <message>
         <source>Close the serial port (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>시리얼 포트 닫기 (%1)</translation>
     </message>
     <message>
         <source>Plug in a module or a gateway, press &lt;b&gt;Open port&lt;/b&gt; (%1) and choose its serial port.</source>
-        <translation type="unfinished"></translation>
+        <translation>모듈 또는 게이트웨이를 연결하고 &lt;b&gt;포트 열기&lt;/b&gt;(%1)를 누른 다음 해당 시리얼 포트를 선택하십시오.</translation>
     </message>
     <message>
         <source>The folder %1 cannot be written: settings and logs of this run are not kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 폴더에 쓸 수 없어 이번 실행의 설정과 로그가 저장되지 않습니다.</translation>
     </message>
     <message>
         <source>Connecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>연결 중...</translation>
     </message>
     <message>
         <source>Connected... %1, %2 baud</source>
-        <translation type="unfinished"></translation>
+        <translation>연결됨... %1, %2 baud</translation>
     </message>
     <message>
         <source>Open Serial Port Error.</source>
-        <translation type="unfinished"></translation>
+        <translation>시리얼 포트를 열 수 없습니다.</translation>
     </message>
     <message>
         <source>Node ID:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>노드 ID:%1</translation>
     </message>
 </context>
 <context>
     <name>form_com_select</name>
     <message>
         <source>Open serial port</source>
-        <translation type="unfinished"></translation>
+        <translation>시리얼 포트 열기</translation>
     </message>
     <message>
         <source>&amp;Serial ports</source>
-        <translation type="unfinished"></translation>
+        <translation>시리얼 포트(&amp;S)</translation>
     </message>
     <message>
         <source>Serial ports</source>
-        <translation type="unfinished"></translation>
+        <translation>시리얼 포트</translation>
     </message>
     <message>
         <source>Port</source>
-        <translation type="unfinished"></translation>
+        <translation>포트</translation>
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>설명</translation>
     </message>
     <message>
         <source>Maker</source>
-        <translation type="unfinished"></translation>
+        <translation>제조사</translation>
     </message>
     <message>
         <source>Serial number</source>
-        <translation type="unfinished"></translation>
+        <translation>일련번호</translation>
     </message>
     <message>
         <source>No serial port found</source>
-        <translation type="unfinished"></translation>
+        <translation>시리얼 포트를 찾을 수 없음</translation>
     </message>
     <message>
         <source>Plug the device in: it appears here by itself.
 
 To try the program without a device, start the simulator in a terminal with ./run or kv_simulator. It prints a path: type that below.</source>
-        <translation type="unfinished"></translation>
+        <translation>장치를 연결하면 여기에 자동으로 표시됩니다.
+
+장치 없이 프로그램을 사용해 보려면 터미널에서 ./run 또는 kv_simulator를 실행하여 시뮬레이터를 시작하고, 출력된 경로를 아래에 입력하십시오.</translation>
     </message>
     <message>
         <source>&amp;Port or path</source>
-        <translation type="unfinished"></translation>
+        <translation>포트 또는 경로(&amp;P)</translation>
     </message>
     <message>
         <source>A port of the list, or a path typed by hand: a pseudo-terminal or a link to a device file</source>
-        <translation type="unfinished"></translation>
+        <translation>목록의 포트 또는 직접 입력한 경로(의사 터미널이나 장치 파일 링크)</translation>
     </message>
     <message>
         <source>&amp;Baud rate</source>
-        <translation type="unfinished"></translation>
+        <translation>보드 레이트(&amp;B)</translation>
     </message>
     <message>
         <source>Bits per second, as set in the device</source>
-        <translation type="unfinished"></translation>
+        <translation>초당 비트 수(장치에 설정된 값)</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>열기(&amp;O)</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>취소</translation>
     </message>
     <message>
         <source>Choose a port or type its path.</source>
-        <translation type="unfinished"></translation>
+        <translation>포트를 선택하거나 경로를 입력하십시오.</translation>
     </message>
     <message>
         <source>%1 is not there at the moment. Plug the device in, or choose another port.</source>
-        <translation type="unfinished"></translation>
+        <translation>지금은 %1 포트를 찾을 수 없습니다. 장치를 연결하거나 다른 포트를 선택하십시오.</translation>
     </message>
     <message>
         <source>%1 is not a serial port.</source>
+        <translation>시리얼 포트가 아닙니다: %1</translation>
+    </message>
+</context>
+<context>
+    <name>form_record</name>
+    <message>
+        <source>Record to file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Elapsed time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Records</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Free on disk</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show in f&amp;older</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens the folder of the recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type a name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is too long.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A name cannot hold any of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is reserved by some systems. Choose another one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder for recordings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing is connected: open a serial port first.</source>
+        <translation>연결된 장치가 없습니다. 먼저 시리얼 포트를 여십시오.</translation>
+    </message>
+    <message>
+        <source>Choose a folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Stop recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Start recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes what has arrived and closes the file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes every sample that arrives into a file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recording ended: the port was closed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recording stopped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recording goes on when this window is closed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop the recording to change this</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This folder was created for the recording.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This folder does not exist yet: starting creates it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved as %1; a new file begins every hour.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 records/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, enough for days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, enough for %2 h</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, enough for %2 min</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is a file, not a folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be created. Choose another one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The disk is too slow. Records dropped: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file cannot be written: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Records that could not be written: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has been deleted or moved. Stop and start again to record into a new file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The disk is nearly full.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -515,185 +761,208 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <name>form_settings</name>
     <message>
         <source>Device settings</source>
-        <translation type="unfinished"></translation>
+        <translation>장치 설정</translation>
     </message>
     <message>
         <source>Product</source>
-        <translation type="unfinished"></translation>
+        <translation>제품</translation>
     </message>
     <message>
         <source>&amp;Identify</source>
-        <translation type="unfinished"></translation>
+        <translation>식별(&amp;I)</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>모델</translation>
     </message>
     <message>
         <source>Build</source>
-        <translation type="unfinished"></translation>
+        <translation>빌드</translation>
     </message>
     <message>
         <source>&amp;Module</source>
-        <translation type="unfinished"></translation>
+        <translation>모듈(&amp;M)</translation>
     </message>
     <message>
         <source>&amp;Node ID</source>
-        <translation type="unfinished"></translation>
+        <translation>노드 ID(&amp;N)</translation>
     </message>
     <message>
         <source>Choose</source>
-        <translation type="unfinished"></translation>
+        <translation>선택</translation>
     </message>
     <message>
         <source>Number of the module in a radio network, 0 to 255</source>
-        <translation type="unfinished"></translation>
+        <translation>무선 네트워크의 모듈 번호(0~255)</translation>
     </message>
     <message>
         <source>Output &amp;rate (Hz)</source>
-        <translation type="unfinished"></translation>
+        <translation>출력 속도 (Hz)(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Attitude mode</source>
-        <translation type="unfinished"></translation>
+        <translation>자세 모드(&amp;A)</translation>
     </message>
     <message>
         <source>0: 6-axis, without magnetometer</source>
-        <translation type="unfinished"></translation>
+        <translation>0: 6축(자력계 미사용)</translation>
     </message>
     <message>
         <source>1: 9-axis, with magnetometer</source>
-        <translation type="unfinished"></translation>
+        <translation>1: 9축(자력계 사용)</translation>
     </message>
     <message>
         <source>Leave as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>변경 안 함</translation>
     </message>
     <message>
         <source>Which settings can be changed depends on the device. Connect it and identify it.</source>
-        <translation type="unfinished"></translation>
+        <translation>변경할 수 있는 설정은 장치에 따라 다릅니다. 장치를 연결하고 식별하십시오.</translation>
     </message>
     <message>
         <source>&amp;Save to device</source>
-        <translation type="unfinished"></translation>
+        <translation>장치에 저장(&amp;S)</translation>
     </message>
     <message>
         <source>C&amp;ommands</source>
-        <translation type="unfinished"></translation>
+        <translation>명령(&amp;O)</translation>
     </message>
     <message>
         <source>Sent and received</source>
-        <translation type="unfinished"></translation>
+        <translation>송수신</translation>
     </message>
     <message>
         <source>&amp;Copy log</source>
-        <translation type="unfinished"></translation>
+        <translation>로그 복사(&amp;C)</translation>
     </message>
     <message>
         <source>Nothing sent yet</source>
-        <translation type="unfinished"></translation>
+        <translation>아직 전송한 내용 없음</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
-        <translation type="unfinished"></translation>
+        <translation>닫기(&amp;L)</translation>
     </message>
     <message>
         <source>Read info</source>
-        <translation type="unfinished"></translation>
+        <translation>정보 읽기</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>리셋</translation>
     </message>
     <message>
         <source>Stop output</source>
-        <translation type="unfinished"></translation>
+        <translation>출력 중지</translation>
     </message>
     <message>
         <source>Resume output</source>
-        <translation type="unfinished"></translation>
+        <translation>출력 재개</translation>
     </message>
     <message>
         <source>Save config</source>
-        <translation type="unfinished"></translation>
+        <translation>설정 저장</translation>
     </message>
     <message>
         <source>Log COM config</source>
-        <translation type="unfinished"></translation>
+        <translation>COM 설정 출력</translation>
     </message>
     <message>
         <source>Log user config</source>
-        <translation type="unfinished"></translation>
+        <translation>사용자 설정 출력</translation>
     </message>
     <message>
         <source>Log disable</source>
-        <translation type="unfinished"></translation>
+        <translation>로그 해제</translation>
     </message>
     <message>
         <source>Reboot</source>
-        <translation type="unfinished"></translation>
+        <translation>다시 시작</translation>
     </message>
     <message>
         <source>No device identified</source>
-        <translation type="unfinished"></translation>
+        <translation>식별된 장치 없음</translation>
     </message>
     <message>
         <source>Saving does not change the rate of this device.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 장치의 출력 속도는 저장해도 바뀌지 않습니다.</translation>
     </message>
     <message>
         <source>Nothing is connected: open a serial port first.</source>
-        <translation type="unfinished"></translation>
+        <translation>연결된 장치가 없습니다. 먼저 시리얼 포트를 여십시오.</translation>
     </message>
     <message>
         <source>Waiting for the device: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>장치 응답 대기 중: %1</translation>
     </message>
     <message>
         <source>Identify the device first.</source>
-        <translation type="unfinished"></translation>
+        <translation>먼저 장치를 식별하십시오.</translation>
     </message>
     <message>
         <source>Choose a node ID first.</source>
-        <translation type="unfinished"></translation>
+        <translation>먼저 노드 ID를 선택하십시오.</translation>
     </message>
     <message>
         <source>Choose an output rate first.</source>
-        <translation type="unfinished"></translation>
+        <translation>먼저 출력 속도를 선택하십시오.</translation>
     </message>
     <message>
         <source>Sends %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 전송</translation>
     </message>
     <message>
         <source>Stops the output, reads what the device is and resumes the output</source>
-        <translation type="unfinished"></translation>
+        <translation>출력을 중지하고 장치 정보를 읽은 다음 출력을 재개합니다</translation>
     </message>
     <message>
         <source>Writes these settings and restarts the device</source>
-        <translation type="unfinished"></translation>
+        <translation>이 설정을 기록하고 장치를 다시 시작합니다</translation>
     </message>
     <message>
         <source>Saving restarts the device; this takes 2 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>저장하면 장치가 다시 시작됩니다(2초 소요).</translation>
     </message>
 </context>
 <context>
     <name>port_choice</name>
     <message>
         <source>Enter a baud rate.</source>
-        <translation type="unfinished"></translation>
+        <translation>보드 레이트를 입력하십시오.</translation>
     </message>
     <message>
         <source>Enter a whole number, such as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>정수를 입력하십시오(예: %1).</translation>
     </message>
     <message>
         <source>Too low: the lowest rate is %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>값이 너무 작습니다. 최솟값은 %1입니다.</translation>
     </message>
     <message>
         <source>Too high: the highest rate is %1.</source>
+        <translation>값이 너무 큽니다. 최댓값은 %1입니다.</translation>
+    </message>
+</context>
+<context>
+    <name>product_profile</name>
+    <message>
+        <source>Legacy Wireless Gateway (0x62/0x63)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown Legacy Device</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown Mz14 Device</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown Wireless Gateway (0x62/0x63)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown Device</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -701,109 +970,112 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <name>serial_error_text</name>
     <message>
         <source>You are not allowed to open %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 포트를 열 권한이 없습니다.</translation>
     </message>
     <message>
         <source>Ask the administrator of this computer for access.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 컴퓨터의 관리자에게 접근 권한을 요청하십시오.</translation>
     </message>
     <message>
         <source>Run &quot;%1&quot; in a terminal, then log out and in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>터미널에서 &quot;%1&quot; 명령을 실행한 다음 로그아웃했다가 다시 로그인하십시오.</translation>
     </message>
     <message>
         <source>The connection to %1 was lost: the device was unplugged or switched off. Check the cable, then open the port again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 포트와의 연결이 끊어졌습니다. 장치가 분리되었거나 전원이 꺼졌습니다. 케이블을 확인한 다음 포트를 다시 여십시오.</translation>
     </message>
     <message>
         <source>%1 is not there. Check the cable and that the device is switched on.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 포트를 찾을 수 없습니다. 케이블을 확인하고 장치의 전원이 켜져 있는지 확인하십시오.</translation>
     </message>
     <message>
         <source>Another program uses %1. Close it and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>다른 프로그램이 %1 포트를 사용하고 있습니다. 해당 프로그램을 종료한 다음 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>%1 is open already.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 포트가 이미 열려 있습니다.</translation>
     </message>
     <message>
         <source>%1 is not a serial port, or it does not support %2 baud. Choose another port or baud rate.</source>
-        <translation type="unfinished"></translation>
+        <translation>시리얼 포트가 아니거나 %2 baud를 지원하지 않습니다: %1. 다른 포트나 보드 레이트를 선택하십시오.</translation>
     </message>
     <message>
         <source>%1 cannot be used (error %2). Unplug the device, plug it in again and retry.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 포트를 사용할 수 없습니다(오류 %2). 장치를 분리했다가 다시 연결한 다음 재시도하십시오.</translation>
     </message>
 </context>
 <context>
     <name>status_text</name>
     <message>
         <source>Unconnected...</source>
-        <translation type="unfinished"></translation>
+        <translation>연결 안 됨...</translation>
     </message>
     <message>
         <source>Connected...</source>
-        <translation type="unfinished"></translation>
+        <translation>연결됨...</translation>
     </message>
     <message>
         <source>Using fallback product profile.</source>
-        <translation type="unfinished"></translation>
+        <translation>대체 제품 프로필을 사용합니다.</translation>
     </message>
     <message>
         <source>Product info deferred during live stream.</source>
-        <translation type="unfinished"></translation>
+        <translation>데이터 수신 중이므로 제품 정보 조회를 보류했습니다.</translation>
     </message>
     <message>
         <source>Product info pending...</source>
-        <translation type="unfinished"></translation>
+        <translation>제품 정보 조회 중...</translation>
     </message>
     <message>
         <source>Single node (0x%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>단일 노드 (0x%1)</translation>
     </message>
     <message>
         <source>Gateway (0x%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>게이트웨이 (0x%1)</translation>
     </message>
     <message>
         <source>Items %1</source>
-        <translation type="unfinished"></translation>
+        <translation>항목 %1</translation>
     </message>
     <message>
         <source>Connected.
 No frame stream detected.</source>
-        <translation type="unfinished"></translation>
+        <translation>연결되었습니다.
+프레임이 감지되지 않습니다.</translation>
     </message>
     <message>
         <source>Building connection...</source>
-        <translation type="unfinished"></translation>
+        <translation>연결을 설정하는 중...</translation>
     </message>
     <message>
         <source>[Serial]
 %1 %2
 </source>
-        <translation type="unfinished"></translation>
+        <translation>[시리얼]
+%1 %2
+</translation>
     </message>
     <message>
         <source>Protocol:</source>
-        <translation type="unfinished"></translation>
+        <translation>프로토콜:</translation>
     </message>
     <message>
         <source>FrameRate:</source>
-        <translation type="unfinished"></translation>
+        <translation>프레임 속도:</translation>
     </message>
     <message>
         <source>Wireless</source>
-        <translation type="unfinished"></translation>
+        <translation>무선</translation>
     </message>
     <message>
         <source>DONGLE ID</source>
-        <translation type="unfinished"></translation>
+        <translation>동글 ID</translation>
     </message>
     <message>
         <source>TOTAL OF NODE</source>
-        <translation type="unfinished"></translation>
+        <translation>전체 노드 수</translation>
     </message>
 </context>
 </TS>
