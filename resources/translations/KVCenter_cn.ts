@@ -2,84 +2,137 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en_US">
 <context>
+    <name>ActionButton</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>CommandSession</name>
     <message>
         <source>The device does not answer. Check the baud rate, then identify it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>设备没有应答。请检查波特率，然后重新识别。</translation>
     </message>
     <message>
         <source>The device refused %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>设备拒绝了 %1。</translation>
     </message>
     <message>
         <source>The settings were sent and the device has restarted.</source>
-        <translation type="unfinished"></translation>
+        <translation>设置已发送，设备已重启。</translation>
     </message>
     <message>
         <source>(no reply)</source>
-        <translation type="unfinished"></translation>
+        <translation>（无应答）</translation>
+    </message>
+</context>
+<context>
+    <name>GatewayDashboardBridge</name>
+    <message>
+        <source>%1 nodes, %2 late, %3 gone</source>
+        <translation>%1 个节点，%2 个延迟，%3 个离线</translation>
+    </message>
+    <message>
+        <source>Node %1 · %2</source>
+        <translation>节点 %1 · %2</translation>
+    </message>
+    <message>
+        <source>Wireless Gateway Dashboard</source>
+        <translation>无线网关仪表板</translation>
+    </message>
+</context>
+<context>
+    <name>GatewayNodeModel</name>
+    <message>
+        <source>Live</source>
+        <translation>在线</translation>
+    </message>
+    <message>
+        <source>Late</source>
+        <translation>延迟</translation>
+    </message>
+    <message>
+        <source>Gone</source>
+        <translation>离线</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
     </message>
 </context>
 <context>
     <name>SensorDashboardBridge</name>
     <message>
         <source>Acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>加速度</translation>
     </message>
     <message>
         <source>Angular Velocity</source>
-        <translation type="unfinished"></translation>
+        <translation>角速度</translation>
     </message>
     <message>
         <source>Magnetic Field</source>
-        <translation type="unfinished"></translation>
+        <translation>磁场</translation>
     </message>
     <message>
         <source>Euler Angles</source>
-        <translation type="unfinished"></translation>
+        <translation>欧拉角</translation>
     </message>
     <message>
         <source>Quaternion</source>
-        <translation type="unfinished"></translation>
+        <translation>四元数</translation>
     </message>
     <message>
         <source>Pressure</source>
-        <translation type="unfinished"></translation>
+        <translation>气压</translation>
+    </message>
+    <message>
+        <source>Sensor Dashboard</source>
+        <translation>传感器仪表板</translation>
     </message>
 </context>
 <context>
     <name>SensorDataPanel</name>
     <message>
         <source>Acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>加速度</translation>
     </message>
     <message>
         <source>Angular rate</source>
-        <translation type="unfinished"></translation>
+        <translation>角速度</translation>
     </message>
     <message>
         <source>Magnetic field</source>
-        <translation type="unfinished"></translation>
+        <translation>磁场</translation>
     </message>
     <message>
         <source>Quaternion</source>
-        <translation type="unfinished"></translation>
+        <translation>四元数</translation>
     </message>
     <message>
         <source>Node</source>
-        <translation type="unfinished"></translation>
+        <translation>节点</translation>
     </message>
     <message>
         <source>Device time</source>
-        <translation type="unfinished"></translation>
+        <translation>设备时间</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>温度</translation>
     </message>
     <message>
         <source>Pressure</source>
-        <translation type="unfinished"></translation>
+        <translation>气压</translation>
     </message>
 </context>
 <context>
@@ -87,723 +140,942 @@
     <message>
         <source>N</source>
         <comment>north</comment>
-        <translation type="unfinished"></translation>
+        <translation>北</translation>
     </message>
     <message>
         <source>E</source>
         <comment>east</comment>
-        <translation type="unfinished"></translation>
+        <translation>东</translation>
     </message>
     <message>
         <source>S</source>
         <comment>south</comment>
-        <translation type="unfinished"></translation>
+        <translation>南</translation>
     </message>
     <message>
         <source>W</source>
         <comment>west</comment>
-        <translation type="unfinished"></translation>
+        <translation>西</translation>
     </message>
     <message>
         <source>Attitude indicator</source>
-        <translation type="unfinished"></translation>
+        <translation>姿态指示器</translation>
     </message>
     <message>
         <source>No attitude</source>
-        <translation type="unfinished"></translation>
+        <translation>无姿态数据</translation>
     </message>
 </context>
 <context>
     <name>WaveChartBridge</name>
     <message>
         <source>Acceleration (G)</source>
-        <translation type="unfinished"></translation>
+        <translation>加速度 (G)</translation>
     </message>
     <message>
         <source>Angular Velocity (°/s)</source>
-        <translation type="unfinished"></translation>
+        <translation>角速度 (°/s)</translation>
     </message>
     <message>
         <source>Magnetic Field (μT)</source>
-        <translation type="unfinished"></translation>
+        <translation>磁场 (μT)</translation>
     </message>
     <message>
         <source>Euler Angles (°)</source>
-        <translation type="unfinished"></translation>
+        <translation>欧拉角 (°)</translation>
     </message>
     <message>
         <source>Quaternion (Norm)</source>
-        <translation type="unfinished"></translation>
+        <translation>四元数 (归一化)</translation>
     </message>
     <message>
         <source>Pressure (Pa)</source>
-        <translation type="unfinished"></translation>
+        <translation>气压 (Pa)</translation>
+    </message>
+    <message>
+        <source>The cutoff frequency must be above 0 Hz.</source>
+        <translation>截止频率必须大于 0 Hz。</translation>
+    </message>
+    <message>
+        <source>The cutoff frequency is too low for %1 samples per second.</source>
+        <translation>对于每秒 %1 个采样，截止频率过低。</translation>
     </message>
 </context>
 <context>
     <name>form_about</name>
     <message>
         <source>About ORVEL-IMU</source>
-        <translation type="unfinished"></translation>
+        <translation>关于 ORVEL-IMU</translation>
     </message>
     <message>
         <source>KVCenter shows the data of inertial measurement units on a serial line and sets the units up.</source>
-        <translation type="unfinished"></translation>
+        <translation>KVCenter 用于显示串口惯性测量单元（IMU）的数据，并对其进行配置。</translation>
     </message>
     <message>
         <source>Toolkit</source>
-        <translation type="unfinished"></translation>
+        <translation>开发框架</translation>
     </message>
     <message>
         <source>Settings and logs</source>
-        <translation type="unfinished"></translation>
+        <translation>设置和日志</translation>
     </message>
     <message>
         <source>Folder of settings and logs</source>
-        <translation type="unfinished"></translation>
+        <translation>设置和日志所在的文件夹</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>确定</translation>
     </message>
     <message>
         <source>Qt %1 (licence: GNU LGPL, version 3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Qt %1（许可证：GNU LGPL 第 3 版）</translation>
     </message>
 </context>
 <context>
     <name>form_base</name>
     <message>
         <source>No device connected</source>
-        <translation type="unfinished"></translation>
+        <translation>未连接设备</translation>
     </message>
     <message>
         <source>Open port...</source>
-        <translation type="unfinished"></translation>
+        <translation>打开串口...</translation>
     </message>
     <message>
         <source>No hardware at hand? The simulator kv_simulator behaves like a device and prints the path of the port to open.</source>
-        <translation type="unfinished"></translation>
+        <translation>手边没有硬件？模拟器 kv_simulator 的行为与真实设备相同，启动后会显示要打开的串口路径。</translation>
     </message>
     <message>
         <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>连接</translation>
     </message>
     <message>
         <source>Device</source>
-        <translation type="unfinished"></translation>
+        <translation>设备</translation>
     </message>
     <message>
         <source>Product</source>
-        <translation type="unfinished"></translation>
+        <translation>产品</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>型号</translation>
     </message>
     <message>
         <source>Build</source>
-        <translation type="unfinished"></translation>
+        <translation>构建</translation>
     </message>
     <message>
         <source>UUID</source>
-        <translation type="unfinished"></translation>
+        <translation>UUID</translation>
     </message>
     <message>
         <source>&amp;Mounting</source>
-        <translation type="unfinished"></translation>
+        <translation>安装(&amp;M)</translation>
     </message>
     <message>
         <source>How the device is mounted; remembered for each product</source>
-        <translation type="unfinished"></translation>
+        <translation>设备的安装方向；按产品分别记住</translation>
     </message>
     <message>
         <source>RFU / ENU (3-1-2)</source>
-        <translation type="unfinished"></translation>
+        <translation>RFU / ENU (3-1-2)</translation>
     </message>
     <message>
         <source>FLU / NWU (Z-Y-X)</source>
-        <translation type="unfinished"></translation>
+        <translation>FLU / NWU (Z-Y-X)</translation>
     </message>
     <message>
         <source>Nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>节点</translation>
     </message>
     <message>
         <source>The node whose values are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>选择要显示数值的节点</translation>
     </message>
     <message>
         <source>Attitude</source>
-        <translation type="unfinished"></translation>
+        <translation>姿态</translation>
     </message>
     <message>
         <source>&amp;Serial</source>
-        <translation type="unfinished"></translation>
+        <translation>串口(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>视图(&amp;V)</translation>
     </message>
     <message>
         <source>&amp;Font size</source>
-        <translation type="unfinished"></translation>
+        <translation>字号(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>工具(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>帮助(&amp;H)</translation>
     </message>
     <message>
         <source>Toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>工具栏</translation>
     </message>
     <message>
         <source>&amp;Open port...</source>
-        <translation type="unfinished"></translation>
+        <translation>打开串口(&amp;O)...</translation>
     </message>
     <message>
         <source>Ctrl+O</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+O</translation>
     </message>
     <message>
         <source>&amp;Close port</source>
-        <translation type="unfinished"></translation>
+        <translation>关闭串口(&amp;C)</translation>
     </message>
     <message>
         <source>Ctrl+W</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+W</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>退出(&amp;Q)</translation>
     </message>
     <message>
         <source>Ctrl+Q</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Q</translation>
     </message>
     <message>
         <source>&amp;Spectrum</source>
-        <translation type="unfinished"></translation>
+        <translation>频谱(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;3D view</source>
-        <translation type="unfinished"></translation>
+        <translation>三维视图(&amp;3)</translation>
     </message>
     <message>
         <source>&amp;Copy values</source>
-        <translation type="unfinished"></translation>
+        <translation>复制数值(&amp;C)</translation>
     </message>
     <message>
         <source>Ctrl+Shift+C</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Shift+C</translation>
     </message>
     <message>
         <source>Copy all values of the selected node to the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>将所选节点的全部数值复制到剪贴板</translation>
     </message>
     <message>
         <source>&amp;Small</source>
-        <translation type="unfinished"></translation>
+        <translation>小(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Medium</source>
-        <translation type="unfinished"></translation>
+        <translation>中(&amp;M)</translation>
     </message>
     <message>
         <source>&amp;Big</source>
-        <translation type="unfinished"></translation>
+        <translation>大(&amp;B)</translation>
     </message>
     <message>
         <source>&amp;Record...</source>
-        <translation type="unfinished"></translation>
+        <translation>记录(&amp;R)...</translation>
     </message>
     <message>
         <source>&amp;Device settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>设备设置(&amp;D)...</translation>
     </message>
     <message>
         <source>Ctrl+E</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+E</translation>
     </message>
     <message>
         <source>Identify and configure the device (Ctrl+E)</source>
-        <translation type="unfinished"></translation>
+        <translation>识别并配置设备 (Ctrl+E)</translation>
     </message>
     <message>
         <source>&amp;Firmware update...</source>
-        <translation type="unfinished"></translation>
+        <translation>固件升级(&amp;F)...</translation>
     </message>
     <message>
         <source>&amp;About</source>
-        <translation type="unfinished"></translation>
+        <translation>关于(&amp;A)</translation>
     </message>
     <message>
         <source>Unconnected...</source>
-        <translation type="unfinished"></translation>
+        <translation>未连接</translation>
     </message>
     <message>
         <source>Roll</source>
-        <translation type="unfinished"></translation>
+        <translation>横滚</translation>
     </message>
     <message>
         <source>Pitch</source>
-        <translation type="unfinished"></translation>
+        <translation>俯仰</translation>
     </message>
     <message>
         <source>Yaw</source>
-        <translation type="unfinished"></translation>
+        <translation>航向</translation>
     </message>
     <message>
         <source>Sensor Dashboard</source>
-        <translation type="unfinished"></translation>
+        <translation>传感器仪表板</translation>
     </message>
     <message>
         <source>Waveforms come with a later version.</source>
-        <translation type="unfinished"></translation>
+        <translation>波形功能将在后续版本中提供。</translation>
     </message>
     <message>
         <source>Wireless Gateway Dashboard</source>
-        <translation type="unfinished"></translation>
+        <translation>无线网关仪表板</translation>
     </message>
     <message>
         <source>The dashboard of radio nodes comes with a later version.</source>
-        <translation type="unfinished"></translation>
+        <translation>无线节点仪表板将在后续版本中提供。</translation>
     </message>
     <message>
         <source>Waves</source>
-        <translation type="unfinished"></translation>
+        <translation>波形</translation>
     </message>
     <message>
         <source>Gateway</source>
-        <translation type="unfinished"></translation>
+        <translation>网关</translation>
     </message>
     <message>
         <source>The spectrum comes with a later version.</source>
-        <translation type="unfinished"></translation>
+        <translation>频谱功能将在后续版本中提供。</translation>
     </message>
     <message>
         <source>The 3D view comes with a later version.</source>
-        <translation type="unfinished"></translation>
+        <translation>三维视图将在后续版本中提供。</translation>
     </message>
     <message>
         <source>Recording comes with a later version.</source>
-        <translation type="unfinished"></translation>
+        <translation>数据记录功能将在后续版本中提供。</translation>
     </message>
     <message>
         <source>The firmware update comes with a later version.</source>
-        <translation type="unfinished"></translation>
+        <translation>固件升级功能将在后续版本中提供。</translation>
     </message>
     <message>
         <source>Other languages come with a later version.</source>
-        <translation type="unfinished"></translation>
+        <translation>其他语言将在后续版本中提供。</translation>
     </message>
     <message>
         <source>Choose a serial port and connect (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>选择串口并连接 (%1)</translation>
     </message>
     <message>
         <source>Close the serial port (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>关闭串口 (%1)</translation>
     </message>
     <message>
         <source>Plug in a module or a gateway, press &lt;b&gt;Open port&lt;/b&gt; (%1) and choose its serial port.</source>
-        <translation type="unfinished"></translation>
+        <translation>请接入模块或网关，点击&lt;b&gt;打开串口&lt;/b&gt; (%1)，然后选择对应的串口。</translation>
     </message>
     <message>
         <source>The folder %1 cannot be written: settings and logs of this run are not kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>文件夹 %1 不可写：本次运行的设置和日志不会保留。</translation>
     </message>
     <message>
         <source>Connecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>正在连接...</translation>
     </message>
     <message>
         <source>Connected... %1, %2 baud</source>
-        <translation type="unfinished"></translation>
+        <translation>已连接：%1，波特率 %2</translation>
     </message>
     <message>
         <source>Open Serial Port Error.</source>
-        <translation type="unfinished"></translation>
+        <translation>打开串口失败。</translation>
     </message>
     <message>
         <source>Node ID:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>节点 ID：%1</translation>
     </message>
 </context>
 <context>
     <name>form_com_select</name>
     <message>
         <source>Open serial port</source>
-        <translation type="unfinished"></translation>
+        <translation>打开串口</translation>
     </message>
     <message>
         <source>&amp;Serial ports</source>
-        <translation type="unfinished"></translation>
+        <translation>串口(&amp;S)</translation>
     </message>
     <message>
         <source>Serial ports</source>
-        <translation type="unfinished"></translation>
+        <translation>串口</translation>
     </message>
     <message>
         <source>Port</source>
-        <translation type="unfinished"></translation>
+        <translation>端口</translation>
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>描述</translation>
     </message>
     <message>
         <source>Maker</source>
-        <translation type="unfinished"></translation>
+        <translation>制造商</translation>
     </message>
     <message>
         <source>Serial number</source>
-        <translation type="unfinished"></translation>
+        <translation>序列号</translation>
     </message>
     <message>
         <source>No serial port found</source>
-        <translation type="unfinished"></translation>
+        <translation>未找到串口</translation>
     </message>
     <message>
         <source>Plug the device in: it appears here by itself.
 
 To try the program without a device, start the simulator in a terminal with ./run or kv_simulator. It prints a path: type that below.</source>
-        <translation type="unfinished"></translation>
+        <translation>接入设备后，串口会自动出现在这里。
+
+如果没有设备，可在终端中用 ./run 或 kv_simulator 启动模拟器来试用本程序。模拟器会显示一个路径，请将其填入下方。</translation>
     </message>
     <message>
         <source>&amp;Port or path</source>
-        <translation type="unfinished"></translation>
+        <translation>端口或路径(&amp;P)</translation>
     </message>
     <message>
         <source>A port of the list, or a path typed by hand: a pseudo-terminal or a link to a device file</source>
-        <translation type="unfinished"></translation>
+        <translation>列表中的端口，或手动输入的路径：伪终端或指向设备文件的链接</translation>
     </message>
     <message>
         <source>&amp;Baud rate</source>
-        <translation type="unfinished"></translation>
+        <translation>波特率(&amp;B)</translation>
     </message>
     <message>
         <source>Bits per second, as set in the device</source>
-        <translation type="unfinished"></translation>
+        <translation>每秒位数，须与设备中的设置一致</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>打开(&amp;O)</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>取消</translation>
     </message>
     <message>
         <source>Choose a port or type its path.</source>
-        <translation type="unfinished"></translation>
+        <translation>请选择端口，或输入其路径。</translation>
     </message>
     <message>
         <source>%1 is not there at the moment. Plug the device in, or choose another port.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 当前不存在。请接入设备，或选择其他端口。</translation>
     </message>
     <message>
         <source>%1 is not a serial port.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 不是串口。</translation>
+    </message>
+</context>
+<context>
+    <name>form_record</name>
+    <message>
+        <source>Record to file</source>
+        <translation>记录到文件</translation>
+    </message>
+    <message>
+        <source>&amp;Folder</source>
+        <translation>文件夹(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>浏览(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation>名称(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Elapsed time</source>
+        <translation>记录时长</translation>
+    </message>
+    <message>
+        <source>Records</source>
+        <translation>记录条数</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>速率</translation>
+    </message>
+    <message>
+        <source>File size</source>
+        <translation>文件大小</translation>
+    </message>
+    <message>
+        <source>Free on disk</source>
+        <translation>磁盘可用空间</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Show in f&amp;older</source>
+        <translation>在文件夹中显示(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Opens the folder of the recording</source>
+        <translation>打开记录文件所在的文件夹</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Type a name.</source>
+        <translation>请输入名称。</translation>
+    </message>
+    <message>
+        <source>This name is too long.</source>
+        <translation>名称过长。</translation>
+    </message>
+    <message>
+        <source>A name cannot hold any of %1</source>
+        <translation>名称不能包含以下任何字符：%1</translation>
+    </message>
+    <message>
+        <source>This name is reserved by some systems. Choose another one.</source>
+        <translation>此名称是某些系统的保留名称。请改用其他名称。</translation>
+    </message>
+    <message>
+        <source>Folder for recordings</source>
+        <translation>选择记录文件夹</translation>
+    </message>
+    <message>
+        <source>Nothing is connected: open a serial port first.</source>
+        <translation>尚未连接：请先打开串口。</translation>
+    </message>
+    <message>
+        <source>Choose a folder.</source>
+        <translation>请选择文件夹。</translation>
+    </message>
+    <message>
+        <source>&amp;Stop recording</source>
+        <translation>停止记录(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Start recording</source>
+        <translation>开始记录(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Writes what has arrived and closes the file</source>
+        <translation>写入已收到的数据并关闭文件</translation>
+    </message>
+    <message>
+        <source>Writes every sample that arrives into a file</source>
+        <translation>将收到的每个采样写入文件</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>正在记录</translation>
+    </message>
+    <message>
+        <source>Recording ended: the port was closed</source>
+        <translation>记录已结束：串口已关闭</translation>
+    </message>
+    <message>
+        <source>Recording stopped</source>
+        <translation>记录已停止</translation>
+    </message>
+    <message>
+        <source>Not recording</source>
+        <translation>未在记录</translation>
+    </message>
+    <message>
+        <source>Recording goes on when this window is closed.</source>
+        <translation>关闭此窗口后，记录仍会继续。</translation>
+    </message>
+    <message>
+        <source>Stop the recording to change this</source>
+        <translation>停止记录后才能更改</translation>
+    </message>
+    <message>
+        <source>This folder was created for the recording.</source>
+        <translation>此文件夹是为本次记录新建的。</translation>
+    </message>
+    <message>
+        <source>This folder does not exist yet: starting creates it.</source>
+        <translation>此文件夹尚不存在，开始记录时将自动创建。</translation>
+    </message>
+    <message>
+        <source>Saved as %1; a new file begins every hour.</source>
+        <translation>保存为 %1；每小时新建一个文件。</translation>
+    </message>
+    <message>
+        <source>%1 records/s</source>
+        <translation>%1 条/秒</translation>
+    </message>
+    <message>
+        <source>%1, enough for days</source>
+        <translation>%1，可记录数日</translation>
+    </message>
+    <message>
+        <source>%1, enough for %2 h</source>
+        <translation>%1，可记录约 %2 小时</translation>
+    </message>
+    <message>
+        <source>%1, enough for %2 min</source>
+        <translation>%1，可记录约 %2 分钟</translation>
+    </message>
+    <message>
+        <source>%1 is a file, not a folder.</source>
+        <translation>%1 是文件，不是文件夹。</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be created. Choose another one.</source>
+        <translation>无法创建文件夹 %1。请选择其他文件夹。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>The disk is too slow. Records dropped: %1</source>
+        <translation>磁盘速度过慢。已丢弃的记录条数：%1</translation>
+    </message>
+    <message>
+        <source>The file cannot be written: %1</source>
+        <translation>无法写入文件：%1</translation>
+    </message>
+    <message>
+        <source>Records that could not be written: %1</source>
+        <translation>未能写入的记录条数：%1</translation>
+    </message>
+    <message>
+        <source>%1 has been deleted or moved. Stop and start again to record into a new file.</source>
+        <translation>%1 已被删除或移动。请停止后重新开始，以记录到新文件。</translation>
+    </message>
+    <message>
+        <source>The disk is nearly full.</source>
+        <translation>磁盘空间即将用尽。</translation>
     </message>
 </context>
 <context>
     <name>form_settings</name>
     <message>
         <source>Device settings</source>
-        <translation type="unfinished"></translation>
+        <translation>设备设置</translation>
     </message>
     <message>
         <source>Product</source>
-        <translation type="unfinished"></translation>
+        <translation>产品</translation>
     </message>
     <message>
         <source>&amp;Identify</source>
-        <translation type="unfinished"></translation>
+        <translation>识别(&amp;I)</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>型号</translation>
     </message>
     <message>
         <source>Build</source>
-        <translation type="unfinished"></translation>
+        <translation>构建</translation>
     </message>
     <message>
         <source>&amp;Module</source>
-        <translation type="unfinished"></translation>
+        <translation>模块(&amp;M)</translation>
     </message>
     <message>
         <source>&amp;Node ID</source>
-        <translation type="unfinished"></translation>
+        <translation>节点 ID(&amp;N)</translation>
     </message>
     <message>
         <source>Choose</source>
-        <translation type="unfinished"></translation>
+        <translation>请选择</translation>
     </message>
     <message>
         <source>Number of the module in a radio network, 0 to 255</source>
-        <translation type="unfinished"></translation>
+        <translation>模块在无线网络中的编号，0 到 255</translation>
     </message>
     <message>
         <source>Output &amp;rate (Hz)</source>
-        <translation type="unfinished"></translation>
+        <translation>输出频率 (Hz)(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Attitude mode</source>
-        <translation type="unfinished"></translation>
+        <translation>姿态模式(&amp;A)</translation>
     </message>
     <message>
         <source>0: 6-axis, without magnetometer</source>
-        <translation type="unfinished"></translation>
+        <translation>0：6 轴，不使用磁力计</translation>
     </message>
     <message>
         <source>1: 9-axis, with magnetometer</source>
-        <translation type="unfinished"></translation>
+        <translation>1：9 轴，使用磁力计</translation>
     </message>
     <message>
         <source>Leave as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>保持不变</translation>
     </message>
     <message>
         <source>Which settings can be changed depends on the device. Connect it and identify it.</source>
-        <translation type="unfinished"></translation>
+        <translation>可更改的设置因设备而异。请连接设备并进行识别。</translation>
     </message>
     <message>
         <source>&amp;Save to device</source>
-        <translation type="unfinished"></translation>
+        <translation>保存到设备(&amp;S)</translation>
     </message>
     <message>
         <source>C&amp;ommands</source>
-        <translation type="unfinished"></translation>
+        <translation>命令(&amp;O)</translation>
     </message>
     <message>
         <source>Sent and received</source>
-        <translation type="unfinished"></translation>
+        <translation>收发记录</translation>
     </message>
     <message>
         <source>&amp;Copy log</source>
-        <translation type="unfinished"></translation>
+        <translation>复制记录(&amp;C)</translation>
     </message>
     <message>
         <source>Nothing sent yet</source>
-        <translation type="unfinished"></translation>
+        <translation>尚未发送任何内容</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
-        <translation type="unfinished"></translation>
+        <translation>关闭(&amp;L)</translation>
     </message>
     <message>
         <source>Read info</source>
-        <translation type="unfinished"></translation>
+        <translation>读取信息</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>复位</translation>
     </message>
     <message>
         <source>Stop output</source>
-        <translation type="unfinished"></translation>
+        <translation>停止输出</translation>
     </message>
     <message>
         <source>Resume output</source>
-        <translation type="unfinished"></translation>
+        <translation>恢复输出</translation>
     </message>
     <message>
         <source>Save config</source>
-        <translation type="unfinished"></translation>
+        <translation>保存配置</translation>
     </message>
     <message>
         <source>Log COM config</source>
-        <translation type="unfinished"></translation>
+        <translation>查询串口配置</translation>
     </message>
     <message>
         <source>Log user config</source>
-        <translation type="unfinished"></translation>
+        <translation>查询用户配置</translation>
     </message>
     <message>
         <source>Log disable</source>
-        <translation type="unfinished"></translation>
+        <translation>关闭日志输出</translation>
     </message>
     <message>
         <source>Reboot</source>
-        <translation type="unfinished"></translation>
+        <translation>重启</translation>
     </message>
     <message>
         <source>No device identified</source>
-        <translation type="unfinished"></translation>
+        <translation>未识别到设备</translation>
     </message>
     <message>
         <source>Saving does not change the rate of this device.</source>
-        <translation type="unfinished"></translation>
+        <translation>保存不会更改此设备的输出频率。</translation>
     </message>
     <message>
         <source>Nothing is connected: open a serial port first.</source>
-        <translation type="unfinished"></translation>
+        <translation>尚未连接：请先打开串口。</translation>
     </message>
     <message>
         <source>Waiting for the device: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>正在等待设备：%1</translation>
     </message>
     <message>
         <source>Identify the device first.</source>
-        <translation type="unfinished"></translation>
+        <translation>请先识别设备。</translation>
     </message>
     <message>
         <source>Choose a node ID first.</source>
-        <translation type="unfinished"></translation>
+        <translation>请先选择节点 ID。</translation>
     </message>
     <message>
         <source>Choose an output rate first.</source>
-        <translation type="unfinished"></translation>
+        <translation>请先选择输出频率。</translation>
     </message>
     <message>
         <source>Sends %1</source>
-        <translation type="unfinished"></translation>
+        <translation>发送 %1</translation>
     </message>
     <message>
         <source>Stops the output, reads what the device is and resumes the output</source>
-        <translation type="unfinished"></translation>
+        <translation>停止输出，读取设备信息，然后恢复输出</translation>
     </message>
     <message>
         <source>Writes these settings and restarts the device</source>
-        <translation type="unfinished"></translation>
+        <translation>写入这些设置并重启设备</translation>
     </message>
     <message>
         <source>Saving restarts the device; this takes 2 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>保存后设备会重启，约需 2 秒。</translation>
     </message>
 </context>
 <context>
     <name>port_choice</name>
     <message>
         <source>Enter a baud rate.</source>
-        <translation type="unfinished"></translation>
+        <translation>请输入波特率。</translation>
     </message>
     <message>
         <source>Enter a whole number, such as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>请输入整数，例如 %1。</translation>
     </message>
     <message>
         <source>Too low: the lowest rate is %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>过低：波特率不得低于 %1。</translation>
     </message>
     <message>
         <source>Too high: the highest rate is %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>过高：波特率不得高于 %1。</translation>
+    </message>
+</context>
+<context>
+    <name>product_profile</name>
+    <message>
+        <source>Legacy Wireless Gateway (0x62/0x63)</source>
+        <translation>旧版无线网关 (0x62/0x63)</translation>
+    </message>
+    <message>
+        <source>Unknown Legacy Device</source>
+        <translation>未知旧版设备</translation>
+    </message>
+    <message>
+        <source>Unknown Mz14 Device</source>
+        <translation>未知 Mz14 设备</translation>
+    </message>
+    <message>
+        <source>Unknown Wireless Gateway (0x62/0x63)</source>
+        <translation>未知无线网关 (0x62/0x63)</translation>
+    </message>
+    <message>
+        <source>Unknown Device</source>
+        <translation>未知设备</translation>
     </message>
 </context>
 <context>
     <name>serial_error_text</name>
     <message>
         <source>You are not allowed to open %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有打开 %1 的权限。</translation>
     </message>
     <message>
         <source>Ask the administrator of this computer for access.</source>
-        <translation type="unfinished"></translation>
+        <translation>请向本机管理员申请访问权限。</translation>
     </message>
     <message>
         <source>Run &quot;%1&quot; in a terminal, then log out and in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>请在终端中运行“%1”，然后注销并重新登录。</translation>
     </message>
     <message>
         <source>The connection to %1 was lost: the device was unplugged or switched off. Check the cable, then open the port again.</source>
-        <translation type="unfinished"></translation>
+        <translation>与 %1 的连接已断开：设备被拔出或已关机。请检查连接线，然后重新打开串口。</translation>
     </message>
     <message>
         <source>%1 is not there. Check the cable and that the device is switched on.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 不存在。请检查连接线，并确认设备已开机。</translation>
     </message>
     <message>
         <source>Another program uses %1. Close it and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 正被其他程序占用。请关闭该程序后重试。</translation>
     </message>
     <message>
         <source>%1 is open already.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 已经打开。</translation>
     </message>
     <message>
         <source>%1 is not a serial port, or it does not support %2 baud. Choose another port or baud rate.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 不是串口，或不支持波特率 %2。请选择其他端口或波特率。</translation>
     </message>
     <message>
         <source>%1 cannot be used (error %2). Unplug the device, plug it in again and retry.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法使用 %1（错误 %2）。请拔下设备，重新接入后再试。</translation>
     </message>
 </context>
 <context>
     <name>status_text</name>
     <message>
         <source>Unconnected...</source>
-        <translation type="unfinished"></translation>
+        <translation>未连接</translation>
     </message>
     <message>
         <source>Connected...</source>
-        <translation type="unfinished"></translation>
+        <translation>已连接</translation>
     </message>
     <message>
         <source>Using fallback product profile.</source>
-        <translation type="unfinished"></translation>
+        <translation>正在使用备用产品配置。</translation>
     </message>
     <message>
         <source>Product info deferred during live stream.</source>
-        <translation type="unfinished"></translation>
+        <translation>实时数据传输期间暂缓读取产品信息。</translation>
     </message>
     <message>
         <source>Product info pending...</source>
-        <translation type="unfinished"></translation>
+        <translation>正在等待产品信息...</translation>
     </message>
     <message>
         <source>Single node (0x%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>单节点 (0x%1)</translation>
     </message>
     <message>
         <source>Gateway (0x%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>网关 (0x%1)</translation>
     </message>
     <message>
         <source>Items %1</source>
-        <translation type="unfinished"></translation>
+        <translation>数据项 %1</translation>
     </message>
     <message>
         <source>Connected.
 No frame stream detected.</source>
-        <translation type="unfinished"></translation>
+        <translation>已连接。
+未检测到数据帧流。</translation>
     </message>
     <message>
         <source>Building connection...</source>
-        <translation type="unfinished"></translation>
+        <translation>正在建立连接...</translation>
     </message>
     <message>
         <source>[Serial]
 %1 %2
 </source>
-        <translation type="unfinished"></translation>
+        <translation>[串口]
+%1 %2
+</translation>
     </message>
     <message>
         <source>Protocol:</source>
-        <translation type="unfinished"></translation>
+        <translation>协议:</translation>
     </message>
     <message>
         <source>FrameRate:</source>
-        <translation type="unfinished"></translation>
+        <translation>帧率:</translation>
     </message>
     <message>
         <source>Wireless</source>
-        <translation type="unfinished"></translation>
+        <translation>无线</translation>
     </message>
     <message>
         <source>DONGLE ID</source>
-        <translation type="unfinished"></translation>
+        <translation>接收器 ID</translation>
     </message>
     <message>
         <source>TOTAL OF NODE</source>
-        <translation type="unfinished"></translation>
+        <translation>节点总数</translation>
     </message>
 </context>
 </TS>

@@ -2,84 +2,137 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_TW" sourcelanguage="en_US">
 <context>
+    <name>ActionButton</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>CommandSession</name>
     <message>
         <source>The device does not answer. Check the baud rate, then identify it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>裝置沒有回應。請檢查鮑率，然後重新識別。</translation>
     </message>
     <message>
         <source>The device refused %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>裝置拒絕了 %1。</translation>
     </message>
     <message>
         <source>The settings were sent and the device has restarted.</source>
-        <translation type="unfinished"></translation>
+        <translation>設定已傳送，裝置已重新啟動。</translation>
     </message>
     <message>
         <source>(no reply)</source>
-        <translation type="unfinished"></translation>
+        <translation>（無回應）</translation>
+    </message>
+</context>
+<context>
+    <name>GatewayDashboardBridge</name>
+    <message>
+        <source>%1 nodes, %2 late, %3 gone</source>
+        <translation>%1 個節點，%2 個延遲，%3 個離線</translation>
+    </message>
+    <message>
+        <source>Node %1 · %2</source>
+        <translation>節點 %1 · %2</translation>
+    </message>
+    <message>
+        <source>Wireless Gateway Dashboard</source>
+        <translation>無線閘道器儀表板</translation>
+    </message>
+</context>
+<context>
+    <name>GatewayNodeModel</name>
+    <message>
+        <source>Live</source>
+        <translation>線上</translation>
+    </message>
+    <message>
+        <source>Late</source>
+        <translation>延遲</translation>
+    </message>
+    <message>
+        <source>Gone</source>
+        <translation>離線</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
     </message>
 </context>
 <context>
     <name>SensorDashboardBridge</name>
     <message>
         <source>Acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>加速度</translation>
     </message>
     <message>
         <source>Angular Velocity</source>
-        <translation type="unfinished"></translation>
+        <translation>角速度</translation>
     </message>
     <message>
         <source>Magnetic Field</source>
-        <translation type="unfinished"></translation>
+        <translation>磁場</translation>
     </message>
     <message>
         <source>Euler Angles</source>
-        <translation type="unfinished"></translation>
+        <translation>歐拉角</translation>
     </message>
     <message>
         <source>Quaternion</source>
-        <translation type="unfinished"></translation>
+        <translation>四元數</translation>
     </message>
     <message>
         <source>Pressure</source>
-        <translation type="unfinished"></translation>
+        <translation>氣壓</translation>
+    </message>
+    <message>
+        <source>Sensor Dashboard</source>
+        <translation>感測器儀表板</translation>
     </message>
 </context>
 <context>
     <name>SensorDataPanel</name>
     <message>
         <source>Acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>加速度</translation>
     </message>
     <message>
         <source>Angular rate</source>
-        <translation type="unfinished"></translation>
+        <translation>角速度</translation>
     </message>
     <message>
         <source>Magnetic field</source>
-        <translation type="unfinished"></translation>
+        <translation>磁場</translation>
     </message>
     <message>
         <source>Quaternion</source>
-        <translation type="unfinished"></translation>
+        <translation>四元數</translation>
     </message>
     <message>
         <source>Node</source>
-        <translation type="unfinished"></translation>
+        <translation>節點</translation>
     </message>
     <message>
         <source>Device time</source>
-        <translation type="unfinished"></translation>
+        <translation>裝置時間</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>溫度</translation>
     </message>
     <message>
         <source>Pressure</source>
-        <translation type="unfinished"></translation>
+        <translation>氣壓</translation>
     </message>
 </context>
 <context>
@@ -87,723 +140,942 @@
     <message>
         <source>N</source>
         <comment>north</comment>
-        <translation type="unfinished"></translation>
+        <translation>北</translation>
     </message>
     <message>
         <source>E</source>
         <comment>east</comment>
-        <translation type="unfinished"></translation>
+        <translation>東</translation>
     </message>
     <message>
         <source>S</source>
         <comment>south</comment>
-        <translation type="unfinished"></translation>
+        <translation>南</translation>
     </message>
     <message>
         <source>W</source>
         <comment>west</comment>
-        <translation type="unfinished"></translation>
+        <translation>西</translation>
     </message>
     <message>
         <source>Attitude indicator</source>
-        <translation type="unfinished"></translation>
+        <translation>姿態指示器</translation>
     </message>
     <message>
         <source>No attitude</source>
-        <translation type="unfinished"></translation>
+        <translation>無姿態資料</translation>
     </message>
 </context>
 <context>
     <name>WaveChartBridge</name>
     <message>
         <source>Acceleration (G)</source>
-        <translation type="unfinished"></translation>
+        <translation>加速度 (G)</translation>
     </message>
     <message>
         <source>Angular Velocity (°/s)</source>
-        <translation type="unfinished"></translation>
+        <translation>角速度 (°/s)</translation>
     </message>
     <message>
         <source>Magnetic Field (μT)</source>
-        <translation type="unfinished"></translation>
+        <translation>磁場 (μT)</translation>
     </message>
     <message>
         <source>Euler Angles (°)</source>
-        <translation type="unfinished"></translation>
+        <translation>歐拉角 (°)</translation>
     </message>
     <message>
         <source>Quaternion (Norm)</source>
-        <translation type="unfinished"></translation>
+        <translation>四元數 (正規化)</translation>
     </message>
     <message>
         <source>Pressure (Pa)</source>
-        <translation type="unfinished"></translation>
+        <translation>氣壓 (Pa)</translation>
+    </message>
+    <message>
+        <source>The cutoff frequency must be above 0 Hz.</source>
+        <translation>截止頻率必須大於 0 Hz。</translation>
+    </message>
+    <message>
+        <source>The cutoff frequency is too low for %1 samples per second.</source>
+        <translation>以每秒 %1 筆取樣而言，截止頻率過低。</translation>
     </message>
 </context>
 <context>
     <name>form_about</name>
     <message>
         <source>About ORVEL-IMU</source>
-        <translation type="unfinished"></translation>
+        <translation>關於 ORVEL-IMU</translation>
     </message>
     <message>
         <source>KVCenter shows the data of inertial measurement units on a serial line and sets the units up.</source>
-        <translation type="unfinished"></translation>
+        <translation>KVCenter 可顯示序列埠慣性量測單元（IMU）的資料，並設定這些裝置。</translation>
     </message>
     <message>
         <source>Toolkit</source>
-        <translation type="unfinished"></translation>
+        <translation>開發框架</translation>
     </message>
     <message>
         <source>Settings and logs</source>
-        <translation type="unfinished"></translation>
+        <translation>設定與日誌</translation>
     </message>
     <message>
         <source>Folder of settings and logs</source>
-        <translation type="unfinished"></translation>
+        <translation>設定與日誌所在的資料夾</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>確定</translation>
     </message>
     <message>
         <source>Qt %1 (licence: GNU LGPL, version 3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Qt %1（授權：GNU LGPL 第 3 版）</translation>
     </message>
 </context>
 <context>
     <name>form_base</name>
     <message>
         <source>No device connected</source>
-        <translation type="unfinished"></translation>
+        <translation>尚未連接裝置</translation>
     </message>
     <message>
         <source>Open port...</source>
-        <translation type="unfinished"></translation>
+        <translation>開啟序列埠...</translation>
     </message>
     <message>
         <source>No hardware at hand? The simulator kv_simulator behaves like a device and prints the path of the port to open.</source>
-        <translation type="unfinished"></translation>
+        <translation>手邊沒有硬體？模擬器 kv_simulator 的行為與真實裝置相同，啟動後會顯示要開啟的序列埠路徑。</translation>
     </message>
     <message>
         <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>連線</translation>
     </message>
     <message>
         <source>Device</source>
-        <translation type="unfinished"></translation>
+        <translation>裝置</translation>
     </message>
     <message>
         <source>Product</source>
-        <translation type="unfinished"></translation>
+        <translation>產品</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>型號</translation>
     </message>
     <message>
         <source>Build</source>
-        <translation type="unfinished"></translation>
+        <translation>組建</translation>
     </message>
     <message>
         <source>UUID</source>
-        <translation type="unfinished"></translation>
+        <translation>UUID</translation>
     </message>
     <message>
         <source>&amp;Mounting</source>
-        <translation type="unfinished"></translation>
+        <translation>安裝(&amp;M)</translation>
     </message>
     <message>
         <source>How the device is mounted; remembered for each product</source>
-        <translation type="unfinished"></translation>
+        <translation>裝置的安裝方向；依產品分別記住</translation>
     </message>
     <message>
         <source>RFU / ENU (3-1-2)</source>
-        <translation type="unfinished"></translation>
+        <translation>RFU / ENU (3-1-2)</translation>
     </message>
     <message>
         <source>FLU / NWU (Z-Y-X)</source>
-        <translation type="unfinished"></translation>
+        <translation>FLU / NWU (Z-Y-X)</translation>
     </message>
     <message>
         <source>Nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>節點</translation>
     </message>
     <message>
         <source>The node whose values are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>選擇要顯示數值的節點</translation>
     </message>
     <message>
         <source>Attitude</source>
-        <translation type="unfinished"></translation>
+        <translation>姿態</translation>
     </message>
     <message>
         <source>&amp;Serial</source>
-        <translation type="unfinished"></translation>
+        <translation>序列埠(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>檢視(&amp;V)</translation>
     </message>
     <message>
         <source>&amp;Font size</source>
-        <translation type="unfinished"></translation>
+        <translation>字型大小(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>工具(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>說明(&amp;H)</translation>
     </message>
     <message>
         <source>Toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>工具列</translation>
     </message>
     <message>
         <source>&amp;Open port...</source>
-        <translation type="unfinished"></translation>
+        <translation>開啟序列埠(&amp;O)...</translation>
     </message>
     <message>
         <source>Ctrl+O</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+O</translation>
     </message>
     <message>
         <source>&amp;Close port</source>
-        <translation type="unfinished"></translation>
+        <translation>關閉序列埠(&amp;C)</translation>
     </message>
     <message>
         <source>Ctrl+W</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+W</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>結束(&amp;Q)</translation>
     </message>
     <message>
         <source>Ctrl+Q</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Q</translation>
     </message>
     <message>
         <source>&amp;Spectrum</source>
-        <translation type="unfinished"></translation>
+        <translation>頻譜(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;3D view</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 檢視(&amp;3)</translation>
     </message>
     <message>
         <source>&amp;Copy values</source>
-        <translation type="unfinished"></translation>
+        <translation>複製數值(&amp;C)</translation>
     </message>
     <message>
         <source>Ctrl+Shift+C</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Shift+C</translation>
     </message>
     <message>
         <source>Copy all values of the selected node to the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>將所選節點的所有數值複製到剪貼簿</translation>
     </message>
     <message>
         <source>&amp;Small</source>
-        <translation type="unfinished"></translation>
+        <translation>小(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Medium</source>
-        <translation type="unfinished"></translation>
+        <translation>中(&amp;M)</translation>
     </message>
     <message>
         <source>&amp;Big</source>
-        <translation type="unfinished"></translation>
+        <translation>大(&amp;B)</translation>
     </message>
     <message>
         <source>&amp;Record...</source>
-        <translation type="unfinished"></translation>
+        <translation>記錄(&amp;R)...</translation>
     </message>
     <message>
         <source>&amp;Device settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>裝置設定(&amp;D)...</translation>
     </message>
     <message>
         <source>Ctrl+E</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+E</translation>
     </message>
     <message>
         <source>Identify and configure the device (Ctrl+E)</source>
-        <translation type="unfinished"></translation>
+        <translation>識別並設定裝置 (Ctrl+E)</translation>
     </message>
     <message>
         <source>&amp;Firmware update...</source>
-        <translation type="unfinished"></translation>
+        <translation>韌體更新(&amp;F)...</translation>
     </message>
     <message>
         <source>&amp;About</source>
-        <translation type="unfinished"></translation>
+        <translation>關於(&amp;A)</translation>
     </message>
     <message>
         <source>Unconnected...</source>
-        <translation type="unfinished"></translation>
+        <translation>未連線</translation>
     </message>
     <message>
         <source>Roll</source>
-        <translation type="unfinished"></translation>
+        <translation>橫滾</translation>
     </message>
     <message>
         <source>Pitch</source>
-        <translation type="unfinished"></translation>
+        <translation>俯仰</translation>
     </message>
     <message>
         <source>Yaw</source>
-        <translation type="unfinished"></translation>
+        <translation>偏航</translation>
     </message>
     <message>
         <source>Sensor Dashboard</source>
-        <translation type="unfinished"></translation>
+        <translation>感測器儀表板</translation>
     </message>
     <message>
         <source>Waveforms come with a later version.</source>
-        <translation type="unfinished"></translation>
+        <translation>波形功能將於後續版本提供。</translation>
     </message>
     <message>
         <source>Wireless Gateway Dashboard</source>
-        <translation type="unfinished"></translation>
+        <translation>無線閘道器儀表板</translation>
     </message>
     <message>
         <source>The dashboard of radio nodes comes with a later version.</source>
-        <translation type="unfinished"></translation>
+        <translation>無線節點儀表板將於後續版本提供。</translation>
     </message>
     <message>
         <source>Waves</source>
-        <translation type="unfinished"></translation>
+        <translation>波形</translation>
     </message>
     <message>
         <source>Gateway</source>
-        <translation type="unfinished"></translation>
+        <translation>閘道器</translation>
     </message>
     <message>
         <source>The spectrum comes with a later version.</source>
-        <translation type="unfinished"></translation>
+        <translation>頻譜功能將於後續版本提供。</translation>
     </message>
     <message>
         <source>The 3D view comes with a later version.</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 檢視將於後續版本提供。</translation>
     </message>
     <message>
         <source>Recording comes with a later version.</source>
-        <translation type="unfinished"></translation>
+        <translation>資料記錄功能將於後續版本提供。</translation>
     </message>
     <message>
         <source>The firmware update comes with a later version.</source>
-        <translation type="unfinished"></translation>
+        <translation>韌體更新功能將於後續版本提供。</translation>
     </message>
     <message>
         <source>Other languages come with a later version.</source>
-        <translation type="unfinished"></translation>
+        <translation>其他語言將於後續版本提供。</translation>
     </message>
     <message>
         <source>Choose a serial port and connect (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>選擇序列埠並連線 (%1)</translation>
     </message>
     <message>
         <source>Close the serial port (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>關閉序列埠 (%1)</translation>
     </message>
     <message>
         <source>Plug in a module or a gateway, press &lt;b&gt;Open port&lt;/b&gt; (%1) and choose its serial port.</source>
-        <translation type="unfinished"></translation>
+        <translation>請接上模組或閘道器，按一下&lt;b&gt;開啟序列埠&lt;/b&gt; (%1)，然後選擇對應的序列埠。</translation>
     </message>
     <message>
         <source>The folder %1 cannot be written: settings and logs of this run are not kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>資料夾 %1 無法寫入：本次執行的設定與日誌將不會保留。</translation>
     </message>
     <message>
         <source>Connecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>正在連線...</translation>
     </message>
     <message>
         <source>Connected... %1, %2 baud</source>
-        <translation type="unfinished"></translation>
+        <translation>已連線：%1，鮑率 %2</translation>
     </message>
     <message>
         <source>Open Serial Port Error.</source>
-        <translation type="unfinished"></translation>
+        <translation>無法開啟序列埠。</translation>
     </message>
     <message>
         <source>Node ID:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>節點 ID：%1</translation>
     </message>
 </context>
 <context>
     <name>form_com_select</name>
     <message>
         <source>Open serial port</source>
-        <translation type="unfinished"></translation>
+        <translation>開啟序列埠</translation>
     </message>
     <message>
         <source>&amp;Serial ports</source>
-        <translation type="unfinished"></translation>
+        <translation>序列埠(&amp;S)</translation>
     </message>
     <message>
         <source>Serial ports</source>
-        <translation type="unfinished"></translation>
+        <translation>序列埠</translation>
     </message>
     <message>
         <source>Port</source>
-        <translation type="unfinished"></translation>
+        <translation>連接埠</translation>
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>描述</translation>
     </message>
     <message>
         <source>Maker</source>
-        <translation type="unfinished"></translation>
+        <translation>製造商</translation>
     </message>
     <message>
         <source>Serial number</source>
-        <translation type="unfinished"></translation>
+        <translation>序號</translation>
     </message>
     <message>
         <source>No serial port found</source>
-        <translation type="unfinished"></translation>
+        <translation>找不到序列埠</translation>
     </message>
     <message>
         <source>Plug the device in: it appears here by itself.
 
 To try the program without a device, start the simulator in a terminal with ./run or kv_simulator. It prints a path: type that below.</source>
-        <translation type="unfinished"></translation>
+        <translation>接上裝置後，序列埠會自動出現在這裡。
+
+如果沒有裝置，可在終端機以 ./run 或 kv_simulator 啟動模擬器來試用本程式。模擬器會顯示一個路徑，請將其填入下方。</translation>
     </message>
     <message>
         <source>&amp;Port or path</source>
-        <translation type="unfinished"></translation>
+        <translation>連接埠或路徑(&amp;P)</translation>
     </message>
     <message>
         <source>A port of the list, or a path typed by hand: a pseudo-terminal or a link to a device file</source>
-        <translation type="unfinished"></translation>
+        <translation>清單中的連接埠，或手動輸入的路徑：虛擬終端機或指向裝置檔案的連結</translation>
     </message>
     <message>
         <source>&amp;Baud rate</source>
-        <translation type="unfinished"></translation>
+        <translation>鮑率(&amp;B)</translation>
     </message>
     <message>
         <source>Bits per second, as set in the device</source>
-        <translation type="unfinished"></translation>
+        <translation>每秒位元數，須與裝置中的設定一致</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>開啟(&amp;O)</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>取消</translation>
     </message>
     <message>
         <source>Choose a port or type its path.</source>
-        <translation type="unfinished"></translation>
+        <translation>請選擇連接埠，或輸入其路徑。</translation>
     </message>
     <message>
         <source>%1 is not there at the moment. Plug the device in, or choose another port.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 目前不存在。請接上裝置，或選擇其他連接埠。</translation>
     </message>
     <message>
         <source>%1 is not a serial port.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 不是序列埠。</translation>
+    </message>
+</context>
+<context>
+    <name>form_record</name>
+    <message>
+        <source>Record to file</source>
+        <translation>記錄至檔案</translation>
+    </message>
+    <message>
+        <source>&amp;Folder</source>
+        <translation>資料夾(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>瀏覽(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation>名稱(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Elapsed time</source>
+        <translation>記錄時間</translation>
+    </message>
+    <message>
+        <source>Records</source>
+        <translation>記錄筆數</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>速率</translation>
+    </message>
+    <message>
+        <source>File size</source>
+        <translation>檔案大小</translation>
+    </message>
+    <message>
+        <source>Free on disk</source>
+        <translation>磁碟可用空間</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>檔案</translation>
+    </message>
+    <message>
+        <source>Show in f&amp;older</source>
+        <translation>在資料夾中顯示(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Opens the folder of the recording</source>
+        <translation>開啟記錄檔案所在的資料夾</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>關閉(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Type a name.</source>
+        <translation>請輸入名稱。</translation>
+    </message>
+    <message>
+        <source>This name is too long.</source>
+        <translation>名稱過長。</translation>
+    </message>
+    <message>
+        <source>A name cannot hold any of %1</source>
+        <translation>名稱不能包含下列任一字元：%1</translation>
+    </message>
+    <message>
+        <source>This name is reserved by some systems. Choose another one.</source>
+        <translation>此名稱是某些系統的保留名稱。請改用其他名稱。</translation>
+    </message>
+    <message>
+        <source>Folder for recordings</source>
+        <translation>選擇記錄資料夾</translation>
+    </message>
+    <message>
+        <source>Nothing is connected: open a serial port first.</source>
+        <translation>尚未連線：請先開啟序列埠。</translation>
+    </message>
+    <message>
+        <source>Choose a folder.</source>
+        <translation>請選擇資料夾。</translation>
+    </message>
+    <message>
+        <source>&amp;Stop recording</source>
+        <translation>停止記錄(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Start recording</source>
+        <translation>開始記錄(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Writes what has arrived and closes the file</source>
+        <translation>寫入已收到的資料並關閉檔案</translation>
+    </message>
+    <message>
+        <source>Writes every sample that arrives into a file</source>
+        <translation>將收到的每筆取樣寫入檔案</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>記錄中</translation>
+    </message>
+    <message>
+        <source>Recording ended: the port was closed</source>
+        <translation>記錄已結束：序列埠已關閉</translation>
+    </message>
+    <message>
+        <source>Recording stopped</source>
+        <translation>記錄已停止</translation>
+    </message>
+    <message>
+        <source>Not recording</source>
+        <translation>未在記錄</translation>
+    </message>
+    <message>
+        <source>Recording goes on when this window is closed.</source>
+        <translation>關閉此視窗後，記錄仍會繼續。</translation>
+    </message>
+    <message>
+        <source>Stop the recording to change this</source>
+        <translation>停止記錄後才能變更</translation>
+    </message>
+    <message>
+        <source>This folder was created for the recording.</source>
+        <translation>此資料夾是為本次記錄建立的。</translation>
+    </message>
+    <message>
+        <source>This folder does not exist yet: starting creates it.</source>
+        <translation>此資料夾尚不存在，開始記錄時會自動建立。</translation>
+    </message>
+    <message>
+        <source>Saved as %1; a new file begins every hour.</source>
+        <translation>儲存為 %1；每小時建立一個新檔案。</translation>
+    </message>
+    <message>
+        <source>%1 records/s</source>
+        <translation>%1 筆/秒</translation>
+    </message>
+    <message>
+        <source>%1, enough for days</source>
+        <translation>%1，可記錄數日</translation>
+    </message>
+    <message>
+        <source>%1, enough for %2 h</source>
+        <translation>%1，可記錄約 %2 小時</translation>
+    </message>
+    <message>
+        <source>%1, enough for %2 min</source>
+        <translation>%1，可記錄約 %2 分鐘</translation>
+    </message>
+    <message>
+        <source>%1 is a file, not a folder.</source>
+        <translation>%1 是檔案，不是資料夾。</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be created. Choose another one.</source>
+        <translation>無法建立資料夾 %1。請選擇其他資料夾。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>無法寫入 %1：%2</translation>
+    </message>
+    <message>
+        <source>The disk is too slow. Records dropped: %1</source>
+        <translation>磁碟速度過慢。已捨棄的記錄筆數：%1</translation>
+    </message>
+    <message>
+        <source>The file cannot be written: %1</source>
+        <translation>無法寫入檔案：%1</translation>
+    </message>
+    <message>
+        <source>Records that could not be written: %1</source>
+        <translation>未能寫入的記錄筆數：%1</translation>
+    </message>
+    <message>
+        <source>%1 has been deleted or moved. Stop and start again to record into a new file.</source>
+        <translation>%1 已被刪除或移動。請停止後重新開始，以記錄至新檔案。</translation>
+    </message>
+    <message>
+        <source>The disk is nearly full.</source>
+        <translation>磁碟空間即將用盡。</translation>
     </message>
 </context>
 <context>
     <name>form_settings</name>
     <message>
         <source>Device settings</source>
-        <translation type="unfinished"></translation>
+        <translation>裝置設定</translation>
     </message>
     <message>
         <source>Product</source>
-        <translation type="unfinished"></translation>
+        <translation>產品</translation>
     </message>
     <message>
         <source>&amp;Identify</source>
-        <translation type="unfinished"></translation>
+        <translation>識別(&amp;I)</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>型號</translation>
     </message>
     <message>
         <source>Build</source>
-        <translation type="unfinished"></translation>
+        <translation>組建</translation>
     </message>
     <message>
         <source>&amp;Module</source>
-        <translation type="unfinished"></translation>
+        <translation>模組(&amp;M)</translation>
     </message>
     <message>
         <source>&amp;Node ID</source>
-        <translation type="unfinished"></translation>
+        <translation>節點 ID(&amp;N)</translation>
     </message>
     <message>
         <source>Choose</source>
-        <translation type="unfinished"></translation>
+        <translation>請選擇</translation>
     </message>
     <message>
         <source>Number of the module in a radio network, 0 to 255</source>
-        <translation type="unfinished"></translation>
+        <translation>模組在無線網路中的編號，0 到 255</translation>
     </message>
     <message>
         <source>Output &amp;rate (Hz)</source>
-        <translation type="unfinished"></translation>
+        <translation>輸出頻率 (Hz)(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Attitude mode</source>
-        <translation type="unfinished"></translation>
+        <translation>姿態模式(&amp;A)</translation>
     </message>
     <message>
         <source>0: 6-axis, without magnetometer</source>
-        <translation type="unfinished"></translation>
+        <translation>0：6 軸，不使用磁力計</translation>
     </message>
     <message>
         <source>1: 9-axis, with magnetometer</source>
-        <translation type="unfinished"></translation>
+        <translation>1：9 軸，使用磁力計</translation>
     </message>
     <message>
         <source>Leave as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>維持不變</translation>
     </message>
     <message>
         <source>Which settings can be changed depends on the device. Connect it and identify it.</source>
-        <translation type="unfinished"></translation>
+        <translation>可變更的設定因裝置而異。請連接裝置並進行識別。</translation>
     </message>
     <message>
         <source>&amp;Save to device</source>
-        <translation type="unfinished"></translation>
+        <translation>儲存至裝置(&amp;S)</translation>
     </message>
     <message>
         <source>C&amp;ommands</source>
-        <translation type="unfinished"></translation>
+        <translation>命令(&amp;O)</translation>
     </message>
     <message>
         <source>Sent and received</source>
-        <translation type="unfinished"></translation>
+        <translation>收發記錄</translation>
     </message>
     <message>
         <source>&amp;Copy log</source>
-        <translation type="unfinished"></translation>
+        <translation>複製記錄(&amp;C)</translation>
     </message>
     <message>
         <source>Nothing sent yet</source>
-        <translation type="unfinished"></translation>
+        <translation>尚未傳送任何內容</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
-        <translation type="unfinished"></translation>
+        <translation>關閉(&amp;L)</translation>
     </message>
     <message>
         <source>Read info</source>
-        <translation type="unfinished"></translation>
+        <translation>讀取資訊</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>重置</translation>
     </message>
     <message>
         <source>Stop output</source>
-        <translation type="unfinished"></translation>
+        <translation>停止輸出</translation>
     </message>
     <message>
         <source>Resume output</source>
-        <translation type="unfinished"></translation>
+        <translation>恢復輸出</translation>
     </message>
     <message>
         <source>Save config</source>
-        <translation type="unfinished"></translation>
+        <translation>儲存組態</translation>
     </message>
     <message>
         <source>Log COM config</source>
-        <translation type="unfinished"></translation>
+        <translation>查詢序列埠組態</translation>
     </message>
     <message>
         <source>Log user config</source>
-        <translation type="unfinished"></translation>
+        <translation>查詢使用者組態</translation>
     </message>
     <message>
         <source>Log disable</source>
-        <translation type="unfinished"></translation>
+        <translation>停用日誌輸出</translation>
     </message>
     <message>
         <source>Reboot</source>
-        <translation type="unfinished"></translation>
+        <translation>重新啟動</translation>
     </message>
     <message>
         <source>No device identified</source>
-        <translation type="unfinished"></translation>
+        <translation>尚未識別裝置</translation>
     </message>
     <message>
         <source>Saving does not change the rate of this device.</source>
-        <translation type="unfinished"></translation>
+        <translation>儲存不會變更此裝置的輸出頻率。</translation>
     </message>
     <message>
         <source>Nothing is connected: open a serial port first.</source>
-        <translation type="unfinished"></translation>
+        <translation>尚未連線：請先開啟序列埠。</translation>
     </message>
     <message>
         <source>Waiting for the device: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>正在等待裝置：%1</translation>
     </message>
     <message>
         <source>Identify the device first.</source>
-        <translation type="unfinished"></translation>
+        <translation>請先識別裝置。</translation>
     </message>
     <message>
         <source>Choose a node ID first.</source>
-        <translation type="unfinished"></translation>
+        <translation>請先選擇節點 ID。</translation>
     </message>
     <message>
         <source>Choose an output rate first.</source>
-        <translation type="unfinished"></translation>
+        <translation>請先選擇輸出頻率。</translation>
     </message>
     <message>
         <source>Sends %1</source>
-        <translation type="unfinished"></translation>
+        <translation>傳送 %1</translation>
     </message>
     <message>
         <source>Stops the output, reads what the device is and resumes the output</source>
-        <translation type="unfinished"></translation>
+        <translation>停止輸出，讀取裝置資訊，然後恢復輸出</translation>
     </message>
     <message>
         <source>Writes these settings and restarts the device</source>
-        <translation type="unfinished"></translation>
+        <translation>寫入這些設定並重新啟動裝置</translation>
     </message>
     <message>
         <source>Saving restarts the device; this takes 2 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>儲存後裝置會重新啟動，約需 2 秒。</translation>
     </message>
 </context>
 <context>
     <name>port_choice</name>
     <message>
         <source>Enter a baud rate.</source>
-        <translation type="unfinished"></translation>
+        <translation>請輸入鮑率。</translation>
     </message>
     <message>
         <source>Enter a whole number, such as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>請輸入整數，例如 %1。</translation>
     </message>
     <message>
         <source>Too low: the lowest rate is %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>過低：鮑率不得低於 %1。</translation>
     </message>
     <message>
         <source>Too high: the highest rate is %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>過高：鮑率不得高於 %1。</translation>
+    </message>
+</context>
+<context>
+    <name>product_profile</name>
+    <message>
+        <source>Legacy Wireless Gateway (0x62/0x63)</source>
+        <translation>舊版無線閘道器 (0x62/0x63)</translation>
+    </message>
+    <message>
+        <source>Unknown Legacy Device</source>
+        <translation>未知的舊版裝置</translation>
+    </message>
+    <message>
+        <source>Unknown Mz14 Device</source>
+        <translation>未知的 Mz14 裝置</translation>
+    </message>
+    <message>
+        <source>Unknown Wireless Gateway (0x62/0x63)</source>
+        <translation>未知的無線閘道器 (0x62/0x63)</translation>
+    </message>
+    <message>
+        <source>Unknown Device</source>
+        <translation>未知的裝置</translation>
     </message>
 </context>
 <context>
     <name>serial_error_text</name>
     <message>
         <source>You are not allowed to open %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>沒有開啟 %1 的權限。</translation>
     </message>
     <message>
         <source>Ask the administrator of this computer for access.</source>
-        <translation type="unfinished"></translation>
+        <translation>請向這台電腦的系統管理員申請存取權限。</translation>
     </message>
     <message>
         <source>Run &quot;%1&quot; in a terminal, then log out and in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>請在終端機執行「%1」，然後登出再重新登入。</translation>
     </message>
     <message>
         <source>The connection to %1 was lost: the device was unplugged or switched off. Check the cable, then open the port again.</source>
-        <translation type="unfinished"></translation>
+        <translation>與 %1 的連線已中斷：裝置遭拔除或已關機。請檢查連接線，然後重新開啟序列埠。</translation>
     </message>
     <message>
         <source>%1 is not there. Check the cable and that the device is switched on.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 不存在。請檢查連接線，並確認裝置已開機。</translation>
     </message>
     <message>
         <source>Another program uses %1. Close it and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>其他程式正在使用 %1。請關閉該程式後再試一次。</translation>
     </message>
     <message>
         <source>%1 is open already.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 已經開啟。</translation>
     </message>
     <message>
         <source>%1 is not a serial port, or it does not support %2 baud. Choose another port or baud rate.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 不是序列埠，或不支援鮑率 %2。請選擇其他連接埠或鮑率。</translation>
     </message>
     <message>
         <source>%1 cannot be used (error %2). Unplug the device, plug it in again and retry.</source>
-        <translation type="unfinished"></translation>
+        <translation>無法使用 %1（錯誤 %2）。請拔下裝置，重新接上後再試一次。</translation>
     </message>
 </context>
 <context>
     <name>status_text</name>
     <message>
         <source>Unconnected...</source>
-        <translation type="unfinished"></translation>
+        <translation>未連線</translation>
     </message>
     <message>
         <source>Connected...</source>
-        <translation type="unfinished"></translation>
+        <translation>已連線</translation>
     </message>
     <message>
         <source>Using fallback product profile.</source>
-        <translation type="unfinished"></translation>
+        <translation>正在使用備用產品設定檔。</translation>
     </message>
     <message>
         <source>Product info deferred during live stream.</source>
-        <translation type="unfinished"></translation>
+        <translation>即時資料串流期間暫緩讀取產品資訊。</translation>
     </message>
     <message>
         <source>Product info pending...</source>
-        <translation type="unfinished"></translation>
+        <translation>正在等待產品資訊...</translation>
     </message>
     <message>
         <source>Single node (0x%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>單一節點 (0x%1)</translation>
     </message>
     <message>
         <source>Gateway (0x%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>閘道器 (0x%1)</translation>
     </message>
     <message>
         <source>Items %1</source>
-        <translation type="unfinished"></translation>
+        <translation>資料項目 %1</translation>
     </message>
     <message>
         <source>Connected.
 No frame stream detected.</source>
-        <translation type="unfinished"></translation>
+        <translation>已連線。
+未偵測到訊框串流。</translation>
     </message>
     <message>
         <source>Building connection...</source>
-        <translation type="unfinished"></translation>
+        <translation>正在建立連線...</translation>
     </message>
     <message>
         <source>[Serial]
 %1 %2
 </source>
-        <translation type="unfinished"></translation>
+        <translation>[序列埠]
+%1 %2
+</translation>
     </message>
     <message>
         <source>Protocol:</source>
-        <translation type="unfinished"></translation>
+        <translation>協定:</translation>
     </message>
     <message>
         <source>FrameRate:</source>
-        <translation type="unfinished"></translation>
+        <translation>訊框率:</translation>
     </message>
     <message>
         <source>Wireless</source>
-        <translation type="unfinished"></translation>
+        <translation>無線</translation>
     </message>
     <message>
         <source>DONGLE ID</source>
-        <translation type="unfinished"></translation>
+        <translation>接收器 ID</translation>
     </message>
     <message>
         <source>TOTAL OF NODE</source>
-        <translation type="unfinished"></translation>
+        <translation>節點總數</translation>
     </message>
 </context>
 </TS>
