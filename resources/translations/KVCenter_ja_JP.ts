@@ -5,7 +5,7 @@
     <name>ActionButton</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
@@ -31,11 +31,11 @@
     <name>GatewayDashboardBridge</name>
     <message>
         <source>%1 nodes, %2 late, %3 gone</source>
-        <translation type="unfinished"></translation>
+        <translation>ノード %1、遅延 %2、途絶 %3</translation>
     </message>
     <message>
         <source>Node %1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>ノード %1 · %2</translation>
     </message>
     <message>
         <source>Wireless Gateway Dashboard</source>
@@ -46,27 +46,27 @@
     <name>GatewayNodeModel</name>
     <message>
         <source>Live</source>
-        <translation type="unfinished"></translation>
+        <translation>受信中</translation>
     </message>
     <message>
         <source>Late</source>
-        <translation type="unfinished"></translation>
+        <translation>遅延</translation>
     </message>
     <message>
         <source>Gone</source>
-        <translation type="unfinished"></translation>
+        <translation>途絶</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 分</translation>
     </message>
 </context>
 <context>
@@ -578,75 +578,75 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <name>form_record</name>
     <message>
         <source>Record to file</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルに記録</translation>
     </message>
     <message>
         <source>&amp;Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダー(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
-        <translation type="unfinished"></translation>
+        <translation>参照(&amp;B)...</translation>
     </message>
     <message>
         <source>&amp;Name</source>
-        <translation type="unfinished"></translation>
+        <translation>名前(&amp;N)</translation>
     </message>
     <message>
         <source>Elapsed time</source>
-        <translation type="unfinished"></translation>
+        <translation>経過時間</translation>
     </message>
     <message>
         <source>Records</source>
-        <translation type="unfinished"></translation>
+        <translation>レコード数</translation>
     </message>
     <message>
         <source>Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>記録レート</translation>
     </message>
     <message>
         <source>File size</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルサイズ</translation>
     </message>
     <message>
         <source>Free on disk</source>
-        <translation type="unfinished"></translation>
+        <translation>ディスクの空き</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル</translation>
     </message>
     <message>
         <source>Show in f&amp;older</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダーを開く(&amp;O)</translation>
     </message>
     <message>
         <source>Opens the folder of the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>記録先のフォルダーを開きます</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる(&amp;C)</translation>
     </message>
     <message>
         <source>Type a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>名前を入力してください。</translation>
     </message>
     <message>
         <source>This name is too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>この名前は長すぎます。</translation>
     </message>
     <message>
         <source>A name cannot hold any of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>名前に次の文字は使えません: %1</translation>
     </message>
     <message>
         <source>This name is reserved by some systems. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>この名前は一部のシステムで予約されています。別の名前を指定してください。</translation>
     </message>
     <message>
         <source>Folder for recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>記録先のフォルダー</translation>
     </message>
     <message>
         <source>Nothing is connected: open a serial port first.</source>
@@ -654,107 +654,107 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>Choose a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダーを選択してください。</translation>
     </message>
     <message>
         <source>&amp;Stop recording</source>
-        <translation type="unfinished"></translation>
+        <translation>記録を停止(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Start recording</source>
-        <translation type="unfinished"></translation>
+        <translation>記録を開始(&amp;S)</translation>
     </message>
     <message>
         <source>Writes what has arrived and closes the file</source>
-        <translation type="unfinished"></translation>
+        <translation>受信済みのデータを書き込み、ファイルを閉じます</translation>
     </message>
     <message>
         <source>Writes every sample that arrives into a file</source>
-        <translation type="unfinished"></translation>
+        <translation>受信したすべてのサンプルをファイルに書き込みます</translation>
     </message>
     <message>
         <source>Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>記録中</translation>
     </message>
     <message>
         <source>Recording ended: the port was closed</source>
-        <translation type="unfinished"></translation>
+        <translation>ポートが閉じられたため、記録を終了しました</translation>
     </message>
     <message>
         <source>Recording stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>記録を停止しました</translation>
     </message>
     <message>
         <source>Not recording</source>
-        <translation type="unfinished"></translation>
+        <translation>記録していません</translation>
     </message>
     <message>
         <source>Recording goes on when this window is closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>このウィンドウを閉じても記録は続きます。</translation>
     </message>
     <message>
         <source>Stop the recording to change this</source>
-        <translation type="unfinished"></translation>
+        <translation>変更するには記録を停止してください</translation>
     </message>
     <message>
         <source>This folder was created for the recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>このフォルダーは記録用に作成されました。</translation>
     </message>
     <message>
         <source>This folder does not exist yet: starting creates it.</source>
-        <translation type="unfinished"></translation>
+        <translation>このフォルダーはまだありません。記録の開始時に作成されます。</translation>
     </message>
     <message>
         <source>Saved as %1; a new file begins every hour.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 として保存されます。ファイルは 1 時間ごとに新しくなります。</translation>
     </message>
     <message>
         <source>%1 records/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 件/秒</translation>
     </message>
     <message>
         <source>%1, enough for days</source>
-        <translation type="unfinished"></translation>
+        <translation>%1（数日以上記録可能）</translation>
     </message>
     <message>
         <source>%1, enough for %2 h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1（約 %2 時間記録可能）</translation>
     </message>
     <message>
         <source>%1, enough for %2 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1（約 %2 分間記録可能）</translation>
     </message>
     <message>
         <source>%1 is a file, not a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 はフォルダーではなくファイルです。</translation>
     </message>
     <message>
         <source>The folder %1 cannot be created. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダー %1 を作成できません。別のフォルダーを選択してください。</translation>
     </message>
     <message>
         <source>%1 cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 に書き込めません: %2</translation>
     </message>
     <message>
         <source>The disk is too slow. Records dropped: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ディスクの書き込みが追いつきません。破棄したレコード数: %1</translation>
     </message>
     <message>
         <source>The file cannot be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルに書き込めません: %1</translation>
     </message>
     <message>
         <source>Records that could not be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>書き込めなかったレコード数: %1</translation>
     </message>
     <message>
         <source>%1 has been deleted or moved. Stop and start again to record into a new file.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 が削除または移動されました。新しいファイルに記録するには、記録を停止してからもう一度開始してください。</translation>
     </message>
     <message>
         <source>The disk is nearly full.</source>
-        <translation type="unfinished"></translation>
+        <translation>ディスクの空き容量が残りわずかです。</translation>
     </message>
 </context>
 <context>
@@ -797,7 +797,7 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>Output &amp;rate (Hz)</source>
-        <translation>出力レート (Hz)(&amp;R)</translation>
+        <translation>出力レート(&amp;R) (Hz)</translation>
     </message>
     <message>
         <source>&amp;Attitude mode</source>
@@ -909,7 +909,7 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>Sends %1</source>
-        <translation>%1 を送信します</translation>
+        <translation>コマンド %1 を送信します</translation>
     </message>
     <message>
         <source>Stops the output, reads what the device is and resumes the output</source>
@@ -947,23 +947,23 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <name>product_profile</name>
     <message>
         <source>Legacy Wireless Gateway (0x62/0x63)</source>
-        <translation type="unfinished"></translation>
+        <translation>従来型無線ゲートウェイ (0x62/0x63)</translation>
     </message>
     <message>
         <source>Unknown Legacy Device</source>
-        <translation type="unfinished"></translation>
+        <translation>不明な従来型デバイス</translation>
     </message>
     <message>
         <source>Unknown Mz14 Device</source>
-        <translation type="unfinished"></translation>
+        <translation>不明な Mz14 デバイス</translation>
     </message>
     <message>
         <source>Unknown Wireless Gateway (0x62/0x63)</source>
-        <translation type="unfinished"></translation>
+        <translation>不明な無線ゲートウェイ (0x62/0x63)</translation>
     </message>
     <message>
         <source>Unknown Device</source>
-        <translation type="unfinished"></translation>
+        <translation>不明なデバイス</translation>
     </message>
 </context>
 <context>

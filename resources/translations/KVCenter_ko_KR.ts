@@ -5,7 +5,7 @@
     <name>ActionButton</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
@@ -31,11 +31,11 @@
     <name>GatewayDashboardBridge</name>
     <message>
         <source>%1 nodes, %2 late, %3 gone</source>
-        <translation type="unfinished"></translation>
+        <translation>노드 %1개, 지연 %2개, 끊김 %3개</translation>
     </message>
     <message>
         <source>Node %1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>노드 %1 · %2</translation>
     </message>
     <message>
         <source>Wireless Gateway Dashboard</source>
@@ -46,27 +46,27 @@
     <name>GatewayNodeModel</name>
     <message>
         <source>Live</source>
-        <translation type="unfinished"></translation>
+        <translation>수신 중</translation>
     </message>
     <message>
         <source>Late</source>
-        <translation type="unfinished"></translation>
+        <translation>지연</translation>
     </message>
     <message>
         <source>Gone</source>
-        <translation type="unfinished"></translation>
+        <translation>끊김</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1분</translation>
     </message>
 </context>
 <context>
@@ -364,7 +364,7 @@
     </message>
     <message>
         <source>Copy all values of the selected node to the clipboard</source>
-        <translation>선택한 노드의 모든 값을 클립보드에 복사</translation>
+        <translation>선택한 노드의 모든 값을 클립보드에 복사합니다</translation>
     </message>
     <message>
         <source>&amp;Small</source>
@@ -392,7 +392,7 @@
     </message>
     <message>
         <source>Identify and configure the device (Ctrl+E)</source>
-        <translation>장치 식별 및 설정 (Ctrl+E)</translation>
+        <translation>장치를 식별하고 설정합니다 (Ctrl+E)</translation>
     </message>
     <message>
         <source>&amp;Firmware update...</source>
@@ -464,11 +464,11 @@
     </message>
     <message>
         <source>Choose a serial port and connect (%1)</source>
-        <translation>시리얼 포트를 선택하여 연결 (%1)</translation>
+        <translation>시리얼 포트를 선택하여 연결합니다 (%1)</translation>
     </message>
     <message>
         <source>Close the serial port (%1)</source>
-        <translation>시리얼 포트 닫기 (%1)</translation>
+        <translation>시리얼 포트를 닫습니다 (%1)</translation>
     </message>
     <message>
         <source>Plug in a module or a gateway, press &lt;b&gt;Open port&lt;/b&gt; (%1) and choose its serial port.</source>
@@ -578,75 +578,75 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <name>form_record</name>
     <message>
         <source>Record to file</source>
-        <translation type="unfinished"></translation>
+        <translation>파일로 기록</translation>
     </message>
     <message>
         <source>&amp;Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>폴더(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
-        <translation type="unfinished"></translation>
+        <translation>찾아보기(&amp;B)...</translation>
     </message>
     <message>
         <source>&amp;Name</source>
-        <translation type="unfinished"></translation>
+        <translation>이름(&amp;N)</translation>
     </message>
     <message>
         <source>Elapsed time</source>
-        <translation type="unfinished"></translation>
+        <translation>경과 시간</translation>
     </message>
     <message>
         <source>Records</source>
-        <translation type="unfinished"></translation>
+        <translation>레코드 수</translation>
     </message>
     <message>
         <source>Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>기록 속도</translation>
     </message>
     <message>
         <source>File size</source>
-        <translation type="unfinished"></translation>
+        <translation>파일 크기</translation>
     </message>
     <message>
         <source>Free on disk</source>
-        <translation type="unfinished"></translation>
+        <translation>디스크 여유 공간</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>파일</translation>
     </message>
     <message>
         <source>Show in f&amp;older</source>
-        <translation type="unfinished"></translation>
+        <translation>폴더 열기(&amp;O)</translation>
     </message>
     <message>
         <source>Opens the folder of the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>기록 파일이 있는 폴더를 엽니다</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>닫기(&amp;C)</translation>
     </message>
     <message>
         <source>Type a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>이름을 입력하십시오.</translation>
     </message>
     <message>
         <source>This name is too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>이름이 너무 깁니다.</translation>
     </message>
     <message>
         <source>A name cannot hold any of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>이름에 사용할 수 없는 문자: %1</translation>
     </message>
     <message>
         <source>This name is reserved by some systems. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>일부 시스템에서 예약된 이름입니다. 다른 이름을 지정하십시오.</translation>
     </message>
     <message>
         <source>Folder for recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>기록 폴더</translation>
     </message>
     <message>
         <source>Nothing is connected: open a serial port first.</source>
@@ -654,107 +654,107 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>Choose a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>폴더를 선택하십시오.</translation>
     </message>
     <message>
         <source>&amp;Stop recording</source>
-        <translation type="unfinished"></translation>
+        <translation>기록 중지(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Start recording</source>
-        <translation type="unfinished"></translation>
+        <translation>기록 시작(&amp;S)</translation>
     </message>
     <message>
         <source>Writes what has arrived and closes the file</source>
-        <translation type="unfinished"></translation>
+        <translation>수신한 데이터를 쓰고 파일을 닫습니다</translation>
     </message>
     <message>
         <source>Writes every sample that arrives into a file</source>
-        <translation type="unfinished"></translation>
+        <translation>수신하는 모든 샘플을 파일에 씁니다</translation>
     </message>
     <message>
         <source>Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>기록 중</translation>
     </message>
     <message>
         <source>Recording ended: the port was closed</source>
-        <translation type="unfinished"></translation>
+        <translation>포트가 닫혀 기록이 종료됨</translation>
     </message>
     <message>
         <source>Recording stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>기록 중지됨</translation>
     </message>
     <message>
         <source>Not recording</source>
-        <translation type="unfinished"></translation>
+        <translation>기록하지 않음</translation>
     </message>
     <message>
         <source>Recording goes on when this window is closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 창을 닫아도 기록은 계속됩니다.</translation>
     </message>
     <message>
         <source>Stop the recording to change this</source>
-        <translation type="unfinished"></translation>
+        <translation>변경하려면 기록을 중지하십시오</translation>
     </message>
     <message>
         <source>This folder was created for the recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 폴더는 기록을 위해 생성되었습니다.</translation>
     </message>
     <message>
         <source>This folder does not exist yet: starting creates it.</source>
-        <translation type="unfinished"></translation>
+        <translation>아직 없는 폴더입니다. 기록을 시작하면 생성됩니다.</translation>
     </message>
     <message>
         <source>Saved as %1; a new file begins every hour.</source>
-        <translation type="unfinished"></translation>
+        <translation>저장 이름: %1. 1시간마다 새 파일이 시작됩니다.</translation>
     </message>
     <message>
         <source>%1 records/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1건/초</translation>
     </message>
     <message>
         <source>%1, enough for days</source>
-        <translation type="unfinished"></translation>
+        <translation>%1(며칠 이상 기록 가능)</translation>
     </message>
     <message>
         <source>%1, enough for %2 h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1(약 %2시간 기록 가능)</translation>
     </message>
     <message>
         <source>%1, enough for %2 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1(약 %2분 기록 가능)</translation>
     </message>
     <message>
         <source>%1 is a file, not a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>폴더가 아니라 파일입니다: %1</translation>
     </message>
     <message>
         <source>The folder %1 cannot be created. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 폴더를 만들 수 없습니다. 다른 폴더를 선택하십시오.</translation>
     </message>
     <message>
         <source>%1 cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 파일에 쓸 수 없습니다: %2</translation>
     </message>
     <message>
         <source>The disk is too slow. Records dropped: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>디스크 쓰기 속도가 너무 느립니다. 버려진 레코드 수: %1</translation>
     </message>
     <message>
         <source>The file cannot be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>파일에 쓸 수 없습니다: %1</translation>
     </message>
     <message>
         <source>Records that could not be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>쓰지 못한 레코드 수: %1</translation>
     </message>
     <message>
         <source>%1 has been deleted or moved. Stop and start again to record into a new file.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 파일이 삭제되거나 이동되었습니다. 새 파일에 기록하려면 기록을 중지한 다음 다시 시작하십시오.</translation>
     </message>
     <message>
         <source>The disk is nearly full.</source>
-        <translation type="unfinished"></translation>
+        <translation>디스크 여유 공간이 거의 없습니다.</translation>
     </message>
 </context>
 <context>
@@ -797,7 +797,7 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>Output &amp;rate (Hz)</source>
-        <translation>출력 속도 (Hz)(&amp;R)</translation>
+        <translation>출력 속도(&amp;R) (Hz)</translation>
     </message>
     <message>
         <source>&amp;Attitude mode</source>
@@ -873,7 +873,7 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>Log disable</source>
-        <translation>로그 해제</translation>
+        <translation>로그 끄기</translation>
     </message>
     <message>
         <source>Reboot</source>
@@ -909,7 +909,7 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>Sends %1</source>
-        <translation>%1 전송</translation>
+        <translation>%1 명령을 전송합니다</translation>
     </message>
     <message>
         <source>Stops the output, reads what the device is and resumes the output</source>
@@ -917,7 +917,7 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>Writes these settings and restarts the device</source>
-        <translation>이 설정을 기록하고 장치를 다시 시작합니다</translation>
+        <translation>이 설정을 장치에 쓰고 장치를 다시 시작합니다</translation>
     </message>
     <message>
         <source>Saving restarts the device; this takes 2 seconds.</source>
@@ -947,23 +947,23 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <name>product_profile</name>
     <message>
         <source>Legacy Wireless Gateway (0x62/0x63)</source>
-        <translation type="unfinished"></translation>
+        <translation>구형 무선 게이트웨이 (0x62/0x63)</translation>
     </message>
     <message>
         <source>Unknown Legacy Device</source>
-        <translation type="unfinished"></translation>
+        <translation>알 수 없는 구형 장치</translation>
     </message>
     <message>
         <source>Unknown Mz14 Device</source>
-        <translation type="unfinished"></translation>
+        <translation>알 수 없는 Mz14 장치</translation>
     </message>
     <message>
         <source>Unknown Wireless Gateway (0x62/0x63)</source>
-        <translation type="unfinished"></translation>
+        <translation>알 수 없는 무선 게이트웨이 (0x62/0x63)</translation>
     </message>
     <message>
         <source>Unknown Device</source>
-        <translation type="unfinished"></translation>
+        <translation>알 수 없는 장치</translation>
     </message>
 </context>
 <context>
