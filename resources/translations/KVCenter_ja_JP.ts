@@ -9,6 +9,35 @@
     </message>
 </context>
 <context>
+    <name>ChartFilterRow</name>
+    <message>
+        <source>Low-pass filter</source>
+        <translation>ローパスフィルター</translation>
+    </message>
+    <message>
+        <source>Cutoff frequency</source>
+        <translation>カットオフ周波数</translation>
+    </message>
+</context>
+<context>
+    <name>ChartLegendEntry</name>
+    <message>
+        <source>Hide %1</source>
+        <translation>%1 を非表示</translation>
+    </message>
+    <message>
+        <source>Show %1</source>
+        <translation>%1 を表示</translation>
+    </message>
+</context>
+<context>
+    <name>ChartReadout</name>
+    <message>
+        <source>t %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>CommandSession</name>
     <message>
         <source>The device does not answer. Check the baud rate, then identify it again.</source>
@@ -164,6 +193,65 @@
     <message>
         <source>No attitude</source>
         <translation>姿勢データなし</translation>
+    </message>
+</context>
+<context>
+    <name>WaveChart</name>
+    <message>
+        <source>Waiting for samples</source>
+        <translation>サンプルを待っています</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>最新へ</translation>
+    </message>
+    <message>
+        <source>Back to the newest samples</source>
+        <translation>最新のサンプルに戻る</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>Low-pass filter</source>
+        <translation>ローパスフィルター</translation>
+    </message>
+    <message>
+        <source>Remove the measuring cursors</source>
+        <translation>測定カーソルを消去</translation>
+    </message>
+    <message>
+        <source>Measure between two cursors</source>
+        <translation>2 本のカーソル間を測定</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>A, B</source>
+        <translation>A, B</translation>
+    </message>
+    <message>
+        <source>Reset the view</source>
+        <translation>表示範囲をリセット</translation>
+    </message>
+    <message>
+        <source>Save a picture of the chart</source>
+        <translation>グラフの画像を保存</translation>
+    </message>
+    <message>
+        <source>Save the visible samples</source>
+        <translation>表示中のサンプルを保存</translation>
+    </message>
+    <message>
+        <source>Show all charts</source>
+        <translation>すべてのグラフを表示</translation>
+    </message>
+    <message>
+        <source>Show this chart alone</source>
+        <translation>このグラフだけを表示</translation>
     </message>
 </context>
 <context>
@@ -597,10 +685,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <translation>経過時間</translation>
     </message>
     <message>
-        <source>Records</source>
-        <translation>レコード数</translation>
-    </message>
-    <message>
         <source>Rate</source>
         <translation>記録レート</translation>
     </message>
@@ -755,6 +839,14 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>The disk is nearly full.</source>
         <translation>ディスクの空き容量が残りわずかです。</translation>
+    </message>
+    <message>
+        <source>Records written</source>
+        <translation>書き込み済みレコード数</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be shown.</source>
+        <translation>フォルダー %1 を開けません。</translation>
     </message>
 </context>
 <context>

@@ -9,6 +9,35 @@
     </message>
 </context>
 <context>
+    <name>ChartFilterRow</name>
+    <message>
+        <source>Low-pass filter</source>
+        <translation>저역 통과 필터</translation>
+    </message>
+    <message>
+        <source>Cutoff frequency</source>
+        <translation>차단 주파수</translation>
+    </message>
+</context>
+<context>
+    <name>ChartLegendEntry</name>
+    <message>
+        <source>Hide %1</source>
+        <translation>%1 숨기기</translation>
+    </message>
+    <message>
+        <source>Show %1</source>
+        <translation>%1 표시</translation>
+    </message>
+</context>
+<context>
+    <name>ChartReadout</name>
+    <message>
+        <source>t %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>CommandSession</name>
     <message>
         <source>The device does not answer. Check the baud rate, then identify it again.</source>
@@ -164,6 +193,65 @@
     <message>
         <source>No attitude</source>
         <translation>자세 데이터 없음</translation>
+    </message>
+</context>
+<context>
+    <name>WaveChart</name>
+    <message>
+        <source>Waiting for samples</source>
+        <translation>샘플을 기다리는 중</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>최신으로</translation>
+    </message>
+    <message>
+        <source>Back to the newest samples</source>
+        <translation>최신 샘플로 돌아가기</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>Low-pass filter</source>
+        <translation>저역 통과 필터</translation>
+    </message>
+    <message>
+        <source>Remove the measuring cursors</source>
+        <translation>측정 커서 지우기</translation>
+    </message>
+    <message>
+        <source>Measure between two cursors</source>
+        <translation>두 커서 사이 측정</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>A, B</source>
+        <translation>A, B</translation>
+    </message>
+    <message>
+        <source>Reset the view</source>
+        <translation>보기 초기화</translation>
+    </message>
+    <message>
+        <source>Save a picture of the chart</source>
+        <translation>그래프 이미지 저장</translation>
+    </message>
+    <message>
+        <source>Save the visible samples</source>
+        <translation>표시된 샘플 저장</translation>
+    </message>
+    <message>
+        <source>Show all charts</source>
+        <translation>모든 그래프 표시</translation>
+    </message>
+    <message>
+        <source>Show this chart alone</source>
+        <translation>이 그래프만 표시</translation>
     </message>
 </context>
 <context>
@@ -597,10 +685,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <translation>경과 시간</translation>
     </message>
     <message>
-        <source>Records</source>
-        <translation>레코드 수</translation>
-    </message>
-    <message>
         <source>Rate</source>
         <translation>기록 속도</translation>
     </message>
@@ -755,6 +839,14 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>The disk is nearly full.</source>
         <translation>디스크 여유 공간이 거의 없습니다.</translation>
+    </message>
+    <message>
+        <source>Records written</source>
+        <translation>기록된 레코드 수</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be shown.</source>
+        <translation>%1 폴더를 열 수 없습니다.</translation>
     </message>
 </context>
 <context>
