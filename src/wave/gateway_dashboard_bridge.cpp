@@ -30,7 +30,7 @@ QString GatewayDashboardBridge::summary() const
         late += node.state == NodeState::Late;
         gone += node.state == NodeState::Gone;
     }
-    return tr("%1 nodes, %2 late, %3 gone").arg(nodeCount()).arg(late).arg(gone);
+    return tr("Nodes %1 · late %2 · gone %3").arg(nodeCount()).arg(late).arg(gone);
 }
 
 QList<int> GatewayDashboardBridge::chosenNodes() const

@@ -38,16 +38,17 @@ void GatewayNodeTracker::addSample(Node &node, const GatewaySample &sample, qint
     if (node.heard && (hasClock != node.hasClock || node.hasNodeTime != sample.hasNodeTime))
         node.stepCount = 0;
     const ClockStep step = ClockStep::between(node.stampMs, sample.timestampMs);
-    if (hadClock && step.kind == ClockStep::Forward) {
+    if (hadClock && sample.timestampMs != 0 && step.kind == ClockStep::Forward) {
         // Counted before the step itself is part of the period.
         const double period = periodMs(node);
         if (node.stepCount >= kKnownSteps && step.ms > kGap * period)
             node.missing += quint64(std::lround(step.ms / period) - 1);
         addStep(node, step.ms);
     } else if (!hasClock && node.heard) {
+        // Without a clock the arrival has to do.
         addStep(node, quint32(std::clamp<qint64>(hostMs - node.heardMs, 0, ClockStep::kMaxStepMs)));
     }
-    if (!hadClock || step.kind != ClockStep::Repeated)
+    if (sample.timestampMs != 0 && (!hadClock || step.kind != ClockStep::Repeated))
         node.stampMs = sample.timestampMs;
     node.hasClock = hasClock;
     node.hasNodeTime = sample.hasNodeTime;

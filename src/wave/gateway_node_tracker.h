@@ -22,7 +22,7 @@ struct GatewayNodeStatus
     bool hasClock = false; ///< the samples carry time stamps, so that `missing` means something
     float temperature = 0; ///< degrees Celsius, if `fields` has it
     float pressure = 0;    ///< Pa, if `fields` has it
-    SampleFields fields;   ///< what the newest sample carries
+    SampleFields fields{}; ///< what the newest sample carries
 
     bool operator==(const GatewayNodeStatus &) const = default;
 };

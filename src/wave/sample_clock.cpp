@@ -13,12 +13,15 @@ ClockStep ClockStep::between(quint32 previousMs, quint32 stampMs)
 
 quint32 SampleClock::next(quint32 deviceMs, unsigned int nominalPeriodMs)
 {
-    const bool noClock = deviceMs == 0 && m_deviceMs == 0;
     const ClockStep step = ClockStep::between(m_deviceMs, deviceMs);
     if (!m_hasSample) {
-        m_timeMs = noClock ? 0 : 1;
+        m_timeMs = deviceMs == 0 ? 0 : 1;
         m_deviceMs = deviceMs;
-    } else if (noClock || !m_hasClock || step.kind == ClockStep::Jump) {
+    } else if (deviceMs == 0) {
+        // The stamp that it should have carried, so that a clock that goes on afterwards fits.
+        m_timeMs += nominalPeriodMs;
+        m_deviceMs += nominalPeriodMs;
+    } else if (!m_hasClock || step.kind == ClockStep::Jump) {
         m_timeMs += nominalPeriodMs;
         m_deviceMs = deviceMs;
     } else if (step.kind == ClockStep::Forward) {

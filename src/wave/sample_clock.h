@@ -24,9 +24,9 @@ struct ClockStep
 class SampleClock
 {
 public:
-    /// The stamp of the next sample. `nominalPeriodMs` stands in where the clock says nothing: at a jump, and for a
-    /// stamp of 0 that repeats. A repeated stamp gives the last time again. 0, which means "no clock", comes as long as
-    /// the device sent nothing else, and once the time no longer fits 32 bits (after 49 days).
+    /// The stamp of the next sample. `nominalPeriodMs` stands in where the clock says nothing: at a jump and for a
+    /// sample stamped 0. A repeated stamp gives the last time again. 0, which means "no clock", comes as long as the
+    /// device sent nothing else, and once the time no longer fits 32 bits (after 49 days).
     quint32 next(quint32 deviceMs, unsigned int nominalPeriodMs);
     void reset() { *this = {}; }
 

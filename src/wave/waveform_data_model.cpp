@@ -294,7 +294,7 @@ int WaveformDataModel::bucketPoints(int channel, int first, int last, int maxPoi
     }
     if (maxPoints == 1)
         return 0;
-    const int buckets = maxPoints / 2;
+    const int buckets = maxPoints / 2; // of at least two samples, as the budget is below their number
     const double step = double(n) / buckets;
     const double *values = m_values.at(channel).constData();
     out.resize(2 * qsizetype(buckets));
@@ -303,12 +303,6 @@ int WaveformDataModel::bucketPoints(int channel, int first, int last, int maxPoi
     for (int bucket = 0; bucket < buckets; ++bucket) {
         const int from = first + int(bucket * step);
         const int to = std::min(first + int((bucket + 1) * step), last);
-        if (from >= to)
-            continue;
-        if (to - from == 1) {
-            *point++ = QPointF(xAt(from), values[slotAt(from)]);
-            continue;
-        }
         const int start = m_head + from;
         const int stop = m_head + to;
         const int wrapped = std::max(start - kCapacity, 0);

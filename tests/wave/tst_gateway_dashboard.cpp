@@ -1,0 +1,296 @@
+#include <QAbstractItemModelTester>
+#include <QPointer>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <algorithm>
+#include <cmath>
+
+#include "wave/gateway_dashboard_bridge.h"
+
+namespace {
+
+constexpr SampleFields kFull = SampleField::Acceleration | SampleField::Temperature | SampleField::Pressure;
+
+GatewaySample sampleOf(int id, unsigned int stampMs = 0)
+{
+    GatewaySample sample{.timestampMs = stampMs, .hasNodeTime = true, .fields = kFull};
+    sample.node.id = quint8(id);
+    sample.node.acc[0] = 3;
+    sample.node.acc[1] = 4;
+    return sample;
+}
+
+QString text(const GatewayNodeModel &model, int row, int role)
+{
+    return model.data(model.index(row), role).toString();
+}
+
+} // namespace
+
+class TestGatewayDashboard : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void followsTheDeviceClock()
+    {
+        // Stamps of the device, times of the chart; the nominal period is 10 ms.
+        const std::pair<QList<quint32>, QList<quint32>> rows[] = {
+            {{0, 0, 0}, {0, 0, 0}},
+            {{500, 510, 512}, {1, 11, 13}},
+            {{500, 500, 490, 510}, {1, 1, 1, 11}},
+            {{4294967290U, 5}, {1, 12}},
+            {{100, 60100, 120101}, {1, 60001, 60011}},
+            {{5000, 4001, 5001}, {1, 1, 2}},
+            {{5000, 4000, 4010}, {1, 11, 21}},
+            {{5000, 3000000000U, 3000000001U}, {1, 11, 12}},
+            {{0, 0, 7, 17}, {0, 0, 20, 30}},         // a clock that starts late
+            {{50000, 0, 0, 50030}, {1, 11, 21, 31}}, // and one that pauses
+            {{4294967290U, 0, 10}, {1, 11, 17}},     // 0 as the wrap's own stamp
+        };
+        for (const auto &[stamps, expected] : rows) {
+            SampleClock clock;
+            for (int round = 0; round < 2; ++round) {
+                QList<quint32> times;
+                for (const quint32 stamp : stamps)
+                    times += clock.next(stamp, 10);
+                QCOMPARE(times, expected);
+                clock.reset();
+            }
+        }
+    }
+
+    void saysNoClockAfterFortyNineDays()
+    {
+        SampleClock clock;
+        for (quint32 i = 0; i < 71583; ++i)
+            QVERIFY(clock.next(1 + i * 60000, 10) != 0); // the last at 1 + 71582 * 60000 = 4294920001 ms
+        QCOMPARE(clock.next(1 + 71583U * 60000, 10), 0U);
+    }
+
+    void takesBatchesApart()
+    {
+        DecodedFrame frame;
+        frame.gw_ts_ms = 77;
+        frame.nodes.resize(2);
+        frame.nodes[1].sample.time_ms = 9;
+        frame.nodes[1].sample.id = 3;
+        // Family, tag, samples, stamp and its kind, temperature carried.
+        const std::tuple<int, QByteArray, int, unsigned int, bool, bool> rows[] = {
+            {frame_family::GatewayBatch62, "\x62", 2, 9, true, true},
+            {frame_family::GatewayBatch63, "\x63", 2, 77, false, false},
+            {frame_family::SingleNode, "\x91", 0, 0, false, false}};
+        for (const auto &[family, tags, count, stamp, own, temperature] : rows) {
+            frame.family = family;
+            frame.item_tags = tags;
+            const QList<GatewaySample> samples = gatewaySamples(frame);
+            QCOMPARE(samples.size(), count);
+            const GatewaySample last = samples.value(1);
+            QCOMPARE(std::tuple(last.timestampMs, last.hasNodeTime), std::tuple(stamp, own));
+            QCOMPARE(bool(last.fields & SampleField::Temperature), temperature);
+        }
+    }
+
+    void tellsLateFromGone()
+    {
+        const std::tuple<int, int, NodeState> rows[] = {{10, 500, NodeState::Live},    {10, 501, NodeState::Late},
+                                                        {10, 2000, NodeState::Late},   {10, 2001, NodeState::Gone},
+                                                        {1000, 3000, NodeState::Live}, {1000, 3001, NodeState::Late},
+                                                        {1000, 6000, NodeState::Late}, {1000, 6001, NodeState::Gone}};
+        for (const auto &[period, age, state] : rows) {
+            for (const bool stamped : {true, false}) { // arrivals serve where there is no clock
+                GatewayNodeTracker tracker;
+                for (int i = 1; i <= 8; ++i)
+                    tracker.addSamples({sampleOf(1, stamped ? unsigned(i * period) : 0)}, i * period);
+                QCOMPARE(tracker.nodes(8 * period + age).first().state, state);
+                QCOMPARE(tracker.nodes(8 * period + age).first().ageMs, age);
+            }
+        }
+    }
+
+    void measuresRates()
+    {
+        GatewayNodeTracker tracker;
+        qint64 now = 1000;
+        const auto run = [&](int samples) {
+            for (int i = 0; i < samples; ++i, now += 20)
+                tracker.addSamples({sampleOf(1)}, now);
+            return tracker.nodes(now).first().rateHz;
+        };
+        QCOMPARE(run(15), 0.0); // 300 ms are too short to say
+        QCOMPARE(run(35), 50.0);
+        QCOMPARE(run(150), 50.0);
+        QCOMPARE(tracker.nodes(now + 1000).first().rateHz, 25.0);
+        QCOMPARE(tracker.nodes(now + 60000).first().rateHz, 0.0);
+        now += 60000;
+        QCOMPARE(run(50), 50.0); // since it came back
+    }
+
+    void countsMissingSamples()
+    {
+        // Steps between stamps after ten steps of 10 ms, samples missing.
+        const std::pair<QList<int>, quint64> rows[] = {
+            {{10, 10, 10}, 0},      {{30, 10}, 2}, {{15, 5, 9, 11}, 0}, {{16}, 1}, {{0, 0, 10}, 0}, // doubled
+            {{20, -10, 20, 10}, 1}, // overtaken: told as missing, the late one takes nothing back
+            {{-5000, 10, 20}, 1},   // the clock was set back
+            {{70000, 10, 20}, 1},   // and ahead
+            {{60000}, 5999},
+        };
+        for (const auto &[steps, missing] : rows) {
+            GatewayNodeTracker tracker;
+            quint32 stamp = 4294967250U; // the wrap is no gap
+            const auto add = [&](int step) { tracker.addSamples({sampleOf(1, stamp += quint32(step))}, 0); };
+            for (int i = 0; i < 11; ++i)
+                add(10);
+            std::for_each(steps.begin(), steps.end(), add);
+            QCOMPARE(tracker.nodes(0).first().missing, missing);
+        }
+        GatewayNodeTracker fast; // 400 Hz in whole milliseconds: one at 17.5 is missing
+        for (const unsigned int stamp : {2, 5, 7, 10, 12, 15, 20, 22})
+            fast.addSamples({sampleOf(1, stamp)}, 0);
+        QCOMPARE(fast.nodes(0).first().missing, 1U);
+        GatewaySample other = sampleOf(1, 5000);
+        other.hasNodeTime = false; // another clock, no gap
+        fast.addSamples({other}, 0);
+        QCOMPARE(fast.nodes(0).first().missing, 1U);
+    }
+
+    void listsNodesById()
+    {
+        GatewayNodeModel model;
+        const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QSignalSpy inserts(&model, &GatewayNodeModel::rowsInserted);
+        QSignalSpy changes(&model, &GatewayNodeModel::dataChanged);
+        const auto update = [&model](const QList<int> &ids, qint64 ageOfTheLast) {
+            QList<GatewayNodeStatus> nodes;
+            for (const int id : ids)
+                nodes.append(GatewayNodeStatus{.id = quint8(id)});
+            nodes.last().ageMs = ageOfTheLast;
+            model.update(nodes);
+        };
+        update({5}, 1);
+        update({2, 5, 200}, 1);
+        QCOMPARE(inserts.count(), 3);
+        QCOMPARE(changes.count(), 1); // 5 is no longer the last
+        update({2, 5, 200}, 2);
+        update({2, 5, 200}, 2);
+        QCOMPARE(changes.count(), 2);
+        QCOMPARE(changes.last().at(0).toModelIndex().row(), 2);
+        model.setChosen({5});
+        QList<std::pair<int, bool>> rows;
+        for (int row = 0; row < model.rowCount(); ++row) {
+            const QModelIndex index = model.index(row);
+            rows.append(
+                {index.data(GatewayNodeModel::NodeIdRole).toInt(), index.data(GatewayNodeModel::ChosenRole).toBool()});
+        }
+        QCOMPARE(rows, (QList<std::pair<int, bool>>{{2, false}, {5, true}, {200, false}}));
+    }
+
+    void showsValuesWithADashForTheUnknown()
+    {
+        const auto fields = SampleField::Temperature | SampleField::Pressure;
+        // State, age, missing, temperature and pressure as texts.
+        const std::pair<GatewayNodeStatus, QString> rows[] = {{{}, QStringLiteral("Gone – – – –")},
+                                                              {{.state = NodeState::Live,
+                                                                .ageMs = 12,
+                                                                .missing = 3,
+                                                                .hasClock = true,
+                                                                .temperature = 25.26F,
+                                                                .pressure = 101325.4F,
+                                                                .fields = fields},
+                                                               QStringLiteral("Live 12 ms 3 25.3 101325")},
+                                                              {{.state = NodeState::Late,
+                                                                .ageMs = 1240,
+                                                                .temperature = std::nanf(""),
+                                                                .pressure = 3e38F,
+                                                                .fields = fields},
+                                                               QStringLiteral("Late 1.2 s – – 3e+38")},
+                                                              {{.ageMs = 124000}, QStringLiteral("Gone 2 min – – –")}};
+        for (const auto &[status, expected] : rows) {
+            GatewayNodeModel model;
+            model.update({status});
+            QStringList texts;
+            for (const int role :
+                 {GatewayNodeModel::StateTextRole, GatewayNodeModel::AgeTextRole, GatewayNodeModel::MissingTextRole,
+                  GatewayNodeModel::TemperatureTextRole, GatewayNodeModel::PressureTextRole})
+                texts += text(model, 0, role);
+            QCOMPARE(texts.join(u' '), expected);
+        }
+    }
+
+    void choosesNodesAndTypes()
+    {
+        GatewayDashboardBridge bridge;
+        QSignalSpy changes(&bridge, &GatewayDashboardBridge::panesChanged);
+        const auto panes = [&bridge] {
+            QStringList list;
+            for (const QVariant &pane : bridge.panes())
+                list += pane.toMap().value(QStringLiteral("nodeId")).toString()
+                        + pane.toMap().value(QStringLiteral("type")).toString();
+            return list.join(u' ') + u'/' + QString::number(bridge.paneColumns());
+        };
+        bridge.setNodeChosen(9, true);
+        bridge.setNodeChosen(9, true);
+        bridge.setNodeChosen(2, true);
+        QCOMPARE(changes.count(), 2);
+        QCOMPARE(panes(), QLatin1String("2acc 9acc/1"));
+        bridge.setTypeSelected(QStringLiteral("prs"), true);
+        bridge.setTypeSelected(QStringLiteral("xyz"), true);
+        QCOMPARE(panes(), QLatin1String("2acc 9acc 2prs 9prs/2"));
+        bridge.setNodeChosen(255, true);
+        QCOMPARE(panes(), QLatin1String("2acc 2prs 9acc 9prs 255acc 255prs/2"));
+        QVERIFY(!bridge.setNodeChosen(256, true) && !bridge.setNodeChosen(-1, true));
+        QVERIFY(bridge.setNodeChosen(0, true) && !bridge.setNodeChosen(1, true));
+        QCOMPARE(bridge.chosenNodes(), QList<int>({0, 2, 9, 255}));
+        bridge.setTypeSelected(QStringLiteral("acc"), false);
+        bridge.setTypeSelected(QStringLiteral("prs"), false);
+        QCOMPARE(panes(), QLatin1String("/1"));
+        QCOMPARE(changes.count(), 7);
+    }
+
+    void letsTheViewGoBeforeTheCharts()
+    {
+        GatewayDashboardBridge bridge;
+        bridge.setNodeChosen(1, true);
+        QPointer<QObject> chart =
+            bridge.panes().constFirst().toMap().value(QStringLiteral("backend")).value<QObject *>();
+        bridge.setNodeChosen(1, false);
+        QVERIFY(chart && bridge.panes().isEmpty());
+        QTRY_VERIFY(!chart);
+    }
+
+    void feedsTheChartsWhileActive()
+    {
+        GatewayDashboardBridge bridge;
+        bridge.setPlaying(false);
+        bridge.setFrameRate(50);
+        bridge.setNodeChosen(1, true);
+        bridge.setPlaying(true);
+        const auto *chart = qobject_cast<WaveChartBridge *>(
+            bridge.panes().constFirst().toMap().value(QStringLiteral("backend")).value<QObject *>());
+        bridge.updateGatewaySamples({sampleOf(1, 100), sampleOf(2, 100)});
+        bridge.refresh();
+        QCOMPARE(bridge.nodeCount(), 0);
+        bridge.setDashboardActive(true);
+        QCOMPARE(bridge.summary(), QStringLiteral("Nodes 1 · late 0 · gone 1")); // the chosen one is awaited
+        for (const unsigned int stamp : {100U, 117U, 0U})
+            bridge.updateGatewaySamples({sampleOf(1, stamp), sampleOf(2, stamp)});
+        QTRY_COMPARE(bridge.summary(), QStringLiteral("Nodes 2 · late 0 · gone 0"));
+        QCOMPARE(chart->newestTimeSec(), 0.038); // 1, 18, and 20 more by the rate
+        QCOMPARE(chart->getValuesAtTime(0), (QVariantList{3.0, 4.0, 0.0, 5.0}));
+        QCOMPARE(chart->framerate(), 50U);
+        bridge.setPlaying(false);
+        bridge.updateGatewaySamples({sampleOf(1, 200)});
+        QCOMPARE(chart->newestTimeSec(), 0.038);
+        bridge.setDashboardActive(false);
+        QVERIFY(!chart->hasData());
+        QCOMPARE(bridge.nodeCount(), 0);
+        QCOMPARE(bridge.chosenNodes(), QList<int>{1});
+        bridge.clear();
+        QVERIFY(bridge.chosenNodes().isEmpty());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestGatewayDashboard)
+#include "tst_gateway_dashboard.moc"

@@ -1,0 +1,277 @@
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTranslator>
+
+#include "app/app_language_manager.h"
+#include "wave/sample_feed.h"
+#include "wave/sensor_dashboard_bridge.h"
+
+namespace {
+
+void push(WaveChartBridge &chart, int samples, unsigned int firstStampMs = 0)
+{
+    for (int i = 0; i < samples; ++i) {
+        const float values[] = {float(i), 10.0F + float(i), 0, 0};
+        chart.pushSample(values, 4, firstStampMs == 0 ? 0 : firstStampMs + unsigned(i) * 1000);
+    }
+}
+
+/// A language in which every text ends with a star.
+class Stars : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *source, const char *, int) const override
+    {
+        return QString::fromUtf8(source) + u'*';
+    }
+};
+
+} // namespace
+
+class TestWaveBridges : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void describesTheChart()
+    {
+        const WaveChartBridge quaternion(QStringLiteral("quat"));
+        QCOMPARE(quaternion.chartTitle(), QLatin1String("Quaternion (Norm)"));
+        QCOMPARE(quaternion.channelNames().join(u' '), QLatin1String("W X Y Z"));
+        QCOMPARE(quaternion.channelColors().at(1).value<QColor>(), QColor(0xAB, 0x22, 0x1D));
+        const WaveChartBridge pressure(QStringLiteral("prs"));
+        QCOMPARE(pressure.yMax() - pressure.yMin(), 10000.0);
+        QCOMPARE(pressure.yMinZoom(), 10.0);
+        for (const SensorType &type : sensorTypes())
+            QCOMPARE(WaveChartBridge(type.key).hasFilter(), type.key == u"acc" || type.key == u"gyr");
+        WaveChartBridge unknown(QStringLiteral("ACC"));
+        push(unknown, 2);
+        QCOMPARE(unknown.channelCount(), 0);
+        QVERIFY(unknown.chartTitle().isEmpty() && unknown.getValuesAtTime(0).isEmpty());
+        QVERIFY(unknown.getDecimatedPoints(0, -10, 0, 100).isEmpty());
+    }
+
+    void coalescesRepaints()
+    {
+        WaveChartBridge chart(QStringLiteral("acc"));
+        QStringList order;
+        connect(&chart, &WaveChartBridge::viewLimitsChanged, this, [&order] { order += QStringLiteral("limits"); });
+        connect(&chart, &WaveChartBridge::dataChanged, this, [&order] { order += QStringLiteral("data"); });
+        const QStringList pair{QStringLiteral("limits"), QStringLiteral("data")};
+        chart.setObserved(true); // without data there is nothing to paint
+        push(chart, 200);
+        QVERIFY(order.isEmpty());
+        QTRY_COMPARE(order, pair);
+        chart.setObserved(false);
+        push(chart, 200);
+        QCoreApplication::processEvents();
+        QCOMPARE(order, pair);
+        chart.setObserved(true);
+        QCOMPARE(order, pair + pair);
+        push(chart, 200);
+        chart.setObserved(false); // hidden before the posted call runs
+        QCoreApplication::processEvents();
+        QCOMPARE(order, pair + pair);
+        chart.setObserved(true);
+        chart.reset();
+        QCOMPARE(order, pair + pair + pair + pair);
+        chart.reset(); // empty already
+        QCoreApplication::processEvents();
+        QCOMPARE(order.size(), 8);
+        QVERIFY(!chart.hasData());
+    }
+
+    void pauses()
+    {
+        WaveChartBridge chart(QStringLiteral("gyr"));
+        QSignalSpy rates(&chart, &WaveChartBridge::framerateChanged);
+        chart.setPlaying(false);
+        push(chart, 5);
+        QVERIFY(!chart.hasData());
+        chart.setFrameRate(200);
+        QCOMPARE(chart.framerate(), 100U);
+        chart.setPlaying(true);
+        QCOMPARE(chart.framerate(), 200U);
+        push(chart, 1);
+        QCOMPARE(chart.model().count(), 1);
+        chart.setFrameRate(0);
+        QCOMPARE(chart.framerate(), 1U);
+        chart.setPlaying(false);
+        chart.applyFrameRate(0); // at once, unchecked, and the request stays
+        QCOMPARE(chart.framerate(), 0U);
+        chart.setPlaying(true);
+        QCOMPARE(chart.framerate(), 1U);
+        QCOMPARE(rates.count(), 4);
+    }
+
+    void answersWhatStandsAtATime()
+    {
+        WaveChartBridge chart(QStringLiteral("eul"));
+        QVERIFY(chart.getValuesAtTime(0).isEmpty());
+        push(chart, 10, 1000);
+        QCOMPARE(chart.getValuesAtTime(-2.6), (QVariantList{6.0, 16.0, 0.0}));
+        QCOMPARE(chart.xHistoryMin(), -9.0);
+        QCOMPARE(chart.newestTimeSec(), 10.0);
+        QCOMPARE(chart.getDecimatedPoints(1, -2, 0, 100), (QList<QPointF>{{0, 19}, {-1, 18}, {-2, 17}}));
+        QVERIFY(chart.getDecimatedPoints(3, -2, 0, 100).isEmpty());
+    }
+
+    void tellsWhyAFilterStaysOff()
+    {
+        WaveChartBridge chart(QStringLiteral("acc"));
+        const std::tuple<unsigned int, bool, double, bool, QString> rows[] = {
+            {10, true, 1, true, QString()},
+            {10, false, 1, false, QString()},
+            {10, true, 0.01, false, QStringLiteral("The cutoff frequency is too low for 10 samples per second.")},
+            {100, true, 0, false, QStringLiteral("The cutoff frequency must be above 0 Hz.")},
+            {100, true, qQNaN(), false, QStringLiteral("The cutoff frequency must be above 0 Hz.")},
+        };
+        for (const auto &[rate, on, hz, isOn, problem] : rows) {
+            chart.applyFrameRate(rate);
+            chart.trySetFilter(true, 20);
+            QCOMPARE(chart.trySetFilter(on, hz), problem);
+            for (int channel = 0; channel < chart.channelCount(); ++channel)
+                QCOMPARE(chart.filterEnabled(channel), isOn);
+        }
+        chart.trySetFilter(true, 20);
+        chart.reset();
+        QVERIFY(!chart.filterOn());
+    }
+
+    void followsTheLanguage()
+    {
+        SensorDashboardBridge dashboard;
+        QSignalSpy title(dashboard.bridge(QStringLiteral("mag")), &WaveChartBridge::chartTitleChanged);
+        Stars stars;
+        QCoreApplication::installTranslator(&stars);
+        emit AppLanguageManager::instance().languageChanged(QString());
+        emit AppLanguageManager::instance().languageChanged(QString());
+        dashboard.retranslate();
+        QCOMPARE(title.count(), 1);
+        QCOMPARE(dashboard.bridge(QStringLiteral("mag"))->chartTitle(), QStringLiteral("Magnetic Field (μT)*"));
+        QCOMPARE(dashboard.paneStates().at(1).toMap().value(QStringLiteral("label")).toString(),
+                 QLatin1String("Angular Velocity*"));
+        QCOMPARE(dashboard.windowTitle(), QLatin1String("Sensor Dashboard*"));
+        QCoreApplication::removeTranslator(&stars);
+    }
+
+    void laysOutTheSelection()
+    {
+        SensorDashboardBridge dashboard;
+        QSignalSpy selection(&dashboard, &SensorDashboardBridge::selectionChanged);
+        QSignalSpy panes(&dashboard, &SensorDashboardBridge::paneStatesChanged);
+        // Columns, rows as the panes are dropped one after the other, six first.
+        const QList<QSize> grids{{3, 2}, {3, 2}, {2, 2}, {3, 1}, {2, 1}, {1, 1}, {0, 0}};
+        for (int dropped = 0; dropped <= 6; ++dropped) {
+            QCOMPARE(QSize(dashboard.gridColumns(), dashboard.gridRows()), grids.at(dropped));
+            QCOMPARE(dashboard.visiblePaneStates().size(), 6 - dropped);
+            for (int again = 0; again < 2; ++again)
+                dashboard.setSensorSelected(dashboard.sensorTypes().value(dropped), false);
+        }
+        dashboard.setSensorSelected(QStringLiteral("xyz"), true);
+        QCOMPARE(selection.count(), 6);
+        dashboard.resetSelectionsToDefault();
+        QCOMPARE(dashboard.selectedCount(), 6);
+        QCOMPARE(panes.count(), 7);
+        QCOMPARE(dashboard.backendAt(2), dashboard.backend(QStringLiteral("mag")));
+        QVERIFY(!dashboard.backendAt(6) && !dashboard.backendAt(-1) && !dashboard.bridge(QStringLiteral("xyz")));
+    }
+
+    void routesWhileActive()
+    {
+        SensorDashboardBridge dashboard;
+        const QString acc = QStringLiteral("acc");
+        WaveChartBridge *chart = dashboard.bridge(acc);
+        QSignalSpy data(chart, &WaveChartBridge::dataChanged);
+        const float values[] = {1, 2, 3, 4};
+        dashboard.pushSample(acc, values, 4, 1);
+        QVERIFY(!chart->hasData());
+        dashboard.setDashboardActive(true);
+        dashboard.pushSample(acc, values, 4, 1);
+        dashboard.pushSample(QStringLiteral("xyz"), values, 4, 1);
+        QCOMPARE(chart->getValuesAtTime(0), (QVariantList{1.0, 2.0, 3.0, 4.0}));
+        QVERIFY(!dashboard.backendAt(1)->hasData());
+        dashboard.setSensorSelected(acc, false);
+        for (int i = 0; i < 10; ++i)
+            dashboard.pushSample(acc, values, 4, 0);
+        QCoreApplication::processEvents();
+        QCOMPARE(data.count(), 0);
+        dashboard.setSensorSelected(acc, true);
+        QCOMPARE(data.count(), 1);
+        dashboard.setDashboardActive(false);
+        QVERIFY(!chart->hasData());
+    }
+
+    void letsTheHostDecideToPause()
+    {
+        SensorDashboardBridge dashboard;
+        QSignalSpy requests(&dashboard, &SensorDashboardBridge::playToggleRequested);
+        QSignalSpy changes(&dashboard, &SensorDashboardBridge::playingChanged);
+        dashboard.togglePlaying();
+        QCOMPARE(requests.takeFirst().at(0).toBool(), false);
+        QVERIFY(dashboard.playing());
+        dashboard.setPlaying(false);
+        dashboard.setPlaying(false);
+        dashboard.setFrameRate(50);
+        QCOMPARE(changes.count(), 1);
+        QVERIFY(!dashboard.backendAt(5)->playing());
+        dashboard.setPlaying(true);
+        QCOMPARE(dashboard.backendAt(5)->framerate(), 50U);
+    }
+
+    void restoresTheSelection()
+    {
+        const QStringList all = SensorDashboardBridge().sensorTypes();
+        const std::pair<QByteArray, QStringList> rows[] = {
+            {"", all},
+            {"[Other]\nSELECTED_SENSORS=gyr\n", all},
+            {"[SENSOR_DASHBOARD]\nSELECTED_SENSORS=prs, gyr, xyz, gyr, ACC\n", {all[1], all[5]}},
+            {"[SENSOR_DASHBOARD]\nSELECTED_SENSORS=mag\n", {all[2]}},
+            {"[SENSOR_DASHBOARD]\nSELECTED_SENSORS=@Invalid()\n", {}},
+            {"[SENSOR_DASHBOARD]\nSELECTED_SENSORS=\\xff\\x0@Variant(\\0\n\xff\xfe[[", {}},
+        };
+        const QTemporaryDir folder;
+        for (const auto &[text, expected] : rows) {
+            QFile file(folder.filePath(QStringLiteral("param.ini")));
+            QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+            file.write(text);
+            file.close();
+            SensorDashboardBridge dashboard;
+            QSignalSpy layout(&dashboard, &SensorDashboardBridge::layoutChanged);
+            dashboard.loadSelectionState(file.fileName());
+            QCOMPARE(dashboard.selectedSensorTypes(), expected);
+            QCOMPARE(layout.count(), expected == all ? 0 : 1);
+            dashboard.saveSelectionState(file.fileName());
+            SensorDashboardBridge again;
+            again.loadSelectionState(file.fileName());
+            QCOMPARE(again.selectedSensorTypes(), expected);
+        }
+    }
+
+    void takesSamplesApart()
+    {
+        node_data_t node;
+        std::copy_n(std::array{1.0F, 2.0F, 2.0F}.begin(), 3, node.acc);
+        std::copy_n(std::array{3e38F, 3e38F, 0.0F}.begin(), 3, node.mag);
+        node.quat[0] = 1;
+        node.pressure = 101325;
+        const QList<std::pair<int, QList<float>>> expected{
+            {0, {1, 2, 2, 3}}, {2, {3e38F, 3e38F, 0, float(qInf())}}, {3, {7, 8, 9}}, {4, {1, 0, 0, 0}}, {5, {101325}}};
+        QList<std::pair<int, QList<float>>> found;
+        const SampleFields fields = ~SampleFields(SampleField::AngularRate);
+        for (const ChartSample &sample : ChartSamples(node, {7, 8, 9}, fields))
+            found.append({sample.type, QList<float>(sample.values.begin(), sample.values.begin() + sample.count)});
+        QCOMPARE(found, expected);
+        SensorDashboardBridge dashboard;
+        dashboard.setDashboardActive(true);
+        dashboard.pushSamples(ChartSamples(node, {7, 8, 9}, fields), 5);
+        QCOMPARE(dashboard.backendAt(3)->getValuesAtTime(0), (QVariantList{7.0, 8.0, 9.0}));
+        QVERIFY(!dashboard.backendAt(1)->hasData());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestWaveBridges)
+#include "tst_wave_bridges.moc"
