@@ -34,7 +34,7 @@
     <name>ChartReadout</name>
     <message>
         <source>t %1</source>
-        <translation type="unfinished"></translation>
+        <translation>t %1</translation>
     </message>
 </context>
 <context>
@@ -59,16 +59,16 @@
 <context>
     <name>GatewayDashboardBridge</name>
     <message>
-        <source>%1 nodes, %2 late, %3 gone</source>
-        <translation>ノード %1、遅延 %2、途絶 %3</translation>
-    </message>
-    <message>
         <source>Node %1 · %2</source>
         <translation>ノード %1 · %2</translation>
     </message>
     <message>
         <source>Wireless Gateway Dashboard</source>
         <translation>無線ゲートウェイダッシュボード</translation>
+    </message>
+    <message>
+        <source>Nodes %1 · late %2 · gone %3</source>
+        <translation>ノード %1 · 遅延 %2 · 途絶 %3</translation>
     </message>
 </context>
 <context>
@@ -511,16 +511,8 @@
         <translation>センサーダッシュボード</translation>
     </message>
     <message>
-        <source>Waveforms come with a later version.</source>
-        <translation>波形表示は今後のバージョンで追加されます。</translation>
-    </message>
-    <message>
         <source>Wireless Gateway Dashboard</source>
         <translation>無線ゲートウェイダッシュボード</translation>
-    </message>
-    <message>
-        <source>The dashboard of radio nodes comes with a later version.</source>
-        <translation>無線ノードのダッシュボードは今後のバージョンで追加されます。</translation>
     </message>
     <message>
         <source>Waves</source>
@@ -539,16 +531,8 @@
         <translation>3D ビューは今後のバージョンで追加されます。</translation>
     </message>
     <message>
-        <source>Recording comes with a later version.</source>
-        <translation>記録機能は今後のバージョンで追加されます。</translation>
-    </message>
-    <message>
         <source>The firmware update comes with a later version.</source>
         <translation>ファームウェア更新は今後のバージョンで追加されます。</translation>
-    </message>
-    <message>
-        <source>Other languages come with a later version.</source>
-        <translation>ほかの言語は今後のバージョンで追加されます。</translation>
     </message>
     <message>
         <source>Choose a serial port and connect (%1)</source>
@@ -581,6 +565,26 @@
     <message>
         <source>Node ID:%1</source>
         <translation>ノード ID:%1</translation>
+    </message>
+    <message>
+        <source>Waveforms of the selected node</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All radio nodes of a connected wireless gateway</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Record the stream to CSV files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Language of the interface</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -34,7 +34,7 @@
     <name>ChartReadout</name>
     <message>
         <source>t %1</source>
-        <translation type="unfinished"></translation>
+        <translation>t %1</translation>
     </message>
 </context>
 <context>
@@ -59,16 +59,16 @@
 <context>
     <name>GatewayDashboardBridge</name>
     <message>
-        <source>%1 nodes, %2 late, %3 gone</source>
-        <translation>노드 %1개, 지연 %2개, 끊김 %3개</translation>
-    </message>
-    <message>
         <source>Node %1 · %2</source>
         <translation>노드 %1 · %2</translation>
     </message>
     <message>
         <source>Wireless Gateway Dashboard</source>
         <translation>무선 게이트웨이 대시보드</translation>
+    </message>
+    <message>
+        <source>Nodes %1 · late %2 · gone %3</source>
+        <translation>노드 %1 · 지연 %2 · 끊김 %3</translation>
     </message>
 </context>
 <context>
@@ -511,16 +511,8 @@
         <translation>센서 대시보드</translation>
     </message>
     <message>
-        <source>Waveforms come with a later version.</source>
-        <translation>파형 기능은 이후 버전에서 제공됩니다.</translation>
-    </message>
-    <message>
         <source>Wireless Gateway Dashboard</source>
         <translation>무선 게이트웨이 대시보드</translation>
-    </message>
-    <message>
-        <source>The dashboard of radio nodes comes with a later version.</source>
-        <translation>무선 노드 대시보드는 이후 버전에서 제공됩니다.</translation>
     </message>
     <message>
         <source>Waves</source>
@@ -539,16 +531,8 @@
         <translation>3D 보기는 이후 버전에서 제공됩니다.</translation>
     </message>
     <message>
-        <source>Recording comes with a later version.</source>
-        <translation>기록 기능은 이후 버전에서 제공됩니다.</translation>
-    </message>
-    <message>
         <source>The firmware update comes with a later version.</source>
         <translation>펌웨어 업데이트는 이후 버전에서 제공됩니다.</translation>
-    </message>
-    <message>
-        <source>Other languages come with a later version.</source>
-        <translation>다른 언어는 이후 버전에서 제공됩니다.</translation>
     </message>
     <message>
         <source>Choose a serial port and connect (%1)</source>
@@ -581,6 +565,26 @@
     <message>
         <source>Node ID:%1</source>
         <translation>노드 ID:%1</translation>
+    </message>
+    <message>
+        <source>Waveforms of the selected node</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All radio nodes of a connected wireless gateway</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Record the stream to CSV files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Language of the interface</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
