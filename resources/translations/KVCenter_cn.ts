@@ -9,6 +9,35 @@
     </message>
 </context>
 <context>
+    <name>ChartFilterRow</name>
+    <message>
+        <source>Low-pass filter</source>
+        <translation>低通滤波</translation>
+    </message>
+    <message>
+        <source>Cutoff frequency</source>
+        <translation>截止频率</translation>
+    </message>
+</context>
+<context>
+    <name>ChartLegendEntry</name>
+    <message>
+        <source>Hide %1</source>
+        <translation>隐藏 %1</translation>
+    </message>
+    <message>
+        <source>Show %1</source>
+        <translation>显示 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ChartReadout</name>
+    <message>
+        <source>t %1</source>
+        <translation>t %1</translation>
+    </message>
+</context>
+<context>
     <name>CommandSession</name>
     <message>
         <source>The device does not answer. Check the baud rate, then identify it again.</source>
@@ -30,16 +59,16 @@
 <context>
     <name>GatewayDashboardBridge</name>
     <message>
-        <source>%1 nodes, %2 late, %3 gone</source>
-        <translation>%1 个节点，%2 个延迟，%3 个离线</translation>
-    </message>
-    <message>
         <source>Node %1 · %2</source>
         <translation>节点 %1 · %2</translation>
     </message>
     <message>
         <source>Wireless Gateway Dashboard</source>
         <translation>无线网关仪表板</translation>
+    </message>
+    <message>
+        <source>Nodes %1 · late %2 · gone %3</source>
+        <translation>节点 %1 · 延迟 %2 · 离线 %3</translation>
     </message>
 </context>
 <context>
@@ -167,6 +196,65 @@
     </message>
 </context>
 <context>
+    <name>WaveChart</name>
+    <message>
+        <source>Waiting for samples</source>
+        <translation>正在等待采样数据</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>实时</translation>
+    </message>
+    <message>
+        <source>Back to the newest samples</source>
+        <translation>回到最新数据</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>Low-pass filter</source>
+        <translation>低通滤波</translation>
+    </message>
+    <message>
+        <source>Remove the measuring cursors</source>
+        <translation>移除测量光标</translation>
+    </message>
+    <message>
+        <source>Measure between two cursors</source>
+        <translation>用两个光标测量</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>A, B</source>
+        <translation>A、B</translation>
+    </message>
+    <message>
+        <source>Reset the view</source>
+        <translation>重置视图</translation>
+    </message>
+    <message>
+        <source>Save a picture of the chart</source>
+        <translation>保存图表图片</translation>
+    </message>
+    <message>
+        <source>Save the visible samples</source>
+        <translation>保存可见区间的采样数据</translation>
+    </message>
+    <message>
+        <source>Show all charts</source>
+        <translation>显示所有图表</translation>
+    </message>
+    <message>
+        <source>Show this chart alone</source>
+        <translation>仅显示此图表</translation>
+    </message>
+</context>
+<context>
     <name>WaveChartBridge</name>
     <message>
         <source>Acceleration (G)</source>
@@ -276,7 +364,7 @@
     </message>
     <message>
         <source>How the device is mounted; remembered for each product</source>
-        <translation>设备的安装方向；按产品分别记住</translation>
+        <translation>设备的安装方向，按产品分别记住</translation>
     </message>
     <message>
         <source>RFU / ENU (3-1-2)</source>
@@ -423,16 +511,8 @@
         <translation>传感器仪表板</translation>
     </message>
     <message>
-        <source>Waveforms come with a later version.</source>
-        <translation>波形功能将在后续版本中提供。</translation>
-    </message>
-    <message>
         <source>Wireless Gateway Dashboard</source>
         <translation>无线网关仪表板</translation>
-    </message>
-    <message>
-        <source>The dashboard of radio nodes comes with a later version.</source>
-        <translation>无线节点仪表板将在后续版本中提供。</translation>
     </message>
     <message>
         <source>Waves</source>
@@ -451,16 +531,8 @@
         <translation>三维视图将在后续版本中提供。</translation>
     </message>
     <message>
-        <source>Recording comes with a later version.</source>
-        <translation>数据记录功能将在后续版本中提供。</translation>
-    </message>
-    <message>
         <source>The firmware update comes with a later version.</source>
         <translation>固件升级功能将在后续版本中提供。</translation>
-    </message>
-    <message>
-        <source>Other languages come with a later version.</source>
-        <translation>其他语言将在后续版本中提供。</translation>
     </message>
     <message>
         <source>Choose a serial port and connect (%1)</source>
@@ -492,7 +564,43 @@
     </message>
     <message>
         <source>Node ID:%1</source>
-        <translation>节点 ID：%1</translation>
+        <translation>节点 ID: %1</translation>
+    </message>
+    <message>
+        <source>Waveforms of the selected node</source>
+        <translation>所选节点的波形</translation>
+    </message>
+    <message>
+        <source>All radio nodes of a connected wireless gateway</source>
+        <translation>已连接的无线网关的全部无线节点</translation>
+    </message>
+    <message>
+        <source>Language of the interface</source>
+        <translation>界面语言</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>Recording: trouble</source>
+        <translation>记录出现问题</translation>
+    </message>
+    <message>
+        <source>Recording %1</source>
+        <translation>正在记录 %1</translation>
+    </message>
+    <message>
+        <source>The translation for %1 cannot be loaded. The language stays as it is.</source>
+        <translation>无法加载“%1”的翻译。界面语言保持不变。</translation>
+    </message>
+    <message>
+        <source>Ctrl+R</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Record the stream to CSV files (%1)</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -595,10 +703,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>Elapsed time</source>
         <translation>记录时长</translation>
-    </message>
-    <message>
-        <source>Records</source>
-        <translation>记录条数</translation>
     </message>
     <message>
         <source>Rate</source>
@@ -755,6 +859,14 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>The disk is nearly full.</source>
         <translation>磁盘空间即将用尽。</translation>
+    </message>
+    <message>
+        <source>Records written</source>
+        <translation>已写入条数</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be shown.</source>
+        <translation>无法显示文件夹 %1。</translation>
     </message>
 </context>
 <context>

@@ -9,6 +9,35 @@
     </message>
 </context>
 <context>
+    <name>ChartFilterRow</name>
+    <message>
+        <source>Low-pass filter</source>
+        <translation>低通濾波</translation>
+    </message>
+    <message>
+        <source>Cutoff frequency</source>
+        <translation>截止頻率</translation>
+    </message>
+</context>
+<context>
+    <name>ChartLegendEntry</name>
+    <message>
+        <source>Hide %1</source>
+        <translation>隱藏 %1</translation>
+    </message>
+    <message>
+        <source>Show %1</source>
+        <translation>顯示 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ChartReadout</name>
+    <message>
+        <source>t %1</source>
+        <translation>t %1</translation>
+    </message>
+</context>
+<context>
     <name>CommandSession</name>
     <message>
         <source>The device does not answer. Check the baud rate, then identify it again.</source>
@@ -30,16 +59,16 @@
 <context>
     <name>GatewayDashboardBridge</name>
     <message>
-        <source>%1 nodes, %2 late, %3 gone</source>
-        <translation>%1 個節點，%2 個延遲，%3 個離線</translation>
-    </message>
-    <message>
         <source>Node %1 · %2</source>
         <translation>節點 %1 · %2</translation>
     </message>
     <message>
         <source>Wireless Gateway Dashboard</source>
         <translation>無線閘道器儀表板</translation>
+    </message>
+    <message>
+        <source>Nodes %1 · late %2 · gone %3</source>
+        <translation>節點 %1 · 延遲 %2 · 離線 %3</translation>
     </message>
 </context>
 <context>
@@ -167,6 +196,65 @@
     </message>
 </context>
 <context>
+    <name>WaveChart</name>
+    <message>
+        <source>Waiting for samples</source>
+        <translation>正在等待取樣資料</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>即時</translation>
+    </message>
+    <message>
+        <source>Back to the newest samples</source>
+        <translation>回到最新資料</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>Low-pass filter</source>
+        <translation>低通濾波</translation>
+    </message>
+    <message>
+        <source>Remove the measuring cursors</source>
+        <translation>移除測量游標</translation>
+    </message>
+    <message>
+        <source>Measure between two cursors</source>
+        <translation>以兩個游標測量</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>A, B</source>
+        <translation>A、B</translation>
+    </message>
+    <message>
+        <source>Reset the view</source>
+        <translation>重設檢視</translation>
+    </message>
+    <message>
+        <source>Save a picture of the chart</source>
+        <translation>儲存圖表圖片</translation>
+    </message>
+    <message>
+        <source>Save the visible samples</source>
+        <translation>儲存可見區間的取樣資料</translation>
+    </message>
+    <message>
+        <source>Show all charts</source>
+        <translation>顯示所有圖表</translation>
+    </message>
+    <message>
+        <source>Show this chart alone</source>
+        <translation>僅顯示此圖表</translation>
+    </message>
+</context>
+<context>
     <name>WaveChartBridge</name>
     <message>
         <source>Acceleration (G)</source>
@@ -276,7 +364,7 @@
     </message>
     <message>
         <source>How the device is mounted; remembered for each product</source>
-        <translation>裝置的安裝方向；依產品分別記住</translation>
+        <translation>裝置的安裝方向，依產品分別記住</translation>
     </message>
     <message>
         <source>RFU / ENU (3-1-2)</source>
@@ -423,16 +511,8 @@
         <translation>感測器儀表板</translation>
     </message>
     <message>
-        <source>Waveforms come with a later version.</source>
-        <translation>波形功能將於後續版本提供。</translation>
-    </message>
-    <message>
         <source>Wireless Gateway Dashboard</source>
         <translation>無線閘道器儀表板</translation>
-    </message>
-    <message>
-        <source>The dashboard of radio nodes comes with a later version.</source>
-        <translation>無線節點儀表板將於後續版本提供。</translation>
     </message>
     <message>
         <source>Waves</source>
@@ -451,16 +531,8 @@
         <translation>3D 檢視將於後續版本提供。</translation>
     </message>
     <message>
-        <source>Recording comes with a later version.</source>
-        <translation>資料記錄功能將於後續版本提供。</translation>
-    </message>
-    <message>
         <source>The firmware update comes with a later version.</source>
         <translation>韌體更新功能將於後續版本提供。</translation>
-    </message>
-    <message>
-        <source>Other languages come with a later version.</source>
-        <translation>其他語言將於後續版本提供。</translation>
     </message>
     <message>
         <source>Choose a serial port and connect (%1)</source>
@@ -492,7 +564,43 @@
     </message>
     <message>
         <source>Node ID:%1</source>
-        <translation>節點 ID：%1</translation>
+        <translation>節點 ID: %1</translation>
+    </message>
+    <message>
+        <source>Waveforms of the selected node</source>
+        <translation>所選節點的波形</translation>
+    </message>
+    <message>
+        <source>All radio nodes of a connected wireless gateway</source>
+        <translation>已連線無線閘道器的所有無線節點</translation>
+    </message>
+    <message>
+        <source>Language of the interface</source>
+        <translation>介面語言</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>語言</translation>
+    </message>
+    <message>
+        <source>Recording: trouble</source>
+        <translation>記錄發生問題</translation>
+    </message>
+    <message>
+        <source>Recording %1</source>
+        <translation>記錄中 %1</translation>
+    </message>
+    <message>
+        <source>The translation for %1 cannot be loaded. The language stays as it is.</source>
+        <translation>無法載入「%1」的翻譯。介面語言維持不變。</translation>
+    </message>
+    <message>
+        <source>Ctrl+R</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Record the stream to CSV files (%1)</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -595,10 +703,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>Elapsed time</source>
         <translation>記錄時間</translation>
-    </message>
-    <message>
-        <source>Records</source>
-        <translation>記錄筆數</translation>
     </message>
     <message>
         <source>Rate</source>
@@ -755,6 +859,14 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>The disk is nearly full.</source>
         <translation>磁碟空間即將用盡。</translation>
+    </message>
+    <message>
+        <source>Records written</source>
+        <translation>已寫入筆數</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be shown.</source>
+        <translation>無法顯示資料夾 %1。</translation>
     </message>
 </context>
 <context>
