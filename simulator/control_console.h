@@ -32,9 +32,6 @@ public:
     /// Reads lines from a descriptor from now on; each is answered by answered().
     void listen(int descriptor);
 
-    /// Table of all controls, for the manual.
-    static QString help();
-
 signals:
     void answered(const QString &line);
     /// "quit" was given, or the input has ended.

@@ -90,7 +90,7 @@ int main(int argc, char *argv[])
     for (const QString &line : options->startControls) {
         const QStringList answer = console.execute(line);
         if (answer.constLast() != u"ok")
-            return fail(QStringLiteral("--%1: %2").arg(line, answer.constLast()), kExitUsage);
+            return fail(QStringLiteral("%1: %2").arg(line, answer.constLast()), kExitUsage);
     }
     QObject::connect(&simulator, &kvsim::Simulator::portOpened,
                      [](const QString &path) { printLine(QStringLiteral("port: ") + path); });

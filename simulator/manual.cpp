@@ -1,6 +1,6 @@
 #include "simulator/manual.h"
 
-#include "simulator/control_console.h"
+#include "simulator/controls.h"
 #include "simulator/device_type.h"
 
 namespace kvsim {
@@ -42,6 +42,13 @@ Fixed values (--fixed): acc 0.25 -0.5 0.75 G; gyr 10.5 -20.5 30.5 deg/s; mag 12.
 101325 Pa. Gateway nodes have the ids 1, 2, 3 ... and node n adds (n - 1) * 0.125 G
 to acc X. The device time runs.
 
+Vibration (--vibration FREQUENCY:AMPLITUDE:AXIS[:RATIO,RATIO...], repeatable): a tone
+in Hz with its peak amplitude on an axis of the accelerometer (x y z, G) or of the
+gyroscope (gx gy gz, deg/s); the ratios are the amplitudes of the 2nd, 3rd ...
+harmonic as parts of AMPLITUDE. --vibration-noise ACC[:GYR] adds normal noise of these
+standard deviations (G, deg/s). Both come on top of motion, recording or fixed values.
+Tones begin with phase 0 at device time 0.
+
 Recordings (--replay): CSV with the columns "Time (s)", "Gyroscope X (deg/s)" and
 "Accelerometer X (g)" with Y and Z each, optionally "Magnetometer X (uT)"; played
 round and round, one row per frame.
@@ -56,7 +63,8 @@ Examples:
   kv_simulator --device mz221 --link /tmp/imu
   kv_simulator --device kv104 --rate 1000 --baud 921600 --motion spin
   kv_simulator --device gateway --nodes 8 --layout dynamic --noise 0.5
-  kv_simulator --device mz221 --replay walk.csv --control)manual";
+  kv_simulator --device mz221 --replay walk.csv --control
+  kv_simulator --rate 1000 --vibration 50:0.5:z:0.5,0.25 --vibration 120:2:gx)manual";
 
 const char *kindOf(Dialect dialect)
 {
@@ -81,7 +89,7 @@ QString manual()
                        .arg(QLatin1String(type.name), -8)
                        .arg(QLatin1String(type.modelLine), QLatin1String(kindOf(type.dialect)));
     }
-    return QString(QLatin1String(kText)).arg(devices, ControlConsole::help());
+    return QString(QLatin1String(kText)).arg(devices, controlsTable());
 }
 
 } // namespace kvsim

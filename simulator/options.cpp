@@ -32,9 +32,26 @@ constexpr std::array<Choice<LayoutChoice>, 6> kLayouts{{
     {"dynamic", LayoutChoice::Dynamic},
 }};
 
-// Fault options that are one control line each: "--noise 3" is "noise 3" before the first frame.
-constexpr std::array<const char *, 9> kValueControls{"noise", "drop",   "insert", "burst",     "values",
-                                                     "reply", "silent", "deaf",   "rotate-ids"};
+// Options that are control lines: "--noise 3" is "noise 3" before the first frame, given twice it is two lines.
+struct ControlOption
+{
+    const char *option;
+    const char *control;
+};
+
+constexpr std::array kValueControls{
+    ControlOption{"noise", "noise"},
+    ControlOption{"drop", "drop"},
+    ControlOption{"insert", "insert"},
+    ControlOption{"burst", "burst"},
+    ControlOption{"values", "values"},
+    ControlOption{"reply", "reply"},
+    ControlOption{"silent", "silent"},
+    ControlOption{"deaf", "deaf"},
+    ControlOption{"rotate-ids", "rotate-ids"},
+    ControlOption{"vibration", "vibration add"},
+    ControlOption{"vibration-noise", "vibration noise"},
+};
 constexpr std::array<const char *, 2> kSwitchControls{"reply-binary", "wrong-device"};
 
 template <typename T, std::size_t N>
@@ -81,14 +98,16 @@ void addOptions(QCommandLineParser &parser)
         "counted. 0 (default): unlimited.",
         "N");
     add("id", "Id of the module or the gateway, 0 to 255 (default 1).", "N");
-    add("motion", "rest, swing or spin.", "KIND", "swing");
+    add("motion", "rest, swing or spin; rest is the default with --vibration.", "KIND", "swing");
     add("fixed", "Send constant values, see above; same as --values fixed.");
     add("replay", "Play a CSV recording instead of the motion model.", "FILE");
     add("link", "Keep a symbolic link to the port at this path.", "PATH");
     add("seed", "Seed of all randomness (default 1).", "N");
     add("control", "Take controls from standard input.");
-    for (const char *name : kValueControls)
-        add(name, "Start with this control, see above.", "VALUE");
+    for (const ControlOption &row : kValueControls)
+        parser.addOption({QLatin1String(row.option),
+                          QStringLiteral("Start with \"%1\".").arg(QLatin1String(row.control)),
+                          QStringLiteral("VALUE")});
     for (const char *name : kSwitchControls)
         add(name, "Start with this control on.");
 }
@@ -153,6 +172,9 @@ std::optional<Options> parseOptions(const QStringList &arguments, QString *error
         && readNumber(parser, QStringLiteral("seed"), 0, std::numeric_limits<qint64>::max(), seed, error);
     if (!ok)
         return {};
+    // Tones are to be seen by themselves unless a motion is asked for.
+    if (parser.isSet(QStringLiteral("vibration")) && !parser.isSet(QStringLiteral("motion")))
+        options.motion = MotionKind::Rest;
     options.nodes = options.device->isGateway() ? int(nodes) : 1;
     if (rate > 0)
         options.rateHz = int(rate);
@@ -166,9 +188,9 @@ std::optional<Options> parseOptions(const QStringList &arguments, QString *error
     }
     options.linkPath = parser.value(QStringLiteral("link"));
     options.control = parser.isSet(QStringLiteral("control"));
-    for (const char *name : kValueControls) {
-        if (parser.isSet(QLatin1String(name)))
-            options.startControls += QLatin1String(name) + u' ' + parser.value(QLatin1String(name));
+    for (const ControlOption &row : kValueControls) {
+        for (const QString &value : parser.values(QLatin1String(row.option)))
+            options.startControls += QLatin1String(row.control) + u' ' + value;
     }
     for (const char *name : kSwitchControls) {
         if (parser.isSet(QLatin1String(name)))

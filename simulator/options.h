@@ -27,7 +27,7 @@ struct Options
     QString linkPath;
     quint64 seed = 1;
     bool control = false;
-    QStringList startControls; ///< control lines that stand for the fault options, in order
+    QStringList startControls; ///< control lines that options stand for, in order
 };
 
 /// Reads the command line, program name first. Prints the manual or the version and ends the program when asked to.

@@ -39,17 +39,21 @@ ImuSample fixedSample(int node)
     return sample;
 }
 
-SampleSource::SampleSource(MotionKind motion, AxisConvention convention, std::optional<CsvRecording> recording)
-    : m_motion(motion, convention), m_recording(std::move(recording))
+SampleSource::SampleSource(MotionKind motion, AxisConvention convention, std::optional<CsvRecording> recording,
+                           quint64 seed)
+    : m_motion(motion, convention), m_recording(std::move(recording)), m_vibration(seed)
 {}
 
 ImuSample SampleSource::sampleAt(quint64 frame, double seconds, int node, int nodeCount) const
 {
+    ImuSample sample;
     if (m_values == ValueKind::Fixed)
-        return fixedSample(node);
-    ImuSample sample = m_recording
-                           ? m_recording->sampleAt(frame + quint64(node) * m_recording->rowCount() / quint64(nodeCount))
-                           : m_motion.sampleAt(seconds, kPhasePerNode * node);
+        sample = fixedSample(node);
+    else if (m_recording)
+        sample = m_recording->sampleAt(frame + quint64(node) * m_recording->rowCount() / quint64(nodeCount));
+    else
+        sample = m_motion.sampleAt(seconds, kPhasePerNode * node);
+    m_vibration.apply(sample, seconds, frame, node);
     if (m_values == ValueKind::Nan)
         spoil(sample);
     return sample;

@@ -4,6 +4,7 @@
 
 #include "simulator/csv_recording.h"
 #include "simulator/motion_model.h"
+#include "simulator/vibration.h"
 
 namespace kvsim {
 
@@ -18,11 +19,12 @@ enum class ValueKind {
 /// 1 and is not that of the angles. Node k of a gateway reads 0.125 G more per k on its x axis.
 ImuSample fixedSample(int node);
 
-/// Where samples come from: the motion model, or a recording that is played round and round.
+/// Where samples come from: the motion model, or a recording that is played round and round, shaken on request.
 class SampleSource
 {
 public:
-    SampleSource(MotionKind motion, AxisConvention convention, std::optional<CsvRecording> recording);
+    /// @param seed of the vibration's noise
+    SampleSource(MotionKind motion, AxisConvention convention, std::optional<CsvRecording> recording, quint64 seed);
 
     /// Rate of the recording, Hz; nothing for the motion model.
     std::optional<double> recordedRateHz() const
@@ -31,6 +33,8 @@ public:
     }
 
     void setValues(ValueKind values) { m_values = values; }
+    /// Added to the values of every kind.
+    Vibration &vibration() { return m_vibration; }
 
     /// The sample of one node, without id and time stamp. Nodes move differently; a recording gives each node its own
     /// place to start from.
@@ -40,6 +44,7 @@ public:
 private:
     MotionModel m_motion;
     std::optional<CsvRecording> m_recording;
+    Vibration m_vibration;
     ValueKind m_values = ValueKind::Normal;
 };
 

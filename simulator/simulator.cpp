@@ -20,7 +20,7 @@ int startRate(const Options &options, const SampleSource &source)
 } // namespace
 
 Simulator::Simulator(const Options &options, std::optional<CsvRecording> recording)
-    : m_options(options), m_source(options.motion, options.device->convention(), std::move(recording)),
+    : m_options(options), m_source(options.motion, options.device->convention(), std::move(recording), options.seed),
       m_device(*options.device, {startRate(options, m_source), options.id, 0}, options.baudRate),
       m_faults(options.seed), m_line(options.baudRate), m_link(options.linkPath), m_nodes(options.nodes)
 {

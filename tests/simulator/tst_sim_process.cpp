@@ -3,6 +3,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <cmath>
 #include <csignal>
 
 #include <fcntl.h>
@@ -104,6 +105,19 @@ private slots:
         }
     }
 
+    void vibrationKeepsTime()
+    {
+        SimulatorProcess simulator(words("--rate 1000 --vibration 50:0.5:z --vibration-noise 0.001"));
+        Host host(simulator.port());
+        QVERIFY(host.readFrames(300));
+        // Time stamps leave out a fraction of a millisecond: up to 18 degrees of the tone.
+        for (qsizetype i = 0; i < 300; ++i) {
+            const double middle = 0.5 * std::sin((double(host.timeOf(i) % 20) + 0.5) * M_PI / 10.0);
+            const double z = double(qFromLittleEndian<float>(host.payloads.at(i).constData() + 20)) - 1.0;
+            QVERIFY2(std::abs(z - middle) < 0.5 * 0.157 + 0.006, QByteArray::number(z - middle));
+        }
+    }
+
     void restartBringsTheOutputBack()
     {
         SimulatorProcess simulator({});
@@ -188,11 +202,13 @@ private slots:
     void controlsAreChecked()
     {
         SimulatorProcess simulator({});
-        for (const char *bad : {"", "bogus", "noise", "noise x", "noise -1", "noise nan", "rate 0", "rate 2001",
-                                "silent yes", "nodes 2", "values odd", "quit now", "gap 1 2"})
+        for (const char *bad :
+             {"", "bogus", "noise", "noise x", "noise -1", "noise nan", "rate 0", "rate 2001", "silent yes",
+              "vibration", "vibration add 5", "nodes 2", "values odd", "quit now", "gap 1 2"})
             QVERIFY2(!simulator.control(bad), bad);
         QVERIFY(!simulator.control(QByteArray(100'000, 'x').constData()));
-        for (const char *good : {"noise 0.5", " drop  1 ", "insert 0", "burst 4", "rate 2000", "values nan", "reply 1"})
+        for (const char *good : {"noise 0.5", " drop  1 ", "insert 0", "burst 4", "rate 2000", "values nan", "reply 1",
+                                 "vibration add 50:0.2:gz:1", "vibration off"})
             QVERIFY2(simulator.control(good), good);
     }
 

@@ -1,0 +1,169 @@
+#include "simulator/controls.h"
+
+#include <array>
+#include <optional>
+
+#include "simulator/simulator.h"
+
+namespace kvsim {
+
+namespace {
+
+// What kind of value stands behind a control's name.
+enum class Argument { None, Switch, Rate, Integer, Values, Text };
+
+// A control's value, read and checked by its kind.
+struct Value
+{
+    double rate = 0.0;
+    int integer = 0;
+    bool on = false;
+    ValueKind values = ValueKind::Normal;
+    QString text;
+};
+
+struct Control
+{
+    const char *name; // one word or two
+    Argument argument;
+    int low; // of an integer
+    int high;
+    const char *text;
+    // Returns an empty text, or why it does not work.
+    QString (*run)(Simulator &simulator, const Value &value);
+};
+
+QString infoReply(Simulator &simulator, InfoReply reply, bool on, int megabytes = 0)
+{
+    simulator.device().setInfoReply(on ? reply : InfoReply::Normal, megabytes);
+    return {};
+}
+
+// clang-format off
+constexpr std::array kControls{
+    Control{"noise", Argument::Rate, 0, 0, "flip bits, this many per kilobyte",
+            [](Simulator &s, const Value &v) { s.faults().setFlipRate(v.rate); return QString(); }},
+    Control{"drop", Argument::Rate, 0, 0, "lose bytes, this many per kilobyte",
+            [](Simulator &s, const Value &v) { s.faults().setDropRate(v.rate); return QString(); }},
+    Control{"insert", Argument::Rate, 0, 0, "insert bytes, this many per kilobyte",
+            [](Simulator &s, const Value &v) { s.faults().setInsertRate(v.rate); return QString(); }},
+    Control{"gap", Argument::Integer, 1, 600'000, "send and hear nothing for so many ms, once",
+            [](Simulator &s, const Value &v) { s.silenceFor(v.integer); return QString(); }},
+    Control{"burst", Argument::Integer, 1, 64, "hold frames back, send so many at once (1: off)",
+            [](Simulator &s, const Value &v) { s.setBurst(v.integer); return QString(); }},
+    Control{"silent", Argument::Switch, 0, 0, "send and hear nothing",
+            [](Simulator &s, const Value &v) { s.setSilent(v.on); return QString(); }},
+    Control{"deaf", Argument::Switch, 0, 0, "stream, but hear no commands",
+            [](Simulator &s, const Value &v) { s.setDeaf(v.on); return QString(); }},
+    Control{"unplug", Argument::None, 0, 0, "close the port, remove the link",
+            [](Simulator &s, const Value &) { s.unplug(); return QString(); }},
+    Control{"replug", Argument::None, 0, 0, "open a new port, print its \"port: ...\" line",
+            [](Simulator &s, const Value &) { QString error; s.replug(&error); return error; }},
+    Control{"nodes", Argument::Integer, 1, kMaxNodes, "nodes behind the gateway",
+            [](Simulator &s, const Value &v) {
+                return s.setNodes(v.integer) ? QString() : QStringLiteral("the device is no gateway");
+            }},
+    Control{"rotate-ids", Argument::Switch, 0, 0, "new node ids in each batch, 1 to 250 in turn",
+            [](Simulator &s, const Value &v) { s.setRotateIds(v.on); return QString(); }},
+    Control{"rate", Argument::Integer, 1, kMaxRateHz, "frames per second",
+            [](Simulator &s, const Value &v) { s.setRate(v.integer); return QString(); }},
+    Control{"values", Argument::Values, 0, 0, "kind of values; nan: NaN and infinities among floats",
+            [](Simulator &s, const Value &v) { s.source().setValues(v.values); return QString(); }},
+    Control{"vibration add", Argument::Text, 0, 0, "shake with a tone F:A:AXIS[:RATIO,RATIO...]",
+            [](Simulator &s, const Value &v) { return s.source().vibration().addTone(v.text); }},
+    Control{"vibration noise", Argument::Text, 0, 0, "shake with noise ACC[:GYR], G and deg/s",
+            [](Simulator &s, const Value &v) { return s.source().vibration().setNoise(v.text); }},
+    Control{"vibration off", Argument::None, 0, 0, "end tones and noise",
+            [](Simulator &s, const Value &) { s.source().vibration().clear(); return QString(); }},
+    Control{"reply", Argument::Integer, 0, DeviceModel::kMaxReplyMegabytes,
+            "information reply of so many megabytes (0: off)",
+            [](Simulator &s, const Value &v) { return infoReply(s, InfoReply::Huge, v.integer > 0, v.integer); }},
+    Control{"reply-binary", Argument::Switch, 0, 0, "information reply that is not valid UTF-8",
+            [](Simulator &s, const Value &v) { return infoReply(s, InfoReply::Binary, v.on); }},
+    Control{"wrong-device", Argument::Switch, 0, 0, "information reply of an unknown model",
+            [](Simulator &s, const Value &v) { return infoReply(s, InfoReply::WrongModel, v.on); }},
+};
+// clang-format on
+
+QString usageOf(const Control &control)
+{
+    switch (control.argument) {
+    case Argument::None:
+        return {};
+    case Argument::Switch:
+        return QStringLiteral("on|off");
+    case Argument::Rate:
+        return QStringLiteral("0..%1").arg(int(FaultInjector::kMaxRate));
+    case Argument::Integer:
+        return QStringLiteral("%1..%2").arg(control.low).arg(control.high);
+    case Argument::Values:
+        return QStringLiteral("normal|nan|fixed");
+    case Argument::Text:
+        return QStringLiteral("TEXT");
+    }
+    return {};
+}
+
+std::optional<Value> readValue(const Control &control, const QString &word)
+{
+    Value value;
+    bool ok = word.isEmpty();
+    switch (control.argument) {
+    case Argument::None:
+        break;
+    case Argument::Switch:
+        value.on = word == u"on";
+        ok = value.on || word == u"off";
+        break;
+    case Argument::Rate:
+        value.rate = word.toDouble(&ok);
+        ok = ok && value.rate >= 0.0 && value.rate <= FaultInjector::kMaxRate;
+        break;
+    case Argument::Integer:
+        value.integer = word.toInt(&ok);
+        ok = ok && value.integer >= control.low && value.integer <= control.high;
+        break;
+    case Argument::Values:
+        value.values = word == u"nan" ? ValueKind::Nan : word == u"fixed" ? ValueKind::Fixed : ValueKind::Normal;
+        ok = value.values != ValueKind::Normal || word == u"normal";
+        break;
+    case Argument::Text:
+        value.text = word;
+        ok = !word.isEmpty();
+        break;
+    }
+    return ok ? std::optional(value) : std::nullopt;
+}
+
+} // namespace
+
+QString controlsTable()
+{
+    const auto row = [](const QString &name, const char *text) {
+        return QStringLiteral("  %1 %2\n").arg(name, -26).arg(QLatin1String(text));
+    };
+    QString table;
+    for (const Control &control : kControls)
+        table += row((QLatin1String(control.name) + u' ' + usageOf(control)).trimmed(), control.text);
+    table += row(QStringLiteral("stats"), "print \"stats: frames=... frames_sent=... frames_intact=...");
+    table += row(QString(), "dropped=... unheard=... bytes=...\"; frames counts what was due while a");
+    table += row(QString(), "host had the port open, unheard what was due without one");
+    table += row(QStringLiteral("quit"), "end the program");
+    return table;
+}
+
+QString runControl(Simulator &simulator, const QString &line)
+{
+    const QString text = line.trimmed();
+    for (const Control &control : kControls) {
+        const QLatin1String name(control.name);
+        if (text != name && !text.startsWith(name + u' '))
+            continue;
+        const std::optional<Value> value = readValue(control, text.mid(name.size()).trimmed());
+        return value ? control.run(simulator, *value)
+                     : QStringLiteral("usage: %1 %2").arg(name, usageOf(control)).trimmed();
+    }
+    return QStringLiteral("unknown control \"%1\"").arg(text.left(40));
+}
+
+} // namespace kvsim

@@ -1,0 +1,116 @@
+#include <QtTest>
+
+#include <cmath>
+#include <complex>
+
+#include "simulator/sample_source.h"
+
+using namespace kvsim;
+
+namespace {
+
+constexpr int kRateHz = 1000;
+
+SampleSource resting(quint64 seed = 1)
+{
+    return {MotionKind::Rest, AxisConvention::FluZyx, {}, seed};
+}
+
+// Value 0..2 is acc, 3..5 gyr.
+double valueOf(const SampleSource &source, quint64 frame, std::size_t value)
+{
+    const ImuSample sample = source.sampleAt(frame, double(frame) / kRateHz, 0, 1);
+    return double(value < 3 ? sample.acc[value] : sample.gyr[value - 3]);
+}
+
+// Phasor of one frequency over ten seconds that begin an hour after the start; an amplitude times sin has phase -90.
+std::complex<double> phasor(const SampleSource &source, std::size_t value, double hertz)
+{
+    std::complex<double> sum;
+    for (quint64 i = 0; i < 10 * kRateHz; ++i) {
+        const double turns = hertz * double(i) / kRateHz;
+        sum += valueOf(source, 3600 * kRateHz + i, value) * std::polar(1.0, -2.0 * kPi * turns);
+    }
+    return sum * (2.0 / (10 * kRateHz));
+}
+
+} // namespace
+
+class TestSimVibration : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void tones_data()
+    {
+        QTest::addColumn<QString>("tones");
+        QTest::addColumn<int>("value");
+        QTest::addColumn<double>("hertz");
+        QTest::addColumn<double>("amplitude");
+        const QString two = QStringLiteral("50:0.5:z:0.5,0.25 120:2:gx");
+        QTest::newRow("tone") << two << 2 << 50.0 << 0.5;
+        QTest::newRow("second harmonic") << two << 2 << 100.0 << 0.25;
+        QTest::newRow("third harmonic") << two << 2 << 150.0 << 0.125;
+        QTest::newRow("rate") << two << 3 << 120.0 << 2.0;
+        QTest::newRow("another axis") << two << 0 << 50.0 << 0.0;
+        QTest::newRow("another frequency") << two << 3 << 50.0 << 0.0;
+        QTest::newRow("two on one axis") << QStringLiteral("10:1:y 10:2:y") << 1 << 10.0 << 3.0;
+        QTest::newRow("between milliseconds") << QStringLiteral("33.3:1:x") << 0 << 33.3 << 1.0;
+    }
+    void tones()
+    {
+        QFETCH(QString, tones);
+        QFETCH(int, value);
+        QFETCH(double, hertz);
+        QFETCH(double, amplitude);
+        SampleSource source = resting();
+        for (const QString &tone : tones.split(u' '))
+            QCOMPARE(source.vibration().addTone(tone), QString());
+        const std::complex<double> wanted(0.0, -amplitude);
+        QVERIFY(std::abs(phasor(source, std::size_t(value), hertz) - wanted) < 1e-4);
+        source.vibration().clear();
+        QVERIFY(std::abs(phasor(source, std::size_t(value), hertz)) < 1e-4);
+    }
+
+    void noise()
+    {
+        SampleSource source = resting();
+        QCOMPARE(source.vibration().setNoise(QStringLiteral("0.1:3")), QString());
+        // Of each axis and of neighbouring axes and frames: mean, standard deviation, and that none go together.
+        constexpr int kCount = 20'000;
+        for (std::size_t axis = 0; axis < 6; ++axis) {
+            double mean = 0.0, square = 0.0, acrossFrames = 0.0, acrossAxes = 0.0;
+            const auto noiseAt = [&](quint64 frame, std::size_t i) {
+                return (valueOf(source, frame, i) - (i == 2 ? 1.0 : 0.0)) / (i < 3 ? 0.1 : 3.0) / std::sqrt(kCount);
+            };
+            for (quint64 i = 0; i < kCount; ++i) {
+                const double value = noiseAt(i, axis);
+                mean += value;
+                square += value * value;
+                acrossFrames += value * noiseAt(i + 1, axis);
+                acrossAxes += value * noiseAt(i, (axis + 1) % 6);
+            }
+            QVERIFY2(std::abs(mean) < 5.0 && std::abs(square - 1.0) < 0.05, QByteArray::number(int(axis)));
+            QVERIFY(std::abs(acrossFrames) < 0.035 && std::abs(acrossAxes) < 0.035);
+        }
+        SampleSource other = resting(2);
+        other.vibration().setNoise(QStringLiteral("0.1:3"));
+        QVERIFY(valueOf(source, 7, 0) == valueOf(source, 7, 0) && valueOf(source, 7, 0) != valueOf(other, 7, 0));
+    }
+
+    void refuses()
+    {
+        Vibration vibration(1);
+        for (const char *bad :
+             {"", "50", "50:1", "50:1:w", "50:1:", "50:1:xy", "50:1:g", "0:1:x", "-5:1:x", "nan:1:x", "50:nan:x",
+              "50:inf:x", "50:1e9:x", "50:1:x:", "50:1:x:a", "50:1:x:1:2", "50:1:x:1,1,1,1,1,1,1,1,1,1,1,1,1,1,1,1,1"})
+            QVERIFY2(!vibration.addTone(QLatin1String(bad)).isEmpty(), bad);
+        for (const char *bad : {"", "x", "-1", "nan", "1:x", "1:2:3"})
+            QVERIFY2(!vibration.setNoise(QLatin1String(bad)).isEmpty(), bad);
+        for (std::size_t i = 0; i <= Vibration::kMaxTones; ++i)
+            QCOMPARE(vibration.addTone(QStringLiteral("1:1:x")).isEmpty(), i < Vibration::kMaxTones);
+    }
+};
+
+QTEST_APPLESS_MAIN(TestSimVibration)
+#include "tst_sim_vibration.moc"
