@@ -57,6 +57,71 @@
     </message>
 </context>
 <context>
+    <name>FftAlarm</name>
+    <message>
+        <source>Resultant</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Hz on %2 (amp %3)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Band %1 | Watch &gt;= %2 | Alarm &gt;= %3 | %4 frame(s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1-%2 Hz</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Hz and above</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All frequencies</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FftBand</name>
+    <message>
+        <source>Low</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FftWindow</name>
+    <message>
+        <source>Rectangular</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hann</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hamming</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Blackman</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Flat Top</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>GatewayDashboardBridge</name>
     <message>
         <source>Node %1 · %2</source>
@@ -360,7 +425,7 @@
     </message>
     <message>
         <source>&amp;Mounting</source>
-        <translation>장착 방향(&amp;M)</translation>
+        <translation>장착(&amp;M)</translation>
     </message>
     <message>
         <source>How the device is mounted; remembered for each product</source>
@@ -568,22 +633,38 @@
     </message>
     <message>
         <source>Waveforms of the selected node</source>
-        <translation type="unfinished"></translation>
+        <translation>선택한 노드의 파형을 표시합니다</translation>
     </message>
     <message>
         <source>All radio nodes of a connected wireless gateway</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Record the stream to CSV files</source>
-        <translation type="unfinished"></translation>
+        <translation>연결된 무선 게이트웨이의 모든 무선 노드를 표시합니다</translation>
     </message>
     <message>
         <source>Language of the interface</source>
-        <translation type="unfinished"></translation>
+        <translation>표시 언어</translation>
     </message>
     <message>
         <source>Language</source>
+        <translation>언어</translation>
+    </message>
+    <message>
+        <source>Ctrl+R</source>
+        <translation>Ctrl+R</translation>
+    </message>
+    <message>
+        <source>Record the stream to CSV files (%1)</source>
+        <translation>수신 데이터를 CSV 파일로 기록합니다 (%1)</translation>
+    </message>
+    <message>
+        <source>Recording: trouble</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recording %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The translation for %1 cannot be loaded. The language stays as it is.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
