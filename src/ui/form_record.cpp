@@ -87,7 +87,7 @@ form_record::form_record(QWidget *parent) : QDialog(parent), m_ui(std::make_uniq
     connect(&m_timer, &QTimer::timeout, this, &form_record::tick);
     for (QLineEdit *field : {m_ui->LE_folder, m_ui->LE_name})
         connect(field, &QLineEdit::textChanged, this, [this] {
-            m_startProblem = StartProblem::None;
+            m_problem = Problem::None;
             m_folderCreated = false;
             updateState();
         });
@@ -112,7 +112,7 @@ bool form_record::startRecording()
 {
     if (m_isRecording)
         return true;
-    m_startProblem = StartProblem::None;
+    m_problem = Problem::None;
     if (!blockedReason().isEmpty()) {
         updateState();
         return false;
@@ -121,13 +121,13 @@ bool form_record::startRecording()
     const QString name = recording_target::name(m_ui->LE_name->text());
     const bool isMissing = !QFileInfo::exists(folder);
     if (!isMissing && !QFileInfo(folder).isDir())
-        return failStart(StartProblem::FolderIsFile, folder);
+        return fail(Problem::FolderIsFile, folder);
     if (isMissing && !QDir().mkpath(folder))
-        return failStart(StartProblem::CannotCreateFolder, folder);
+        return fail(Problem::CannotCreateFolder, folder);
     const QString basePath = recording_target::basePath(folder, name, QDateTime::currentDateTime());
     auto run = std::make_unique<RecordingRun>(basePath);
     if (!run->isRunning())
-        return failStart(StartProblem::CannotOpenFile, run->writer().filePath(), run->writer().fileError());
+        return fail(Problem::CannotOpenFile, run->writer().filePath(), run->writer().fileError());
 
     QSettings settings(settings_keys::kFile, QSettings::IniFormat);
     settings.setValue(settings_keys::kRecordPath, folder + u'/' + name + QLatin1String(".csv"));
@@ -140,7 +140,7 @@ bool form_record::startRecording()
     m_folderCreated = isMissing;
     m_isRecording = true;
     m_endedByLink = false;
-    m_trouble = {};
+    m_vanishedFile.clear();
     m_recordsPerSecond = -1;
     m_bytesPerSecond = 0;
     m_measuredCount = 0;
@@ -153,7 +153,6 @@ bool form_record::startRecording()
     updateTrouble();
     updateState();
     emit recordingChanged(true);
-    emit troubleChanged();
     return true;
 }
 
@@ -172,7 +171,7 @@ void form_record::stopRecording()
 
 unsigned int form_record::recordCount() const
 {
-    return m_run ? m_run->writer().getFrameCtr() : 0;
+    return m_run ? m_run->writer().getFrameCtr() - m_run->writer().lostRecords() : 0;
 }
 
 void form_record::imuPackage0x91(const node_data_t &node)
@@ -191,6 +190,14 @@ void form_record::imuPackage0x63(const QList<node_data_t> &nodes, unsigned int t
 {
     if (m_isRecording)
         m_run->writer().enqueue63(nodes, timestampMs);
+}
+
+bool form_record::event(QEvent *event)
+{
+    const bool handled = QDialog::event(event);
+    if (event->type() == QEvent::LayoutRequest) // labels have got more lines: windows do not grow by themselves
+        fitHeight();
+    return handled;
 }
 
 void form_record::showEvent(QShowEvent *event)
@@ -237,7 +244,8 @@ void form_record::on_BTN_folder_clicked()
 {
     const QString folder =
         m_run ? QFileInfo(m_run->writer().filePath()).path() : recording_target::folder(m_ui->LE_folder->text());
-    QDesktopServices::openUrl(QUrl::fromLocalFile(folder));
+    if (!QFileInfo(folder).isDir() || !QDesktopServices::openUrl(QUrl::fromLocalFile(folder)))
+        fail(Problem::CannotShowFolder, folder);
 }
 
 void form_record::tick()
@@ -262,7 +270,7 @@ void form_record::measure()
     m_measuredSize = size;
     m_freeBytes = recording_target::freeBytes(QFileInfo(file).path());
     if (writer.fileError().isEmpty() && !QFileInfo::exists(file) && file == writer.filePath())
-        m_trouble.vanishedFile = file;
+        m_vanishedFile = file;
 }
 
 void form_record::updateTrouble()
@@ -272,6 +280,7 @@ void form_record::updateTrouble()
     m_trouble.dropped = writer.droppedRecords();
     m_trouble.lost = writer.lostRecords();
     m_trouble.fileError = writer.fileError();
+    m_trouble.vanishedFile = m_vanishedFile;
     m_trouble.lowSpace = m_isRecording && m_freeBytes >= 0
                          && (m_freeBytes < kLowBytes || double(m_freeBytes) < m_bytesPerSecond * kLowSeconds);
     updateNotice();
@@ -289,9 +298,9 @@ QString form_record::blockedReason() const
     return nameProblem(recording_target::name(m_ui->LE_name->text()));
 }
 
-bool form_record::failStart(StartProblem problem, const QString &path, const QString &reason)
+bool form_record::fail(Problem problem, const QString &path, const QString &reason)
 {
-    m_startProblem = problem;
+    m_problem = problem;
     m_problemPath = path;
     m_problemReason = reason;
     updateState();
@@ -391,12 +400,14 @@ QStringList form_record::noticeLines() const
 {
     const QString problemPath = shownPath(m_problemPath);
     QStringList lines;
-    if (m_startProblem == StartProblem::FolderIsFile)
+    if (m_problem == Problem::FolderIsFile)
         lines += tr("%1 is a file, not a folder.").arg(problemPath);
-    else if (m_startProblem == StartProblem::CannotCreateFolder)
+    else if (m_problem == Problem::CannotCreateFolder)
         lines += tr("The folder %1 cannot be created. Choose another one.").arg(problemPath);
-    else if (m_startProblem == StartProblem::CannotOpenFile)
+    else if (m_problem == Problem::CannotOpenFile)
         lines += tr("%1 cannot be written: %2").arg(problemPath, m_problemReason);
+    else if (m_problem == Problem::CannotShowFolder)
+        lines += tr("The folder %1 cannot be shown.").arg(problemPath);
     if (m_trouble.dropped > 0)
         lines += tr("The disk is too slow. Records dropped: %1").arg(m_trouble.dropped);
     if (!m_trouble.fileError.isEmpty())
@@ -414,17 +425,12 @@ QStringList form_record::noticeLines() const
 void form_record::updateNotice()
 {
     const QString notice = noticeLines().join(u'\n');
-    if (m_ui->LBL_notice->text() == notice && m_ui->LBL_notice->isHidden() == notice.isEmpty())
-        return;
     m_ui->LBL_notice->setText(notice);
     m_ui->LBL_notice->setVisible(!notice.isEmpty());
-    fitHeight();
 }
 
-/// Windows do not grow by themselves when the lines of a label become more.
 void form_record::fitHeight()
 {
-    layout()->activate();
     const int needed = layout()->totalHeightForWidth(width());
     if (needed > height())
         resize(width(), needed);

@@ -42,7 +42,7 @@ public:
     void stopRecording();
 
     bool isRecording() const { return m_isRecording; }
-    /// Records of the running recording, or of the last one, that the writer has dealt with.
+    /// Records written in the running recording, or in the last one.
     unsigned int recordCount() const;
     /// Length in milliseconds of the running recording, or of the last one.
     qint64 elapsedMs() const { return m_isRecording ? m_clock.elapsed() : m_elapsedMs; }
@@ -64,6 +64,7 @@ signals:
     void troubleChanged();
 
 protected:
+    bool event(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void changeEvent(QEvent *event) override;
 
@@ -85,7 +86,7 @@ private:
         bool any() const { return kinds() != 0; }
         int kinds() const;
     };
-    enum class StartProblem { None, FolderIsFile, CannotCreateFolder, CannotOpenFile };
+    enum class Problem { None, FolderIsFile, CannotCreateFolder, CannotOpenFile, CannotShowFolder };
 
     void tick();
     void measure();
@@ -95,7 +96,7 @@ private:
     void updateLive();
     void updateNotice();
     void fitHeight();
-    bool failStart(StartProblem problem, const QString &path, const QString &reason = {});
+    bool fail(Problem problem, const QString &path, const QString &reason = {});
     QString blockedReason() const;
     QString spaceText() const;
     QStringList noticeLines() const;
@@ -117,7 +118,8 @@ private:
     bool m_endedByLink = false;
     bool m_folderCreated = false;
     Trouble m_trouble;
-    StartProblem m_startProblem = StartProblem::None;
+    QString m_vanishedFile;
+    Problem m_problem = Problem::None; ///< of what the user asked for last
     QString m_problemPath;
     QString m_problemReason;
 };

@@ -1,0 +1,290 @@
+#include <QApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QLayout>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTranslator>
+#include <QtTest>
+
+#include <sys/mount.h>
+
+#include "app/settings_keys.h"
+#include "ui/form_record.h"
+#include "ui/recording_target.h"
+
+namespace {
+
+constexpr int kNoticeMs = 10000;
+
+/// The dialog on the screen, with an open link.
+struct Bench
+{
+    form_record dialog;
+
+    Bench()
+    {
+        dialog.setLinkOpen(true);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        QApplication::setActiveWindow(&dialog); // there may be no window manager to do it
+    }
+    template <typename T> T *child(const char *name) const { return dialog.findChild<T *>(QLatin1String(name)); }
+    QPushButton *record() const { return child<QPushButton>("BTN_record"); }
+    QString text(const char *name) const { return child<QLabel>(name)->text().remove(QChar(0x200B)); }
+    QString notice() const { return child<QLabel>("LBL_notice")->isHidden() ? QString() : text("LBL_notice"); }
+    QString file() const { return text("LBL_file"); }
+    void type(const QString &folder, const QString &name)
+    {
+        child<QLineEdit>("LE_folder")->setText(folder);
+        child<QLineEdit>("LE_name")->setText(name);
+    }
+    /// Presses the button by the keyboard.
+    void press(const char *name = "BTN_record")
+    {
+        child<QWidget>(name)->setFocus();
+        QTest::keyClick(child<QWidget>(name), Qt::Key_Space);
+    }
+};
+
+qsizetype linesOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll().count('\n') : -1;
+}
+
+QList<node_data_t> batch()
+{
+    return QList<node_data_t>(16);
+}
+
+/// Puts a mark and 40 % more text behind every text of the dialog.
+class LongLanguage : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *context, const char *source, const char *, int) const override
+    {
+        const QString text = QString::fromUtf8(source);
+        return qstrcmp(context, "form_record") == 0
+                   ? text + u'\u00A7'
+                         + QString(text.size() * 4 / 10, QLatin1Char('m')).replace(6, 1, QLatin1String(" "))
+                   : QString();
+    }
+};
+
+} // namespace
+
+class TestFormRecord : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+
+private slots:
+    void openUrl(const QUrl &url) { m_shown = url.toLocalFile(); }
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        QVERIFY(QDir::setCurrent(m_folder->path()));
+    }
+    void cleanup() { QDir::setCurrent(QDir::rootPath()); }
+
+    void recordsUntilTheLinkCloses()
+    {
+        QString file;
+        {
+            Bench bench;
+            QSignalSpy changed(&bench.dialog, &form_record::recordingChanged);
+            bench.dialog.setLinkOpen(false);
+            QVERIFY(!bench.record()->isEnabled() && bench.record()->toolTip().contains(QLatin1String("serial port")));
+            QVERIFY(!bench.dialog.startRecording());
+            bench.dialog.imuPackage0x91({}); // nothing is recorded yet
+            bench.dialog.setLinkOpen(true);
+            bench.type(m_folder->filePath(QStringLiteral("a/b")), QStringLiteral(" walk.v2.CSV "));
+            bench.press();
+            QVERIFY(bench.dialog.isRecording() && bench.dialog.startRecording());
+            QVERIFY(bench.text("LBL_folderNote").contains(QLatin1String("created")));
+            QVERIFY(!bench.child<QWidget>("LE_name")->isEnabled());
+            QVERIFY(!bench.record()->isDefault()); // a stray Enter does not stop it
+            bench.dialog.imuPackage0x91({});
+            bench.dialog.close();
+            bench.dialog.imuPackage0x62(batch());
+            QTRY_COMPARE(bench.text("LBL_records"), QLatin1String("2"));
+            QTRY_VERIFY(bench.text("LBL_rate").endsWith(QLatin1String(" records/s")));
+            QTRY_VERIFY(bench.text("LBL_elapsed") >= QLatin1String("00:00:01"));
+            for (int i = 0; i < 300; ++i)
+                bench.dialog.imuPackage0x63(batch(), 7);
+            bench.dialog.setLinkOpen(false);
+            QVERIFY(!bench.dialog.isRecording() && bench.text("LBL_state").contains(QLatin1String("port was closed")));
+            QCOMPARE(bench.dialog.recordCount(), 302U);
+            QVERIFY(bench.dialog.elapsedMs() >= 1000 && !bench.dialog.hasTrouble());
+            QCOMPARE(changed, (QList<QVariantList>{{true}, {false}}));
+            bench.dialog.imuPackage0x91({});
+            bench.dialog.show();
+            file = bench.file();
+            QCOMPARE(linesOf(file), 302 + 3);
+            QCOMPARE(bench.text("LBL_size"), recording_target::sizeText(QFileInfo(file).size()));
+
+            QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "openUrl");
+            bench.press("BTN_folder");
+            QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+            QCOMPARE(m_shown, QFileInfo(file).path());
+        }
+        const Bench again;
+        QCOMPARE(again.child<QLineEdit>("LE_folder")->text(), QFileInfo(file).path());
+        QCOMPARE(again.child<QLineEdit>("LE_name")->text(), QLatin1String("walk.v2"));
+    }
+
+    void saysWhyItCannotStart()
+    {
+        const QString here = m_folder->path();
+        QFile plain(here + QStringLiteral("/plain"));
+        QVERIFY(plain.open(QIODevice::WriteOnly));
+        const struct
+        {
+            QString folder, name;
+            const char *message;
+            bool onlyAtStart;
+        } rows[] = {
+            {{}, QStringLiteral("a"), "Choose a folder", false},
+            {here, QStringLiteral(" .csv "), "Type a name", false},
+            {here, QStringLiteral("a/b"), "cannot hold", false},
+            {here, QStringLiteral("a\x01"), "cannot hold", false},
+            {here, QStringLiteral("lpt1.x"), "reserved", false},
+            {here, QString(150, QChar(0xE9)), "too long", false},
+            {here + QStringLiteral("/plain"), QStringLiteral("a"), "not a folder", true},
+            {here + QStringLiteral("/plain/x"), QStringLiteral("a"), "cannot be created", true},
+            {QStringLiteral("/proc"), QStringLiteral("a"), "cannot be written", true}, // forbidden for root as well
+        };
+        Bench bench;
+        for (const auto &row : rows) {
+            bench.type(row.folder, row.name);
+            QCOMPARE(bench.record()->isEnabled(), row.onlyAtStart);
+            QVERIFY2(!bench.dialog.startRecording() && !bench.dialog.isRecording(), row.message);
+            const QString told = row.onlyAtStart ? bench.notice() : bench.record()->toolTip();
+            QVERIFY2(told.contains(QLatin1String(row.message)), qPrintable(told));
+        }
+        bench.type(here, QString(recording_target::kMaxNameBytes, QLatin1Char('n')));
+        QCOMPARE(bench.notice(), QString());
+        bench.press();
+        QVERIFY(bench.dialog.isRecording());
+    }
+
+    void neverEmptiesAnEarlierFile()
+    {
+        QSet<QString> files;
+        for (int i = 1; i <= 5; ++i) { // mostly in one second
+            Bench bench;
+            QVERIFY(bench.dialog.startRecording());
+            bench.dialog.imuPackage0x91({});
+            files += bench.file();
+        } // ends the recording too
+        QCOMPARE(files.size(), 5);
+        for (const QString &file : files)
+            QCOMPARE(linesOf(file), 2);
+    }
+
+    void survivesHostileSettings()
+    {
+        const QString rows[] = {QString(100'000, QLatin1Char('/')), QStringLiteral("/x/\x01"),
+                                QStringLiteral("rel/a.csv"), QStringLiteral("/x/") + QString(5000, QLatin1Char('y')),
+                                QString()};
+        for (const QString &row : rows) {
+            QSettings(settings_keys::kFile, QSettings::IniFormat).setValue(settings_keys::kRecordPath, row);
+            const Bench bench;
+            QCOMPARE(bench.child<QLineEdit>("LE_folder")->text(), m_folder->path());
+            QCOMPARE(bench.child<QLineEdit>("LE_name")->text(), QLatin1String("data"));
+        }
+    }
+
+    void tellsOfDroppedRecordsOnce()
+    {
+        Bench bench;
+        QVERIFY(bench.dialog.startRecording());
+        QSignalSpy trouble(&bench.dialog, &form_record::troubleChanged);
+        unsigned int sent = 0;
+        for (; sent < 1'000'000 && !bench.dialog.hasTrouble(); ++sent) // far faster than they can be written
+            bench.dialog.imuPackage0x62(batch());
+        QVERIFY(bench.notice().contains(QLatin1String("dropped: 1")));
+        for (int i = 0; i < 2000; ++i, ++sent)
+            bench.dialog.imuPackage0x62(batch());
+        bench.dialog.stopRecording();
+        QCOMPARE(trouble.count(), 1);
+        const unsigned int dropped = sent - bench.dialog.recordCount();
+        QVERIFY(bench.notice().endsWith(QLatin1String("dropped: ") + QString::number(dropped)));
+        QVERIFY(bench.dialog.startRecording());
+        QVERIFY(!bench.dialog.hasTrouble() && bench.notice().isEmpty() && trouble.count() == 2);
+    }
+
+    void tellsOfFilesAndDisksThatAreGone()
+    {
+        Bench bench;
+        QVERIFY(bench.dialog.startRecording());
+        QVERIFY(QFile::remove(bench.file()));
+        QTRY_VERIFY_WITH_TIMEOUT(bench.notice().contains(QLatin1String("deleted or moved")), kNoticeMs);
+        bench.dialog.stopRecording();
+        QVERIFY(bench.dialog.hasTrouble());
+
+        const QString disk = m_folder->filePath(QStringLiteral("disk"));
+        QVERIFY(QDir().mkdir(disk));
+        if (::mount("tmpfs", qPrintable(disk), "tmpfs", 0, "size=64k") != 0)
+            QSKIP("mounting is not permitted here");
+        const auto unmount = qScopeGuard([&] { ::umount2(qPrintable(disk), MNT_DETACH); });
+        bench.type(disk, QStringLiteral("full"));
+        QVERIFY(bench.dialog.startRecording());
+        QVERIFY(bench.notice() == QLatin1String("The disk is nearly full.") && bench.dialog.hasTrouble());
+        for (int i = 0; i < 400; ++i)
+            bench.dialog.imuPackage0x62(batch());
+        QTRY_VERIFY_WITH_TIMEOUT(bench.notice().contains(QLatin1String("cannot be written: ")), kNoticeMs);
+        QTRY_VERIFY_WITH_TIMEOUT(bench.notice().contains(QLatin1String("could not be written: ")), kNoticeMs);
+        bench.dialog.stopRecording();
+        QVERIFY(bench.notice().contains(QLatin1String("cannot be written: "))); // neither could the rest
+        QVERIFY(linesOf(bench.file()) > 100);
+    }
+
+    void speaksEveryLanguageAtEverySize()
+    {
+        LongLanguage language;
+        const QFont before = QApplication::font();
+        for (const int points : {9, 10, 12}) {
+            QFont font = before;
+            font.setPointSize(points);
+            QApplication::setFont(font);
+            Bench bench;
+            QVERIFY(bench.dialog.startRecording());
+            QVERIFY(QFile::remove(bench.file()));
+            QTRY_VERIFY_WITH_TIMEOUT(!bench.notice().isEmpty() && bench.text("LBL_rate").size() > 2, kNoticeMs);
+            QApplication::installTranslator(&language);
+            const auto remove = qScopeGuard([&] { QApplication::removeTranslator(&language); });
+            QTRY_VERIFY(bench.record()->text().contains(u'\u00A7'));
+            QTRY_VERIFY(bench.dialog.height() >= bench.dialog.layout()->totalHeightForWidth(bench.dialog.width()));
+            QVERIFY(bench.dialog.height() <= 720 && bench.dialog.width() <= 800);
+            for (const auto *label : bench.dialog.findChildren<QLabel *>()) {
+                const bool isFigure = QStringList{QStringLiteral("LBL_elapsed"), QStringLiteral("LBL_records"),
+                                                  QStringLiteral("LBL_size"),    QStringLiteral("LBL_file"),
+                                                  QStringLiteral("LBL_space"),   QStringLiteral("LBL_dot")}
+                                          .contains(label->objectName());
+                if (label->isVisible() && !isFigure)
+                    QVERIFY2(label->text().contains(u'\u00A7'), qPrintable(label->objectName()));
+                if (label->isVisible() && !label->wordWrap())
+                    QVERIFY2(label->width() >= label->sizeHint().width(), qPrintable(label->objectName()));
+            }
+            for (const auto *button : bench.dialog.findChildren<QPushButton *>())
+                QVERIFY2(button->width() >= button->sizeHint().width() && button->text().contains(u'\u00A7'),
+                         qPrintable(button->objectName()));
+        }
+        QApplication::setFont(before);
+    }
+
+private:
+    QString m_shown;
+};
+
+QTEST_MAIN(TestFormRecord)
+#include "tst_form_record.moc"
