@@ -596,11 +596,11 @@
     </message>
     <message>
         <source>Ctrl+R</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+R</translation>
     </message>
     <message>
         <source>Record the stream to CSV files (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>将数据流记录到 CSV 文件 (%1)</translation>
     </message>
 </context>
 <context>

@@ -596,11 +596,11 @@
     </message>
     <message>
         <source>Ctrl+R</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+R</translation>
     </message>
     <message>
         <source>Record the stream to CSV files (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>將資料串流記錄至 CSV 檔案 (%1)</translation>
     </message>
 </context>
 <context>
