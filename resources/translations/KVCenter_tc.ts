@@ -57,6 +57,243 @@
     </message>
 </context>
 <context>
+    <name>FftAlarm</name>
+    <message>
+        <source>General</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Industrial</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Human</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Watch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alarm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use cursor A/B to inspect the dominant peak.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use cursor A/B to compare the dominant peak with nearby harmonics and band changes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Low-frequency drift zone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Primary motion zone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vibration zone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>High-frequency impact zone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Structural / looseness zone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check mounting bolts, frame looseness, and base stiffness.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotating equipment zone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare with shaft speed and inspect imbalance, misalignment, or coupling issues.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bearing / gear zone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inspect bearings, gears, and resonance paths around the measured axis.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Impact / resonance zone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check for repeated impacts, chatter, looseness, or hard contact.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Posture / sway zone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Review posture, balance, and slow body sway over a longer window.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gait / repetition zone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare cadence, stride rhythm, and left/right symmetry.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tremor / shake zone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Observe sustained tremor-like motion and compare different postures or limbs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Impact / abrupt motion zone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mark abrupt movement, foot strike, or collision-like events and review the raw waveform.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>General zone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No dominant FFT peak is available yet, so the alarm cannot classify the current motion or vibration.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start or resume FFT updates and wait for a stable peak before acting on the alarm.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 monitoring: waiting for data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 monitoring: no dominant peak yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 monitoring: %2 is below the watch level.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 watch: %2 is approaching the alarm threshold.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 alarm: %2 persisted above threshold.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 monitoring: dominant peak outside target band</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 monitoring: %2 is outside the target band.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dominant peak %1 is outside the monitored band %2, so this preset stays idle.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>If this frequency matters for your use case, switch presets or set a custom alarm rule.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dominant peak %1 is in the %2 and remains below the watch threshold.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dominant peak %1 is in the %2 and is approaching the alarm threshold.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dominant peak %1 is in the %2 and stayed above the alarm threshold long enough to be treated as a persistent event.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Resultant</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Hz on %2 (amp %3)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Band %1 | Watch &gt;= %2 | Alarm &gt;= %3 | %4 frame(s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1-%2 Hz</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Hz and above</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All frequencies</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FftBand</name>
+    <message>
+        <source>Low</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FftWindow</name>
+    <message>
+        <source>Rectangular</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hann</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hamming</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Blackman</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Flat Top</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>GatewayDashboardBridge</name>
     <message>
         <source>Node %1 · %2</source>
@@ -219,11 +456,11 @@
     </message>
     <message>
         <source>Remove the measuring cursors</source>
-        <translation>移除測量游標</translation>
+        <translation>移除量測游標</translation>
     </message>
     <message>
         <source>Measure between two cursors</source>
-        <translation>以兩個游標測量</translation>
+        <translation>以兩個游標量測</translation>
     </message>
     <message>
         <source>Esc</source>
@@ -702,7 +939,7 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>Elapsed time</source>
-        <translation>記錄時間</translation>
+        <translation>已記錄時間</translation>
     </message>
     <message>
         <source>Rate</source>
@@ -790,7 +1027,7 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>Not recording</source>
-        <translation>未在記錄</translation>
+        <translation>尚未記錄</translation>
     </message>
     <message>
         <source>Recording goes on when this window is closed.</source>
