@@ -60,65 +60,237 @@
     <name>FftAlarm</name>
     <message>
         <source>Resultant</source>
-        <translation type="unfinished"></translation>
+        <translation>合成</translation>
     </message>
     <message>
         <source>%1 Hz on %2 (amp %3)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Hz (%2、振幅 %3)</translation>
     </message>
     <message>
         <source>Band %1 | Watch &gt;= %2 | Alarm &gt;= %3 | %4 frame(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>帯域 %1 | 注意 &gt;= %2 | 警報 &gt;= %3 | %4 フレーム</translation>
     </message>
     <message>
         <source>%1-%2 Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1～%2 Hz</translation>
     </message>
     <message>
         <source>%1 Hz and above</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Hz 以上</translation>
     </message>
     <message>
         <source>All frequencies</source>
-        <translation type="unfinished"></translation>
+        <translation>全周波数</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>汎用</translation>
+    </message>
+    <message>
+        <source>Industrial</source>
+        <translation>産業機械</translation>
+    </message>
+    <message>
+        <source>Human</source>
+        <translation>人体動作</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>正常</translation>
+    </message>
+    <message>
+        <source>Watch</source>
+        <translation>注意</translation>
+    </message>
+    <message>
+        <source>Alarm</source>
+        <translation>警報</translation>
+    </message>
+    <message>
+        <source>Use cursor A/B to inspect the dominant peak.</source>
+        <translation>カーソル A/B で卓越ピークを確認してください。</translation>
+    </message>
+    <message>
+        <source>Use cursor A/B to compare the dominant peak with nearby harmonics and band changes.</source>
+        <translation>カーソル A/B で、卓越ピークと近くの高調波や帯域の変化を比較してください。</translation>
+    </message>
+    <message>
+        <source>Low-frequency drift zone</source>
+        <translation>低周波ドリフト領域</translation>
+    </message>
+    <message>
+        <source>Primary motion zone</source>
+        <translation>主運動領域</translation>
+    </message>
+    <message>
+        <source>Vibration zone</source>
+        <translation>振動領域</translation>
+    </message>
+    <message>
+        <source>High-frequency impact zone</source>
+        <translation>高周波衝撃領域</translation>
+    </message>
+    <message>
+        <source>Structural / looseness zone</source>
+        <translation>構造・緩み領域</translation>
+    </message>
+    <message>
+        <source>Check mounting bolts, frame looseness, and base stiffness.</source>
+        <translation>取り付けボルト、フレームの緩み、基礎の剛性を確認してください。</translation>
+    </message>
+    <message>
+        <source>Rotating equipment zone</source>
+        <translation>回転機器領域</translation>
+    </message>
+    <message>
+        <source>Compare with shaft speed and inspect imbalance, misalignment, or coupling issues.</source>
+        <translation>軸の回転速度と比較し、アンバランス、芯ずれ、カップリングの異常を点検してください。</translation>
+    </message>
+    <message>
+        <source>Bearing / gear zone</source>
+        <translation>軸受・歯車領域</translation>
+    </message>
+    <message>
+        <source>Inspect bearings, gears, and resonance paths around the measured axis.</source>
+        <translation>測定軸周辺の軸受、歯車、共振経路を点検してください。</translation>
+    </message>
+    <message>
+        <source>Impact / resonance zone</source>
+        <translation>衝撃・共振領域</translation>
+    </message>
+    <message>
+        <source>Check for repeated impacts, chatter, looseness, or hard contact.</source>
+        <translation>繰り返しの衝撃、びびり、緩み、強い接触がないか確認してください。</translation>
+    </message>
+    <message>
+        <source>Posture / sway zone</source>
+        <translation>姿勢・動揺領域</translation>
+    </message>
+    <message>
+        <source>Review posture, balance, and slow body sway over a longer window.</source>
+        <translation>より長い時間範囲で、姿勢、バランス、ゆっくりした身体の揺れを確認してください。</translation>
+    </message>
+    <message>
+        <source>Gait / repetition zone</source>
+        <translation>歩行・反復動作領域</translation>
+    </message>
+    <message>
+        <source>Compare cadence, stride rhythm, and left/right symmetry.</source>
+        <translation>ケイデンス、歩行リズム、左右の対称性を比較してください。</translation>
+    </message>
+    <message>
+        <source>Tremor / shake zone</source>
+        <translation>振戦・震え領域</translation>
+    </message>
+    <message>
+        <source>Observe sustained tremor-like motion and compare different postures or limbs.</source>
+        <translation>持続する震えのような動きを観察し、異なる姿勢や手足で比較してください。</translation>
+    </message>
+    <message>
+        <source>Impact / abrupt motion zone</source>
+        <translation>衝撃・急動作領域</translation>
+    </message>
+    <message>
+        <source>Mark abrupt movement, foot strike, or collision-like events and review the raw waveform.</source>
+        <translation>急な動き、足の接地、衝突のような現象に印を付け、生波形を確認してください。</translation>
+    </message>
+    <message>
+        <source>General zone</source>
+        <translation>一般領域</translation>
+    </message>
+    <message>
+        <source>No dominant FFT peak is available yet, so the alarm cannot classify the current motion or vibration.</source>
+        <translation>FFT の卓越ピークがまだないため、現在の動きや振動を分類できません。</translation>
+    </message>
+    <message>
+        <source>Start or resume FFT updates and wait for a stable peak before acting on the alarm.</source>
+        <translation>FFT の更新を開始または再開し、ピークが安定してから警報に対応してください。</translation>
+    </message>
+    <message>
+        <source>%1 monitoring: waiting for data</source>
+        <translation>%1 監視: データ待ち</translation>
+    </message>
+    <message>
+        <source>%1 monitoring: no dominant peak yet.</source>
+        <translation>%1 監視: 卓越ピークはまだありません。</translation>
+    </message>
+    <message>
+        <source>%1 monitoring: %2 is below the watch level.</source>
+        <translation>%1 監視: %2 のピークは注意レベル未満です。</translation>
+    </message>
+    <message>
+        <source>%1 watch: %2 is approaching the alarm threshold.</source>
+        <translation>%1 注意: %2 のピークが警報しきい値に近づいています。</translation>
+    </message>
+    <message>
+        <source>%1 alarm: %2 persisted above threshold.</source>
+        <translation>%1 警報: %2 のピークがしきい値を超え続けています。</translation>
+    </message>
+    <message>
+        <source>%1 monitoring: dominant peak outside target band</source>
+        <translation>%1 監視: 卓越ピークが対象帯域外</translation>
+    </message>
+    <message>
+        <source>%1 monitoring: %2 is outside the target band.</source>
+        <translation>%1 監視: %2 のピークは対象帯域外です。</translation>
+    </message>
+    <message>
+        <source>The dominant peak %1 is outside the monitored band %2, so this preset stays idle.</source>
+        <translation>%1 の卓越ピークは監視帯域 %2 の外にあるため、このプリセットは待機状態のままです。</translation>
+    </message>
+    <message>
+        <source>If this frequency matters for your use case, switch presets or set a custom alarm rule.</source>
+        <translation>この周波数が用途上重要な場合は、プリセットを切り替えるか、カスタム警報ルールを設定してください。</translation>
+    </message>
+    <message>
+        <source>The dominant peak %1 is in the %2 and remains below the watch threshold.</source>
+        <translation>%1 の卓越ピークは「%2」にあり、注意しきい値を下回っています。</translation>
+    </message>
+    <message>
+        <source>The dominant peak %1 is in the %2 and is approaching the alarm threshold.</source>
+        <translation>%1 の卓越ピークは「%2」にあり、警報しきい値に近づいています。</translation>
+    </message>
+    <message>
+        <source>The dominant peak %1 is in the %2 and stayed above the alarm threshold long enough to be treated as a persistent event.</source>
+        <translation>%1 の卓越ピークは「%2」にあり、警報しきい値を一定時間超え続けたため、持続的な事象と判定されました。</translation>
     </message>
 </context>
 <context>
     <name>FftBand</name>
     <message>
         <source>Low</source>
-        <translation type="unfinished"></translation>
+        <translation>低域</translation>
     </message>
     <message>
         <source>Mid</source>
-        <translation type="unfinished"></translation>
+        <translation>中域</translation>
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation>高域</translation>
     </message>
 </context>
 <context>
     <name>FftWindow</name>
     <message>
         <source>Rectangular</source>
-        <translation type="unfinished"></translation>
+        <translation>矩形窓</translation>
     </message>
     <message>
         <source>Hann</source>
-        <translation type="unfinished"></translation>
+        <translation>ハン窓</translation>
     </message>
     <message>
         <source>Hamming</source>
-        <translation type="unfinished"></translation>
+        <translation>ハミング窓</translation>
     </message>
     <message>
         <source>Blackman</source>
-        <translation type="unfinished"></translation>
+        <translation>ブラックマン窓</translation>
     </message>
     <message>
         <source>Flat Top</source>
-        <translation type="unfinished"></translation>
+        <translation>フラットトップ窓</translation>
     </message>
 </context>
 <context>
@@ -657,15 +829,15 @@
     </message>
     <message>
         <source>Recording: trouble</source>
-        <translation type="unfinished"></translation>
+        <translation>記録: 問題あり</translation>
     </message>
     <message>
         <source>Recording %1</source>
-        <translation type="unfinished"></translation>
+        <translation>記録中 %1</translation>
     </message>
     <message>
         <source>The translation for %1 cannot be loaded. The language stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 の翻訳を読み込めません。表示言語は変更されません。</translation>
     </message>
 </context>
 <context>

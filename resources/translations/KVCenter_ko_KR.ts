@@ -60,65 +60,237 @@
     <name>FftAlarm</name>
     <message>
         <source>Resultant</source>
-        <translation type="unfinished"></translation>
+        <translation>합성</translation>
     </message>
     <message>
         <source>%1 Hz on %2 (amp %3)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Hz(%2, 진폭 %3)</translation>
     </message>
     <message>
         <source>Band %1 | Watch &gt;= %2 | Alarm &gt;= %3 | %4 frame(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>대역 %1 | 주의 &gt;= %2 | 경보 &gt;= %3 | %4프레임</translation>
     </message>
     <message>
         <source>%1-%2 Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1~%2 Hz</translation>
     </message>
     <message>
         <source>%1 Hz and above</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Hz 이상</translation>
     </message>
     <message>
         <source>All frequencies</source>
-        <translation type="unfinished"></translation>
+        <translation>전체 주파수</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>일반</translation>
+    </message>
+    <message>
+        <source>Industrial</source>
+        <translation>산업 기계</translation>
+    </message>
+    <message>
+        <source>Human</source>
+        <translation>인체 동작</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>정상</translation>
+    </message>
+    <message>
+        <source>Watch</source>
+        <translation>주의</translation>
+    </message>
+    <message>
+        <source>Alarm</source>
+        <translation>경보</translation>
+    </message>
+    <message>
+        <source>Use cursor A/B to inspect the dominant peak.</source>
+        <translation>커서 A/B로 주 피크를 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>Use cursor A/B to compare the dominant peak with nearby harmonics and band changes.</source>
+        <translation>커서 A/B로 주 피크를 인접 고조파 및 대역 변화와 비교하십시오.</translation>
+    </message>
+    <message>
+        <source>Low-frequency drift zone</source>
+        <translation>저주파 드리프트 영역</translation>
+    </message>
+    <message>
+        <source>Primary motion zone</source>
+        <translation>주 운동 영역</translation>
+    </message>
+    <message>
+        <source>Vibration zone</source>
+        <translation>진동 영역</translation>
+    </message>
+    <message>
+        <source>High-frequency impact zone</source>
+        <translation>고주파 충격 영역</translation>
+    </message>
+    <message>
+        <source>Structural / looseness zone</source>
+        <translation>구조/풀림 영역</translation>
+    </message>
+    <message>
+        <source>Check mounting bolts, frame looseness, and base stiffness.</source>
+        <translation>고정 볼트, 프레임 풀림, 베이스 강성을 점검하십시오.</translation>
+    </message>
+    <message>
+        <source>Rotating equipment zone</source>
+        <translation>회전 기기 영역</translation>
+    </message>
+    <message>
+        <source>Compare with shaft speed and inspect imbalance, misalignment, or coupling issues.</source>
+        <translation>축 회전 속도와 비교하고 불평형, 축 정렬 불량, 커플링 이상을 점검하십시오.</translation>
+    </message>
+    <message>
+        <source>Bearing / gear zone</source>
+        <translation>베어링/기어 영역</translation>
+    </message>
+    <message>
+        <source>Inspect bearings, gears, and resonance paths around the measured axis.</source>
+        <translation>측정 축 주변의 베어링, 기어, 공진 경로를 점검하십시오.</translation>
+    </message>
+    <message>
+        <source>Impact / resonance zone</source>
+        <translation>충격/공진 영역</translation>
+    </message>
+    <message>
+        <source>Check for repeated impacts, chatter, looseness, or hard contact.</source>
+        <translation>반복 충격, 채터, 풀림, 강한 접촉이 있는지 점검하십시오.</translation>
+    </message>
+    <message>
+        <source>Posture / sway zone</source>
+        <translation>자세/흔들림 영역</translation>
+    </message>
+    <message>
+        <source>Review posture, balance, and slow body sway over a longer window.</source>
+        <translation>더 긴 구간에서 자세, 균형, 느린 신체 흔들림을 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>Gait / repetition zone</source>
+        <translation>보행/반복 동작 영역</translation>
+    </message>
+    <message>
+        <source>Compare cadence, stride rhythm, and left/right symmetry.</source>
+        <translation>보행률, 보행 리듬, 좌우 대칭을 비교하십시오.</translation>
+    </message>
+    <message>
+        <source>Tremor / shake zone</source>
+        <translation>떨림 영역</translation>
+    </message>
+    <message>
+        <source>Observe sustained tremor-like motion and compare different postures or limbs.</source>
+        <translation>지속적인 떨림 동작을 관찰하고 다른 자세나 팔다리와 비교하십시오.</translation>
+    </message>
+    <message>
+        <source>Impact / abrupt motion zone</source>
+        <translation>충격/급격한 동작 영역</translation>
+    </message>
+    <message>
+        <source>Mark abrupt movement, foot strike, or collision-like events and review the raw waveform.</source>
+        <translation>급격한 움직임, 발 디딤, 충돌과 같은 이벤트를 표시하고 원시 파형을 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>General zone</source>
+        <translation>일반 영역</translation>
+    </message>
+    <message>
+        <source>No dominant FFT peak is available yet, so the alarm cannot classify the current motion or vibration.</source>
+        <translation>아직 FFT 주 피크가 없어 현재의 움직임이나 진동을 분류할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Start or resume FFT updates and wait for a stable peak before acting on the alarm.</source>
+        <translation>FFT 업데이트를 시작하거나 재개하고, 피크가 안정된 다음 경보에 대응하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 monitoring: waiting for data</source>
+        <translation>%1 모니터링: 데이터 대기 중</translation>
+    </message>
+    <message>
+        <source>%1 monitoring: no dominant peak yet.</source>
+        <translation>%1 모니터링: 아직 주 피크가 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 monitoring: %2 is below the watch level.</source>
+        <translation>%1 모니터링: %2 피크가 주의 수준보다 낮습니다.</translation>
+    </message>
+    <message>
+        <source>%1 watch: %2 is approaching the alarm threshold.</source>
+        <translation>%1 주의: %2 피크가 경보 임계값에 접근하고 있습니다.</translation>
+    </message>
+    <message>
+        <source>%1 alarm: %2 persisted above threshold.</source>
+        <translation>%1 경보: %2 피크가 임계값을 계속 초과했습니다.</translation>
+    </message>
+    <message>
+        <source>%1 monitoring: dominant peak outside target band</source>
+        <translation>%1 모니터링: 주 피크가 대상 대역을 벗어남</translation>
+    </message>
+    <message>
+        <source>%1 monitoring: %2 is outside the target band.</source>
+        <translation>%1 모니터링: %2 피크가 대상 대역을 벗어났습니다.</translation>
+    </message>
+    <message>
+        <source>The dominant peak %1 is outside the monitored band %2, so this preset stays idle.</source>
+        <translation>%1의 주 피크가 감시 대역 %2 밖에 있으므로 이 프리셋은 대기 상태를 유지합니다.</translation>
+    </message>
+    <message>
+        <source>If this frequency matters for your use case, switch presets or set a custom alarm rule.</source>
+        <translation>이 주파수가 사용 목적에 중요하면 프리셋을 바꾸거나 사용자 지정 경보 규칙을 설정하십시오.</translation>
+    </message>
+    <message>
+        <source>The dominant peak %1 is in the %2 and remains below the watch threshold.</source>
+        <translation>%1의 주 피크가 %2에 있으며 주의 임계값보다 낮습니다.</translation>
+    </message>
+    <message>
+        <source>The dominant peak %1 is in the %2 and is approaching the alarm threshold.</source>
+        <translation>%1의 주 피크가 %2에 있으며 경보 임계값에 접근하고 있습니다.</translation>
+    </message>
+    <message>
+        <source>The dominant peak %1 is in the %2 and stayed above the alarm threshold long enough to be treated as a persistent event.</source>
+        <translation>%1의 주 피크가 %2에 있으며 경보 임계값을 충분히 오래 초과하여 지속적인 이벤트로 판정되었습니다.</translation>
     </message>
 </context>
 <context>
     <name>FftBand</name>
     <message>
         <source>Low</source>
-        <translation type="unfinished"></translation>
+        <translation>저역</translation>
     </message>
     <message>
         <source>Mid</source>
-        <translation type="unfinished"></translation>
+        <translation>중역</translation>
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation>고역</translation>
     </message>
 </context>
 <context>
     <name>FftWindow</name>
     <message>
         <source>Rectangular</source>
-        <translation type="unfinished"></translation>
+        <translation>직사각형</translation>
     </message>
     <message>
         <source>Hann</source>
-        <translation type="unfinished"></translation>
+        <translation>해닝(Hann)</translation>
     </message>
     <message>
         <source>Hamming</source>
-        <translation type="unfinished"></translation>
+        <translation>해밍</translation>
     </message>
     <message>
         <source>Blackman</source>
-        <translation type="unfinished"></translation>
+        <translation>블랙먼</translation>
     </message>
     <message>
         <source>Flat Top</source>
-        <translation type="unfinished"></translation>
+        <translation>플랫톱</translation>
     </message>
 </context>
 <context>
@@ -657,15 +829,15 @@
     </message>
     <message>
         <source>Recording: trouble</source>
-        <translation type="unfinished"></translation>
+        <translation>기록: 문제 발생</translation>
     </message>
     <message>
         <source>Recording %1</source>
-        <translation type="unfinished"></translation>
+        <translation>기록 중 %1</translation>
     </message>
     <message>
         <source>The translation for %1 cannot be loaded. The language stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>번역을 불러올 수 없습니다: %1. 표시 언어는 변경되지 않습니다.</translation>
     </message>
 </context>
 <context>
