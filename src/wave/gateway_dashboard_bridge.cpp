@@ -67,10 +67,8 @@ QVariantList GatewayDashboardBridge::panes() const
     for (size_t i = 0; i < nodeCount * typeCount; ++i) {
         const NodeCharts &node = m_charts[rowPerNode ? i / typeCount : i % nodeCount];
         const size_t type = types.at(qsizetype(rowPerNode ? i % typeCount : i / nodeCount));
-        const QString typeLabel = SensorDashboardBridge::typeLabel(sensorTypes()[type]);
         panes += QVariantMap{{QStringLiteral("nodeId"), int(node.id)},
                              {QStringLiteral("type"), QString(sensorTypes()[type].key)},
-                             {QStringLiteral("label"), tr("Node %1 · %2").arg(int(node.id)).arg(typeLabel)},
                              {QStringLiteral("backend"), QVariant::fromValue<QObject *>(node.charts[type])}};
     }
     return panes;
@@ -196,6 +194,7 @@ void GatewayDashboardBridge::refresh(qint64 hostMs)
 
 void GatewayDashboardBridge::retranslate()
 {
+    std::for_each(m_charts.begin(), m_charts.end(), nameCharts);
     m_nodeModel.retranslate();
     emit textsChanged();
     emit nodesRefreshed();
@@ -211,7 +210,14 @@ GatewayDashboardBridge::NodeCharts GatewayDashboardBridge::makeCharts(quint8 id)
         node.charts[i]->setFrameRate(m_frameRate);
         node.charts[i]->setPlaying(m_playing);
     }
+    nameCharts(node);
     return node;
+}
+
+void GatewayDashboardBridge::nameCharts(const NodeCharts &node)
+{
+    for (WaveChartBridge *chart : node.charts)
+        chart->setTitlePrefix(tr("Node %1").arg(int(node.id)) + QStringLiteral(" · "));
 }
 
 void GatewayDashboardBridge::dropCharts(const NodeCharts &node)

@@ -17,8 +17,8 @@
 /// sensor type) for each of the nodes that the user chose, at most four. The table is refreshed four times a second
 /// while the dashboard is active. While it is not, samples are dropped at once and nothing is kept but the choices.
 ///
-/// A pane is a map of "nodeId", "type" (key), "label" (translated, "Node 3 · Acceleration") and "backend" (the
-/// WaveChartBridge). Chart bridges live from choosing a node to dropping it. Main thread only.
+/// A pane is a map of "nodeId", "type" (key) and "backend" (the WaveChartBridge, titled "Node 3 · Acceleration (G)").
+/// Chart bridges live from choosing a node to dropping it. Main thread only.
 class GatewayDashboardBridge : public QObject
 {
     Q_OBJECT
@@ -96,6 +96,7 @@ private:
     };
 
     NodeCharts makeCharts(quint8 id);
+    static void nameCharts(const NodeCharts &node);
     static void dropCharts(const NodeCharts &node);
     std::vector<NodeCharts>::iterator findCharts(int nodeId);
     void notifyChosen();

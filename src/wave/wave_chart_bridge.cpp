@@ -186,9 +186,15 @@ bool WaveChartBridge::filterOn() const
     return false;
 }
 
+void WaveChartBridge::setTitlePrefix(const QString &prefix)
+{
+    m_titlePrefix = prefix;
+    retranslate();
+}
+
 void WaveChartBridge::retranslate()
 {
-    const QString title = m_type ? tr(m_type->title) : QString();
+    const QString title = m_type ? m_titlePrefix + tr(m_type->title) : QString();
     if (title == m_chartTitle)
         return;
     m_chartTitle = title;

@@ -106,6 +106,8 @@ public:
     /// Cutoff in Hz of the first channel.
     double filterCutoffHz() const { return m_model.filterCutoff(0); }
 
+    /// Words before the title, where several charts of a type stand side by side.
+    void setTitlePrefix(const QString &prefix);
     /// Picks the title in the current language.
     void retranslate();
 
@@ -124,6 +126,7 @@ private:
     QString m_sensorType;
     const SensorType *m_type; ///< null for an unknown key
     WaveformDataModel m_model;
+    QString m_titlePrefix;
     QString m_chartTitle;
     bool m_playing = true;
     unsigned int m_appliedFrameRate = 100;

@@ -280,6 +280,7 @@ private slots:
         QCOMPARE(chart->newestTimeSec(), 0.038); // 1, 18, and 20 more by the rate
         QCOMPARE(chart->getValuesAtTime(0), (QVariantList{3.0, 4.0, 0.0, 5.0}));
         QCOMPARE(chart->framerate(), 50U);
+        QCOMPARE(chart->chartTitle(), QStringLiteral("Node 1 · Acceleration (G)"));
         bridge.setPlaying(false);
         bridge.updateGatewaySamples({sampleOf(1, 200)});
         QCOMPARE(chart->newestTimeSec(), 0.038);
