@@ -38,6 +38,33 @@
     </message>
 </context>
 <context>
+    <name>ChartSaver</name>
+    <message>
+        <source>Save the visible samples</source>
+        <translation>保存可见区间的采样数据</translation>
+    </message>
+    <message>
+        <source>Comma-separated values (*.csv)</source>
+        <translation>逗号分隔值文件 (*.csv)</translation>
+    </message>
+    <message>
+        <source>The picture could not be taken.</source>
+        <translation>无法截取图片。</translation>
+    </message>
+    <message>
+        <source>Save a picture of the chart</source>
+        <translation>保存图表图片</translation>
+    </message>
+    <message>
+        <source>PNG picture (*.png)</source>
+        <translation>PNG 图片 (*.png)</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>已保存 %1</translation>
+    </message>
+</context>
+<context>
     <name>CommandSession</name>
     <message>
         <source>The device does not answer. Check the baud rate, then identify it again.</source>
@@ -57,248 +84,321 @@
     </message>
 </context>
 <context>
+    <name>DashboardWindow</name>
+    <message>
+        <source>This window could not be loaded. The log of the program tells why.</source>
+        <translation>无法加载此窗口。原因请查看程序日志。</translation>
+    </message>
+</context>
+<context>
     <name>FftAlarm</name>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>通用</translation>
     </message>
     <message>
         <source>Industrial</source>
-        <translation type="unfinished"></translation>
+        <translation>工业</translation>
     </message>
     <message>
         <source>Human</source>
-        <translation type="unfinished"></translation>
+        <translation>人体</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>正常</translation>
     </message>
     <message>
         <source>Watch</source>
-        <translation type="unfinished"></translation>
+        <translation>注意</translation>
     </message>
     <message>
         <source>Alarm</source>
-        <translation type="unfinished"></translation>
+        <translation>报警</translation>
     </message>
     <message>
         <source>Use cursor A/B to inspect the dominant peak.</source>
-        <translation type="unfinished"></translation>
+        <translation>请用光标 A/B 查看主峰。</translation>
     </message>
     <message>
         <source>Use cursor A/B to compare the dominant peak with nearby harmonics and band changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>请用光标 A/B 将主峰与邻近谐波及频带变化进行对比。</translation>
     </message>
     <message>
         <source>Low-frequency drift zone</source>
-        <translation type="unfinished"></translation>
+        <translation>低频漂移区</translation>
     </message>
     <message>
         <source>Primary motion zone</source>
-        <translation type="unfinished"></translation>
+        <translation>主要运动区</translation>
     </message>
     <message>
         <source>Vibration zone</source>
-        <translation type="unfinished"></translation>
+        <translation>振动区</translation>
     </message>
     <message>
         <source>High-frequency impact zone</source>
-        <translation type="unfinished"></translation>
+        <translation>高频冲击区</translation>
     </message>
     <message>
         <source>Structural / looseness zone</source>
-        <translation type="unfinished"></translation>
+        <translation>结构/松动区</translation>
     </message>
     <message>
         <source>Check mounting bolts, frame looseness, and base stiffness.</source>
-        <translation type="unfinished"></translation>
+        <translation>请检查安装螺栓、机架松动情况和基座刚度。</translation>
     </message>
     <message>
         <source>Rotating equipment zone</source>
-        <translation type="unfinished"></translation>
+        <translation>旋转设备区</translation>
     </message>
     <message>
         <source>Compare with shaft speed and inspect imbalance, misalignment, or coupling issues.</source>
-        <translation type="unfinished"></translation>
+        <translation>请与轴转速对比，检查是否存在不平衡、不对中或联轴器问题。</translation>
     </message>
     <message>
         <source>Bearing / gear zone</source>
-        <translation type="unfinished"></translation>
+        <translation>轴承/齿轮区</translation>
     </message>
     <message>
         <source>Inspect bearings, gears, and resonance paths around the measured axis.</source>
-        <translation type="unfinished"></translation>
+        <translation>请检查测量轴附近的轴承、齿轮和共振传递路径。</translation>
     </message>
     <message>
         <source>Impact / resonance zone</source>
-        <translation type="unfinished"></translation>
+        <translation>冲击/共振区</translation>
     </message>
     <message>
         <source>Check for repeated impacts, chatter, looseness, or hard contact.</source>
-        <translation type="unfinished"></translation>
+        <translation>请检查是否存在反复冲击、颤振、松动或硬接触。</translation>
     </message>
     <message>
         <source>Posture / sway zone</source>
-        <translation type="unfinished"></translation>
+        <translation>姿势/晃动区</translation>
     </message>
     <message>
         <source>Review posture, balance, and slow body sway over a longer window.</source>
-        <translation type="unfinished"></translation>
+        <translation>请在更长的时间窗内观察姿势、平衡和身体的缓慢晃动。</translation>
     </message>
     <message>
         <source>Gait / repetition zone</source>
-        <translation type="unfinished"></translation>
+        <translation>步态/重复动作区</translation>
     </message>
     <message>
         <source>Compare cadence, stride rhythm, and left/right symmetry.</source>
-        <translation type="unfinished"></translation>
+        <translation>请对比步频、步伐节奏和左右对称性。</translation>
     </message>
     <message>
         <source>Tremor / shake zone</source>
-        <translation type="unfinished"></translation>
+        <translation>震颤/抖动区</translation>
     </message>
     <message>
         <source>Observe sustained tremor-like motion and compare different postures or limbs.</source>
-        <translation type="unfinished"></translation>
+        <translation>请观察持续的类震颤动作，并对比不同姿势或肢体。</translation>
     </message>
     <message>
         <source>Impact / abrupt motion zone</source>
-        <translation type="unfinished"></translation>
+        <translation>冲击/突发动作区</translation>
     </message>
     <message>
         <source>Mark abrupt movement, foot strike, or collision-like events and review the raw waveform.</source>
-        <translation type="unfinished"></translation>
+        <translation>请标记突发动作、足部着地或类似碰撞的事件，并查看原始波形。</translation>
     </message>
     <message>
         <source>General zone</source>
-        <translation type="unfinished"></translation>
+        <translation>通用区</translation>
     </message>
     <message>
         <source>No dominant FFT peak is available yet, so the alarm cannot classify the current motion or vibration.</source>
-        <translation type="unfinished"></translation>
+        <translation>尚无 FFT 主峰，报警功能无法对当前的运动或振动进行分类。</translation>
     </message>
     <message>
         <source>Start or resume FFT updates and wait for a stable peak before acting on the alarm.</source>
-        <translation type="unfinished"></translation>
+        <translation>请启动或恢复 FFT 更新，待出现稳定的峰值后再处理报警。</translation>
     </message>
     <message>
         <source>%1 monitoring: waiting for data</source>
-        <translation type="unfinished"></translation>
+        <translation>%1监测：正在等待数据</translation>
     </message>
     <message>
         <source>%1 monitoring: no dominant peak yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1监测：尚无主峰。</translation>
     </message>
     <message>
         <source>%1 monitoring: %2 is below the watch level.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1监测：%2 低于注意阈值。</translation>
     </message>
     <message>
         <source>%1 watch: %2 is approaching the alarm threshold.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1注意：%2 正在接近报警阈值。</translation>
     </message>
     <message>
         <source>%1 alarm: %2 persisted above threshold.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1报警：%2 持续高于阈值。</translation>
     </message>
     <message>
         <source>%1 monitoring: dominant peak outside target band</source>
-        <translation type="unfinished"></translation>
+        <translation>%1监测：主峰在目标频带之外</translation>
     </message>
     <message>
         <source>%1 monitoring: %2 is outside the target band.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1监测：%2 在目标频带之外。</translation>
     </message>
     <message>
         <source>The dominant peak %1 is outside the monitored band %2, so this preset stays idle.</source>
-        <translation type="unfinished"></translation>
+        <translation>主峰 %1 在监测频带 %2 之外，此预设保持待机。</translation>
     </message>
     <message>
         <source>If this frequency matters for your use case, switch presets or set a custom alarm rule.</source>
-        <translation type="unfinished"></translation>
+        <translation>如果该频率对您的应用很重要，请切换预设或设置自定义报警规则。</translation>
     </message>
     <message>
         <source>The dominant peak %1 is in the %2 and remains below the watch threshold.</source>
-        <translation type="unfinished"></translation>
+        <translation>主峰 %1 位于%2，仍低于注意阈值。</translation>
     </message>
     <message>
         <source>The dominant peak %1 is in the %2 and is approaching the alarm threshold.</source>
-        <translation type="unfinished"></translation>
+        <translation>主峰 %1 位于%2，正在接近报警阈值。</translation>
     </message>
     <message>
         <source>The dominant peak %1 is in the %2 and stayed above the alarm threshold long enough to be treated as a persistent event.</source>
-        <translation type="unfinished"></translation>
+        <translation>主峰 %1 位于%2，高于报警阈值的时间已足够长，判定为持续事件。</translation>
     </message>
     <message>
         <source>Resultant</source>
-        <translation type="unfinished"></translation>
+        <translation>合成</translation>
     </message>
     <message>
         <source>%1 Hz on %2 (amp %3)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Hz，%2（幅值 %3）</translation>
     </message>
     <message>
         <source>Band %1 | Watch &gt;= %2 | Alarm &gt;= %3 | %4 frame(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>频带 %1 | 注意 &gt;= %2 | 报警 &gt;= %3 | %4 帧</translation>
     </message>
     <message>
         <source>%1-%2 Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1-%2 Hz</translation>
     </message>
     <message>
         <source>%1 Hz and above</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Hz 及以上</translation>
     </message>
     <message>
         <source>All frequencies</source>
-        <translation type="unfinished"></translation>
+        <translation>全部频率</translation>
     </message>
 </context>
 <context>
     <name>FftBand</name>
     <message>
         <source>Low</source>
-        <translation type="unfinished"></translation>
+        <translation>低频</translation>
     </message>
     <message>
         <source>Mid</source>
-        <translation type="unfinished"></translation>
+        <translation>中频</translation>
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation>高频</translation>
+    </message>
+</context>
+<context>
+    <name>FftChartBridge</name>
+    <message>
+        <source>The band needs a name.</source>
+        <translation>请输入频带名称。</translation>
+    </message>
+    <message>
+        <source>The upper edge must be above the lower one.</source>
+        <translation>频带上限必须高于下限。</translation>
+    </message>
+    <message>
+        <source>There are %1 bands already.</source>
+        <translation>频带已达 %1 个。</translation>
+    </message>
+    <message>
+        <source>Custom rule</source>
+        <translation>自定义规则</translation>
+    </message>
+    <message>
+        <source>The upper frequency must be above the lower one, or 0 for no limit.</source>
+        <translation>频率上限必须高于下限；0 表示无上限。</translation>
+    </message>
+    <message>
+        <source>The alarm threshold must not be below the watch threshold, and both must be above 0.</source>
+        <translation>报警阈值不得低于注意阈值，且两者均须大于 0。</translation>
+    </message>
+    <message>
+        <source>The frequencies are out of range.</source>
+        <translation>频率超出范围。</translation>
+    </message>
+    <message>
+        <source>Raised at %1 Hz, amplitude %2</source>
+        <translation>触发于 %1 Hz，幅值 %2</translation>
+    </message>
+    <message>
+        <source>Cleared</source>
+        <translation>已解除</translation>
+    </message>
+    <message>
+        <source>up</source>
+        <translation>上升</translation>
+    </message>
+    <message>
+        <source>steady</source>
+        <translation>平稳</translation>
+    </message>
+    <message>
+        <source>Coherence disabled</source>
+        <translation>相干性分析已关闭</translation>
+    </message>
+    <message>
+        <source>Latency %1ms avg / %2ms max | Dropped %3 | Clipping %4 | Confidence %5</source>
+        <translation>延迟 平均 %1ms / 最大 %2ms | 丢弃 %3 | 削波 %4 | 置信度 %5</translation>
+    </message>
+</context>
+<context>
+    <name>FftSnapshot</name>
+    <message>
+        <source>The file could not be written: %1</source>
+        <translation>无法写入文件：%1</translation>
+    </message>
+    <message>
+        <source>The file could not be read: %1</source>
+        <translation>无法读取文件：%1</translation>
+    </message>
+    <message>
+        <source>The file is no spectrum snapshot.</source>
+        <translation>该文件不是频谱快照。</translation>
     </message>
 </context>
 <context>
     <name>FftWindow</name>
     <message>
         <source>Rectangular</source>
-        <translation type="unfinished"></translation>
+        <translation>矩形窗</translation>
     </message>
     <message>
         <source>Hann</source>
-        <translation type="unfinished"></translation>
+        <translation>汉宁窗</translation>
     </message>
     <message>
         <source>Hamming</source>
-        <translation type="unfinished"></translation>
+        <translation>汉明窗</translation>
     </message>
     <message>
         <source>Blackman</source>
-        <translation type="unfinished"></translation>
+        <translation>布莱克曼窗</translation>
     </message>
     <message>
         <source>Flat Top</source>
-        <translation type="unfinished"></translation>
+        <translation>平顶窗</translation>
     </message>
 </context>
 <context>
     <name>GatewayDashboardBridge</name>
-    <message>
-        <source>Node %1 · %2</source>
-        <translation>节点 %1 · %2</translation>
-    </message>
     <message>
         <source>Wireless Gateway Dashboard</source>
         <translation>无线网关仪表板</translation>
@@ -306,6 +406,10 @@
     <message>
         <source>Nodes %1 · late %2 · gone %3</source>
         <translation>节点 %1 · 延迟 %2 · 离线 %3</translation>
+    </message>
+    <message>
+        <source>Node %1</source>
+        <translation>节点 %1</translation>
     </message>
 </context>
 <context>
@@ -333,6 +437,60 @@
     <message>
         <source>%1 min</source>
         <translation>%1 min</translation>
+    </message>
+</context>
+<context>
+    <name>MessageRow</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>关闭提示</translation>
+    </message>
+</context>
+<context>
+    <name>SensorDashboard</name>
+    <message>
+        <source>Pause</source>
+        <translation>暂停</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>继续</translation>
+    </message>
+    <message>
+        <source>Hold the picture; recordings go on</source>
+        <translation>暂停画面，记录不受影响</translation>
+    </message>
+    <message>
+        <source>Go on with the newest samples</source>
+        <translation>继续显示最新数据</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Space</translation>
+    </message>
+    <message>
+        <source>Hide this chart</source>
+        <translation>隐藏此图表</translation>
+    </message>
+    <message>
+        <source>Show this chart</source>
+        <translation>显示此图表</translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation>%1 Hz</translation>
+    </message>
+    <message>
+        <source>Paused · %1 Hz</source>
+        <translation>已暂停 · %1 Hz</translation>
+    </message>
+    <message>
+        <source>No chart is chosen</source>
+        <translation>未选择图表</translation>
+    </message>
+    <message>
+        <source>Choose above what to show.</source>
+        <translation>请在上方选择要显示的内容。</translation>
     </message>
 </context>
 <context>
@@ -524,6 +682,13 @@
     <message>
         <source>The cutoff frequency is too low for %1 samples per second.</source>
         <translation>对于每秒 %1 个采样，截止频率过低。</translation>
+    </message>
+</context>
+<context>
+    <name>chart_export</name>
+    <message>
+        <source>%1 could not be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
     </message>
 </context>
 <context>

@@ -38,6 +38,33 @@
     </message>
 </context>
 <context>
+    <name>ChartSaver</name>
+    <message>
+        <source>Save the visible samples</source>
+        <translation>儲存可見區間的取樣資料</translation>
+    </message>
+    <message>
+        <source>Comma-separated values (*.csv)</source>
+        <translation>逗號分隔值檔案 (*.csv)</translation>
+    </message>
+    <message>
+        <source>The picture could not be taken.</source>
+        <translation>無法擷取圖片。</translation>
+    </message>
+    <message>
+        <source>Save a picture of the chart</source>
+        <translation>儲存圖表圖片</translation>
+    </message>
+    <message>
+        <source>PNG picture (*.png)</source>
+        <translation>PNG 圖片 (*.png)</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>已儲存 %1</translation>
+    </message>
+</context>
+<context>
     <name>CommandSession</name>
     <message>
         <source>The device does not answer. Check the baud rate, then identify it again.</source>
@@ -57,248 +84,321 @@
     </message>
 </context>
 <context>
+    <name>DashboardWindow</name>
+    <message>
+        <source>This window could not be loaded. The log of the program tells why.</source>
+        <translation>無法載入此視窗。原因請查看程式日誌。</translation>
+    </message>
+</context>
+<context>
     <name>FftAlarm</name>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>一般</translation>
     </message>
     <message>
         <source>Industrial</source>
-        <translation type="unfinished"></translation>
+        <translation>工業</translation>
     </message>
     <message>
         <source>Human</source>
-        <translation type="unfinished"></translation>
+        <translation>人體</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>正常</translation>
     </message>
     <message>
         <source>Watch</source>
-        <translation type="unfinished"></translation>
+        <translation>注意</translation>
     </message>
     <message>
         <source>Alarm</source>
-        <translation type="unfinished"></translation>
+        <translation>警報</translation>
     </message>
     <message>
         <source>Use cursor A/B to inspect the dominant peak.</source>
-        <translation type="unfinished"></translation>
+        <translation>請用游標 A/B 檢視主峰。</translation>
     </message>
     <message>
         <source>Use cursor A/B to compare the dominant peak with nearby harmonics and band changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>請用游標 A/B 將主峰與鄰近諧波及頻帶變化進行比較。</translation>
     </message>
     <message>
         <source>Low-frequency drift zone</source>
-        <translation type="unfinished"></translation>
+        <translation>低頻漂移區</translation>
     </message>
     <message>
         <source>Primary motion zone</source>
-        <translation type="unfinished"></translation>
+        <translation>主要運動區</translation>
     </message>
     <message>
         <source>Vibration zone</source>
-        <translation type="unfinished"></translation>
+        <translation>振動區</translation>
     </message>
     <message>
         <source>High-frequency impact zone</source>
-        <translation type="unfinished"></translation>
+        <translation>高頻衝擊區</translation>
     </message>
     <message>
         <source>Structural / looseness zone</source>
-        <translation type="unfinished"></translation>
+        <translation>結構/鬆動區</translation>
     </message>
     <message>
         <source>Check mounting bolts, frame looseness, and base stiffness.</source>
-        <translation type="unfinished"></translation>
+        <translation>請檢查安裝螺栓、機架鬆動情形與基座剛性。</translation>
     </message>
     <message>
         <source>Rotating equipment zone</source>
-        <translation type="unfinished"></translation>
+        <translation>旋轉設備區</translation>
     </message>
     <message>
         <source>Compare with shaft speed and inspect imbalance, misalignment, or coupling issues.</source>
-        <translation type="unfinished"></translation>
+        <translation>請與軸轉速比較，檢查是否有不平衡、不對中或聯軸器問題。</translation>
     </message>
     <message>
         <source>Bearing / gear zone</source>
-        <translation type="unfinished"></translation>
+        <translation>軸承/齒輪區</translation>
     </message>
     <message>
         <source>Inspect bearings, gears, and resonance paths around the measured axis.</source>
-        <translation type="unfinished"></translation>
+        <translation>請檢查量測軸附近的軸承、齒輪與共振傳遞路徑。</translation>
     </message>
     <message>
         <source>Impact / resonance zone</source>
-        <translation type="unfinished"></translation>
+        <translation>衝擊/共振區</translation>
     </message>
     <message>
         <source>Check for repeated impacts, chatter, looseness, or hard contact.</source>
-        <translation type="unfinished"></translation>
+        <translation>請檢查是否有反覆衝擊、顫振、鬆動或硬接觸。</translation>
     </message>
     <message>
         <source>Posture / sway zone</source>
-        <translation type="unfinished"></translation>
+        <translation>姿勢/晃動區</translation>
     </message>
     <message>
         <source>Review posture, balance, and slow body sway over a longer window.</source>
-        <translation type="unfinished"></translation>
+        <translation>請在較長的時間窗內觀察姿勢、平衡與身體的緩慢晃動。</translation>
     </message>
     <message>
         <source>Gait / repetition zone</source>
-        <translation type="unfinished"></translation>
+        <translation>步態/重複動作區</translation>
     </message>
     <message>
         <source>Compare cadence, stride rhythm, and left/right symmetry.</source>
-        <translation type="unfinished"></translation>
+        <translation>請比較步頻、步伐節奏與左右對稱性。</translation>
     </message>
     <message>
         <source>Tremor / shake zone</source>
-        <translation type="unfinished"></translation>
+        <translation>震顫/抖動區</translation>
     </message>
     <message>
         <source>Observe sustained tremor-like motion and compare different postures or limbs.</source>
-        <translation type="unfinished"></translation>
+        <translation>請觀察持續的類震顫動作，並比較不同姿勢或肢體。</translation>
     </message>
     <message>
         <source>Impact / abrupt motion zone</source>
-        <translation type="unfinished"></translation>
+        <translation>衝擊/突發動作區</translation>
     </message>
     <message>
         <source>Mark abrupt movement, foot strike, or collision-like events and review the raw waveform.</source>
-        <translation type="unfinished"></translation>
+        <translation>請標記突發動作、足部著地或類似碰撞的事件，並檢視原始波形。</translation>
     </message>
     <message>
         <source>General zone</source>
-        <translation type="unfinished"></translation>
+        <translation>一般區</translation>
     </message>
     <message>
         <source>No dominant FFT peak is available yet, so the alarm cannot classify the current motion or vibration.</source>
-        <translation type="unfinished"></translation>
+        <translation>尚無 FFT 主峰，警報功能無法對目前的運動或振動進行分類。</translation>
     </message>
     <message>
         <source>Start or resume FFT updates and wait for a stable peak before acting on the alarm.</source>
-        <translation type="unfinished"></translation>
+        <translation>請啟動或恢復 FFT 更新，待出現穩定的峰值後再處理警報。</translation>
     </message>
     <message>
         <source>%1 monitoring: waiting for data</source>
-        <translation type="unfinished"></translation>
+        <translation>%1監測：正在等待資料</translation>
     </message>
     <message>
         <source>%1 monitoring: no dominant peak yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1監測：尚無主峰。</translation>
     </message>
     <message>
         <source>%1 monitoring: %2 is below the watch level.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1監測：%2 低於注意門檻。</translation>
     </message>
     <message>
         <source>%1 watch: %2 is approaching the alarm threshold.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1注意：%2 正接近警報門檻。</translation>
     </message>
     <message>
         <source>%1 alarm: %2 persisted above threshold.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1警報：%2 持續高於門檻。</translation>
     </message>
     <message>
         <source>%1 monitoring: dominant peak outside target band</source>
-        <translation type="unfinished"></translation>
+        <translation>%1監測：主峰在目標頻帶之外</translation>
     </message>
     <message>
         <source>%1 monitoring: %2 is outside the target band.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1監測：%2 在目標頻帶之外。</translation>
     </message>
     <message>
         <source>The dominant peak %1 is outside the monitored band %2, so this preset stays idle.</source>
-        <translation type="unfinished"></translation>
+        <translation>主峰 %1 在監測頻帶 %2 之外，此預設集維持待命。</translation>
     </message>
     <message>
         <source>If this frequency matters for your use case, switch presets or set a custom alarm rule.</source>
-        <translation type="unfinished"></translation>
+        <translation>如果此頻率對您的應用很重要，請切換預設集或設定自訂警報規則。</translation>
     </message>
     <message>
         <source>The dominant peak %1 is in the %2 and remains below the watch threshold.</source>
-        <translation type="unfinished"></translation>
+        <translation>主峰 %1 位於%2，仍低於注意門檻。</translation>
     </message>
     <message>
         <source>The dominant peak %1 is in the %2 and is approaching the alarm threshold.</source>
-        <translation type="unfinished"></translation>
+        <translation>主峰 %1 位於%2，正接近警報門檻。</translation>
     </message>
     <message>
         <source>The dominant peak %1 is in the %2 and stayed above the alarm threshold long enough to be treated as a persistent event.</source>
-        <translation type="unfinished"></translation>
+        <translation>主峰 %1 位於%2，高於警報門檻的時間已夠長，判定為持續事件。</translation>
     </message>
     <message>
         <source>Resultant</source>
-        <translation type="unfinished"></translation>
+        <translation>合成</translation>
     </message>
     <message>
         <source>%1 Hz on %2 (amp %3)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Hz，%2（振幅 %3）</translation>
     </message>
     <message>
         <source>Band %1 | Watch &gt;= %2 | Alarm &gt;= %3 | %4 frame(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>頻帶 %1 | 注意 &gt;= %2 | 警報 &gt;= %3 | %4 幀</translation>
     </message>
     <message>
         <source>%1-%2 Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1-%2 Hz</translation>
     </message>
     <message>
         <source>%1 Hz and above</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Hz 以上</translation>
     </message>
     <message>
         <source>All frequencies</source>
-        <translation type="unfinished"></translation>
+        <translation>所有頻率</translation>
     </message>
 </context>
 <context>
     <name>FftBand</name>
     <message>
         <source>Low</source>
-        <translation type="unfinished"></translation>
+        <translation>低頻</translation>
     </message>
     <message>
         <source>Mid</source>
-        <translation type="unfinished"></translation>
+        <translation>中頻</translation>
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation>高頻</translation>
+    </message>
+</context>
+<context>
+    <name>FftChartBridge</name>
+    <message>
+        <source>The band needs a name.</source>
+        <translation>請輸入頻帶名稱。</translation>
+    </message>
+    <message>
+        <source>The upper edge must be above the lower one.</source>
+        <translation>頻帶上限必須高於下限。</translation>
+    </message>
+    <message>
+        <source>There are %1 bands already.</source>
+        <translation>頻帶已達 %1 個。</translation>
+    </message>
+    <message>
+        <source>Custom rule</source>
+        <translation>自訂規則</translation>
+    </message>
+    <message>
+        <source>The upper frequency must be above the lower one, or 0 for no limit.</source>
+        <translation>頻率上限必須高於下限；0 表示無上限。</translation>
+    </message>
+    <message>
+        <source>The alarm threshold must not be below the watch threshold, and both must be above 0.</source>
+        <translation>警報門檻不得低於注意門檻，且兩者均須大於 0。</translation>
+    </message>
+    <message>
+        <source>The frequencies are out of range.</source>
+        <translation>頻率超出範圍。</translation>
+    </message>
+    <message>
+        <source>Raised at %1 Hz, amplitude %2</source>
+        <translation>觸發於 %1 Hz，振幅 %2</translation>
+    </message>
+    <message>
+        <source>Cleared</source>
+        <translation>已解除</translation>
+    </message>
+    <message>
+        <source>up</source>
+        <translation>上升</translation>
+    </message>
+    <message>
+        <source>steady</source>
+        <translation>平穩</translation>
+    </message>
+    <message>
+        <source>Coherence disabled</source>
+        <translation>相干性分析已停用</translation>
+    </message>
+    <message>
+        <source>Latency %1ms avg / %2ms max | Dropped %3 | Clipping %4 | Confidence %5</source>
+        <translation>延遲 平均 %1ms / 最大 %2ms | 捨棄 %3 | 削波 %4 | 信賴度 %5</translation>
+    </message>
+</context>
+<context>
+    <name>FftSnapshot</name>
+    <message>
+        <source>The file could not be written: %1</source>
+        <translation>無法寫入檔案：%1</translation>
+    </message>
+    <message>
+        <source>The file could not be read: %1</source>
+        <translation>無法讀取檔案：%1</translation>
+    </message>
+    <message>
+        <source>The file is no spectrum snapshot.</source>
+        <translation>該檔案不是頻譜快照。</translation>
     </message>
 </context>
 <context>
     <name>FftWindow</name>
     <message>
         <source>Rectangular</source>
-        <translation type="unfinished"></translation>
+        <translation>矩形窗</translation>
     </message>
     <message>
         <source>Hann</source>
-        <translation type="unfinished"></translation>
+        <translation>漢寧窗</translation>
     </message>
     <message>
         <source>Hamming</source>
-        <translation type="unfinished"></translation>
+        <translation>漢明窗</translation>
     </message>
     <message>
         <source>Blackman</source>
-        <translation type="unfinished"></translation>
+        <translation>布萊克曼窗</translation>
     </message>
     <message>
         <source>Flat Top</source>
-        <translation type="unfinished"></translation>
+        <translation>平頂窗</translation>
     </message>
 </context>
 <context>
     <name>GatewayDashboardBridge</name>
-    <message>
-        <source>Node %1 · %2</source>
-        <translation>節點 %1 · %2</translation>
-    </message>
     <message>
         <source>Wireless Gateway Dashboard</source>
         <translation>無線閘道器儀表板</translation>
@@ -306,6 +406,10 @@
     <message>
         <source>Nodes %1 · late %2 · gone %3</source>
         <translation>節點 %1 · 延遲 %2 · 離線 %3</translation>
+    </message>
+    <message>
+        <source>Node %1</source>
+        <translation>節點 %1</translation>
     </message>
 </context>
 <context>
@@ -333,6 +437,60 @@
     <message>
         <source>%1 min</source>
         <translation>%1 min</translation>
+    </message>
+</context>
+<context>
+    <name>MessageRow</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>關閉提示</translation>
+    </message>
+</context>
+<context>
+    <name>SensorDashboard</name>
+    <message>
+        <source>Pause</source>
+        <translation>暫停</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>繼續</translation>
+    </message>
+    <message>
+        <source>Hold the picture; recordings go on</source>
+        <translation>暫停畫面，記錄不受影響</translation>
+    </message>
+    <message>
+        <source>Go on with the newest samples</source>
+        <translation>繼續顯示最新資料</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Space</translation>
+    </message>
+    <message>
+        <source>Hide this chart</source>
+        <translation>隱藏此圖表</translation>
+    </message>
+    <message>
+        <source>Show this chart</source>
+        <translation>顯示此圖表</translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation>%1 Hz</translation>
+    </message>
+    <message>
+        <source>Paused · %1 Hz</source>
+        <translation>已暫停 · %1 Hz</translation>
+    </message>
+    <message>
+        <source>No chart is chosen</source>
+        <translation>尚未選擇圖表</translation>
+    </message>
+    <message>
+        <source>Choose above what to show.</source>
+        <translation>請在上方選擇要顯示的內容。</translation>
     </message>
 </context>
 <context>
@@ -524,6 +682,13 @@
     <message>
         <source>The cutoff frequency is too low for %1 samples per second.</source>
         <translation>以每秒 %1 筆取樣而言，截止頻率過低。</translation>
+    </message>
+</context>
+<context>
+    <name>chart_export</name>
+    <message>
+        <source>%1 could not be written: %2</source>
+        <translation>無法寫入 %1：%2</translation>
     </message>
 </context>
 <context>
