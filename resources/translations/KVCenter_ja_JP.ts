@@ -38,6 +38,33 @@
     </message>
 </context>
 <context>
+    <name>ChartSaver</name>
+    <message>
+        <source>Save the visible samples</source>
+        <translation>表示中のサンプルを保存</translation>
+    </message>
+    <message>
+        <source>Comma-separated values (*.csv)</source>
+        <translation>CSV ファイル (*.csv)</translation>
+    </message>
+    <message>
+        <source>The picture could not be taken.</source>
+        <translation>画像を作成できませんでした。</translation>
+    </message>
+    <message>
+        <source>Save a picture of the chart</source>
+        <translation>グラフの画像を保存</translation>
+    </message>
+    <message>
+        <source>PNG picture (*.png)</source>
+        <translation>PNG 画像 (*.png)</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 を保存しました</translation>
+    </message>
+</context>
+<context>
     <name>CommandSession</name>
     <message>
         <source>The device does not answer. Check the baud rate, then identify it again.</source>
@@ -54,6 +81,13 @@
     <message>
         <source>(no reply)</source>
         <translation>（応答なし）</translation>
+    </message>
+</context>
+<context>
+    <name>DashboardWindow</name>
+    <message>
+        <source>This window could not be loaded. The log of the program tells why.</source>
+        <translation>このウィンドウを読み込めませんでした。原因はプログラムのログを確認してください。</translation>
     </message>
 </context>
 <context>
@@ -271,6 +305,76 @@
     </message>
 </context>
 <context>
+    <name>FftChartBridge</name>
+    <message>
+        <source>The band needs a name.</source>
+        <translation>帯域の名前を入力してください。</translation>
+    </message>
+    <message>
+        <source>The upper edge must be above the lower one.</source>
+        <translation>帯域の上限は下限より大きい値にしてください。</translation>
+    </message>
+    <message>
+        <source>There are %1 bands already.</source>
+        <translation>帯域はすでに %1 個あります。</translation>
+    </message>
+    <message>
+        <source>Custom rule</source>
+        <translation>カスタムルール</translation>
+    </message>
+    <message>
+        <source>The upper frequency must be above the lower one, or 0 for no limit.</source>
+        <translation>上限周波数は下限周波数より大きい値、または 0（上限なし）にしてください。</translation>
+    </message>
+    <message>
+        <source>The alarm threshold must not be below the watch threshold, and both must be above 0.</source>
+        <translation>警報しきい値は注意しきい値以上とし、どちらも 0 より大きい値にしてください。</translation>
+    </message>
+    <message>
+        <source>The frequencies are out of range.</source>
+        <translation>周波数が範囲外です。</translation>
+    </message>
+    <message>
+        <source>Raised at %1 Hz, amplitude %2</source>
+        <translation>%1 Hz で発生、振幅 %2</translation>
+    </message>
+    <message>
+        <source>Cleared</source>
+        <translation>解除</translation>
+    </message>
+    <message>
+        <source>up</source>
+        <translation>上昇</translation>
+    </message>
+    <message>
+        <source>steady</source>
+        <translation>安定</translation>
+    </message>
+    <message>
+        <source>Coherence disabled</source>
+        <translation>コヒーレンス無効</translation>
+    </message>
+    <message>
+        <source>Latency %1ms avg / %2ms max | Dropped %3 | Clipping %4 | Confidence %5</source>
+        <translation>遅延 平均 %1 ms / 最大 %2 ms | 欠落 %3 | クリッピング %4 | 信頼度 %5</translation>
+    </message>
+</context>
+<context>
+    <name>FftSnapshot</name>
+    <message>
+        <source>The file could not be written: %1</source>
+        <translation>ファイルに書き込めませんでした: %1</translation>
+    </message>
+    <message>
+        <source>The file could not be read: %1</source>
+        <translation>ファイルを読み込めませんでした: %1</translation>
+    </message>
+    <message>
+        <source>The file is no spectrum snapshot.</source>
+        <translation>スペクトルのスナップショットファイルではありません。</translation>
+    </message>
+</context>
+<context>
     <name>FftWindow</name>
     <message>
         <source>Rectangular</source>
@@ -296,16 +400,16 @@
 <context>
     <name>GatewayDashboardBridge</name>
     <message>
-        <source>Node %1 · %2</source>
-        <translation>ノード %1 · %2</translation>
-    </message>
-    <message>
         <source>Wireless Gateway Dashboard</source>
         <translation>無線ゲートウェイダッシュボード</translation>
     </message>
     <message>
         <source>Nodes %1 · late %2 · gone %3</source>
         <translation>ノード %1 · 遅延 %2 · 途絶 %3</translation>
+    </message>
+    <message>
+        <source>Node %1</source>
+        <translation>ノード %1</translation>
     </message>
 </context>
 <context>
@@ -333,6 +437,60 @@
     <message>
         <source>%1 min</source>
         <translation>%1 分</translation>
+    </message>
+</context>
+<context>
+    <name>MessageRow</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>SensorDashboard</name>
+    <message>
+        <source>Pause</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>再開</translation>
+    </message>
+    <message>
+        <source>Hold the picture; recordings go on</source>
+        <translation>表示を一時停止（記録は続きます）</translation>
+    </message>
+    <message>
+        <source>Go on with the newest samples</source>
+        <translation>最新のサンプルから表示を再開</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>スペースキー</translation>
+    </message>
+    <message>
+        <source>Hide this chart</source>
+        <translation>このグラフを非表示</translation>
+    </message>
+    <message>
+        <source>Show this chart</source>
+        <translation>このグラフを表示</translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation>%1 Hz</translation>
+    </message>
+    <message>
+        <source>Paused · %1 Hz</source>
+        <translation>一時停止中 · %1 Hz</translation>
+    </message>
+    <message>
+        <source>No chart is chosen</source>
+        <translation>グラフが選択されていません</translation>
+    </message>
+    <message>
+        <source>Choose above what to show.</source>
+        <translation>表示するものを上で選択してください。</translation>
     </message>
 </context>
 <context>
@@ -524,6 +682,13 @@
     <message>
         <source>The cutoff frequency is too low for %1 samples per second.</source>
         <translation>サンプリング周波数 %1 Hz に対して、カットオフ周波数が低すぎます。</translation>
+    </message>
+</context>
+<context>
+    <name>chart_export</name>
+    <message>
+        <source>%1 could not be written: %2</source>
+        <translation>%1 に書き込めませんでした: %2</translation>
     </message>
 </context>
 <context>
@@ -1099,7 +1264,7 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>Records written</source>
-        <translation>書き込み済みレコード数</translation>
+        <translation>書き込みレコード数</translation>
     </message>
     <message>
         <source>The folder %1 cannot be shown.</source>

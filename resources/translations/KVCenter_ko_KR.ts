@@ -38,6 +38,33 @@
     </message>
 </context>
 <context>
+    <name>ChartSaver</name>
+    <message>
+        <source>Save the visible samples</source>
+        <translation>표시된 샘플 저장</translation>
+    </message>
+    <message>
+        <source>Comma-separated values (*.csv)</source>
+        <translation>CSV 파일 (*.csv)</translation>
+    </message>
+    <message>
+        <source>The picture could not be taken.</source>
+        <translation>이미지를 만들 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Save a picture of the chart</source>
+        <translation>그래프 이미지 저장</translation>
+    </message>
+    <message>
+        <source>PNG picture (*.png)</source>
+        <translation>PNG 이미지 (*.png)</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>저장됨: %1</translation>
+    </message>
+</context>
+<context>
     <name>CommandSession</name>
     <message>
         <source>The device does not answer. Check the baud rate, then identify it again.</source>
@@ -54,6 +81,13 @@
     <message>
         <source>(no reply)</source>
         <translation>(응답 없음)</translation>
+    </message>
+</context>
+<context>
+    <name>DashboardWindow</name>
+    <message>
+        <source>This window could not be loaded. The log of the program tells why.</source>
+        <translation>이 창을 불러올 수 없습니다. 원인은 프로그램 로그를 확인하십시오.</translation>
     </message>
 </context>
 <context>
@@ -271,6 +305,76 @@
     </message>
 </context>
 <context>
+    <name>FftChartBridge</name>
+    <message>
+        <source>The band needs a name.</source>
+        <translation>대역 이름을 입력하십시오.</translation>
+    </message>
+    <message>
+        <source>The upper edge must be above the lower one.</source>
+        <translation>대역의 상한은 하한보다 커야 합니다.</translation>
+    </message>
+    <message>
+        <source>There are %1 bands already.</source>
+        <translation>대역이 이미 %1개 있습니다.</translation>
+    </message>
+    <message>
+        <source>Custom rule</source>
+        <translation>사용자 지정 규칙</translation>
+    </message>
+    <message>
+        <source>The upper frequency must be above the lower one, or 0 for no limit.</source>
+        <translation>상한 주파수는 하한 주파수보다 크거나 0(제한 없음)이어야 합니다.</translation>
+    </message>
+    <message>
+        <source>The alarm threshold must not be below the watch threshold, and both must be above 0.</source>
+        <translation>경보 임계값은 주의 임계값 이상이어야 하며 둘 다 0보다 커야 합니다.</translation>
+    </message>
+    <message>
+        <source>The frequencies are out of range.</source>
+        <translation>주파수가 범위를 벗어났습니다.</translation>
+    </message>
+    <message>
+        <source>Raised at %1 Hz, amplitude %2</source>
+        <translation>%1 Hz에서 발생, 진폭 %2</translation>
+    </message>
+    <message>
+        <source>Cleared</source>
+        <translation>해제됨</translation>
+    </message>
+    <message>
+        <source>up</source>
+        <translation>상승</translation>
+    </message>
+    <message>
+        <source>steady</source>
+        <translation>안정</translation>
+    </message>
+    <message>
+        <source>Coherence disabled</source>
+        <translation>코히런스 사용 안 함</translation>
+    </message>
+    <message>
+        <source>Latency %1ms avg / %2ms max | Dropped %3 | Clipping %4 | Confidence %5</source>
+        <translation>지연 평균 %1ms / 최대 %2ms | 누락 %3 | 클리핑 %4 | 신뢰도 %5</translation>
+    </message>
+</context>
+<context>
+    <name>FftSnapshot</name>
+    <message>
+        <source>The file could not be written: %1</source>
+        <translation>파일에 쓸 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>The file could not be read: %1</source>
+        <translation>파일을 읽을 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>The file is no spectrum snapshot.</source>
+        <translation>스펙트럼 스냅샷 파일이 아닙니다.</translation>
+    </message>
+</context>
+<context>
     <name>FftWindow</name>
     <message>
         <source>Rectangular</source>
@@ -296,16 +400,16 @@
 <context>
     <name>GatewayDashboardBridge</name>
     <message>
-        <source>Node %1 · %2</source>
-        <translation>노드 %1 · %2</translation>
-    </message>
-    <message>
         <source>Wireless Gateway Dashboard</source>
         <translation>무선 게이트웨이 대시보드</translation>
     </message>
     <message>
         <source>Nodes %1 · late %2 · gone %3</source>
         <translation>노드 %1 · 지연 %2 · 끊김 %3</translation>
+    </message>
+    <message>
+        <source>Node %1</source>
+        <translation>노드 %1</translation>
     </message>
 </context>
 <context>
@@ -333,6 +437,60 @@
     <message>
         <source>%1 min</source>
         <translation>%1분</translation>
+    </message>
+</context>
+<context>
+    <name>MessageRow</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>닫기</translation>
+    </message>
+</context>
+<context>
+    <name>SensorDashboard</name>
+    <message>
+        <source>Pause</source>
+        <translation>일시 정지</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>재개</translation>
+    </message>
+    <message>
+        <source>Hold the picture; recordings go on</source>
+        <translation>화면 일시 정지(기록은 계속됨)</translation>
+    </message>
+    <message>
+        <source>Go on with the newest samples</source>
+        <translation>최신 샘플부터 다시 표시</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>스페이스바</translation>
+    </message>
+    <message>
+        <source>Hide this chart</source>
+        <translation>이 그래프 숨기기</translation>
+    </message>
+    <message>
+        <source>Show this chart</source>
+        <translation>이 그래프 표시</translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation>%1 Hz</translation>
+    </message>
+    <message>
+        <source>Paused · %1 Hz</source>
+        <translation>일시 정지됨 · %1 Hz</translation>
+    </message>
+    <message>
+        <source>No chart is chosen</source>
+        <translation>선택된 그래프 없음</translation>
+    </message>
+    <message>
+        <source>Choose above what to show.</source>
+        <translation>표시할 항목을 위에서 선택하십시오.</translation>
     </message>
 </context>
 <context>
@@ -524,6 +682,13 @@
     <message>
         <source>The cutoff frequency is too low for %1 samples per second.</source>
         <translation>차단 주파수가 샘플링 주파수 %1 Hz에 비해 너무 낮습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>chart_export</name>
+    <message>
+        <source>%1 could not be written: %2</source>
+        <translation>%1 파일에 쓸 수 없습니다: %2</translation>
     </message>
 </context>
 <context>
