@@ -270,7 +270,7 @@
     </message>
     <message>
         <source>%1 Hz on %2 (amp %3)</source>
-        <translation>%1 Hz，%2（幅值 %3）</translation>
+        <translation>%2 · %1 Hz（幅值 %3）</translation>
     </message>
     <message>
         <source>Band %1 | Watch &gt;= %2 | Alarm &gt;= %3 | %4 frame(s)</source>
@@ -466,7 +466,7 @@
     </message>
     <message>
         <source>Space</source>
-        <translation>Space</translation>
+        <translation>空格键</translation>
     </message>
     <message>
         <source>Hide this chart</source>

@@ -270,11 +270,11 @@
     </message>
     <message>
         <source>%1 Hz on %2 (amp %3)</source>
-        <translation>%1 Hz，%2（振幅 %3）</translation>
+        <translation>%2 · %1 Hz（振幅 %3）</translation>
     </message>
     <message>
         <source>Band %1 | Watch &gt;= %2 | Alarm &gt;= %3 | %4 frame(s)</source>
-        <translation>頻帶 %1 | 注意 &gt;= %2 | 警報 &gt;= %3 | %4 幀</translation>
+        <translation>頻帶 %1 | 注意 &gt;= %2 | 警報 &gt;= %3 | %4 個訊框</translation>
     </message>
     <message>
         <source>%1-%2 Hz</source>
@@ -466,7 +466,7 @@
     </message>
     <message>
         <source>Space</source>
-        <translation>Space</translation>
+        <translation>空白鍵</translation>
     </message>
     <message>
         <source>Hide this chart</source>
