@@ -18,6 +18,14 @@ cleanup() {
 trap cleanup EXIT
 read -r -t 20 number <&"$display"
 export DISPLAY=":$number" QT_QPA_PLATFORM=xcb
+# A language, so that the first thing is not a question. LOOK_LANGUAGE chooses another one than the last.
+settings="$top/build/run/param.ini"
+mkdir -p "${settings%/*}" && touch "$settings"
+if [ -n "${LOOK_LANGUAGE:-}" ] || ! grep -q '^LANGUAGE=' "$settings"; then
+  sed -i '/^LANGUAGE=/d' "$settings"
+  grep -q '^\[Main\]' "$settings" || printf '[Main]\n' >>"$settings"
+  sed -i "s/^\[Main\]/[Main]\nLANGUAGE=${LOOK_LANGUAGE:-EN}/" "$settings"
+fi
 openbox &
 "$top/run" "$@" &
 run=$!

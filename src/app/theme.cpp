@@ -52,6 +52,12 @@ QPushButton:default:hover, QPushButton[primary="true"]:hover, QToolBar QToolButt
     background: #1D4ED8; border-color: #1D4ED8; }
 QPushButton:default:disabled, QPushButton[primary="true"]:disabled {
     background: #BFDBFE; border-color: #BFDBFE; color: #FFFFFF; }
+QToolButton#button_language { border: none; border-radius: 4px; padding: 4px 22px 4px 10px; }
+QToolButton#button_language:hover { background: #EFF6FF; }
+QToolButton#button_language::menu-indicator {
+    image: url(:/images/chevron-down.png); subcontrol-origin: padding; subcontrol-position: right center; right: 6px; }
+QToolButton#button_recording { border: none; border-radius: 4px; padding: 2px 10px; color: #B91C1C; font-weight: bold; }
+QToolButton#button_recording:hover { background: #FEF2F2; }
 QToolBar QToolButton#qt_toolbar_ext_button { padding: 0; min-width: 16px; image: url(:/images/chevron-down.png); }
 QLabel#qt_msgbox_informativelabel { min-width: 360px; }
 

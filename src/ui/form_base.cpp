@@ -5,14 +5,15 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QLabel>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QScrollArea>
 #include <QSettings>
 #include <QThread>
 #include <QToolButton>
 
+#include "app/app_language_manager.h"
 #include "app/app_log.h"
-#include "app/application_fonts.h"
 #include "app/settings_keys.h"
 #include "app/theme.h"
 #include "attitude/tool_adi.h"
@@ -23,6 +24,7 @@
 #include "ui/app_version.h"
 #include "ui/form_about.h"
 #include "ui/form_com_select.h"
+#include "ui/form_record.h"
 #include "ui/form_settings.h"
 #include "ui/sensor_data_panel.h"
 #include "ui/value_strip.h"
@@ -53,11 +55,11 @@ int storedFontSize()
     return points >= kFontMin && points <= kFontMax ? points : kFontMedium;
 }
 
-void setApplicationFontSize(int points)
+/// A menu's text as a button shows it: without mnemonic, which some languages put behind in brackets, and dots.
+QString toolbarText(QString text)
 {
-    QFont font = QApplication::font();
-    font.setPointSize(points);
-    QApplication::setFont(font);
+    static const QRegularExpression kMnemonic(QStringLiteral("\\(&.\\)|&|\\.\\.\\.$|\u2026$"));
+    return text.remove(kMnemonic).trimmed();
 }
 
 } // namespace
@@ -65,7 +67,7 @@ void setApplicationFontSize(int points)
 form_base::form_base(QWidget *parent) : QMainWindow(parent), m_ui(std::make_unique<Ui::form_base>())
 {
     const int fontSize = storedFontSize();
-    setApplicationFontSize(fontSize); // before any widget: a style sheet keeps widgets from following later
+    AppLanguageManager::instance().applyCurrentFont(fontSize); // before any widget, so that all start with it
 
     m_ui->setupUi(this);
     setUpPanels();
@@ -76,6 +78,7 @@ form_base::form_base(QWidget *parent) : QMainWindow(parent), m_ui(std::make_uniq
 
     m_port = std::make_unique<KvUartPort>();
     m_portDialog = new form_com_select(this);
+    m_recordDialog = new form_record(this);
     m_aboutDialog = new form_about(this);
     m_settingsDialog = new form_settings(this);
     setUpActions();
@@ -134,7 +137,7 @@ void form_base::setUpPanels()
          {m_ui->label_connection, m_ui->label_product, m_ui->label_model, m_ui->label_build, m_ui->label_uuid})
         label->setTextFormat(Qt::PlainText);
 
-    m_statusLabel = new QLabel(tr("Unconnected..."), this);
+    m_statusLabel = new QLabel(this);
     m_statusLabel->setObjectName(QStringLiteral("label_status"));
     m_statusLabel->setTextFormat(Qt::PlainText);
     m_nodeLabel = new QLabel(this);
@@ -142,18 +145,16 @@ void form_base::setUpPanels()
     m_trafficLabel = new QLabel(this);
     m_trafficLabel->setObjectName(QStringLiteral("label_traffic"));
     m_ui->statusbar->addWidget(m_statusLabel, 1);
+    m_recordButton = new QToolButton(this);
+    m_recordButton->setObjectName(QStringLiteral("button_recording"));
+    m_recordButton->setAutoRaise(true);
+    m_recordButton->hide();
+    m_ui->statusbar->addPermanentWidget(m_recordButton);
     m_ui->statusbar->addPermanentWidget(m_nodeLabel);
     m_ui->statusbar->addPermanentWidget(m_trafficLabel);
     m_ui->statusbar->setSizeGripEnabled(false);
     m_ui->statusbar->setContentsMargins(theme::kGrid, 0, theme::kGrid, 0);
     m_ui->label_icon->setPixmap(QIcon(QStringLiteral(":/images/mainicon.png")).pixmap(72, 72));
-
-    auto *language = new QToolButton(this);
-    language->setObjectName(QStringLiteral("button_language"));
-    language->setText(QStringLiteral("English"));
-    language->setAutoRaise(true);
-    language->setEnabled(false);
-    m_ui->menubar->setCornerWidget(language);
 }
 
 void form_base::setUpActions()
@@ -163,9 +164,9 @@ void form_base::setUpActions()
     auto *gateway = new QAction(this);
     gateway->setObjectName(QStringLiteral("action_wireless_gateway_dashboard"));
     m_ui->menuView->insertActions(m_ui->actionFFT_Chart, {dashboard, gateway});
+    gateway->setEnabled(false); // until a gateway is connected
     // The windows behind these come with later versions.
-    for (QAction *action : {dashboard, gateway, m_ui->action3D_view, m_ui->actionFFT_Chart, m_ui->action_export_data,
-                            m_ui->action_firmware_update})
+    for (QAction *action : {dashboard, m_ui->action3D_view, m_ui->actionFFT_Chart, m_ui->action_firmware_update})
         action->setEnabled(false);
 
     m_connectButton = new QToolButton(this);
@@ -182,6 +183,8 @@ void form_base::setUpActions()
     connect(m_ui->action_copy_values, &QAction::triggered, this, &form_base::copyValues);
     connect(m_ui->action_quit, &QAction::triggered, this, &form_base::close);
     connect(m_ui->button_open, &QPushButton::clicked, m_ui->action_serial_open, &QAction::trigger);
+    connect(m_recordButton, &QToolButton::clicked, m_ui->action_export_data, &QAction::trigger);
+    setUpLanguages();
 }
 
 void form_base::setUpConnections()
@@ -190,6 +193,11 @@ void form_base::setUpConnections()
     connect(m_port.get(), &QSerialPort::errorOccurred, this, &form_base::onSerialError);
     connect(m_portDialog, &QDialog::accepted, this, &form_base::onPortChosen);
     connect(m_settingsDialog, &form_settings::settingsClosed, this, &form_base::on_form_settings_closed);
+    connect(m_dispatcher, &StreamDispatcher::singleNodeFrame, m_recordDialog, &form_record::imuPackage0x91);
+    connect(m_dispatcher, &StreamDispatcher::gatewayBatch62, m_recordDialog, &form_record::imuPackage0x62);
+    connect(m_dispatcher, &StreamDispatcher::gatewayBatch63, m_recordDialog, &form_record::imuPackage0x63);
+    connect(m_recordDialog, &form_record::recordingChanged, this, &form_base::showRecordingState);
+    connect(m_recordDialog, &form_record::troubleChanged, this, &form_base::showRecordingState);
     connect(m_dispatcher, &StreamDispatcher::selectedNodeChanged, this, &form_base::onSelectedNodeChanged);
     connect(m_dispatcher, &StreamDispatcher::streamSnapshotChanged, this, &form_base::onSnapshotChanged);
     connect(m_retryTimer, &QTimer::timeout, this, &form_base::try_read_prod_info);
@@ -205,9 +213,9 @@ void form_base::setUpConnections()
 
 void form_base::applyFontSize(int points)
 {
-    setApplicationFontSize(points);
-    setStyleSheet(
-        QStringLiteral("QMenu {font: %1pt '%2';}").arg(QString::number(points), QApplication::font().family()));
+    AppLanguageManager::instance().applyCurrentFont(points);
+    setStyleSheet(QStringLiteral("QMenu {font: %1pt '%2';}")
+                      .arg(QString::number(points), QApplication::font().families().join(QStringLiteral("','"))));
     m_trafficLabel->setFont(theme::fixedPitchFont(points));
     m_ui->scroll_left->setFixedWidth(points * kLeftWidthPerPoint);
     m_ui->actionFontSmall->setChecked(points == kFontSmall);
@@ -265,17 +273,27 @@ void form_base::retranslate()
         action->setText(title);
         action->setToolTip(toolTip);
     };
-    text(findAction("action_sensor_dashboard"), tr("Sensor Dashboard"), tr("Waveforms come with a later version."));
+    text(findAction("action_sensor_dashboard"), tr("Sensor Dashboard"), tr("Waveforms of the selected node"));
     text(findAction("action_wireless_gateway_dashboard"), tr("Wireless Gateway Dashboard"),
-         tr("The dashboard of radio nodes comes with a later version."));
-    findAction("action_sensor_dashboard")->setIconText(tr("Waves")); // short ones for the toolbar
-    findAction("action_wireless_gateway_dashboard")->setIconText(tr("Gateway"));
+         tr("All radio nodes of a connected wireless gateway"));
     m_ui->actionFFT_Chart->setToolTip(tr("The spectrum comes with a later version."));
     m_ui->action3D_view->setToolTip(tr("The 3D view comes with a later version."));
-    m_ui->action_export_data->setToolTip(tr("Recording comes with a later version."));
+    m_ui->action_export_data->setToolTip(
+        tr("Record the stream to CSV files (%1)")
+            .arg(m_ui->action_export_data->shortcut().toString(QKeySequence::NativeText)));
     m_ui->action_firmware_update->setToolTip(tr("The firmware update comes with a later version."));
-    findChild<QToolButton *>(QStringLiteral("button_language"))
-        ->setToolTip(tr("Other languages come with a later version."));
+    findChild<QToolButton *>(QStringLiteral("button_language"))->setToolTip(tr("Language of the interface"));
+    findChild<QMenu *>(QStringLiteral("menu_language"))->setTitle(tr("Language"));
+    if (!m_dispatcher->snapshot().link_connected)
+        m_statusLabel->setText(tr("Unconnected..."));
+    m_shownNodeIds.clear(); // the next tick names the nodes anew
+    showRecordingState();
+    for (QAction *action : m_ui->toolbar->actions() + m_ui->menuSerial->actions()) {
+        if (!action->isSeparator())
+            action->setIconText(toolbarText(action->text()));
+    }
+    findAction("action_sensor_dashboard")->setIconText(tr("Waves")); // short ones for the toolbar
+    findAction("action_wireless_gateway_dashboard")->setIconText(tr("Gateway"));
     const QString shortcut = m_ui->action_serial_open->shortcut().toString(QKeySequence::NativeText);
     m_ui->action_serial_open->setToolTip(tr("Choose a serial port and connect (%1)").arg(shortcut));
     m_ui->action_serial_stop->setToolTip(
@@ -301,7 +319,7 @@ void form_base::closeEvent(QCloseEvent *event)
     on_action_serial_stop_triggered();
     settingsFile().setValue(settings_keys::kGeometry, saveGeometry());
     for (QDialog *dialog : {static_cast<QDialog *>(m_portDialog), static_cast<QDialog *>(m_settingsDialog),
-                            static_cast<QDialog *>(m_aboutDialog)})
+                            static_cast<QDialog *>(m_recordDialog), static_cast<QDialog *>(m_aboutDialog)})
         dialog->close();
     QMainWindow::closeEvent(event);
 }

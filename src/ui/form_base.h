@@ -27,6 +27,7 @@ class ToolADI;
 class ValueStrip;
 class form_about;
 class form_com_select;
+class form_record;
 class form_settings;
 
 namespace Ui {
@@ -60,6 +61,7 @@ public slots:
     /// Ends the connection. Safe in every state.
     void on_action_serial_stop_triggered();
     void on_actionDevice_Settiing_triggered();
+    void on_action_export_data_triggered();
     void on_actionAbout_triggered();
     void on_actionFontSmall_triggered();
     void on_actionFontMedium_triggered();
@@ -77,6 +79,8 @@ private:
     void applyFontSize(int points);
     void storeFontSize(int points);
     void retranslate();
+    void setUpLanguages();
+    void chooseLanguage(const QString &setting);
 
     // connection
     void onPortChosen();
@@ -98,6 +102,7 @@ private:
     void onKbootFrameRecv(const QByteArray &payload);
     void onSelectedNodeChanged(const node_data_t &node);
     void onSnapshotChanged(const StreamSnapshot &snapshot);
+    void showRecordingState();
     /// A node that joins or leaves shifts the places of the others: stays with the node that the user picked.
     void followChosenNode(const QList<node_data_t> &nodes);
     void run_uart_UItmr();
@@ -125,6 +130,8 @@ private:
     form_com_select *m_portDialog = nullptr;
     form_settings *m_settingsDialog = nullptr;
     form_about *m_aboutDialog = nullptr;
+    form_record *m_recordDialog = nullptr;
+    QToolButton *m_recordButton = nullptr;
     QPointer<QMessageBox> m_errorBox;
 
     ImuParser *m_parser = nullptr;

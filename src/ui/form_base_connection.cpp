@@ -19,6 +19,7 @@
 #include "link/stream_dispatcher.h"
 #include "ui/device_text.h"
 #include "ui/form_com_select.h"
+#include "ui/form_record.h"
 #include "ui/form_settings.h"
 #include "ui/sensor_data_panel.h"
 #include "ui/serial_error_text.h"
@@ -69,6 +70,7 @@ void form_base::open_port()
     m_dispatcher->clear();
     m_dispatcher->setLinkConnected(true);
     m_settingsDialog->set_connected(true);
+    m_recordDialog->setLinkOpen(true);
     m_panel->clear();
 
     disconnect(&m_uiTimer, &QTimer::timeout, this, &form_base::run_uart_UItmr);
@@ -105,6 +107,7 @@ void form_base::closeConnection()
     QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
     m_dispatcher->clear();
     m_settingsDialog->set_connected(false);
+    m_recordDialog->setLinkOpen(false); // ends a recording: flushed and closed
     clearDetectedDevice();
     m_chosenNodeId.reset();
     m_lastFrameMs = -1;

@@ -79,6 +79,7 @@ void form_base::run_uart_UItmr()
     update_status_bar_text(snapshot);
     setTextIfChanged(m_trafficLabel, status_text::traffic(statistics));
     updateConnectionPanel(snapshot);
+    showRecordingState();
     followChosenNode(m_dispatcher->currentNodes());
     update_wireless_node_list(m_dispatcher->currentNodes());
     refresh_selected_node_views();

@@ -30,6 +30,11 @@ private slots:
         old.write("a line of the run before\r\n");
         old.close();
 
+        QFile settings(folder.filePath(QStringLiteral("param.ini")));
+        QVERIFY(settings.open(QIODevice::WriteOnly));
+        settings.write("[Main]\nLANGUAGE=EN\n"); // without it the first thing is a question
+        settings.close();
+
         QProcess program;
         program.setWorkingDirectory(folder.path());
         program.start(QStringLiteral(KV_PROGRAM_PATH), QStringList());

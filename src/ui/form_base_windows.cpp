@@ -1,0 +1,90 @@
+// The main window's way to the other windows: what it opens and what it feeds them; and the choice of the language.
+
+#include "ui/form_base.h"
+
+#include <QActionGroup>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QToolButton>
+
+#include "app/app_language_manager.h"
+#include "ui/form_record.h"
+#include "ui_form_base.h"
+
+namespace {
+
+void bringUp(QDialog *dialog)
+{
+    dialog->show();
+    dialog->raise();
+    dialog->activateWindow();
+}
+
+} // namespace
+
+void form_base::on_action_export_data_triggered()
+{
+    bringUp(m_recordDialog);
+}
+
+void form_base::showRecordingState()
+{
+    const bool trouble = m_recordDialog->hasTrouble();
+    m_recordButton->setVisible(m_recordDialog->isRecording() || trouble);
+    if (!m_recordButton->isVisibleTo(m_ui->statusbar))
+        return;
+    const qint64 seconds = m_recordDialog->elapsedMs() / 1000;
+    const auto twoDigits = [](qint64 number) { return QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0')); };
+    const QString time = QStringLiteral("%1:%2:%3")
+                             .arg(twoDigits(seconds / 3600), twoDigits(seconds / 60 % 60), twoDigits(seconds % 60));
+    const QString text = trouble ? tr("Recording: trouble") : tr("Recording %1").arg(time);
+    if (m_recordButton->text() != text)
+        m_recordButton->setText(text);
+}
+
+void form_base::setUpLanguages()
+{
+    auto *button = new QToolButton(this);
+    button->setObjectName(QStringLiteral("button_language"));
+    button->setAutoRaise(true);
+    button->setPopupMode(QToolButton::InstantPopup);
+    auto *menu = new QMenu(this);
+    menu->setObjectName(QStringLiteral("menu_language"));
+    auto *group = new QActionGroup(menu);
+    AppLanguageManager &manager = AppLanguageManager::instance();
+    for (const AppLanguageSpec &language : manager.languages()) {
+        QAction *action = menu->addAction(language.displayName);
+        action->setObjectName(QStringLiteral("action_language_") + language.setting);
+        action->setCheckable(true);
+        action->setData(language.setting);
+        group->addAction(action);
+    }
+    const auto showCurrent = [button, group] {
+        const QString current = AppLanguageManager::instance().currentLanguage();
+        for (QAction *action : group->actions()) {
+            action->setChecked(action->data().toString() == current);
+            if (action->isChecked())
+                button->setText(action->text());
+        }
+    };
+    showCurrent();
+    connect(&manager, &AppLanguageManager::languageChanged, button, showCurrent);
+    connect(group, &QActionGroup::triggered, this, [this, showCurrent](QAction *action) {
+        chooseLanguage(action->data().toString());
+        showCurrent();
+    });
+    button->setMenu(menu);
+    button->setVisible(!menu->isEmpty());
+    m_ui->menubar->setCornerWidget(button);
+    m_ui->menuView->addMenu(menu);
+}
+
+void form_base::chooseLanguage(const QString &setting)
+{
+    AppLanguageManager &manager = AppLanguageManager::instance();
+    if (setting == manager.currentLanguage() || manager.setLanguage(setting))
+        return;
+    QMessageBox::warning(this, appWindowTitle(),
+                         tr("The translation for %1 cannot be loaded. The language stays as it is.").arg(setting));
+}
