@@ -398,6 +398,65 @@
     </message>
 </context>
 <context>
+    <name>GatewayDashboard</name>
+    <message>
+        <source>Pause</source>
+        <translation>暂停</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>继续</translation>
+    </message>
+    <message>
+        <source>Hold the pictures; the table goes on</source>
+        <translation>暂停画面，表格继续更新</translation>
+    </message>
+    <message>
+        <source>Go on with the newest samples</source>
+        <translation>继续显示最新数据</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>空格键</translation>
+    </message>
+    <message>
+        <source>Hide these charts</source>
+        <translation>隐藏这些图表</translation>
+    </message>
+    <message>
+        <source>Show these charts of the chosen nodes</source>
+        <translation>显示所选节点的这些图表</translation>
+    </message>
+    <message>
+        <source>%1 · %2 Hz</source>
+        <translation>%1 · %2 Hz</translation>
+    </message>
+    <message>
+        <source>No chart is chosen</source>
+        <translation>未选择图表</translation>
+    </message>
+    <message>
+        <source>No node is chosen</source>
+        <translation>未选择节点</translation>
+    </message>
+    <message>
+        <source>Choose above what to show.</source>
+        <translation>请在上方选择要显示的内容。</translation>
+    </message>
+    <message>
+        <source>Click a node in the table to see its waveforms. Up to %1 nodes are shown together.</source>
+        <translation>点击表格中的节点即可查看其波形，最多可同时显示 %1 个节点。</translation>
+    </message>
+    <message>
+        <source>Waiting for samples</source>
+        <translation>正在等待采样数据</translation>
+    </message>
+    <message>
+        <source>Connect a wireless gateway; its nodes appear here.</source>
+        <translation>请连接无线网关，其节点会显示在这里。</translation>
+    </message>
+</context>
+<context>
     <name>GatewayDashboardBridge</name>
     <message>
         <source>Wireless Gateway Dashboard</source>
@@ -437,6 +496,59 @@
     <message>
         <source>%1 min</source>
         <translation>%1 min</translation>
+    </message>
+</context>
+<context>
+    <name>GatewayNodeTable</name>
+    <message>
+        <source>Node</source>
+        <translation>节点</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Rate
+Hz</source>
+        <translation>速率
+Hz</translation>
+    </message>
+    <message>
+        <source>Newest
+ago</source>
+        <translation>最新数据
+距今</translation>
+    </message>
+    <message>
+        <source>Missing
+samples</source>
+        <translation>丢失
+采样</translation>
+    </message>
+    <message>
+        <source>Temp.
+°C</source>
+        <translation>温度
+°C</translation>
+    </message>
+    <message>
+        <source>Pressure
+Pa</source>
+        <translation>气压
+Pa</translation>
+    </message>
+    <message>
+        <source>Node %1, %2</source>
+        <translation>节点 %1，%2</translation>
+    </message>
+    <message>
+        <source>%1 nodes are shown already: drop one first.</source>
+        <translation>已显示 %1 个节点：请先取消其中一个。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 nodes chosen for charts</source>
+        <translation>图表已选 %1 / %2 个节点</translation>
     </message>
 </context>
 <context>

@@ -398,6 +398,65 @@
     </message>
 </context>
 <context>
+    <name>GatewayDashboard</name>
+    <message>
+        <source>Pause</source>
+        <translation>暫停</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>繼續</translation>
+    </message>
+    <message>
+        <source>Hold the pictures; the table goes on</source>
+        <translation>暫停畫面，表格持續更新</translation>
+    </message>
+    <message>
+        <source>Go on with the newest samples</source>
+        <translation>繼續顯示最新資料</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>空白鍵</translation>
+    </message>
+    <message>
+        <source>Hide these charts</source>
+        <translation>隱藏這些圖表</translation>
+    </message>
+    <message>
+        <source>Show these charts of the chosen nodes</source>
+        <translation>顯示所選節點的這些圖表</translation>
+    </message>
+    <message>
+        <source>%1 · %2 Hz</source>
+        <translation>%1 · %2 Hz</translation>
+    </message>
+    <message>
+        <source>No chart is chosen</source>
+        <translation>尚未選擇圖表</translation>
+    </message>
+    <message>
+        <source>No node is chosen</source>
+        <translation>尚未選擇節點</translation>
+    </message>
+    <message>
+        <source>Choose above what to show.</source>
+        <translation>請在上方選擇要顯示的內容。</translation>
+    </message>
+    <message>
+        <source>Click a node in the table to see its waveforms. Up to %1 nodes are shown together.</source>
+        <translation>按一下表格中的節點即可檢視其波形，最多可同時顯示 %1 個節點。</translation>
+    </message>
+    <message>
+        <source>Waiting for samples</source>
+        <translation>正在等待取樣資料</translation>
+    </message>
+    <message>
+        <source>Connect a wireless gateway; its nodes appear here.</source>
+        <translation>請連接無線閘道器，其節點會顯示在這裡。</translation>
+    </message>
+</context>
+<context>
     <name>GatewayDashboardBridge</name>
     <message>
         <source>Wireless Gateway Dashboard</source>
@@ -437,6 +496,59 @@
     <message>
         <source>%1 min</source>
         <translation>%1 min</translation>
+    </message>
+</context>
+<context>
+    <name>GatewayNodeTable</name>
+    <message>
+        <source>Node</source>
+        <translation>節點</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>狀態</translation>
+    </message>
+    <message>
+        <source>Rate
+Hz</source>
+        <translation>速率
+Hz</translation>
+    </message>
+    <message>
+        <source>Newest
+ago</source>
+        <translation>最新資料
+距今</translation>
+    </message>
+    <message>
+        <source>Missing
+samples</source>
+        <translation>遺失
+取樣</translation>
+    </message>
+    <message>
+        <source>Temp.
+°C</source>
+        <translation>溫度
+°C</translation>
+    </message>
+    <message>
+        <source>Pressure
+Pa</source>
+        <translation>氣壓
+Pa</translation>
+    </message>
+    <message>
+        <source>Node %1, %2</source>
+        <translation>節點 %1，%2</translation>
+    </message>
+    <message>
+        <source>%1 nodes are shown already: drop one first.</source>
+        <translation>已顯示 %1 個節點：請先取消其中一個。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 nodes chosen for charts</source>
+        <translation>圖表已選 %1 / %2 個節點</translation>
     </message>
 </context>
 <context>
