@@ -67,7 +67,8 @@ QVariantList GatewayDashboardBridge::panes() const
     for (size_t i = 0; i < nodeCount * typeCount; ++i) {
         const NodeCharts &node = m_charts[rowPerNode ? i / typeCount : i % nodeCount];
         const size_t type = types.at(qsizetype(rowPerNode ? i % typeCount : i / nodeCount));
-        panes += QVariantMap{{QStringLiteral("nodeId"), int(node.id)},
+        panes += QVariantMap{{QStringLiteral("slot"), node.slot * kSensorTypeCount + int(type)},
+                             {QStringLiteral("nodeId"), int(node.id)},
                              {QStringLiteral("type"), QString(sensorTypes()[type].key)},
                              {QStringLiteral("backend"), QVariant::fromValue<QObject *>(node.charts[type])}};
     }
@@ -205,6 +206,7 @@ GatewayDashboardBridge::NodeCharts GatewayDashboardBridge::makeCharts(quint8 id)
 {
     NodeCharts node;
     node.id = id;
+    node.slot = freeSlot();
     for (size_t i = 0; i < node.charts.size(); ++i) {
         node.charts[i] = new WaveChartBridge(sensorTypes()[i].key, this);
         node.charts[i]->setFrameRate(m_frameRate);
@@ -212,6 +214,14 @@ GatewayDashboardBridge::NodeCharts GatewayDashboardBridge::makeCharts(quint8 id)
     }
     nameCharts(node);
     return node;
+}
+
+int GatewayDashboardBridge::freeSlot() const
+{
+    int slot = 0;
+    while (std::any_of(m_charts.begin(), m_charts.end(), [slot](const NodeCharts &node) { return node.slot == slot; }))
+        ++slot;
+    return slot;
 }
 
 void GatewayDashboardBridge::nameCharts(const NodeCharts &node)

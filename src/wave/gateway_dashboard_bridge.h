@@ -17,8 +17,9 @@
 /// sensor type) for each of the nodes that the user chose, at most four. The table is refreshed four times a second
 /// while the dashboard is active. While it is not, samples are dropped at once and nothing is kept but the choices.
 ///
-/// A pane is a map of "nodeId", "type" (key) and "backend" (the WaveChartBridge, titled "Node 3 · Acceleration (G)").
-/// Chart bridges live from choosing a node to dropping it. Main thread only.
+/// A pane is a map of "nodeId", "type" (key), "backend" (the WaveChartBridge, titled "Node 3 · Acceleration (G)") and
+/// "slot": a number from 0 to maxPaneCount - 1 that stays with the chart, so that the view can leave it alone while
+/// others come and go. Chart bridges live from choosing a node to dropping it. Main thread only.
 class GatewayDashboardBridge : public QObject
 {
     Q_OBJECT
@@ -29,6 +30,7 @@ class GatewayDashboardBridge : public QObject
     Q_PROPERTY(int nodeCount READ nodeCount NOTIFY nodesRefreshed)
     Q_PROPERTY(QList<int> chosenNodes READ chosenNodes NOTIFY panesChanged)
     Q_PROPERTY(int maxChosenNodes READ maxChosenNodes CONSTANT)
+    Q_PROPERTY(int maxPaneCount READ maxPaneCount CONSTANT)
     Q_PROPERTY(QVariantList typeStates READ typeStates NOTIFY panesChanged)
     Q_PROPERTY(QVariantList panes READ panes NOTIFY panesChanged)
     Q_PROPERTY(int paneColumns READ paneColumns NOTIFY panesChanged)
@@ -48,6 +50,7 @@ public:
     /// Ids by ascending value.
     QList<int> chosenNodes() const;
     int maxChosenNodes() const { return kMaxChosenNodes; }
+    int maxPaneCount() const { return kMaxChosenNodes * kSensorTypeCount; }
     /// A map of "type", "label" and "selected" per sensor type.
     QVariantList typeStates() const;
     /// The charts to show, in the order in which they fill the grid row by row: type by type, or node by node where
@@ -91,11 +94,13 @@ private:
     struct NodeCharts
     {
         quint8 id = 0;
+        int slot = 0; ///< 0 to kMaxChosenNodes - 1, free again when the node is dropped
         SampleClock clock;
         std::array<WaveChartBridge *, kSensorTypeCount> charts{}; ///< owned as children of the dashboard
     };
 
     NodeCharts makeCharts(quint8 id);
+    int freeSlot() const;
     static void nameCharts(const NodeCharts &node);
     static void dropCharts(const NodeCharts &node);
     std::vector<NodeCharts>::iterator findCharts(int nodeId);

@@ -226,7 +226,8 @@ private slots:
         const auto panes = [&bridge] {
             QStringList list;
             for (const QVariant &pane : bridge.panes())
-                list += pane.toMap().value(QStringLiteral("nodeId")).toString()
+                list += pane.toMap().value(QStringLiteral("slot")).toString() + u':'
+                        + pane.toMap().value(QStringLiteral("nodeId")).toString()
                         + pane.toMap().value(QStringLiteral("type")).toString();
             return list.join(u' ') + u'/' + QString::number(bridge.paneColumns());
         };
@@ -234,19 +235,22 @@ private slots:
         bridge.setNodeChosen(9, true);
         bridge.setNodeChosen(2, true);
         QCOMPARE(changes.count(), 2);
-        QCOMPARE(panes(), QLatin1String("2acc 9acc/1"));
+        QCOMPARE(panes(), QLatin1String("6:2acc 0:9acc/1"));
         bridge.setTypeSelected(QStringLiteral("prs"), true);
         bridge.setTypeSelected(QStringLiteral("xyz"), true);
-        QCOMPARE(panes(), QLatin1String("2acc 9acc 2prs 9prs/2"));
+        QCOMPARE(panes(), QLatin1String("6:2acc 0:9acc 11:2prs 5:9prs/2"));
         bridge.setNodeChosen(255, true);
-        QCOMPARE(panes(), QLatin1String("2acc 2prs 9acc 9prs 255acc 255prs/2"));
+        QCOMPARE(panes(), QLatin1String("6:2acc 11:2prs 0:9acc 5:9prs 12:255acc 17:255prs/2"));
         QVERIFY(!bridge.setNodeChosen(256, true) && !bridge.setNodeChosen(-1, true));
         QVERIFY(bridge.setNodeChosen(0, true) && !bridge.setNodeChosen(1, true));
         QCOMPARE(bridge.chosenNodes(), QList<int>({0, 2, 9, 255}));
-        bridge.setTypeSelected(QStringLiteral("acc"), false);
         bridge.setTypeSelected(QStringLiteral("prs"), false);
+        bridge.setNodeChosen(9, false);
+        bridge.setNodeChosen(3, true); // takes the place that got free
+        QCOMPARE(panes(), QLatin1String("18:0acc 6:2acc 0:3acc 12:255acc/2"));
+        bridge.setTypeSelected(QStringLiteral("acc"), false);
         QCOMPARE(panes(), QLatin1String("/1"));
-        QCOMPARE(changes.count(), 7);
+        QCOMPARE(changes.count(), 9);
     }
 
     void letsTheViewGoBeforeTheCharts()

@@ -1,0 +1,197 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import KVCenter.Controls
+import KVCenter.Wave
+
+/// The dashboard of a wireless gateway: a bar with play and the choice of charts, the nodes at the left, the charts of
+/// the chosen nodes at the right.
+Item {
+    id: dashboard
+
+    required property GatewayDashboardBridge bridge
+    required property ChartSaver saver
+    readonly property var panes: bridge.panes
+    property int maximizedSlot: -1
+    readonly property var shownPanes: panes.some(pane => pane.slot === maximizedSlot) ? panes.filter(pane => pane.slot === maximizedSlot) : panes
+
+    focus: true
+    Keys.onPressed: event => {
+        event.accepted = true;
+        if (event.key === Qt.Key_Space)
+            bridge.setPlaying(!bridge.playing);
+        else if (event.key === Qt.Key_Escape && maximizedSlot >= 0)
+            maximizedSlot = -1;
+        else
+            event.accepted = false;
+    }
+
+    Rectangle {
+        id: bar
+
+        width: parent.width
+        height: barItems.height + 16
+        color: Theme.surface
+
+        Rectangle {
+            anchors.bottom: parent.bottom
+            width: parent.width
+            height: 1
+            color: Theme.line
+        }
+        Flow {
+            id: barItems
+
+            x: 12
+            y: 8
+            width: parent.width - status.width - 36
+            spacing: 8
+
+            ActionButton {
+                objectName: "playButton"
+                primary: true
+                iconName: dashboard.bridge.playing ? "pause" : "play"
+                text: dashboard.bridge.playing ? qsTr("Pause") : qsTr("Play")
+                hint: dashboard.bridge.playing ? qsTr("Hold the pictures; the table goes on") : qsTr("Go on with the newest samples")
+                keys: qsTr("Space")
+                onClicked: dashboard.bridge.setPlaying(!dashboard.bridge.playing)
+            }
+            Repeater {
+                // A number, so that the chips stay when their states change.
+                model: dashboard.bridge.typeStates.length
+
+                Chip {
+                    required property int index
+                    readonly property var typeState: dashboard.bridge.typeStates[index]
+
+                    objectName: "chip_" + typeState.type
+                    text: typeState.label
+                    checked: typeState.selected
+                    hint: checked ? qsTr("Hide these charts") : qsTr("Show these charts of the chosen nodes")
+                    onClicked: {
+                        dashboard.bridge.setTypeSelected(typeState.type, checked);
+                        checked = Qt.binding(() => typeState.selected);
+                    }
+                }
+            }
+        }
+        Text {
+            id: status
+
+            anchors.right: parent.right
+            anchors.rightMargin: 16
+            anchors.verticalCenter: parent.verticalCenter
+            text: dashboard.bridge.nodeCount > 0 ? qsTr("%1 · %2 Hz").arg(dashboard.bridge.summary).arg(dashboard.bridge.frameRate) : ""
+            textFormat: Text.PlainText
+            font: Theme.fixedSmallFont
+            color: Theme.textSecondary
+        }
+    }
+
+    Item {
+        id: work
+
+        anchors {
+            left: parent.left
+            right: parent.right
+            top: bar.bottom
+            bottom: message.top
+            margins: 8
+        }
+        visible: dashboard.bridge.nodeCount > 0
+
+        GatewayNodeTable {
+            id: table
+
+            width: implicitWidth
+            height: parent.height
+            focus: true
+            bridge: dashboard.bridge
+        }
+
+        Flickable {
+            id: charts
+
+            readonly property int gap: 8
+            readonly property int columns: dashboard.shownPanes.length > 1 ? dashboard.bridge.paneColumns : 1
+            readonly property int rows: Math.ceil(dashboard.shownPanes.length / columns)
+            readonly property real cellWidth: (width - gap * (columns - 1)) / columns
+            readonly property real cellHeight: Math.max(170, (height - gap * (rows - 1)) / rows)
+
+            anchors {
+                left: table.right
+                leftMargin: 8
+                right: parent.right
+                top: parent.top
+                bottom: parent.bottom
+            }
+            // Dragging belongs to the charts.
+            interactive: false
+            clip: contentHeight > height
+            contentHeight: rows * (cellHeight + gap) - gap
+            T.ScrollBar.vertical: SlimScrollBar {
+                x: charts.width - width
+            }
+
+            Repeater {
+                model: dashboard.bridge.maxPaneCount
+
+                Loader {
+                    id: slot
+
+                    required property int index
+                    readonly property var pane: dashboard.panes.find(pane => pane.slot === index) ?? null
+                    readonly property int place: dashboard.shownPanes.findIndex(pane => pane.slot === index)
+
+                    active: pane !== null
+                    visible: place >= 0
+                    x: Math.round((place % charts.columns) * (charts.cellWidth + charts.gap))
+                    y: Math.round(Math.floor(place / charts.columns) * (charts.cellHeight + charts.gap))
+                    width: Math.round(charts.cellWidth) - (charts.clip ? 10 : 0)
+                    height: Math.round(charts.cellHeight)
+
+                    sourceComponent: WaveChart {
+                        id: chart
+
+                        objectName: "chart_" + slot.index
+                        bridge: slot.pane?.backend ?? null
+                        maximized: dashboard.maximizedSlot === slot.index
+                        canMaximize: maximized || dashboard.shownPanes.length > 1
+                        onPictureRequested: dashboard.saver.savePicture(viewState, chart)
+                        onDataRequested: dashboard.saver.saveData(viewState)
+                        onMaximizeRequested: dashboard.maximizedSlot = maximized ? -1 : slot.index
+                    }
+                }
+            }
+        }
+        EmptyState {
+            objectName: "noChart"
+            x: charts.x
+            width: charts.width
+            anchors.verticalCenter: parent.verticalCenter
+            visible: dashboard.panes.length === 0
+            text: dashboard.bridge.chosenNodes.length > 0 ? qsTr("No chart is chosen") : qsTr("No node is chosen")
+            detail: dashboard.bridge.chosenNodes.length > 0 ? qsTr("Choose above what to show.") : qsTr("Click a node in the table to see its waveforms. Up to %1 nodes are shown together.").arg(dashboard.bridge.maxChosenNodes)
+        }
+    }
+
+    EmptyState {
+        objectName: "noNode"
+        anchors.centerIn: parent
+        width: parent.width - 40
+        visible: !work.visible
+        text: qsTr("Waiting for samples")
+        detail: qsTr("Connect a wireless gateway; its nodes appear here.")
+    }
+
+    MessageRow {
+        id: message
+
+        anchors.bottom: parent.bottom
+        width: parent.width
+        text: dashboard.saver.message
+        failed: dashboard.saver.failed
+        onDismissed: dashboard.saver.clearMessage()
+    }
+}

@@ -1,0 +1,39 @@
+import QtQuick
+import KVCenter.Controls
+
+/// How a radio node does, by shape, colour and word: a green disc is live, an amber diamond late, a red ring gone.
+Row {
+    id: mark
+
+    /// 0 live, 1 late, 2 gone.
+    required property int nodeState
+    required property string text
+    readonly property color ink: ["#0D8B4D", "#B45309", "#B91C1C"][nodeState] ?? Theme.textSecondary
+
+    spacing: 8
+
+    Item {
+        width: 12
+        height: 12
+        anchors.verticalCenter: parent.verticalCenter
+
+        Rectangle {
+            anchors.centerIn: parent
+            width: mark.nodeState === 1 ? 9 : 11
+            height: width
+            radius: mark.nodeState === 1 ? 0 : width / 2
+            rotation: mark.nodeState === 1 ? 45 : 0
+            antialiasing: true
+            color: mark.nodeState === 2 ? "transparent" : mark.ink
+            border.width: mark.nodeState === 2 ? 2 : 0
+            border.color: mark.ink
+        }
+    }
+    Text {
+        anchors.verticalCenter: parent.verticalCenter
+        text: mark.text
+        textFormat: Text.PlainText
+        font: mark.nodeState === 0 ? Theme.font : Theme.strongFont
+        color: mark.nodeState === 0 ? Theme.textSecondary : mark.ink
+    }
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QtQml/qqml.h>
+
+#include "wave/dashboard_window.h"
+#include "wave/gateway_dashboard_bridge.h"
+
+/// The window of a wireless gateway: its radio nodes in a table, and charts of the nodes that the user chooses. What it
+/// is given counts only while it is open.
+class form_wireless_dashboard : public DashboardWindow
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(form_wireless_dashboard)
+
+public:
+    explicit form_wireless_dashboard(QWindow *parent = nullptr);
+    ~form_wireless_dashboard() override;
+
+    GatewayDashboardBridge &bridge() { return m_bridge; }
+
+    /// Takes the samples of one batch, just arrived; see gatewaySamples().
+    void updateGatewaySamples(const QList<GatewaySample> &samples) { m_bridge.updateGatewaySamples(samples); }
+    /// Batches per second.
+    void setFrameRate(unsigned int batchesPerSecond) { m_bridge.setFrameRate(batchesPerSecond); }
+    /// Forgets the gateway: nodes, charts and choices.
+    void clear() { m_bridge.clear(); }
+
+    void retranslate() override;
+
+protected:
+    void setOpen(bool open) override { m_bridge.setDashboardActive(open); }
+
+private:
+    GatewayDashboardBridge m_bridge;
+};
+
+/// Makes the bridge known to views, which get it from their window.
+struct GatewayDashboardBridgeForeign
+{
+    Q_GADGET
+    QML_FOREIGN(GatewayDashboardBridge)
+    QML_NAMED_ELEMENT(GatewayDashboardBridge)
+    QML_UNCREATABLE("comes with the window")
+};
