@@ -15,13 +15,17 @@ namespace {
 
 QString statisticsLine(const Simulator::Statistics &s)
 {
-    return QStringLiteral("stats: frames=%1 frames_sent=%2 frames_intact=%3 dropped=%4 unheard=%5 bytes=%6")
+    return QStringLiteral("stats: frames=%1 frames_sent=%2 frames_intact=%3 dropped=%4 unheard=%5 bytes=%6 "
+                          "bootloader=%7 packets=%8 refused=%9")
         .arg(s.frames)
         .arg(s.sent)
         .arg(s.intact)
         .arg(s.dropped)
         .arg(s.unheard)
-        .arg(s.bytes);
+        .arg(s.bytes)
+        .arg(s.inBootloader ? 1 : 0)
+        .arg(s.packets)
+        .arg(s.refused);
 }
 
 QString errorLine(const QString &reason)

@@ -10,7 +10,7 @@ namespace kvsim {
 namespace {
 
 // What kind of value stands behind a control's name.
-enum class Argument { None, Switch, Rate, Integer, Values, Text };
+enum class Argument { None, Switch, Rate, Integer, Values, Packets, Text };
 
 // A control's value, read and checked by its kind.
 struct Value
@@ -26,12 +26,17 @@ struct Control
 {
     const char *name; // one word or two
     Argument argument;
-    int low; // of an integer
+    int low; // of a number
     int high;
     const char *text;
     // Returns an empty text, or why it does not work.
     QString (*run)(Simulator &simulator, const Value &value);
 };
+
+BootFaults &bootFaults(Simulator &simulator)
+{
+    return simulator.device().bootloader().faults();
+}
 
 QString infoReply(Simulator &simulator, InfoReply reply, bool on, int megabytes = 0)
 {
@@ -41,11 +46,11 @@ QString infoReply(Simulator &simulator, InfoReply reply, bool on, int megabytes 
 
 // clang-format off
 constexpr std::array kControls{
-    Control{"noise", Argument::Rate, 0, 0, "flip bits, this many per kilobyte",
+    Control{"noise", Argument::Rate, 0, int(FaultInjector::kMaxRate), "flip bits, this many per kilobyte",
             [](Simulator &s, const Value &v) { s.faults().setFlipRate(v.rate); return QString(); }},
-    Control{"drop", Argument::Rate, 0, 0, "lose bytes, this many per kilobyte",
+    Control{"drop", Argument::Rate, 0, int(FaultInjector::kMaxRate), "lose bytes, this many per kilobyte",
             [](Simulator &s, const Value &v) { s.faults().setDropRate(v.rate); return QString(); }},
-    Control{"insert", Argument::Rate, 0, 0, "insert bytes, this many per kilobyte",
+    Control{"insert", Argument::Rate, 0, int(FaultInjector::kMaxRate), "insert bytes, this many per kilobyte",
             [](Simulator &s, const Value &v) { s.faults().setInsertRate(v.rate); return QString(); }},
     Control{"gap", Argument::Integer, 1, 600'000, "send and hear nothing for so many ms, once",
             [](Simulator &s, const Value &v) { s.silenceFor(v.integer); return QString(); }},
@@ -82,6 +87,29 @@ constexpr std::array kControls{
             [](Simulator &s, const Value &v) { return infoReply(s, InfoReply::Binary, v.on); }},
     Control{"wrong-device", Argument::Switch, 0, 0, "information reply of an unknown model",
             [](Simulator &s, const Value &v) { return infoReply(s, InfoReply::WrongModel, v.on); }},
+    Control{"restart", Argument::None, 0, 0, "cut the power for a moment",
+            [](Simulator &s, const Value &) { s.restart(); return QString(); }},
+    Control{"flash dump", Argument::Text, 0, 0, "write the flash's contents into a file",
+            [](Simulator &s, const Value &v) { return s.device().bootloader().flash().dump(v.text); }},
+    Control{"bootloader mute-ping", Argument::Switch, 0, 0, "leave pings unanswered",
+            [](Simulator &s, const Value &v) { bootFaults(s).mutePing = v.on; return QString(); }},
+    Control{"bootloader property-bytes", Argument::Integer, 0, BootFaults::kMaxPropertyBytes,
+            "length of property values (4)",
+            [](Simulator &s, const Value &v) { bootFaults(s).propertyBytes = v.integer; return QString(); }},
+    Control{"bootloader nak", Argument::Packets, 0, 0, "refuse the N-th data packet from now",
+            [](Simulator &s, const Value &v) { return bootFaults(s).plan(BootFaults::Verdict::Refuse, v.text); }},
+    Control{"bootloader nak-share", Argument::Rate, 0, 100, "refuse so many percent by chance",
+            [](Simulator &s, const Value &v) { bootFaults(s).refusedPercent = v.rate; return QString(); }},
+    Control{"bootloader abort", Argument::Packets, 0, 0, "end the data phase there",
+            [](Simulator &s, const Value &v) { return bootFaults(s).plan(BootFaults::Verdict::Abort, v.text); }},
+    Control{"bootloader ignore", Argument::Packets, 0, 0, "leave it unanswered",
+            [](Simulator &s, const Value &v) { return bootFaults(s).plan(BootFaults::Verdict::Ignore, v.text); }},
+    Control{"bootloader erase-ms", Argument::Integer, 0, BootFaults::kMaxDelayMs, "time that an erase takes",
+            [](Simulator &s, const Value &v) { bootFaults(s).eraseMs = v.integer; return QString(); }},
+    Control{"bootloader trickle-ms", Argument::Integer, 0, 1000, "pause before each byte of an answer",
+            [](Simulator &s, const Value &v) { bootFaults(s).trickleMs = v.integer; return QString(); }},
+    Control{"bootloader stale-ms", Argument::Integer, 0, 1000, "acknowledge again, so late (0: off)",
+            [](Simulator &s, const Value &v) { bootFaults(s).staleMs = v.integer; return QString(); }},
 };
 // clang-format on
 
@@ -93,11 +121,12 @@ QString usageOf(const Control &control)
     case Argument::Switch:
         return QStringLiteral("on|off");
     case Argument::Rate:
-        return QStringLiteral("0..%1").arg(int(FaultInjector::kMaxRate));
     case Argument::Integer:
         return QStringLiteral("%1..%2").arg(control.low).arg(control.high);
     case Argument::Values:
         return QStringLiteral("normal|nan|fixed");
+    case Argument::Packets:
+        return QStringLiteral("N[:TIMES]");
     case Argument::Text:
         return QStringLiteral("TEXT");
     }
@@ -117,7 +146,7 @@ std::optional<Value> readValue(const Control &control, const QString &word)
         break;
     case Argument::Rate:
         value.rate = word.toDouble(&ok);
-        ok = ok && value.rate >= 0.0 && value.rate <= FaultInjector::kMaxRate;
+        ok = ok && value.rate >= control.low && value.rate <= control.high;
         break;
     case Argument::Integer:
         value.integer = word.toInt(&ok);
@@ -127,6 +156,7 @@ std::optional<Value> readValue(const Control &control, const QString &word)
         value.values = word == u"nan" ? ValueKind::Nan : word == u"fixed" ? ValueKind::Fixed : ValueKind::Normal;
         ok = value.values != ValueKind::Normal || word == u"normal";
         break;
+    case Argument::Packets:
     case Argument::Text:
         value.text = word;
         ok = !word.isEmpty();
@@ -140,14 +170,15 @@ std::optional<Value> readValue(const Control &control, const QString &word)
 QString controlsTable()
 {
     const auto row = [](const QString &name, const char *text) {
-        return QStringLiteral("  %1 %2\n").arg(name, -26).arg(QLatin1String(text));
+        return QStringLiteral("  %1 %2\n").arg(name, -35).arg(QLatin1String(text));
     };
     QString table;
     for (const Control &control : kControls)
         table += row((QLatin1String(control.name) + u' ' + usageOf(control)).trimmed(), control.text);
-    table += row(QStringLiteral("stats"), "print \"stats: frames=... frames_sent=... frames_intact=...");
-    table += row(QString(), "dropped=... unheard=... bytes=...\"; frames counts what was due while a");
-    table += row(QString(), "host had the port open, unheard what was due without one");
+    table += row(QStringLiteral("stats"), "print \"stats: frames=... frames_sent=...");
+    table += row(QString(), "frames_intact=... dropped=... unheard=...");
+    table += row(QString(), "bytes=... bootloader=0|1");
+    table += row(QString(), "packets=... refused=...\"");
     table += row(QStringLiteral("quit"), "end the program");
     return table;
 }

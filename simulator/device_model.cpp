@@ -18,12 +18,16 @@ bool isText(char byte)
 
 } // namespace
 
-DeviceModel::DeviceModel(const DeviceType &type, const Settings &settings, int baudRate)
-    : m_type(type), m_settings(settings), m_stored(settings), m_baudRate(baudRate > 0 ? baudRate : 115200)
+DeviceModel::DeviceModel(const DeviceType &type, const Settings &settings, int baudRate,
+                         const Bootloader::Settings &bootloader)
+    : m_type(type), m_settings(settings), m_stored(settings), m_baudRate(baudRate > 0 ? baudRate : 115200),
+      m_bootloader(bootloader)
 {}
 
 QByteArray DeviceModel::receive(QByteArrayView bytes, qint64 nowNs)
 {
+    if (m_state == State::InBootloader)
+        m_bootloader.receive(bytes, nowNs);
     QByteArray replies;
     for (const char byte : bytes) {
         if (m_state != State::Running)
@@ -47,12 +51,27 @@ QByteArray DeviceModel::receive(QByteArrayView bytes, qint64 nowNs)
     return replies;
 }
 
-bool DeviceModel::finishRestart(qint64 nowNs)
+DeviceModel::Progress DeviceModel::advance(qint64 nowNs)
 {
-    if (m_state != State::Restarting || nowNs < m_restartEndNs)
-        return false;
-    m_state = State::Running;
-    return true;
+    if (m_state == State::Restarting && nowNs >= m_resetEndNs) {
+        m_state = m_bootloader.isPresent() ? State::InBootloader : State::Running;
+        m_bootloader.enter(nowNs);
+        return {{}, m_state == State::Running};
+    }
+    if (m_state != State::InBootloader)
+        return {{}, false};
+    const QByteArray answers = m_bootloader.takeAnswers(nowNs);
+    switch (m_bootloader.exit(nowNs)) {
+    case Bootloader::Exit::None:
+        break;
+    case Bootloader::Exit::Reset:
+        restart(nowNs);
+        break;
+    case Bootloader::Exit::StartFirmware:
+        m_state = State::Running;
+        break;
+    }
+    return {answers, m_state == State::Running};
 }
 
 void DeviceModel::setRate(int rateHz)
@@ -166,7 +185,7 @@ QByteArray DeviceModel::userConfigReply() const
 void DeviceModel::restart(qint64 nowNs)
 {
     m_state = State::Restarting;
-    m_restartEndNs = nowNs + kRestartNs;
+    m_resetEndNs = nowNs + kResetNs;
     m_settings = m_stored;
     m_outputOn = true;
     m_line.clear();

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 
+#include "simulator/bootloader.h"
 #include "simulator/device_type.h"
 
 namespace kvsim {
@@ -14,11 +15,14 @@ enum class InfoReply {
     Huge,       ///< as many megabytes as asked for
 };
 
-/// The inside of a device: its command interpreter, its settings and its restarts. No port and no clock of its own:
-/// bytes and times are handed in, replies handed out. Times are nanoseconds of any monotonic clock.
+/// The inside of a device: its command interpreter, its settings, its restarts and its bootloader. No port and no clock
+/// of its own: bytes and times are handed in, replies handed out. Times are nanoseconds of any monotonic clock.
 ///
 /// Rate, id and the legacy modules' mode take effect and are stored at once; the text dialect's mode is lost in a
 /// restart unless SAVECONFIG was sent before. Whether data is output is never stored: it is on after every restart.
+///
+/// A restart takes kResetNs in which nothing is heard or sent. Then the bootloader runs, if there is one, and starts
+/// the firmware when it has no host. While it runs, text commands are not understood.
 class DeviceModel
 {
 public:
@@ -31,21 +35,30 @@ public:
 
     /// Longest command line without its line end, bytes; a longer one is answered "ERROR".
     static constexpr qsizetype kMaxLineBytes = 120;
-    static constexpr qint64 kRestartNs = 300'000'000;
+    static constexpr qint64 kResetNs = 50'000'000;
     static constexpr int kMaxReplyMegabytes = 64;
 
     /// @param baudRate what "LOG COMCONFIG" reports; 0 reports 115200
-    DeviceModel(const DeviceType &type, const Settings &settings, int baudRate);
+    DeviceModel(const DeviceType &type, const Settings &settings, int baudRate, const Bootloader::Settings &bootloader);
 
     /// Takes received bytes in pieces of any size. Lines end in CR, LF or both; bytes that are no text drop the line
-    /// begun so far. Nothing is heard during a restart.
-    /// @return the replies to the lines completed
+    /// begun so far.
+    /// @return the replies to the lines completed; the bootloader's answers come from advance()
     QByteArray receive(QByteArrayView bytes, qint64 nowNs);
 
-    /// Ends a restart whose time has passed.
-    /// @return true once per restart: device time starts again at 0 now
-    bool finishRestart(qint64 nowNs);
+    struct Progress
+    {
+        QByteArray answers; ///< of the bootloader, to be sent now
+        bool booted;        ///< the firmware has started: device time is 0 now
+    };
+    /// Carries restart and bootloader on; to be called every millisecond while either lasts.
+    Progress advance(qint64 nowNs);
+    /// Restarts, as a command or a power cut does.
+    void restart(qint64 nowNs);
 
+    bool isInBootloader() const { return m_state == State::InBootloader; }
+    Bootloader &bootloader() { return m_bootloader; }
+    const Bootloader &bootloader() const { return m_bootloader; }
     bool isStreaming() const { return m_state == State::Running && m_outputOn; }
     const Settings &settings() const { return m_settings; }
     /// Sets and stores a rate that the device need not offer by command.
@@ -55,14 +68,12 @@ public:
     void setInfoReply(InfoReply reply, int megabytes = 0);
 
 private:
-    /// A resident bootloader would be a third state, entered from Restarting.
-    enum class State { Running, Restarting };
+    enum class State { Running, Restarting, InBootloader };
 
     QByteArray execute(const QByteArray &line, qint64 nowNs);
     bool executeAssignment(const QByteArray &name, int value);
     QByteArray infoReply() const;
     QByteArray userConfigReply() const;
-    void restart(qint64 nowNs);
 
     const DeviceType &m_type;
     Settings m_settings;
@@ -72,7 +83,8 @@ private:
     bool m_lineTooLong = false;
     bool m_outputOn = true;
     State m_state = State::Running;
-    qint64 m_restartEndNs = 0;
+    qint64 m_resetEndNs = 0;
+    Bootloader m_bootloader;
     InfoReply m_infoReply = InfoReply::Normal;
     int m_replyMegabytes = 0;
 };

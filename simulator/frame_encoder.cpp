@@ -32,18 +32,23 @@ quint16 crc16(QByteArrayView data, quint16 crc)
     return crc;
 }
 
-QByteArray encodeFrame(QByteArrayView payload)
+QByteArray encodePacket(quint8 type, QByteArrayView payload)
 {
     if (payload.size() > std::numeric_limits<quint16>::max())
         return {};
     QByteArray frame(6, Qt::Uninitialized);
     frame[0] = char(0x5A);
-    frame[1] = char(0xA5);
+    frame[1] = char(type);
     qToLittleEndian(quint16(payload.size()), frame.data() + 2);
     const quint16 crc = crc16(payload, crc16(QByteArrayView(frame).first(4)));
     qToLittleEndian(crc, frame.data() + 4);
     frame.append(payload.data(), payload.size());
     return frame;
+}
+
+QByteArray encodeFrame(QByteArrayView payload)
+{
+    return encodePacket(0xA5, payload);
 }
 
 } // namespace kvsim

@@ -12,14 +12,16 @@ constexpr qsizetype kMaxPayloadBytes = 2041;
 /// The check value of the ASCII bytes "123456789" is 0x31C3.
 quint16 crc16(QByteArrayView data, quint16 crc = 0);
 
-/// One data packet around `payload`. Empty when the payload is longer than 65535 bytes; longer than kMaxPayloadBytes is
+/// One packet around `payload`. Empty when the payload is longer than 65535 bytes; longer than kMaxPayloadBytes is
 /// built as asked, so that tests can send what a receiver must refuse.
 ///
 ///     0  u8   5A, start
-///     1  u8   A5, data packet
+///     1  u8   type: A5 data packet, A4 command packet or response
 ///     2  u16  payload length, little-endian like all fields
 ///     4  u16  CRC over bytes 0..3 and the payload
 ///     6       payload
+QByteArray encodePacket(quint8 type, QByteArrayView payload);
+/// A data packet.
 QByteArray encodeFrame(QByteArrayView payload);
 
 } // namespace kvsim

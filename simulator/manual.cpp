@@ -22,8 +22,15 @@ Commands, one per line, answered OK or ERROR:
   AT modules    AT+ID=0..255  AT+ODR=1|2|10|50|100|200|400  AT+MODE=0|1
   text modules  AT+ODR=1|2|10|50|100|250|500  CONFIG ATT MODE 0|1  SAVECONFIG
                 REBOOT  LOG COMCONFIG  LOG USRCONFIG  LOG DISABLE  LOG ENABLE
-A restart is silent for 300 ms; then output is on and device time is 0. Rate, id and
-AT+MODE are kept over it; CONFIG ATT MODE only after SAVECONFIG.
+A restart leads through the bootloader; then output is on and device time is 0. Rate,
+id and AT+MODE are kept over it; CONFIG ATT MODE only after SAVECONFIG.
+
+Bootloader: 50 ms after a restart it listens for --bootloader-wait ms, and starts the
+firmware when nobody talks. Once spoken to, and while the firmware is not whole, it
+stays until a reset or execute command. It answers ping, get property (1 3 4 5 11 16),
+erase all, erase region, write memory with its data phase, execute and reset. The flash
+is found at --flash-base and at address 0; it keeps what is written while the program
+runs, and "flash dump" writes it into a file.
 
 Layouts (--layout):
   91       full record of floats, 76 bytes (default of modules)
@@ -64,6 +71,7 @@ Examples:
   kv_simulator --device kv104 --rate 1000 --baud 921600 --motion spin
   kv_simulator --device gateway --nodes 8 --layout dynamic --noise 0.5
   kv_simulator --device mz221 --replay walk.csv --control
+  kv_simulator --packet-size 512 --baud 921600 --bootloader "nak-share 5"
   kv_simulator --rate 1000 --vibration 50:0.5:z:0.5,0.25 --vibration 120:2:gx)manual";
 
 const char *kindOf(Dialect dialect)

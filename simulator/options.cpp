@@ -51,6 +51,7 @@ constexpr std::array kValueControls{
     ControlOption{"rotate-ids", "rotate-ids"},
     ControlOption{"vibration", "vibration add"},
     ControlOption{"vibration-noise", "vibration noise"},
+    ControlOption{"bootloader", "bootloader"},
 };
 constexpr std::array<const char *, 2> kSwitchControls{"reply-binary", "wrong-device"};
 
@@ -76,7 +77,7 @@ bool readNumber(const QCommandLineParser &parser, const QString &option, qint64 
     if (!parser.isSet(option))
         return true;
     bool ok = false;
-    value = parser.value(option).toLongLong(&ok);
+    value = parser.value(option).toLongLong(&ok, 0); // 0x begins a hexadecimal number
     if (ok && value >= low && value <= high)
         return true;
     *error = QStringLiteral("--%1 must be a whole number from %2 to %3").arg(option).arg(low).arg(high);
@@ -103,6 +104,13 @@ void addOptions(QCommandLineParser &parser)
     add("replay", "Play a CSV recording instead of the motion model.", "FILE");
     add("link", "Keep a symbolic link to the port at this path.", "PATH");
     add("seed", "Seed of all randomness (default 1).", "N");
+    add("bootloader-wait",
+        "Time that the bootloader waits for a host before it starts the firmware, ms (default 1000). 0: no bootloader.",
+        "MS");
+    add("packet-size", "Largest data packet of the bootloader, bytes (default 32).", "BYTES");
+    add("flash-base", "First address of the flash (default 0x08000000).", "ADDRESS");
+    add("flash-size", "Size of the flash, KiB (default 512).", "KIB");
+    add("flash-sector", "Sector size of the flash, bytes (default 2048).", "BYTES");
     add("control", "Take controls from standard input.");
     for (const ControlOption &row : kValueControls)
         parser.addOption({QLatin1String(row.option),
@@ -127,6 +135,24 @@ bool checkLayout(const QCommandLineParser &parser, Options &options, QString *er
         *error = gateway ? QStringLiteral("the gateway sends the layouts 62, 63 and dynamic")
                          : QStringLiteral("a module sends the layouts 91, 93 and items");
     return batch == gateway;
+}
+
+bool readBootloader(const QCommandLineParser &parser, Bootloader::Settings &settings, QString *error)
+{
+    qint64 wait = settings.waitMs;
+    qint64 packet = settings.packetBytes;
+    qint64 base = settings.flash.base;
+    qint64 kib = settings.flash.size / 1024;
+    qint64 sector = settings.flash.sector;
+    const bool ok = readNumber(parser, QStringLiteral("bootloader-wait"), 0, 600'000, wait, error)
+                    && readNumber(parser, QStringLiteral("packet-size"), 0, 65535, packet, error)
+                    && readNumber(parser, QStringLiteral("flash-size"), 1, FlashMemory::kMaxBytes / 1024, kib, error)
+                    && readNumber(parser, QStringLiteral("flash-base"), 0, 0xFFFFFFFF - kib * 1024, base, error)
+                    && readNumber(parser, QStringLiteral("flash-sector"), 1, kib * 1024, sector, error);
+    settings.waitMs = int(wait);
+    settings.packetBytes = int(packet);
+    settings.flash = {quint32(base), quint32(kib * 1024), quint32(sector)};
+    return ok;
 }
 
 } // namespace
@@ -169,7 +195,8 @@ std::optional<Options> parseOptions(const QStringList &arguments, QString *error
         && readNumber(parser, QStringLiteral("rate"), 1, kMaxRateHz, rate, error)
         && readNumber(parser, QStringLiteral("baud"), 0, 100'000'000, baud, error)
         && readNumber(parser, QStringLiteral("id"), 0, 255, id, error)
-        && readNumber(parser, QStringLiteral("seed"), 0, std::numeric_limits<qint64>::max(), seed, error);
+        && readNumber(parser, QStringLiteral("seed"), 0, std::numeric_limits<qint64>::max(), seed, error)
+        && readBootloader(parser, options.bootloader, error);
     if (!ok)
         return {};
     // Tones are to be seen by themselves unless a motion is asked for.
@@ -181,6 +208,7 @@ std::optional<Options> parseOptions(const QStringList &arguments, QString *error
     options.baudRate = int(baud);
     options.id = int(id);
     options.seed = quint64(seed);
+    options.bootloader.seed = options.seed;
     options.replayPath = parser.value(QStringLiteral("replay"));
     if (parser.isSet(QStringLiteral("replay")) && options.replayPath.isEmpty()) {
         *error = QStringLiteral("--replay needs a file");

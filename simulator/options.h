@@ -5,6 +5,7 @@
 
 #include <optional>
 
+#include "simulator/bootloader.h"
 #include "simulator/device_type.h"
 #include "simulator/motion_model.h"
 
@@ -25,6 +26,7 @@ struct Options
     MotionKind motion = MotionKind::Swing;
     QString replayPath;
     QString linkPath;
+    Bootloader::Settings bootloader;
     quint64 seed = 1;
     bool control = false;
     QStringList startControls; ///< control lines that options stand for, in order

@@ -21,11 +21,13 @@ int startRate(const Options &options, const SampleSource &source)
 
 Simulator::Simulator(const Options &options, std::optional<CsvRecording> recording)
     : m_options(options), m_source(options.motion, options.device->convention(), std::move(recording), options.seed),
-      m_device(*options.device, {startRate(options, m_source), options.id, 0}, options.baudRate),
-      m_faults(options.seed), m_line(options.baudRate), m_link(options.linkPath), m_nodes(options.nodes)
+      m_device(*options.device, {startRate(options, m_source), options.id, 0}, options.baudRate, options.bootloader),
+      m_faults(options.seed), m_line(options.baudRate), m_hostLine(options.baudRate), m_link(options.linkPath),
+      m_nodes(options.nodes)
 {
     m_timer.setTimerType(Qt::PreciseTimer);
     connect(&m_timer, &QTimer::timeout, this, &Simulator::tick);
+    connect(&m_wake, &WakeTimer::timeout, this, &Simulator::tick);
     connect(&m_port, &PtyPort::received, this, &Simulator::receive);
     connect(&m_port, &PtyPort::hostLeft, this, &Simulator::discardUnsent);
 }
@@ -53,7 +55,14 @@ void Simulator::unplug()
 {
     m_link.remove();
     m_port.close();
+    m_hostLine.clear();
     discardUnsent();
+}
+
+void Simulator::restart()
+{
+    m_device.restart(now());
+    takeRate();
 }
 
 Simulator::Statistics Simulator::statistics() const
@@ -62,6 +71,9 @@ Simulator::Statistics Simulator::statistics() const
     result.sent = m_line.sentFrames();
     result.intact = m_line.sentIntactFrames();
     result.bytes = m_line.sentBytes();
+    result.inBootloader = m_device.isInBootloader();
+    result.packets = m_device.bootloader().packets();
+    result.refused = m_device.bootloader().refusedPackets();
     return result;
 }
 
@@ -93,18 +105,15 @@ void Simulator::takeRate()
     m_clockRateHz = rateHz;
     if (rateHz > 0)
         m_clock.restart(now(), rateHz);
-    // A paced line trickles; an unlimited one only needs to be looked at a few times per frame.
-    m_timer.start(m_options.baudRate > 0 ? 1 : std::clamp(250 / std::max(rateHz, 1), 1, 5));
+    // A paced line and a bootloader trickle; an unlimited stream only needs to be looked at a few times per frame.
+    m_timer.start(m_options.baudRate > 0 || rateHz == 0 ? 1 : std::clamp(250 / rateHz, 1, 5));
 }
 
 void Simulator::tick()
 {
     const qint64 nowNs = now();
-    if (m_device.finishRestart(nowNs)) {
-        m_bootNs = nowNs;
-        m_frame = 0;
-        takeRate();
-    }
+    hear(nowNs);
+    advanceDevice(nowNs);
     const bool hasHost = m_port.checkHost();
     if (!hasHost)
         discardUnsent();
@@ -125,16 +134,47 @@ void Simulator::tick()
 void Simulator::receive(const QByteArray &bytes)
 {
     const qint64 nowNs = now();
+    m_hostLine.advance(nowNs);
+    m_hostLine.pushReply(bytes);
+    hear(nowNs);
+    flush();
+}
+
+void Simulator::hear(qint64 nowNs)
+{
+    m_hostLine.advance(nowNs);
+    const QByteArray bytes = m_hostLine.ready().toByteArray();
+    if (bytes.isEmpty())
+        return;
+    m_hostLine.take(bytes.size());
     if (m_deaf || isMute(nowNs))
         return;
-    const QByteArray replies = m_device.receive(bytes, nowNs);
+    sendReplies(m_device.receive(bytes, nowNs));
+    advanceDevice(nowNs);
     takeRate();
     if (m_clockRateHz == 0)
         releaseHeldFrames();
-    if (!replies.isEmpty())
-        m_line.pushReply(m_faults.apply(replies).bytes);
-    m_line.advance(now());
     flush();
+}
+
+void Simulator::advanceDevice(qint64 nowNs)
+{
+    const DeviceModel::Progress progress = m_device.advance(nowNs);
+    sendReplies(progress.answers);
+    if (progress.booted) {
+        m_bootNs = nowNs;
+        m_frame = 0;
+    }
+    takeRate();
+}
+
+void Simulator::sendReplies(const QByteArray &replies)
+{
+    if (replies.isEmpty() || isMute(now()))
+        return;
+    m_line.advance(now());
+    m_line.pushReply(m_faults.apply(replies).bytes);
+    m_line.advance(now());
 }
 
 void Simulator::produceFrame(qint64 momentNs)
@@ -212,6 +252,11 @@ void Simulator::flush()
             return;
         m_line.take(taken);
     }
+    // The next word of the bootloader's dialogue is due when the bytes under way have arrived.
+    const qint64 outNs = m_line.remainingNs();
+    const qint64 inNs = m_hostLine.remainingNs();
+    if (m_device.isInBootloader() && (outNs > 0 || inNs > 0))
+        m_wake.startNs(outNs > 0 && inNs > 0 ? std::min(outNs, inNs) : std::max(outNs, inNs));
 }
 
 } // namespace kvsim

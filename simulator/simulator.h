@@ -12,12 +12,13 @@
 #include "simulator/pty_port.h"
 #include "simulator/sample_source.h"
 #include "simulator/transmit_line.h"
+#include "simulator/wake_timer.h"
 
 namespace kvsim {
 
 /// The whole device on its port. A timer finds the frames that are due; each is sampled, laid out, framed, damaged as
-/// asked, queued on the line and written to the pseudo-terminal. Received bytes go to the device model, its replies to
-/// the line.
+/// asked, queued on the line and written to the pseudo-terminal. Received bytes go to the device model when their time
+/// on the line has passed, its replies to the line.
 ///
 /// Main thread, event loop needed. All controls act at once.
 class Simulator : public QObject
@@ -35,6 +36,9 @@ public:
         quint64 dropped = 0; ///< lost: line too slow, host too slow or gone, gap, silence
         quint64 unheard = 0; ///< that were due while no host had the port open
         quint64 bytes = 0;   ///< written to the port, replies included
+        bool inBootloader = false;
+        quint64 packets = 0; ///< data packets that the bootloader got in a data phase
+        quint64 refused = 0; ///< those of them that it did not program
     };
 
     /// @param recording played instead of the motion model when given
@@ -62,6 +66,8 @@ public:
     void setRotateIds(bool rotate) { m_rotateIds = rotate; }
     void setRate(int rateHz);
 
+    /// Cuts the power for a moment.
+    void restart();
     /// Closes the port as if the cable were pulled; the device itself runs on.
     void unplug();
     /// Opens a new port, or keeps the one that is open. @return false with a sentence in `error`
@@ -76,6 +82,9 @@ private:
     bool isMute(qint64 nowNs) const { return m_silent || nowNs < m_muteUntilNs; }
     void tick();
     void receive(const QByteArray &bytes);
+    void hear(qint64 nowNs);
+    void advanceDevice(qint64 nowNs);
+    void sendReplies(const QByteArray &replies);
     void takeRate();
     void produceFrame(qint64 momentNs);
     QByteArray nextPayload(qint64 momentNs);
@@ -88,10 +97,12 @@ private:
     DeviceModel m_device;
     FaultInjector m_faults;
     TransmitLine m_line;
+    TransmitLine m_hostLine; // the other direction: what the host has sent and is still on its way
     FrameClock m_clock;
     PortLink m_link;
     PtyPort m_port;
     QTimer m_timer;
+    WakeTimer m_wake;
     QElapsedTimer m_elapsed;
     Statistics m_statistics;
     TransmitLine::Chunk m_held; // frames of a burst not yet complete

@@ -1,6 +1,7 @@
 #include "simulator/transmit_line.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace kvsim {
 
@@ -51,6 +52,14 @@ void TransmitLine::append(const Chunk &chunk)
     m_acceptedBytes += quint64(chunk.bytes.size());
     if (chunk.frames > 0)
         m_marks.push_back({m_acceptedBytes, chunk.frames, chunk.intact});
+}
+
+qint64 TransmitLine::remainingNs() const
+{
+    const qsizetype waiting = m_bytes.size() - m_left;
+    if (waiting == 0 || m_bytesPerSecond <= 0.0)
+        return 0;
+    return qint64(std::ceil((double(waiting) - m_credit) / m_bytesPerSecond * 1e9)) + 1;
 }
 
 void TransmitLine::take(qsizetype count)

@@ -36,6 +36,9 @@ public:
     /// Takes a text reply; it waits behind what is in the buffer already.
     bool pushReply(const QByteArray &bytes);
 
+    /// How long from the last advance() until all bytes have left, nanoseconds; 0 when none waits.
+    qint64 remainingNs() const;
+
     /// The bytes that have left the device and wait for the port.
     QByteArrayView ready() const { return QByteArrayView(m_bytes).sliced(m_taken, m_left - m_taken); }
     /// The port took the first `count` bytes of ready().

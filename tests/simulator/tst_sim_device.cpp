@@ -6,9 +6,13 @@ using namespace kvsim;
 
 namespace {
 
-DeviceModel make(const char *name)
+constexpr qint64 kMs = 1'000'000;
+
+DeviceModel make(const char *name, int bootloaderWaitMs = 0)
 {
-    return {*findDeviceType(QLatin1String(name)), DeviceModel::Settings(), 115200};
+    Bootloader::Settings bootloader;
+    bootloader.waitMs = bootloaderWaitMs;
+    return {*findDeviceType(QLatin1String(name)), DeviceModel::Settings(), 115200, bootloader};
 }
 
 } // namespace
@@ -49,7 +53,7 @@ private slots:
     {
         DeviceModel legacy = make("mz221");
         legacy.receive("AT+ID=9\r\nAT+ODR=200\r\nAT+MODE=1\r\nAT+EOUT=0\r\nAT+RST\r\n", 0);
-        QVERIFY(legacy.finishRestart(DeviceModel::kRestartNs));
+        QVERIFY(legacy.advance(DeviceModel::kResetNs).booted);
         const DeviceModel::Settings &kept = legacy.settings();
         QVERIFY(kept.id == 9 && kept.rateHz == 200 && kept.mode == 1);
         QVERIFY(legacy.isStreaming());
@@ -59,7 +63,7 @@ private slots:
         QVERIFY(!text.isStreaming());
         text.receive("CONFIG ATT MODE 1\r\nREBOOT\r\n", 0);
         QCOMPARE(text.settings().mode, 0);
-        QVERIFY(text.finishRestart(DeviceModel::kRestartNs));
+        QVERIFY(text.advance(DeviceModel::kResetNs).booted);
         text.receive("CONFIG ATT MODE 1\r\nSAVECONFIG\r\nAT+RST\r\n", 0);
         QCOMPARE(text.settings().mode, 1);
     }
@@ -71,10 +75,28 @@ private slots:
         QCOMPARE(model.receive("AT+RST\r\nAT+INFO\r\n", 1000), QByteArray("OK\r\n"));
         QVERIFY(!model.isStreaming());
         QVERIFY(model.receive("AT+INFO\r\n", 2000).isEmpty());
-        QVERIFY(!model.finishRestart(999 + DeviceModel::kRestartNs));
-        QVERIFY(model.finishRestart(1000 + DeviceModel::kRestartNs));
-        QVERIFY(!model.finishRestart(1001 + DeviceModel::kRestartNs));
+        QVERIFY(!model.advance(999 + DeviceModel::kResetNs).booted);
+        QVERIFY(model.advance(1000 + DeviceModel::kResetNs).booted);
+        QVERIFY(!model.advance(1001 + DeviceModel::kResetNs).booted);
         QVERIFY(!model.receive("AT+INFO\r\n", 2000).isEmpty());
+    }
+
+    // A silent host is waited for, text is no word, and a host that pings keeps the bootloader.
+    void bootloaderWaits()
+    {
+        for (const bool talks : {false, true}) {
+            DeviceModel model = make("kv104", 1000);
+            model.receive("REBOOT\r\n", 0);
+            QVERIFY(!model.advance(49 * kMs).booted && !model.isInBootloader());
+            QVERIFY(!model.advance(50 * kMs).booted && model.isInBootloader());
+            QVERIFY(model.receive("AT+INFO\r\n", 60 * kMs).isEmpty());
+            if (talks)
+                model.receive("\x5A\xA6", 1049 * kMs);
+            QCOMPARE(model.advance(1049 * kMs).answers.toHex(), QByteArray(talks ? "5aa70302015000004a24" : ""));
+            QCOMPARE(model.advance(1050 * kMs).booted, !talks);
+            QCOMPARE(model.advance(3'600'000 * kMs).booted, false);
+            QCOMPARE(model.isStreaming(), !talks);
+        }
     }
 
     void linesAndRepliesAreBounded()

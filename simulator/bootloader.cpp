@@ -1,0 +1,255 @@
+#include "simulator/bootloader.h"
+
+#include <QtEndian>
+
+#include <algorithm>
+
+namespace kvsim {
+
+namespace {
+
+constexpr qint64 kNsPerMs = 1'000'000;
+constexpr qsizetype kMaxCommandBytes = 32;
+constexpr qsizetype kCommandHeaderBytes = 4;
+
+enum Tag : quint8 {
+    kEraseAll = 0x01,
+    kEraseRegion = 0x02,
+    kWriteMemory = 0x04,
+    kGetProperty = 0x07,
+    kExecute = 0x09,
+    kReset = 0x0B,
+    kGenericResponse = 0xA0,
+    kPropertyResponse = 0xA7,
+};
+
+enum Status : quint32 {
+    kSuccess = 0,
+    kInvalidArgument = 4,
+    kUnknownCommand = 10000,
+    kRangeInvalid = 10200,
+    kUnknownProperty = 10300,
+};
+
+constexpr quint32 kVersion = 0x4B020103; // 'K', 2.1.3
+constexpr quint32 kDeviceId = 0x1A2B3C4D;
+
+} // namespace
+
+Bootloader::Bootloader(const Settings &settings)
+    : m_settings(settings), m_flash(settings.flash), m_faults(settings.seed)
+{
+    m_reader.setMaxPayload(std::max<qsizetype>(kMaxCommandBytes, settings.packetBytes));
+}
+
+void Bootloader::enter(qint64 nowNs)
+{
+    m_reader.reset();
+    m_answers.clear();
+    m_enteredNs = nowNs;
+    m_lastAnswerNs = nowNs;
+    m_spokenTo = false;
+    m_writing = false;
+    m_exit = Exit::None;
+}
+
+void Bootloader::receive(QByteArrayView bytes, qint64 nowNs)
+{
+    if (nowNs - m_lastByteNs > kPacketTimeoutNs)
+        m_reader.reset();
+    m_nowNs = nowNs;
+    m_lastByteNs = nowNs;
+    for (const char byte : bytes) {
+        if (m_exit != Exit::None)
+            return;
+        if (const auto packet = m_reader.take(byte))
+            handle(*packet);
+    }
+}
+
+QByteArray Bootloader::takeAnswers(qint64 nowNs)
+{
+    QByteArray due;
+    const auto end = m_answers.upper_bound(nowNs);
+    for (auto it = m_answers.begin(); it != end; ++it)
+        due += it->second;
+    m_answers.erase(m_answers.begin(), end);
+    return due;
+}
+
+Bootloader::Exit Bootloader::exit(qint64 nowNs) const
+{
+    if (!m_answers.empty())
+        return Exit::None;
+    if (m_exit != Exit::None)
+        return m_exit;
+    const bool waited = nowNs - m_enteredNs >= m_settings.waitMs * kNsPerMs;
+    return waited && !m_spokenTo && m_firmwareWhole ? Exit::StartFirmware : Exit::None;
+}
+
+void Bootloader::handle(const PacketReader::Packet &packet)
+{
+    switch (packet.kind) {
+    case PacketReader::Kind::Ping:
+        m_spokenTo = true;
+        if (!m_faults.mutePing)
+            answer(encodePingResponse());
+        break;
+    case PacketReader::Kind::Command:
+        m_spokenTo = true;
+        m_writing = false;
+        handleCommand(packet.payload);
+        break;
+    case PacketReader::Kind::Data:
+        handleData(packet.payload);
+        break;
+    case PacketReader::Kind::Damaged:
+        answer(encodeShortPacket(PacketType::Nak));
+        break;
+    }
+}
+
+void Bootloader::handleCommand(const QByteArray &payload)
+{
+    answer(encodeShortPacket(PacketType::Ack));
+    if (payload.size() < kCommandHeaderBytes) {
+        respond(kInvalidArgument, 0);
+        return;
+    }
+    const auto tag = quint8(payload[0]);
+    const qsizetype count = quint8(payload[3]);
+    const qsizetype needed = tag == kEraseRegion || tag == kWriteMemory ? 2 : tag == kGetProperty ? 1 : 0;
+    if (payload.size() != kCommandHeaderBytes + 4 * count || count < needed) {
+        respond(kInvalidArgument, tag);
+        return;
+    }
+    const auto parameter = [&payload](qsizetype i) {
+        return qFromLittleEndian<quint32>(payload.constData() + kCommandHeaderBytes + 4 * i);
+    };
+    switch (tag) {
+    case kEraseAll:
+        respond(erase(m_flash.geometry().base, m_flash.geometry().size), tag, m_faults.eraseMs);
+        break;
+    case kEraseRegion:
+        respond(erase(parameter(0), parameter(1)), tag, m_faults.eraseMs);
+        break;
+    case kWriteMemory:
+        respond(beginWrite(parameter(0), parameter(1)), tag);
+        break;
+    case kGetProperty:
+        answerProperty(parameter(0));
+        break;
+    case kExecute:
+        respond(m_firmwareWhole ? kSuccess : kInvalidArgument, tag);
+        if (m_firmwareWhole)
+            m_exit = Exit::StartFirmware;
+        break;
+    case kReset:
+        respond(kSuccess, tag);
+        m_exit = Exit::Reset;
+        break;
+    default:
+        respond(kUnknownCommand, tag);
+        break;
+    }
+}
+
+quint32 Bootloader::erase(quint32 address, quint32 count)
+{
+    if (!m_flash.erase(address, count))
+        return kRangeInvalid;
+    m_firmwareWhole = m_firmwareWhole && count == 0;
+    return kSuccess;
+}
+
+quint32 Bootloader::beginWrite(quint32 address, quint32 count)
+{
+    if (!m_flash.contains(address, count))
+        return kRangeInvalid;
+    m_writing = count > 0;
+    m_firmwareWhole = m_firmwareWhole && count == 0;
+    m_writeAddress = address;
+    m_writeLeft = count;
+    return kSuccess;
+}
+
+void Bootloader::handleData(const QByteArray &payload)
+{
+    if (!m_writing) {
+        answer(encodeShortPacket(PacketType::AckAbort));
+        return;
+    }
+    ++m_packets;
+    ++m_refusedPackets;
+    BootFaults::Verdict verdict = m_faults.judge();
+    if (verdict == BootFaults::Verdict::Take && payload.size() > m_settings.packetBytes)
+        verdict = BootFaults::Verdict::Refuse;
+    if (verdict == BootFaults::Verdict::Take && quint32(payload.size()) > m_writeLeft)
+        verdict = BootFaults::Verdict::Abort;
+    switch (verdict) {
+    case BootFaults::Verdict::Ignore:
+        return;
+    case BootFaults::Verdict::Refuse:
+        answer(encodeShortPacket(PacketType::Nak));
+        return;
+    case BootFaults::Verdict::Abort:
+        m_writing = false;
+        answer(encodeShortPacket(PacketType::AckAbort));
+        return;
+    case BootFaults::Verdict::Take:
+        break;
+    }
+    --m_refusedPackets;
+    m_flash.program(m_writeAddress, payload);
+    m_writeAddress += quint32(payload.size());
+    m_writeLeft -= quint32(payload.size());
+    answer(encodeShortPacket(PacketType::Ack));
+    if (m_writeLeft == 0) {
+        m_writing = false;
+        m_firmwareWhole = true;
+        respond(kSuccess, kWriteMemory);
+    }
+}
+
+void Bootloader::answerProperty(quint32 property)
+{
+    const FlashMemory::Geometry &flash = m_flash.geometry();
+    const std::pair<quint32, quint32> values[] = {
+        {0x01, kVersion},
+        {0x03, flash.base},
+        {0x04, flash.size},
+        {0x05, flash.sector},
+        {0x0B, quint32(m_settings.packetBytes)},
+        {0x10, kDeviceId},
+    };
+    const auto *const row =
+        std::find_if(std::begin(values), std::end(values), [property](const auto &v) { return v.first == property; });
+    const bool known = row != std::end(values);
+    QByteArray value = littleEndian({known ? row->second : 0});
+    value.resize(m_faults.propertyBytes, '\0');
+    answer(encodeResponse(kPropertyResponse, littleEndian({known ? kSuccess : kUnknownProperty}) + value));
+}
+
+void Bootloader::respond(quint32 status, quint8 tag, int delayMs)
+{
+    answer(encodeResponse(kGenericResponse, littleEndian({status, tag})), delayMs);
+}
+
+void Bootloader::answer(const QByteArray &bytes, int delayMs)
+{
+    if (m_answers.size() >= kMaxAnswers)
+        return;
+    m_lastAnswerNs = std::max(m_nowNs, m_lastAnswerNs) + delayMs * kNsPerMs;
+    if (m_faults.trickleMs == 0) {
+        m_answers.emplace(m_lastAnswerNs, bytes);
+    } else {
+        for (const char byte : bytes) {
+            m_lastAnswerNs += m_faults.trickleMs * kNsPerMs;
+            m_answers.emplace(m_lastAnswerNs, QByteArray(1, byte));
+        }
+    }
+    if (m_faults.staleMs > 0)
+        m_answers.emplace(m_lastAnswerNs + m_faults.staleMs * kNsPerMs, encodeShortPacket(PacketType::Ack));
+}
+
+} // namespace kvsim

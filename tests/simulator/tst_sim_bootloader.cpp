@@ -1,0 +1,279 @@
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <limits>
+
+#include "simulator/bootloader.h"
+#include "support/frames.h"
+
+using namespace kvsim;
+using frames::hex;
+
+namespace {
+
+using Verdict = BootFaults::Verdict;
+
+constexpr qint64 kMs = 1'000'000;
+constexpr quint32 kBase = 0x08000000;
+const QByteArray kPing = hex("5aa6");
+const QByteArray kAck = hex("5aa1");
+const QByteArray kNak = hex("5aa2");
+const QByteArray kAbort = hex("5aa3");
+
+QByteArray words(quint8 tag, std::initializer_list<quint32> parameters)
+{
+    frames::Bytes bytes;
+    bytes.u8(tag).u8(0).u8(0).u8(unsigned(parameters.size()));
+    for (const quint32 parameter : parameters)
+        bytes.u32(parameter);
+    return frames::packet(bytes, 0xA4);
+}
+
+QByteArray response(quint32 status, quint8 tag)
+{
+    return words(0xA0, {status, tag});
+}
+
+QByteArray pattern(qsizetype size)
+{
+    QByteArray bytes(size, '\0');
+    for (qsizetype i = 0; i < size; ++i)
+        bytes[i] = char(i * 31 + i / 256);
+    return bytes;
+}
+
+// A bootloader of 64 KiB flash in sectors of 1 KiB, asked once a millisecond.
+struct Target
+{
+    Bootloader boot{{{kBase, 64 * 1024, 1024}, 32, 1000, 1}};
+    qint64 nowNs = 0;
+
+    Target() { boot.enter(0); }
+    QByteArray ask(const QByteArray &bytes, int milliseconds = 1)
+    {
+        boot.receive(bytes, nowNs);
+        nowNs += milliseconds * kMs;
+        return boot.takeAnswers(nowNs);
+    }
+    Bootloader::Exit exit() const { return boot.exit(nowNs); }
+};
+
+} // namespace
+
+class TestSimBootloader : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void answers_data()
+    {
+        QTest::addColumn<QByteArray>("request");
+        QTest::addColumn<QByteArray>("answer");
+        const auto row = [](const char *name, const QByteArray &request, const QByteArray &answer) {
+            QTest::newRow(name) << request << answer;
+        };
+        const auto property = [&row](const char *name, quint32 tag, quint32 value, quint32 status = 0) {
+            row(name, words(7, {tag}), kAck + words(0xA7, {status, value}));
+        };
+        const QByteArray write = words(4, {kBase, 40});
+        const QByteArray begun = kAck + response(0, 4);
+        QByteArray damaged = words(7, {1});
+        damaged[12] = 'x';
+        row("ping", kPing, hex("5aa70302015000004a24"));
+        row("ping in noise", "AT+RST\r\n\xFF\x5A" + kPing + "\x5A", hex("5aa70302015000004a24"));
+        property("version", 0x01, 0x4B020103);
+        property("flash start", 0x03, kBase);
+        property("flash size", 0x04, 64 * 1024);
+        property("sector size", 0x05, 1024);
+        property("packet size", 0x0B, 32);
+        property("device id", 0x10, 0x1A2B3C4D);
+        property("unknown property", 0x77, 0, 10300);
+        row("unknown command", words(0x33, {1}), kAck + response(10000, 0x33));
+        row("too few parameters", words(2, {kBase}), kAck + response(4, 2));
+        row("empty command", frames::packet({}, 0xA4) + kPing, kAck + response(4, 0) + hex("5aa70302015000004a24"));
+        row("damaged", damaged + kPing, kNak + hex("5aa70302015000004a24"));
+        row("too long", frames::packet({}, 0xA5, 33), kNak);
+        row("erase", words(2, {kBase + 64 * 1024 - 1, 1}), kAck + response(0, 2));
+        row("erase all", words(1, {}), kAck + response(0, 1));
+        row("erase nothing", words(2, {0, 0}), kAck + response(0, 2));
+        row("erase too far", words(2, {kBase + 64 * 1024 - 1, 2}), kAck + response(10200, 2));
+        row("erase around", words(2, {kBase, 0xFFFFFFFF}), kAck + response(10200, 2));
+        row("erase elsewhere", words(2, {0x100010C0, 4}), kAck + response(10200, 2));
+        row("write too far", words(4, {0, 64 * 1024 + 1}), kAck + response(10200, 4));
+        row("write nothing", words(4, {kBase, 0}), kAck + response(0, 4));
+        row("data without a write", frames::packet("x"), kAbort);
+        row("data after its end",
+            write + frames::packet(pattern(20)) + frames::packet(pattern(20)) + frames::packet("x"),
+            begun + kAck + kAck + response(0, 4) + kAbort);
+        row("more data than announced",
+            write + frames::packet(pattern(20)) + frames::packet(pattern(21)) + frames::packet("x"),
+            begun + kAck + kAbort + kAbort);
+        row("a command ends the data phase", write + kPing + words(1, {}) + frames::packet("x"),
+            begun + hex("5aa70302015000004a24") + kAck + response(0, 1) + kAbort);
+        row("reset is the end", words(0x0B, {}) + kPing, kAck + response(0, 0x0B));
+    }
+    void answers()
+    {
+        QFETCH(QByteArray, request);
+        QFETCH(QByteArray, answer);
+        Target whole;
+        QCOMPARE(whole.ask(request).toHex(), answer.toHex());
+        Target inPieces;
+        QByteArray collected;
+        for (const char byte : request)
+            collected += inPieces.ask(QByteArray(1, byte));
+        QCOMPARE(collected.toHex(), answer.toHex());
+    }
+
+    // Packets refused or not answered are sent again, as a host does; the flash holds the image and nothing else
+    // changed.
+    void updates()
+    {
+        for (const quint32 address : {kBase + 1500, 1500U}) {
+            for (const char *refused : {"0", "1", "2:3", "4"}) {
+                Target target;
+                QByteArray expected = target.boot.flash().contents();
+                const QByteArray image = pattern(100);
+                expected.replace(1024, 1024, QByteArray(1024, '\xFF')).replace(1500, 100, image);
+                QVERIFY(target.boot.faults().plan(Verdict::Refuse, QLatin1String(refused)).isEmpty());
+                target.ask(words(2, {address, 100}) + words(4, {address, 100}));
+                for (qsizetype i = 0, attempts = 0; i < 100 && attempts < 9; ++attempts)
+                    i += target.ask(frames::packet(image.mid(i, 32))).startsWith(kAck) ? 32 : 0;
+                QVERIFY(target.boot.flash().contents() == expected);
+                QCOMPARE(target.boot.packets() - target.boot.refusedPackets(), 4U);
+                target.ask(words(0x0B, {}));
+                QCOMPARE(target.exit(), Bootloader::Exit::Reset);
+            }
+        }
+    }
+
+    void programsWhatIsErased()
+    {
+        FlashMemory flash({0, 2048, 512});
+        const auto old = quint8(flash.contents()[600]);
+        QVERIFY(flash.program(600, "\x0F") && quint8(flash.contents()[600]) == (old & 0x0F));
+        QVERIFY(flash.erase(600, 1) && flash.program(600, "\x0F") && flash.contents()[600] == 0x0F);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("flash.bin"));
+        QCOMPARE(flash.dump(path), QString());
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly) && file.readAll() == flash.contents());
+        QVERIFY(!flash.dump(folder.filePath(QStringLiteral("no/flash.bin"))).isEmpty());
+    }
+
+    void staysWithoutFirmware()
+    {
+        const QByteArray erase = words(2, {kBase, 8});
+        const QByteArray write = words(4, {kBase, 4});
+        const struct
+        {
+            QByteArray before;
+            bool starts;
+        } rows[] = {
+            {"", true},
+            {erase, false},
+            {erase + write, false},
+            {erase + write + frames::packet("1234"), true},
+        };
+        for (const auto &row : rows) {
+            Target target;
+            target.ask(row.before);
+            target.boot.enter(target.nowNs); // after a power cut
+            target.ask({}, 1001);
+            QCOMPARE(target.exit() == Bootloader::Exit::StartFirmware, row.starts);
+            target.ask(words(9, {kBase, 0, 0}));
+            QCOMPARE(target.exit() == Bootloader::Exit::StartFirmware, row.starts);
+        }
+    }
+
+    void forgetsHalfAPacket()
+    {
+        Target target;
+        target.ask(frames::packet(pattern(30)).left(12), 201);
+        QCOMPARE(target.ask(kPing).size(), 10);
+    }
+
+    void delays()
+    {
+        Target slow;
+        slow.boot.faults().eraseMs = 500;
+        QCOMPARE(slow.ask(words(2, {kBase, 1}), 499), kAck);
+        QCOMPARE(slow.ask(kPing, 1), response(0, 2) + hex("5aa70302015000004a24"));
+
+        Target trickling;
+        trickling.boot.faults().trickleMs = 3;
+        trickling.boot.receive(kPing, 0);
+        for (int i = 1; i <= 10; ++i) {
+            QVERIFY(trickling.boot.takeAnswers(3 * i * kMs - 1).isEmpty()
+                    && trickling.exit() == Bootloader::Exit::None);
+            QCOMPARE(trickling.boot.takeAnswers(3 * i * kMs).size(), 1);
+        }
+        Target stale;
+        stale.boot.faults().staleMs = 2;
+        QCOMPARE(stale.ask(frames::packet("x")), kAbort);
+        QCOMPARE(stale.ask({}), kAck);
+    }
+
+    void propertyAndPingFaults()
+    {
+        Target target;
+        target.boot.faults().mutePing = true;
+        QVERIFY(target.ask(kPing).isEmpty());
+        for (const int size : {0, 3, 5}) {
+            target.boot.faults().propertyBytes = size;
+            QCOMPARE(target.ask(words(7, {5})).size(), 2 + 6 + 4 + 4 + size);
+        }
+    }
+
+    void verdicts()
+    {
+        const auto verdicts = [](BootFaults &faults) {
+            QByteArray letters;
+            for (int i = 0; i < 8; ++i)
+                letters += "TRAI"[int(faults.judge())];
+            return letters;
+        };
+        BootFaults faults(1);
+        QCOMPARE(verdicts(faults), QByteArray("TTTTTTTT"));
+        QVERIFY(faults.plan(Verdict::Refuse, QStringLiteral("1:2")).isEmpty());
+        QVERIFY(faults.plan(Verdict::Abort, QStringLiteral("5")).isEmpty());
+        QVERIFY(faults.plan(Verdict::Ignore, QStringLiteral("7:99")).isEmpty());
+        QCOMPARE(verdicts(faults), QByteArray("RRTTATII"));
+        QVERIFY(faults.plan(Verdict::Ignore, QStringLiteral("0")).isEmpty());
+        QCOMPARE(verdicts(faults), QByteArray("TTTTTTTT"));
+        for (const char *bad : {"", "x", "-1", "1:0", "1:x", "1:2:3", "99999999999"})
+            QVERIFY2(!faults.plan(Verdict::Refuse, QLatin1String(bad)).isEmpty(), bad);
+
+        const auto refusedOf = [](quint64 seed) {
+            BootFaults some(seed);
+            some.refusedPercent = 5.0;
+            QList<int> refused;
+            for (int i = 0; i < 10'000; ++i) {
+                if (some.judge() == Verdict::Refuse)
+                    refused += i;
+            }
+            return refused;
+        };
+        QVERIFY(refusedOf(1).size() > 390 && refusedOf(1).size() < 610);
+        QVERIFY(refusedOf(1) == refusedOf(1) && refusedOf(1) != refusedOf(2));
+    }
+
+    // Noise with packets in it, while answers trickle: what is kept stays small.
+    void survivesNoise()
+    {
+        Target target;
+        target.boot.faults().trickleMs = 1000;
+        QRandomGenerator random(5);
+        for (int i = 0; i < 20'000; ++i) {
+            QByteArray bytes = i % 3 == 0 ? words(quint8(random.bounded(9)), {random(), random()}) : kPing;
+            if (i % 5 == 0)
+                bytes[random.bounded(bytes.size())] = char(random());
+            target.ask(bytes, 0);
+        }
+        const qsizetype kept = target.boot.takeAnswers(std::numeric_limits<qint64>::max()).size();
+        QVERIFY(kept >= qsizetype(Bootloader::kMaxAnswers) && kept < qsizetype(Bootloader::kMaxAnswers) + 100);
+    }
+};
+
+QTEST_APPLESS_MAIN(TestSimBootloader)
+#include "tst_sim_bootloader.moc"
