@@ -17,5 +17,11 @@ constexpr QLatin1String kPortVendor("SERIAL/VENDOR_ID"); ///< USB identity of th
 constexpr QLatin1String kPortProduct("SERIAL/PRODUCT_ID");
 constexpr QLatin1String kPortSerial("SERIAL/SERIAL_NUMBER");
 constexpr QLatin1String kRecordPath("RECORD/PATH"); ///< folder and name of the last recording, "<folder>/data.csv"
+constexpr QLatin1String kUpdaterPath("UPDATER/PATH"); ///< last firmware image
+
+constexpr QLatin1String kSensorDashboard("SENSOR_DASHBOARD"); ///< group of the sensor dashboard; below it:
+constexpr QLatin1String kDashboardPlace("PLACE");             ///< window's size and place while not maximised
+constexpr QLatin1String kDashboardMaximized("MAXIMIZED");
+constexpr QLatin1String kDashboardFolder("SAVE_FOLDER"); ///< folder of the last saved picture or samples
 
 } // namespace settings_keys

@@ -1,0 +1,56 @@
+import QtQuick
+import KVCenter.Controls
+import KVCenter.Wave
+
+/// Switch and cutoff of a chart's low-pass filter. A refused setting is told beside them.
+Flow {
+    id: row
+
+    property WaveChartBridge bridge: null
+    property double cutoffHz: 10
+    property string problem
+
+    function apply(on: bool, hz: double) {
+        problem = bridge.trySetFilter(on, hz);
+        toggle.checked = bridge.filterOn;
+    }
+
+    spacing: 10
+
+    Connections {
+        target: row.bridge
+        function onFilterChanged() {
+            toggle.checked = row.bridge.filterOn;
+        }
+    }
+    SwitchBox {
+        id: toggle
+
+        objectName: "filterSwitch"
+        text: qsTr("Low-pass filter")
+        onToggled: row.apply(checked, row.cutoffHz)
+    }
+    NumberField {
+        objectName: "filterCutoff"
+        value: row.cutoffHz
+        from: 0
+        to: 100000
+        unit: "Hz"
+        hint: qsTr("Cutoff frequency")
+        onEntered: number => {
+            row.cutoffHz = number;
+            row.apply(toggle.checked || row.problem !== "", number);
+        }
+    }
+    Text {
+        objectName: "filterProblem"
+        visible: text !== ""
+        width: Math.min(implicitWidth, row.width)
+        topPadding: 4
+        wrapMode: Text.WordWrap
+        text: row.problem
+        textFormat: Text.PlainText
+        font: Theme.smallFont
+        color: Theme.warning
+    }
+}

@@ -1,0 +1,150 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import KVCenter.Controls
+import KVCenter.Wave
+
+/// The waveform dashboard of one device: a bar with play, the choice of charts and the rate, and the chosen charts in a
+/// grid. One chart can be shown alone. Each chart keeps what it shows while it is not chosen.
+Item {
+    id: dashboard
+
+    required property SensorDashboardBridge bridge
+    required property ChartSaver saver
+    property string maximizedType
+    /// The chart that the bar tells about: the one used last.
+    property string currentType
+    readonly property list<string> shownTypes: bridge.selectedSensorTypes.includes(maximizedType) ? [maximizedType] : bridge.selectedSensorTypes
+    readonly property int columns: shownTypes.length > 1 ? bridge.gridColumns : 1
+    readonly property int gridRows: shownTypes.length > 1 ? bridge.gridRows : 1
+
+    Keys.onPressed: event => {
+        event.accepted = true;
+        if (event.key === Qt.Key_Space)
+            bridge.togglePlaying();
+        else if (event.key === Qt.Key_Escape && maximizedType !== "")
+            maximizedType = "";
+        else
+            event.accepted = false;
+    }
+    focus: true
+
+    Rectangle {
+        id: bar
+
+        width: parent.width
+        height: barItems.height + 16
+        color: Theme.surface
+
+        Rectangle {
+            anchors.bottom: parent.bottom
+            width: parent.width
+            height: 1
+            color: Theme.line
+        }
+        Flow {
+            id: barItems
+
+            x: 12
+            y: 8
+            width: parent.width - status.width - 36
+            spacing: 8
+
+            ActionButton {
+                objectName: "playButton"
+                primary: true
+                iconName: dashboard.bridge.playing ? "pause" : "play"
+                text: dashboard.bridge.playing ? qsTr("Pause") : qsTr("Play")
+                hint: dashboard.bridge.playing ? qsTr("Hold the picture; recordings go on") : qsTr("Go on with the newest samples")
+                keys: qsTr("Space")
+                onClicked: dashboard.bridge.togglePlaying()
+            }
+            Repeater {
+                model: dashboard.bridge.paneStates
+
+                Chip {
+                    required property var modelData
+
+                    objectName: "chip_" + modelData.type
+                    text: modelData.label
+                    checked: modelData.selected
+                    hint: modelData.selected ? qsTr("Hide this chart") : qsTr("Show this chart")
+                    onClicked: dashboard.bridge.setSensorSelected(modelData.type, checked)
+                }
+            }
+        }
+        Text {
+            id: status
+
+            readonly property WaveChartBridge chartBridge: dashboard.bridge.backend(dashboard.currentType) ?? dashboard.bridge.backendAt(0)
+
+            anchors.right: parent.right
+            anchors.rightMargin: 16
+            anchors.verticalCenter: parent.verticalCenter
+            text: dashboard.bridge.playing ? qsTr("%1 Hz").arg(chartBridge.framerate) : qsTr("Paused · %1 Hz").arg(chartBridge.framerate)
+            textFormat: Text.PlainText
+            font: Theme.fixedSmallFont
+            color: Theme.textSecondary
+        }
+    }
+
+    Item {
+        id: grid
+
+        readonly property int gap: 8
+
+        anchors {
+            left: parent.left
+            right: parent.right
+            top: bar.bottom
+            bottom: message.top
+            margins: 8
+        }
+
+        Repeater {
+            model: dashboard.bridge.sensorTypes
+
+            WaveChart {
+                id: pane
+
+                required property string modelData
+                readonly property int place: dashboard.shownTypes.indexOf(modelData)
+                readonly property real cellWidth: (grid.width - grid.gap * (dashboard.columns - 1)) / dashboard.columns
+                readonly property real cellHeight: (grid.height - grid.gap * (dashboard.gridRows - 1)) / dashboard.gridRows
+
+                objectName: "chart_" + modelData
+                visible: place >= 0
+                x: Math.round((place % dashboard.columns) * (cellWidth + grid.gap))
+                y: Math.round(Math.floor(place / dashboard.columns) * (cellHeight + grid.gap))
+                width: Math.round(cellWidth)
+                height: Math.round(cellHeight)
+                bridge: dashboard.bridge.backend(modelData)
+                maximized: dashboard.maximizedType === modelData
+                canMaximize: maximized || dashboard.shownTypes.length > 1
+                onActiveFocusChanged: if (activeFocus)
+                    dashboard.currentType = modelData
+                onPictureRequested: dashboard.saver.savePicture(viewState, pane)
+                onDataRequested: dashboard.saver.saveData(viewState)
+                onMaximizeRequested: dashboard.maximizedType = maximized ? "" : modelData
+            }
+        }
+        EmptyState {
+            objectName: "noChart"
+            anchors.centerIn: parent
+            width: parent.width - 40
+            visible: dashboard.bridge.selectedCount === 0
+            text: qsTr("No chart is chosen")
+            detail: qsTr("Choose above what to show.")
+        }
+    }
+
+    MessageRow {
+        id: message
+
+        anchors.bottom: parent.bottom
+        width: parent.width
+        text: dashboard.saver.message
+        failed: dashboard.saver.failed
+        onDismissed: dashboard.saver.clearMessage()
+    }
+}

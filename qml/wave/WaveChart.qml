@@ -1,0 +1,222 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import KVCenter.Controls
+import KVCenter.Wave
+
+/// A chart as a card: title, legend with live values, plot with axes, crosshair and cursors, and its own buttons.
+/// Give it a `bridge`. The window around it answers the requests: pictureRequested() and dataRequested() with a file
+/// dialog, maximizeRequested() by laying out. What it shows of the bridge is in `viewState`.
+FocusScope {
+    id: chart
+
+    property WaveChartBridge bridge: null
+    property bool maximized: false
+    property bool canMaximize: true
+    property string emptyText: qsTr("Waiting for samples")
+    readonly property alias viewState: view
+
+    signal pictureRequested
+    signal dataRequested
+    signal maximizeRequested
+
+    activeFocusOnTab: true
+    Accessible.role: Accessible.Chart
+    Accessible.name: view.name
+    Keys.onPressed: event => event.accepted = view.handleKey(event.key, event.modifiers)
+
+    ChartViewState {
+        id: view
+
+        bridge: chart.bridge
+        active: chart.visible
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        radius: 8
+        color: Theme.surface
+        border.width: 1
+        border.color: chart.activeFocus ? Theme.accent : Theme.line
+    }
+
+    Item {
+        id: header
+
+        anchors {
+            left: parent.left
+            right: parent.right
+            top: parent.top
+            leftMargin: 14
+            rightMargin: 8
+            topMargin: 6
+        }
+        height: tools.height
+
+        Text {
+            id: titleText
+
+            anchors.verticalCenter: parent.verticalCenter
+            width: Math.min(implicitWidth, parent.width - tools.width - unitText.width - 12)
+            elide: Text.ElideRight
+            text: view.name
+            textFormat: Text.PlainText
+            font: Theme.strongFont
+            color: Theme.text
+        }
+        Text {
+            id: unitText
+
+            anchors.left: titleText.right
+            anchors.leftMargin: 6
+            anchors.baseline: titleText.baseline
+            text: view.unit
+            textFormat: Text.PlainText
+            font: Theme.font
+            color: Theme.textSecondary
+        }
+        Row {
+            id: tools
+
+            anchors.right: parent.right
+            spacing: 2
+
+            ActionButton {
+                bare: true
+                visible: !view.following
+                text: qsTr("Live")
+                hint: qsTr("Back to the newest samples")
+                keys: qsTr("Home")
+                onClicked: view.reset()
+            }
+            ActionButton {
+                id: filterButton
+
+                bare: true
+                visible: chart.bridge !== null && chart.bridge.hasFilter
+                checkable: true
+                iconName: "filter"
+                hint: qsTr("Low-pass filter")
+            }
+            ActionButton {
+                bare: true
+                enabled: view.hasData
+                checked: view.hasCursors
+                iconName: "cursors"
+                hint: view.hasCursors ? qsTr("Remove the measuring cursors") : qsTr("Measure between two cursors")
+                keys: view.hasCursors ? qsTr("Esc") : qsTr("A, B")
+                onClicked: view.toggleCursors()
+            }
+            ActionButton {
+                bare: true
+                iconName: "reset"
+                hint: qsTr("Reset the view")
+                keys: qsTr("Home")
+                onClicked: view.reset()
+            }
+            ActionButton {
+                bare: true
+                enabled: view.hasData
+                iconName: "picture"
+                hint: qsTr("Save a picture of the chart")
+                onClicked: chart.pictureRequested()
+            }
+            ActionButton {
+                bare: true
+                enabled: view.hasData
+                iconName: "save"
+                hint: qsTr("Save the visible samples")
+                onClicked: chart.dataRequested()
+            }
+            ActionButton {
+                bare: true
+                visible: chart.canMaximize
+                iconName: chart.maximized ? "restore" : "maximize"
+                hint: chart.maximized ? qsTr("Show all charts") : qsTr("Show this chart alone")
+                onClicked: chart.maximizeRequested()
+            }
+        }
+    }
+
+    Column {
+        id: rows
+
+        anchors {
+            left: parent.left
+            right: parent.right
+            top: header.bottom
+            leftMargin: 14
+            rightMargin: 14
+            topMargin: 2
+        }
+        spacing: 4
+
+        Flow {
+            width: parent.width
+            spacing: 12
+
+            Repeater {
+                model: chart.bridge ? chart.bridge.channelNames : []
+
+                ChartLegendEntry {
+                    required property int index
+                    required property string modelData
+
+                    name: modelData
+                    color: chart.bridge.channelColors[index]
+                    shown: view.visibleChannels[index] ?? true
+                    value: view.liveTexts[index] ?? ""
+                    onClicked: view.setChannelVisible(index, !shown)
+                }
+            }
+        }
+        ChartFilterRow {
+            width: parent.width
+            visible: filterButton.checked
+            bridge: chart.bridge
+        }
+        Flow {
+            width: parent.width
+            spacing: 14
+            visible: measurements.count > 0
+
+            Repeater {
+                id: measurements
+
+                model: view.measurement
+
+                Text {
+                    required property string modelData
+
+                    text: modelData
+                    textFormat: Text.PlainText
+                    font: Theme.fixedSmallFont
+                    color: Theme.accentDark
+                }
+            }
+        }
+    }
+
+    ChartPlot {
+        anchors {
+            left: parent.left
+            right: parent.right
+            top: rows.bottom
+            bottom: parent.bottom
+            leftMargin: 10
+            rightMargin: 14
+            topMargin: 6
+            bottomMargin: 6
+        }
+        viewState: view
+        onPressed: chart.forceActiveFocus(Qt.MouseFocusReason)
+    }
+
+    EmptyState {
+        anchors.centerIn: parent
+        anchors.verticalCenterOffset: 20
+        width: parent.width - 40
+        visible: !view.hasData
+        text: chart.emptyText
+    }
+}

@@ -1,0 +1,98 @@
+#include "wave/chart_saver.h"
+
+#include <QBuffer>
+#include <QDateTime>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QImage>
+#include <QQuickItemGrabResult>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QWindow>
+
+#include "app/settings_keys.h"
+#include "wave/chart_export.h"
+
+namespace {
+
+QString suggestedName(const ChartViewState &view, QLatin1String suffix)
+{
+    const QString type = view.bridge() ? view.bridge()->sensorType() : QStringLiteral("chart");
+    return type + QDateTime::currentDateTime().toString(QStringLiteral("_yyyyMMdd_HHmmss")) + suffix;
+}
+
+} // namespace
+
+ChartSaver::ChartSaver(QWindow *window, QLatin1String settingsGroup, QObject *parent)
+    : QObject(parent), m_window(window), m_settingsGroup(settingsGroup)
+{}
+
+void ChartSaver::saveData(ChartViewState *view)
+{
+    if (!view || !view->bridge())
+        return;
+    save(tr("Save the visible samples"), suggestedName(*view, QLatin1String(".csv")),
+         tr("Comma-separated values (*.csv)"), chart_export::csv(*view->bridge(), view->xViewMin(), view->xViewMax()));
+}
+
+void ChartSaver::savePicture(ChartViewState *view, QQuickItem *item)
+{
+    if (!view || !item)
+        return;
+    const auto grab = item->grabToImage((item->size() * m_window->devicePixelRatio()).toSize());
+    if (!grab) {
+        tell(tr("The picture could not be taken."), true);
+        return;
+    }
+    // The result lives until its signal has been handled, and no longer.
+    const QString name = suggestedName(*view, QLatin1String(".png"));
+    connect(
+        grab.get(), &QQuickItemGrabResult::ready, this,
+        [this, grab, name] {
+            QBuffer png;
+            png.open(QIODevice::WriteOnly);
+            grab->image().save(&png, "PNG");
+            save(tr("Save a picture of the chart"), name, tr("PNG picture (*.png)"), png.data());
+            grab->disconnect(this);
+        },
+        Qt::QueuedConnection);
+}
+
+void ChartSaver::save(const QString &title, const QString &fileName, const QString &filter, const QByteArray &content)
+{
+    QSettings settings(settings_keys::kFile, QSettings::IniFormat);
+    settings.beginGroup(m_settingsGroup);
+    QString folder = settings.value(settings_keys::kDashboardFolder).toString();
+    if (folder.isEmpty() || !QFileInfo(folder).isDir())
+        folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+
+    auto *dialog = new QFileDialog(nullptr, title, folder, filter);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setDefaultSuffix(QFileInfo(fileName).suffix());
+    dialog->selectFile(fileName);
+    dialog->setWindowModality(Qt::WindowModal);
+    dialog->winId(); // creates the window, so that it can belong to ours
+    dialog->windowHandle()->setTransientParent(m_window);
+    connect(this, &QObject::destroyed, dialog, &QObject::deleteLater);
+    connect(dialog, &QFileDialog::fileSelected, this, [this, content](const QString &path) {
+        const QString problem = chart_export::write(path, content);
+        tell(problem.isEmpty() ? tr("Saved %1").arg(QDir::toNativeSeparators(path)) : problem, !problem.isEmpty());
+        if (!problem.isEmpty())
+            return;
+        QSettings store(settings_keys::kFile, QSettings::IniFormat);
+        store.beginGroup(m_settingsGroup);
+        store.setValue(settings_keys::kDashboardFolder, QFileInfo(path).absolutePath());
+    });
+    dialog->open();
+}
+
+void ChartSaver::tell(const QString &message, bool failed)
+{
+    if (message == m_message && failed == m_failed)
+        return;
+    m_message = message;
+    m_failed = failed;
+    emit messageChanged();
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QLatin1String>
+#include <QObject>
+#include <QString>
+#include <QQuickItem>
+
+#include "wave/chart_view_state.h"
+
+class QWindow;
+
+/// Saves what a chart shows into files that the user names. What is saved is what was visible when it was asked for:
+/// the picture goes on meanwhile. The result stands in `message`; the folder is remembered. Main thread only.
+class ChartSaver : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(ChartSaver)
+    QML_ELEMENT
+    QML_UNCREATABLE("comes with the window")
+    Q_PROPERTY(QString message READ message NOTIFY messageChanged)
+    Q_PROPERTY(bool failed READ hasFailed NOTIFY messageChanged)
+
+public:
+    /// `window` is the one that dialogs belong to; `settingsGroup` keeps the folder.
+    ChartSaver(QWindow *window, QLatin1String settingsGroup, QObject *parent = nullptr);
+
+    /// What the last save led to, a sentence for the user; empty before.
+    const QString &message() const { return m_message; }
+    bool hasFailed() const { return m_failed; }
+
+    /// The visible samples of the view as a CSV file.
+    Q_INVOKABLE void saveData(ChartViewState *view);
+    /// A picture of `item` as a PNG file.
+    Q_INVOKABLE void savePicture(ChartViewState *view, QQuickItem *item);
+    Q_INVOKABLE void clearMessage() { tell({}, false); }
+
+signals:
+    void messageChanged();
+
+private:
+    void save(const QString &title, const QString &fileName, const QString &filter, const QByteArray &content);
+    void tell(const QString &message, bool failed);
+
+    QWindow *m_window;
+    QLatin1String m_settingsGroup;
+    QString m_message;
+    bool m_failed = false;
+};

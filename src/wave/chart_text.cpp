@@ -1,0 +1,102 @@
+#include "wave/chart_text.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "wave/axis_ticks.h"
+#include "wave/wave_chart_bridge.h"
+
+namespace {
+
+constexpr QChar kDelta(0x0394);
+
+struct Digits
+{
+    QLatin1String sensorType;
+    int decimals;
+    int width; ///< characters of a usual value, with sign and point
+};
+
+constexpr Digits kDigits[] = {
+    {QLatin1String("acc"), 3, 7}, {QLatin1String("gyr"), 2, 8},  {QLatin1String("mag"), 2, 8},
+    {QLatin1String("eul"), 2, 7}, {QLatin1String("quat"), 4, 7}, {QLatin1String("prs"), 1, 8},
+};
+
+const Digits &digits(const QString &sensorType)
+{
+    static constexpr Digits kOther{QLatin1String(), 3, 8};
+    const auto *const row = std::find_if(std::begin(kDigits), std::end(kDigits),
+                                         [&sensorType](const Digits &d) { return d.sensorType == sensorType; });
+    return row == std::end(kDigits) ? kOther : *row;
+}
+
+/// Where the unit's bracket opens, -1 without one. Translations may use full-width brackets.
+qsizetype unitBracket(const QString &title)
+{
+    if (!title.endsWith(u')') && !title.endsWith(u'\uFF09'))
+        return -1;
+    return std::max(title.lastIndexOf(u'('), title.lastIndexOf(u'\uFF08'));
+}
+
+bool isUnsigned(const WaveChartBridge &bridge, int channel)
+{
+    return bridge.yMin() >= 0 || bridge.channelNames().value(channel) == QLatin1String("Norm");
+}
+
+} // namespace
+
+QString chart_text::name(const QString &chartTitle)
+{
+    const qsizetype bracket = unitBracket(chartTitle);
+    return (bracket < 0 ? chartTitle : chartTitle.left(bracket)).trimmed();
+}
+
+QString chart_text::unit(const QString &chartTitle)
+{
+    const qsizetype bracket = unitBracket(chartTitle);
+    return bracket < 0 ? QString() : chartTitle.sliced(bracket + 1).chopped(1).trimmed();
+}
+
+QString chart_text::fileUnit(const WaveChartBridge &bridge)
+{
+    return bridge.sensorType() == QLatin1String("quat") ? QString() : unit(bridge.chartTitle());
+}
+
+int chart_text::decimals(const QString &sensorType)
+{
+    return digits(sensorType).decimals;
+}
+
+QString chart_text::value(const WaveChartBridge &bridge, int channel, double value)
+{
+    const int places = decimals(bridge.sensorType());
+    return isUnsigned(bridge, channel) ? axis_ticks::number(value, places) : axis_ticks::signedNumber(value, places);
+}
+
+QString chart_text::paddedValue(const WaveChartBridge &bridge, int channel, double value)
+{
+    // A non-breaking blank, so that the view keeps it at the start of a line.
+    return chart_text::value(bridge, channel, value).rightJustified(digits(bridge.sensorType()).width, QChar::Nbsp);
+}
+
+QString chart_text::time(double seconds)
+{
+    return axis_ticks::number(seconds, 3) + QStringLiteral(" s");
+}
+
+QStringList chart_text::measurement(const WaveChartBridge &bridge, double a, double b)
+{
+    const double difference = b - a;
+    QStringList texts{QStringLiteral("%1t %2").arg(kDelta).arg(time(difference))};
+    if (std::abs(difference) >= 0.0005)
+        texts += QStringLiteral("1/%1t %2 Hz").arg(kDelta).arg(axis_ticks::number(std::abs(1 / difference), 3));
+    const QVariantList atA = bridge.getValuesAtTime(a);
+    const QVariantList atB = bridge.getValuesAtTime(b);
+    const QStringList names = bridge.channelNames();
+    for (int channel = 0; channel < std::min(atA.size(), atB.size()); ++channel) {
+        const double change = atB.at(channel).toDouble() - atA.at(channel).toDouble();
+        texts += QStringLiteral("%1%2 %3").arg(kDelta).arg(
+            names.value(channel), axis_ticks::signedNumber(change, decimals(bridge.sensorType())));
+    }
+    return texts;
+}

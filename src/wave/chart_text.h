@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class WaveChartBridge;
+
+/// Texts beside a chart: pure functions of what the bridge describes.
+namespace chart_text {
+
+/// The part of a chart title before its unit: "Acceleration" of "Acceleration (G)".
+QString name(const QString &chartTitle);
+/// The unit in the title's brackets, "G"; empty when there is none.
+QString unit(const QString &chartTitle);
+
+/// The unit for files: as unit(), empty for a quantity that has none.
+QString fileUnit(const WaveChartBridge &bridge);
+
+/// Digits behind the point that values of a sensor type deserve.
+int decimals(const QString &sensorType);
+
+/// A channel's value with the type's digits; what can be negative carries its sign.
+QString value(const WaveChartBridge &bridge, int channel, double value);
+/// As value(), filled with blanks on the left to a width that usual values of the type do not exceed: in a fixed-pitch
+/// font nothing moves when a value changes its sign or size.
+QString paddedValue(const WaveChartBridge &bridge, int channel, double value);
+
+/// "−2.900 s"
+QString time(double seconds);
+
+/// What cursors at `a` and `b` (seconds) measure: time between them, its inverse, and the difference of each channel
+/// where `values` hold one. Values may be shorter than the channels when a cursor stands where there is no sample.
+QStringList measurement(const WaveChartBridge &bridge, double a, double b);
+
+} // namespace chart_text
