@@ -48,6 +48,9 @@ public:
         return true;
     }
 
+    /// Waits up to `timeoutMs` until the program has sent something.
+    bool waitForInput(int timeoutMs) const { return waitFor(POLLIN, timeoutMs); }
+
     /// What the program has sent since the last call; does not wait.
     QByteArray read()
     {
