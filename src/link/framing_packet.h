@@ -7,6 +7,9 @@ namespace framing_packet {
 
 constexpr quint8 kStartByte = 0x5A;
 
+constexpr quint8 kTypeAck = 0xA1;
+constexpr quint8 kTypeNak = 0xA2;
+constexpr quint8 kTypeAckAbort = 0xA3;
 constexpr quint8 kTypeCommand = 0xA4;
 constexpr quint8 kTypeData = 0xA5;
 constexpr quint8 kTypePing = 0xA6;

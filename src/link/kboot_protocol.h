@@ -3,8 +3,11 @@
 #include <QByteArray>
 #include <QObject>
 
+#include "link/bootloader_state.h"
+
 /// Deframer of the serial link: a byte-driven state machine that finds framing packets in the stream, checks them and
-/// hands the payload of each good data packet upward. Lives in the port worker's thread; it has no lock.
+/// hands the payload of each good data packet upward; and, in the same packet format, the host's side of the dialogue
+/// with a resident bootloader. Lives in the port worker's thread; it has no lock.
 ///
 /// Framing packet, multi-byte fields little-endian:
 ///
@@ -17,6 +20,15 @@
 ///
 /// Nothing is reported for bad input; the decoder returns to hunting from the byte that follows and never looks at a
 /// rejected packet's bytes again. A packet may be split over any number of reads.
+///
+/// The client waits in nested event loops, in steps of 1 ms, so that the port is read and decoded meanwhile. It never
+/// acknowledges what the target sends, and looks at no status word. A command packet's payload:
+///
+///     offset  width  field
+///     0       1      command tag
+///     1       2      flags and reserved, 0
+///     3       1      number of parameters
+///     4       4 n    parameters, u32
 class KbootProtocol : public QObject
 {
     Q_OBJECT
@@ -49,12 +61,55 @@ public:
     /// A packet that counts as a response (types 0xA4 to 0xA7) has arrived since the flag was last cleared.
     bool responseReceived() const { return m_responseReceived; }
 
+    using QObject::connect;
+    /// Pings the bootloader and reads its facts; an unanswered ping is no fault, a property that is missing or not of 4
+    /// bytes is. Takes up to 3 s when nobody answers.
+    bool connect();
+
+    /// Erases as many bytes as the image has from `startAddress` on, writes the image in packets of the target's
+    /// maximum size, each sent up to `attempts` times, and resets the target. False at the first step that fails.
+    bool download(const QByteArray &image, int startAddress, int attempts);
+
+    /// Ends a connect() or download() that is waiting: it returns false at its next step. For a port that was closed.
+    void cancel() { m_cancelled = true; }
+
+    /// Notes that the port failed before connect() or download() could run.
+    void portFailed(BootloaderStep step);
+
+    /// Sends one command and waits 1500 ms for a response; true when one arrived.
+    bool cmd_packet(unsigned char tag, unsigned char paramCount, const unsigned int *params);
+    /// Value of a property: the response without framing header, command header and status word. Without a response,
+    /// whatever the frame buffer holds.
+    QByteArray cmd_get_property(unsigned char property);
+    bool cmd_flash_erase_region(unsigned int address, unsigned int byteCount);
+    bool cmd_flash_write_memory(unsigned int address, unsigned int byteCount);
+    /// Always true: a target that resets may be too quick to answer.
+    bool cmd_reset();
+    /// Sends one data packet and waits 200 ms for its acknowledge. Payloads of up to 65535 bytes.
+    bool cmd_send_data_packet(const QByteArray &payload);
+
+    /// Sends a packet and waits for a response for at most `waits` steps of 1 ms.
+    bool serial_send_and_wait_resp(const QByteArray &packet, int waits);
+    /// Runs an event loop for `ms` milliseconds.
+    static void delay(unsigned int ms);
+
+    /// Facts as the last connect() read them; how the last connect() or download() went. Other threads may look while
+    /// neither runs.
+    const BootloaderFacts &facts() const { return m_facts; }
+    const BootloaderOutcome &outcome() const { return m_outcome; }
+
 signals:
     /// Payload of one good data packet (type 0xA5) without its header. Emitted from inside decode(), in stream order.
     void kbootRecv(QByteArray payload);
 
     /// Bytes that this object wants written to the port.
     void serialSend(QByteArray data);
+
+    /// The target has acknowledged this share of the image, 0 to 100. After each data packet.
+    void downloadProgress(int percent);
+
+    /// A step begins, or the target has acknowledged this many bytes of the image.
+    void downloadAdvanced(BootloaderStep step, qint64 acknowledgedBytes);
 
 private:
     enum State { Hunting, Type, LengthLow, LengthHigh, CrcLow, CrcHigh, Payload };
@@ -65,9 +120,23 @@ private:
     void finishHeader();
     void finishPacket();
 
+    // client
+    bool connectSteps();
+    bool downloadSteps(const QByteArray &image, int startAddress, int attempts);
+    bool sendChunk(const QByteArray &chunk, int attempts);
+    void begin(BootloaderStep step);
+    bool fail(BootloaderFault fault);
+    void forgetReply();
+    void noteStatus();
+    QByteArray propertyValue(quint8 property);
+
     QByteArray m_rxStaging;
     QByteArray m_frameBuffer;
     int m_decodeState = Hunting;
     int m_expectedLength = 0;
     bool m_responseReceived = false;
+
+    BootloaderFacts m_facts;
+    BootloaderOutcome m_outcome;
+    bool m_cancelled = false;
 };

@@ -10,6 +10,7 @@ namespace {
 constexpr int kSecondMs = 1000;
 constexpr unsigned long kCloseTimeoutMs = 5000;
 constexpr int kLastBytesMs = 200;
+constexpr int kBootloaderWriteMs = 1000;
 
 void moveIfNeeded(QObject *object, QThread *target)
 {
@@ -101,6 +102,11 @@ void KvUartPort::threadStopped()
     }
     m_secondTimer->stop();
     AppLog::logfile(QtInfoMsg, QStringLiteral("uart-thread stopped."));
+    if (m_bootloaderBusy) { // and waits below on this thread's stack
+        m_kboot->cancel();
+        m_moveHomeAfterwards = true;
+        return;
+    }
     moveAllTo(QCoreApplication::instance()->thread());
 }
 
@@ -128,8 +134,10 @@ void KvUartPort::onErrorOccurred(QSerialPort::SerialPortError error)
 {
     // A device that has vanished stays readable and fails at every read, so that an open port would report errors by
     // the thousand. Queued, because the port may not be closed from inside its own notifier.
-    if (isOpen() && (error == QSerialPort::ReadError || error == QSerialPort::ResourceError))
+    if (isOpen() && (error == QSerialPort::ReadError || error == QSerialPort::ResourceError)) {
         close();
+        m_kboot->cancel();
+    }
 }
 
 void KvUartPort::onKbootRecv(const QByteArray &payload)
@@ -150,6 +158,8 @@ void KvUartPort::serialSend(const QByteArray &data)
         const QMutexLocker lock(&m_statsMutex);
         m_txBytes += quint64(written);
     }
+    if (m_bootloaderMode)
+        waitForBytesWritten(kBootloaderWriteMs);
 }
 
 bool KvUartPort::serialSendBlocking(const QByteArray &data, int timeoutMs)
@@ -161,6 +171,7 @@ bool KvUartPort::serialSendBlocking(const QByteArray &data, int timeoutMs)
 void KvUartPort::clear()
 {
     m_kboot->clear();
+    m_bootloaderMode = false;
     const QMutexLocker lock(&m_statsMutex);
     m_lastSecond = {};
     m_txBytes = 0;

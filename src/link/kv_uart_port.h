@@ -5,6 +5,7 @@
 #include <QThread>
 #include <QTimer>
 
+#include <atomic>
 #include <memory>
 
 class KbootProtocol;
@@ -26,6 +27,10 @@ struct LinkStatistics
 /// Whether opening worked arrives as QSerialPort::errorOccurred() and errorOpenPort(). A port whose device vanishes
 /// tells so by errorOccurred() and closes itself; the thread runs on until closeUART(). Signals are emitted in the
 /// worker thread; receivers in the main thread get them queued.
+///
+/// It hosts the bootloader client. A connect or download runs in the worker thread and waits in nested event loops, in
+/// which other queued work may run too; keep the line free of other commands meanwhile. A port that is closed inside
+/// such a wait ends the operation, and closeUART() returns when it has ended.
 class KvUartPort : public QSerialPort
 {
     Q_OBJECT
@@ -47,16 +52,33 @@ public:
     /// Counters of the last whole second. Any thread.
     LinkStatistics statistics() const;
 
+    /// The bootloader client, for its signals; and for its facts and outcome while isBootloaderBusy() is false.
+    const KbootProtocol *kboot() const { return m_kboot.get(); }
+
+    /// A connect or download runs. Any thread.
+    bool isBootloaderBusy() const { return m_bootloaderBusy; }
+
     /// Load in per cent of a line with `bitsPerSecond` and `bitsPerCharacter` that carried `bytes` in a second.
     static quint32 loadPercent(quint64 bytes, int bitsPerSecond, int bitsPerCharacter);
 
 public slots:
-    /// Writes bytes; they count when the port took them. Closed: nothing happens.
+    /// Writes bytes; they count when the port took them. Closed: nothing happens. With a bootloader at the other end,
+    /// waits up to 1 s until the system has taken them all.
     void serialSend(const QByteArray &data);
     /// Writes bytes and waits up to `timeoutMs` until the system has taken them all. Worker thread only.
     bool serialSendBlocking(const QByteArray &data, int timeoutMs);
     /// Resets the deframer and all counters. Worker thread, or any time while closed.
     void clear();
+
+    /// Restarts the device into its bootloader and reads the bootloader's facts. Takes up to 4 s. For a blocking queued
+    /// call. False when the port is closed, when nobody answers and while another operation runs.
+    bool connectBootloader();
+    /// Writes `image` to the connected bootloader's flash from `startAddr` on, each data packet up to `retry` times.
+    /// False when the port is closed, when a step fails and while another operation runs.
+    bool downloadBootloader(const QByteArray &image, int startAddr, int retry);
+    /// The same for a queued call: the result comes by bootloaderDownloadFinished(). While another operation runs the
+    /// call is dropped; that operation's end is what is told.
+    void startDownloadBootloader(const QByteArray &image, int startAddr, int retry);
 
 signals:
     /// Payload of one good data packet, without its framing header.
@@ -65,6 +87,8 @@ signals:
     void serialRecv(QByteArray data);
     /// The port could not be opened; errorOccurred() has told why.
     void errorOpenPort();
+    /// How startDownloadBootloader() ended.
+    void bootloaderDownloadFinished(bool success);
 
 private slots:
     void threadStarted();
@@ -77,13 +101,18 @@ private slots:
 private:
     void stopInWorker();
     void moveAllTo(QThread *target);
+    bool beginBootloader();
+    void endBootloader();
 
     std::unique_ptr<KbootProtocol> m_kboot;
     std::unique_ptr<QTimer> m_secondTimer;
     std::unique_ptr<QThread> m_workerThread;
     QString m_portName;
     int m_baudRate = 0;
-    bool m_startPending = false; ///< openUART() has asked for a start that has not run yet
+    bool m_startPending = false;                ///< openUART() has asked for a start that has not run yet
+    bool m_bootloaderMode = false;              ///< connected to a bootloader, or trying to
+    bool m_moveHomeAfterwards = false;          ///< the thread was stopped inside a wait of the bootloader client
+    std::atomic<bool> m_bootloaderBusy = false; ///< orders what the client has written before other threads' looks
 
     mutable QMutex m_statsMutex; ///< guards all below
     LinkStatistics m_lastSecond;
