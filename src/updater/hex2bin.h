@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QByteArray>
+#include <QTextStream>
+
+/// Loader of firmware images in Intel HEX: text lines of hexadecimal digits behind a colon, in bytes
+///
+///     offset  width  field
+///     0       1      n, number of data bytes
+///     1       2      address, big-endian
+///     3       1      type: 0 data, 1 end of file, 2 segment address, 4 upper 16 bits of the address
+///     4       n      data
+///     4 + n   1      two's complement of the sum of all bytes before
+///
+/// The state is the program's, not an object's: main thread only.
+namespace hex2bin {
+
+/// Most that an image may hold, gaps included.
+constexpr qint64 kMaxImageSize = qint64(64) * 1024 * 1024;
+
+/// Converts a file into one contiguous image. Characters that are no hexadecimal digits are passed over; a line without
+/// any, the end of the input and every record of a type other than 0, 2 and 4 end the conversion. Gaps are filled with
+/// the character "0". A segment address counts four bytes per unit.
+///
+/// Empty, with a line in the application log, when a checksum is wrong, a line holds less than its record, records run
+/// backwards or beyond 32 bits, or the image would be larger than kMaxImageSize.
+QByteArray convert(QTextStream &in);
+
+/// Load address of the first image that this run of the program has converted, for all images; 0xFFFFFFFF before.
+unsigned int start_addr();
+
+/// The same conversion for looking only: start_addr() stays as it is.
+QByteArray preview(QTextStream &in);
+
+/// Address of the first data record of the last conversion or preview; 0xFFFFFFFF without one.
+unsigned int first_data_addr();
+
+} // namespace hex2bin

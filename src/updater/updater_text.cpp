@@ -1,0 +1,175 @@
+#include "updater/updater_text.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+#include <QStringList>
+
+namespace {
+
+constexpr qint64 kJudgeableMs = 200;
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(form_updater)
+};
+
+QString grouped(qint64 number)
+{
+    return QLocale().toString(number);
+}
+
+QString decimal(double number)
+{
+    return QLocale().toString(number, 'f', 1);
+}
+
+bool isConnectStep(BootloaderStep step)
+{
+    return step <= BootloaderStep::Properties;
+}
+
+QString cause(const BootloaderOutcome &outcome)
+{
+    switch (outcome.fault) {
+    case BootloaderFault::PortClosed:
+        if (outcome.step <= BootloaderStep::Restart)
+            return Text::tr("The serial port is closed or takes no data.");
+        return Text::tr("The connection to the device was lost.");
+    case BootloaderFault::WrongAnswer:
+        return Text::tr("The device answered, but not as its bootloader does.");
+    case BootloaderFault::Refused:
+        return Text::tr("The bootloader refused a packet.");
+    case BootloaderFault::Aborted:
+        return Text::tr("The bootloader aborted the transfer.");
+    default:
+        break;
+    }
+    switch (outcome.step) {
+    case BootloaderStep::Erase:
+        return Text::tr("The bootloader did not answer the erase command within 1.5 s.");
+    case BootloaderStep::Write:
+        return Text::tr("The bootloader did not answer the write command within 1.5 s.");
+    case BootloaderStep::Data:
+        return Text::tr("The bootloader did not acknowledge a packet.");
+    default:
+        return Text::tr("No bootloader answered.");
+    }
+}
+
+QString deviceState(const BootloaderOutcome &outcome, qint64 total)
+{
+    switch (outcome.step) {
+    case BootloaderStep::Erase:
+        return Text::tr("The flash may be partly erased: the firmware may not start any more.");
+    case BootloaderStep::Write:
+        return Text::tr("The flash is erased: the device has no firmware now.");
+    case BootloaderStep::Data:
+        return Text::tr("%1 of %2 bytes were written: the firmware is incomplete and cannot start.")
+            .arg(grouped(outcome.acknowledgedBytes), grouped(total));
+    default:
+        return Text::tr("Nothing was written: the firmware of the device is as it was.");
+    }
+}
+
+QString nextStep(const BootloaderOutcome &outcome)
+{
+    if (outcome.fault == BootloaderFault::PortClosed)
+        return Text::tr("Check the cable, open the port again and press Connect.");
+    if (isConnectStep(outcome.step))
+        return Text::tr("Check power, port and baud rate, then press Connect again.");
+    return Text::tr("The bootloader stays in the device: press Connect, then Download.");
+}
+
+} // namespace
+
+QString updater_text::step(BootloaderStep step)
+{
+    switch (step) {
+    case BootloaderStep::Idle:
+        return {};
+    case BootloaderStep::Restart:
+    case BootloaderStep::Ping:
+    case BootloaderStep::Properties:
+        return Text::tr("Connecting to the bootloader...");
+    case BootloaderStep::Erase:
+        return Text::tr("Erasing the flash...");
+    case BootloaderStep::Write:
+        return Text::tr("Preparing to write...");
+    case BootloaderStep::Data:
+        return Text::tr("Writing the image...");
+    case BootloaderStep::Reset:
+        return Text::tr("Restarting the device...");
+    }
+    return {};
+}
+
+QString updater_text::connectFailure(const BootloaderOutcome &outcome)
+{
+    return QStringList{cause(outcome), deviceState(outcome, 0), nextStep(outcome)}.join(u' ');
+}
+
+QString updater_text::downloadFailure(const BootloaderOutcome &outcome, qint64 total, int packetSize)
+{
+    QStringList sentences{cause(outcome), deviceState(outcome, total), nextStep(outcome)};
+    if (outcome.fault == BootloaderFault::PacketSize)
+        sentences[0] = Text::tr("The bootloader takes no data: it reports packets of %1 bytes.").arg(packetSize);
+    if (outcome.targetStatus != 0)
+        sentences.insert(1, Text::tr("It had reported status %1 before.").arg(outcome.targetStatus));
+    return sentences.join(u' ');
+}
+
+QString updater_text::downloadSuccess(const BootloaderOutcome &outcome, qint64 elapsedMs)
+{
+    return Text::tr("%1 bytes were written in %2 s, %3 of %4 packets were sent again. The device restarts with the new "
+                    "firmware.")
+        .arg(grouped(outcome.acknowledgedBytes), decimal(double(elapsedMs) / 1000.0), grouped(outcome.repeatedPackets),
+             grouped(outcome.sentPackets));
+}
+
+QString updater_text::transfer(qint64 done, qint64 total, qint64 elapsedMs)
+{
+    QString text = Text::tr("%1 of %2 bytes").arg(grouped(done), grouped(total));
+    if (done <= 0 || elapsedMs < kJudgeableMs)
+        return text;
+    const double bytesPerMs = double(done) / double(elapsedMs);
+    const auto secondsLeft = qint64(double(total - done) / bytesPerMs / 1000.0 + 0.999);
+    return Text::tr("%1 · %2 KB/s · %3 s left").arg(text, decimal(bytesPerMs), grouped(secondsLeft));
+}
+
+QString updater_text::facts(const BootloaderFacts &facts)
+{
+    return Text::tr("Bootloader %1, %2 KB of flash in sectors of %3 bytes, packets of up to %4 bytes, chip %5")
+        .arg(QStringLiteral("%1.%2.%3").arg(facts.versionMajor).arg(facts.versionMinor).arg(facts.versionBugfix),
+             grouped(facts.flashSizeKb), grouped(facts.sectorSize), grouped(facts.maxPacketSize), facts.deviceId);
+}
+
+QString updater_text::image(const QByteArray &image, quint32 loadAddress)
+{
+    const auto [stackPointer, resetVector] = image_check::vectors(image);
+    return Text::tr("%1 bytes from %2, stack pointer %3, reset vector %4")
+        .arg(grouped(image.size()), address(loadAddress), address(stackPointer), address(resetVector));
+}
+
+QString updater_text::doubt(image_check::Doubt doubt, quint32 fileAddress, quint32 loadAddress, int flashSizeKb)
+{
+    switch (doubt) {
+    case image_check::Doubt::OtherAddress:
+        return Text::tr("The file begins at %1, but it will be written to %2, where the first file of this run began. "
+                        "Restart the program to write it to its own address.")
+            .arg(address(fileAddress), address(loadAddress));
+    case image_check::Doubt::TooLarge:
+        return Text::tr("The image does not fit the %1 KB of flash from this address on.").arg(grouped(flashSizeKb));
+    case image_check::Doubt::StackPointer:
+        return Text::tr("The stack pointer does not point into RAM.");
+    case image_check::Doubt::ResetVector:
+        return Text::tr("The reset vector does not point into the image.");
+    case image_check::Doubt::TooSmall:
+        return Text::tr("The image is very small for a firmware.");
+    }
+    return {};
+}
+
+QString updater_text::address(quint32 address)
+{
+    return QStringLiteral("0x%1").arg(address, 8, 16, QLatin1Char('0'));
+}

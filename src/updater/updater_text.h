@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QString>
+
+#include "link/bootloader_state.h"
+#include "updater/image_check.h"
+
+/// Sentences of the firmware update for people.
+namespace updater_text {
+
+/// "Erasing the flash..."
+QString step(BootloaderStep step);
+
+/// Why a connect failed, what state the device is in and what to do next.
+QString connectFailure(const BootloaderOutcome &outcome);
+
+/// The same of a download of `total` bytes to a target with packets of `packetSize` bytes.
+QString downloadFailure(const BootloaderOutcome &outcome, qint64 total, int packetSize);
+
+/// What a download that took `elapsedMs` did.
+QString downloadSuccess(const BootloaderOutcome &outcome, qint64 elapsedMs);
+
+/// "8,192 of 65,536 bytes · 40.0 KB/s · 2 s left"; rate and rest only when there is something to judge by.
+QString transfer(qint64 done, qint64 total, qint64 elapsedMs);
+
+/// "Bootloader 2.1.3, 128 KB of flash in sectors of 1,024 bytes, packets of up to 32 bytes, chip 0ab1c2d3"
+QString facts(const BootloaderFacts &facts);
+
+/// "65,536 bytes from 0x08000000, stack pointer 0x20004000, reset vector 0x080000c1"
+QString image(const QByteArray &image, quint32 loadAddress);
+
+QString doubt(image_check::Doubt doubt, quint32 fileAddress, quint32 loadAddress, int flashSizeKb);
+
+/// "0x0800a000"
+QString address(quint32 address);
+
+} // namespace updater_text
