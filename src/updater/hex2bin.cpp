@@ -33,7 +33,10 @@ bool isRecord(const QByteArray &bytes)
     quint8 sum = 0;
     for (qsizetype i = 0; i < bytes.size() - 1; ++i)
         sum = quint8(sum + quint8(bytes.at(i)));
-    return quint8(-sum) == quint8(bytes.at(kDataOffset + count));
+    // An address record may be padded in front of its checksum; in a data record surplus bytes would be lost.
+    const auto checksum = char(-sum);
+    return checksum == bytes.at(kDataOffset + count)
+           || (quint8(bytes.at(3)) != kDataRecord && checksum == bytes.back());
 }
 
 LineResult appendData(const QByteArray &record, QByteArray &image)

@@ -1,0 +1,217 @@
+#include <QDir>
+#include <QFile>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "support/real_firmware.h"
+#include "updater/hex2bin.h"
+
+namespace {
+
+constexpr unsigned int kNone = 0xFFFFFFFF;
+const char *const kEnd = ":00000001FF\r\n";
+
+QByteArray record(quint8 type, quint16 address, const QByteArray &data)
+{
+    QByteArray bytes;
+    bytes.append(char(data.size())).append(char(address >> 8)).append(char(address)).append(char(type)).append(data);
+    quint8 sum = 0;
+    for (const char byte : bytes)
+        sum = quint8(sum + quint8(byte));
+    return ':' + bytes.append(char(-sum)).toHex().toUpper() + "\r\n";
+}
+
+QByteArray data(quint16 address, const QByteArray &bytes)
+{
+    return record(0, address, bytes);
+}
+
+QByteArray convert(const QByteArray &file)
+{
+    QTextStream in(file);
+    return hex2bin::convert(in);
+}
+
+/// Lines of the application log since the last call.
+QByteArray logged()
+{
+    QFile file(QStringLiteral("debug.log"));
+    const QByteArray lines = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    file.remove();
+    return lines;
+}
+
+} // namespace
+
+class TestHex2Bin : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY(QDir::setCurrent(m_folder.path()));
+        // The load address is the program's first, looks and failures aside; so this comes first.
+        QCOMPARE(hex2bin::start_addr(), kNone);
+        QCOMPARE(convert(kEnd), QByteArray());
+        QTextStream looked(QByteArray(":020000040800F2\n") + data(0x20, "abcd"));
+        QCOMPARE(hex2bin::preview(looked), QByteArray("abcd"));
+        QCOMPARE(hex2bin::first_data_addr(), 0x08000020U);
+        QCOMPARE(hex2bin::start_addr(), kNone);
+        QCOMPARE(convert(QByteArray(":020000040800F2\n") + data(0, "abcd")), QByteArray("abcd"));
+        QCOMPARE(hex2bin::start_addr(), 0x08000000U);
+    }
+    void init() { logged(); }
+
+    void images_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<QByteArray>("image");
+        QTest::addColumn<unsigned int>("address");
+        QTest::addColumn<int>("skipped"); // 0: nothing
+        const QByteArray sixteen = "0123456789ABCDEF";
+        const auto row = [](const char *name) -> QTestData & { return QTest::newRow(name); };
+        row("linear address") << ":020000041000EA\n" + data(0xC0, "ab") << QByteArray("ab") << 0x100000C0U << 0;
+        row("segment address, padded") << ":02000002100000EC\n" + data(8, "ab") << QByteArray("ab") << 0x4008U << 0;
+        row("segment address") << record(2, 0, QByteArray("\x10\0", 2)) + data(8, "ab") << QByteArray("ab") << 0x4008U
+                               << 0;
+        row("segment behind linear") << ":020000040800F2\n:02000002100000EC\n" + data(0, "ab") << QByteArray("ab")
+                                     << 0x4000U << 0;
+        row("linear behind segment") << ":02000002100000EC\n:020000040800F2\n" + data(0, "ab") << QByteArray("ab")
+                                     << 0x08000000U << 0;
+        row("gap") << data(0, sixteen) + data(0x20, sixteen) + kEnd << sixteen + QByteArray(16, '0') + sixteen << 0U
+                   << 16;
+        row("over the 64 KiB border") << data(0xFFFE, "ab") + ":020000040001F9\n" + data(0, "cd") << QByteArray("abcd")
+                                      << 0xFFFEU << 0;
+        row("no end record") << data(4, "ab") << QByteArray("ab") << 4U << 0;
+        row("no line end") << data(4, "ab").trimmed() << QByteArray("ab") << 4U << 0;
+        row("lower case, byte-order mark")
+            << "\xEF\xBB\xBF" + data(4, "\xAB\xCD").toLower() << QByteArray("\xAB\xCD") << 4U << 0;
+        row("blank line ends") << data(4, "ab") + "\r\n" + data(6, "cd") << QByteArray("ab") << 4U << 0;
+        row("words end") << data(4, "ab") + "xyz --\n" + data(6, "cd") << QByteArray("ab") << 4U << 0;
+        row("start address ends") << data(4, "ab") + record(5, 0, "abcd") + data(6, "cd") << QByteArray("ab") << 4U
+                                  << 0;
+        row("255 bytes") << data(0, QByteArray(255, 'x')) + data(255, "y") << QByteArray(255, 'x') + "y" << 0U << 0;
+        row("no bytes") << data(4, {}) + data(4, "ab") << QByteArray("ab") << 4U << 0;
+        row("empty") << QByteArray() << QByteArray() << kNone << 0;
+    }
+    void images()
+    {
+        QFETCH(QByteArray, file);
+        QFETCH(int, skipped);
+        QTEST(convert(file), "image");
+        QTEST(hex2bin::first_data_addr(), "address");
+        const QByteArray log = logged();
+        QCOMPARE(log.count('\n'), skipped > 0 ? 1 : 0);
+        QVERIFY(skipped == 0 || log.contains("hex2bin, Bytesskipped=" + QByteArray::number(skipped) + "\r\n"));
+        QCOMPARE(hex2bin::start_addr(), 0x08000000U);
+    }
+
+    void refused_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<QByteArray>("line");
+        const QByteArray good = data(0, "abcd");
+        const QByteArray high = ":020000041000EA\n";
+        const QByteArray failed = "hex2bin, read_hex_line failed\r\n";
+        const auto row = [](const char *name) -> QTestData & { return QTest::newRow(name); };
+        row("one digit") << good + ":1\n" << failed;
+        row("count beyond the line") << good + ":10000400616263\n" << failed;
+        row("line beyond the count") << good + data(4, "ab").trimmed() + "00\n" << failed;
+        row("address record without address")
+            << record(4, 0, "x") + good << QByteArray("hex2bin, address record without an address");
+        row("backwards") << data(8, "abcd") + good << QByteArray("hex2bin, records run backwards: 0x00000000");
+        row("overlapping by one") << good + data(3, "ab") << QByteArray("backwards: 0x00000003 behind 0x00000004");
+        row("256 MiB behind the program")
+            << good + high + data(0x10C0, "ab") << QByteArray("hex2bin, image too large at 0x100010c0, gap=268439740");
+        row("end of the address space") << record(4, 0, "\xFF\xFF") + data(0xFFFE, "ab")
+                                        << QByteArray("hex2bin, record beyond the address space");
+        row("binary") << QByteArray("\x7F"
+                                    "ELF\x02\x01\0\0\xFF",
+                                    9)
+                      << failed;
+        row("no line ends") << QByteArray(100000, '\0') << failed;
+    }
+    void refused()
+    {
+        QFETCH(QByteArray, file);
+        QFETCH(QByteArray, line);
+        QCOMPARE(convert(file), QByteArray());
+        QVERIFY2(logged().contains(line), line);
+    }
+
+    void everyChangedDigitOfARecord()
+    {
+        const QByteArray good = data(0x1234, "a real record!");
+        for (qsizetype at = 1; at < good.size() - 2; ++at) {
+            for (const char digit : {'0', '7', 'F'}) {
+                QByteArray changed = good;
+                changed[at] = digit;
+                if (digit != good.at(at))
+                    QCOMPARE(convert(changed), QByteArray());
+            }
+        }
+    }
+
+    void anythingIsSurvived()
+    {
+        QRandomGenerator random(7);
+        for (int round = 0; round < 3000; ++round) {
+            QByteArray file;
+            for (int i = 0; i < 8; ++i) {
+                const QByteArray bytes(int(random.bounded(20)), char(random.bounded(256)));
+                file += record(quint8(random.bounded(6)), quint16(random.generate()), bytes);
+                if (random.bounded(4) == 0)
+                    file[random.bounded(int(file.size()))] = char(random.bounded(256));
+            }
+            QVERIFY(convert(file).size() <= hex2bin::kMaxImageSize);
+            if (round % 100 == 0)
+                logged();
+        }
+    }
+
+    void gapsOfALargeFileDoNotFloodTheLog()
+    {
+        QByteArray file;
+        for (int i = 0; i < 0xFFFF; i += 2)
+            file += data(quint16(i), "a");
+        QCOMPARE(convert(file).size(), 0xFFFF);
+        QCOMPARE(logged().count('\n'), 1000);
+    }
+
+    // Another program's conversion of a real firmware, where both follow the same rules.
+    void realFirmware_data()
+    {
+        QTest::addColumn<QByteArray>("options");
+        QTest::newRow("as it is") << QByteArray();
+        QTest::newRow("short records") << QByteArray("-Output_Block_Size 7");
+        QTest::newRow("long records") << QByteArray("-Output_Block_Size 255");
+        QTest::newRow("gaps") << QByteArray("-exclude 0x1001 0x1FF0 -exclude 0x20000 0x30123");
+    }
+    void realFirmware()
+    {
+        if (real_firmware::path().isEmpty())
+            QSKIP(real_firmware::kMissing);
+        QFETCH(QByteArray, options);
+        const QByteArray file = real_firmware::convert(options, "-intel");
+        QTextStream measure(file);
+        const QByteArray size = QByteArray::number(hex2bin::preview(measure).size());
+        const QByteArray fill = options.contains("exclude") ? options + " -fill 0x30 0 " + size : QByteArray();
+        const QByteArray expected = real_firmware::convert(fill, "-binary");
+        QVERIFY(expected.size() > 100000);
+        QCOMPARE(convert(file), expected);
+
+        QFile whole(real_firmware::path()); // with records that configure the chip, far behind the program
+        QVERIFY(whole.open(QIODevice::ReadOnly));
+        logged();
+        QCOMPARE(convert(whole.readAll()), QByteArray());
+        QVERIFY(logged().contains("hex2bin, image too large at 0x100010c0"));
+    }
+
+private:
+    QTemporaryDir m_folder; ///< for the application log
+};
+
+QTEST_GUILESS_MAIN(TestHex2Bin)
+#include "tst_hex2bin.moc"
