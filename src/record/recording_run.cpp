@@ -6,6 +6,13 @@ RecordingRun::RecordingRun(const QString &basePath) : m_writer(std::make_unique<
         return;
     m_thread.setObjectName(QStringLiteral("CsvWriter"));
     m_writer->moveToThread(&m_thread);
+    // Behind the event loop's end but still in the thread: nothing can overtake the last records.
+    const auto finish = [this] {
+        m_writer->flushPendingAndClose();
+        m_isRunning = false;
+    };
+    QObject::connect(&m_thread, &QThread::finished, m_writer.get(), finish, Qt::DirectConnection);
+    m_isRunning = true;
     m_thread.start();
 }
 
@@ -16,13 +23,7 @@ RecordingRun::~RecordingRun()
 
 void RecordingRun::stop()
 {
-    if (!m_thread.isRunning())
-        return;
-    // Asked for in the writer's own thread: quit() from here could overtake the last records.
-    const auto finish = [this] {
-        m_writer->flushPendingAndClose();
-        m_thread.quit();
-    };
-    QMetaObject::invokeMethod(m_writer.get(), finish, Qt::QueuedConnection);
-    m_thread.wait();
+    m_thread.quit();
+    while (m_isRunning)
+        m_thread.wait();
 }

@@ -2,6 +2,7 @@
 
 #include <QThread>
 
+#include <atomic>
 #include <memory>
 
 #include "record/csv_writer.h"
@@ -20,12 +21,13 @@ public:
     ~RecordingRun();
 
     CsvWriter &writer() const { return *m_writer; }
-    bool isRunning() const { return m_thread.isRunning(); }
+    bool isRunning() const { return m_isRunning; }
 
     /// Waits until everything queued is written, the file closed and the thread ended. Nothing when it has ended.
     void stop();
 
 private:
     std::unique_ptr<CsvWriter> m_writer;
+    std::atomic<bool> m_isRunning = false; ///< cleared in the writer's thread, after all that it does
     QThread m_thread;
 };

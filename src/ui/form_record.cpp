@@ -385,7 +385,7 @@ QString form_record::spaceText() const
 {
     if (m_freeBytes < 0)
         return value_format::absent();
-    const QString space = recording_target::sizeText(m_freeBytes);
+    QString space = recording_target::sizeText(m_freeBytes);
     if (!m_isRecording || m_bytesPerSecond < 1)
         return space;
     const double minutes = double(m_freeBytes) / m_bytesPerSecond / 60;
