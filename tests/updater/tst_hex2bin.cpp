@@ -4,6 +4,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "support/hex_file.h"
 #include "support/real_firmware.h"
 #include "updater/hex2bin.h"
 
@@ -12,15 +13,7 @@ namespace {
 constexpr unsigned int kNone = 0xFFFFFFFF;
 const char *const kEnd = ":00000001FF\r\n";
 
-QByteArray record(quint8 type, quint16 address, const QByteArray &data)
-{
-    QByteArray bytes;
-    bytes.append(char(data.size())).append(char(address >> 8)).append(char(address)).append(char(type)).append(data);
-    quint8 sum = 0;
-    for (const char byte : bytes)
-        sum = quint8(sum + quint8(byte));
-    return ':' + bytes.append(char(-sum)).toHex().toUpper() + "\r\n";
-}
+using hex_file::record;
 
 QByteArray data(quint16 address, const QByteArray &bytes)
 {

@@ -1,0 +1,400 @@
+#include <QApplication>
+#include <QClipboard>
+#include <QDir>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSettings>
+#include <QtTest>
+
+#include "app/settings_keys.h"
+#include "app/theme.h"
+#include "link/kboot_protocol.h"
+#include "link/kv_uart_port.h"
+#include "support/hex_file.h"
+#include "support/real_firmware.h"
+#include "support/simulator_process.h"
+#include "updater/form_updater.h"
+
+namespace {
+
+constexpr int kDownloadMs = 30000;
+
+/// A plausible image for address 0: stack in RAM, reset vector inside.
+QByteArray goodImage(int size)
+{
+    QByteArray image = QByteArray::fromHex("00400020C1000000");
+    for (int i = int(image.size()); i < size; ++i)
+        image.append(char(i * 7 + i / 256));
+    return image;
+}
+
+void write(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+}
+
+/// The dialog on the screen, with a simulated device on an open port.
+struct Bench
+{
+    SimulatorProcess device;
+    KvUartPort port;
+    form_updater dialog;
+
+    explicit Bench(const QByteArray &hexFile, const QStringList &options = {}) : device(options)
+    {
+        write(QDir::current().filePath(QStringLiteral("firmware.hex")), hexFile);
+        dialog.set_serial_instance(&port);
+        open();
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        QApplication::setActiveWindow(&dialog); // there may be no window manager to do it
+    }
+    ~Bench() { port.closeUART(); }
+
+    void open()
+    {
+        port.openUART(device.port(), 921600);
+        QTRY_VERIFY(port.isOpen());
+        dialog.set_connection_open(true);
+    }
+    template <typename T> T *child(const char *name) const { return dialog.findChild<T *>(QLatin1String(name)); }
+    QPushButton *button(const char *name) const { return child<QPushButton>(name); }
+    void press(const char *name) const { QTest::mouseClick(button(name), Qt::LeftButton); }
+    /// Presses a button and returns what that has logged.
+    QString logOf(const char *name) const
+    {
+        child<QPlainTextEdit>("PTE_log")->clear();
+        press(name);
+        return log();
+    }
+    QString log() const { return child<QPlainTextEdit>("PTE_log")->toPlainText(); }
+    QString label(const char *name) const
+    {
+        return child<QLabel>(name)->isHidden() ? QString() : child<QLabel>(name)->text();
+    }
+    /// Connects and downloads; true when complete.
+    bool update()
+    {
+        press("BTN_connect");
+        press("BTN_download");
+        return QTest::qWaitFor([this] { return !dialog.isDownloadRunning(); }, kDownloadMs)
+               && log().endsWith(QLatin1String("Update complete, image running...\n"));
+    }
+    /// The device's flash from its first address on.
+    QByteArray flash(qsizetype size)
+    {
+        const QString path = QDir::current().filePath(QStringLiteral("flash.bin"));
+        QFile file(path);
+        if (!device.control(("flash dump " + path.toLocal8Bit()).constData()) || !file.open(QIODevice::ReadOnly))
+            return {};
+        return file.read(size);
+    }
+};
+
+} // namespace
+
+class TestFormUpdater : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY(QDir::setCurrent(m_folder.path()));
+        qApp->setPalette(theme::palette());
+        qApp->setStyleSheet(theme::styleSheet());
+    }
+    void init() { QFile::remove(QStringLiteral("param.ini")); }
+
+    // First, so that its load address is the one of this run.
+    void realFirmware()
+    {
+        if (real_firmware::path().isEmpty())
+            QSKIP(real_firmware::kMissing);
+        const QByteArray image = real_firmware::convert("", "-binary");
+        QVERIFY(image.size() > 200000);
+        for (const char *share : {"0", "1", "5"}) {
+            Bench bench(real_firmware::convert("", "-intel"),
+                        {QStringLiteral("--packet-size"), QStringLiteral("1024")});
+            QVERIFY(bench.device.control(QByteArray("bootloader nak-share ").append(share).constData()));
+            QCOMPARE(bench.label("LBL_doubts"), QString());
+            // A packet is sent twice: where one in twenty is refused, some download meets one that is refused twice.
+            int tries = 1;
+            while (!bench.update() && tries < 20)
+                ++tries;
+            QVERIFY2(tries == 1 || *share != '0', share);
+            QVERIFY(
+                bench.log().contains(QStringLiteral("SIZE:%1 bytes\nSP:0x20004000\nPC:0x0001ccd9\n").arg(image.size()))
+                || qEnvironmentVariableIsSet("KV_FIRMWARE_HEX"));
+            QVERIFY(bench.flash(image.size()) == image);
+            QCOMPARE(bench.device.stat("bootloader"), 0);
+            QVERIFY((bench.device.stat("refused") > 0) == (*share != '0'));
+            qInfo("%s %% refused: equal after %d downloads", share, tries);
+        }
+    }
+
+    void withoutAPath()
+    {
+        form_updater dialog;
+        dialog.on_BTN_download_clicked();
+        QCOMPARE(dialog.findChild<QPlainTextEdit *>()->toPlainText(),
+                 QStringLiteral("\n--- Loading HEX file ---\nNo file selected\nNO IMAGE\n"));
+        dialog.on_BTN_connect_clicked(); // no port at all
+        QVERIFY(!dialog.isBootloaderConnected());
+    }
+
+    void remembersThePath()
+    {
+        const QString path = QDir::current().filePath(QStringLiteral("firmware.hex"));
+        const QString other = QDir::current().filePath(QStringLiteral("Gerät.hex"));
+        QSettings settings(settings_keys::kFile, QSettings::IniFormat);
+        settings.setValue(settings_keys::kUpdaterPath, QStringLiteral("/gone/image.hex"));
+        settings.sync();
+        Bench bench(hex_file::file(goodImage(2000), 0));
+        QCOMPARE(bench.log(), QStringLiteral("PATH: %1\n").arg(path));
+        settings.sync();
+        QCOMPARE(settings.value(QStringLiteral("UPDATER/PATH")).toString(), path);
+        write(other, hex_file::file(goodImage(3000), 0));
+        settings.setValue(settings_keys::kUpdaterPath, other);
+        settings.sync();
+        bench.dialog.hide();
+        bench.dialog.show();
+        QVERIFY(bench.log().endsWith(QStringLiteral("PATH: %1\n").arg(other)));
+        QVERIFY(bench.logOf("BTN_download").isEmpty()); // it is disabled: nothing is connected
+        bench.dialog.on_BTN_download_clicked();
+        QCOMPARE(bench.log(),
+                 QStringLiteral("\n--- Loading HEX file ---\nSIZE:3000 bytes\nSP:0x20004000\nPC:0x000000c1\n"
+                                "ADDR:0x00000000\nNot connected to bootloader\n"));
+        QVERIFY(!bench.button("BTN_download")->isEnabled());
+    }
+
+    void wholeUpdate()
+    {
+        const QByteArray image = goodImage(20000);
+        Bench bench(hex_file::file(image, 0), {QStringLiteral("--flash-size"), QStringLiteral("64")});
+        QSignalSpy running(&bench.dialog, &form_updater::downloadRunningChanged);
+        QSignalSpy connected(&bench.dialog, &form_updater::bootloaderConnectedChanged);
+        const QString facts = bench.logOf("BTN_connect");
+        QVERIFY2(facts.startsWith(QStringLiteral("\n--- Connecting to bootloader ---\nConnect OK\nPKT SIZE:32\n"
+                                                 "FLASH SIZE:64KB\nSDID:")),
+                 qPrintable(facts));
+        QVERIFY(facts.endsWith(QStringLiteral("SECTOR:2048\n\nReady to download firmware.\n")));
+        QCOMPARE(bench.button("BTN_connect")->text(), QStringLiteral("Connected"));
+        QCOMPARE(bench.button("BTN_connect")->styleSheet(), QStringLiteral("background-color: #90EE90;"));
+        QVERIFY(bench.button("BTN_download")->hasFocus());
+
+        QList<int> percents;
+        const auto *bar = bench.child<QProgressBar>("PB_progress");
+        connect(bar, &QProgressBar::valueChanged, this, [&percents](int value) { percents.append(value); });
+        bench.press("BTN_download");
+        bench.press("BTN_download"); // two quick clicks
+        QVERIFY(bench.dialog.isDownloadRunning());
+        for (const char *name : {"BTN_open_file", "BTN_connect", "BTN_download", "BTN_close"})
+            QVERIFY2(!bench.button(name)->isEnabled() && !bench.button(name)->toolTip().isEmpty(), name);
+        bench.dialog.close(); // the window manager's way
+        QTest::keyClick(&bench.dialog, Qt::Key_Escape);
+        QVERIFY(bench.dialog.isVisible());
+        QVERIFY(bench.label("LBL_status").contains(QStringLiteral("has to end first")));
+        QTRY_VERIFY_WITH_TIMEOUT(!bench.dialog.isDownloadRunning(), kDownloadMs);
+        QVERIFY(
+            bench.log().endsWith(QStringLiteral("\n--- Starting download ---\nUpdate complete, image running...\n")));
+        QVERIFY(percents.size() > 50 && std::is_sorted(percents.begin(), percents.end()));
+        QCOMPARE(bar->value(), 100);
+        QVERIFY(bench.flash(image.size()) == image);
+        QCOMPARE(bench.device.stat("packets"), 625);
+        QCOMPARE(running, (QList<QVariantList>{{true}, {false}}));
+        QCOMPARE(connected, (QList<QVariantList>{{true}, {false}}));
+        QCOMPARE(bench.button("BTN_connect")->text(), QStringLiteral("Connect"));
+        QVERIFY(bench.button("BTN_connect")->styleSheet().isEmpty());
+        QVERIFY(!bench.button("BTN_download")->isEnabled());
+        bench.press("BTN_copy");
+        const QString report = QGuiApplication::clipboard()->text();
+        QVERIFY(report.contains(bench.log()) && report.contains(QStringLiteral("firmware.hex"))
+                && report.contains(bench.label("LBL_status")));
+        bench.dialog.close();
+        QVERIFY(!bench.dialog.isVisible());
+    }
+
+    // What is pressed while the window waits for the connect is dropped.
+    void impatientClicks()
+    {
+        Bench bench(hex_file::file(goodImage(2000), 0));
+        const auto post = [&](const char *name) {
+            const QPointF at(8, 8);
+            for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
+                QCoreApplication::postEvent(
+                    bench.button(name), new QMouseEvent(type, at, at, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier));
+        };
+        connect(
+            bench.port.kboot(), &KbootProtocol::downloadAdvanced, &bench.port,
+            [&](BootloaderStep step) {
+                if (step == BootloaderStep::Ping) {
+                    post("BTN_connect");
+                    post("BTN_download");
+                }
+            },
+            Qt::DirectConnection);
+        bench.press("BTN_connect");
+        QCoreApplication::processEvents();
+        QCOMPARE(bench.log().count(QStringLiteral("--- Connecting")), 1);
+        QVERIFY(bench.dialog.isBootloaderConnected() && !bench.dialog.isDownloadRunning());
+    }
+
+    void faults_data()
+    {
+        QTest::addColumn<QByteArray>("control");
+        QTest::addColumn<int>("ends"); // 0 complete, 1 connect fails, 2 download fails
+        QTest::addColumn<QString>("state");
+        QTest::addColumn<QByteArray>("remedy");
+        const QString unchanged = QStringLiteral("Nothing was written");
+        const QString incomplete = QStringLiteral("of 5,000 bytes were written: the firmware is incomplete");
+        const auto row = [](const char *control) -> QTestData & {
+            return QTest::newRow(control) << QByteArray(control);
+        };
+        row("bootloader mute-ping on") << 0 << QString() << QByteArray();
+        row("bootloader property-bytes 3") << 1 << unchanged << QByteArray("bootloader property-bytes 4");
+        row("bootloader property-bytes 5") << 1 << unchanged << QByteArray("bootloader property-bytes 4");
+        row("silent on") << 1 << unchanged << QByteArray("silent off");
+        row("deaf on") << 1 << unchanged << QByteArray("deaf off");
+        row("bootloader nak 1") << 0 << QString() << QByteArray();
+        row("bootloader nak 157") << 0 << QString() << QByteArray();
+        row("bootloader nak 1:2") << 2 << QStringLiteral("refused a packet. 0 ") + incomplete << QByteArray();
+        row("bootloader nak 157:2") << 2 << QStringLiteral("4,992 ") + incomplete << QByteArray();
+        row("bootloader abort 3:2") << 2 << QStringLiteral("aborted the transfer. 64 ") + incomplete << QByteArray();
+        row("bootloader ignore 9") << 0 << QString() << QByteArray();
+        row("bootloader ignore 9:2") << 2 << QStringLiteral("256 ") + incomplete << QByteArray();
+        row("bootloader erase-ms 1400") << 0 << QString() << QByteArray();
+        row("bootloader erase-ms 2500") << 2 << QStringLiteral("may be partly erased")
+                                        << QByteArray("bootloader erase-ms 0");
+        row("bootloader trickle-ms 3") << 0 << QString() << QByteArray();
+        row("bootloader stale-ms 20") << 0 << QString() << QByteArray();
+    }
+    void faults()
+    {
+        QFETCH(QByteArray, control);
+        QFETCH(int, ends);
+        QFETCH(QString, state);
+        QFETCH(QByteArray, remedy);
+        const QByteArray image = goodImage(5000);
+        Bench bench(hex_file::file(image, 0));
+        QVERIFY(bench.device.control(control.constData()));
+        QCOMPARE(bench.update(), ends == 0);
+        QVERIFY2(bench.label("LBL_status").contains(state), qPrintable(bench.label("LBL_status")));
+        QVERIFY(bench.button("BTN_connect")->isEnabled() && !bench.button("BTN_download")->isEnabled());
+        if (ends == 1)
+            QVERIFY(bench.log().endsWith(QStringLiteral("CONNECT ERR\nPlease check:\n  - Device is powered on\n"
+                                                        "  - Serial port is correct\n  - Bootloader is installed\n")));
+        if (ends == 2)
+            QVERIFY(bench.log().endsWith(QStringLiteral("--- Starting download ---\nDownload failed\n")));
+        if (ends > 0) { // and the way out that the window has named
+            QVERIFY(remedy.isEmpty() || bench.device.control(remedy.constData()));
+            QVERIFY(QTest::qWaitFor([&] { return bench.update(); }, 10000));
+        }
+        QVERIFY(bench.flash(image.size()) == image);
+    }
+
+    void lineEnds_data()
+    {
+        QTest::addColumn<BootloaderStep>("at");
+        QTest::addColumn<bool>("unplug");
+        for (const auto at : {BootloaderStep::Erase, BootloaderStep::Data}) {
+            QTest::addRow("unplugged at %d", int(at)) << at << true;
+            QTest::addRow("closed at %d", int(at)) << at << false;
+        }
+    }
+    void lineEnds()
+    {
+        QFETCH(BootloaderStep, at);
+        QFETCH(bool, unplug);
+        const QByteArray image = goodImage(20000);
+        Bench bench(hex_file::file(image, 0));
+        QVERIFY(bench.device.control("bootloader erase-ms 500"));
+        BootloaderStep reached = BootloaderStep::Idle;
+        connect(bench.port.kboot(), &KbootProtocol::downloadAdvanced, this,
+                [&](BootloaderStep step) { reached = step; });
+        bench.press("BTN_connect");
+        bench.press("BTN_download");
+        QTRY_COMPARE(reached, at);
+        if (unplug)
+            QVERIFY(bench.device.control("unplug"));
+        bench.port.closeUART(); // what the main window does when the port tells of an error
+        bench.dialog.set_connection_open(false);
+        QTRY_VERIFY(!bench.dialog.isDownloadRunning());
+        QVERIFY(bench.log().endsWith(QStringLiteral("Download failed\n")));
+        QVERIFY2(bench.label("LBL_status").contains(QStringLiteral("open the port again and press Connect")),
+                 qPrintable(bench.label("LBL_status")));
+        bench.press("BTN_connect"); // on the closed port
+        QVERIFY(!bench.dialog.isBootloaderConnected());
+        QVERIFY(!unplug || bench.device.control("replug"));
+        bench.open();
+        QVERIFY(QTest::qWaitFor([&] { return bench.update(); }, 10000));
+        QVERIFY(bench.flash(image.size()) == image);
+    }
+
+    void portClosedBetweenConnectAndDownload()
+    {
+        Bench bench(hex_file::file(goodImage(2000), 0));
+        bench.press("BTN_connect");
+        bench.port.closeUART();
+        bench.dialog.set_connection_open(false);
+        QVERIFY(!bench.dialog.isBootloaderConnected() && !bench.button("BTN_download")->isEnabled());
+        QVERIFY(!bench.label("LBL_status").isEmpty());
+    }
+
+    void doubtsBeforeErasing_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<QString>("shown"); // in the doubts, or instead of the image's facts
+        QByteArray even = goodImage(3000);
+        even[4] = '\0';
+        const auto row = [](const char *name) -> QTestData & { return QTest::newRow(name); };
+        row("too large") << hex_file::file(goodImage(20000), 0) << QStringLiteral("does not fit the 16 KB");
+        row("vector") << hex_file::file(even, 0) << QStringLiteral("reset vector");
+        row("stack") << hex_file::file("\xFF" + goodImage(3000), 0) << QStringLiteral("stack pointer");
+        row("small") << hex_file::file(goodImage(100), 0) << QStringLiteral("very small");
+        row("other address") << hex_file::file(goodImage(3000), 0x08000000)
+                             << QStringLiteral("begins at 0x08000000, but it will be written to 0x00000000");
+        row("broken") << QByteArray(":10\n") << QStringLiteral("no Intel HEX file");
+        row("missing") << QByteArray() << QStringLiteral("no file at this place");
+    }
+    void doubtsBeforeErasing()
+    {
+        QFETCH(QByteArray, file);
+        QFETCH(QString, shown);
+        Bench bench(file, {QStringLiteral("--flash-size"), QStringLiteral("16")});
+        if (file.isEmpty()) {
+            QFile::remove(QStringLiteral("firmware.hex"));
+            QVERIFY(QDir::current().mkdir(QStringLiteral("firmware.hex")));
+        }
+        bench.press("BTN_connect");
+        QVERIFY2((bench.label("LBL_doubts") + bench.label("LBL_image")).contains(shown),
+                 qPrintable(bench.label("LBL_doubts")));
+        QCOMPARE(bench.device.stat("bootloader"), 1);
+        if (file.isEmpty()) {
+            QVERIFY(bench.logOf("BTN_download").endsWith(QStringLiteral("Failed to open file\nNO IMAGE\n")));
+            QVERIFY(QDir::current().rmdir(QStringLiteral("firmware.hex")));
+        } else if (!bench.label("LBL_doubts").isEmpty()) { // told, not refused
+            bench.press("BTN_download");
+            QVERIFY(bench.dialog.isDownloadRunning());
+            QTRY_VERIFY_WITH_TIMEOUT(!bench.dialog.isDownloadRunning(), kDownloadMs);
+        }
+    }
+
+    void aFileThatChangedIsTold()
+    {
+        Bench bench(hex_file::file(goodImage(3000), 0));
+        QVERIFY(bench.update());
+        write(QStringLiteral("firmware.hex"), hex_file::file(goodImage(4000), 0));
+        bench.press("BTN_connect");
+        QVERIFY(bench.label("LBL_doubts").contains(QStringLiteral("changed since it was loaded")));
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+QTEST_MAIN(TestFormUpdater)
+#include "tst_form_updater.moc"
