@@ -205,6 +205,10 @@ private slots:
             for (int at = 1; at < 273 && !fields[at].isEmpty(); at += 17)
                 groups += fields[at] + (fields[at + 1].isEmpty() ? "" : fields[at + 1] == "1.000" ? "!" : "!!");
             QVERIFY2(groups.join(' ') == row.groups, row.name + (": " + groups.join(' ')));
+            writer.enqueue63(batch({99}), 0);
+            writer.enqueue62(batch({98})); // both in a new file, whose groups are free
+            writer.flushPendingAndClose();
+            QVERIFY(timeless(linesOf(writer.filePath()).last()).startsWith("98,1.235,"));
         }
     }
 
