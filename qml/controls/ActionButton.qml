@@ -15,7 +15,7 @@ T.Button {
     readonly property color ink: !enabled ? Theme.textDisabled : primary ? Theme.surface : checked ? Theme.accentDark : Theme.textSecondary
 
     implicitWidth: Math.max(implicitHeight, contentItem.implicitWidth + leftPadding + rightPadding)
-    implicitHeight: Math.round(label.font.pointSize * 2.4 + (bare ? 2 : 8))
+    implicitHeight: Math.round(Theme.font.pointSize * 2.4 + (bare ? 2 : 8))
     horizontalPadding: text === "" ? 4 : 12
     verticalPadding: 4
     hoverEnabled: true
@@ -23,12 +23,10 @@ T.Button {
     Accessible.name: text === "" ? hint : text
 
     contentItem: Item {
-        implicitWidth: row.implicitWidth
-        implicitHeight: row.implicitHeight
+        implicitWidth: children[0].implicitWidth
+        implicitHeight: children[0].implicitHeight
 
         Row {
-            id: row
-
             anchors.centerIn: parent
             spacing: 6
 
@@ -41,8 +39,6 @@ T.Button {
                 color: control.ink
             }
             Text {
-                id: label
-
                 visible: text !== ""
                 anchors.verticalCenter: parent.verticalCenter
                 text: control.text

@@ -10,14 +10,12 @@ T.Button {
 
     checkable: true
     implicitWidth: contentItem.implicitWidth + leftPadding + rightPadding
-    implicitHeight: Math.round(label.font.pointSize * 2.4 + 8)
+    implicitHeight: Math.round(Theme.font.pointSize * 2.4 + 8)
     horizontalPadding: 14
     hoverEnabled: true
     focusPolicy: Qt.TabFocus
 
     contentItem: Text {
-        id: label
-
         text: control.text
         textFormat: Text.PlainText
         horizontalAlignment: Text.AlignHCenter

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import KVCenter.Controls
 
@@ -10,7 +12,7 @@ Item {
     signal moved(real x)
 
     Repeater {
-        model: Math.ceil(cursor.height / 8)
+        model: Math.max(0, Math.ceil(cursor.height / 8))
 
         Rectangle {
             required property int index

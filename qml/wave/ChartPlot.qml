@@ -24,7 +24,9 @@ Item {
     FontMetrics {
         id: metrics
 
-        font: Theme.fixedSmallFont
+        readonly property real digit: advanceWidth("0")
+
+        font: Theme.smallFont
     }
     ChartAxis {
         id: timeAxis
@@ -32,7 +34,7 @@ Item {
         min: plot.viewState.xViewMin
         max: plot.viewState.xViewMax
         length: area.width
-        spacing: metrics.averageCharacterWidth * 11
+        spacing: metrics.digit * 7
         unit: "s"
     }
     ChartAxis {
@@ -50,8 +52,8 @@ Item {
         anchors {
             fill: parent
             // Room for the longest text; five characters at least, so that the plot seldom moves.
-            leftMargin: Math.ceil(metrics.averageCharacterWidth * Math.max(5, valueAxis.labelLength)) + 8
-            rightMargin: Math.ceil(metrics.averageCharacterWidth * 1.5)
+            leftMargin: Math.ceil(metrics.digit * Math.max(5, valueAxis.labelLength)) + 8
+            rightMargin: Math.ceil(metrics.digit * 1.5)
             topMargin: Math.ceil(metrics.height / 2)
             bottomMargin: Math.ceil(metrics.height) + 4
         }
@@ -76,7 +78,7 @@ Item {
                     y: -Math.round(height / 2)
                     text: valueAxis.labels[valueTick.index] ?? ""
                     textFormat: Text.PlainText
-                    font: Theme.fixedSmallFont
+                    font: Theme.smallFont
                     color: Theme.textSecondary
                 }
             }
@@ -102,7 +104,7 @@ Item {
                     y: area.height + 4
                     text: timeAxis.labels[timeTick.index] ?? ""
                     textFormat: Text.PlainText
-                    font: Theme.fixedSmallFont
+                    font: Theme.smallFont
                     color: Theme.textSecondary
                 }
             }

@@ -13,8 +13,9 @@ Item {
     required property ChartSaver saver
     property string maximizedType
     /// The chart that the bar tells about: the one used last.
-    property string currentType
-    readonly property list<string> shownTypes: bridge.selectedSensorTypes.includes(maximizedType) ? [maximizedType] : bridge.selectedSensorTypes
+    property WaveChart current
+    readonly property var selectedTypes: bridge.selectedSensorTypes
+    readonly property var shownTypes: selectedTypes.includes(maximizedType) ? [maximizedType] : selectedTypes
     readonly property int columns: shownTypes.length > 1 ? bridge.gridColumns : 1
     readonly property int gridRows: shownTypes.length > 1 ? bridge.gridRows : 1
 
@@ -76,12 +77,10 @@ Item {
         Text {
             id: status
 
-            readonly property WaveChartBridge chartBridge: dashboard.bridge.backend(dashboard.currentType) ?? dashboard.bridge.backendAt(0)
-
             anchors.right: parent.right
             anchors.rightMargin: 16
             anchors.verticalCenter: parent.verticalCenter
-            text: dashboard.bridge.playing ? qsTr("%1 Hz").arg(chartBridge.framerate) : qsTr("Paused · %1 Hz").arg(chartBridge.framerate)
+            text: dashboard.current && dashboard.selectedTypes.length > 0 ? dashboard.current.viewState.rangeText : ""
             textFormat: Text.PlainText
             font: Theme.fixedSmallFont
             color: Theme.textSecondary
@@ -121,8 +120,14 @@ Item {
                 bridge: dashboard.bridge.backend(modelData)
                 maximized: dashboard.maximizedType === modelData
                 canMaximize: maximized || dashboard.shownTypes.length > 1
-                onActiveFocusChanged: if (activeFocus)
-                    dashboard.currentType = modelData
+                onActiveFocusChanged: {
+                    if (activeFocus)
+                        dashboard.current = pane;
+                }
+                Component.onCompleted: {
+                    if (!dashboard.current)
+                        dashboard.current = pane;
+                }
                 onPictureRequested: dashboard.saver.savePicture(viewState, pane)
                 onDataRequested: dashboard.saver.saveData(viewState)
                 onMaximizeRequested: dashboard.maximizedType = maximized ? "" : modelData

@@ -92,6 +92,7 @@ FocusScope {
             ActionButton {
                 id: filterButton
 
+                objectName: "filterButton"
                 bare: true
                 visible: chart.bridge !== null && chart.bridge.hasFilter
                 checkable: true
@@ -116,6 +117,7 @@ FocusScope {
             }
             ActionButton {
                 bare: true
+                objectName: "savePicture"
                 enabled: view.hasData
                 iconName: "picture"
                 hint: qsTr("Save a picture of the chart")
@@ -123,6 +125,7 @@ FocusScope {
             }
             ActionButton {
                 bare: true
+                objectName: "saveData"
                 enabled: view.hasData
                 iconName: "save"
                 hint: qsTr("Save the visible samples")
@@ -130,6 +133,7 @@ FocusScope {
             }
             ActionButton {
                 bare: true
+                objectName: "maximizeButton"
                 visible: chart.canMaximize
                 iconName: chart.maximized ? "restore" : "maximize"
                 hint: chart.maximized ? qsTr("Show all charts") : qsTr("Show this chart alone")
@@ -162,6 +166,7 @@ FocusScope {
                     required property int index
                     required property string modelData
 
+                    objectName: "legend_" + modelData
                     name: modelData
                     color: chart.bridge.channelColors[index]
                     shown: view.visibleChannels[index] ?? true
@@ -209,7 +214,7 @@ FocusScope {
             bottomMargin: 6
         }
         viewState: view
-        onPressed: chart.forceActiveFocus(Qt.MouseFocusReason)
+        onPressed: chart.forceActiveFocus()
     }
 
     EmptyState {

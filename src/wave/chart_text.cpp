@@ -1,5 +1,7 @@
 #include "wave/chart_text.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cmath>
 
@@ -18,7 +20,7 @@ struct Digits
 };
 
 constexpr Digits kDigits[] = {
-    {QLatin1String("acc"), 3, 7}, {QLatin1String("gyr"), 2, 8},  {QLatin1String("mag"), 2, 8},
+    {QLatin1String("acc"), 3, 7}, {QLatin1String("gyr"), 2, 8},  {QLatin1String("mag"), 2, 7},
     {QLatin1String("eul"), 2, 7}, {QLatin1String("quat"), 4, 7}, {QLatin1String("prs"), 1, 8},
 };
 
@@ -82,6 +84,21 @@ QString chart_text::paddedValue(const WaveChartBridge &bridge, int channel, doub
 QString chart_text::time(double seconds)
 {
     return axis_ticks::number(seconds, 3) + QStringLiteral(" s");
+}
+
+QString chart_text::range(const WaveChartBridge &bridge, double xMin, double xMax)
+{
+    const auto seconds = [](double value) {
+        return axis_ticks::number(value, value == std::floor(value) ? 0 : std::abs(value) < 1 ? 3 : 1);
+    };
+    const QString kept = seconds(std::round(-bridge.xHistoryMin()));
+    const QString rate = QString::number(bridge.framerate());
+    if (xMax >= 0) {
+        return QCoreApplication::translate("chart_text", "%1 Hz · last %2 s of %3 s")
+            .arg(rate, seconds(xMax - xMin), kept);
+    }
+    return QCoreApplication::translate("chart_text", "%1 Hz · %2 s to %3 s of %4 s")
+        .arg(rate, seconds(xMin), seconds(xMax), kept);
 }
 
 QStringList chart_text::measurement(const WaveChartBridge &bridge, double a, double b)

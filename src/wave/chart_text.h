@@ -28,8 +28,10 @@ QString paddedValue(const WaveChartBridge &bridge, int channel, double value);
 /// "−2.900 s"
 QString time(double seconds);
 
-/// What cursors at `a` and `b` (seconds) measure: time between them, its inverse, and the difference of each channel
-/// where `values` hold one. Values may be shorter than the channels when a cursor stands where there is no sample.
+/// The rate, and which seconds of the kept history a view from `xMin` to `xMax` shows: "400 Hz · last 10 s of 60 s".
+QString range(const WaveChartBridge &bridge, double xMin, double xMax);
+
+/// What cursors at `a` and `b` (seconds) measure: time between them, its inverse, and the difference of each channel.
 QStringList measurement(const WaveChartBridge &bridge, double a, double b);
 
 } // namespace chart_text

@@ -65,6 +65,11 @@ QString ChartViewState::unit() const
     return m_bridge ? chart_text::unit(m_bridge->chartTitle()) : QString();
 }
 
+QString ChartViewState::rangeText() const
+{
+    return m_bridge ? chart_text::range(*m_bridge, m_x.min, m_x.max) : QString();
+}
+
 QStringList ChartViewState::measurement() const
 {
     if (!m_bridge || std::isnan(m_cursors[0]) || std::isnan(m_cursors[1]))
@@ -143,6 +148,7 @@ void ChartViewState::reset()
     m_yAutomatic = true;
     m_x = {m_bridge ? m_bridge->xDefaultMin() : -10.0, 0};
     emit viewChanged();
+    emit rangeTextChanged();
     emit pictureChanged();
 }
 
@@ -273,6 +279,7 @@ void ChartViewState::startOver()
 
 void ChartViewState::updateLiveTexts()
 {
+    emit rangeTextChanged();
     QStringList texts;
     const QVariantList values = m_bridge ? m_bridge->getValuesAtTime(0) : QVariantList();
     for (int channel = 0; channel < values.size(); ++channel)
@@ -316,6 +323,7 @@ void ChartViewState::setX(chart_range::Range window)
         return;
     m_x = next;
     emit viewChanged();
+    emit rangeTextChanged();
     emit pictureChanged();
 }
 

@@ -40,6 +40,7 @@ class ChartViewState : public QObject
     Q_PROPERTY(QString unit READ unit NOTIFY titleChanged)
     Q_PROPERTY(QList<bool> visibleChannels READ visibleChannels NOTIFY channelsChanged)
     Q_PROPERTY(QStringList liveTexts READ liveTexts NOTIFY liveTextsChanged)
+    Q_PROPERTY(QString rangeText READ rangeText NOTIFY rangeTextChanged)
     Q_PROPERTY(QList<double> cursors READ cursors NOTIFY cursorsChanged)
     Q_PROPERTY(bool hasCursors READ hasCursors NOTIFY cursorsChanged)
     Q_PROPERTY(QStringList measurement READ measurement NOTIFY cursorsChanged)
@@ -72,6 +73,9 @@ public:
     QList<bool> visibleChannels() const { return m_visibleChannels; }
     /// The newest value of each channel, padded to a constant width, ten times a second.
     QStringList liveTexts() const { return m_liveTexts; }
+
+    /// The rate and the visible part of the history, "400 Hz · last 10 s of 60 s", for a status line.
+    QString rangeText() const;
 
     /// Times of the cursors A and B in seconds, NaN for one that is not placed.
     QList<double> cursors() const { return {m_cursors.begin(), m_cursors.end()}; }
@@ -122,6 +126,7 @@ signals:
     void titleChanged();
     void channelsChanged();
     void liveTextsChanged();
+    void rangeTextChanged();
     void cursorsChanged();
     void hoverChanged();
     /// The picture is out of date: samples arrived, or what is visible changed.
