@@ -13,6 +13,8 @@ constexpr qsizetype kSmallestDeviceBuffer = 512;
 
 void TransmitLine::advance(qint64 nowNs)
 {
+    // The moment of a late frame may lie before that of a reply: the line has been there already.
+    nowNs = std::max(nowNs, m_nowNs);
     const qsizetype waiting = m_bytes.size() - m_left;
     if (m_bytesPerSecond <= 0.0) {
         m_left += waiting;

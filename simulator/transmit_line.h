@@ -27,7 +27,8 @@ public:
         int intact = 0; ///< frames of them without damage
     };
 
-    /// Lets the line run until `nowNs` (nanoseconds, never backwards).
+    /// Lets the line run until `nowNs`, nanoseconds; an earlier time than the last one changes nothing but that
+    /// unlimited lines let their bytes go.
     void advance(qint64 nowNs);
 
     /// Takes frames that go out together, all or none.

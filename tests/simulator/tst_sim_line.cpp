@@ -104,6 +104,18 @@ private slots:
         QCOMPARE(line.ready().size(), 49);
     }
 
+    void lineNeverRunsBackwards()
+    {
+        TransmitLine line(9600);
+        line.pushReply(QByteArray(100, 'r'));
+        QCOMPARE(line.remainingNs() / 1000, 104'166); // 960 bytes per second
+        line.advance(50'000'000);
+        line.advance(1'000'000);
+        QCOMPARE(line.ready().size(), 48);
+        line.advance(50'000'000 + line.remainingNs());
+        QVERIFY(line.ready().size() == 100 && line.remainingNs() == 0);
+    }
+
     void slowReaderIsBounded()
     {
         TransmitLine line(0);

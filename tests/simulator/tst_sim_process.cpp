@@ -130,6 +130,46 @@ private slots:
         QCOMPARE(host.timeOf(2), 10U);
     }
 
+    // A whole update with refused packets, on a paced line; what is read back is what was sent.
+    void updateOverThePort()
+    {
+        SimulatorProcess simulator(
+            words("--baud 921600 --packet-size 512 --flash-base 0x1000 --flash-size 64 --seed 3"));
+        QVERIFY(simulator.control("bootloader nak-share 20") && simulator.control("bootloader erase-ms 5"));
+        Host host(simulator.port());
+        QVERIFY(host.readFrames(1) && host.write("AT+RST\r\n"));
+        QTRY_COMPARE(simulator.stat("bootloader"), 1);
+        const auto answered = [&host](const QByteArray &request, const QByteArray &end) {
+            return host.write(request) && host.readUntil([&] { return host.bytes.endsWith(end); });
+        };
+        const auto command = [&answered](unsigned int tag, quint32 address, quint32 count) {
+            const QByteArray request = frames::Bytes().u8(tag).u8(0).u8(0).u8(2).u32(address).u32(count);
+            const QByteArray reply = frames::Bytes().u32(0x020000A0).u32(0).u32(tag);
+            return answered(frames::packet(request, 0xA4), frames::packet(reply, 0xA4));
+        };
+        QByteArray image(40'000, '\0');
+        for (qsizetype i = 0; i < image.size(); ++i)
+            image[i] = char(i * 7 + i / 256);
+        QVERIFY(answered("\x5A\xA6", "\x4A\x24"));
+        QVERIFY(command(2, 0x2000, quint32(image.size())) && command(4, 0x2000, quint32(image.size())));
+        for (qsizetype i = 0; i < image.size(); i += host.bytes.startsWith("\x5A\xA1") ? 512 : 0) {
+            QVERIFY(host.write(frames::packet(image.mid(i, 512))));
+            QVERIFY(host.readUntil([&host] { return host.bytes.size() >= 2; }));
+        }
+        QCOMPARE(simulator.stat("packets") - simulator.stat("refused"), 79);
+        QVERIFY(simulator.stat("refused") > 5);
+
+        const QTemporaryDir folder;
+        QFile file(folder.filePath(QStringLiteral("flash read back.bin")));
+        QVERIFY(simulator.control(("flash dump " + QFile::encodeName(file.fileName())).constData()));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.size(), 64 * 1024);
+        QVERIFY(file.readAll().mid(0x1000, image.size()) == image);
+        // The reset leads through the bootloader into the firmware, whose time begins anew.
+        QVERIFY(host.write(frames::packet(frames::hex("0b000000"), 0xA4)) && host.readFrames(2));
+        QCOMPARE(host.timeOf(0), 0U);
+    }
+
     void hostsComeAndGo()
     {
         SimulatorProcess simulator(words("--rate 1000"));
@@ -202,13 +242,30 @@ private slots:
     void controlsAreChecked()
     {
         SimulatorProcess simulator({});
-        for (const char *bad :
-             {"", "bogus", "noise", "noise x", "noise -1", "noise nan", "rate 0", "rate 2001", "silent yes",
-              "vibration", "vibration add 5", "nodes 2", "values odd", "quit now", "gap 1 2"})
+        for (const char *bad : {"",
+                                "bogus",
+                                "noise",
+                                "noise x",
+                                "noise -1",
+                                "noise nan",
+                                "rate 0",
+                                "rate 2001",
+                                "silent yes",
+                                "vibration",
+                                "vibration add 5",
+                                "nodes 2",
+                                "bootloader",
+                                "bootloader nak 0x",
+                                "bootloader nak-share 101",
+                                "flash dump /nonexistent/flash",
+                                "flash",
+                                "values odd",
+                                "quit now",
+                                "gap 1 2"})
             QVERIFY2(!simulator.control(bad), bad);
         QVERIFY(!simulator.control(QByteArray(100'000, 'x').constData()));
         for (const char *good : {"noise 0.5", " drop  1 ", "insert 0", "burst 4", "rate 2000", "values nan", "reply 1",
-                                 "vibration add 50:0.2:gz:1", "vibration off"})
+                                 "vibration add 50:0.2:gz:1", "vibration off", "bootloader ignore 5:2", "restart"})
             QVERIFY2(simulator.control(good), good);
     }
 
@@ -240,8 +297,8 @@ private slots:
     {
         for (const char *arguments :
              {"--bogus", "--device mz999", "--device mz221 --layout 62", "--device gateway --layout 91", "--rate 2001",
-              "--noise much", "walk.csv", "--replay /tmp", "--replay " KV_SIMULATOR_PATH, "--link " KV_SIMULATOR_PATH,
-              "--link /nonexistent/imu"}) {
+              "--noise much", "--flash-base 0xFFFFFFFF", "--flash-sector 0", "--bootloader bogus", "walk.csv",
+              "--replay /tmp", "--replay " KV_SIMULATOR_PATH, "--link " KV_SIMULATOR_PATH, "--link /nonexistent/imu"}) {
             QProcess process;
             process.start(QStringLiteral(KV_SIMULATOR_PATH), words(arguments));
             QVERIFY2(process.waitForFinished() && process.exitStatus() == QProcess::NormalExit, arguments);
