@@ -327,8 +327,10 @@ void form_record::updateState()
         m_ui->LBL_state->setText(tr("Recording stopped"));
     else
         m_ui->LBL_state->setText(tr("Not recording"));
-    m_ui->LBL_hint->setText(m_isRecording ? tr("Recording goes on when this window is closed.")
-                                          : (m_linkOpen ? QString() : blocked));
+    if (m_isRecording)
+        m_ui->LBL_hint->setText(tr("Recording goes on when this window is closed."));
+    else
+        m_ui->LBL_hint->setText(m_linkOpen || m_endedByLink ? QString() : blocked); // the state tells as much
 
     const QFont figures = theme::fixedPitchFont(font().pointSizeF());
     for (QLabel *label : {m_ui->LBL_elapsed, m_ui->LBL_records, m_ui->LBL_rate, m_ui->LBL_size, m_ui->LBL_space})
