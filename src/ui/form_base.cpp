@@ -29,6 +29,8 @@
 #include "ui/sensor_data_panel.h"
 #include "ui/value_strip.h"
 #include "ui_form_base.h"
+#include "wave/form_sensor_dashboard.h"
+#include "wave/form_wireless_dashboard.h"
 
 namespace {
 
@@ -163,10 +165,12 @@ void form_base::setUpActions()
     dashboard->setObjectName(QStringLiteral("action_sensor_dashboard"));
     auto *gateway = new QAction(this);
     gateway->setObjectName(QStringLiteral("action_wireless_gateway_dashboard"));
+    dashboard->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_D));
+    gateway->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_G));
     m_ui->menuView->insertActions(m_ui->actionFFT_Chart, {dashboard, gateway});
     gateway->setEnabled(false); // until a gateway is connected
     // The windows behind these come with later versions.
-    for (QAction *action : {dashboard, m_ui->action3D_view, m_ui->actionFFT_Chart, m_ui->action_firmware_update})
+    for (QAction *action : {m_ui->action3D_view, m_ui->actionFFT_Chart, m_ui->action_firmware_update})
         action->setEnabled(false);
 
     m_connectButton = new QToolButton(this);
@@ -183,6 +187,8 @@ void form_base::setUpActions()
     connect(m_ui->action_copy_values, &QAction::triggered, this, &form_base::copyValues);
     connect(m_ui->action_quit, &QAction::triggered, this, &form_base::close);
     connect(m_ui->button_open, &QPushButton::clicked, m_ui->action_serial_open, &QAction::trigger);
+    connect(dashboard, &QAction::triggered, this, &form_base::on_action_sensor_dashboard_triggered);
+    connect(gateway, &QAction::triggered, this, &form_base::on_action_wireless_gateway_dashboard_triggered);
     connect(m_recordButton, &QToolButton::clicked, m_ui->action_export_data, &QAction::trigger);
     setUpLanguages();
 }
@@ -196,6 +202,8 @@ void form_base::setUpConnections()
     connect(m_dispatcher, &StreamDispatcher::singleNodeFrame, m_recordDialog, &form_record::imuPackage0x91);
     connect(m_dispatcher, &StreamDispatcher::gatewayBatch62, m_recordDialog, &form_record::imuPackage0x62);
     connect(m_dispatcher, &StreamDispatcher::gatewayBatch63, m_recordDialog, &form_record::imuPackage0x63);
+    connect(m_dispatcher, &StreamDispatcher::gatewayBatch62, this, &form_base::handleGatewayBatch);
+    connect(m_dispatcher, &StreamDispatcher::gatewayBatch63, this, &form_base::handleGatewayBatch);
     connect(m_recordDialog, &form_record::recordingChanged, this, &form_base::showRecordingState);
     connect(m_recordDialog, &form_record::troubleChanged, this, &form_base::showRecordingState);
     connect(m_dispatcher, &StreamDispatcher::selectedNodeChanged, this, &form_base::onSelectedNodeChanged);
@@ -321,5 +329,7 @@ void form_base::closeEvent(QCloseEvent *event)
     for (QDialog *dialog : {static_cast<QDialog *>(m_portDialog), static_cast<QDialog *>(m_settingsDialog),
                             static_cast<QDialog *>(m_recordDialog), static_cast<QDialog *>(m_aboutDialog)})
         dialog->close();
+    m_sensorDashboard.reset();
+    m_wirelessDashboard.reset();
     QMainWindow::closeEvent(event);
 }

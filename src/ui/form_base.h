@@ -13,6 +13,7 @@
 #include "attitude/attitude_convention.h"
 #include "device/product_resolver.h"
 #include "link/stream_state.h"
+#include "wave/sample_clock.h"
 
 class CommandBroker;
 class ImuParser;
@@ -28,7 +29,9 @@ class ValueStrip;
 class form_about;
 class form_com_select;
 class form_record;
+class form_sensor_dashboard;
 class form_settings;
+class form_wireless_dashboard;
 
 namespace Ui {
 class form_base;
@@ -54,6 +57,10 @@ public:
 
     /// The user's preset for the product where one is stored in the settings file, else the product's own.
     static OrientationPreset resolveOrientationPreset(const DetectedDevice &device);
+
+    // Not slots: their actions are not in the generated layout, and would be looked for by name.
+    void on_action_sensor_dashboard_triggered();
+    void on_action_wireless_gateway_dashboard_triggered();
 
 public slots:
     /// Lets the user choose a port; on acceptance opens it and has the device identified.
@@ -102,6 +109,10 @@ private:
     void onKbootFrameRecv(const QByteArray &payload);
     void onSelectedNodeChanged(const node_data_t &node);
     void onSnapshotChanged(const StreamSnapshot &snapshot);
+    void handleGatewayBatch();
+    /// Feeds the sensor dashboard with a sample of the selected node; `timestampMs` is the device's clock.
+    void update_charts(const node_data_t &node, const std::array<float, 3> &euler, unsigned int timestampMs);
+    void forgetChartHistory();
     void showRecordingState();
     /// A node that joins or leaves shifts the places of the others: stays with the node that the user picked.
     void followChosenNode(const QList<node_data_t> &nodes);
@@ -132,6 +143,8 @@ private:
     form_about *m_aboutDialog = nullptr;
     form_record *m_recordDialog = nullptr;
     QToolButton *m_recordButton = nullptr;
+    std::unique_ptr<form_sensor_dashboard> m_sensorDashboard;     ///< created when first asked for
+    std::unique_ptr<form_wireless_dashboard> m_wirelessDashboard; ///< created when first asked for
     QPointer<QMessageBox> m_errorBox;
 
     ImuParser *m_parser = nullptr;
@@ -150,6 +163,8 @@ private:
     bool m_liveStreamSkipLogged = false;
 
     // what the views show
+    SampleClock m_chartClock;       ///< time of the charts, from the selected node's clock
+    int m_chartNodeId = -1;         ///< node that the charts show, -1: none yet
     NormalizedAttitude m_attitude;  ///< of the newest sample of the selected node
     QElapsedTimer m_clock;          ///< steady time of the traces
     qint64 m_lastFrameMs = -1;      ///< on m_clock, -1: none in this connection

@@ -26,6 +26,7 @@
 #include "ui/status_text.h"
 #include "ui/value_strip.h"
 #include "ui_form_base.h"
+#include "wave/form_wireless_dashboard.h"
 
 namespace {
 
@@ -71,6 +72,7 @@ void form_base::open_port()
     m_dispatcher->setLinkConnected(true);
     m_settingsDialog->set_connected(true);
     m_recordDialog->setLinkOpen(true);
+    forgetChartHistory();
     m_panel->clear();
 
     disconnect(&m_uiTimer, &QTimer::timeout, this, &form_base::run_uart_UItmr);
@@ -108,6 +110,8 @@ void form_base::closeConnection()
     m_dispatcher->clear();
     m_settingsDialog->set_connected(false);
     m_recordDialog->setLinkOpen(false); // ends a recording: flushed and closed
+    if (m_wirelessDashboard)
+        m_wirelessDashboard->clear();
     clearDetectedDevice();
     m_chosenNodeId.reset();
     m_lastFrameMs = -1;

@@ -18,6 +18,8 @@
 #include "ui/value_format.h"
 #include "ui/value_strip.h"
 #include "ui_form_base.h"
+#include "wave/form_sensor_dashboard.h"
+#include "wave/form_wireless_dashboard.h"
 
 namespace {
 
@@ -46,13 +48,22 @@ void form_base::onKbootFrameRecv(const QByteArray &payload)
 void form_base::onSelectedNodeChanged(const node_data_t &node)
 {
     m_attitude = attitude_convention::normalizeAttitude(m_dispatcher->currentSelectedSnapshot(), m_preset);
-    m_panel->appendSample(m_clock.elapsed(), node, sampleFields(m_dispatcher->currentFrame()));
+    const DecodedFrame &frame = m_dispatcher->currentFrame();
+    m_panel->appendSample(m_clock.elapsed(), node, sampleFields(frame));
+    update_charts(node, {m_attitude.euler.x(), m_attitude.euler.y(), m_attitude.euler.z()},
+                  frame.family == frame_family::GatewayBatch63 ? frame.gw_ts_ms : node.time_ms);
 }
 
 void form_base::onSnapshotChanged(const StreamSnapshot &snapshot)
 {
     if (!snapshot.link_connected || snapshot.product_info_ready)
         m_retryTimer->stop();
+    findChild<QAction *>(QStringLiteral("action_wireless_gateway_dashboard"))
+        ->setEnabled(snapshot.transport_role == TransportRole::WirelessGateway);
+    if (m_sensorDashboard)
+        m_sensorDashboard->bridge().setFrameRate(snapshot.measured_frame_rate);
+    if (m_wirelessDashboard)
+        m_wirelessDashboard->setFrameRate(snapshot.measured_frame_rate);
 }
 
 void form_base::followChosenNode(const QList<node_data_t> &nodes)

@@ -8,9 +8,16 @@
 #include <QPushButton>
 #include <QToolButton>
 
+#include <algorithm>
+
 #include "app/app_language_manager.h"
+#include "link/sample_fields.h"
+#include "link/stream_dispatcher.h"
 #include "ui/form_record.h"
 #include "ui_form_base.h"
+#include "wave/form_sensor_dashboard.h"
+#include "wave/form_wireless_dashboard.h"
+#include "wave/sample_feed.h"
 
 namespace {
 
@@ -21,11 +28,61 @@ void bringUp(QDialog *dialog)
     dialog->activateWindow();
 }
 
+constexpr unsigned int kMsPerSecond = 1000;
+
 } // namespace
 
 void form_base::on_action_export_data_triggered()
 {
     bringUp(m_recordDialog);
+}
+
+void form_base::on_action_sensor_dashboard_triggered()
+{
+    if (!m_sensorDashboard) {
+        m_sensorDashboard = std::make_unique<form_sensor_dashboard>();
+        m_sensorDashboard->bridge().setFrameRate(m_dispatcher->snapshot().measured_frame_rate);
+    }
+    m_sensorDashboard->open();
+}
+
+void form_base::on_action_wireless_gateway_dashboard_triggered()
+{
+    if (!m_wirelessDashboard) {
+        m_wirelessDashboard = std::make_unique<form_wireless_dashboard>();
+        m_wirelessDashboard->setFrameRate(m_dispatcher->snapshot().measured_frame_rate);
+    }
+    m_wirelessDashboard->open();
+}
+
+void form_base::update_charts(const node_data_t &node, const std::array<float, 3> &euler, unsigned int timestampMs)
+{
+    if (!m_sensorDashboard)
+        return;
+    if (m_chartNodeId != node.id) { // the history of one node is not continued by another
+        forgetChartHistory();
+        m_chartNodeId = node.id;
+    }
+    const unsigned int rate = std::max(m_dispatcher->snapshot().measured_frame_rate, 1U);
+    const unsigned int stampMs = m_chartClock.next(timestampMs, kMsPerSecond / rate);
+    SampleFields fields = sampleFields(m_dispatcher->currentFrame());
+    if (m_attitude.valid)
+        fields |= SampleField::Euler; // angles can be had from the quaternion
+    m_sensorDashboard->bridge().pushSamples(ChartSamples(node, euler, fields), stampMs);
+}
+
+void form_base::forgetChartHistory()
+{
+    m_chartNodeId = -1;
+    m_chartClock.reset();
+    if (m_sensorDashboard)
+        m_sensorDashboard->bridge().resetBackends();
+}
+
+void form_base::handleGatewayBatch()
+{
+    if (m_wirelessDashboard)
+        m_wirelessDashboard->updateGatewaySamples(gatewaySamples(m_dispatcher->currentFrame()));
 }
 
 void form_base::showRecordingState()
@@ -86,5 +143,6 @@ void form_base::chooseLanguage(const QString &setting)
     if (setting == manager.currentLanguage() || manager.setLanguage(setting))
         return;
     QMessageBox::warning(this, appWindowTitle(),
-                         tr("The translation for %1 cannot be loaded. The language stays as it is.").arg(setting));
+                         tr("The translation for %1 cannot be loaded. The language stays as it is.")
+                             .arg(manager.languageForSetting(setting)->displayName));
 }
