@@ -1,0 +1,249 @@
+#pragma once
+
+#include <array>
+
+#include <QList>
+#include <QObject>
+#include <QPointF>
+#include <QStringList>
+#include <QVariantList>
+
+#include "fft/fft_alarm.h"
+#include "fft/fft_alarm_text.h"
+#include "fft/fft_records.h"
+#include "fft/fft_snapshot.h"
+
+/// The object behind the spectrum view: takes the spectra of the three axes, analyses them (dominant peak, harmonics,
+/// resultant, bands, coherence, alarm) and tells the view in numbers and in sentences of the interface's language.
+///
+/// Spectra come axis by axis through setFftResult() and count as one frame with commitResults(), which is also one step
+/// of the alarm. A list may begin with a point that anchors the drawn curve at (0, 0), recognised by two equal first
+/// frequencies: it is drawn but neither analysed nor exported. Amplitudes that are not finite are taken as 0.
+///
+/// Main thread only; the signals come on change only.
+class FftChartBridge : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(FftChartBridge)
+    Q_PROPERTY(QString chartTitle READ chartTitle NOTIFY chartTitleChanged)
+    Q_PROPERTY(QString valueAxisTitle READ valueAxisTitle NOTIFY viewConfigChanged)
+    Q_PROPERTY(double yAxisMax READ yAxisMax NOTIFY viewConfigChanged)
+    Q_PROPERTY(bool showResultant READ showResultant WRITE setShowResultant NOTIFY viewConfigChanged)
+    Q_PROPERTY(bool coherenceEnabled READ coherenceEnabled WRITE setCoherenceEnabled NOTIFY viewConfigChanged)
+    Q_PROPERTY(QString profileHash READ profileHash NOTIFY viewConfigChanged)
+    Q_PROPERTY(bool hasData READ hasData NOTIFY exportStateChanged)
+    Q_PROPERTY(double maxFreq READ maxFreq NOTIFY frameMetaChanged)
+    Q_PROPERTY(int fftSize READ fftSize NOTIFY frameMetaChanged)
+    Q_PROPERTY(int sampleRate READ sampleRate NOTIFY frameMetaChanged)
+    Q_PROPERTY(double frequencyResolution READ frequencyResolution NOTIFY frameMetaChanged)
+    Q_PROPERTY(double nyquistFrequency READ nyquistFrequency NOTIFY frameMetaChanged)
+    Q_PROPERTY(QString windowName READ windowName NOTIFY frameMetaChanged)
+    Q_PROPERTY(QString unit READ unit NOTIFY frameMetaChanged)
+    Q_PROPERTY(QString dominantPeakAxis READ dominantPeakAxis NOTIFY peakAnalysisChanged)
+    Q_PROPERTY(double dominantPeakFrequency READ dominantPeakFrequency NOTIFY peakAnalysisChanged)
+    Q_PROPERTY(double dominantPeakAmplitude READ dominantPeakAmplitude NOTIFY peakAnalysisChanged)
+    Q_PROPERTY(QString harmonicSummary READ harmonicSummary NOTIFY peakAnalysisChanged)
+    Q_PROPERTY(QVariantList harmonics READ harmonicsToVariantList NOTIFY peakAnalysisChanged)
+    Q_PROPERTY(double resultantPeakAmplitude READ resultantPeakAmplitude NOTIFY analysisSummaryChanged)
+    Q_PROPERTY(QVariantList bandPowers READ bandPowersToVariantList NOTIFY analysisSummaryChanged)
+    Q_PROPERTY(QString bandSummary READ bandSummary NOTIFY analysisSummaryChanged)
+    Q_PROPERTY(QString coherenceSummary READ coherenceSummary NOTIFY analysisSummaryChanged)
+    Q_PROPERTY(bool hasCustomBands READ hasCustomBands NOTIFY analysisSummaryChanged)
+    Q_PROPERTY(int alarmPresetIndex READ alarmPresetIndex WRITE setAlarmPresetIndex NOTIFY alarmPresetChanged)
+    Q_PROPERTY(QStringList alarmPresetNames READ alarmPresetNames NOTIFY alarmPresetChanged)
+    Q_PROPERTY(bool hasCustomAlarmRule READ hasCustomAlarmRule NOTIFY alarmPresetChanged)
+    Q_PROPERTY(QVariantMap alarmRule READ alarmRuleToVariantMap NOTIFY alarmPresetChanged)
+    Q_PROPERTY(int alarmSeverityLevel READ alarmSeverityLevel NOTIFY alarmStateChanged)
+    Q_PROPERTY(QString alarmStatusLabel READ alarmStatusLabel NOTIFY alarmStateChanged)
+    Q_PROPERTY(QString alarmHeadline READ alarmHeadline NOTIFY alarmStateChanged)
+    Q_PROPERTY(QString alarmMeaning READ alarmMeaning NOTIFY alarmStateChanged)
+    Q_PROPERTY(QString alarmRecommendedAction READ alarmRecommendedAction NOTIFY alarmStateChanged)
+    Q_PROPERTY(QString alarmThresholdSummary READ alarmThresholdSummary NOTIFY alarmStateChanged)
+    Q_PROPERTY(QString alarmSummary READ alarmSummary NOTIFY alarmStateChanged)
+    Q_PROPERTY(QVariantList alarmTimeline READ alarmEventsToVariantList NOTIFY alarmStateChanged)
+    Q_PROPERTY(double confidenceScore READ confidenceScore NOTIFY telemetryChanged)
+    Q_PROPERTY(double lastLatencyMs READ lastLatencyMs NOTIFY telemetryChanged)
+    Q_PROPERTY(double averageLatencyMs READ averageLatencyMs NOTIFY telemetryChanged)
+    Q_PROPERTY(double maxLatencyMs READ maxLatencyMs NOTIFY telemetryChanged)
+    Q_PROPERTY(int droppedBatches READ droppedBatches NOTIFY telemetryChanged)
+    Q_PROPERTY(int clippingCount READ clippingCount NOTIFY telemetryChanged)
+    Q_PROPERTY(QString healthSummary READ healthSummary NOTIFY telemetryChanged)
+
+public:
+    static constexpr int kMaxBands = 16;
+    static constexpr int kMaxBandNameLength = 40;
+
+    explicit FftChartBridge(QObject *parent = nullptr);
+
+    /// Keeps the spectrum of an axis (0 X, 1 Y, 2 Z) until commitResults(); another axis is ignored. `nyquistHz` is
+    /// half the sample rate. A list with a frequency that is not finite empties the axis.
+    void setFftResult(int axis, const QList<QPointF> &points, double nyquistHz);
+    /// Publishes and analyses what came; one frame of the alarm.
+    void commitResults();
+    /// Forgets spectra, analysis and alarm; settings stay.
+    void clearResults();
+
+    /// The list of an axis as it came, and the resultant; without anchor for the resultant.
+    Q_INVOKABLE QList<QPointF> getPoints(int axis) const;
+    Q_INVOKABLE QList<QPointF> getResultantPoints() const { return m_resultant; }
+    /// "frequency" of the bin nearest to `frequency`, and "xAmplitude", "yAmplitude", "zAmplitude" there; empty without
+    /// spectra.
+    Q_INVOKABLE QVariantMap queryCursor(double frequency) const;
+
+    const QString &chartTitle() const { return m_chartTitle; }
+    void setChartTitle(const QString &title);
+    const QString &valueAxisTitle() const { return m_valueAxisTitle; }
+    void setValueAxisTitle(const QString &title);
+    double yAxisMax() const { return m_yAxisMax; }
+    void setYAxisMax(double maximum);
+    bool showResultant() const { return m_showResultant; }
+    void setShowResultant(bool show);
+    bool coherenceEnabled() const { return m_coherenceEnabled; }
+    void setCoherenceEnabled(bool enabled);
+    /// Asks the view to show all frequencies.
+    void requestXAxisReset() { emit xAxisResetRequested(); }
+
+    const FftFrameMeta &frameMeta() const { return m_meta; }
+    void setFrameMeta(const FftFrameMeta &meta);
+    int fftSize() const { return m_meta.fftSize; }
+    int sampleRate() const { return m_meta.sampleRate; }
+    double frequencyResolution() const { return m_meta.frequencyResolution; }
+    double nyquistFrequency() const { return m_meta.nyquistFrequency; }
+    /// In the language of the interface.
+    QString windowName() const;
+    QString unit() const { return m_meta.unit; }
+    /// End of the frequency axis: that of the last spectra, else of the frame meta, else 50.
+    double maxFreq() const;
+    bool hasData() const;
+
+    QString dominantPeakAxis() const { return fft_snapshot::axisName(m_peak.axisIndex); }
+    double dominantPeakFrequency() const { return m_peak.frequency; }
+    double dominantPeakAmplitude() const { return m_peak.amplitude; }
+    FftPeakSummary currentAlarmPeak() const { return m_peak; }
+    const QList<FftHarmonicPeak> &harmonics() const { return m_harmonics; }
+    /// Maps of "order", "frequency" and "amplitude".
+    QVariantList harmonicsToVariantList() const;
+    const QString &harmonicSummary() const { return m_harmonicSummary; }
+    /// Highest amplitude of the resultant beyond 0 Hz.
+    double resultantPeakAmplitude() const;
+
+    const QList<FftBandPower> &bandPowers() const { return m_bandPowers; }
+    /// The maps of fft_snapshot::toVariantList() with "lowHz" and "highHz".
+    QVariantList bandPowersToVariantList() const;
+    const QString &bandSummary() const { return m_bandSummary; }
+    const QString &coherenceSummary() const { return m_coherenceSummary; }
+    bool hasCustomBands() const { return !m_bandDefinitions.isEmpty(); }
+    /// Adds a band, or changes the edges of the one with this name; the first one replaces the automatic bands. Ignored
+    /// without a name, with edges that are not finite or not in order, and beyond kMaxBands.
+    Q_INVOKABLE void setCustomBand(const QString &name, double lowHz, double highHz);
+    /// The same for users: returns an empty text, or a sentence that says why there is no such band.
+    Q_INVOKABLE QString tryCustomBand(const QString &name, double lowHz, double highHz);
+    /// Back to the automatic bands.
+    Q_INVOKABLE void resetBandDefinitions();
+
+    int alarmPresetIndex() const { return int(m_preset); }
+    /// 1 Industrial, 2 Human, any other General. Takes the preset's rule and starts the alarm anew, unless both are in
+    /// use already.
+    void setAlarmPresetIndex(int index);
+    QStringList alarmPresetNames() const { return fftAlarmPresetNames(); }
+    /// English, as snapshots hold it.
+    QString alarmPresetName() const { return fftAlarmPresetKey(m_preset); }
+    const FftAlarmRule &alarmRule() const { return m_alarm.rule(); }
+    bool hasCustomAlarmRule() const { return !(alarmRule() == fftAlarmRule(m_preset)); }
+    /// "minimumHz", "maximumHz", "watchThreshold", "alarmThreshold", "triggerFrames" and "clearFrames".
+    QVariantMap alarmRuleToVariantMap() const;
+    /// Installs a rule of the user's and starts the alarm anew. Ignored when a number of it is not finite; fewer than
+    /// one frame are taken as one.
+    void setAlarmRule(const FftAlarmRule &rule);
+    /// The same for users, by the keys of alarmRuleToVariantMap(): returns an empty text, or a sentence that says what
+    /// is wrong.
+    Q_INVOKABLE QString tryAlarmRule(const QVariantMap &values);
+    FftAlarmState alarmState() const { return m_alarm.state(); }
+    int alarmSeverityLevel() const { return m_presentation.severityLevel; }
+    const QString &alarmStatusLabel() const { return m_presentation.statusLabel; }
+    const QString &alarmHeadline() const { return m_presentation.headline; }
+    const QString &alarmMeaning() const { return m_presentation.meaning; }
+    const QString &alarmRecommendedAction() const { return m_presentation.recommendedAction; }
+    const QString &alarmThresholdSummary() const { return m_presentation.thresholdSummary; }
+    const QString &alarmSummary() const { return m_presentation.summary; }
+    /// Newest first; maps of "label" (as in files), "active" (it raised the alarm) and "text" (for people).
+    QVariantList alarmEventsToVariantList() const;
+
+    void setRuntimeTelemetry(int droppedBatches, int clippedSamples, double lastLatencyMs, double meanLatencyMs,
+                             double maxLatencyMs, double health);
+    double confidenceScore() const { return m_telemetry.health; }
+    double lastLatencyMs() const { return m_telemetry.lastLatencyMs; }
+    double averageLatencyMs() const { return m_telemetry.meanLatencyMs; }
+    double maxLatencyMs() const { return m_telemetry.maxLatencyMs; }
+    int droppedBatches() const { return m_telemetry.droppedBatches; }
+    int clippingCount() const { return m_telemetry.clippedSamples; }
+    const QString &healthSummary() const { return m_healthSummary; }
+
+    /// Version of the snapshot format, "1.0.0".
+    static QString versionString();
+    /// Tells analysis settings apart: spectra with the same hash were made and judged in the same way.
+    const QString &profileHash() const { return m_profileHash; }
+
+    Q_INVOKABLE QString exportSnapshotJson() const;
+    Q_INVOKABLE QString exportSnapshotCsv() const;
+    /// What a snapshot holds, see fft_snapshot::summary(); nothing changes.
+    Q_INVOKABLE QVariantMap importSnapshotJson(const QString &text) const { return fft_snapshot::summary(text); }
+
+    /// Tells everything anew in the current language.
+    void retranslate();
+
+signals:
+    void fftDataChanged();
+    void chartTitleChanged();
+    void viewConfigChanged();
+    void xAxisResetRequested();
+    void frameMetaChanged();
+    void peakAnalysisChanged();
+    void analysisSummaryChanged();
+    void alarmPresetChanged();
+    void alarmStateChanged();
+    void telemetryChanged();
+    void exportStateChanged();
+
+private:
+    std::array<peak_analysis::Spectrum, 3> spectra() const;
+    void updatePeakAnalysis();
+    void updateAlarmState(const FftPeakSummary &peak);
+    void updateAnalysisSummaries();
+    void updateBands();
+    void tellBands();
+    void updateCoherence();
+    void updatePresentation();
+    void updateHealthSummary();
+    void updateProfileHash();
+    void installAlarm(FftAlarmPreset preset, const FftAlarmRule &rule);
+    FftSnapshot snapshot() const;
+
+    std::array<QList<QPointF>, 3> m_points;
+    QList<QPointF> m_resultant;
+    double m_nyquistHz = 0; ///< handed with the last result
+    FftFrameMeta m_meta;
+
+    FftPeakSummary m_peak;
+    QList<FftHarmonicPeak> m_harmonics;
+    QString m_harmonicSummary;
+    double m_resultantPeak = -1; ///< negative without a spectrum
+    QList<FftBandDefinition> m_bandDefinitions;
+    QList<FftBandDefinition> m_bandsInUse;
+    QList<FftBandPower> m_bandPowers;
+    QString m_bandSummary;
+    QString m_coherenceSummary;
+
+    FftAlarmPreset m_preset = FftAlarmPreset::General;
+    FftAlarm m_alarm;
+    FftAlarmPresentation m_presentation;
+    FftRuntimeTelemetry m_telemetry;
+    QString m_healthSummary;
+
+    QString m_chartTitle;
+    QString m_valueAxisTitle;
+    QString m_profileHash;
+    double m_yAxisMax = 0;
+    bool m_showResultant = true;
+    bool m_coherenceEnabled = true;
+};

@@ -1,0 +1,147 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <optional>
+
+#include <QList>
+#include <QPointF>
+
+#include "link/node_data.h"
+#include "wave/circular_sample_buffer.h"
+
+enum class FftSpectrumType { Acceleration, AngularVelocity };
+enum class FftHoldMode { Live, MaxHold, AvgHold };
+
+/// One request for three spectra.
+struct FftBatch
+{
+    quint64 id = 0;
+    int rateHz = 0;
+    std::array<QList<double>, 3> samples; ///< X, Y, Z, oldest first
+};
+
+/// What became of a result that came back.
+struct FftResultOutcome
+{
+    bool accepted = false;    ///< it belongs to the batch in flight
+    bool batchClosed = false; ///< it was the last one of its batch
+    QList<QPointF> points;    ///< the spectrum to show behind an anchor at (0, 0); empty if there is none
+    double nyquistHz = 0;
+};
+
+/// How well the spectra keep up.
+struct FftTelemetry
+{
+    int droppedBatches = 0;
+    int clippedSamples = 0;
+    int completedBatches = 0;
+    double lastLatencyMs = 0;
+    double meanLatencyMs = 0;
+    double maxLatencyMs = 0;
+
+    /// 1 is perfect: less for dropped batches, clipped samples and a mean latency above 20 ms.
+    double health() const;
+};
+
+/// The sampling side of the spectrum: keeps the newest samples of the three axes and of their norm, knows their rate,
+/// cuts batches of three requests from them, and holds or averages what comes back. At most one batch is in flight;
+/// a result of any other is ignored. A plain class of the main thread: every call takes constant time, but for the
+/// statistics of the norm, which are computed anew every kRecomputeEvery samples, and nextBatch(), which copies the
+/// rings.
+///
+/// Bad samples: a component that is not finite is replaced by the newest good one of its axis (0 before there is one)
+/// and counts as clipped. So the spacing of the samples stays, and neither rings nor statistics nor held spectra ever
+/// contain a value that is not finite.
+///
+/// Time stamps that stand still or run back are stored as 1 ms after the newest one. They serve only to estimate the
+/// rate, for callers that do not know it.
+class FftSampler
+{
+public:
+    static constexpr int kDefaultPoints = 512;
+    static constexpr int kRecomputeEvery = 4096;
+    /// Milliseconds of a clock that does not run backwards.
+    using Clock = std::function<qint64()>;
+
+    /// Without a clock, the host's.
+    explicit FftSampler(Clock clock = {});
+
+    FftSpectrumType spectrumType() const { return m_type; }
+    FftHoldMode holdMode() const { return m_hold; }
+    /// Capacity of the rings, which is the size of the spectra.
+    int pointCount() const { return m_axes[0].capacity(); }
+    /// Each of these takes effect with a reset(). Another type also forgets the samples: they have another unit.
+    void setSpectrumType(FftSpectrumType type);
+    void setHoldMode(FftHoldMode mode) { m_hold = mode; }
+    /// Starts anew with rings of `points` samples, at least 1: abandons the batch in flight, forgets held spectra, rate
+    /// and telemetry. The newest samples that fit stay.
+    void reset(int points);
+    /// Ignores what the batch in flight still brings.
+    void abandonBatch();
+
+    /// Takes one sample. A rate of 0 or less is estimated from the time stamps. True when the rate changed.
+    bool append(const node_data_t &sample, int sampleRateHz);
+
+    /// Samples per second, 0 while unknown.
+    int currentRateHz() const { return m_rateHz; }
+    /// The rate of what is shown: of the batch in flight, else of the last complete one, else the current one.
+    int presentationRateHz() const;
+    /// Standard deviation of the norm over the last pointCount() samples, in the unit of the spectrum.
+    double normDeviation() const;
+
+    /// The samples for the next three spectra. Nothing without samples or rate, or while a batch is in flight: that
+    /// counts as a dropped one.
+    std::optional<FftBatch> nextBatch();
+    /// Takes the spectrum of a channel (0 to 2) and gives what to show for it.
+    FftResultOutcome takeResult(quint64 batchId, int channel, const QList<QPointF> &points);
+
+    const FftTelemetry &telemetry() const { return m_telemetry; }
+
+private:
+    struct Held
+    {
+        QList<QPointF> points;
+        int averaged = 0;
+    };
+
+    qint64 hostElapsedMs();
+    qint64 resolveSampleTimestampMs(unsigned int deviceMs);
+    qint64 fallbackSampleTimestampMs();
+    qint64 newestStampMs() const;
+    bool updateSampleRateEstimate(int sampleRateHz);
+    int estimateWindowSampleRate() const;
+    void appendVectorSample(const float (&vector)[3], float scale);
+    void updateClippingCount(const float (&vector)[3], float scale);
+    void addNorm(double value);
+    void recomputeNormStatistics();
+    const QList<QPointF> &applyHoldResult(int channel, const QList<QPointF> &points);
+    void finishResult(FftResultOutcome &outcome);
+
+    Clock m_clock;
+    FftSpectrumType m_type = FftSpectrumType::Acceleration;
+    FftHoldMode m_hold = FftHoldMode::Live;
+
+    std::array<CircularSampleBuffer, 3> m_axes;
+    CircularSampleBuffer m_norms;
+    CircularSampleBuffer m_stamps; ///< milliseconds
+
+    double m_normMean = 0;
+    double m_normSquares = 0; ///< sum of squared deviations from the mean
+    int m_normUpdates = 0;    ///< since the statistics were computed from the ring
+
+    std::optional<qint64> m_hostStartMs;
+    std::optional<qint64> m_deviceOffsetMs; ///< device time less host time
+
+    int m_rateHz = 0;
+    int m_completedRateHz = 0;
+
+    quint64 m_nextBatchId = 1;
+    quint64 m_batchId = 0; ///< in flight; 0 none
+    int m_expectedResults = 0;
+    int m_batchRateHz = 0;
+    qint64 m_batchStartMs = 0;
+
+    std::array<Held, 3> m_held;
+    FftTelemetry m_telemetry;
+};

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+/// Window functions that a block of samples is weighted with before its transform. The values are the places in the
+/// window's list of choices.
+enum class FftWindowType { Rectangular, Hann, Hamming, Blackman, FlatTop };
+
+/// A window of N weights with the figures that correct its effect on amplitudes.
+struct FftWindow
+{
+    QList<double> weights{1.0};
+    double coherentGain = 1.0;   ///< mean of the weights: what a tone's amplitude is scaled by
+    double noiseBandwidth = 1.0; ///< equivalent noise bandwidth in bins, N * sum(w^2) / sum(w)^2
+};
+
+/// Weights of all types that there are, symmetric over `points` samples. One point weighs 1 whatever the type; a type
+/// that does not exist weighs everything 0. Both figures are 1 when the sum of the weights is not positive.
+FftWindow makeFftWindow(FftWindowType type, int points);
+
+/// Names in the order of FftWindowType, in English as snapshots hold them. fftWindowLabel() gives them to people.
+const QStringList &fftWindowNames();
+/// The name in the language of the interface; a name that is none of ours stays as it is.
+QString fftWindowLabel(const QString &name);

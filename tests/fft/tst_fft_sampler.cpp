@@ -1,0 +1,268 @@
+#include <QtTest>
+
+#include <cmath>
+#include <limits>
+#include <random>
+
+#include "fft/fft_sampler.h"
+
+namespace {
+
+constexpr float kNan = std::numeric_limits<float>::quiet_NaN();
+constexpr float kInfinite = std::numeric_limits<float>::infinity();
+
+node_data_t sample(quint32 timeMs, float x, float y = 0, float z = 0)
+{
+    node_data_t node;
+    node.time_ms = timeMs;
+    const float values[] = {x, y, z};
+    for (int i = 0; i < 3; ++i) {
+        node.acc[i] = values[i];
+        node.gyr[i] = 2 * values[i];
+    }
+    return node;
+}
+
+QList<QPointF> flat(double amplitude, int points = 4)
+{
+    QList<QPointF> list;
+    for (int i = 0; i < points; ++i)
+        list.append({double(i), amplitude});
+    return list;
+}
+
+/// The amplitudes shown for `spectra` of the X axis, one batch each.
+QList<double> shown(FftSampler &sampler, const QList<QList<QPointF>> &spectra)
+{
+    QList<double> amplitudes;
+    for (const QList<QPointF> &points : spectra) {
+        const quint64 id = sampler.nextBatch().value_or(FftBatch{}).id;
+        amplitudes += sampler.takeResult(id, 0, points).points.value(1).y();
+        sampler.takeResult(id, 1, {});
+        sampler.takeResult(id, 2, {});
+    }
+    return amplitudes;
+}
+
+double deviation(const QList<double> &values)
+{
+    double mean = 0;
+    double squares = 0;
+    for (const double v : values)
+        mean += v / double(values.size());
+    for (const double v : values)
+        squares += (v - mean) * (v - mean);
+    return std::sqrt(squares / double(values.size()));
+}
+
+} // namespace
+
+class TestFftSampler : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void rates_data()
+    {
+        QTest::addColumn<QList<quint32>>("stamps");
+        QTest::addColumn<int>("givenHz");
+        QTest::addColumn<int>("rateHz");
+        QTest::addRow("told") << QList<quint32>{1000} << 250 << 250;
+        QTest::addRow("one sample tells nothing") << QList<quint32>{1000} << 0 << 0;
+        QTest::addRow("estimated") << QList<quint32>{1000, 1010, 1020, 1031} << 0 << 97;
+        QTest::addRow("slower than 1 Hz") << QList<quint32>{1000, 61000} << -1 << 1;
+        QTest::addRow("stamps that stand still") << QList<quint32>{1000, 1000, 1000} << 0 << 1000;
+        QTest::addRow("stamps that run back") << QList<quint32>{5000, 4000, 4500, 5001} << 0 << 1000;
+        QTest::addRow("the ring knows the newest 8 only")
+            << QList<quint32>{10, 20, 30, 40, 45, 50, 55, 60, 65, 70, 75} << 0 << 200;
+        // 20 ms pass between samples on the host's clock, which stands in for stamps of 0.
+        QTest::addRow("no clock") << QList<quint32>{0, 0, 0} << 0 << 50;
+        QTest::addRow("clock that stops") << QList<quint32>{7000, 7020, 0, 0} << 0 << 50;
+    }
+    void rates()
+    {
+        QFETCH(QList<quint32>, stamps);
+        QFETCH(int, givenHz);
+        qint64 hostMs = 100;
+        FftSampler sampler([&hostMs] { return hostMs; });
+        sampler.reset(8);
+        int changes = 0;
+        for (const quint32 stamp : stamps) {
+            const int before = sampler.currentRateHz();
+            const bool changed = sampler.append(sample(stamp, 1), givenHz);
+            QCOMPARE(changed, sampler.currentRateHz() != before);
+            changes += changed;
+            hostMs += 20;
+        }
+        QTEST(sampler.currentRateHz(), "rateHz");
+        QCOMPARE(changes > 0, sampler.currentRateHz() > 0);
+    }
+
+    void batches()
+    {
+        qint64 hostMs = 0;
+        FftSampler sampler([&hostMs] { return hostMs; });
+        sampler.reset(4);
+        QVERIFY(!sampler.nextBatch());
+        sampler.append(sample(10, 1), 0);
+        QVERIFY(!sampler.nextBatch()); // no rate yet
+        for (quint32 i = 2; i <= 6; ++i)
+            sampler.append(sample(10 * i, float(i), -float(i), 0), 0);
+        const auto batch = sampler.nextBatch();
+        QVERIFY(batch);
+        QCOMPARE(batch->id, 1ULL);
+        QCOMPARE(batch->rateHz, 100);
+        QCOMPARE(batch->samples[0], (QList<double>{3000, 4000, 5000, 6000}));
+        QCOMPARE(batch->samples[1], (QList<double>{-3000, -4000, -5000, -6000}));
+
+        QVERIFY(!sampler.nextBatch());
+        QCOMPARE(sampler.telemetry().droppedBatches, 1);
+        QVERIFY(sampler.append(sample(70, 1), 400)); // in mid-batch: what is shown keeps the rate of its samples
+        QCOMPARE(sampler.presentationRateHz(), 100);
+        QVERIFY(!sampler.takeResult(0, 0, flat(1)).accepted);
+        QVERIFY(!sampler.takeResult(2, 0, flat(1)).accepted);
+        hostMs = 30;
+        const FftResultOutcome first = sampler.takeResult(1, 0, flat(1));
+        QVERIFY(first.accepted && !first.batchClosed);
+        QCOMPARE(first.points, QList<QPointF>{QPointF()} + flat(1));
+        QCOMPARE(first.nyquistHz, 50.0);
+        QVERIFY(sampler.takeResult(1, 9, flat(1)).points.isEmpty());
+        QVERIFY(sampler.takeResult(1, 2, {}).batchClosed);
+        QVERIFY(!sampler.takeResult(1, 1, flat(1)).accepted);
+        QCOMPARE(sampler.presentationRateHz(), 100);
+
+        QCOMPARE(sampler.nextBatch()->id, 2ULL);
+        hostMs = 40;
+        sampler.takeResult(2, 0, flat(1));
+        sampler.reset(4); // abandoned
+        QVERIFY(!sampler.takeResult(2, 1, flat(1)).accepted);
+        QCOMPARE(sampler.currentRateHz(), 0);
+        sampler.append(sample(80, 1), 400);
+        QCOMPARE(sampler.nextBatch()->samples[0], (QList<double>{5000, 6000, 1000, 1000}));
+    }
+
+    void latencyAndHealth_data()
+    {
+        QTest::addColumn<FftTelemetry>("telemetry");
+        QTest::addColumn<double>("health");
+        QTest::addRow("perfect") << FftTelemetry{} << 1.0;
+        QTest::addRow("dropped") << FftTelemetry{4, 0, 0, 0, 20} << 0.8;
+        QTest::addRow("clipped") << FftTelemetry{0, 7, 0, 0, 0} << 0.93;
+        QTest::addRow("late") << FftTelemetry{0, 0, 0, 0, 35} << 0.85;
+        QTest::addRow("all at their caps") << FftTelemetry{1000, 1000, 1, 0, 9000} << 0.0;
+        QTest::addRow("caps without lateness") << FftTelemetry{1000, 1000} << 0.3;
+    }
+    void latencyAndHealth()
+    {
+        QFETCH(FftTelemetry, telemetry);
+        QFETCH(double, health);
+        QVERIFY(std::abs(telemetry.health() - health) < 1e-12);
+    }
+
+    void latencies()
+    {
+        qint64 hostMs = 0;
+        FftSampler sampler([&hostMs] { return hostMs; });
+        sampler.append(sample(1, 1), 100);
+        for (const int latency : {10, 30, 20}) {
+            const quint64 id = sampler.nextBatch()->id;
+            hostMs += latency;
+            for (int channel = 0; channel < 3; ++channel)
+                sampler.takeResult(id, channel, flat(1));
+        }
+        const FftTelemetry &t = sampler.telemetry();
+        QCOMPARE((QList{t.lastLatencyMs, t.meanLatencyMs, t.maxLatencyMs}), (QList{20.0, 20.0, 30.0}));
+    }
+
+    void holds_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<QList<double>>("amplitudes");
+        QTest::addRow("live") << 0 << QList<double>{4, 1, 7, 2};
+        QTest::addRow("max") << 1 << QList<double>{4, 4, 7, 7};
+        QTest::addRow("avg") << 2 << QList<double>{4, 2.5, 4, 3.5};
+    }
+    void holds()
+    {
+        QFETCH(int, mode);
+        FftSampler sampler;
+        sampler.setHoldMode(FftHoldMode(mode));
+        sampler.append(sample(1, 1), 100);
+        QTEST(shown(sampler, {flat(4), flat(1), flat(7), flat(2)}), "amplitudes");
+        QCOMPARE(shown(sampler, {flat(1, 8)}), QList<double>{1}); // another length starts anew
+        sampler.reset(8);
+        sampler.append(sample(1, 1), 100);
+        QCOMPARE(shown(sampler, {flat(0.5, 8)}), QList<double>{0.5});
+    }
+
+    void clipping_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<float>("value");
+        QTest::addColumn<int>("clipped");
+        QTest::addRow("acceleration below") << 0 << 15.999F << 0;
+        QTest::addRow("acceleration at the limit") << 0 << -16.0F << 1;
+        QTest::addRow("angular velocity below") << 1 << 999.9F << 0;
+        QTest::addRow("angular velocity at the limit") << 1 << 1000.0F << 1;
+        QTest::addRow("not a number") << 0 << kNan << 1;
+        QTest::addRow("infinite") << 1 << -kInfinite << 1;
+    }
+    void clipping()
+    {
+        QFETCH(int, type);
+        QFETCH(float, value);
+        FftSampler sampler;
+        sampler.setSpectrumType(FftSpectrumType(type));
+        sampler.append(sample(1, 0, value), 100);
+        QTEST(sampler.telemetry().clippedSamples, "clipped");
+    }
+
+    void badSamplesPoisonNothing()
+    {
+        FftSampler sampler;
+        sampler.reset(16);
+        for (quint32 i = 0; i < 16; ++i)
+            sampler.append(i % 4 == 1 ? sample(i, kNan, kInfinite, 3e38F) : sample(i, 2, 3, 6), 100);
+        const auto batch = sampler.nextBatch();
+        QCOMPARE(batch->samples[0], QList<double>(16, 2000));
+        QCOMPARE(batch->samples[1], QList<double>(16, 3000));
+        QVERIFY(std::isfinite(sampler.normDeviation()) && sampler.normDeviation() > 1e30);
+        for (quint32 i = 0; i < FftSampler::kRecomputeEvery; ++i)
+            sampler.append(sample(100 + i, 2, 3, 6), 100);
+        QCOMPARE(sampler.normDeviation(), 0.0);
+    }
+
+    void normStatistics()
+    {
+        FftSampler sampler;
+        sampler.reset(64);
+        std::mt19937 random(1);
+        std::uniform_real_distribution<float> uniform(-1, 1);
+        QList<double> norms;
+        for (quint32 i = 0; i < 3 * FftSampler::kRecomputeEvery / 2; ++i) {
+            const float v[] = {uniform(random), uniform(random), 1 + uniform(random)};
+            sampler.append(sample(i, v[0], v[1], v[2]), 100);
+            norms.append(1000.0 * std::hypot(v[0], v[1], v[2]));
+            if (norms.size() > 64)
+                norms.removeFirst();
+            QVERIFY(std::abs(sampler.normDeviation() - deviation(norms)) < 0.01);
+        }
+        sampler.reset(1);
+        sampler.append(sample(1, 1), 100);
+        sampler.append(sample(2, 5), 100);
+        QCOMPARE(sampler.normDeviation(), 0.0);
+    }
+
+    void anotherTypeForgetsSamples()
+    {
+        FftSampler sampler;
+        sampler.append(sample(1, 1), 100);
+        sampler.setSpectrumType(FftSpectrumType::AngularVelocity);
+        sampler.reset(512);
+        sampler.append(sample(2, 4), 100);
+        QCOMPARE(sampler.nextBatch()->samples[0], QList<double>{8});
+    }
+};
+
+QTEST_GUILESS_MAIN(TestFftSampler)
+#include "tst_fft_sampler.moc"
