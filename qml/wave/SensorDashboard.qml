@@ -113,8 +113,8 @@ Item {
 
                 objectName: "chart_" + modelData
                 visible: place >= 0
-                x: Math.round((place % dashboard.columns) * (cellWidth + grid.gap))
-                y: Math.round(Math.floor(place / dashboard.columns) * (cellHeight + grid.gap))
+                x: Math.round((Math.max(0, place) % dashboard.columns) * (cellWidth + grid.gap))
+                y: Math.round(Math.floor(Math.max(0, place) / dashboard.columns) * (cellHeight + grid.gap))
                 width: Math.round(cellWidth)
                 height: Math.round(cellHeight)
                 bridge: dashboard.bridge.backend(modelData)

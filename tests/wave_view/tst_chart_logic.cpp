@@ -1,0 +1,289 @@
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <cmath>
+#include <limits>
+
+#include "wave/axis_ticks.h"
+#include "wave/chart_axis.h"
+#include "wave/chart_export.h"
+#include "wave/chart_range.h"
+#include "wave/chart_text.h"
+#include "wave/chart_view_state.h"
+#include "wave/series_geometry.h"
+
+using chart_range::Range;
+
+namespace {
+
+constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr double kInf = std::numeric_limits<double>::infinity();
+
+/// Ten samples a second from `fromMs` on; X counts up, the rest is 1.
+void push(WaveChartBridge &bridge, unsigned int fromMs, int count)
+{
+    for (int i = 0; i < count; ++i) {
+        const unsigned int stamp = fromMs + 100U * unsigned(i);
+        const float values[] = {float(stamp), 1, 1, 1};
+        bridge.pushSample(values, 4, stamp);
+    }
+}
+
+struct Chart
+{
+    WaveChartBridge bridge{QStringLiteral("acc")};
+    ChartViewState view;
+    Chart()
+    {
+        bridge.setObserved(true);
+        view.setBridge(&bridge);
+    }
+    /// Pushes and lets the bridge's notification arrive.
+    void add(unsigned int fromMs, int count)
+    {
+        QSignalSpy changed(&bridge, &WaveChartBridge::dataChanged);
+        push(bridge, fromMs, count);
+        if (changed.isEmpty())
+            changed.wait();
+    }
+    /// Stamp of the sample at a place of the window, in seconds: X counts in milliseconds.
+    double stampAt(double x) { return bridge.getValuesAtTime(x).value(0).toDouble() / 1000; }
+};
+
+} // namespace
+
+class tst_chart_logic : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void ticks_data()
+    {
+        QTest::addColumn<double>("min");
+        QTest::addColumn<double>("max");
+        QTest::addColumn<double>("length");
+        QTest::addColumn<QString>("labels");
+        QTest::newRow("units") << -4.0 << 8.0 << 300.0 << QStringLiteral("−4 −2 0 2 4 6 8");
+        QTest::newRow("one decimal, ends off the grid") << -0.3 << 0.9 << 150.0 << QStringLiteral("0.0 0.5");
+        QTest::newRow("hundredths") << 1.0 << 1.05 << 250.0 << QStringLiteral("1.00 1.01 1.02 1.03 1.04 1.05");
+        QTest::newRow("large") << 0.0 << 2e6 << 100.0 << QStringLiteral("0 1.00e+06 2.00e+06");
+        QTest::newRow("no room") << 0.0 << 1.0 << 20.0 << QString();
+        QTest::newRow("empty span") << 1.0 << 1.0 << 300.0 << QString();
+        QTest::newRow("no span") << -kInf << kNaN << 300.0 << QString();
+    }
+    void ticks()
+    {
+        QFETCH(double, min);
+        QFETCH(double, max);
+        QFETCH(double, length);
+        ChartAxis axis;
+        axis.setSpacing(50);
+        axis.setLength(length);
+        axis.setMin(min);
+        axis.setMax(max);
+        QTEST(axis.labels().join(u' '), "labels");
+        QCOMPARE(axis.count(), axis.labels().size());
+        for (const double place : axis.positions())
+            QVERIFY(place > -1e-6 && place < 1 + 1e-6);
+    }
+
+    void numbers()
+    {
+        QCOMPARE(axis_ticks::number(-0.0004, 3), QStringLiteral("0.000"));
+        QCOMPARE(axis_ticks::signedNumber(0.0004, 3), QStringLiteral("0.000"));
+        QCOMPARE(axis_ticks::signedNumber(0.5, 1), QStringLiteral("+0.5"));
+        QCOMPARE(axis_ticks::number(-kInf, 1), QStringLiteral("−∞"));
+        QCOMPARE(chart_text::unit(QStringLiteral("加速度（G）")), QStringLiteral("G"));
+        QCOMPARE(chart_text::name(QStringLiteral("Angular Velocity (°/s)")), QStringLiteral("Angular Velocity"));
+        QCOMPARE(chart_text::unit(QStringLiteral("Pressure")), QString());
+    }
+
+    void timeWindow_data()
+    {
+        QTest::addColumn<Range>("wanted");
+        QTest::addColumn<Range>("got");
+        QTest::newRow("inside") << Range{-8, -3} << Range{-8, -3};
+        QTest::newRow("beyond the newest") << Range{-4, 2} << Range{-6, 0};
+        QTest::newRow("before the oldest") << Range{-40, -35} << Range{-30, -25};
+        QTest::newRow("longer than the history ends at the newest") << Range{-70, -20} << Range{-50, 0};
+        QTest::newRow("too long") << Range{-500, 0} << Range{-60, 0};
+        QTest::newRow("too short") << Range{-1.001, -1} << Range{-1.01, -1};
+        QTest::newRow("snapped") << Range{-8.00049, -3.00049} << Range{-8, -3};
+        QTest::newRow("no window") << Range{kNaN, 0} << Range{-60, 0};
+    }
+    void timeWindow()
+    {
+        QFETCH(Range, wanted);
+        QFETCH(Range, got);
+        const Range limited = chart_range::limited(wanted, {.history = -30});
+        QVERIFY2(std::abs(limited.min - got.min) < 1e-9 && std::abs(limited.max - got.max) < 1e-9,
+                 qPrintable(QStringLiteral("%1 %2").arg(limited.min).arg(limited.max)));
+    }
+
+    void fit_data()
+    {
+        QTest::addColumn<Range>("current");
+        QTest::addColumn<double>("low");
+        QTest::addColumn<double>("high");
+        QTest::addColumn<Range>("got");
+        QTest::newRow("first data") << Range{-32, 32} << -1.1 << 2.3 << Range{-2, 3};
+        QTest::newRow("small growth stays") << Range{-2, 3} << -1.9 << 2.9 << Range{-2, 3};
+        QTest::newRow("small shrinking stays") << Range{-2, 3} << -0.6 << 2.0 << Range{-2, 3};
+        QTest::newRow("leaving expands") << Range{-2, 3} << -1.0 << 3.1 << Range{-2, 4};
+        QTest::newRow("great shrinking fits") << Range{-2, 3} << -0.2 << 0.2 << Range{-0.3, 0.3};
+        QTest::newRow("flat line keeps the least span") << Range{-32, 32} << 1.0 << 1.0 << Range{0.94, 1.06};
+        QTest::newRow("usual data keep the usual range") << Range{-1, 1} << -31.9 << 31.9 << Range{-32, 32};
+        QTest::newRow("unusual data are shown") << Range{-1, 1} << 0.0 << 45.0 << Range{-10, 50};
+        QTest::newRow("no data") << Range{-1, 1} << kInf << -kInf << Range{-1, 1};
+    }
+    void fit()
+    {
+        QFETCH(Range, current);
+        QFETCH(double, low);
+        QFETCH(double, high);
+        QFETCH(Range, got);
+        const Range fitted = chart_range::fitted(current, low, high, {-32, 32, 0.1});
+        QVERIFY2(std::abs(fitted.min - got.min) < 1e-9 && std::abs(fitted.max - got.max) < 1e-9,
+                 qPrintable(QStringLiteral("%1 %2").arg(fitted.min).arg(fitted.max)));
+        const Range huge = chart_range::fitted(current, -1.7e308, 1.7e308, {-32, 32, 0.1});
+        QVERIFY(std::isfinite(huge.span()) && huge.span() > 0);
+    }
+
+    void followsOrStaysOnItsSamples()
+    {
+        Chart chart;
+        chart.add(100, 301); // 30 s
+        QCOMPARE(chart.view.xViewMin(), -10.0);
+        chart.add(30200, 20);
+        QVERIFY(chart.view.isFollowing());
+        QCOMPARE(chart.view.xViewMin(), -10.0);
+
+        chart.view.panX(-1); // ten seconds back
+        chart.view.placeCursor(0, -15);
+        chart.view.placeCursor(1, -12);
+        const double edge = chart.stampAt(chart.view.xViewMax());
+        const double cursor = chart.stampAt(chart.view.cursors().at(0));
+        QCOMPARE(chart.view.measurement().mid(0, 3).join(u','),
+                 QStringLiteral("Δt 3.000 s,1/Δt 0.333 Hz,ΔX +3000.000"));
+        chart.add(32200, 50);
+        QCOMPARE(chart.stampAt(chart.view.xViewMax()), edge);
+        QCOMPARE(chart.stampAt(chart.view.cursors().at(0)), cursor);
+
+        // An inactive view catches up.
+        chart.view.setActive(false);
+        chart.add(37200, 30);
+        chart.view.setActive(true);
+        QCOMPARE(chart.stampAt(chart.view.xViewMax()), edge);
+
+        // Emptied and filled anew, the old place and the old cursors mean nothing.
+        chart.bridge.reset();
+        chart.add(100, 3);
+        QVERIFY(chart.view.isFollowing() && !chart.view.hasCursors());
+    }
+
+    void leavesTheHistoryWithItsSamples()
+    {
+        Chart chart;
+        chart.add(1, 10);
+        chart.add(1000, 1000);
+        for (int i = 0; i < 20; ++i)
+            chart.view.panX(-1);
+        QCOMPARE(chart.view.xViewMin(), chart.bridge.xHistoryMin());
+        const int before = int(chart.view.xViewMin());
+        chart.add(101000, WaveformDataModel::kCapacity); // everything seen so far is overwritten
+        QVERIFY(chart.view.isFollowing() || chart.view.xViewMin() >= chart.bridge.xHistoryMin());
+        QVERIFY(chart.view.xViewMin() != before);
+    }
+
+    void zoomsAboutThePointer()
+    {
+        Chart chart;
+        chart.add(100, 301);
+        chart.view.wheel(120, 0.25, 0.5, false);
+        QVERIFY2(chart.view.isFollowing() && qFuzzyCompare(chart.view.xViewMin(), -8.0),
+                 "passing samples hold the edge");
+        chart.bridge.setPlaying(false);
+        chart.view.reset();
+        chart.view.wheel(240, 0.25, 0.5, false);
+        QCOMPARE(chart.view.xViewMin() + 0.25 * (chart.view.xViewMax() - chart.view.xViewMin()), -7.5);
+        QVERIFY(chart.view.isYAutomatic());
+        const double middle = (chart.view.yViewMin() + chart.view.yViewMax()) / 2;
+        chart.view.wheel(-120, 0.5, 0.5, true);
+        QVERIFY(!chart.view.isYAutomatic());
+        QCOMPARE((chart.view.yViewMin() + chart.view.yViewMax()) / 2, middle);
+        const double bottom = chart.view.yViewMin();
+        chart.view.fitValues(0, 1);
+        QCOMPARE(chart.view.yViewMin(), bottom);
+        for (int i = 0; i < 400; ++i) {
+            chart.view.wheel(1200, 0.5, 0.5, i % 2);
+            QVERIFY(chart.view.xViewMax() - chart.view.xViewMin() > 0.0099);
+            QVERIFY(chart.view.yViewMax() - chart.view.yViewMin() > 0.099);
+        }
+        for (int i = 0; i < 400; ++i)
+            chart.view.wheel(-1200, 0.5, 0.5, i % 2);
+        QVERIFY(std::isfinite(chart.view.yViewMax()) && chart.view.xViewMin() >= -60);
+        chart.view.reset();
+        chart.view.fitValues(0, 1);
+        QCOMPARE(chart.view.yViewMin(), -0.2);
+    }
+
+    void keys()
+    {
+        Chart chart;
+        QVERIFY(!chart.view.handleKey(Qt::Key_Space, 0));
+        chart.add(100, 301);
+        QVERIFY(chart.view.handleKey(Qt::Key_Left, 0));
+        QCOMPARE(chart.view.xViewMax(), -1.0);
+        QVERIFY(chart.view.handleKey(Qt::Key_Plus, Qt::ControlModifier));
+        QVERIFY(!chart.view.isYAutomatic());
+        chart.view.setHoverX(-4);
+        QVERIFY(chart.view.handleKey(Qt::Key_A, 0));
+        QCOMPARE(chart.view.cursors().at(0), -4.0);
+        QVERIFY(chart.view.handleKey(Qt::Key_Home, 0));
+        QVERIFY(chart.view.isFollowing() && chart.view.isYAutomatic() && chart.view.hasCursors());
+        QVERIFY(chart.view.handleKey(Qt::Key_Escape, 0));
+        QVERIFY2(!chart.view.handleKey(Qt::Key_Escape, 0), "without cursors Esc belongs to the window");
+    }
+
+    void lines()
+    {
+        using namespace series_geometry;
+        const Plot plot{{-10, 0}, {-1, 1}, 100, 50};
+        std::vector<QPointF> pixels;
+        toPixels({{0, 0.0}, {-5, kNaN}, {-6, 1.0}, {-7, -kInf}, {-8, 1e300}, {-9, -1e300}}, plot, pixels);
+        QCOMPARE(pixels.at(0), QPointF(100, 25));
+        QVERIFY(std::isnan(pixels.at(1).y()) && std::isnan(pixels.at(3).y()));
+        QCOMPARE(pixels.at(2), QPointF(40, 0));
+        std::vector<Vertex> strip;
+        appendStrip(pixels, 1.25, strip);
+        for (const Vertex &vertex : strip) {
+            QVERIFY(std::isfinite(vertex.x) && std::abs(vertex.y) < 32768);
+            QVERIFY2(std::abs(vertex.x - 50) > 5, "nothing is drawn across the gap");
+        }
+        strip.clear();
+        appendStrip({{0, 0}, {10, 0}, {20, 0}}, 1, strip);
+        QCOMPARE(strip.size(), size_t(6)); // a straight line shares its corners
+        QCOMPARE(strip.at(2).y, -1.0F);
+    }
+
+    void exportsWhatIsVisible()
+    {
+        Chart chart;
+        push(chart.bridge, 1000, 30);
+        const float broken[] = {float(kNaN), -0.125F, 1e-20F, float(kInf)};
+        chart.bridge.pushSample(broken, 4, 4000);
+        QCOMPARE(chart_export::csv(chart.bridge, -0.2, 0),
+                 QByteArray("time (s),X (G),Y (G),Z (G),Norm (G)\n-0.200,3800,1,1,1\n-0.100,3900,1,1,1\n"
+                            "0.000,nan,-0.125,9.99999968e-21,inf\n"));
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("a.csv"));
+        QCOMPARE(chart_export::write(path, "x"), QString());
+        QVERIFY(QFile::exists(path));
+        QVERIFY(
+            chart_export::write(folder.filePath(QStringLiteral("none/a.csv")), "x").contains(QLatin1String("a.csv")));
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_chart_logic)
+#include "tst_chart_logic.moc"

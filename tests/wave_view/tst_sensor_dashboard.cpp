@@ -1,0 +1,260 @@
+#include <QFileDialog>
+#include <QQuickItem>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QtTest>
+
+#include <cmath>
+#include <limits>
+
+#include "app/settings_keys.h"
+#include "wave/chart_saver.h"
+#include "wave/form_sensor_dashboard.h"
+#include "wave/series_item.h"
+
+namespace {
+
+QQuickItem *find(QQuickItem *root, const char *name)
+{
+    if (root->objectName() == QLatin1String(name))
+        return root;
+    for (QQuickItem *child : root->childItems()) {
+        if (QQuickItem *found = find(child, name))
+            return found;
+    }
+    return nullptr;
+}
+
+/// The window with its acceleration chart. Red is X, which no other part of a plot is.
+struct Bench
+{
+    form_sensor_dashboard window;
+    QQuickItem *chart = find(window.rootObject(), "chart_acc");
+    QQuickItem *plot = find(chart, "plotMouse");
+    SeriesItem *series = qobject_cast<SeriesItem *>(find(chart, "series"));
+    ChartViewState *view = series->viewState();
+
+    explicit Bench(const QStringList &types = {QStringLiteral("acc")})
+    {
+        for (const QString &type : window.bridge().sensorTypes())
+            window.bridge().setSensorSelected(type, types.contains(type));
+        window.resize(800, 500);
+        window.open();
+    }
+    bool isShown() { return QTest::qWaitForWindowActive(&window); }
+    /// Samples from `fromMs` to `toMs`, 100 a second; X is broken from -6 s to -4 s of a ten second picture.
+    void push(unsigned int fromMs, unsigned int toMs)
+    {
+        for (unsigned int ms = fromMs; ms < toMs; ms += 10) {
+            const float t = float(ms) / 1000;
+            const bool gap = ms > 4000 && ms < 6000;
+            const float x = gap ? std::numeric_limits<float>::quiet_NaN() : std::sin(t * 3);
+            const float values[] = {x, 0.5F, -0.5F, 1};
+            window.bridge().pushSample(QStringLiteral("acc"), values, 4, ms);
+        }
+    }
+    /// Red pixels of the plot between two fractions of its width.
+    int red(double from = 0, double to = 1)
+    {
+        const QImage image = window.grabWindow();
+        const double scale = image.width() / double(window.width());
+        const QRectF area =
+            plot->mapRectToScene(QRectF(from * plot->width(), 0, (to - from) * plot->width(), plot->height()));
+        int count = 0;
+        for (int y = int(area.top() * scale); y < int(area.bottom() * scale); ++y) {
+            for (int x = int(area.left() * scale); x < int(area.right() * scale); ++x) {
+                const QColor pixel = image.pixelColor(x, y);
+                count += pixel.red() > pixel.green() + 60 && pixel.red() > pixel.blue() + 60;
+            }
+        }
+        return count;
+    }
+    QPoint at(double x, double y) { return plot->mapToScene(QPointF(x * plot->width(), y * plot->height())).toPoint(); }
+    void click(QQuickItem *item)
+    {
+        QTest::mouseClick(&window, Qt::LeftButton, {}, item->mapToScene(item->boundingRect().center()).toPoint());
+    }
+    void wheel(double x, Qt::KeyboardModifiers modifiers)
+    {
+        const QPointF place = at(x, 0.5);
+        QWheelEvent event(place, window.mapToGlobal(place), {}, {0, 120}, Qt::NoButton, modifiers, Qt::NoScrollPhase,
+                          false);
+        QCoreApplication::sendEvent(&window, &event);
+    }
+};
+
+} // namespace
+
+class tst_sensor_dashboard : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { QFile::remove(settings_keys::kFile); }
+
+    void showsSamplesAndGaps()
+    {
+        Bench bench;
+        QVERIFY(bench.isShown());
+        QCOMPARE(bench.red(), 0);
+        bench.push(1, 10000);
+        QTRY_VERIFY(bench.red(0.7, 1) > 100);
+        QVERIFY(bench.red(0, 0.35) > 100);
+        QCOMPARE(bench.red(0.42, 0.58), 0);
+        QTRY_VERIFY(!find(bench.chart, "legend_Norm")->property("value").toString().isEmpty());
+
+        bench.click(find(bench.chart, "legend_X"));
+        QTRY_COMPARE(bench.red(), 0);
+        bench.click(find(bench.chart, "legend_X"));
+        QTRY_VERIFY(bench.red() > 100);
+
+        // Pausing keeps the picture.
+        QTest::keyClick(&bench.window, Qt::Key_Space);
+        QVERIFY(!bench.window.bridge().playing());
+        const int polishes = bench.series->polishCount();
+        bench.push(10000, 15000);
+        QVERIFY(bench.red(0.7, 1) > 100);
+        QCOMPARE(bench.series->polishCount(), polishes);
+        bench.click(find(bench.window.rootObject(), "playButton"));
+        QVERIFY(bench.window.bridge().playing());
+
+        // A chart that is not chosen costs nothing.
+        bench.window.bridge().setSensorSelected(QStringLiteral("acc"), false);
+        QTRY_VERIFY(find(bench.window.rootObject(), "noChart")->isVisible());
+        const int before = bench.series->polishCount();
+        bench.push(15000, 16000);
+        QVERIFY(bench.red() == 0 && bench.series->polishCount() == before);
+    }
+
+    void followsTheMouse()
+    {
+        Bench bench;
+        QVERIFY(bench.isShown());
+        bench.push(1, 20000);
+        QTRY_VERIFY(bench.view->hasData());
+        bench.window.bridge().setPlaying(false);
+
+        bench.wheel(0.5, Qt::NoModifier);
+        QVERIFY(bench.view->xViewMax() < -0.5 && bench.view->xViewMin() > -9.5);
+        QVERIFY(bench.view->isYAutomatic());
+        bench.wheel(0.5, Qt::ControlModifier);
+        QVERIFY(!bench.view->isYAutomatic());
+        QTest::mouseDClick(&bench.window, Qt::LeftButton, {}, bench.at(0.5, 0.5));
+        QTRY_VERIFY(bench.view->isYAutomatic() && bench.view->xViewMax() == 0 && bench.view->xViewMin() == -10);
+
+        QTest::mousePress(&bench.window, Qt::LeftButton, {}, bench.at(0.2, 0.5));
+        QTest::mouseMove(&bench.window, bench.at(0.4, 0.5));
+        QTest::mouseMove(&bench.window, bench.at(0.7, 0.5));
+        QTest::mouseRelease(&bench.window, Qt::LeftButton, {}, bench.at(0.7, 0.5));
+        QVERIFY2(std::abs(bench.view->xViewMax() + 5) < 0.1, qPrintable(QString::number(bench.view->xViewMax())));
+        QVERIFY(bench.view->hoverTexts().size() == 4);
+
+        QTest::keyClick(&bench.window, Qt::Key_B);
+        QVERIFY(std::abs(bench.view->cursors().at(1) - bench.view->hoverX()) < 1e-9);
+        const double before = bench.view->cursors().at(1);
+        QTest::mousePress(&bench.window, Qt::LeftButton, {}, bench.at(0.7, 0.5));
+        QTest::mouseMove(&bench.window, bench.at(0.6, 0.5));
+        QTest::mouseMove(&bench.window, bench.at(0.5, 0.5));
+        QTest::mouseRelease(&bench.window, Qt::LeftButton, {}, bench.at(0.5, 0.5));
+        QVERIFY2(std::abs(bench.view->cursors().at(1) - before + 2) < 0.1, "the cursor is dragged, not the picture");
+        QVERIFY(std::abs(bench.view->xViewMax() + 5) < 0.1);
+    }
+
+    void savesDataAndPicture()
+    {
+        Bench bench;
+        QVERIFY(bench.isShown());
+        bench.push(1, 2000);
+        QTRY_VERIFY(bench.view->hasData());
+        const QTemporaryDir folder;
+        for (const char *button : {"saveData", "savePicture"}) {
+            bench.click(find(bench.chart, button));
+            QFileDialog *dialog = nullptr;
+            QTRY_VERIFY((dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget())));
+            QCOMPARE(dialog->windowHandle()->transientParent(), &bench.window);
+            dialog->setDirectory(folder.path());
+            QVERIFY(QMetaObject::invokeMethod(dialog, "accept"));
+            QTRY_VERIFY2(!QApplication::activeModalWidget(), button);
+            QVERIFY2(!bench.window.saver()->hasFailed() && !bench.window.saver()->message().isEmpty(), button);
+        }
+        const QStringList files = QDir(folder.path()).entryList({}, QDir::Files, QDir::Name); // acc_<time>.csv and .png
+        QCOMPARE(files.size(), 2);
+        QFile csv(folder.filePath(files.at(0)));
+        QVERIFY(csv.open(QIODevice::ReadOnly));
+        QCOMPARE(csv.readAll().count('\n'), 201);
+        const QImage picture(folder.filePath(files.at(1)));
+        QCOMPARE(picture.size(), (bench.chart->size() * bench.window.devicePixelRatio()).toSize());
+        QCOMPARE(
+            QSettings(settings_keys::kFile, QSettings::IniFormat).value(QStringLiteral("SENSOR_DASHBOARD/SAVE_FOLDER")),
+            folder.path());
+    }
+
+    void tellsWhyAFilterIsRefused()
+    {
+        Bench bench;
+        QVERIFY(bench.isShown());
+        bench.window.bridge().setFrameRate(10);
+        bench.click(find(bench.chart, "filterButton"));
+        QQuickItem *cutoff = find(bench.chart, "filterCutoff");
+        QQuickItem *problem = find(bench.chart, "filterProblem");
+        QTRY_VERIFY(cutoff->isVisible());
+        const auto enter = [&](const QString &text) {
+            cutoff->forceActiveFocus();
+            cutoff->setProperty("text", text);
+            QTest::keyClick(&bench.window, Qt::Key_Return);
+        };
+        enter(QStringLiteral("0.01"));
+        QVERIFY(!problem->isVisible());
+        bench.click(find(bench.chart, "filterSwitch"));
+        QTRY_VERIFY(problem->isVisible() && !problem->property("text").toString().isEmpty());
+        QVERIFY(!bench.view->bridge()->filterOn());
+        enter(QStringLiteral("abc"));
+        QCOMPARE(cutoff->property("text").toString(), QStringLiteral("0.01"));
+        enter(QStringLiteral("2"));
+        QTRY_VERIFY(!problem->isVisible());
+        QVERIFY(bench.view->bridge()->filterOn());
+    }
+
+    void remembersSelectionAndPlace()
+    {
+        for (const char *hostile :
+             {"SELECTED_SENSORS=gyr, bogus, prs\nPLACE=@Rect(-90000 5 1000000 1000000)\nMAXIMIZED=x",
+              "SELECTED_SENSORS=gyr, prs\nPLACE=\"@Variant(\\0\\0\\0\\x13garbage\"\nSAVE_FOLDER=7"}) {
+            QFile file(settings_keys::kFile);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write("[SENSOR_DASHBOARD]\n" + QByteArray(hostile));
+            file.close();
+            form_sensor_dashboard window;
+            QCOMPARE(window.bridge().selectedSensorTypes().join(u','), QStringLiteral("gyr,prs"));
+            QVERIFY(window.screen()->availableGeometry().contains(window.geometry()));
+            window.open();
+            QVERIFY(QTest::qWaitForWindowExposed(&window) && window.bridge().dashboardActive());
+            QQuickItem *chip = find(window.rootObject(), "chip_eul");
+            QTest::mouseClick(&window, Qt::LeftButton, {}, chip->mapToScene(chip->boundingRect().center()).toPoint());
+            QTRY_VERIFY(find(window.rootObject(), "chart_eul")->isVisible());
+            window.resize(700, 450);
+            QTRY_COMPARE(find(window.rootObject(), "noChart")->window()->width(), 700);
+            window.close();
+            QVERIFY(!window.bridge().dashboardActive());
+        }
+        const form_sensor_dashboard again;
+        QCOMPARE(const_cast<form_sensor_dashboard &>(again).bridge().selectedSensorTypes().join(u','),
+                 QStringLiteral("gyr,eul,prs"));
+        QCOMPARE(again.size(), QSize(700, 450));
+    }
+
+    void showsOnePaneAlone()
+    {
+        Bench bench({QStringLiteral("acc"), QStringLiteral("gyr")});
+        QVERIFY(bench.isShown());
+        const qreal width = bench.chart->width();
+        bench.click(find(bench.chart, "maximizeButton"));
+        QTRY_VERIFY(bench.chart->width() > 1.8 * width);
+        QVERIFY(!find(bench.window.rootObject(), "chart_gyr")->isVisible());
+        QTest::keyClick(&bench.window, Qt::Key_Escape);
+        QTRY_COMPARE(bench.chart->width(), width);
+    }
+};
+
+QTEST_MAIN(tst_sensor_dashboard)
+#include "tst_sensor_dashboard.moc"
