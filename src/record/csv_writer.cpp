@@ -140,10 +140,21 @@ void CsvWriter::drainPending()
 void CsvWriter::flushPendingAndClose()
 {
     drainPending();
-    if (m_file->isOpen()) {
-        flush();
-        m_file->close();
-    }
+    closeFile();
+}
+
+/// Closes the file, if it is open, and counts the records whose end the disk did not take.
+void CsvWriter::closeFile()
+{
+    if (!m_file->isOpen())
+        return;
+    flush();
+    m_file->close();
+    if (!m_hasFileError)
+        return;
+    m_fileSize = m_file->size();
+    for (const qint64 end : qAsConst(m_unflushedEnds))
+        m_lostRecords += end > m_fileSize ? 1 : 0;
 }
 
 void CsvWriter::writePendingRecord(const PendingRecord &record)
@@ -195,10 +206,8 @@ QString CsvWriter::pathOf(const QString &basePath, const QDateTime &start)
 
 void CsvWriter::openNewFile(const QDateTime &start)
 {
-    if (m_file && m_file->isOpen()) {
-        flush();
-        m_file->close();
-    }
+    if (m_file)
+        closeFile();
     // An hour that the clock goes through twice would name a file of this recording again and empty it.
     QDateTime nameTime = start;
     QString path = pathOf(m_basePath, nameTime);
@@ -214,6 +223,7 @@ void CsvWriter::openNewFile(const QDateTime &start)
     m_headerWritten.fill(false);
     m_bytesSinceFlush = 0;
     m_fileSize = 0;
+    m_unflushedEnds.clear();
     m_slots62.fill(kFreeSlot, kGroups);
     m_slots63.fill(kFreeSlot, kGroups);
     {
@@ -241,8 +251,12 @@ bool CsvWriter::give(const QByteArray &bytes)
 void CsvWriter::flush()
 {
     m_bytesSinceFlush = 0;
-    if (m_file->isOpen())
-        setFileError(m_file->flush() ? QString() : m_file->errorString());
+    if (!m_file->isOpen())
+        return;
+    const bool isFlushed = m_file->flush();
+    if (isFlushed)
+        m_unflushedEnds.clear();
+    setFileError(isFlushed ? QString() : m_file->errorString());
 }
 
 void CsvWriter::setFileError(const QString &error)
@@ -262,7 +276,9 @@ void CsvWriter::writeHeader(const QByteArray &header)
 
 void CsvWriter::writeLine(const QByteArray &line)
 {
-    if (!give(line))
+    if (give(line))
+        m_unflushedEnds.append(m_fileSize);
+    else
         ++m_lostRecords;
     m_bytesSinceFlush += line.size();
     if (m_bytesSinceFlush > kFlushAbove)

@@ -71,13 +71,13 @@ public:
 
     /// Path of the file that was opened, or tried, last. Any thread, as all below.
     QString filePath() const;
-    /// Bytes of records and headers given to that file.
+    /// Bytes of records and headers given to that file, or what the disk took of them once it is closed.
     qint64 fileSize() const { return m_fileSize; }
     /// The system's words for why opening, writing or flushing failed last; empty when it works, or works again.
     QString fileError() const;
     /// Records that were dropped because the queue was full.
     unsigned int droppedRecords() const { return m_droppedRecords; }
-    /// Records that no file took.
+    /// Records that no file took. Those that a full disk refuses at the end are counted when the file is closed.
     unsigned int lostRecords() const { return m_lostRecords; }
 
 public slots:
@@ -117,6 +117,7 @@ private:
     void writeLine(const QByteArray &line);
     bool give(const QByteArray &bytes);
     void flush();
+    void closeFile();
     void setFileError(const QString &error);
 
     std::unique_ptr<QFile> m_file;
@@ -132,8 +133,9 @@ private:
     bool m_drainScheduled = false;
     bool m_overflowReported = false;
 
-    QSet<QString> m_usedPaths;   ///< files of this recording: none is opened twice
-    bool m_hasFileError = false; ///< writer's thread: fileError() is not empty
+    QSet<QString> m_usedPaths;     ///< files of this recording: none is opened twice
+    QList<qint64> m_unflushedEnds; ///< where the records end that were given to the file since the last flush
+    bool m_hasFileError = false;   ///< writer's thread: fileError() is not empty
     QString m_filePath;
     QString m_fileError;
     std::atomic<qint64> m_fileSize = 0;
