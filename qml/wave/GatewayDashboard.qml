@@ -116,7 +116,8 @@ Item {
             readonly property int gap: 8
             readonly property int columns: dashboard.shownPanes.length > 1 ? dashboard.bridge.paneColumns : 1
             readonly property int rows: Math.ceil(dashboard.shownPanes.length / columns)
-            readonly property real cellWidth: (width - gap * (columns - 1)) / columns
+            readonly property int barWidth: contentHeight > height ? 12 : 0
+            readonly property real cellWidth: (width - barWidth - gap * (columns - 1)) / columns
             readonly property real cellHeight: Math.max(170, (height - gap * (rows - 1)) / rows)
 
             anchors {
@@ -128,7 +129,7 @@ Item {
             }
             // Dragging belongs to the charts.
             interactive: false
-            clip: contentHeight > height
+            clip: true
             contentHeight: rows * (cellHeight + gap) - gap
             T.ScrollBar.vertical: SlimScrollBar {
                 x: charts.width - width
@@ -137,31 +138,21 @@ Item {
             Repeater {
                 model: dashboard.bridge.maxPaneCount
 
-                Loader {
-                    id: slot
-
+                GatewayPane {
                     required property int index
-                    readonly property var pane: dashboard.panes.find(pane => pane.slot === index) ?? null
                     readonly property int place: dashboard.shownPanes.findIndex(pane => pane.slot === index)
 
-                    active: pane !== null
+                    slot: index
+                    bridge: dashboard.panes.find(pane => pane.slot === index)?.backend ?? null
+                    saver: dashboard.saver
+                    maximized: dashboard.maximizedSlot === index
+                    canMaximize: maximized || dashboard.shownPanes.length > 1
                     visible: place >= 0
                     x: Math.round((place % charts.columns) * (charts.cellWidth + charts.gap))
                     y: Math.round(Math.floor(place / charts.columns) * (charts.cellHeight + charts.gap))
-                    width: Math.round(charts.cellWidth) - (charts.clip ? 10 : 0)
+                    width: Math.round(charts.cellWidth)
                     height: Math.round(charts.cellHeight)
-
-                    sourceComponent: WaveChart {
-                        id: chart
-
-                        objectName: "chart_" + slot.index
-                        bridge: slot.pane?.backend ?? null
-                        maximized: dashboard.maximizedSlot === slot.index
-                        canMaximize: maximized || dashboard.shownPanes.length > 1
-                        onPictureRequested: dashboard.saver.savePicture(viewState, chart)
-                        onDataRequested: dashboard.saver.saveData(viewState)
-                        onMaximizeRequested: dashboard.maximizedSlot = maximized ? -1 : slot.index
-                    }
+                    onMaximizeRequested: dashboard.maximizedSlot = maximized ? -1 : index
                 }
             }
         }

@@ -140,7 +140,8 @@ FocusScope {
             if (event.accepted)
                 (currentItem as T.ItemDelegate).clicked();
         }
-        T.ScrollBar.vertical: SlimScrollBar {}
+        T.ScrollBar.vertical: SlimScrollBar {
+        }
 
         delegate: T.ItemDelegate {
             id: row
