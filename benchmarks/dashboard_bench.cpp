@@ -27,7 +27,8 @@ void pushSample(SensorDashboardBridge &bridge, quint64 index, unsigned int rate)
     const double phase = std::fmod(t, 1.1);
     const double strike = std::exp(-phase * 9) * std::sin(phase * 60);
     auto noise = [state = static_cast<quint32>(index * 2654435761U)]() mutable {
-        state = state * 1664525U + 1013904223U;
+        state = (state ^ (state >> 15)) * 1664525U + 1013904223U;
+        state ^= state >> 13;
         return double(state >> 8) / double(1 << 24) - 0.5;
     };
     const auto push = [&](const char *type, std::initializer_list<double> values, bool norm) {

@@ -11,8 +11,9 @@ T.AbstractButton {
     property bool shown: true
     property string value
 
-    implicitWidth: contentItem.implicitWidth
-    implicitHeight: contentItem.implicitHeight + 4
+    implicitWidth: contentItem.implicitWidth + rightPadding
+    implicitHeight: contentItem.implicitHeight
+    rightPadding: 12
     hoverEnabled: true
     focusPolicy: Qt.TabFocus
     Accessible.role: Accessible.CheckBox
@@ -34,6 +35,7 @@ T.AbstractButton {
         }
         Text {
             anchors.verticalCenter: parent.verticalCenter
+            visible: text !== ""
             text: entry.value
             textFormat: Text.PlainText
             font: Theme.fixedSmallFont
@@ -42,7 +44,8 @@ T.AbstractButton {
     }
     background: Rectangle {
         anchors.fill: parent
-        anchors.margins: -3
+        anchors.leftMargin: -4
+        anchors.rightMargin: 6
         radius: 4
         color: entry.hovered ? Theme.background : "transparent"
         border.width: entry.visualFocus ? 2 : 0

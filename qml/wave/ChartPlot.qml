@@ -34,7 +34,7 @@ Item {
         min: plot.viewState.xViewMin
         max: plot.viewState.xViewMax
         length: area.width
-        spacing: metrics.digit * 7
+        spacing: metrics.digit * 9
         unit: "s"
     }
     ChartAxis {

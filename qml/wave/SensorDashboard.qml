@@ -12,7 +12,7 @@ Item {
     required property SensorDashboardBridge bridge
     required property ChartSaver saver
     property string maximizedType
-    /// The chart that the bar tells about: the one used last.
+    /// The chart that the bar tells about and that keys go to: the one under the pointer or used last.
     property WaveChart current
     readonly property var selectedTypes: bridge.selectedSensorTypes
     readonly property var shownTypes: selectedTypes.includes(maximizedType) ? [maximizedType] : selectedTypes
@@ -23,6 +23,8 @@ Item {
         event.accepted = true;
         if (event.key === Qt.Key_Space)
             bridge.togglePlaying();
+        else if (current && current.visible && current.viewState.handleKey(event.key, event.modifiers))
+            return;
         else if (event.key === Qt.Key_Escape && maximizedType !== "")
             maximizedType = "";
         else
@@ -48,7 +50,7 @@ Item {
 
             x: 12
             y: 8
-            width: parent.width - status.width - 36
+            width: parent.width - (status.visible ? status.width : 0) - 36
             spacing: 8
 
             ActionButton {
@@ -77,6 +79,7 @@ Item {
         Text {
             id: status
 
+            visible: dashboard.width > Theme.font.pointSize * 80
             anchors.right: parent.right
             anchors.rightMargin: 16
             anchors.verticalCenter: parent.verticalCenter
@@ -120,10 +123,7 @@ Item {
                 bridge: dashboard.bridge.backend(modelData)
                 maximized: dashboard.maximizedType === modelData
                 canMaximize: maximized || dashboard.shownTypes.length > 1
-                onActiveFocusChanged: {
-                    if (activeFocus)
-                        dashboard.current = pane;
-                }
+                onTouched: dashboard.current = pane
                 Component.onCompleted: {
                     if (!dashboard.current)
                         dashboard.current = pane;

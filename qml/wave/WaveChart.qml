@@ -15,14 +15,23 @@ FocusScope {
     property bool canMaximize: true
     property string emptyText: qsTr("Waiting for samples")
     readonly property alias viewState: view
+    /// Too low for live values beside the names, and too narrow for all buttons.
+    readonly property bool low: height < Theme.font.pointSize * 24
+    readonly property bool narrow: width < Theme.font.pointSize * 28
 
     signal pictureRequested
     signal dataRequested
     signal maximizeRequested
+    /// The pointer or the keyboard came to this chart.
+    signal touched
 
     activeFocusOnTab: true
     Accessible.role: Accessible.Chart
     Accessible.name: view.name
+    onActiveFocusChanged: {
+        if (activeFocus)
+            touched();
+    }
     Keys.onPressed: event => event.accepted = view.handleKey(event.key, event.modifiers)
 
     ChartViewState {
@@ -32,6 +41,12 @@ FocusScope {
         active: chart.visible
     }
 
+    HoverHandler {
+        onHoveredChanged: {
+            if (hovered)
+                chart.touched();
+        }
+    }
     Rectangle {
         anchors.fill: parent
         radius: 8
@@ -57,7 +72,7 @@ FocusScope {
             id: titleText
 
             anchors.verticalCenter: parent.verticalCenter
-            width: Math.min(implicitWidth, parent.width - tools.width - unitText.width - 12)
+            width: Math.max(0, Math.min(implicitWidth, parent.width - tools.width - unitText.width - 12))
             elide: Text.ElideRight
             text: view.name
             textFormat: Text.PlainText
@@ -84,6 +99,7 @@ FocusScope {
             ActionButton {
                 bare: true
                 visible: !view.following
+                checked: true
                 text: qsTr("Live")
                 hint: qsTr("Back to the newest samples")
                 keys: qsTr("Home")
@@ -94,13 +110,14 @@ FocusScope {
 
                 objectName: "filterButton"
                 bare: true
-                visible: chart.bridge !== null && chart.bridge.hasFilter
+                visible: !chart.narrow && chart.bridge !== null && chart.bridge.hasFilter
                 checkable: true
                 iconName: "filter"
                 hint: qsTr("Low-pass filter")
             }
             ActionButton {
                 bare: true
+                visible: !chart.narrow
                 enabled: view.hasData
                 checked: view.hasCursors
                 iconName: "cursors"
@@ -110,6 +127,7 @@ FocusScope {
             }
             ActionButton {
                 bare: true
+                visible: !chart.narrow
                 iconName: "reset"
                 hint: qsTr("Reset the view")
                 keys: qsTr("Home")
@@ -118,6 +136,7 @@ FocusScope {
             ActionButton {
                 bare: true
                 objectName: "savePicture"
+                visible: !chart.narrow
                 enabled: view.hasData
                 iconName: "picture"
                 hint: qsTr("Save a picture of the chart")
@@ -126,6 +145,7 @@ FocusScope {
             ActionButton {
                 bare: true
                 objectName: "saveData"
+                visible: !chart.narrow
                 enabled: view.hasData
                 iconName: "save"
                 hint: qsTr("Save the visible samples")
@@ -157,7 +177,6 @@ FocusScope {
 
         Flow {
             width: parent.width
-            spacing: 12
 
             Repeater {
                 model: chart.bridge ? chart.bridge.channelNames : []
@@ -170,19 +189,18 @@ FocusScope {
                     name: modelData
                     color: chart.bridge.channelColors[index]
                     shown: view.visibleChannels[index] ?? true
-                    value: view.liveTexts[index] ?? ""
+                    value: chart.low ? "" : view.liveTexts[index] ?? ""
                     onClicked: view.setChannelVisible(index, !shown)
                 }
             }
         }
         ChartFilterRow {
             width: parent.width
-            visible: filterButton.checked
+            visible: filterButton.checked && filterButton.visible
             bridge: chart.bridge
         }
         Flow {
             width: parent.width
-            spacing: 14
             visible: measurements.count > 0
 
             Repeater {
@@ -193,6 +211,7 @@ FocusScope {
                 Text {
                     required property string modelData
 
+                    rightPadding: 14
                     text: modelData
                     textFormat: Text.PlainText
                     font: Theme.fixedSmallFont

@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr QSize kMinimumSize{640, 420};
+constexpr QSize kMinimumSize{720, 480};
 constexpr QSize kDefaultSize{1280, 680};
 constexpr int kFrame = 48; ///< room for the window's frame and a task bar
 

@@ -232,15 +232,15 @@ private slots:
             QQuickItem *chip = find(window.rootObject(), "chip_eul");
             QTest::mouseClick(&window, Qt::LeftButton, {}, chip->mapToScene(chip->boundingRect().center()).toPoint());
             QTRY_VERIFY(find(window.rootObject(), "chart_eul")->isVisible());
-            window.resize(700, 450);
-            QTRY_COMPARE(find(window.rootObject(), "noChart")->window()->width(), 700);
+            window.resize(760, 490);
+            QTRY_COMPARE(find(window.rootObject(), "noChart")->window()->width(), 760);
             window.close();
             QVERIFY(!window.bridge().dashboardActive());
         }
         const form_sensor_dashboard again;
         QCOMPARE(const_cast<form_sensor_dashboard &>(again).bridge().selectedSensorTypes().join(u','),
                  QStringLiteral("gyr,eul,prs"));
-        QCOMPARE(again.size(), QSize(700, 450));
+        QCOMPARE(again.size(), QSize(760, 490));
     }
 
     void showsOnePaneAlone()
