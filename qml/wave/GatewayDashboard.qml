@@ -23,8 +23,16 @@ Item {
             bridge.setPlaying(!bridge.playing);
         else if (event.key === Qt.Key_Escape && maximizedSlot >= 0)
             maximizedSlot = -1;
+        else if (event.key === Qt.Key_PageDown || event.key === Qt.Key_PageUp)
+            charts.scroll((event.key === Qt.Key_PageDown ? 1 : -1) * charts.height * 0.8);
         else
             event.accepted = false;
+    }
+
+    FontMetrics {
+        id: metrics
+
+        font: Theme.font
     }
 
     Rectangle {
@@ -100,25 +108,30 @@ Item {
             margins: 8
         }
         visible: dashboard.bridge.nodeCount > 0
+        onVisibleChanged: if (visible)
+            table.forceActiveFocus()
 
         GatewayNodeTable {
             id: table
 
             width: implicitWidth
             height: parent.height
-            focus: true
             bridge: dashboard.bridge
         }
 
         Flickable {
             id: charts
 
+            function scroll(distance: real) {
+                contentY = Math.max(0, Math.min(contentY + distance, contentHeight - height));
+            }
+
             readonly property int gap: 8
             readonly property int columns: dashboard.shownPanes.length > 1 ? dashboard.bridge.paneColumns : 1
             readonly property int rows: Math.ceil(dashboard.shownPanes.length / columns)
-            readonly property int barWidth: contentHeight > height ? 12 : 0
+            readonly property int barWidth: contentHeight > height + 1 ? 12 : 0
             readonly property real cellWidth: (width - barWidth - gap * (columns - 1)) / columns
-            readonly property real cellHeight: Math.max(170, (height - gap * (rows - 1)) / rows)
+            readonly property real cellHeight: Math.max(metrics.height * 11, (height - gap * (rows - 1)) / rows)
 
             anchors {
                 left: table.right
@@ -127,12 +140,17 @@ Item {
                 top: parent.top
                 bottom: parent.bottom
             }
-            // Dragging belongs to the charts.
+            // Dragging belongs to the charts, and the wheel over their plots.
             interactive: false
+            onContentHeightChanged: scroll(0)
             clip: true
-            contentHeight: rows * (cellHeight + gap) - gap
+            contentHeight: Math.max(0, rows * (cellHeight + gap) - gap)
             T.ScrollBar.vertical: SlimScrollBar {
                 x: charts.width - width
+            }
+
+            WheelHandler {
+                onWheel: event => charts.scroll(-event.angleDelta.y)
             }
 
             Repeater {

@@ -168,6 +168,7 @@ FocusScope {
             Accessible.checked: chosen
             onClicked: {
                 list.currentIndex = index;
+                list.forceActiveFocus();
                 table.toggle(nodeId, chosen);
             }
 

@@ -9,7 +9,7 @@ T.ScrollBar {
     implicitWidth: 10
     padding: 2
     minimumSize: 0.08
-    visible: size < 1
+    visible: size < 0.999
     policy: T.ScrollBar.AlwaysOn
 
     contentItem: Rectangle {

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QQuickItem>
+
+/// The first item with the object name `name` in and below `root`; null when there is none. Delegates are found too.
+inline QQuickItem *findItem(QQuickItem *root, const QString &name)
+{
+    if (root->objectName() == name)
+        return root;
+    for (QQuickItem *child : root->childItems()) {
+        if (QQuickItem *found = findItem(child, name))
+            return found;
+    }
+    return nullptr;
+}

@@ -1,0 +1,133 @@
+#include <QFile>
+#include <QTest>
+
+#include "app/settings_keys.h"
+#include "support/quick_items.h"
+#include "wave/form_wireless_dashboard.h"
+
+/// The gateway's window on a small laptop's screen, fed with batches of sixteen nodes.
+class TestWirelessDashboard : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<form_wireless_dashboard> m_window;
+    unsigned int m_stampMs = 1;
+
+    QQuickItem *item(const QString &name) { return findItem(m_window->rootObject(), name); }
+    QQuickItem *node(int id) { return item(QStringLiteral("node_%1").arg(id)); }
+    bool isShown(const QString &name) { return item(name) && item(name)->isVisible(); }
+    bool isChosen(int id) { return m_window->bridge().chosenNodes().contains(id); }
+    void click(QQuickItem *target)
+    {
+        const QPointF center = target->mapToScene(target->boundingRect().center());
+        QTest::mouseClick(m_window.get(), Qt::LeftButton, {}, center.toPoint());
+    }
+    void key(int key) { QTest::keyClick(m_window.get(), Qt::Key(key)); }
+    /// A second of all nodes but `silent`, the last batch just arrived.
+    void feed(int silent = -1)
+    {
+        for (int batch = 0; batch < 100; ++batch, m_stampMs += 10) {
+            QList<GatewaySample> samples;
+            for (int id = 0; id < 16; ++id) {
+                if (id == silent)
+                    continue;
+                GatewaySample sample{.node = {}, .timestampMs = m_stampMs, .fields = SampleField::Acceleration};
+                sample.node.id = quint8(id);
+                sample.node.acc[0] = float(batch % 20);
+                sample.node.acc[1] = -10; // parts the norm from X
+                samples.append(sample);
+            }
+            m_window->updateGatewaySamples(samples);
+        }
+    }
+
+private slots:
+    void init()
+    {
+        QFile::remove(settings_keys::kFile);
+        m_window = std::make_unique<form_wireless_dashboard>();
+        m_window->resize(1366, 700);
+        m_window->open();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    }
+    void cleanup() { m_window.reset(); }
+
+    void showsSixteenNodesAtAGlance()
+    {
+        QVERIFY(isShown(QStringLiteral("noNode")));
+        feed();
+        QTRY_VERIFY(node(15) && !isShown(QStringLiteral("noNode")));
+        QQuickItem *list = item(QStringLiteral("nodeList"));
+        QVERIFY(list->property("contentHeight").toDouble() <= list->height());
+        const double place = node(9)->y();
+        // One falls silent: its row stays and tells it, the others go on.
+        const auto state = [this](int id) { return node(id)->property("nodeState").toInt(); };
+        const auto feedTheOthers = [this, state] { return feed(9), state(9); };
+        QTRY_COMPARE(feedTheOthers(), 1);
+        QTRY_COMPARE(feedTheOthers(), 2);
+        QCOMPARE(state(8), 0);
+        QCOMPARE(node(9)->y(), place);
+        m_window->clear();
+        QTRY_VERIFY(isShown(QStringLiteral("noNode")));
+    }
+
+    void choosesNodesByMouseAndKeys()
+    {
+        feed();
+        QTRY_VERIFY(node(15) && isShown(QStringLiteral("noChart")));
+        click(node(4));
+        key(Qt::Key_Down);
+        key(Qt::Key_Space);
+        QVERIFY(isChosen(4) && isChosen(5) && m_window->bridge().playing());
+        feed();
+        QQuickItem *first = nullptr;
+        QTRY_VERIFY(first = item(QStringLiteral("chart_0")));
+        click(node(6));
+        click(node(7));
+        click(node(8));
+        QVERIFY(isChosen(7) && !isChosen(8));
+        QVERIFY(item(QStringLiteral("foot"))->property("text").toString().contains(QLatin1String("drop one")));
+        click(node(5));
+        QTRY_VERIFY(!item(QStringLiteral("chart_6"))); // the second place
+        QCOMPARE(item(QStringLiteral("chart_0")), first);
+        click(item(QStringLiteral("chip_gyr")));
+        QTRY_VERIFY(item(QStringLiteral("chart_1")));
+        click(item(QStringLiteral("playButton")));
+        QVERIFY(!m_window->bridge().playing());
+        click(item(QStringLiteral("chip_gyr")));
+        QTRY_VERIFY(!item(QStringLiteral("chart_1")));
+    }
+
+    void drawsAndForgetsWhenClosed()
+    {
+        m_window->bridge().setNodeChosen(3, true);
+        feed();
+        QQuickItem *chart = nullptr;
+        QTRY_VERIFY(chart = item(QStringLiteral("chart_0")));
+        QQuickItem *plot = findItem(chart, QStringLiteral("plotMouse"));
+        const auto redPixels = [this, plot] {
+            const QImage image = m_window->grabWindow();
+            const QRect area = plot->mapRectToScene(plot->boundingRect()).toRect() & image.rect();
+            int count = 0;
+            for (int y = area.top(); y <= area.bottom(); ++y) {
+                for (int x = area.left(); x <= area.right(); ++x) {
+                    const QColor color = image.pixelColor(x, y);
+                    count += color.red() > color.green() + 60 && color.red() > color.blue() + 60;
+                }
+            }
+            return count;
+        };
+        QTRY_VERIFY(redPixels() > 100); // the X channel
+        m_window->close();
+        feed();
+        QCOMPARE(m_window->bridge().nodeCount(), 0);
+        m_window->open();
+        feed();
+        QTRY_VERIFY(node(15));
+        QVERIFY(isChosen(3));
+    }
+};
+
+QTEST_MAIN(TestWirelessDashboard)
+#include "tst_wireless_dashboard.moc"
