@@ -1,19 +1,8 @@
 #include "wave/series_item.h"
 
-#include <QQuickWindow>
-#include <QSGRendererInterface>
-
 #include <algorithm>
 #include <cmath>
 #include <limits>
-
-#include "wave/series_nodes.h"
-
-SeriesItem::SeriesItem(QQuickItem *parent) : QQuickItem(parent)
-{
-    setFlag(ItemHasContents);
-    setClip(true);
-}
 
 void SeriesItem::setViewState(ChartViewState *viewState)
 {
@@ -30,102 +19,44 @@ void SeriesItem::setViewState(ChartViewState *viewState)
     schedule();
 }
 
-void SeriesItem::updatePolish()
+bool SeriesItem::collect(Content &content, int maxPoints)
 {
-    if (!isVisible() || !m_viewState || width() < 1 || height() < 1)
-        return;
-    ++m_polishCount;
-    m_isPolishing = true;
+    if (!m_viewState)
+        return false;
     const WaveChartBridge *bridge = m_viewState->bridge();
     const size_t channels = bridge ? size_t(bridge->channelCount()) : 0;
-    m_points.resize(channels);
-    m_lines.resize(channels);
-    m_pixelRatio = window() ? window()->effectiveDevicePixelRatio() : 1;
-    if (bridge)
-        collectPoints(*bridge);
-    buildLines();
-    m_isPolishing = false;
-    update();
-}
+    content.points.resize(channels);
+    content.colors.resize(channels);
+    if (bridge) {
+        const WaveformDataModel &model = bridge->model();
+        // One sample more on either side, so that lines reach the edges of the plot.
+        int first = 0;
+        int last = 0;
+        model.resolveTimeWindow(m_viewState->xViewMin(), m_viewState->xViewMax(), first, last);
+        const double from = -model.ageSecAtSampleOffset(std::min(last, model.count() - 1));
+        const double to = -model.ageSecAtSampleOffset(std::max(first - 1, 0));
 
-QSGNode *SeriesItem::updatePaintNode(QSGNode *node, UpdatePaintNodeData *)
-{
-    if (isSoftware())
-        return series_nodes::paintedLines(node, *this);
-    return series_nodes::stripLines(node, *this, m_pixelRatio);
-}
-
-void SeriesItem::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
-{
-    QQuickItem::geometryChange(newGeometry, oldGeometry);
-    if (newGeometry.size() != oldGeometry.size())
-        schedule();
-}
-
-void SeriesItem::itemChange(ItemChange change, const ItemChangeData &value)
-{
-    QQuickItem::itemChange(change, value);
-    if (change == ItemVisibleHasChanged || change == ItemDevicePixelRatioHasChanged || change == ItemSceneChange)
-        schedule();
-}
-
-void SeriesItem::schedule()
-{
-    // Fitting the value axis while polishing changes the view again; that change is drawn by the same polish.
-    if (!m_isPolishing && isVisible() && window())
-        polish();
-}
-
-bool SeriesItem::isSoftware() const
-{
-    return window() && window()->rendererInterface()->graphicsApi() == QSGRendererInterface::Software;
-}
-
-void SeriesItem::collectPoints(const WaveChartBridge &bridge)
-{
-    const WaveformDataModel &model = bridge.model();
-    // One sample more on either side, so that lines reach the edges of the plot.
-    int first = 0;
-    int last = 0;
-    model.resolveTimeWindow(m_viewState->xViewMin(), m_viewState->xViewMax(), first, last);
-    const double from = -model.ageSecAtSampleOffset(std::min(last, model.count() - 1));
-    const double to = -model.ageSecAtSampleOffset(std::max(first - 1, 0));
-    const int budget = std::max(kMinPoints, int(2 * width() * m_pixelRatio));
-
-    double low = std::numeric_limits<double>::infinity();
-    double high = -low;
-    const QList<bool> visible = m_viewState->visibleChannels();
-    for (size_t channel = 0; channel < m_points.size(); ++channel) {
-        QList<QPointF> &points = m_points[channel];
-        points.clear();
-        if (!visible.value(qsizetype(channel)) || model.count() == 0)
-            continue;
-        model.getDecimatedPointsByTime(int(channel), from, to, budget, points);
-        for (const QPointF &point : std::as_const(points)) {
-            if (!std::isfinite(point.y()))
+        double low = std::numeric_limits<double>::infinity();
+        double high = -low;
+        const QList<bool> visible = m_viewState->visibleChannels();
+        const QVariantList colors = bridge->channelColors();
+        for (size_t channel = 0; channel < channels; ++channel) {
+            content.colors[channel] = colors.value(qsizetype(channel)).value<QColor>();
+            QList<QPointF> &points = content.points[channel];
+            points.clear();
+            if (!visible.value(qsizetype(channel)) || model.count() == 0)
                 continue;
-            low = std::min(low, point.y());
-            high = std::max(high, point.y());
+            model.getDecimatedPointsByTime(int(channel), from, to, maxPoints, points);
+            for (const QPointF &point : std::as_const(points)) {
+                if (!std::isfinite(point.y()))
+                    continue;
+                low = std::min(low, point.y());
+                high = std::max(high, point.y());
+            }
         }
+        m_viewState->fitValues(low, high);
     }
-    m_viewState->fitValues(low, high);
-}
-
-void SeriesItem::buildLines()
-{
-    const series_geometry::Plot plot{{m_viewState->xViewMin(), m_viewState->xViewMax()},
-                                     {m_viewState->yViewMin(), m_viewState->yViewMax()},
-                                     width(),
-                                     height()};
-    const double half = series_geometry::halfWidth(kLineWidth, m_pixelRatio);
-    const bool painted = isSoftware();
-    const QVariantList colors = m_viewState->bridge() ? m_viewState->bridge()->channelColors() : QVariantList();
-    for (size_t channel = 0; channel < m_lines.size(); ++channel) {
-        Line &line = m_lines[channel];
-        line.color = colors.value(qsizetype(channel)).value<QColor>();
-        series_geometry::toPixels(m_points[channel], plot, line.pixels);
-        line.strip.clear();
-        if (!painted)
-            series_geometry::appendStrip(line.pixels, half, line.strip);
-    }
+    content.x = {m_viewState->xViewMin(), m_viewState->xViewMax()};
+    content.y = {m_viewState->yViewMin(), m_viewState->yViewMax()};
+    return true;
 }

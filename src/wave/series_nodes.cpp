@@ -13,7 +13,7 @@
 #include <memory>
 #include <vector>
 
-#include "wave/series_item.h"
+#include "wave/chart_lines.h"
 
 namespace {
 
@@ -39,7 +39,7 @@ public:
             return;
         m_color = color;
         m_pixelRatio = devicePixelRatio;
-        const QImage image = series_geometry::crossSection(color, SeriesItem::kLineWidth, devicePixelRatio);
+        const QImage image = series_geometry::crossSection(color, ChartLines::kLineWidth, devicePixelRatio);
         std::unique_ptr<QSGTexture> texture(
             window->createTextureFromImage(image, QQuickWindow::TextureHasAlphaChannel));
         m_material.setTexture(texture.get());
@@ -71,7 +71,7 @@ private:
 class PaintedNode : public QSGRenderNode
 {
 public:
-    void setLines(QQuickWindow *window, QSizeF size, const std::vector<SeriesItem::Line> &lines)
+    void setLines(QQuickWindow *window, QSizeF size, const std::vector<ChartLines::Line> &lines)
     {
         m_window = window;
         m_size = size;
@@ -101,15 +101,15 @@ public:
         painter->setOpacity(inheritedOpacity());
         painter->setRenderHint(QPainter::Antialiasing);
         painter->setBrush(Qt::NoBrush);
-        for (const SeriesItem::Line &line : m_lines)
+        for (const ChartLines::Line &line : m_lines)
             paint(painter, line);
         painter->restore();
     }
 
 private:
-    static void paint(QPainter *painter, const SeriesItem::Line &line)
+    static void paint(QPainter *painter, const ChartLines::Line &line)
     {
-        painter->setPen(QPen(line.color, SeriesItem::kLineWidth, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+        painter->setPen(QPen(line.color, ChartLines::kLineWidth, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
         const auto end = line.pixels.end();
         const auto isBreak = [](const QPointF &p) { return std::isnan(p.y()); };
         for (auto first = std::find_if_not(line.pixels.begin(), end, isBreak); first != end;) {
@@ -124,23 +124,23 @@ private:
 
     QQuickWindow *m_window = nullptr;
     QSizeF m_size;
-    std::vector<SeriesItem::Line> m_lines;
+    std::vector<ChartLines::Line> m_lines;
 };
 
 } // namespace
 
-QSGNode *series_nodes::stripLines(QSGNode *node, const SeriesItem &item, double devicePixelRatio)
+QSGNode *series_nodes::stripLines(QSGNode *node, const ChartLines &item, double devicePixelRatio)
 {
     if (!node)
         node = new QSGNode;
-    const std::vector<SeriesItem::Line> &lines = item.lines();
+    const std::vector<ChartLines::Line> &lines = item.lines();
     while (node->childCount() < int(lines.size())) {
         auto *line = new LineNode;
         line->setFlag(QSGNode::OwnedByParent);
         node->appendChildNode(line);
     }
     QSGNode *child = node->firstChild();
-    for (const SeriesItem::Line &line : lines) {
+    for (const ChartLines::Line &line : lines) {
         auto *lineNode = static_cast<LineNode *>(child);
         lineNode->setColor(item.window(), line.color, devicePixelRatio);
         lineNode->setStrip(line.strip);
@@ -151,7 +151,7 @@ QSGNode *series_nodes::stripLines(QSGNode *node, const SeriesItem &item, double 
     return node;
 }
 
-QSGNode *series_nodes::paintedLines(QSGNode *node, const SeriesItem &item)
+QSGNode *series_nodes::paintedLines(QSGNode *node, const ChartLines &item)
 {
     auto *painted = node ? static_cast<PaintedNode *>(node) : new PaintedNode;
     painted->setLines(item.window(), item.size(), item.lines());
