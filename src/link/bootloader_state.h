@@ -44,8 +44,8 @@ struct BootloaderOutcome
     BootloaderStep step = BootloaderStep::Idle;
     BootloaderFault fault = BootloaderFault::None;
     qint64 acknowledgedBytes = 0; ///< of the image
-    /// First status other than 0 that the target answered to erase or write. The dialogue goes on regardless; when it
-    /// fails later, this is the likely reason.
+    /// First status other than 0 that the target answered to erase or write, or behind the data. The dialogue goes on
+    /// regardless; when it fails later, this is the likely reason.
     quint32 targetStatus = 0;
     int sentPackets = 0;     ///< data packets since the last connect, repeated ones included
     int repeatedPackets = 0; ///< those that were sent again

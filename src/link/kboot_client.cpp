@@ -246,6 +246,7 @@ bool KbootProtocol::downloadSteps(const QByteArray &image, int startAddress, int
     begin(BootloaderStep::Reset);
     m_outcome.fault = BootloaderFault::None; // of an attempt that was repeated
     delay(kBeforeResetMs);
+    noteStatus(); // the response to the whole write comes behind the last acknowledge
     return cmd_reset();
 }
 
@@ -279,10 +280,11 @@ bool KbootProtocol::fail(BootloaderFault fault)
     return false;
 }
 
-/// Keeps the status word of the response in the frame buffer, for the user when the download fails further on.
+/// Keeps the status word of the response in the frame buffer: the dialogue goes on, but the user shall know.
 void KbootProtocol::noteStatus()
 {
     constexpr int kStatusOffset = kHeaderSize + kCommandHeaderSize;
-    if (m_outcome.targetStatus == 0 && m_frameBuffer.size() >= kStatusOffset + kStatusSize)
+    if (m_outcome.targetStatus == 0 && m_responseReceived && quint8(m_frameBuffer.at(1)) == kTypeCommand
+        && m_frameBuffer.size() >= kStatusOffset + kStatusSize)
         m_outcome.targetStatus = qFromLittleEndian<quint32>(m_frameBuffer.constData() + kStatusOffset);
 }

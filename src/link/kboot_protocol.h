@@ -22,7 +22,7 @@
 /// rejected packet's bytes again. A packet may be split over any number of reads.
 ///
 /// The client waits in nested event loops, in steps of 1 ms, so that the port is read and decoded meanwhile. It never
-/// acknowledges what the target sends, and looks at no status word. A command packet's payload:
+/// acknowledges what the target sends, and acts on no status word. A command packet's payload:
 ///
 ///     offset  width  field
 ///     0       1      command tag

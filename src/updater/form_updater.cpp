@@ -164,6 +164,10 @@ void form_updater::on_BTN_connect_clicked()
     m_ui->BTN_connect->setEnabled(false);
     m_ui->BTN_download->setEnabled(false);
     log(tr("\n--- Connecting to bootloader ---\n"));
+    m_ui->PB_progress->setValue(0);
+    m_ui->LBL_transfer->clear();
+    m_result.reset();
+    showStep();
     showStatus({}, false);
     m_ui->LBL_bootloader->setText(updater_text::step(BootloaderStep::Restart));
     repaint(); // the last chance before the wait
@@ -264,7 +268,7 @@ void form_updater::onDownloadAdvanced(BootloaderStep step, qint64 acknowledgedBy
     const qint64 now = m_downloadClock.elapsed();
     if (step != m_step) {
         m_step = step;
-        m_ui->LBL_step->setText(updater_text::step(step));
+        showStep();
         if (step == BootloaderStep::Data)
             m_dataBeganMs = now;
     } else if (now < m_transferShownMs + kTransferIntervalMs && acknowledgedBytes < m_image.size()) {
@@ -281,11 +285,11 @@ void form_updater::onBootloaderDownloadFinished(bool ok)
     const BootloaderOutcome end = outcome();
     if (ok)
         showStatus(updater_text::downloadSuccess(end, m_downloadClock.isValid() ? m_downloadClock.elapsed() : 0),
-                   false);
+                   end.targetStatus != 0);
     else
         showStatus(updater_text::downloadFailure(end, m_image.size(), m_facts.maxPacketSize), true);
     m_step = BootloaderStep::Idle;
-    m_ui->LBL_step->setText(ok ? tr("Complete") : tr("Failed"));
+    m_result = ok;
     m_ui->LBL_transfer->setText(updater_text::transfer(end.acknowledgedBytes, m_image.size(), 0));
     setConnected(false);
     setDownloading(false);
@@ -309,16 +313,23 @@ void form_updater::update_button_states()
     m_ui->BTN_download->setToolTip(m_downloading ? busy
                                    : m_connected ? tr("Erases the device's firmware and writes the image")
                                                  : tr("Press Connect first."));
-    m_ui->LBL_bootloader->setText(
-        m_connected || m_downloading
-            ? updater_text::facts(m_facts)
-            : tr("Not connected. Connect restarts the device into its bootloader, which takes up to 4 s."));
+    m_ui->LBL_bootloader->setText(m_connected || m_downloading
+                                      ? updater_text::facts(m_facts)
+                                      : tr("Not connected. Connect restarts the device; this takes up to 4 s."));
+    showStep();
+}
+
+void form_updater::showStep()
+{
+    const QString waiting = m_connected ? tr("Ready to download") : tr("Waiting for the bootloader");
+    const QString ended = m_result.value_or(false) ? tr("Complete") : tr("Failed");
+    m_ui->LBL_step->setText(m_downloading ? updater_text::step(m_step) : m_result.has_value() ? ended : waiting);
 }
 
 void form_updater::reset_ui_state()
 {
     m_ui->PB_progress->setValue(0);
-    m_ui->LBL_step->clear();
+    m_result.reset();
     m_ui->LBL_transfer->clear();
     showStatus({}, false);
     update_button_states();
@@ -326,7 +337,6 @@ void form_updater::reset_ui_state()
 
 void form_updater::retranslateDynamicUi()
 {
-    m_ui->LBL_step->setText(updater_text::step(m_step));
     update_button_states();
     showImage();
 }

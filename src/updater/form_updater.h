@@ -6,6 +6,7 @@
 #include <QPointer>
 
 #include <memory>
+#include <optional>
 
 #include "link/bootloader_state.h"
 
@@ -87,6 +88,7 @@ private:
     void showImage();
     void setConnected(bool connected);
     void setDownloading(bool downloading);
+    void showStep();
     void showStatus(const QString &text, bool isProblem);
     bool runConnect();
     BootloaderOutcome outcome() const;
@@ -106,8 +108,9 @@ private:
     QByteArray m_shownImage; ///< the loaded image, or a look at the file that would be loaded; empty: none
     quint32 m_shownFileAddress = 0;
     BootloaderFacts m_facts;
-    BootloaderStep m_step = BootloaderStep::Idle;
-    QElapsedTimer m_downloadClock; ///< since the download began
-    qint64 m_dataBeganMs = 0;      ///< on m_downloadClock, as the next
+    BootloaderStep m_step = BootloaderStep::Idle; ///< of the running download
+    std::optional<bool> m_result;                 ///< of the last download, until the next is prepared
+    QElapsedTimer m_downloadClock;                ///< since the download began
+    qint64 m_dataBeganMs = 0;                     ///< on m_downloadClock, as the next
     qint64 m_transferShownMs = 0;
 };

@@ -64,6 +64,8 @@ QString deviceState(const BootloaderOutcome &outcome, qint64 total)
     case BootloaderStep::Write:
         return Text::tr("The flash is erased: the device has no firmware now.");
     case BootloaderStep::Data:
+        if (outcome.acknowledgedBytes == 0)
+            return Text::tr("Nothing was written, but the flash may be erased: the firmware may not start any more.");
         return Text::tr("%1 of %2 bytes were written: the firmware is incomplete and cannot start.")
             .arg(grouped(outcome.acknowledgedBytes), grouped(total));
     default:
@@ -120,10 +122,15 @@ QString updater_text::downloadFailure(const BootloaderOutcome &outcome, qint64 t
 
 QString updater_text::downloadSuccess(const BootloaderOutcome &outcome, qint64 elapsedMs)
 {
-    return Text::tr("%1 bytes were written in %2 s, %3 of %4 packets were sent again. The device restarts with the new "
-                    "firmware.")
-        .arg(grouped(outcome.acknowledgedBytes), decimal(double(elapsedMs) / 1000.0), grouped(outcome.repeatedPackets),
-             grouped(outcome.sentPackets));
+    const QString written = Text::tr("%1 bytes were written in %2 s, %3 of %4 packets were sent again.")
+                                .arg(grouped(outcome.acknowledgedBytes), decimal(double(elapsedMs) / 1000.0),
+                                     grouped(outcome.repeatedPackets), grouped(outcome.sentPackets));
+    if (outcome.targetStatus == 0)
+        return written + u' ' + Text::tr("The device restarts with the new firmware.");
+    return written + u' '
+           + Text::tr("But the bootloader reported status %1: if the firmware does not start, press Connect and "
+                      "download again.")
+                 .arg(outcome.targetStatus);
 }
 
 QString updater_text::transfer(qint64 done, qint64 total, qint64 elapsedMs)
@@ -160,9 +167,9 @@ QString updater_text::doubt(image_check::Doubt doubt, quint32 fileAddress, quint
     case image_check::Doubt::TooLarge:
         return Text::tr("The image does not fit the %1 KB of flash from this address on.").arg(grouped(flashSizeKb));
     case image_check::Doubt::StackPointer:
-        return Text::tr("The stack pointer does not point into RAM.");
+        return Text::tr("The stack pointer is no word address in RAM.");
     case image_check::Doubt::ResetVector:
-        return Text::tr("The reset vector does not point into the image.");
+        return Text::tr("The reset vector is no Thumb address inside the image.");
     case image_check::Doubt::TooSmall:
         return Text::tr("The image is very small for a firmware.");
     }

@@ -48,12 +48,12 @@ public:
     bool connects() { return ask("runConnect"); }
     bool downloads(const QByteArray &image, int attempts = 2)
     {
+        finished.clear();
         start(image, attempts);
         return QTest::qWaitFor([this] { return !finished.isEmpty(); }, 10000) && finished.last();
     }
     void start(const QByteArray &image, int attempts = 2)
     {
-        finished.clear();
         QMetaObject::invokeMethod(this, "startDownloadBootloader", Qt::QueuedConnection, Q_ARG(QByteArray, image),
                                   Q_ARG(int, kAddress), Q_ARG(int, attempts));
     }
@@ -329,11 +329,11 @@ private slots:
 
     void oneOperationAtATime()
     {
-        TestedPort *inside = nullptr;
+        std::atomic<TestedPort *> inside = nullptr;
         BootloaderPeer peer([&](const QByteArray &packet, int) {
             if (isData(packet) && packet.mid(6) == counting(32)) { // inside the wait for the first packet
-                inside->start(counting(50));
-                QMetaObject::invokeMethod(inside, "runConnect", Qt::QueuedConnection);
+                inside.load()->start(counting(50));
+                QMetaObject::invokeMethod(inside.load(), "runConnect", Qt::QueuedConnection);
             }
             return Answer();
         });
