@@ -30,6 +30,7 @@ T.TextField {
 
     onValueChanged: show()
     onEditingFinished: take()
+    onAccepted: focus = false
     Component.onCompleted: show()
     Keys.onEscapePressed: {
         show();

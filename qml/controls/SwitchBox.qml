@@ -8,7 +8,7 @@ T.Switch {
 
     property string hint
 
-    implicitWidth: indicator.width + 8 + contentItem.implicitWidth
+    implicitWidth: contentItem.implicitWidth
     implicitHeight: Math.max(indicator.height, contentItem.implicitHeight) + 4
     hoverEnabled: true
     focusPolicy: Qt.TabFocus

@@ -15,7 +15,7 @@ Flow {
         toggle.checked = bridge.filterOn;
     }
 
-    spacing: 10
+    spacing: 8
 
     Connections {
         target: row.bridge

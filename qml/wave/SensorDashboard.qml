@@ -12,7 +12,7 @@ Item {
     required property SensorDashboardBridge bridge
     required property ChartSaver saver
     property string maximizedType
-    /// The chart that the bar tells about and that keys go to: the one under the pointer or used last.
+    /// The chart that the bar tells about and that keys go to: the last one with the keyboard.
     property WaveChart current
     readonly property var selectedTypes: bridge.selectedSensorTypes
     readonly property var shownTypes: selectedTypes.includes(maximizedType) ? [maximizedType] : selectedTypes

@@ -22,7 +22,7 @@ FocusScope {
     signal pictureRequested
     signal dataRequested
     signal maximizeRequested
-    /// The pointer or the keyboard came to this chart.
+    /// The keyboard came to this chart: by the pointer, a click or the Tab key.
     signal touched
 
     activeFocusOnTab: true
@@ -42,9 +42,10 @@ FocusScope {
     }
 
     HoverHandler {
+        // Keys go to the chart under the pointer, but never out of a field that is being filled in.
         onHoveredChanged: {
-            if (hovered)
-                chart.touched();
+            if (hovered && !(chart.Window.activeFocusItem instanceof TextInput))
+                chart.forceActiveFocus();
         }
     }
     Rectangle {
