@@ -1,6 +1,7 @@
-// kv_soak [--minutes M] [simulator options...]: the real main window against the simulator for some minutes. Prints
-// processor share and memory as it goes, and at the end the frames that were sent and those that were decoded. Ends
-// with 1 when a frame was lost.
+// kv_soak [--minutes M] [--record] [--dashboards] [simulator options...]: the real main window against the simulator
+// for some minutes, recording into the working folder and with the dashboards open when told to. Prints processor share
+// and memory as it goes, and at the end the frames that were sent, those that were decoded and those that were recorded.
+// Ends with 1 when one was lost.
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -16,6 +17,7 @@
 #include "e2e/desk.h"
 #include "link/stream_dispatcher.h"
 #include "support/simulator_process.h"
+#include "ui/form_record.h"
 
 namespace {
 
@@ -64,6 +66,8 @@ int main(int argc, char **argv)
         minutes = options.value(1).toDouble();
         options = options.mid(2);
     }
+    const bool record = options.removeAll(QStringLiteral("--record")) > 0;
+    const bool dashboards = options.removeAll(QStringLiteral("--dashboards")) > 0;
 
     QTextStream out(stdout);
     SimulatorProcess simulator(options);
@@ -75,6 +79,20 @@ int main(int argc, char **argv)
         return 1;
     }
     wait(kStreamMs);
+    if (dashboards) {
+        desk.find<QAction>("action_sensor_dashboard")->trigger();
+        desk.find<QAction>("action_wireless_gateway_dashboard")->trigger(); // nothing without a gateway
+        wait(kStreamMs);
+    }
+    auto *recorder = desk.window->findChild<form_record *>();
+    quint64 decodedBefore = 0;
+    if (record) {
+        if (!recorder->startRecording()) {
+            out << "the recording did not start\n";
+            return 1;
+        }
+        decodedBefore = dispatcher->snapshot().seq;
+    }
 
     const qint64 startKib = residentKib();
     out << "start: " << startKib << " KiB resident\n" << Qt::flush;
@@ -98,7 +116,14 @@ int main(int argc, char **argv)
     wait(kDrainMs);
     const qint64 sent = simulator.stat("frames_sent");
     const quint64 decoded = dispatcher->snapshot().seq;
+    bool complete = quint64(sent) == decoded;
+    if (record) {
+        recorder->stopRecording();
+        complete = complete && recorder->recordCount() == decoded - decodedBefore && !recorder->hasTrouble();
+        out << "records written " << recorder->recordCount() << " of " << decoded - decodedBefore
+            << (recorder->hasTrouble() ? ", with trouble\n" : "\n");
+    }
     out << "frames sent " << sent << ", decoded " << decoded << ", dropped by the simulated line " << dropped << '\n'
         << Qt::flush;
-    return quint64(sent) == decoded ? 0 : 1;
+    return complete ? 0 : 1;
 }

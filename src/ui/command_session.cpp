@@ -30,7 +30,7 @@ void CommandSession::setConnected(bool connected)
     ++m_connection;
     m_connected = connected;
     m_outputStopped = false;
-    emit outcome({}, false);
+    emit outcome(Outcome::Nothing, {});
     emit stateChanged();
 }
 
@@ -87,9 +87,7 @@ QStringList CommandSession::readInfoNow()
         return {};
     m_outputStopped = false;
     m_device = product_resolver::resolve(lines);
-    emit outcome(m_device.valid ? QString()
-                                : tr("The device does not answer. Check the baud rate, then identify it again."),
-                 !m_device.valid);
+    emit outcome(m_device.valid ? Outcome::Nothing : Outcome::NoReply, {});
     emit deviceChanged();
     return lines;
 }
@@ -119,9 +117,9 @@ void CommandSession::save(const SettingsSaveRequest &request)
         return;
     if (connection == m_connection) {
         if (!refused.isEmpty())
-            emit outcome(tr("The device refused %1.").arg(refused.join(QLatin1String(", "))), true);
+            emit outcome(Outcome::Refused, refused.join(QLatin1String(", ")));
         else if (m_device.valid)
-            emit outcome(tr("The settings were sent and the device has restarted."), false);
+            emit outcome(Outcome::Saved, {});
     }
     end();
 }
@@ -131,7 +129,7 @@ void CommandSession::runHotkey(SettingsHotkeyAction action)
     const QString text = settings_command_adapter::hotkeyCommand(profile(), action);
     if (text.isEmpty() || !begin())
         return;
-    emit outcome({}, false);
+    emit outcome(Outcome::Nothing, {});
     const QPointer<CommandSession> self(this);
     m_outputStopped =
         action == SettingsHotkeyAction::StopOutput
@@ -145,7 +143,7 @@ void CommandSession::resumeOutput(bool waitForReply)
 {
     if (!begin())
         return;
-    emit outcome({}, false);
+    emit outcome(Outcome::Nothing, {});
     const QPointer<CommandSession> self(this);
     m_outputStopped = false;
     execute(settings_command_adapter::buildResumeOutputCommand(), waitForReply ? kResumeWindowMs : 0);

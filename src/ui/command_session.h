@@ -25,6 +25,14 @@ class CommandSession : public QObject
     Q_DISABLE_COPY_MOVE(CommandSession)
 
 public:
+    /// How an operation ended, as far as people want to know.
+    enum class Outcome {
+        Nothing, ///< nothing to say
+        NoReply, ///< the device does not answer
+        Refused, ///< it refused the commands that are named
+        Saved    ///< the settings were sent and it has restarted
+    };
+
     explicit CommandSession(QObject *parent = nullptr);
 
     /// Not owned, may be null.
@@ -64,8 +72,8 @@ signals:
     void deviceChanged();
     /// One line for the log: "> AT+INFO", "< MZ221 V1.6", "< (no reply)".
     void logLine(QString line);
-    /// How the last operation ended, for people; empty when there is nothing to say.
-    void outcome(QString text, bool isProblem);
+    /// How the last operation ended; `commands` names those that were refused.
+    void outcome(CommandSession::Outcome outcome, QString commands);
 
 private:
     bool begin();

@@ -38,7 +38,7 @@ constexpr int kUiTickMs = 20;
 constexpr int kRetryMs = 2000;
 
 constexpr int kAdiHeight = 296;
-constexpr int kLeftWidthPerPoint = 27;
+constexpr int kLeftWidthPerPoint = 29;
 
 constexpr int kFontSmall = 9;
 constexpr int kFontMedium = 10;

@@ -11,7 +11,6 @@
 #include <QStyle>
 
 #include "app/theme.h"
-#include "ui/command_session.h"
 #include "ui/device_text.h"
 #include "ui_form_settings.h"
 
@@ -95,10 +94,11 @@ form_settings::form_settings(QWidget *parent)
     connect(m_session, &CommandSession::stateChanged, this, &form_settings::finishClosing);
     connect(m_session, &CommandSession::deviceChanged, this, &form_settings::showDevice);
     connect(m_session, &CommandSession::logLine, m_ui->PTE_log, &QPlainTextEdit::appendPlainText);
-    connect(m_session, &CommandSession::outcome, this, [this](const QString &text, bool isProblem) {
-        m_outcome = text;
-        m_outcomeIsProblem = isProblem;
-    });
+    connect(m_session, &CommandSession::outcome, this,
+            [this](CommandSession::Outcome outcome, const QString &commands) {
+                m_outcome = outcome;
+                m_refusedCommands = commands;
+            });
     connect(m_ui->SB_id, &QSpinBox::valueChanged, this, &form_settings::storeChoice);
     connect(m_ui->CB_rate, &QComboBox::currentIndexChanged, this, &form_settings::storeChoice);
     connect(m_ui->CB_mode, &QComboBox::currentIndexChanged, this, &form_settings::storeChoice);
@@ -282,6 +282,22 @@ QString form_settings::blockedReason() const
     return {};
 }
 
+/// How the last operation ended; empty when there is nothing to say.
+QString form_settings::outcomeText() const
+{
+    switch (m_outcome) {
+    case CommandSession::Outcome::NoReply:
+        return tr("The device does not answer. Check the baud rate, then identify it again.");
+    case CommandSession::Outcome::Refused:
+        return tr("The device refused %1.").arg(m_refusedCommands);
+    case CommandSession::Outcome::Saved:
+        return tr("The settings were sent and the device has restarted.");
+    case CommandSession::Outcome::Nothing:
+        break;
+    }
+    return {};
+}
+
 /// What the user still has to do before the settings can be saved; empty when nothing.
 QString form_settings::saveProblem() const
 {
@@ -298,8 +314,10 @@ QString form_settings::saveProblem() const
 void form_settings::updateState()
 {
     const QString blocked = blockedReason();
-    const bool warn = !m_session->isConnected() || (blocked.isEmpty() && m_outcomeIsProblem);
-    m_ui->LBL_status->setText(blocked.isEmpty() ? m_outcome : blocked);
+    const bool isProblem =
+        m_outcome == CommandSession::Outcome::NoReply || m_outcome == CommandSession::Outcome::Refused;
+    const bool warn = !m_session->isConnected() || (blocked.isEmpty() && isProblem);
+    m_ui->LBL_status->setText(blocked.isEmpty() ? outcomeText() : blocked);
     m_ui->LBL_status->setProperty("role", warn ? QStringLiteral("warning") : QStringLiteral("secondary"));
     m_ui->LBL_status->style()->unpolish(m_ui->LBL_status);
     m_ui->LBL_status->style()->polish(m_ui->LBL_status);

@@ -9,9 +9,9 @@
 
 #include "device/product_resolver.h"
 #include "device/settings_command_adapter.h"
+#include "ui/command_session.h"
 
 class CommandBroker;
-class CommandSession;
 class QPushButton;
 
 namespace Ui {
@@ -81,6 +81,7 @@ private:
     void enableSender(QPushButton *button, const QString &blocked, const QString &what);
     void finishClosing();
     QString blockedReason() const;
+    QString outcomeText() const;
     QString saveProblem() const;
     SettingsSaveRequest request() const;
 
@@ -90,7 +91,7 @@ private:
     QHash<ProductKey, SettingsSaveRequest> m_choices; ///< what the user chose last, for as long as the program runs
     ProductKey m_shownKey = ProductKey::None;
     QPointer<QWidget> m_focusBefore; ///< had the focus when sending was last blocked
-    QString m_outcome;               ///< how the last operation ended
-    bool m_outcomeIsProblem = false;
+    CommandSession::Outcome m_outcome = CommandSession::Outcome::Nothing; ///< of the last operation
+    QString m_refusedCommands;
     bool m_closePending = false; ///< settingsClosed() is still to be told
 };
