@@ -1,8 +1,10 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import KVCenter.Wave
 
 /// A place for a chart that is there only while it has a bridge.
-Loader {
+Item {
     id: pane
 
     required property int slot
@@ -13,16 +15,23 @@ Loader {
 
     signal maximizeRequested
 
-    active: bridge !== null
-    sourceComponent: WaveChart {
-        id: chart
+    Repeater {
+        // The chart keeps its bridge to its own end.
+        model: pane.bridge !== null ? [pane.bridge] : []
 
-        objectName: "chart_" + pane.slot
-        bridge: pane.bridge
-        maximized: pane.maximized
-        canMaximize: pane.canMaximize
-        onPictureRequested: pane.saver.savePicture(viewState, chart)
-        onDataRequested: pane.saver.saveData(viewState)
-        onMaximizeRequested: pane.maximizeRequested()
+        WaveChart {
+            id: chart
+
+            required property WaveChartBridge modelData
+
+            objectName: "chart_" + pane.slot
+            anchors.fill: parent
+            bridge: modelData
+            maximized: pane.maximized
+            canMaximize: pane.canMaximize
+            onPictureRequested: pane.saver.savePicture(viewState, chart)
+            onDataRequested: pane.saver.saveData(viewState)
+            onMaximizeRequested: pane.maximizeRequested()
+        }
     }
 }

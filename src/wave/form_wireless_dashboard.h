@@ -34,11 +34,19 @@ private:
     GatewayDashboardBridge m_bridge;
 };
 
-/// Makes the bridge known to views, which get it from their window.
+/// Make the bridge and its table known to views, which get them from their window.
 struct GatewayDashboardBridgeForeign
 {
     Q_GADGET
     QML_FOREIGN(GatewayDashboardBridge)
     QML_NAMED_ELEMENT(GatewayDashboardBridge)
     QML_UNCREATABLE("comes with the window")
+};
+
+struct GatewayNodeModelForeign
+{
+    Q_GADGET
+    QML_FOREIGN(GatewayNodeModel)
+    QML_NAMED_ELEMENT(GatewayNodeModel)
+    QML_UNCREATABLE("comes with the bridge")
 };

@@ -25,7 +25,7 @@ class GatewayDashboardBridge : public QObject
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(GatewayDashboardBridge)
     Q_PROPERTY(QString windowTitle READ windowTitle NOTIFY textsChanged)
-    Q_PROPERTY(QAbstractItemModel *nodeModel READ nodeModel CONSTANT)
+    Q_PROPERTY(GatewayNodeModel *nodeModel READ nodeModel CONSTANT)
     Q_PROPERTY(QString summary READ summary NOTIFY nodesRefreshed)
     Q_PROPERTY(int nodeCount READ nodeCount NOTIFY nodesRefreshed)
     Q_PROPERTY(QList<int> chosenNodes READ chosenNodes NOTIFY panesChanged)
@@ -35,7 +35,7 @@ class GatewayDashboardBridge : public QObject
     Q_PROPERTY(QVariantList panes READ panes NOTIFY panesChanged)
     Q_PROPERTY(int paneColumns READ paneColumns NOTIFY panesChanged)
     Q_PROPERTY(bool playing READ playing NOTIFY playingChanged)
-    Q_PROPERTY(unsigned int frameRate READ frameRate NOTIFY frameRateChanged)
+    Q_PROPERTY(int frameRate READ frameRate NOTIFY frameRateChanged)
 
 public:
     static constexpr int kMaxChosenNodes = 4;
@@ -59,7 +59,7 @@ public:
     /// Columns of the grid: up to three panes are stacked, so that their time axes compare; more stand in two columns.
     int paneColumns() const;
     bool playing() const { return m_playing; }
-    unsigned int frameRate() const { return m_frameRate; }
+    int frameRate() const { return int(m_frameRate); }
     bool dashboardActive() const { return m_active; }
 
     /// Shows or drops the charts of a node; false when four are chosen already or the id is out of 0 to 255.

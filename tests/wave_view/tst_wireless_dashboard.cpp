@@ -1,4 +1,5 @@
 #include <QFile>
+#include <QRegularExpression>
 #include <QTest>
 
 #include "app/settings_keys.h"
@@ -45,6 +46,7 @@ private:
 private slots:
     void init()
     {
+        QTest::failOnWarning(QRegularExpression(QStringLiteral("^qrc:"))); // views that miss something
         QFile::remove(settings_keys::kFile);
         m_window = std::make_unique<form_wireless_dashboard>();
         m_window->resize(1366, 700);
