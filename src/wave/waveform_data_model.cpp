@@ -231,7 +231,7 @@ quint64 WaveformDataModel::nextTimestampMs(unsigned int timestampMs) const
 
 unsigned int WaveformDataModel::fallbackTimestampStepMs() const
 {
-    return m_frameRate == 0 ? 1U : std::max(1U, unsigned(1000.0 / m_frameRate + 0.5));
+    return m_frameRate == 0 ? 1U : std::max(1U, unsigned(std::lround(1000.0 / m_frameRate)));
 }
 
 void WaveformDataModel::getVisibleRawPoints(int channel, int first, int last, QList<QPointF> &out) const
