@@ -3,11 +3,13 @@
 namespace {
 
 constexpr QLatin1String kSettingsGroup("WIRELESS_DASHBOARD");
+constexpr QSize kMinimumSize{900, 480}; ///< the table and charts that can be read
 
 } // namespace
 
 form_wireless_dashboard::form_wireless_dashboard(QWindow *parent) : DashboardWindow(kSettingsGroup, parent)
 {
+    setMinimumSize(kMinimumSize);
     setTitle(m_bridge.windowTitle());
     loadView(QStringLiteral("GatewayDashboard"), {{QStringLiteral("bridge"), QVariant::fromValue(&m_bridge)}});
 }
