@@ -29,6 +29,7 @@
 #include "ui/sensor_data_panel.h"
 #include "ui/value_strip.h"
 #include "ui_form_base.h"
+#include "updater/form_updater.h"
 #include "wave/form_sensor_dashboard.h"
 #include "wave/form_wireless_dashboard.h"
 
@@ -80,6 +81,8 @@ form_base::form_base(QWidget *parent) : QMainWindow(parent), m_ui(std::make_uniq
 
     m_port = std::make_unique<KvUartPort>();
     m_portDialog = new form_com_select(this);
+    m_updater = new form_updater(this);
+    m_updater->set_serial_instance(m_port.get());
     m_recordDialog = new form_record(this);
     m_aboutDialog = new form_about(this);
     m_settingsDialog = new form_settings(this);
@@ -170,7 +173,7 @@ void form_base::setUpActions()
     m_ui->menuView->insertActions(m_ui->actionFFT_Chart, {dashboard, gateway});
     gateway->setEnabled(false); // until a gateway is connected
     // The windows behind these come with later versions.
-    for (QAction *action : {m_ui->action3D_view, m_ui->actionFFT_Chart, m_ui->action_firmware_update})
+    for (QAction *action : {m_ui->action3D_view, m_ui->actionFFT_Chart})
         action->setEnabled(false);
 
     m_connectButton = new QToolButton(this);
@@ -206,6 +209,8 @@ void form_base::setUpConnections()
     connect(m_dispatcher, &StreamDispatcher::gatewayBatch63, this, &form_base::handleGatewayBatch);
     connect(m_recordDialog, &form_record::recordingChanged, this, &form_base::showRecordingState);
     connect(m_recordDialog, &form_record::troubleChanged, this, &form_base::showRecordingState);
+    connect(m_updater, &form_updater::downloadRunningChanged, this, &form_base::onBootloaderChanged);
+    connect(m_updater, &form_updater::bootloaderConnectedChanged, this, &form_base::onBootloaderChanged);
     connect(m_dispatcher, &StreamDispatcher::selectedNodeChanged, this, &form_base::onSelectedNodeChanged);
     connect(m_dispatcher, &StreamDispatcher::streamSnapshotChanged, this, &form_base::onSnapshotChanged);
     connect(m_retryTimer, &QTimer::timeout, this, &form_base::try_read_prod_info);
@@ -289,7 +294,7 @@ void form_base::retranslate()
     m_ui->action_export_data->setToolTip(
         tr("Record the stream to CSV files (%1)")
             .arg(m_ui->action_export_data->shortcut().toString(QKeySequence::NativeText)));
-    m_ui->action_firmware_update->setToolTip(tr("The firmware update comes with a later version."));
+    m_ui->action_firmware_update->setToolTip(tr("Load new firmware into the device"));
     findChild<QToolButton *>(QStringLiteral("button_language"))->setToolTip(tr("Language of the interface"));
     findChild<QMenu *>(QStringLiteral("menu_language"))->setTitle(tr("Language"));
     if (!m_dispatcher->snapshot().link_connected)
@@ -324,10 +329,17 @@ void form_base::changeEvent(QEvent *event)
 
 void form_base::closeEvent(QCloseEvent *event)
 {
+    if (m_updater->isDownloadRunning()) { // ending now would leave the device without firmware
+        m_updater->raise();
+        m_updater->activateWindow();
+        event->ignore();
+        return;
+    }
     on_action_serial_stop_triggered();
     settingsFile().setValue(settings_keys::kGeometry, saveGeometry());
     for (QDialog *dialog : {static_cast<QDialog *>(m_portDialog), static_cast<QDialog *>(m_settingsDialog),
-                            static_cast<QDialog *>(m_recordDialog), static_cast<QDialog *>(m_aboutDialog)})
+                            static_cast<QDialog *>(m_updater), static_cast<QDialog *>(m_recordDialog),
+                            static_cast<QDialog *>(m_aboutDialog)})
         dialog->close();
     m_sensorDashboard.reset();
     m_wirelessDashboard.reset();

@@ -31,6 +31,7 @@ class form_com_select;
 class form_record;
 class form_sensor_dashboard;
 class form_settings;
+class form_updater;
 class form_wireless_dashboard;
 
 namespace Ui {
@@ -69,6 +70,7 @@ public slots:
     void on_action_serial_stop_triggered();
     void on_actionDevice_Settiing_triggered();
     void on_action_export_data_triggered();
+    void on_action_firmware_update_triggered();
     void on_actionAbout_triggered();
     void on_actionFontSmall_triggered();
     void on_actionFontMedium_triggered();
@@ -104,6 +106,7 @@ private:
     void on_orientation_preset_changed(OrientationPreset preset);
     const ProductProfile &currentProfile() const;
     bool isStreamLive() const;
+    void onBootloaderChanged();
 
     // stream and views
     void onKbootFrameRecv(const QByteArray &payload);
@@ -141,6 +144,7 @@ private:
     form_com_select *m_portDialog = nullptr;
     form_settings *m_settingsDialog = nullptr;
     form_about *m_aboutDialog = nullptr;
+    form_updater *m_updater = nullptr;
     form_record *m_recordDialog = nullptr;
     QToolButton *m_recordButton = nullptr;
     std::unique_ptr<form_sensor_dashboard> m_sensorDashboard;     ///< created when first asked for

@@ -26,6 +26,7 @@
 #include "ui/status_text.h"
 #include "ui/value_strip.h"
 #include "ui_form_base.h"
+#include "updater/form_updater.h"
 #include "wave/form_wireless_dashboard.h"
 
 namespace {
@@ -72,6 +73,7 @@ void form_base::open_port()
     m_dispatcher->setLinkConnected(true);
     m_settingsDialog->set_connected(true);
     m_recordDialog->setLinkOpen(true);
+    m_updater->set_connection_open(true);
     forgetChartHistory();
     m_panel->clear();
 
@@ -109,6 +111,7 @@ void form_base::closeConnection()
     QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
     m_dispatcher->clear();
     m_settingsDialog->set_connected(false);
+    m_updater->set_connection_open(false);
     m_recordDialog->setLinkOpen(false); // ends a recording: flushed and closed
     if (m_wirelessDashboard)
         m_wirelessDashboard->clear();
@@ -128,7 +131,7 @@ void form_base::closeConnection()
 
 void form_base::leaveDeviceStreaming()
 {
-    if (!m_broker->isCollecting() && !m_settingsDialog->is_output_stopped())
+    if (m_updater->isBootloaderConnected() || (!m_broker->isCollecting() && !m_settingsDialog->is_output_stopped()))
         return;
     // A reading in progress, or the user, has stopped the output: the next program must not find a mute device.
     QMetaObject::invokeMethod(m_port.get(), "serialSend", Qt::QueuedConnection,
@@ -206,6 +209,26 @@ bool form_base::isStreamLive() const
 {
     // Frames from before the last read do not count: the read has stopped the output.
     return m_dispatcher->snapshot().has_frame_items && m_lastFrameMs > m_lastReadMs;
+}
+
+/// A bootloader takes no commands and sends no samples, and a download is not to be disturbed. When the firmware is
+/// back the device may be another one.
+void form_base::onBootloaderChanged()
+{
+    const bool running = m_updater->isDownloadRunning();
+    const bool resident = running || m_updater->isBootloaderConnected();
+    const bool isOpen = m_dispatcher->snapshot().link_connected;
+    m_ui->action_serial_stop->setEnabled(isOpen && !running);
+    m_ui->actionDevice_Settiing->setEnabled(!resident);
+    m_settingsDialog->setEnabled(!resident);
+    if (resident) {
+        m_retryTimer->stop();
+    } else if (isOpen) {
+        m_productInfoRequested = false;
+        clearDetectedDevice();
+        m_dispatcher->setProductInfoReady(false);
+        m_retryTimer->start();
+    }
 }
 
 void form_base::takeDetectedDevice(const DetectedDevice &device)

@@ -15,6 +15,7 @@
 #include "link/stream_dispatcher.h"
 #include "ui/form_record.h"
 #include "ui_form_base.h"
+#include "updater/form_updater.h"
 #include "wave/form_sensor_dashboard.h"
 #include "wave/form_wireless_dashboard.h"
 #include "wave/sample_feed.h"
@@ -35,6 +36,11 @@ constexpr unsigned int kMsPerSecond = 1000;
 void form_base::on_action_export_data_triggered()
 {
     bringUp(m_recordDialog);
+}
+
+void form_base::on_action_firmware_update_triggered()
+{
+    bringUp(m_updater);
 }
 
 void form_base::on_action_sensor_dashboard_triggered()
