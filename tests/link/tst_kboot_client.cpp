@@ -1,7 +1,6 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
-#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -149,182 +148,143 @@ private slots:
         QCOMPARE(peer.packets(), expected);
     }
 
-    void connectFaults_data()
-    {
-        QTest::addColumn<int>("at"); // 0 the restart, 1 the ping, 2 to 6 the properties
-        QTest::addColumn<QByteArray>("answer");
-        QTest::addColumn<bool>("connected");
-        QTest::addColumn<Fault>("fault");
-        const QByteArray good = BootloaderPeer::propertyReply(frames::Bytes().u32(32));
-        QTest::newRow("ping ignored") << 1 << kNothing << true << Fault::None;
-        QTest::newRow("ping half answered") << 1 << frames::hex("5A A7") << true << Fault::None;
-        QTest::newRow("silent") << 2 << kNothing << false << Fault::NoAnswer;
-        QTest::newRow("acknowledge only") << 3 << BootloaderPeer::ack() << false << Fault::NoAnswer;
-        QTest::newRow("3 bytes") << 2 << BootloaderPeer::propertyReply("abc") << false << Fault::WrongAnswer;
-        QTest::newRow("5 bytes") << 3 << BootloaderPeer::propertyReply("abcde") << false << Fault::WrongAnswer;
-        QTest::newRow("no value") << 5 << BootloaderPeer::propertyReply({}) << false << Fault::WrongAnswer;
-        QTest::newRow("shorter than a header") << 6 << command("ab") << false << Fault::WrongAnswer;
-        QTest::newRow("the stream goes on")
-            << 4 << frames::packet(frames::fullRecord(1)) << false << Fault::WrongAnswer;
-        QTest::newRow("wrong CRC") << 6 << good.chopped(1) + "x" << false << Fault::NoAnswer;
-        QTest::newRow("error status") << 6 << BootloaderPeer::ack() + BootloaderPeer::response(0xA7, 103, "abcd")
-                                      << true << Fault::None;
-        QTest::newRow("noise and a stale packet head before")
-            << 3 << frames::hex("00 5A 5A FF 5A A1 41") + good << true << Fault::None;
-        // The header alone would leave the decoder in the middle of a packet when the next command is sent.
-        QTest::newRow("cut behind the ping") << 1 << frames::hex("5A A7 03 01 02 50") << true << Fault::None;
-    }
     void connectFaults()
     {
-        QFETCH(int, at);
-        QFETCH(QByteArray, answer);
-        QFETCH(bool, connected);
-        BootloaderPeer peer([=](const QByteArray &, int index) { return index == at ? Answer(answer) : Answer(); });
-        TestedPort port(peer.path());
-        QCOMPARE(port.connects(), connected);
-        QTEST(port.outcome().fault, "fault");
-        QCOMPARE(port.outcome().step, Step::Properties);
-        QCOMPARE(peer.packets().size(), connected ? 7 : at + 1);
-        if (at == 5)
-            QCOMPARE(port.kboot()->facts().deviceId, QString());
+        const QByteArray good = BootloaderPeer::propertyReply(frames::Bytes().u32(32));
+        const QByteArray badStatus = BootloaderPeer::ack() + BootloaderPeer::response(0xA7, 103, "abcd");
+        // Which packet is answered so: 0 the restart, 1 the ping, 2 to 6 the properties. No fault: it connects.
+        const std::tuple<const char *, int, QByteArray, Fault> rows[] = {
+            {"ping ignored", 1, kNothing, Fault::None},
+            {"ping half answered", 1, frames::hex("5A A7"), Fault::None},
+            {"cut inside the ping's answer", 1, frames::hex("5A A7 03 01 02 50"), Fault::None},
+            {"acknowledge only", 3, BootloaderPeer::ack(), Fault::NoAnswer},
+            {"3 bytes", 2, BootloaderPeer::propertyReply("abc"), Fault::WrongAnswer},
+            {"5 bytes", 3, BootloaderPeer::propertyReply("abcde"), Fault::WrongAnswer},
+            {"no value", 5, BootloaderPeer::propertyReply({}), Fault::WrongAnswer},
+            {"shorter than a header", 6, command("ab"), Fault::WrongAnswer},
+            {"the stream goes on", 4, frames::packet(frames::fullRecord(1)), Fault::WrongAnswer},
+            {"wrong CRC", 6, good.chopped(1) + "x", Fault::NoAnswer},
+            {"error status", 6, badStatus, Fault::None},
+            {"four bytes of noise pass for a value", 6, "abcd", Fault::None},
+            {"noise and a stale head before", 3, frames::hex("00 5A 5A FF 5A A1 41") + good, Fault::None}};
+        for (const auto &[name, at, answer, fault] : rows) {
+            BootloaderPeer peer([at = at, answer = answer](const QByteArray &, int index) {
+                return index == at ? Answer(answer) : Answer();
+            });
+            TestedPort port(peer.path());
+            QVERIFY2(port.connects() == (fault == Fault::None), name);
+            QVERIFY2(port.outcome().fault == fault && port.outcome().step == Step::Properties, name);
+            QVERIFY2(peer.packets().size() == (fault == Fault::None ? 7 : at + 1), name);
+            QVERIFY2(at != 5 || port.kboot()->facts().deviceId.isEmpty(), name);
+        }
     }
 
-    void downloadFaults_data()
-    {
-        QTest::addColumn<int>("size");
-        QTest::addColumn<int>("attempts");
-        QTest::addColumn<QByteArray>("answer"); // to the second data packet or to the command
-        QTest::addColumn<int>("repeats");
-        QTest::addColumn<int>("commandTag"); // 0: data
-        QTest::addColumn<Step>("step");
-        QTest::addColumn<Fault>("fault");
-        const QByteArray nak = frames::hex("5A A2");
-        const QByteArray abort = frames::hex("5A A3");
-        const auto row = [](const char *name) -> QTestData & { return QTest::newRow(name); };
-        row("refused once") << 100 << 2 << nak << 1 << 0 << Step::Reset << Fault::None;
-        row("aborted once") << 100 << 2 << abort << 1 << 0 << Step::Reset << Fault::None;
-        row("silent once") << 100 << 2 << kNothing << 1 << 0 << Step::Reset << Fault::None;
-        row("refused twice") << 100 << 2 << nak << 2 << 0 << Step::Data << Fault::Refused;
-        row("aborted twice") << 100 << 2 << abort << 2 << 0 << Step::Data << Fault::Aborted;
-        row("silent for good") << 100 << 3 << kNothing << 3 << 0 << Step::Data << Fault::NoAnswer;
-        row("one attempt") << 100 << 1 << nak << 1 << 0 << Step::Data << Fault::Refused;
-        row("no attempt") << 100 << 0 << kNothing << 0 << 0 << Step::Data << Fault::None;
-        row("response for acknowledge") << 100 << 1 << BootloaderPeer::response(0xA0, 0, "abcd") << 1 << 0
-                                        << Step::Reset << Fault::None;
-        row("half a packet before") << 100 << 1 << frames::hex("41 5A A1") << 1 << 0 << Step::Reset << Fault::None;
-        row("empty image") << 0 << 2 << kNothing << 0 << 0 << Step::Reset << Fault::None;
-        row("erase silent") << 100 << 2 << BootloaderPeer::ack() << 0 << 0x02 << Step::Erase << Fault::NoAnswer;
-        row("write silent") << 100 << 2 << kNothing << 0 << 0x04 << Step::Write << Fault::NoAnswer;
-        row("reset silent") << 100 << 2 << kNothing << 0 << 0x0B << Step::Reset << Fault::None;
-        row("erase fails and goes on") << 100 << 2 << BootloaderPeer::response(0xA0, 102, "abcd") << 0 << 0x02
-                                       << Step::Reset << Fault::None;
-    }
     void downloadFaults()
     {
-        QFETCH(int, size);
-        QFETCH(int, attempts);
-        QFETCH(QByteArray, answer);
-        QFETCH(int, repeats);
-        QFETCH(int, commandTag);
-        QFETCH(BootloaderStep, step);
-        int data = 0; // in the peer's thread only
-        BootloaderPeer peer([=](const QByteArray &packet, int) mutable -> Answer {
-            data += isData(packet) ? 1 : 0;
-            const bool isFaulty =
-                commandTag > 0 ? isCommand(packet, commandTag) : isData(packet) && data >= 2 && data < 2 + repeats;
-            return isFaulty ? Answer(answer) : Answer();
-        });
-        TestedPort port(peer.path());
-        QVERIFY(port.connects());
-        const bool complete = step == Step::Reset;
-        QCOMPARE(port.downloads(counting(size), attempts), complete);
-        const BootloaderOutcome outcome = port.outcome();
-        QCOMPARE(outcome.step, step);
-        QTEST(outcome.fault, "fault");
-        QCOMPARE(outcome.acknowledgedBytes, complete ? size : step == Step::Data && attempts > 0 ? 32 : 0);
-        QCOMPARE(outcome.repeatedPackets, complete && answer.size() < 3 && commandTag == 0 ? repeats
-                                          : step == Step::Data && attempts > 0             ? attempts - 1
-                                                                                           : 0);
-        QCOMPARE(outcome.targetStatus, answer.contains('f') ? 102U : 0U);
-        QByteArray written; // a packet that is sent again carries the same bytes
-        for (QByteArray last; const QByteArray &packet : peer.packets()) {
-            if (isData(packet) && packet != std::exchange(last, packet))
-                written += packet.mid(6);
+        const QByteArray nak = frames::hex("5A A2");
+        const QByteArray abort = frames::hex("5A A3");
+        const QByteArray badStatus = BootloaderPeer::response(0xA0, 102, "abcd");
+        // Tag of the command that is answered so, 0 for data from the second packet on; how often; attempts.
+        const std::tuple<const char *, int, QByteArray, int, int, Step, Fault> rows[] = {
+            {"refused once", 0, nak, 1, 2, Step::Reset, Fault::None},
+            {"aborted once", 0, abort, 1, 2, Step::Reset, Fault::None},
+            {"silent once", 0, kNothing, 1, 2, Step::Reset, Fault::None},
+            {"refused twice", 0, nak, 2, 2, Step::Data, Fault::Refused},
+            {"aborted twice", 0, abort, 2, 2, Step::Data, Fault::Aborted},
+            {"silent for good", 0, kNothing, 9, 3, Step::Data, Fault::NoAnswer},
+            {"one attempt", 0, nak, 1, 1, Step::Data, Fault::Refused},
+            {"no attempt", 0, kNothing, 0, 0, Step::Data, Fault::None},
+            {"response for acknowledge", 0, badStatus, 9, 1, Step::Reset, Fault::None},
+            {"noise before", 0, frames::hex("41 FF 5A A1"), 9, 1, Step::Reset, Fault::None},
+            {"erase silent", 0x02, BootloaderPeer::ack(), 1, 2, Step::Erase, Fault::NoAnswer},
+            {"write silent", 0x04, kNothing, 1, 2, Step::Write, Fault::NoAnswer},
+            {"reset silent", 0x0B, kNothing, 1, 2, Step::Reset, Fault::None},
+            {"erase fails and goes on", 0x02, badStatus, 1, 2, Step::Reset, Fault::None}};
+        for (const auto &[name, tag, answer, times, attempts, step, fault] : rows) {
+            BootloaderPeer peer([tag = tag, answer = answer, times = times, data = 0](const QByteArray &packet,
+                                                                                      int) mutable {
+                data += isData(packet) ? 1 : 0;
+                const bool isIt = tag > 0 ? isCommand(packet, tag) : isData(packet) && data >= 2 && data < 2 + times;
+                return isIt ? Answer(answer) : Answer();
+            });
+            TestedPort port(peer.path());
+            QVERIFY2(port.connects(), name);
+            const bool complete = step == Step::Reset;
+            QVERIFY2(port.downloads(counting(100), attempts) == complete, name);
+            const BootloaderOutcome outcome = port.outcome();
+            QVERIFY2(outcome.step == step && outcome.fault == fault, name);
+            QVERIFY2(outcome.targetStatus == (answer == badStatus ? 102U : 0U), name);
+            QByteArray written; // a packet that is sent again carries the same bytes
+            for (QByteArray last; const QByteArray &packet : peer.packets()) {
+                if (isData(packet) && packet != std::exchange(last, packet))
+                    written += packet.mid(6);
+            }
+            QVERIFY2(counting(100).startsWith(written), name);
+            QVERIFY2(outcome.acknowledgedBytes == (complete ? 100 : attempts > 0 && tag == 0 ? 32 : 0), name);
+            QVERIFY2(isCommand(peer.packets().constLast(), 0x0B) == complete, name);
         }
-        if (complete)
-            QCOMPARE(written, counting(size));
-        QCOMPARE(isCommand(peer.packets().constLast(), 0x0B), complete);
     }
 
     void packetSizes()
     {
-        const std::tuple<int, int, QList<int>> rows[] = {{0, 100, {}},
-                                                         {-1, 100, {}},
-                                                         {1, 3, {33, 66, 100}},
-                                                         {512, 1024, {50, 100}},
-                                                         {0x7FFFFFFF, 70000, {93, 100}}}; // the length field ends it
-        for (const auto &[packetSize, size, progress] : rows) {
-            BootloaderPeer peer([=, largest = packetSize](const QByteArray &packet, int) {
+        const std::tuple<int, int, bool, QList<int>> rows[] = {
+            {32, 0, true, {}},
+            {0, 100, false, {}},
+            {-1, 100, false, {}},
+            {1, 3, true, {33, 66, 100}},
+            {512, 1024, true, {50, 100}},
+            {0x7FFFFFFF, 70000, true, {93, 100}}}; // the length field ends it
+        for (const auto &[packetSize, size, complete, progress] : rows) {
+            BootloaderPeer peer([largest = quint32(packetSize)](const QByteArray &packet, int) {
                 const bool isAsked = isCommand(packet, 0x07) && packet.at(10) == 0x0B;
-                return isAsked ? Answer(BootloaderPeer::propertyReply(frames::Bytes().u32(quint32(largest))))
-                               : Answer();
+                return isAsked ? Answer(BootloaderPeer::propertyReply(frames::Bytes().u32(largest))) : Answer();
             });
             TestedPort port(peer.path());
             QVERIFY(port.connects());
-            QCOMPARE(port.downloads(counting(size)), !progress.isEmpty());
+            QCOMPARE(port.downloads(counting(size)), complete);
             QCOMPARE(port.progress, progress);
-            QCOMPARE(port.outcome().fault, progress.isEmpty() ? Fault::PacketSize : Fault::None);
+            QCOMPARE(port.outcome().fault, complete ? Fault::None : Fault::PacketSize);
         }
     }
 
     // The worker has to leave its nested waits, tell the end and come home, wherever it waits.
-    void lineEnds_data()
-    {
-        QTest::addColumn<int>("at"); // the packet that is not answered
-        QTest::addColumn<bool>("unplug");
-        for (const int at : {1, 2, 7, 8, 10, 13}) {
-            QTest::addRow("unplugged at %d", at) << at << true;
-            QTest::addRow("closed at %d", at) << at << false;
-        }
-    }
     void lineEnds()
     {
-        QFETCH(int, at);
-        QFETCH(bool, unplug);
-        std::atomic<BootloaderPeer *> self = nullptr;
-        std::atomic<bool> reached = false;
-        BootloaderPeer peer([&](const QByteArray &, int index) -> Answer {
-            if (index != at)
-                return {};
-            if (unplug)
-                self.load()->unplug();
-            reached = true;
-            return kNothing;
-        });
-        self = &peer;
-        TestedPort port(peer.path());
-        if (at < 7) {
-            QMetaObject::invokeMethod(&port, "runConnect", Qt::QueuedConnection);
-        } else {
-            QVERIFY(port.connects());
-            port.start(counting(100));
-        }
-        QTRY_VERIFY(reached);
-        if (unplug)
-            QTRY_VERIFY(!port.isBootloaderBusy());
-        port.closeUART();
-        QCOMPARE(port.thread(), QCoreApplication::instance()->thread());
-        QCOMPARE(port.kboot()->thread(), QCoreApplication::instance()->thread());
-        QVERIFY(!port.isOpen() && !port.isBootloaderBusy());
-        QCoreApplication::sendPostedEvents();
-        QCOMPARE(port.finished, at < 7 ? QList<bool>{} : QList<bool>{at == 13}); // by the reset all is written
-        if (at != 13)
-            QCOMPARE(port.outcome().fault, Fault::PortClosed);
+        for (const int at : {1, 2, 7, 8, 10, 13}) { // the packet that is not answered
+            for (const bool unplug : {true, false}) {
+                std::atomic<BootloaderPeer *> self = nullptr;
+                std::atomic<bool> reached = false;
+                BootloaderPeer peer([&](const QByteArray &, int index) {
+                    if (index == at && unplug)
+                        self.load()->unplug();
+                    reached = reached || index == at;
+                    return index == at ? Answer(kNothing) : Answer();
+                });
+                self = &peer;
+                TestedPort port(peer.path());
+                if (at < 7) {
+                    QMetaObject::invokeMethod(&port, "runConnect", Qt::QueuedConnection);
+                } else {
+                    QVERIFY(port.connects());
+                    port.start(counting(100));
+                }
+                QTRY_VERIFY(reached);
+                QTRY_VERIFY(!unplug || !port.isBootloaderBusy());
+                port.closeUART();
+                QCOMPARE(port.thread(), QCoreApplication::instance()->thread());
+                QCOMPARE(port.kboot()->thread(), QCoreApplication::instance()->thread());
+                QVERIFY(!port.isOpen() && !port.isBootloaderBusy());
+                QCoreApplication::sendPostedEvents();
+                const bool isWritten = at == 13; // only the reset is missing
+                QCOMPARE(port.finished, at < 7 ? QList<bool>{} : QList<bool>{isWritten});
+                QVERIFY(isWritten || port.outcome().fault == Fault::PortClosed);
 
-        BootloaderPeer next;
-        port.open(next.path());
-        QVERIFY(port.connects());
-        QVERIFY(port.downloads(counting(40)));
+                BootloaderPeer next;
+                port.open(next.path());
+                QVERIFY(port.connects());
+                QVERIFY(port.downloads(counting(40)));
+            }
+        }
     }
 
     void oneOperationAtATime()
@@ -344,17 +304,6 @@ private slots:
         QVERIFY(port.downloads(counting(64)));
         QCOMPARE(peer.packets().size(), 7 + 2 + 2 + 1);
         QCOMPARE(port.finished, QList<bool>{true});
-    }
-
-    void closedPort()
-    {
-        KvUartPort port;
-        QSignalSpy finished(&port, &KvUartPort::bootloaderDownloadFinished);
-        QVERIFY(!port.connectBootloader());
-        QVERIFY(!port.downloadBootloader("image", 0, 2));
-        port.startDownloadBootloader("image", 0, 2);
-        QCOMPARE(finished, (QList<QVariantList>{{false}}));
-        QCOMPARE(port.kboot()->outcome().fault, Fault::PortClosed);
     }
 
 private:

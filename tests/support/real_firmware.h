@@ -23,7 +23,7 @@ constexpr char kMissing[] = "Needs a real HEX file (firmware-microbit-micropytho
 
 /// What srec_cat makes of the program in flash (records behind it configure the chip) by `options`, as a file's
 /// content.
-inline QByteArray convert(const char *options, const char *format)
+inline QByteArray convert(const QByteArray &options, const char *format)
 {
     QProcess tool;
     QStringList words{path(), QStringLiteral("-intel"), QStringLiteral("-crop"), QStringLiteral("0"),

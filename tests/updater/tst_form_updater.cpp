@@ -216,6 +216,9 @@ private slots:
         const QString report = QGuiApplication::clipboard()->text();
         QVERIFY(report.contains(bench.log()) && report.contains(QStringLiteral("firmware.hex"))
                 && report.contains(bench.label("LBL_status")));
+        write(QStringLiteral("firmware.hex"), hex_file::file(goodImage(4000), 0));
+        bench.press("BTN_connect");
+        QVERIFY(bench.label("LBL_doubts").contains(QStringLiteral("changed since it was loaded")));
         bench.dialog.close();
         QVERIFY(!bench.dialog.isVisible());
     }
@@ -245,103 +248,69 @@ private slots:
         QVERIFY(bench.dialog.isBootloaderConnected() && !bench.dialog.isDownloadRunning());
     }
 
-    void faults_data()
-    {
-        QTest::addColumn<QByteArray>("control");
-        QTest::addColumn<int>("ends"); // 0 complete, 1 connect fails, 2 download fails
-        QTest::addColumn<QString>("state");
-        QTest::addColumn<QByteArray>("remedy");
-        const QString unchanged = QStringLiteral("Nothing was written");
-        const QString incomplete = QStringLiteral("of 5,000 bytes were written: the firmware is incomplete");
-        const auto row = [](const char *control) -> QTestData & {
-            return QTest::newRow(control) << QByteArray(control);
-        };
-        row("bootloader mute-ping on") << 0 << QString() << QByteArray();
-        row("bootloader property-bytes 3") << 1 << unchanged << QByteArray("bootloader property-bytes 4");
-        row("bootloader property-bytes 5") << 1 << unchanged << QByteArray("bootloader property-bytes 4");
-        row("silent on") << 1 << unchanged << QByteArray("silent off");
-        row("deaf on") << 1 << unchanged << QByteArray("deaf off");
-        row("bootloader nak 1") << 0 << QString() << QByteArray();
-        row("bootloader nak 157") << 0 << QString() << QByteArray();
-        row("bootloader nak 1:2") << 2
-                                  << QStringLiteral(
-                                         "refused a packet. Nothing was written, but the flash may be erased")
-                                  << QByteArray();
-        row("bootloader nak 157:2") << 2 << QStringLiteral("4,992 ") + incomplete << QByteArray();
-        row("bootloader abort 3:2") << 2 << QStringLiteral("aborted the transfer. 64 ") + incomplete << QByteArray();
-        row("bootloader ignore 9") << 0 << QString() << QByteArray();
-        row("bootloader ignore 9:2") << 2 << QStringLiteral("256 ") + incomplete << QByteArray();
-        row("bootloader erase-ms 1400") << 0 << QString() << QByteArray();
-        row("bootloader erase-ms 2500") << 2 << QStringLiteral("may be partly erased")
-                                        << QByteArray("bootloader erase-ms 0");
-        row("bootloader trickle-ms 3") << 0 << QString() << QByteArray();
-        row("bootloader stale-ms 20") << 0 << QString() << QByteArray();
-    }
     void faults()
     {
-        QFETCH(QByteArray, control);
-        QFETCH(int, ends);
-        QFETCH(QString, state);
-        QFETCH(QByteArray, remedy);
+        enum Ends { Complete, Unconnected, Failed };
+        const QString unchanged = QStringLiteral("Nothing was written: ");
+        const QString incomplete = QStringLiteral("%1 of 5,000 bytes were written: the firmware is incomplete");
+        const QString erased = QStringLiteral("Nothing was written, but the flash may be erased");
+        const std::tuple<const char *, Ends, QString, const char *> rows[] = {
+            {"bootloader mute-ping on", Complete, {}, nullptr},
+            {"bootloader property-bytes 3", Unconnected, unchanged, "bootloader property-bytes 4"},
+            {"bootloader property-bytes 5", Unconnected, unchanged, "bootloader property-bytes 4"},
+            {"silent on", Unconnected, unchanged, "silent off"},
+            {"bootloader nak 1", Complete, {}, nullptr},
+            {"bootloader nak 157", Complete, {}, nullptr},
+            {"bootloader nak 1:2", Failed, QStringLiteral("refused a packet. ") + erased, nullptr},
+            {"bootloader nak 157:2", Failed, incomplete.arg(QStringLiteral("4,992")), nullptr},
+            {"bootloader abort 3:2", Failed, incomplete.arg(64), nullptr},
+            {"bootloader ignore 9", Complete, {}, nullptr},
+            {"bootloader ignore 9:2", Failed, incomplete.arg(256), nullptr},
+            {"bootloader erase-ms 1400", Complete, {}, nullptr},
+            {"bootloader erase-ms 2500", Failed, QStringLiteral("partly erased"), "bootloader erase-ms 0"},
+            {"bootloader trickle-ms 3", Complete, {}, nullptr},
+            {"bootloader stale-ms 20", Complete, {}, nullptr}};
         const QByteArray image = goodImage(5000);
-        Bench bench(hex_file::file(image, 0));
-        QVERIFY(bench.device.control(control.constData()));
-        QCOMPARE(bench.update(), ends == 0);
-        QVERIFY2(bench.label("LBL_status").contains(state), qPrintable(bench.label("LBL_status")));
-        QVERIFY(bench.button("BTN_connect")->isEnabled() && !bench.button("BTN_download")->isEnabled());
-        if (ends == 1)
-            QVERIFY(bench.log().endsWith(QStringLiteral("CONNECT ERR\nPlease check:\n  - Device is powered on\n"
-                                                        "  - Serial port is correct\n  - Bootloader is installed\n")));
-        if (ends == 2)
-            QVERIFY(bench.log().endsWith(QStringLiteral("--- Starting download ---\nDownload failed\n")));
-        if (ends > 0) { // and the way out that the window has named
-            QVERIFY(remedy.isEmpty() || bench.device.control(remedy.constData()));
-            QVERIFY(QTest::qWaitFor([&] { return bench.update(); }, 10000));
+        for (const auto &[control, ends, state, remedy] : rows) {
+            Bench bench(hex_file::file(image, 0));
+            QVERIFY(bench.device.control(control));
+            QVERIFY2(bench.update() == (ends == Complete), control);
+            QVERIFY2(bench.label("LBL_status").contains(state), qPrintable(bench.label("LBL_status")));
+            QVERIFY(bench.button("BTN_connect")->isEnabled() && !bench.button("BTN_download")->isEnabled());
+            QVERIFY(
+                ends != Unconnected
+                || bench.log().endsWith(QStringLiteral("CONNECT ERR\nPlease check:\n  - Device is powered on\n"
+                                                       "  - Serial port is correct\n  - Bootloader is installed\n")));
+            QVERIFY(ends != Failed
+                    || bench.log().endsWith(QStringLiteral("--- Starting download ---\nDownload failed\n")));
+            // The way out that the window has named.
+            QVERIFY(remedy == nullptr || bench.device.control(remedy));
+            QVERIFY2(ends == Complete || QTest::qWaitFor([&] { return bench.update(); }, 10000), control);
+            QVERIFY2(bench.flash(image.size()) == image, control);
         }
-        QVERIFY(bench.flash(image.size()) == image);
     }
 
-    void lineEnds_data()
-    {
-        QTest::addColumn<BootloaderStep>("at");
-        QTest::addColumn<bool>("unplug");
-        for (const auto at : {BootloaderStep::Erase, BootloaderStep::Data}) {
-            QTest::addRow("unplugged at %d", int(at)) << at << true;
-            QTest::addRow("closed at %d", int(at)) << at << false;
-        }
-    }
     void lineEnds()
     {
-        QFETCH(BootloaderStep, at);
-        QFETCH(bool, unplug);
         const QByteArray image = goodImage(20000);
         Bench bench(hex_file::file(image, 0));
-        QVERIFY(bench.device.control("bootloader erase-ms 500"));
-        BootloaderStep reached = BootloaderStep::Idle;
-        connect(bench.port.kboot(), &KbootProtocol::downloadAdvanced, this,
-                [&](BootloaderStep step) { reached = step; });
-        bench.press("BTN_connect");
-        bench.press("BTN_download");
-        QTRY_COMPARE(reached, at);
-        if (unplug)
-            QVERIFY(bench.device.control("unplug"));
-        bench.port.closeUART(); // what the main window does when the port tells of an error
-        bench.dialog.set_connection_open(false);
-        QTRY_VERIFY(!bench.dialog.isDownloadRunning());
-        QVERIFY(bench.log().endsWith(QStringLiteral("Download failed\n")));
-        QVERIFY2(bench.label("LBL_status").contains(QStringLiteral("open the port again and press Connect")),
-                 qPrintable(bench.label("LBL_status")));
-        bench.press("BTN_connect"); // on the closed port
-        QVERIFY(!bench.dialog.isBootloaderConnected());
-        QVERIFY(!unplug || bench.device.control("replug"));
-        bench.open();
-        QVERIFY(QTest::qWaitFor([&] { return bench.update(); }, 10000));
-        QVERIFY(bench.flash(image.size()) == image);
-    }
-
-    void portClosedBetweenConnectAndDownload()
-    {
-        Bench bench(hex_file::file(goodImage(2000), 0));
+        for (const bool unplug : {true, false}) {
+            bench.press("BTN_connect");
+            bench.press("BTN_download");
+            QTRY_VERIFY(bench.child<QProgressBar>("PB_progress")->value() > 0);
+            QVERIFY(!unplug || bench.device.control("unplug"));
+            bench.port.closeUART(); // what the main window does when the port tells of an error
+            bench.dialog.set_connection_open(false);
+            QTRY_VERIFY(!bench.dialog.isDownloadRunning());
+            QVERIFY(bench.log().endsWith(QStringLiteral("Download failed\n")));
+            QVERIFY(bench.label("LBL_status").contains(QStringLiteral("open the port again and press Connect")));
+            bench.press("BTN_connect"); // on the closed port
+            QVERIFY(!bench.dialog.isBootloaderConnected());
+            QVERIFY(!unplug || bench.device.control("replug"));
+            bench.open();
+            QVERIFY(bench.update());
+            QVERIFY(bench.flash(image.size()) == image);
+        }
         bench.press("BTN_connect");
         bench.port.closeUART();
         bench.dialog.set_connection_open(false);
@@ -349,52 +318,29 @@ private slots:
         QVERIFY(!bench.label("LBL_status").isEmpty());
     }
 
-    void doubtsBeforeErasing_data()
-    {
-        QTest::addColumn<QByteArray>("file");
-        QTest::addColumn<QString>("shown"); // in the doubts, or instead of the image's facts
-        QByteArray even = goodImage(3000);
-        even[4] = '\0';
-        const auto row = [](const char *name) -> QTestData & { return QTest::newRow(name); };
-        row("too large") << hex_file::file(goodImage(20000), 0) << QStringLiteral("does not fit the 16 KB");
-        row("vector") << hex_file::file(even, 0) << QStringLiteral("reset vector");
-        row("stack") << hex_file::file("\xFF" + goodImage(3000), 0) << QStringLiteral("stack pointer");
-        row("small") << hex_file::file(goodImage(100), 0) << QStringLiteral("very small");
-        row("other address") << hex_file::file(goodImage(3000), 0x08000000)
-                             << QStringLiteral("begins at 0x08000000, but it will be written to 0x00000000");
-        row("broken") << QByteArray(":10\n") << QStringLiteral("no Intel HEX file");
-        row("missing") << QByteArray() << QStringLiteral("no file at this place");
-    }
     void doubtsBeforeErasing()
     {
-        QFETCH(QByteArray, file);
-        QFETCH(QString, shown);
-        Bench bench(file, {QStringLiteral("--flash-size"), QStringLiteral("16")});
-        if (file.isEmpty()) {
+        const std::tuple<QByteArray, const char *> rows[] = {
+            {hex_file::file(goodImage(20000), 0), "does not fit the 16 KB"},
+            {hex_file::file(goodImage(3000).replace(4, 1, "\xC2"), 0), "reset vector"},
+            {hex_file::file("\xFF" + goodImage(3000), 0), "stack pointer"},
+            {hex_file::file(goodImage(100), 0), "very small"},
+            {hex_file::file(goodImage(3000), 0x08000000), "begins at 0x08000000, but it will be written to 0x00000000"},
+            {":10\n", "no Intel HEX file"}};
+        for (const auto &[file, shown] : rows) {
+            Bench bench(file, {QStringLiteral("--flash-size"), QStringLiteral("16")});
+            bench.press("BTN_connect");
+            QVERIFY2((bench.label("LBL_doubts") + bench.label("LBL_image")).contains(QLatin1String(shown)), shown);
+            bench.press("BTN_download"); // told, not refused
+            QCOMPARE(bench.dialog.isDownloadRunning(), !bench.label("LBL_doubts").isEmpty());
+            QTRY_VERIFY_WITH_TIMEOUT(!bench.dialog.isDownloadRunning(), kDownloadMs);
+            if (file.size() > 4)
+                continue;
             QFile::remove(QStringLiteral("firmware.hex"));
             QVERIFY(QDir::current().mkdir(QStringLiteral("firmware.hex")));
-        }
-        bench.press("BTN_connect");
-        QVERIFY2((bench.label("LBL_doubts") + bench.label("LBL_image")).contains(shown),
-                 qPrintable(bench.label("LBL_doubts")));
-        QCOMPARE(bench.device.stat("bootloader"), 1);
-        if (file.isEmpty()) {
             QVERIFY(bench.logOf("BTN_download").endsWith(QStringLiteral("Failed to open file\nNO IMAGE\n")));
             QVERIFY(QDir::current().rmdir(QStringLiteral("firmware.hex")));
-        } else if (!bench.label("LBL_doubts").isEmpty()) { // told, not refused
-            bench.press("BTN_download");
-            QVERIFY(bench.dialog.isDownloadRunning());
-            QTRY_VERIFY_WITH_TIMEOUT(!bench.dialog.isDownloadRunning(), kDownloadMs);
         }
-    }
-
-    void aFileThatChangedIsTold()
-    {
-        Bench bench(hex_file::file(goodImage(3000), 0));
-        QVERIFY(bench.update());
-        write(QStringLiteral("firmware.hex"), hex_file::file(goodImage(4000), 0));
-        bench.press("BTN_connect");
-        QVERIFY(bench.label("LBL_doubts").contains(QStringLiteral("changed since it was loaded")));
     }
 
 private:
