@@ -19,6 +19,9 @@ constexpr QLatin1String kPortSerial("SERIAL/SERIAL_NUMBER");
 constexpr QLatin1String kRecordPath("RECORD/PATH"); ///< folder and name of the last recording, "<folder>/data.csv"
 constexpr QLatin1String kUpdaterPath("UPDATER/PATH"); ///< last firmware image
 
+constexpr QLatin1String kSpectrum("SPECTRUM"); ///< group of the spectrum window; kDashboardFolder below it
+constexpr QLatin1String kSpectrumGeometry("SPECTRUM/GEOMETRY"); ///< its size and place
+
 constexpr QLatin1String kSensorDashboard("SENSOR_DASHBOARD"); ///< group of the sensor dashboard; below it:
 constexpr QLatin1String kDashboardPlace("PLACE");             ///< window's size and place while not maximised
 constexpr QLatin1String kDashboardMaximized("MAXIMIZED");

@@ -5,7 +5,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 
 #include <algorithm>
 
@@ -128,15 +127,6 @@ QVariantMap summary(const QString &text)
         map.insert(QLatin1String(key), meta.value(QLatin1String(key)).toInt());
     map.insert(QStringLiteral("windowName"), meta.value(QLatin1String("windowName")).toString());
     return map;
-}
-
-QString writeFile(const QString &path, const QString &text)
-{
-    QSaveFile file(path);
-    const QByteArray bytes = text.toUtf8();
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
-        return {};
-    return QCoreApplication::translate("FftSnapshot", "The file could not be written: %1").arg(file.errorString());
 }
 
 QVariantMap readFile(const QString &path, QString &error)

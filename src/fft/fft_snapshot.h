@@ -70,8 +70,6 @@ QString toCsv(const FftSnapshot &snapshot);
 /// kMaxImportLength.
 QVariantMap summary(const QString &text);
 
-/// Writes a file as a whole or not at all. Returns an empty text, or why it failed.
-QString writeFile(const QString &path, const QString &text);
 /// Reads the summary of a snapshot file. `error` says why it is empty; files beyond kMaxImportLength are not read.
 QVariantMap readFile(const QString &path, QString &error);
 

@@ -16,10 +16,9 @@
 
 namespace {
 
-QString suggestedName(const ChartViewState &view, QLatin1String suffix)
+QString stemOf(const ChartViewState &view)
 {
-    const QString type = view.bridge() ? view.bridge()->sensorType() : QStringLiteral("chart");
-    return type + QDateTime::currentDateTime().toString(QStringLiteral("_yyyyMMdd_HHmmss")) + suffix;
+    return view.bridge() ? view.bridge()->sensorType() : QStringLiteral("chart");
 }
 
 } // namespace
@@ -32,13 +31,19 @@ void ChartSaver::saveData(ChartViewState *view)
 {
     if (!view || !view->bridge())
         return;
-    save(tr("Save the visible samples"), suggestedName(*view, QLatin1String(".csv")),
+    save(tr("Save the visible samples"), suggestedName(stemOf(*view), QLatin1String(".csv")),
          tr("Comma-separated values (*.csv)"), chart_export::csv(*view->bridge(), view->xViewMin(), view->xViewMax()));
 }
 
 void ChartSaver::savePicture(ChartViewState *view, QQuickItem *item)
 {
-    if (!view || !item)
+    if (view)
+        savePictureAs(stemOf(*view), item);
+}
+
+void ChartSaver::savePictureAs(const QString &stem, QQuickItem *item)
+{
+    if (!item)
         return;
     const auto grab = item->grabToImage((item->size() * m_window->devicePixelRatio()).toSize());
     if (!grab) {
@@ -46,7 +51,7 @@ void ChartSaver::savePicture(ChartViewState *view, QQuickItem *item)
         return;
     }
     // The result lives until its signal has been handled, and no longer.
-    const QString name = suggestedName(*view, QLatin1String(".png"));
+    const QString name = suggestedName(stem, QLatin1String(".png"));
     connect(
         grab.get(), &QQuickItemGrabResult::ready, this,
         [this, grab, name] {
@@ -61,13 +66,7 @@ void ChartSaver::savePicture(ChartViewState *view, QQuickItem *item)
 
 void ChartSaver::save(const QString &title, const QString &fileName, const QString &filter, const QByteArray &content)
 {
-    QSettings settings(settings_keys::kFile, QSettings::IniFormat);
-    settings.beginGroup(m_settingsGroup);
-    QString folder = settings.value(settings_keys::kDashboardFolder).toString();
-    if (folder.isEmpty() || !QFileInfo(folder).isDir())
-        folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-
-    auto *dialog = new QFileDialog(nullptr, title, folder, filter);
+    auto *dialog = new QFileDialog(nullptr, title, folder(), filter);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setDefaultSuffix(QFileInfo(fileName).suffix());
@@ -86,6 +85,21 @@ void ChartSaver::save(const QString &title, const QString &fileName, const QStri
         store.setValue(settings_keys::kDashboardFolder, QFileInfo(path).absolutePath());
     });
     dialog->open();
+}
+
+QString ChartSaver::suggestedName(const QString &stem, QLatin1String suffix)
+{
+    return stem + QDateTime::currentDateTime().toString(QStringLiteral("_yyyyMMdd_HHmmss")) + suffix;
+}
+
+QString ChartSaver::folder() const
+{
+    QSettings settings(settings_keys::kFile, QSettings::IniFormat);
+    settings.beginGroup(m_settingsGroup);
+    const QString last = settings.value(settings_keys::kDashboardFolder).toString();
+    return !last.isEmpty() && QFileInfo(last).isDir()
+               ? last
+               : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
 }
 
 void ChartSaver::tell(const QString &message, bool failed)

@@ -2,8 +2,8 @@
 
 #include <QLatin1String>
 #include <QObject>
-#include <QString>
 #include <QQuickItem>
+#include <QString>
 
 #include "wave/chart_view_state.h"
 
@@ -34,13 +34,23 @@ public:
     Q_INVOKABLE void savePicture(ChartViewState *view, QQuickItem *item);
     Q_INVOKABLE void clearMessage() { tell({}, false); }
 
+    /// Asks for a file under a suggested name and writes `content` into it.
+    void save(const QString &title, const QString &fileName, const QString &filter, const QByteArray &content);
+    /// A picture of `item` as a PNG file whose suggested name begins with `stem`.
+    Q_INVOKABLE void savePictureAs(const QString &stem, QQuickItem *item);
+    /// `stem` with the time and a suffix such as ".csv".
+    static QString suggestedName(const QString &stem, QLatin1String suffix);
+
 signals:
     void messageChanged();
 
-private:
-    void save(const QString &title, const QString &fileName, const QString &filter, const QByteArray &content);
+protected:
     void tell(const QString &message, bool failed);
+    QWindow *window() const { return m_window; }
+    /// The folder used last, else that of documents.
+    QString folder() const;
 
+private:
     QWindow *m_window;
     QLatin1String m_settingsGroup;
     QString m_message;

@@ -304,15 +304,10 @@ private slots:
         QCOMPARE(map.value(u"sampleRate"_s, 0).toInt(), 0);
     }
 
-    void files()
+    void unreadableFile()
     {
-        const QTemporaryDir folder;
-        const QString path = folder.filePath(u"a.csv"_s);
-        QCOMPARE(fft_snapshot::writeFile(path, u"1\n"_s), QString());
-        QVERIFY(!fft_snapshot::writeFile(folder.filePath(u"missing/a.csv"_s), u"1\n"_s).isEmpty());
-        QVERIFY(!fft_snapshot::writeFile(folder.path(), u"1\n"_s).isEmpty());
         QString error;
-        QVERIFY(fft_snapshot::readFile(folder.filePath(u"missing.json"_s), error).isEmpty());
+        QVERIFY(fft_snapshot::readFile(u"missing/a.json"_s, error).isEmpty());
         QVERIFY(!error.isEmpty());
     }
 };

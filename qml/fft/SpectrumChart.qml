@@ -1,0 +1,248 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import KVCenter.Controls
+import KVCenter.Fft
+import KVCenter.Wave
+
+/// The chart of the spectra as a card: title and settings of the spectra, legend, measurements, plot, and buttons.
+FocusScope {
+    id: chart
+
+    required property FftChartBridge bridge
+    required property FftFiles files
+    property string guide
+    property string emptyText
+    property string emptyDetail
+    readonly property alias viewState: view
+
+    activeFocusOnTab: true
+    Accessible.role: Accessible.Chart
+    Accessible.name: bridge.chartTitle
+    Keys.onPressed: event => event.accepted = view.handleKey(event.key, event.modifiers)
+
+    SpectrumViewState {
+        id: view
+
+        objectName: "viewState"
+        bridge: chart.bridge
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        radius: 8
+        color: Theme.surface
+        border.width: 1
+        border.color: chart.activeFocus ? Theme.accent : Theme.line
+    }
+
+    Item {
+        id: header
+
+        anchors {
+            left: parent.left
+            right: parent.right
+            top: parent.top
+            leftMargin: 14
+            rightMargin: 8
+            topMargin: 6
+        }
+        height: tools.height
+
+        Text {
+            id: titleText
+
+            anchors.verticalCenter: parent.verticalCenter
+            width: Math.min(implicitWidth, parent.width - tools.width - 8)
+            elide: Text.ElideRight
+            text: chart.bridge.chartTitle
+            textFormat: Text.PlainText
+            font: Theme.strongFont
+            color: Theme.text
+        }
+        Text {
+            anchors {
+                left: titleText.right
+                right: tools.left
+                leftMargin: 10
+                rightMargin: 8
+                baseline: titleText.baseline
+            }
+            elide: Text.ElideRight
+            visible: chart.bridge.sampleRate > 0
+            text: qsTr("%1 points · %2 Hz · %3 · %4 Hz per bin").arg(chart.bridge.fftSize).arg(chart.bridge.sampleRate).arg(chart.bridge.windowName).arg(chart.bridge.frequencyResolution.toPrecision(4))
+            textFormat: Text.PlainText
+            font: Theme.smallFont
+            color: Theme.textSecondary
+        }
+        Row {
+            id: tools
+
+            anchors.right: parent.right
+            spacing: 2
+
+            ActionButton {
+                objectName: "decibels"
+                bare: true
+                text: qsTr("dB")
+                checked: view.decibels
+                hint: view.decibels ? qsTr("Show amplitudes as they are") : qsTr("Show amplitudes in decibels")
+                onClicked: view.decibels = !view.decibels
+            }
+            ActionButton {
+                objectName: "fit"
+                bare: true
+                text: qsTr("Fit")
+                checked: view.fitted
+                hint: view.fitted ? qsTr("Show amplitudes up to the set maximum") : qsTr("Fit the amplitude axis to the curves beyond 0 Hz")
+                onClicked: view.fitted = !view.fitted
+            }
+            ActionButton {
+                bare: true
+                enabled: chart.bridge.hasData
+                checked: view.hasCursors
+                iconName: "cursors"
+                hint: view.hasCursors ? qsTr("Remove the cursors A and B") : qsTr("Measure between the cursors A and B")
+                keys: view.hasCursors ? qsTr("Esc") : qsTr("A, B")
+                onClicked: view.toggleCursors()
+            }
+            ActionButton {
+                bare: true
+                iconName: "reset"
+                hint: qsTr("Reset the view")
+                keys: qsTr("Home")
+                onClicked: view.reset()
+            }
+            ActionButton {
+                objectName: "savePicture"
+                bare: true
+                enabled: chart.bridge.hasData
+                iconName: "picture"
+                hint: qsTr("Save a picture of the chart")
+                onClicked: chart.files.savePictureAs("spectrum", chart)
+            }
+            ActionButton {
+                objectName: "saveCsv"
+                bare: true
+                enabled: chart.bridge.hasData
+                text: "CSV"
+                hint: qsTr("Save the spectra as a table")
+                onClicked: chart.files.saveCsv()
+            }
+            ActionButton {
+                objectName: "saveJson"
+                bare: true
+                enabled: chart.bridge.hasData
+                iconName: "save"
+                hint: qsTr("Save a snapshot of spectra and analysis")
+                onClicked: chart.files.saveJson()
+            }
+            ActionButton {
+                bare: true
+                text: qsTr("Open…")
+                hint: qsTr("Tell what a saved snapshot holds")
+                onClicked: chart.files.openSnapshot()
+            }
+            ActionButton {
+                bare: true
+                text: "?"
+                hint: chart.guide
+            }
+        }
+    }
+
+    Column {
+        id: rows
+
+        anchors {
+            left: parent.left
+            right: parent.right
+            top: header.bottom
+            leftMargin: 14
+            rightMargin: 14
+            topMargin: 2
+        }
+        spacing: 4
+
+        Item {
+            width: parent.width
+            height: legend.height
+
+            Text {
+                id: axisTitle
+
+                text: view.decibels ? qsTr("Level (dB, 0 dB = 1 %1)").arg(chart.bridge.unit) : chart.bridge.valueAxisTitle
+                textFormat: Text.PlainText
+                font: Theme.smallFont
+                color: Theme.textSecondary
+            }
+            Flow {
+                id: legend
+
+                anchors.right: parent.right
+                width: Math.min(parent.width - axisTitle.width - 12, implicitWidth)
+                spacing: 12
+
+                Repeater {
+                    model: view.lineNames
+
+                    ChartLegendEntry {
+                        required property int index
+                        required property string modelData
+
+                        objectName: "legend_" + index
+                        name: modelData
+                        color: view.lineColors[index]
+                        shown: view.visibleLines[index] ?? true
+                        onClicked: view.setLineVisible(index, !shown)
+                    }
+                }
+            }
+        }
+        Flow {
+            width: parent.width
+            spacing: 14
+            visible: measurements.count > 0
+
+            Repeater {
+                id: measurements
+
+                model: view.measurement
+
+                Text {
+                    required property string modelData
+
+                    text: modelData
+                    textFormat: Text.PlainText
+                    font: Theme.fixedSmallFont
+                    color: Theme.accentDark
+                }
+            }
+        }
+    }
+
+    SpectrumPlot {
+        anchors {
+            left: parent.left
+            right: parent.right
+            top: rows.bottom
+            bottom: parent.bottom
+            leftMargin: 10
+            rightMargin: 14
+            topMargin: 6
+            bottomMargin: 6
+        }
+        viewState: view
+        bridge: chart.bridge
+        onPressed: chart.forceActiveFocus()
+    }
+
+    EmptyState {
+        anchors.centerIn: parent
+        anchors.verticalCenterOffset: 20
+        width: parent.width - 40
+        visible: !chart.bridge.hasData
+        text: chart.emptyText
+        detail: chart.emptyDetail
+    }
+}

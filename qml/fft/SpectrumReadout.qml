@@ -1,0 +1,62 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import KVCenter.Controls
+import KVCenter.Fft
+
+/// The box beside the crosshair: the frequency of the bin and the amplitude of each curve there.
+Rectangle {
+    id: box
+
+    required property SpectrumViewState viewState
+
+    width: lines.width + 16
+    height: lines.height + 12
+    radius: 5
+    color: "#F2FFFFFF"
+    border.width: 1
+    border.color: Theme.border
+
+    Column {
+        id: lines
+
+        x: 8
+        y: 6
+        spacing: 1
+
+        Text {
+            text: box.viewState.hoverFrequency
+            textFormat: Text.PlainText
+            font: Theme.fixedSmallFont
+            color: Theme.textSecondary
+        }
+        Repeater {
+            model: box.viewState.lineNames
+
+            Row {
+                id: line
+
+                required property int index
+                required property string modelData
+
+                visible: box.viewState.visibleLines[index] ?? true
+                spacing: 6
+
+                Text {
+                    width: Theme.fixedSmallFont.pointSize * 7
+                    text: line.modelData
+                    textFormat: Text.PlainText
+                    elide: Text.ElideRight
+                    font: Theme.fixedSmallFont
+                    color: box.viewState.lineColors[line.index]
+                }
+                Text {
+                    text: box.viewState.hoverTexts[line.index] ?? ""
+                    textFormat: Text.PlainText
+                    font: Theme.fixedSmallFont
+                    color: Theme.text
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,115 @@
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+
+#include "fft/fft_chart_bridge.h"
+#include "fft/fft_sampler.h"
+#include "fft/fft_window.h"
+
+class FftFiles;
+class FftTrans;
+class QComboBox;
+class QDoubleSpinBox;
+class QLabel;
+class QPushButton;
+class QQuickView;
+class QThread;
+
+/// The spectrum window: a row of controls above the declarative view "qrc:/qml/FFTChartView.qml". It owns the parts and
+/// connects them: samples go through the FftSampler to the FftTrans on its own thread, and what comes back to the
+/// FftChartBridge. Main thread only.
+///
+/// View and engine come with the first showing. Closing ends the engine's thread, pauses, and abandons a batch that is
+/// out; showing again starts anew. Samples are taken while the window is visible only.
+class form_fftchart : public QWidget
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(form_fftchart)
+
+public:
+    explicit form_fftchart(QWidget *parent = nullptr);
+    ~form_fftchart() override;
+
+    /// Takes a sample of the selected node. A rate in Hz of 0 or less is estimated from the time stamps.
+    void appendData(node_data_t sample, int sampleRateHz);
+
+    bool isChartInitialized() const { return m_view != nullptr; }
+    /// Rate of the spectra that are shown, 0 while there are none.
+    int presentationSampleRate() const { return m_sampler.presentationRateHz(); }
+    FftChartBridge &bridge() { return m_bridge; }
+
+signals:
+    /// One request of a batch, to the engine's thread.
+    void start_fft_cal(unsigned long long batchId, signed char channel, int sampleRateHz, QList<double> samples);
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private slots:
+    void on_BTN_start_clicked();
+    void on_CB_type_currentIndexChanged(int index);
+    void on_CB_window_currentIndexChanged(int index);
+    void on_CB_hold_currentIndexChanged(int index);
+    void onFftCalPointTextChanged(const QString &text);
+    void on_SB_y_axis_max_valueChanged(double value);
+    void get_fft_result(unsigned long long batchId, signed char channel, QList<QPointF> points, int maxAmplitude);
+    void onTimer50ms();
+
+private:
+    void configureControls();
+    void retranslateDynamicUi();
+    void initChartParam();
+    void setViewProperty(const char *name, const QVariant &value);
+    void initFFTParam();
+    void releaseResources();
+    void refreshChartState();
+    void resetFftBuffers();
+    void clearRenderedFftData();
+    void startFFTCal();
+    void setRunning(bool running);
+    void updateYAxisControl();
+    void applyYAxisRangeToChart();
+    void syncFrequencyAxisState(bool rateChanged);
+    void syncBridgeMeta();
+    void syncBridgeViewConfig();
+    void syncBridgeRuntimeTelemetry();
+    void updateStatus();
+    QString currentChartTitle() const;
+    QString currentWindowName() const;
+    QString currentValueAxisTitle() const;
+    QString currentUnit() const;
+    QString currentChartInteractionGuide() const;
+    double &storedYAxisMax();
+    double currentYAxisMax();
+    double currentYAxisHardLimit() const;
+    bool isAcceleration() const { return m_sampler.spectrumType() == FftSpectrumType::Acceleration; }
+
+    QComboBox *m_type;
+    QComboBox *m_points;
+    QComboBox *m_window;
+    QComboBox *m_hold;
+    QDoubleSpinBox *m_yAxisMax;
+    QPushButton *m_start;
+    QLabel *m_pointsLabel;
+    QLabel *m_windowLabel;
+    QLabel *m_holdLabel;
+    QLabel *m_yAxisLabel;
+    QLabel *m_status;
+
+    FftChartBridge m_bridge;
+    FftSampler m_sampler;
+    QTimer m_timer;
+    FftWindowType m_windowType = FftWindowType::Rectangular;
+    int m_pointCount = FftSampler::kDefaultPoints;
+    double m_accelerationMax;    ///< mG
+    double m_angularVelocityMax; ///< deg/s
+    bool m_refitX = false;       ///< show all frequencies when the rate is known
+
+    QThread *m_thread = nullptr;
+    FftTrans *m_engine = nullptr; ///< deletes itself when the thread ends
+    QQuickView *m_view = nullptr; ///< owned by its container
+    FftFiles *m_files = nullptr;
+};

@@ -1,0 +1,381 @@
+#include "fft/spectrum_view_state.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "app/theme.h"
+#include "wave/axis_ticks.h"
+
+namespace {
+
+constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
+constexpr double kWheelNotch = 120;
+constexpr double kZoomPerNotch = 0.8;
+constexpr double kPanPerKey = 0.1;
+constexpr double kMinShareX = 1e-3; ///< smallest visible part of the frequencies
+constexpr double kMinAmplitudeSpan = 1e-4;
+constexpr double kMinDecibelSpan = 1;
+constexpr double kFittedDecibels = 80; ///< shown below the highest level
+constexpr int kWidth = 9;              ///< characters of a usual amplitude
+
+} // namespace
+
+SpectrumViewState::SpectrumViewState(QObject *parent) : QObject(parent), m_cursors{kNone, kNone} {}
+
+void SpectrumViewState::setBridge(FftChartBridge *bridge)
+{
+    if (bridge == m_bridge)
+        return;
+    if (m_bridge)
+        m_bridge->disconnect(this);
+    m_bridge = bridge;
+    if (bridge) {
+        connect(bridge, &FftChartBridge::fftDataChanged, this, &SpectrumViewState::dataChanged);
+        connect(bridge, &FftChartBridge::frameMetaChanged, this, &SpectrumViewState::followFrequencies);
+        connect(bridge, &FftChartBridge::frameMetaChanged, this, &SpectrumViewState::linesChanged);
+        connect(bridge, &FftChartBridge::viewConfigChanged, this, &SpectrumViewState::configChanged);
+        connect(bridge, &FftChartBridge::alarmPresetChanged, this, &SpectrumViewState::thresholdsChanged);
+        connect(bridge, &FftChartBridge::xAxisResetRequested, this, [this] { setX(fullX()); });
+    }
+    emit bridgeChanged();
+    configChanged();
+    dataChanged();
+    reset();
+}
+
+void SpectrumViewState::setDecibels(bool decibels)
+{
+    if (decibels == m_decibels)
+        return;
+    m_decibels = decibels;
+    m_y = fullY();
+    emit viewChanged();
+    emit marksChanged();
+    emit thresholdsChanged();
+    emit pictureChanged();
+}
+
+void SpectrumViewState::setFitted(bool fitted)
+{
+    if (fitted == m_fitted)
+        return;
+    m_fitted = fitted;
+    m_y = fullY();
+    emit viewChanged();
+    emit pictureChanged();
+}
+
+QStringList SpectrumViewState::lineNames() const
+{
+    return {QStringLiteral("X"), QStringLiteral("Y"), QStringLiteral("Z"), tr("Resultant")};
+}
+
+QVariantList SpectrumViewState::lineColors() const
+{
+    return {theme::kAxisX, theme::kAxisY, theme::kAxisZ, theme::kNorm};
+}
+
+QList<bool> SpectrumViewState::visibleLines() const
+{
+    return {m_visible[0], m_visible[1], m_visible[2], m_bridge && m_bridge->showResultant()};
+}
+
+void SpectrumViewState::setLineVisible(int line, bool visible)
+{
+    if (line == kLines - 1 && m_bridge) {
+        m_bridge->setShowResultant(visible);
+    } else if (line >= 0 && line < int(m_visible.size()) && m_visible[size_t(line)] != visible) {
+        m_visible[size_t(line)] = visible;
+        emit linesChanged();
+        emit pictureChanged();
+    }
+}
+
+double SpectrumViewState::level(double amplitude) const
+{
+    return m_decibels ? std::max(kFloorDb, 20 * std::log10(amplitude)) : amplitude;
+}
+
+QVariantList SpectrumViewState::marks() const
+{
+    QVariantList list;
+    const auto add = [this, &list](double frequency, double amplitude, const QString &label) {
+        list += QVariantMap{{QStringLiteral("frequency"), frequency},
+                            {QStringLiteral("level"), level(amplitude)},
+                            {QStringLiteral("label"), label}};
+    };
+    if (!m_bridge || !m_bridge->currentAlarmPeak().valid)
+        return list;
+    const FftPeakSummary peak = m_bridge->currentAlarmPeak();
+    add(peak.frequency, peak.amplitude, tr("%1 Hz").arg(axis_ticks::number(peak.frequency, 2)));
+    for (const FftHarmonicPeak &harmonic : m_bridge->harmonics())
+        add(harmonic.frequency, harmonic.amplitude, QStringLiteral("H%1").arg(harmonic.order));
+    return list;
+}
+
+double SpectrumViewState::watchLevel() const
+{
+    return m_bridge ? level(m_bridge->alarmRule().watchThreshold) : 0;
+}
+
+double SpectrumViewState::alarmLevel() const
+{
+    return m_bridge ? level(m_bridge->alarmRule().alarmThreshold) : 0;
+}
+
+void SpectrumViewState::setHoverX(double frequency)
+{
+    if (frequency == m_hoverX || (std::isnan(frequency) && std::isnan(m_hoverX)))
+        return;
+    m_hoverX = frequency;
+    emit hoverChanged();
+}
+
+QString SpectrumViewState::hoverFrequency() const
+{
+    const QVariantMap bin = m_bridge ? m_bridge->queryCursor(m_hoverX) : QVariantMap();
+    return bin.isEmpty() ? QString()
+                         : tr("%1 Hz").arg(axis_ticks::number(bin.value(QStringLiteral("frequency")).toDouble(), 2));
+}
+
+QStringList SpectrumViewState::hoverTexts() const
+{
+    QStringList texts;
+    for (const double amplitude : amplitudesAt(m_hoverX))
+        texts += amplitudeText(amplitude).rightJustified(kWidth, QChar::Nbsp);
+    return texts;
+}
+
+QList<double> SpectrumViewState::amplitudesAt(double frequency) const
+{
+    const QVariantMap bin = m_bridge ? m_bridge->queryCursor(frequency) : QVariantMap();
+    if (bin.isEmpty())
+        return {};
+    const double x = bin.value(QStringLiteral("xAmplitude")).toDouble();
+    const double y = bin.value(QStringLiteral("yAmplitude")).toDouble();
+    const double z = bin.value(QStringLiteral("zAmplitude")).toDouble();
+    return {x, y, z, std::sqrt(x * x + y * y + z * z)};
+}
+
+QString SpectrumViewState::amplitudeText(double amplitude, bool isDifference) const
+{
+    // A difference of decibels is handed in as such.
+    if (m_decibels)
+        return (isDifference ? axis_ticks::signedNumber(amplitude, 1) : axis_ticks::number(level(amplitude), 1))
+               + QStringLiteral(" dB");
+    const QString number = isDifference ? axis_ticks::signedNumber(amplitude, 2) : axis_ticks::number(amplitude, 2);
+    return m_bridge ? number + QLatin1Char(' ') + m_bridge->unit() : number;
+}
+
+bool SpectrumViewState::hasCursors() const
+{
+    return !std::isnan(m_cursors[0]) || !std::isnan(m_cursors[1]);
+}
+
+QStringList SpectrumViewState::measurement() const
+{
+    QStringList texts;
+    std::array<QList<double>, 2> amplitudes;
+    for (size_t i = 0; i < m_cursors.size(); ++i) {
+        amplitudes[i] = amplitudesAt(m_cursors[i]);
+        if (!std::isnan(m_cursors[i]))
+            texts += QStringLiteral("%1 %2")
+                         .arg(i == 0 ? u'A' : u'B')
+                         .arg(tr("%1 Hz").arg(axis_ticks::number(m_cursors[i], 2)));
+    }
+    if (texts.size() < 2)
+        return texts;
+    texts += QStringLiteral("Δf %1").arg(tr("%1 Hz").arg(axis_ticks::signedNumber(m_cursors[1] - m_cursors[0], 2)));
+    const QList<bool> visible = visibleLines();
+    const QStringList names = lineNames();
+    for (qsizetype i = 0; i < std::min(amplitudes[0].size(), amplitudes[1].size()); ++i) {
+        if (visible.at(i))
+            texts += QStringLiteral("Δ%1 %2").arg(
+                names.at(i), amplitudeText(level(amplitudes[1].at(i)) - level(amplitudes[0].at(i)), true));
+    }
+    return texts;
+}
+
+void SpectrumViewState::placeCursor(int cursor, double frequency)
+{
+    if (cursor < 0 || cursor >= int(m_cursors.size()) || !m_bridge || !m_bridge->hasData() || std::isnan(frequency))
+        return;
+    m_cursors[size_t(cursor)] = std::clamp(frequency, 0.0, m_maxFreq);
+    emit cursorsChanged();
+}
+
+void SpectrumViewState::toggleCursors()
+{
+    if (hasCursors()) {
+        removeCursors();
+        return;
+    }
+    const double peak = m_bridge ? m_bridge->dominantPeakFrequency() : 0;
+    placeCursor(0, peak > 0 ? peak : m_x.min + m_x.span() / 3);
+    placeCursor(1, peak > 0 ? 2 * peak : m_x.min + m_x.span() * 2 / 3);
+}
+
+void SpectrumViewState::removeCursors()
+{
+    if (!hasCursors())
+        return;
+    m_cursors = {kNone, kNone};
+    emit cursorsChanged();
+}
+
+void SpectrumViewState::zoomX(double factor, double anchor)
+{
+    setX(chart_range::zoomed(m_x, factor, anchor));
+}
+
+void SpectrumViewState::zoomY(double factor, double anchor)
+{
+    m_fitted = false;
+    setY(chart_range::zoomed(m_y, factor, anchor));
+}
+
+void SpectrumViewState::wheel(double angleDelta, double x, double y, bool frequencyAxis)
+{
+    const double factor = std::pow(kZoomPerNotch, std::clamp(angleDelta / kWheelNotch, -10.0, 10.0));
+    if (frequencyAxis)
+        zoomX(factor, x);
+    else
+        zoomY(factor, y);
+}
+
+void SpectrumViewState::panX(double fraction)
+{
+    setX(chart_range::moved(m_x, fraction));
+}
+
+void SpectrumViewState::panY(double fraction)
+{
+    m_fitted = false;
+    setY(chart_range::moved(m_y, fraction));
+}
+
+void SpectrumViewState::reset()
+{
+    m_fitted = false;
+    m_x = fullX();
+    m_y = fullY();
+    emit viewChanged();
+    emit pictureChanged();
+}
+
+bool SpectrumViewState::handleKey(int key, int modifiers)
+{
+    const bool frequencies = modifiers & Qt::ControlModifier;
+    const auto zoom = [this, frequencies](double factor) { frequencies ? zoomX(factor, 0.5) : zoomY(factor, 0); };
+    switch (key) {
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+        panX(key == Qt::Key_Left ? -kPanPerKey : kPanPerKey);
+        return true;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        panY(key == Qt::Key_Up ? kPanPerKey : -kPanPerKey);
+        return true;
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:
+        zoom(kZoomPerNotch);
+        return true;
+    case Qt::Key_Minus:
+        zoom(1 / kZoomPerNotch);
+        return true;
+    case Qt::Key_Home:
+        reset();
+        return true;
+    case Qt::Key_A:
+    case Qt::Key_B:
+        if (modifiers & ~Qt::ShiftModifier)
+            return false;
+        placeCursor(key == Qt::Key_A ? 0 : 1, std::isnan(m_hoverX) ? m_x.min + m_x.span() / 2 : m_hoverX);
+        return true;
+    case Qt::Key_Escape: {
+        const bool had = hasCursors();
+        removeCursors();
+        return had;
+    }
+    default:
+        return false;
+    }
+}
+
+void SpectrumViewState::fitLevels(double low, double high)
+{
+    if (!m_fitted || !(low <= high))
+        return;
+    low = m_decibels ? std::max(low, high - kFittedDecibels) : 0;
+    const chart_range::Range full = fullY();
+    setY(chart_range::fitted(m_y, low, high, {full.min, full.max, m_decibels ? kMinDecibelSpan : kMinAmplitudeSpan}));
+}
+
+void SpectrumViewState::dataChanged()
+{
+    followFrequencies();
+    if (hasCursors()) {
+        if (!m_bridge || !m_bridge->hasData())
+            removeCursors();
+        else
+            emit cursorsChanged();
+    }
+    if (!std::isnan(m_hoverX))
+        emit hoverChanged();
+    emit marksChanged();
+    emit pictureChanged();
+}
+
+void SpectrumViewState::configChanged()
+{
+    const double ceiling = m_bridge ? m_bridge->yAxisMax() : 0;
+    if (ceiling != m_ceiling) {
+        m_ceiling = ceiling;
+        m_fitted = false;
+        m_y = fullY();
+        emit viewChanged();
+    }
+    emit linesChanged();
+    emit pictureChanged();
+}
+
+void SpectrumViewState::followFrequencies()
+{
+    const double maxFreq = m_bridge ? m_bridge->maxFreq() : m_maxFreq;
+    if (maxFreq == m_maxFreq)
+        return;
+    const bool wasFull = m_x == fullX();
+    m_maxFreq = maxFreq;
+    setX(wasFull ? fullX() : m_x);
+}
+
+chart_range::Range SpectrumViewState::fullX() const
+{
+    return {0, m_maxFreq};
+}
+
+chart_range::Range SpectrumViewState::fullY() const
+{
+    const double ceiling = m_ceiling > 0 ? m_ceiling : 1;
+    return m_decibels ? chart_range::Range{kFloorDb, std::max(level(ceiling), kFloorDb + kMinDecibelSpan)}
+                      : chart_range::Range{0, ceiling};
+}
+
+void SpectrumViewState::setX(chart_range::Range range)
+{
+    const chart_range::Range next = chart_range::limited(range, {0, m_maxFreq, m_maxFreq * kMinShareX, m_maxFreq, 0});
+    if (next == m_x)
+        return;
+    m_x = next;
+    emit viewChanged();
+    emit pictureChanged();
+}
+
+void SpectrumViewState::setY(chart_range::Range range)
+{
+    const chart_range::Range full = fullY();
+    m_y = chart_range::limited(range,
+                               {full.min, full.max, m_decibels ? kMinDecibelSpan : kMinAmplitudeSpan, full.span(), 0});
+    emit viewChanged();
+    emit pictureChanged();
+}

@@ -1,0 +1,295 @@
+#include <QApplication>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QFileDialog>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QQuickItem>
+#include <QQuickView>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <cmath>
+#include <numbers>
+
+#include "fft/fft_files.h"
+#include "fft/form_fftchart.h"
+#include "fft/spectrum_view_state.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QQuickItem *find(QQuickItem *root, const char *name)
+{
+    if (root->objectName() == QLatin1String(name))
+        return root;
+    for (QQuickItem *child : root->childItems()) {
+        if (QQuickItem *found = find(child, name))
+            return found;
+    }
+    return nullptr;
+}
+
+/// The window on the screen, and what a user does in it.
+struct Bench
+{
+    form_fftchart window;
+    QQuickView *view = nullptr;
+    SpectrumViewState *state = nullptr;
+
+    Bench()
+    {
+        window.show();
+        for (QWindow *candidate : QGuiApplication::allWindows()) {
+            if (auto *quick = qobject_cast<QQuickView *>(candidate))
+                view = quick;
+        }
+        state = view->findChild<SpectrumViewState *>();
+    }
+    template <typename T> T *control(const char *name) { return window.findChild<T *>(QLatin1String(name)); }
+    FftChartBridge &bridge() { return window.bridge(); }
+    QQuickItem *item(const char *name) { return find(view->rootObject(), name); }
+    void start() { control<QPushButton>("BTN_start")->click(); }
+    void choose(const char *combo, int index) { control<QComboBox>(combo)->setCurrentIndex(index); }
+
+    /// Samples at 1000 Hz with a tone of 125 Hz, on a bin of every size, on Y.
+    void feed(int count, float amplitude)
+    {
+        for (int i = 0; i < count; ++i, ++m_ms) {
+            node_data_t node;
+            node.time_ms = m_ms;
+            node.acc[1] = amplitude * float(std::sin(2 * std::numbers::pi * m_ms / 8.0));
+            node.acc[2] = 1;
+            node.gyr[1] = 100 * node.acc[1];
+            window.appendData(node, 1000);
+        }
+    }
+    /// Waits for the spectra of a batch that is sent from now on.
+    bool nextFrame()
+    {
+        QSignalSpy frames(&bridge(), &FftChartBridge::fftDataChanged);
+        return QTest::qWaitFor([&frames] { return frames.size() >= 2; });
+    }
+    QPoint at(double x, double y)
+    {
+        QQuickItem *plot = item("plotMouse");
+        return plot->mapToScene(QPointF(x * plot->width(), y * plot->height())).toPoint();
+    }
+    void wheel(double x, double y, Qt::KeyboardModifiers modifiers)
+    {
+        const QPointF place = at(x, y);
+        QWheelEvent event(place, view->mapToGlobal(place), {}, {0, 120}, Qt::NoButton, modifiers, Qt::NoScrollPhase,
+                          false);
+        QCoreApplication::sendEvent(view, &event);
+    }
+    void click(const char *name)
+    {
+        QQuickItem *target = item(name);
+        QTest::mouseClick(view, Qt::LeftButton, {}, target->mapToScene(target->boundingRect().center()).toPoint());
+    }
+
+private:
+    quint32 m_ms = 1;
+};
+
+} // namespace
+
+class TestFormFftchart : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QDir::setCurrent(m_folder.path()); }
+    void cleanupTestCase() { QDir::setCurrent(QDir::rootPath()); }
+
+    void ceilings()
+    {
+        Bench bench;
+        auto *ceiling = bench.control<QDoubleSpinBox>("SB_y_axis_max");
+        QCOMPARE(ceiling->text(), u"16000 mG"_s);
+        ceiling->setValue(20000);
+        QCOMPARE(bench.bridge().yAxisMax(), 20000.0);
+        bench.choose("CB_type", 1);
+        QCOMPARE(ceiling->text(), u"2000 deg/s"_s);
+        QCOMPARE(bench.state->yViewMax(), 2000.0);
+        ceiling->setValue(0);
+        QCOMPARE(ceiling->value(), 1.0);
+        ceiling->setValue(99999);
+        QCOMPARE(bench.bridge().yAxisMax(), 4000.0);
+        QCOMPARE(bench.bridge().valueAxisTitle(), u"Value (deg/s)"_s);
+        bench.choose("CB_type", 0);
+        QCOMPARE(ceiling->text(), u"20000 mG"_s);
+        QCOMPARE(bench.bridge().chartTitle(), u"FFT Acceleration"_s);
+    }
+
+    void spectraCome()
+    {
+        Bench bench;
+        QVERIFY(bench.window.isChartInitialized());
+        bench.feed(512, 0.25F);
+        QCOMPARE(bench.window.presentationSampleRate(), 1000);
+        bench.start();
+        QCOMPARE(bench.control<QPushButton>("BTN_start")->text(), u"Pause"_s);
+        QTRY_COMPARE(bench.bridge().dominantPeakFrequency(), 125.0);
+        QCOMPARE(bench.bridge().dominantPeakAxis(), u"Y"_s);
+        QVERIFY(std::abs(bench.bridge().dominantPeakAmplitude() - 250) < 0.01);
+        QVERIFY(bench.control<QLabel>("label_status")->text().startsWith("Sample Frequency:1000Hz, RMSE of Norm:"_L1));
+        QCOMPARE(bench.state->xViewMax(), 500.0);
+        QTRY_COMPARE(bench.bridge().alarmSeverityLevel(), 2);
+
+        bench.choose("CB_points", 10);
+        QCOMPARE(bench.bridge().fftSize(), 8192);
+        QVERIFY(!bench.bridge().hasData());
+        bench.feed(1, 0); // half-filled rings are padded with zeros
+        QTRY_VERIFY(bench.bridge().hasData());
+        QCOMPARE(bench.bridge().getPoints(0).size(), 4097);
+        QVERIFY(std::abs(bench.bridge().frequencyResolution() - 1000.0 / 8192) < 1e-12);
+
+        bench.choose("CB_type", 1);
+        QVERIFY(!bench.bridge().hasData());
+        bench.choose("CB_points", 6);
+        bench.feed(512, 0.25F);
+        QTRY_VERIFY(std::abs(bench.bridge().dominantPeakAmplitude() - 25) < 0.01);
+    }
+
+    void windowsReadTheTone_data()
+    {
+        QTest::addColumn<int>("window");
+        for (int window = 0; window < 5; ++window)
+            QTest::addRow("%d", window) << window;
+    }
+    void windowsReadTheTone()
+    {
+        QFETCH(int, window);
+        Bench bench;
+        bench.choose("CB_window", window);
+        bench.feed(512, 0.25F);
+        bench.start();
+        QTRY_VERIFY(std::abs(bench.bridge().dominantPeakAmplitude() - 250) < 2);
+        QCOMPARE(bench.bridge().windowName(), fftWindowNames().at(window));
+    }
+
+    void closingAbandonsTheBatch()
+    {
+        Bench bench;
+        bench.feed(512, 0.25F);
+        QSignalSpy requests(&bench.window, &form_fftchart::start_fft_cal);
+        bench.start();
+        QCOMPARE(requests.size(), 3); // out, and no event was handled since
+        bench.window.close();
+        QCoreApplication::processEvents();
+        QVERIFY(!bench.bridge().hasData());
+        QCOMPARE(bench.control<QPushButton>("BTN_start")->text(), u"Start"_s);
+        bench.feed(4, 5.0F); // not taken
+        bench.window.show();
+        bench.start();
+        QTRY_VERIFY(std::abs(bench.bridge().dominantPeakAmplitude() - 250) < 0.01);
+        QCOMPARE(bench.bridge().droppedBatches(), 0);
+    }
+
+    void gestures()
+    {
+        Bench bench;
+        QVERIFY(QTest::qWaitForWindowExposed(bench.view));
+        bench.feed(512, 0.25F);
+        bench.start();
+        QTRY_VERIFY(bench.bridge().hasData());
+        bench.wheel(0.5, 1, {});
+        QVERIFY(std::abs(bench.state->yViewMax() - 12800) < 100);
+        QCOMPARE(bench.state->xViewMax(), 500.0);
+        bench.wheel(0, 0.5, Qt::ControlModifier);
+        QVERIFY(std::abs(bench.state->xViewMax() - 400) < 2);
+        QTest::mousePress(bench.view, Qt::LeftButton, {}, bench.at(0.75, 0.5));
+        QTest::mouseMove(bench.view, bench.at(0.5, 0.5));
+        QTest::mouseRelease(bench.view, Qt::LeftButton, {}, bench.at(0.5, 0.5));
+        QVERIFY(std::abs(bench.state->xViewMin() - 100) < 2);
+        QTest::mouseDClick(bench.view, Qt::LeftButton, {}, bench.at(0.5, 0.5));
+        QVERIFY(bench.state->xViewMin() > 0);
+        QTest::mouseDClick(bench.view, Qt::RightButton, {}, bench.at(0.5, 0.5));
+        QCOMPARE(bench.state->xViewMin(), 0.0);
+        QCOMPARE(bench.state->yViewMax(), 16000.0);
+
+        QTest::mouseMove(bench.view, bench.at(0.25, 0.5));
+        QTRY_COMPARE(bench.state->hoverFrequency(), u"125.00 Hz"_s);
+        QCOMPARE(bench.state->hoverTexts().value(1).trimmed(), u"250.00 mG"_s);
+        QTest::keyClick(bench.view, Qt::Key_A);
+        bench.state->placeCursor(1, 250);
+        QCOMPARE(bench.state->measurement().value(2), u"Δf +125.00 Hz"_s);
+        bench.click("decibels");
+        QTRY_VERIFY(bench.state->decibels());
+        QCOMPARE(bench.state->hoverTexts().value(1).trimmed(), u"48.0 dB"_s);
+        QVERIFY(std::abs(bench.state->yViewMax() - 20 * std::log10(16000)) < 1e-9);
+        bench.click("fit");
+        QTRY_VERIFY(bench.state->yViewMax() < 60);
+        QTest::keyClick(bench.view, Qt::Key_Home);
+        QVERIFY(!bench.state->isFitted());
+    }
+
+    void customRule()
+    {
+        Bench bench;
+        QVERIFY(QTest::qWaitForWindowExposed(bench.view));
+        bench.click("preset_2");
+        QTRY_COMPARE(bench.bridge().alarmPresetIndex(), 2);
+        bench.click("customRule");
+        QTRY_VERIFY(bench.item("ruleEditor")->isVisible());
+        bench.item("rule_maximumHz")->forceActiveFocus();
+        QTest::keyClick(bench.view, Qt::Key_A, Qt::ControlModifier);
+        for (const char digit : {'3', '0', '0'})
+            QTest::keyClick(bench.view, digit);
+        QTRY_VERIFY(bench.item("applyRule")->y() > 0); // laid out
+        bench.click("applyRule");
+        QTRY_COMPARE(bench.bridge().alarmRule().maximumHz, 300.0);
+        QVERIFY(bench.bridge().hasCustomAlarmRule());
+    }
+
+    void snapshotsAreToldAndRefused()
+    {
+        Bench bench;
+        auto *files = bench.window.findChild<FftFiles *>();
+        const auto write = [](const QString &name, const QString &text) {
+            QFile file(name);
+            return file.open(QIODevice::WriteOnly) && file.write(text.toUtf8()) > 0;
+        };
+        QVERIFY(write(u"bad.json"_s, u"[1, 2"_s));
+        files->showSnapshot(u"bad.json"_s);
+        QVERIFY(files->hasFailed() && !files->message().isEmpty());
+        QVERIFY(write(u"good.json"_s, bench.bridge().exportSnapshotJson()));
+        files->showSnapshot(u"good.json"_s);
+        QVERIFY(files->message().isEmpty());
+        QMessageBox *box = nullptr;
+        for (QWidget *widget : QApplication::topLevelWidgets()) {
+            if (auto *candidate = qobject_cast<QMessageBox *>(widget))
+                box = candidate;
+        }
+        QVERIFY(box);
+        QVERIFY(box->informativeText().contains("the same as now"_L1));
+        box->close();
+
+        bench.feed(512, 0.25F);
+        bench.start();
+        QTRY_VERIFY(bench.bridge().hasData());
+        files->saveCsv();
+        QFileDialog *dialog = nullptr;
+        for (QWidget *widget : QApplication::topLevelWidgets()) {
+            if (auto *candidate = qobject_cast<QFileDialog *>(widget))
+                dialog = candidate;
+        }
+        QVERIFY(dialog);
+        emit dialog->fileSelected(m_folder.filePath(u"missing/spectrum.csv"_s));
+        QVERIFY(files->hasFailed());
+        emit dialog->fileSelected(m_folder.filePath(u"spectrum.csv"_s));
+        QVERIFY2(!files->hasFailed(), qPrintable(files->message()));
+        QVERIFY(QFile::exists(u"spectrum.csv"_s));
+        dialog->close();
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+QTEST_MAIN(TestFormFftchart)
+#include "tst_form_fftchart.moc"
