@@ -55,6 +55,12 @@ FocusScope {
         border.width: 1
         border.color: chart.activeFocus ? Theme.accent : Theme.line
     }
+    // A rounded surface is blended, pixel by pixel; what lies behind this plain one is not drawn at all.
+    Rectangle {
+        anchors.fill: parent
+        anchors.margins: 8
+        color: Theme.surface
+    }
 
     Item {
         id: header

@@ -22,7 +22,6 @@ void ChartLines::updatePolish()
     if (collect(m_content, std::max(kMinPoints, int(2 * width() * m_pixelRatio)))) {
         ++m_polishCount;
         buildLines();
-        update();
     }
     m_isPolishing = false;
 }
@@ -51,8 +50,10 @@ void ChartLines::itemChange(ItemChange change, const ItemChangeData &value)
 void ChartLines::schedule()
 {
     // Fitting the value axis while polishing changes the view again; that change is drawn by the same polish.
-    if (!m_isPolishing && isVisible() && window())
-        polish();
+    if (m_isPolishing || !isVisible() || !window())
+        return;
+    polish();
+    update(); // not while polishing, which would cause a second frame
 }
 
 bool ChartLines::isSoftware() const
@@ -70,6 +71,7 @@ void ChartLines::buildLines()
         Line &line = m_lines[i];
         line.color = m_content.colors[i];
         series_geometry::toPixels(m_content.points[i], plot, line.pixels);
+        series_geometry::simplify(line.pixels);
         line.strip.clear();
         if (!painted)
             series_geometry::appendStrip(line.pixels, half, line.strip);

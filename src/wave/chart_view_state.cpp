@@ -14,14 +14,15 @@ constexpr double kWheelNotch = 120;
 constexpr double kZoomPerNotch = 0.8;
 constexpr double kPanPerKey = 0.1;
 constexpr double kMaxValueSpan = 1e30;
-constexpr int kLiveTextMs = 100;
+constexpr int kLiveTextMs = 100; ///< between two texts while samples pass
+constexpr int kLastTextMs = 150; ///< after the last samples, whose text may have been left out
 
 } // namespace
 
 ChartViewState::ChartViewState(QObject *parent) : QObject(parent), m_cursors{kNone, kNone}
 {
     m_liveTimer.setSingleShot(true);
-    m_liveTimer.setInterval(kLiveTextMs);
+    m_liveTimer.setInterval(kLastTextMs);
     connect(&m_liveTimer, &QTimer::timeout, this, &ChartViewState::updateLiveTexts);
 }
 
@@ -239,8 +240,10 @@ void ChartViewState::samplesChanged()
         m_hasData = hasSamples;
         emit hasDataChanged();
     }
-    if (!m_liveTimer.isActive())
-        m_liveTimer.start();
+    // In the same frame as the lines: a timer of its own per chart would cause frames in between.
+    if (!m_sinceLiveTexts.isValid() || m_sinceLiveTexts.elapsed() >= kLiveTextMs)
+        updateLiveTexts();
+    m_liveTimer.start();
     if (!std::isnan(m_hoverX))
         emit hoverChanged();
     emit pictureChanged();
@@ -279,6 +282,7 @@ void ChartViewState::startOver()
 
 void ChartViewState::updateLiveTexts()
 {
+    m_sinceLiveTexts.start();
     emit rangeTextChanged();
     QStringList texts;
     const QVariantList values = m_bridge ? m_bridge->getValuesAtTime(0) : QVariantList();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QList>
 #include <QObject>
 #include <QPointer>
@@ -153,6 +154,7 @@ private:
     QList<bool> m_visibleChannels;
     QStringList m_liveTexts;
     QTimer m_liveTimer;
+    QElapsedTimer m_sinceLiveTexts;
     std::array<double, 2> m_cursors;
     double m_hoverX = std::numeric_limits<double>::quiet_NaN();
 };

@@ -58,6 +58,34 @@ void series_geometry::toPixels(const QList<QPointF> &points, const Plot &plot, s
     }
 }
 
+void series_geometry::simplify(std::vector<QPointF> &pixels)
+{
+    // From each kept point a cone of slopes is narrowed by the points that follow; the last one that lies in the cone
+    // of all between is kept next.
+    size_t kept = 0;
+    const size_t count = pixels.size();
+    for (size_t i = 0; i < count;) {
+        const QPointF anchor = pixels[i];
+        pixels[kept++] = anchor;
+        size_t next = i + 1;
+        if (!std::isnan(anchor.y())) {
+            double low = -std::numeric_limits<double>::infinity();
+            double high = -low;
+            for (size_t k = i + 1; k < count && !std::isnan(pixels[k].y()); ++k) {
+                const double dx = std::abs(pixels[k].x() - anchor.x());
+                const double dy = pixels[k].y() - anchor.y();
+                if (dx < 1e-6 || dy < low * dx || dy > high * dx)
+                    break;
+                next = k;
+                low = std::max(low, (dy - kTolerance) / dx);
+                high = std::min(high, (dy + kTolerance) / dx);
+            }
+        }
+        i = next;
+    }
+    pixels.resize(kept);
+}
+
 double series_geometry::halfWidth(double lineWidth, double devicePixelRatio)
 {
     return lineWidth / 2 + 0.5 / devicePixelRatio;
@@ -81,8 +109,12 @@ void series_geometry::appendStrip(const std::vector<QPointF> &pixels, double hal
             const double length = std::hypot(along.x(), along.y());
             if (length < 1e-3)
                 continue;
-            const QPointF normal(along.y() / length, -along.x() / length);
-            const double cosine = QPointF::dotProduct(previous, normal);
+            QPointF normal(along.y() / length, -along.x() / length);
+            double cosine = QPointF::dotProduct(previous, normal);
+            if (cosine < 0) { // a line that turns back shares its corners too: the cross-section has no sides
+                normal = -normal;
+                cosine = -cosine;
+            }
             if (cosine > kMiterCosine) {
                 strip.pair(from, (previous + normal) * (halfWidth / (1 + cosine)));
             } else {

@@ -37,6 +37,11 @@ struct Plot
 /// value becomes a position whose y is NaN: the line is broken there. `out` is overwritten, its memory reused.
 void toPixels(const QList<QPointF> &points, const Plot &plot, std::vector<QPointF> &out);
 
+/// Leaves out points that lie on the line through their neighbours within kTolerance: what changes slowly keeps a
+/// fraction of its points and looks the same. x must not change its direction within an unbroken part.
+void simplify(std::vector<QPointF> &pixels);
+inline constexpr double kTolerance = 0.15; ///< pixels, across the value axis
+
 /// Half the strip's width in device-independent pixels for a line of `lineWidth`: the line and its soft edge.
 double halfWidth(double lineWidth, double devicePixelRatio);
 

@@ -26,7 +26,7 @@ public:
     {
         m_geometry.setDrawingMode(QSGGeometry::DrawTriangleStrip);
         m_geometry.setVertexDataPattern(QSGGeometry::StreamPattern);
-        m_material.setFiltering(QSGTexture::Linear);
+        m_material.setFiltering(QSGTexture::Nearest);
         m_material.setHorizontalWrapMode(QSGTexture::ClampToEdge);
         m_material.setVerticalWrapMode(QSGTexture::ClampToEdge);
         setGeometry(&m_geometry);
@@ -109,7 +109,8 @@ public:
 private:
     static void paint(QPainter *painter, const ChartLines::Line &line)
     {
-        painter->setPen(QPen(line.color, ChartLines::kLineWidth, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+        // One pixel is far cheaper for a raster painter than any other width.
+        painter->setPen(QPen(line.color, 0));
         const auto end = line.pixels.end();
         const auto isBreak = [](const QPointF &p) { return std::isnan(p.y()); };
         for (auto first = std::find_if_not(line.pixels.begin(), end, isBreak); first != end;) {

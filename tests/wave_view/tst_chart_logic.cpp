@@ -261,6 +261,20 @@ private slots:
             QVERIFY(std::isfinite(vertex.x) && std::abs(vertex.y) < 32768);
             QVERIFY2(std::abs(vertex.x - 50) > 5, "nothing is drawn across the gap");
         }
+        std::vector<QPointF> all; // slow, broken at 500, fast from 700 on
+        for (int i = 0; i < 1000; ++i)
+            all.emplace_back(i / 10.0, i == 500 ? kNaN : i > 700 ? 20 * (i % 2) : 20 * std::sin(i / 100.0));
+        pixels = all;
+        simplify(pixels);
+        QVERIFY2(pixels.size() < 350 && pixels.size() > 299, qPrintable(QString::number(pixels.size())));
+        for (size_t k = 0, i = 0; k + 1 < pixels.size(); ++k) {
+            for (; all[i].x() < pixels[k + 1].x(); ++i) {
+                const QPointF from = pixels[k];
+                const QPointF to = pixels[k + 1];
+                const double y = from.y() + (to.y() - from.y()) * (all[i].x() - from.x()) / (to.x() - from.x());
+                QVERIFY(std::isnan(y) || std::abs(y - all[i].y()) <= kTolerance + 1e-9);
+            }
+        }
         strip.clear();
         appendStrip({{0, 0}, {10, 0}, {20, 0}}, 1, strip);
         QCOMPARE(strip.size(), size_t(6)); // a straight line shares its corners
