@@ -13,6 +13,7 @@
 #include "attitude/attitude_convention.h"
 #include "device/product_resolver.h"
 #include "link/stream_state.h"
+#include "wave/gateway_sample.h"
 #include "wave/sample_clock.h"
 
 class CommandBroker;
@@ -113,6 +114,8 @@ private:
     void onSelectedNodeChanged(const node_data_t &node);
     void onSnapshotChanged(const StreamSnapshot &snapshot);
     void handleGatewayBatch();
+    /// The samples of a gateway batch with the angles that the mounting asks for.
+    QList<GatewaySample> buildWirelessDashboardSamples(const DecodedFrame &frame) const;
     /// Feeds the sensor dashboard with a sample of the selected node; `timestampMs` is the device's clock.
     void update_charts(const node_data_t &node, const std::array<float, 3> &euler, unsigned int timestampMs);
     void forgetChartHistory();

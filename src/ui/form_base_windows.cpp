@@ -87,8 +87,23 @@ void form_base::forgetChartHistory()
 
 void form_base::handleGatewayBatch()
 {
-    if (m_wirelessDashboard)
-        m_wirelessDashboard->updateGatewaySamples(gatewaySamples(m_dispatcher->currentFrame()));
+    if (m_wirelessDashboard && m_wirelessDashboard->isVisible())
+        m_wirelessDashboard->updateGatewaySamples(buildWirelessDashboardSamples(m_dispatcher->currentFrame()));
+}
+
+QList<GatewaySample> form_base::buildWirelessDashboardSamples(const DecodedFrame &frame) const
+{
+    QList<GatewaySample> samples = gatewaySamples(frame);
+    for (qsizetype i = 0; i < samples.size(); ++i) {
+        const NormalizedAttitude attitude = attitude_convention::normalizeAttitude(frame.nodes.at(i), m_preset);
+        if (!attitude.valid)
+            continue;
+        samples[i].node.roll = attitude.euler.x();
+        samples[i].node.pitch = attitude.euler.y();
+        samples[i].node.yaw = attitude.euler.z();
+        samples[i].fields |= SampleField::Euler;
+    }
+    return samples;
 }
 
 void form_base::showRecordingState()

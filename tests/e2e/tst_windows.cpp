@@ -1,0 +1,177 @@
+#include <QAction>
+#include <QCloseEvent>
+#include <QSignalSpy>
+#include <QTest>
+
+#include "app/app_language_manager.h"
+#include "e2e/desk.h"
+#include "link/stream_dispatcher.h"
+#include "support/hex_file.h"
+#include "support/simulator_process.h"
+#include "ui/form_record.h"
+#include "updater/form_updater.h"
+#include "wave/form_sensor_dashboard.h"
+#include "wave/form_wireless_dashboard.h"
+
+namespace {
+
+/// The open window of a kind, null when there is none.
+template <class Window> Window *openWindow()
+{
+    for (QWindow *window : QGuiApplication::topLevelWindows()) {
+        if (auto *found = qobject_cast<Window *>(window); found && found->isVisible())
+            return found;
+    }
+    return nullptr;
+}
+
+QList<QByteArray> recordedLines()
+{
+    QByteArray all;
+    for (const QString &name : QDir::current().entryList({QStringLiteral("data_*.csv")}, QDir::Files, QDir::Name)) {
+        QFile file(name);
+        if (file.open(QIODevice::ReadOnly))
+            all += file.readAll();
+    }
+    return all.split('\n');
+}
+
+} // namespace
+
+/// The main window with the windows that it opens, as a user works with them.
+class TestWindows : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    /// Whatever the charts do and however a connection ends, the file holds every record.
+    void recordingIsComplete_data()
+    {
+        QTest::addColumn<QString>("end");
+        for (const char *end : {"stopped", "port closed", "window closed", "unplugged"})
+            QTest::newRow(end) << end;
+    }
+    void recordingIsComplete()
+    {
+        QFETCH(QString, end);
+        SimulatorProcess simulator({QStringLiteral("--rate"), QStringLiteral("400")});
+        Desk desk;
+        desk.open(simulator.port());
+        desk.find<QAction>("action_sensor_dashboard")->trigger();
+        auto *dashboard = openWindow<form_sensor_dashboard>();
+        QVERIFY(dashboard != nullptr);
+        auto *recorder = desk.window->findChild<form_record *>();
+        auto *dispatcher = desk.window->findChild<StreamDispatcher *>();
+        int received = 0;
+        QVERIFY(recorder->startRecording());
+        connect(dispatcher, &StreamDispatcher::singleNodeFrame, this, [&received] { ++received; });
+        QTRY_VERIFY(dashboard->bridge().bridge(QStringLiteral("acc"))->hasData());
+        dashboard->bridge().togglePlaying(); // a paused picture does not touch the file
+        recorder->close();
+        QTRY_VERIFY(received > 300);
+        QVERIFY(desk.find<QWidget>("button_recording")->isVisible());
+
+        if (end == QLatin1String("stopped"))
+            recorder->stopRecording();
+        else if (end == QLatin1String("port closed"))
+            desk.find<QAction>("action_serial_stop")->trigger();
+        else if (end == QLatin1String("window closed"))
+            desk.window->close();
+        else
+            simulator.control("unplug");
+        QTRY_VERIFY(!recorder->isRecording());
+        disconnect(dispatcher, nullptr, this, nullptr);
+
+        const QList<QByteArray> lines = recordedLines(); // header and the empty end beside the records
+        QVERIFY2(lines.size() - 2 >= 300, qPrintable(QString::number(lines.size())));
+        QCOMPARE(lines.size() - 2, qsizetype(recorder->recordCount()));
+        QVERIFY(lines.size() - 2 <= received);
+        QVERIFY(end == QLatin1String("stopped") || lines.size() - 2 == received);
+        for (qsizetype i = 1; i < lines.size() - 1; ++i)
+            QCOMPARE(lines.at(i).count(','), 19);
+        QVERIFY(!recorder->hasTrouble());
+    }
+
+    void gatewayDashboardTellsWhoIsGone()
+    {
+        SimulatorProcess simulator({QStringLiteral("--device"), QStringLiteral("gateway"), QStringLiteral("--nodes"),
+                                    QStringLiteral("16"), QStringLiteral("--layout"), QStringLiteral("63")});
+        Desk desk;
+        auto *action = desk.find<QAction>("action_wireless_gateway_dashboard");
+        QVERIFY(!action->isEnabled() && action->isVisible());
+        desk.open(simulator.port());
+        QTRY_VERIFY(action->isEnabled());
+        action->trigger();
+        auto *dashboard = openWindow<form_wireless_dashboard>();
+        QVERIFY(dashboard != nullptr);
+        const GatewayNodeModel *model = dashboard->bridge().nodeModel();
+        const auto stateOf = [model](int row) {
+            return model->data(model->index(row), GatewayNodeModel::StateRole).toInt();
+        };
+        QTRY_COMPARE(model->rowCount(), 16);
+        QTRY_COMPARE(stateOf(15), 0);
+        simulator.control("nodes 15");
+        QTRY_COMPARE_WITH_TIMEOUT(stateOf(15), 2, 20000);
+        QCOMPARE(model->rowCount(), 16);
+        QTRY_COMPARE(stateOf(14), 0);
+        desk.find<QAction>("action_serial_stop")->trigger();
+        QCOMPARE(model->rowCount(), 0);
+        QVERIFY(!action->isEnabled());
+    }
+
+    void dashboardsFollowTheLanguage()
+    {
+        Desk desk;
+        QVERIFY(AppLanguageManager::instance().initialize());
+        desk.find<QAction>("action_sensor_dashboard")->trigger();
+        auto *dashboard = openWindow<form_sensor_dashboard>();
+        const auto texts = [dashboard] {
+            return QStringList{
+                dashboard->title(), dashboard->bridge().bridge(QStringLiteral("gyr"))->chartTitle(),
+                dashboard->bridge().paneStates().at(1).toMap().value(QStringLiteral("label")).toString()};
+        };
+        QVERIFY(AppLanguageManager::instance().setLanguage(QStringLiteral("EN")));
+        const QStringList english = texts();
+        QCOMPARE(english.at(1), QStringLiteral("Angular Velocity (°/s)"));
+        QVERIFY(AppLanguageManager::instance().setLanguage(QStringLiteral("JA")));
+        for (int i = 0; i < english.size(); ++i)
+            QTRY_VERIFY2(texts().at(i) != english.at(i), qPrintable(english.at(i)));
+        QVERIFY(AppLanguageManager::instance().setLanguage(QStringLiteral("EN")));
+        QTRY_COMPARE(texts(), english);
+    }
+
+    /// While a bootloader is there nothing else talks to the device; with the firmware back it is identified anew.
+    void firmwareUpdateKeepsTheDeviceToItself()
+    {
+        SimulatorProcess simulator({QStringLiteral("--bootloader-wait"), QStringLiteral("20000"),
+                                    QStringLiteral("--packet-size"), QStringLiteral("512")});
+        Desk desk;
+        const QByteArray image = QByteArray::fromHex("00400020C1000000") + QByteArray(60000, 'x');
+        QFile file(QStringLiteral("firmware.hex"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(hex_file::file(image, 0x08000000));
+        file.close();
+        desk.open(simulator.port());
+        QVERIFY(desk.label("label_product") == QLatin1String("MZ221"));
+        desk.find<QAction>("action_firmware_update")->trigger();
+        auto *updater = desk.window->findChild<form_updater *>();
+        const auto press = [updater](const char *name) {
+            QTest::mouseClick(updater->findChild<QPushButton *>(QLatin1String(name)), Qt::LeftButton);
+        };
+        press("BTN_connect");
+        QTRY_VERIFY(updater->isBootloaderConnected());
+        QVERIFY(!desk.find<QAction>("actionDevice_Settiing")->isEnabled());
+        press("BTN_download");
+        QTRY_VERIFY(updater->isDownloadRunning());
+        QVERIFY(!desk.find<QAction>("action_serial_stop")->isEnabled());
+        QVERIFY(!desk.window->close());
+        QVERIFY(desk.isOpen());
+        QTRY_VERIFY_WITH_TIMEOUT(!updater->isDownloadRunning(), 30000);
+        QVERIFY(desk.find<QAction>("action_serial_stop")->isEnabled());
+        QTRY_COMPARE_WITH_TIMEOUT(desk.label("label_product"), QStringLiteral("MZ221"), 20000);
+        QVERIFY(desk.find<QAction>("actionDevice_Settiing")->isEnabled());
+    }
+};
+
+QTEST_MAIN(TestWindows)
+#include "tst_windows.moc"
