@@ -1,5 +1,6 @@
 #include <QFileDialog>
 #include <QQuickItem>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QtTest>
@@ -81,6 +82,16 @@ struct Bench
                           false);
         QCoreApplication::sendEvent(&window, &event);
     }
+};
+
+class BrokenDashboard : public DashboardWindow
+{
+public:
+    BrokenDashboard() : DashboardWindow(settings_keys::kSensorDashboard) { loadView(QStringLiteral("Missing"), {}); }
+    ~BrokenDashboard() override { close(); }
+
+protected:
+    void setOpen(bool) override {}
 };
 
 } // namespace
@@ -241,6 +252,16 @@ private slots:
         QCOMPARE(const_cast<form_sensor_dashboard &>(again).bridge().selectedSensorTypes().join(u','),
                  QStringLiteral("gyr,eul,prs"));
         QCOMPARE(again.size(), QSize(760, 490));
+    }
+
+    void saysThatAViewIsMissing()
+    {
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Dashboard: .*Missing.qml")));
+        BrokenDashboard window;
+        window.open();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QCOMPARE(window.contentItem()->childItems().size(), 1);
+        QVERIFY(!window.contentItem()->childItems().at(0)->property("text").toString().isEmpty());
     }
 
     void showsOnePaneAlone()
