@@ -22,6 +22,8 @@ Column {
 
     spacing: 6
     onVisibleChanged: {
+        if (!visible)
+            return;
         draft = bridge.alarmRule;
         problem = "";
     }

@@ -176,11 +176,10 @@ FocusScope {
                 font: Theme.smallFont
                 color: Theme.textSecondary
             }
-            Flow {
+            Row {
                 id: legend
 
                 anchors.right: parent.right
-                width: Math.min(parent.width - axisTitle.width - 12, implicitWidth)
                 spacing: 12
 
                 Repeater {

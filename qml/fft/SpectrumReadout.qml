@@ -33,24 +33,29 @@ Rectangle {
         Repeater {
             model: box.viewState.lineNames
 
-            Row {
+            Item {
                 id: line
 
                 required property int index
                 required property string modelData
 
                 visible: box.viewState.visibleLines[index] ?? true
-                spacing: 6
+                implicitWidth: nameText.implicitWidth + valueText.implicitWidth + 10
+                implicitHeight: nameText.implicitHeight
+                width: Math.max(implicitWidth, lines.width)
 
                 Text {
-                    width: Theme.fixedSmallFont.pointSize * 7
+                    id: nameText
+
                     text: line.modelData
                     textFormat: Text.PlainText
-                    elide: Text.ElideRight
                     font: Theme.fixedSmallFont
                     color: box.viewState.lineColors[line.index]
                 }
                 Text {
+                    id: valueText
+
+                    anchors.right: parent.right
                     text: box.viewState.hoverTexts[line.index] ?? ""
                     textFormat: Text.PlainText
                     font: Theme.fixedSmallFont

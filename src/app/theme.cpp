@@ -61,19 +61,19 @@ QToolButton#button_recording:hover { background: #FEF2F2; }
 QToolBar QToolButton#qt_toolbar_ext_button { padding: 0; min-width: 16px; image: url(:/images/chevron-down.png); }
 QLabel#qt_msgbox_informativelabel { min-width: 360px; }
 
-QLineEdit, QComboBox, QSpinBox, QPlainTextEdit {
+QLineEdit, QComboBox, QAbstractSpinBox, QPlainTextEdit {
     background: #FFFFFF; border: 1px solid #D1D5DB; border-radius: 6px; padding: 4px 8px;
     selection-background-color: #2563EB; selection-color: #FFFFFF; }
-QLineEdit:focus, QComboBox:focus, QSpinBox:focus, QPlainTextEdit:focus { border-color: #2563EB; }
-QLineEdit:disabled, QComboBox:disabled, QSpinBox:disabled { background: #F9FAFB; color: #9CA3AF; }
+QLineEdit:focus, QComboBox:focus, QAbstractSpinBox:focus, QPlainTextEdit:focus { border-color: #2563EB; }
+QLineEdit:disabled, QComboBox:disabled, QAbstractSpinBox:disabled { background: #F9FAFB; color: #9CA3AF; }
 QComboBox::drop-down { subcontrol-origin: padding; subcontrol-position: center right; width: 24px; border: none; }
 QComboBox::down-arrow { image: url(:/images/chevron-down.png); width: 12px; height: 12px; }
 QComboBox QAbstractItemView { border: 1px solid #D1D5DB; selection-background-color: #EFF6FF;
     selection-color: #1D4ED8; }
-QSpinBox::up-button { subcontrol-position: top right; width: 20px; border: none; }
-QSpinBox::down-button { subcontrol-position: bottom right; width: 20px; border: none; }
-QSpinBox::up-arrow { image: url(:/images/chevron-up.png); width: 10px; height: 10px; }
-QSpinBox::down-arrow { image: url(:/images/chevron-down.png); width: 10px; height: 10px; }
+QAbstractSpinBox::up-button { subcontrol-position: top right; width: 20px; border: none; }
+QAbstractSpinBox::down-button { subcontrol-position: bottom right; width: 20px; border: none; }
+QAbstractSpinBox::up-arrow { image: url(:/images/chevron-up.png); width: 10px; height: 10px; }
+QAbstractSpinBox::down-arrow { image: url(:/images/chevron-down.png); width: 10px; height: 10px; }
 QTreeView, QListView, QTableView {
     background: #FFFFFF; border: 1px solid #E5E7EB; border-radius: 6px; outline: none;
     selection-background-color: #EFF6FF; selection-color: #1D4ED8; }

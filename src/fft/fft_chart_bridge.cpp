@@ -76,8 +76,10 @@ void FftChartBridge::commitResults()
     const bool hadData = m_resultantPeak >= 0;
     band_power::resultant(spectra(), m_resultant);
     m_resultantPeak = hasData() ? 0.0 : -1.0;
-    for (qsizetype i = 1; i < m_resultant.size(); ++i)
-        m_resultantPeak = std::max(m_resultantPeak, m_resultant.at(i).y());
+    for (int i = 1; i < int(m_resultant.size()); ++i) {
+        if (!peak_analysis::isLeakage(m_resultant, i, m_leakage))
+            m_resultantPeak = std::max(m_resultantPeak, m_resultant.at(i).y());
+    }
     updatePeakAnalysis();
     updateAnalysisSummaries();
     emit fftDataChanged();
@@ -157,6 +159,7 @@ void FftChartBridge::setFrameMeta(const FftFrameMeta &meta)
 {
     if (!assign(m_meta, meta))
         return;
+    m_leakage = fftWindowLeakage(meta.windowName);
     if (!hasData()) {
         updateBands(); // empty ones, that tell their edges
         emit analysisSummaryChanged();
@@ -385,7 +388,7 @@ std::array<Spectrum, 3> FftChartBridge::spectra() const
 void FftChartBridge::updatePeakAnalysis()
 {
     const std::array<Spectrum, 3> axes = spectra();
-    m_peak = peak_analysis::dominantPeak(axes);
+    m_peak = peak_analysis::dominantPeak(axes, m_leakage);
     m_harmonics.clear();
     if (m_peak.valid)
         m_harmonics = peak_analysis::findHarmonics(axes[size_t(m_peak.axisIndex)], m_peak);

@@ -115,6 +115,8 @@ public:
     /// End of the frequency axis: that of the last spectra, else of the frame meta, else 50.
     double maxFreq() const;
     bool hasData() const;
+    /// End of the bins in which a steady value such as gravity shows through the window.
+    double steadyEndHz() const { return (double(m_leakage.size()) + 0.5) * m_meta.frequencyResolution; }
 
     QString dominantPeakAxis() const { return fft_snapshot::axisName(m_peak.axisIndex); }
     double dominantPeakFrequency() const { return m_peak.frequency; }
@@ -124,7 +126,7 @@ public:
     /// Maps of "order", "frequency" and "amplitude".
     QVariantList harmonicsToVariantList() const;
     const QString &harmonicSummary() const { return m_harmonicSummary; }
-    /// Highest amplitude of the resultant beyond 0 Hz.
+    /// Highest amplitude of the resultant beyond 0 Hz and what leaks from there.
     double resultantPeakAmplitude() const;
 
     const QList<FftBandPower> &bandPowers() const { return m_bandPowers; }
@@ -223,6 +225,7 @@ private:
     QList<QPointF> m_resultant;
     double m_nyquistHz = 0; ///< handed with the last result
     FftFrameMeta m_meta;
+    QList<double> m_leakage; ///< of the window in use
 
     FftPeakSummary m_peak;
     QList<FftHarmonicPeak> m_harmonics;

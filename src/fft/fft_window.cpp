@@ -65,6 +65,18 @@ const QStringList &fftWindowNames()
     return names;
 }
 
+QList<double> fftWindowLeakage(const QString &name)
+{
+    QList<double> shares;
+    const qsizetype type = fftWindowNames().indexOf(name);
+    if (type < 0)
+        return shares;
+    const std::array<double, 5> &a = kRows[size_t(type)].a;
+    for (size_t k = 1; k < a.size() && a[k] != 0.0; ++k)
+        shares += a[k] / a[0];
+    return shares;
+}
+
 QString fftWindowLabel(const QString &name)
 {
     return fftWindowNames().contains(name) ? QCoreApplication::translate("FftWindow", name.toLatin1().constData())

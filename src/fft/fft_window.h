@@ -22,5 +22,8 @@ FftWindow makeFftWindow(FftWindowType type, int points);
 
 /// Names in the order of FftWindowType, in English as snapshots hold them. fftWindowLabel() gives them to people.
 const QStringList &fftWindowNames();
+/// What of an amplitude at 0 Hz the window of this name shows in the bins 1, 2, ... as shares of it: its main lobe.
+/// Empty for the rectangular window, which shows nothing there, and for a name that is none of ours.
+QList<double> fftWindowLeakage(const QString &name);
 /// The name in the language of the interface; a name that is none of ours stays as it is.
 QString fftWindowLabel(const QString &name);

@@ -101,7 +101,9 @@ void form_fftchart::configureControls()
     m_yAxisMax->setObjectName(QStringLiteral("SB_y_axis_max"));
     m_start->setObjectName(QStringLiteral("BTN_start"));
     m_status->setObjectName(QStringLiteral("label_status"));
-    m_start->setProperty("primary", true);
+    // The window's own colours would take the accent from the button.
+    m_start->setStyleSheet(QStringLiteral("background-color:%1; border-color:%1; color:%2;")
+                               .arg(theme::kAccent.name(), theme::kSurface.name()));
 
     for (int log2 = kMinPointsLog2; log2 <= kMaxPointsLog2; ++log2)
         m_points->addItem(QString::number(1 << log2));

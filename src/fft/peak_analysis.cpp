@@ -12,6 +12,7 @@ constexpr int kMaxOrder = 4;
 constexpr int kSearchBins = 2;
 constexpr double kToleranceBins = 1.5;
 constexpr double kMinHarmonicShare = 0.08;
+constexpr double kLeakageTolerance = 1.25; ///< for the ends of short windows, and for noise
 
 struct Found
 {
@@ -20,12 +21,13 @@ struct Found
 };
 
 /// The highest of the refined local maxima in the bins `first` to `last`.
-Found highestMaximum(Spectrum spectrum, int first, int last)
+Found highestMaximum(Spectrum spectrum, int first, int last, const QList<double> &leakage = {})
 {
     Found best;
     for (int i = first; i <= last; ++i) {
         const double amplitude = spectrum[size_t(i)].y();
-        if (amplitude < spectrum[size_t(i) - 1].y() || amplitude < spectrum[size_t(i) + 1].y())
+        if (amplitude < spectrum[size_t(i) - 1].y() || amplitude < spectrum[size_t(i) + 1].y()
+            || isLeakage(spectrum, i, leakage))
             continue;
         const QPointF peak = refinePeak(spectrum, i);
         if (peak.y() > best.peak.y())
@@ -55,26 +57,36 @@ QPointF refinePeak(Spectrum spectrum, int bin)
     return {spectrum[i].x() + shift * (spectrum[i + 1].x() - spectrum[i].x()), b - 0.25 * (a - c) * shift};
 }
 
-FftPeakSummary findPeak(Spectrum spectrum, int axisIndex)
+bool isLeakage(Spectrum spectrum, int bin, const QList<double> &leakage)
+{
+    return bin >= 1 && bin <= leakage.size()
+           && spectrum[size_t(bin)].y() <= kLeakageTolerance * leakage.at(bin - 1) * spectrum[0].y();
+}
+
+FftPeakSummary findPeak(Spectrum spectrum, int axisIndex, const QList<double> &leakage)
 {
     const int count = int(spectrum.size());
     if (count < 2)
         return {};
-    Found found = highestMaximum(spectrum, 1, count - 2);
+    Found found = highestMaximum(spectrum, 1, count - 2, leakage);
     if (found.bin < 0) {
-        const auto highest = std::max_element(spectrum.begin() + 1, spectrum.end(),
-                                              [](QPointF left, QPointF right) { return left.y() < right.y(); });
-        found.bin = int(highest - spectrum.begin());
-        found.peak = found.bin < count - 1 ? refinePeak(spectrum, found.bin) : *highest;
+        for (int i = 1; i < count; ++i) {
+            if (spectrum[size_t(i)].y() > found.peak.y() && !isLeakage(spectrum, i, leakage))
+                found = {i, spectrum[size_t(i)]};
+        }
+        if (found.bin < 0)
+            return {};
+        if (found.bin < count - 1)
+            found.peak = refinePeak(spectrum, found.bin);
     }
     return {found.peak.y() > 0, axisIndex, found.bin, found.peak.x(), found.peak.y()};
 }
 
-FftPeakSummary dominantPeak(const std::array<Spectrum, 3> &axes)
+FftPeakSummary dominantPeak(const std::array<Spectrum, 3> &axes, const QList<double> &leakage)
 {
     FftPeakSummary best;
     for (int axis = 0; axis < 3; ++axis) {
-        const FftPeakSummary peak = findPeak(axes[size_t(axis)], axis);
+        const FftPeakSummary peak = findPeak(axes[size_t(axis)], axis, leakage);
         if (peak.valid && peak.amplitude > best.amplitude)
             best = peak;
     }

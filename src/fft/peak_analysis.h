@@ -25,10 +25,15 @@ Spectrum withoutAnchor(const QList<QPointF> &points);
 /// true one by up to 0.053 bin, a quarter of a bin away from the bins, and the refined amplitude by up to 6.6 %.
 QPointF refinePeak(Spectrum spectrum, int bin);
 
-/// The highest of the refined local maxima beyond 0 Hz, else the highest bin beyond 0 Hz.
-FftPeakSummary findPeak(Spectrum spectrum, int axisIndex);
+/// Whether a bin beyond 0 Hz holds no more than what the window spreads there of the amplitude at 0 Hz. `leakage` is
+/// fftWindowLeakage(). Without it gravity, seen through any but the rectangular window, would be the highest peak of
+/// every acceleration spectrum.
+bool isLeakage(Spectrum spectrum, int bin, const QList<double> &leakage);
+
+/// The highest of the refined local maxima beyond 0 Hz, else the highest bin beyond 0 Hz; leakage is no peak.
+FftPeakSummary findPeak(Spectrum spectrum, int axisIndex, const QList<double> &leakage = {});
 /// The highest peak of the three axes.
-FftPeakSummary dominantPeak(const std::array<Spectrum, 3> &axes);
+FftPeakSummary dominantPeak(const std::array<Spectrum, 3> &axes, const QList<double> &leakage = {});
 /// Peaks within 1.5 bins of 2, 3 and 4 times the fundamental's frequency that reach 8 % of its amplitude. `spectrum` is
 /// the one that the fundamental was found in.
 QList<FftHarmonicPeak> findHarmonics(Spectrum spectrum, const FftPeakSummary &fundamental);

@@ -66,7 +66,7 @@ bool SpectrumLines::collect(Content &content, int maxPoints)
                      line == SpectrumViewState::kLines - 1 ? bridge->getResultantPoints() : bridge->getPoints(line),
                      maxPoints, points);
         for (const QPointF &point : std::as_const(points)) {
-            if (point.x() <= 0)
+            if (point.x() <= bridge->steadyEndHz())
                 continue;
             low = std::min(low, point.y());
             high = std::max(high, point.y());

@@ -6,7 +6,8 @@
 #include "wave/chart_lines.h"
 
 /// The curves of the spectrum: X, Y, Z and the resultant, each reduced to the highest and lowest bins where several
-/// share a pixel. Tells the state the range of the levels that it found beyond 0 Hz.
+/// share a pixel. Tells the state the range of the levels beyond what a steady
+/// value shows.
 class SpectrumLines : public ChartLines
 {
     Q_OBJECT

@@ -180,7 +180,7 @@ QStringList SpectrumViewState::measurement() const
         amplitudes[i] = amplitudesAt(m_cursors[i]);
         if (!std::isnan(m_cursors[i]))
             texts += QStringLiteral("%1 %2")
-                         .arg(i == 0 ? u'A' : u'B')
+                         .arg(QLatin1Char(i == 0 ? 'A' : 'B'))
                          .arg(tr("%1 Hz").arg(axis_ticks::number(m_cursors[i], 2)));
     }
     if (texts.size() < 2)
@@ -200,7 +200,7 @@ void SpectrumViewState::placeCursor(int cursor, double frequency)
 {
     if (cursor < 0 || cursor >= int(m_cursors.size()) || !m_bridge || !m_bridge->hasData() || std::isnan(frequency))
         return;
-    m_cursors[size_t(cursor)] = std::clamp(frequency, 0.0, m_maxFreq);
+    m_cursors[size_t(cursor)] = m_bridge->queryCursor(frequency).value(QStringLiteral("frequency")).toDouble();
     emit cursorsChanged();
 }
 

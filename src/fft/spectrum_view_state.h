@@ -86,7 +86,7 @@ public:
     bool hasCursors() const;
     /// What the cursors measure: their bins, and with both the differences.
     QStringList measurement() const;
-    /// Places cursor 0 (A) or 1 (B) at a frequency.
+    /// Places cursor 0 (A) or 1 (B) at the bin nearest to a frequency.
     Q_INVOKABLE void placeCursor(int cursor, double frequency);
     /// A on the dominant peak and B on twice its frequency, or none when there are some.
     Q_INVOKABLE void toggleCursors();

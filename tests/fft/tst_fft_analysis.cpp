@@ -5,6 +5,7 @@
 #include "fft/band_power.h"
 #include "fft/fft_alarm.h"
 #include "fft/fft_alarm_text.h"
+#include "fft/fft_window.h"
 #include "fft/peak_analysis.h"
 
 using namespace Qt::StringLiterals;
@@ -74,6 +75,18 @@ private slots:
         QCOMPARE(best.axisIndex, 0); // the first of equal ones
         QCOMPARE(best.frequency, 2.0);
         QCOMPARE(peak_analysis::dominantPeak({}).valid, false);
+    }
+
+    void gravityThroughAWindowIsNoPeak()
+    {
+        QList<double> amplitudes{1000, 1000, 2, 1, 0, 40, 0};
+        const QList<double> hann = fftWindowLeakage(u"Hann"_s);
+        QCOMPARE(peak_analysis::findPeak(view(bins(amplitudes)), 2).amplitude > 1000, true);
+        QCOMPARE(peak_analysis::findPeak(view(bins(amplitudes)), 2, hann).frequency, 5.0);
+        amplitudes[1] = 1500; // more than that
+        QCOMPARE(peak_analysis::findPeak(view(bins(amplitudes)), 2, hann).amplitude > 1500, true);
+        QVERIFY(!peak_analysis::findPeak(view(bins({1000, 1000})), 2, hann).valid);
+        QVERIFY(fftWindowLeakage(u"Rectangular"_s).isEmpty() && fftWindowLeakage({}).isEmpty());
     }
 
     void harmonics_data()
