@@ -9,6 +9,144 @@
     </message>
 </context>
 <context>
+    <name>AlarmPanel</name>
+    <message>
+        <source>Alarm</source>
+        <translation>报警</translation>
+    </message>
+    <message>
+        <source>Judge the spectra by this preset</source>
+        <translation>按此预设判断频谱</translation>
+    </message>
+    <message>
+        <source>Custom…</source>
+        <translation>自定义…</translation>
+    </message>
+    <message>
+        <source>Set thresholds and frequencies yourself</source>
+        <translation>自行设置阈值和频率</translation>
+    </message>
+</context>
+<context>
+    <name>AlarmRuleEditor</name>
+    <message>
+        <source>From</source>
+        <translation>频率下限</translation>
+    </message>
+    <message>
+        <source>To (0: no limit)</source>
+        <translation>频率上限（0：不限）</translation>
+    </message>
+    <message>
+        <source>Watch from</source>
+        <translation>注意阈值</translation>
+    </message>
+    <message>
+        <source>Alarm from</source>
+        <translation>报警阈值</translation>
+    </message>
+    <message>
+        <source>Spectra to raise</source>
+        <translation>触发所需帧数</translation>
+    </message>
+    <message>
+        <source>Spectra to clear</source>
+        <translation>解除所需帧数</translation>
+    </message>
+    <message>
+        <source>Use this rule</source>
+        <translation>使用此规则</translation>
+    </message>
+</context>
+<context>
+    <name>AttitudeFigures</name>
+    <message>
+        <source>Live</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From home</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>横滚</translation>
+    </message>
+    <message>
+        <source>Pitch</source>
+        <translation>俯仰</translation>
+    </message>
+    <message>
+        <source>Yaw</source>
+        <translation>航向</translation>
+    </message>
+    <message>
+        <source>Quaternion</source>
+        <translation>四元数</translation>
+    </message>
+</context>
+<context>
+    <name>BandEditor</name>
+    <message>
+        <source>Name of the band</source>
+        <translation>频带名称</translation>
+    </message>
+    <message>
+        <source>Lower edge</source>
+        <translation>频带下限</translation>
+    </message>
+    <message>
+        <source>Upper edge</source>
+        <translation>频带上限</translation>
+    </message>
+    <message>
+        <source>Measure this band</source>
+        <translation>测量此频带</translation>
+    </message>
+</context>
+<context>
+    <name>BandPanel</name>
+    <message>
+        <source>Peak and bands</source>
+        <translation>峰值与频带</translation>
+    </message>
+    <message>
+        <source>Back to the automatic bands</source>
+        <translation>恢复自动频带</translation>
+    </message>
+    <message>
+        <source>Add band…</source>
+        <translation>添加频带…</translation>
+    </message>
+    <message>
+        <source>Measure the power of a band of your own</source>
+        <translation>测量自定义频带的功率</translation>
+    </message>
+    <message>
+        <source>Peak: %1 Hz on %2, %3 %4</source>
+        <translation>主峰：%1 Hz（%2），%3 %4</translation>
+    </message>
+    <message>
+        <source>%1, %2–%3 Hz</source>
+        <translation>%1，%2–%3 Hz</translation>
+    </message>
+    <message>
+        <source>Coherence of the axes</source>
+        <translation>轴间相干性</translation>
+    </message>
+    <message>
+        <source>How alike the spectra of two axes are in shape, from 0 to 1</source>
+        <translation>两轴频谱形状的相似程度，范围 0 到 1</translation>
+    </message>
+</context>
+<context>
+    <name>BodyModel</name>
+    <message>
+        <source>The model cannot be shown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ChartFilterRow</name>
     <message>
         <source>Low-pass filter</source>
@@ -67,18 +205,6 @@
 <context>
     <name>CommandSession</name>
     <message>
-        <source>The device does not answer. Check the baud rate, then identify it again.</source>
-        <translation>设备没有应答。请检查波特率，然后重新识别。</translation>
-    </message>
-    <message>
-        <source>The device refused %1.</source>
-        <translation>设备拒绝了 %1。</translation>
-    </message>
-    <message>
-        <source>The settings were sent and the device has restarted.</source>
-        <translation>设置已发送，设备已重启。</translation>
-    </message>
-    <message>
         <source>(no reply)</source>
         <translation>（无应答）</translation>
     </message>
@@ -88,6 +214,29 @@
     <message>
         <source>This window could not be loaded. The log of the program tells why.</source>
         <translation>无法加载此窗口。原因请查看程序日志。</translation>
+    </message>
+</context>
+<context>
+    <name>FFTChartView</name>
+    <message>
+        <source>Waiting for samples</source>
+        <translation>正在等待采样数据</translation>
+    </message>
+    <message>
+        <source>No spectrum yet</source>
+        <translation>尚无频谱</translation>
+    </message>
+    <message>
+        <source>The selected node sends none at the moment.</source>
+        <translation>所选节点目前没有发送采样数据。</translation>
+    </message>
+    <message>
+        <source>Press Start above.</source>
+        <translation>请点击上方的“开始”。</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>数据质量</translation>
     </message>
 </context>
 <context>
@@ -360,11 +509,66 @@
     </message>
 </context>
 <context>
-    <name>FftSnapshot</name>
+    <name>FftFiles</name>
     <message>
-        <source>The file could not be written: %1</source>
-        <translation>无法写入文件：%1</translation>
+        <source>Save a snapshot</source>
+        <translation>保存快照</translation>
     </message>
+    <message>
+        <source>Spectrum snapshot (*.json)</source>
+        <translation>频谱快照 (*.json)</translation>
+    </message>
+    <message>
+        <source>Save the spectra</source>
+        <translation>保存频谱</translation>
+    </message>
+    <message>
+        <source>Comma-separated values (*.csv)</source>
+        <translation>逗号分隔值文件 (*.csv)</translation>
+    </message>
+    <message>
+        <source>Open a snapshot</source>
+        <translation>打开快照</translation>
+    </message>
+    <message>
+        <source>%1 points, %2 Hz, window %3</source>
+        <translation>%1 点，%2 Hz，窗函数：%3</translation>
+    </message>
+    <message>
+        <source>Bands: %1</source>
+        <translation>频带：%1</translation>
+    </message>
+    <message>
+        <source>Coherence: %1</source>
+        <translation>相干性：%1</translation>
+    </message>
+    <message>
+        <source>Alarm (%1): %2</source>
+        <translation>报警（%1）：%2</translation>
+    </message>
+    <message>
+        <source>Settings: %1</source>
+        <translation>设置：%1</translation>
+    </message>
+    <message>
+        <source>the same as now</source>
+        <translation>与当前相同</translation>
+    </message>
+    <message>
+        <source>other than now (%1)</source>
+        <translation>与当前不同 (%1)</translation>
+    </message>
+    <message>
+        <source>Format: %1</source>
+        <translation>格式：%1</translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation>快照</translation>
+    </message>
+</context>
+<context>
+    <name>FftSnapshot</name>
     <message>
         <source>The file could not be read: %1</source>
         <translation>无法读取文件：%1</translation>
@@ -552,10 +756,106 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>MeshFile</name>
+    <message>
+        <source>The mesh file cannot be read: %1</source>
+        <translation>无法读取网格文件：%1</translation>
+    </message>
+    <message>
+        <source>The mesh file is larger than %1 MiB.</source>
+        <translation>网格文件超过 %1 MiB。</translation>
+    </message>
+    <message>
+        <source>The mesh file is damaged, or of a kind that this program cannot show.</source>
+        <translation>网格文件已损坏，或其类型不受本程序支持。</translation>
+    </message>
+</context>
+<context>
     <name>MessageRow</name>
     <message>
         <source>Dismiss</source>
         <translation>关闭提示</translation>
+    </message>
+</context>
+<context>
+    <name>ObjReader</name>
+    <message>
+        <source>The OBJ file cannot be read: %1</source>
+        <translation>无法读取 OBJ 文件：%1</translation>
+    </message>
+    <message>
+        <source>The OBJ file is larger than %1 MiB.</source>
+        <translation>OBJ 文件超过 %1 MiB。</translation>
+    </message>
+    <message>
+        <source>The file is not an OBJ model: it holds no text.</source>
+        <translation>该文件不是 OBJ 模型：其内容不是文本。</translation>
+    </message>
+    <message>
+        <source>Line %1 of the OBJ file holds a coordinate that is not a number.</source>
+        <translation>OBJ 文件第 %1 行含有非数值的坐标。</translation>
+    </message>
+    <message>
+        <source>The file is not an OBJ model.</source>
+        <translation>该文件不是 OBJ 模型。</translation>
+    </message>
+    <message>
+        <source>The OBJ model has more than %1 triangles.</source>
+        <translation>OBJ 模型的三角形超过 %1 个。</translation>
+    </message>
+    <message>
+        <source>The OBJ file is damaged: a face names a vertex that does not exist.</source>
+        <translation>OBJ 文件已损坏：有面引用了不存在的顶点。</translation>
+    </message>
+    <message>
+        <source>The OBJ model has coordinates that are not finite or too large.</source>
+        <translation>OBJ 模型含有非有限值或过大的坐标。</translation>
+    </message>
+    <message>
+        <source>The OBJ file holds no faces to show.</source>
+        <translation>OBJ 文件中没有可显示的面。</translation>
+    </message>
+</context>
+<context>
+    <name>Qt6ModelAsset</name>
+    <message>
+        <source>No 3D asset was selected.</source>
+        <translation>未选择三维模型。</translation>
+    </message>
+    <message>
+        <source>The selected mesh file could not be found.</source>
+        <translation>找不到所选的网格文件。</translation>
+    </message>
+    <message>
+        <source>The selected OBJ file could not be found.</source>
+        <translation>找不到所选的 OBJ 文件。</translation>
+    </message>
+    <message>
+        <source>Unsupported 3D asset. Choose a bundled .obj model, an external .obj file, or a preconverted .mesh file.</source>
+        <translation>不支持此三维模型。请选择内置的 .obj 模型、外部 .obj 文件或预先转换的 .mesh 文件。</translation>
+    </message>
+</context>
+<context>
+    <name>SceneMarks</name>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>E</source>
+        <comment>east</comment>
+        <translation>E</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <comment>south</comment>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <comment>west</comment>
+        <translation>W</translation>
     </message>
 </context>
 <context>
@@ -587,14 +887,6 @@ Pa</translation>
     <message>
         <source>Show this chart</source>
         <translation>显示此图表</translation>
-    </message>
-    <message>
-        <source>%1 Hz</source>
-        <translation>%1 Hz</translation>
-    </message>
-    <message>
-        <source>Paused · %1 Hz</source>
-        <translation>已暂停 · %1 Hz</translation>
     </message>
     <message>
         <source>No chart is chosen</source>
@@ -669,6 +961,103 @@ Pa</translation>
     <message>
         <source>Pressure</source>
         <translation>气压</translation>
+    </message>
+</context>
+<context>
+    <name>SpectrumChart</name>
+    <message>
+        <source>%1 points · %2 Hz · %3 · %4 Hz per bin</source>
+        <translation>%1 点 · %2 Hz · %3 · 分辨率 %4 Hz</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>Show amplitudes as they are</source>
+        <translation>按线性刻度显示幅值</translation>
+    </message>
+    <message>
+        <source>Show amplitudes in decibels</source>
+        <translation>按分贝显示幅值</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>自动缩放</translation>
+    </message>
+    <message>
+        <source>Show amplitudes up to the set maximum</source>
+        <translation>按设定的上限显示幅值</translation>
+    </message>
+    <message>
+        <source>Fit the amplitude axis to the curves beyond 0 Hz</source>
+        <translation>使幅值轴适应 0 Hz 以外的曲线</translation>
+    </message>
+    <message>
+        <source>Remove the cursors A and B</source>
+        <translation>移除光标 A 和 B</translation>
+    </message>
+    <message>
+        <source>Measure between the cursors A and B</source>
+        <translation>在光标 A 和 B 之间测量</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>A, B</source>
+        <translation>A、B</translation>
+    </message>
+    <message>
+        <source>Reset the view</source>
+        <translation>重置视图</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>Save a picture of the chart</source>
+        <translation>保存图表图片</translation>
+    </message>
+    <message>
+        <source>Save the spectra as a table</source>
+        <translation>将频谱保存为表格</translation>
+    </message>
+    <message>
+        <source>Save a snapshot of spectra and analysis</source>
+        <translation>保存频谱与分析结果的快照</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>打开…</translation>
+    </message>
+    <message>
+        <source>Tell what a saved snapshot holds</source>
+        <translation>查看已保存快照的内容</translation>
+    </message>
+    <message>
+        <source>Level (dB, 0 dB = 1 %1)</source>
+        <translation>电平 (dB，0 dB = 1 %1)</translation>
+    </message>
+</context>
+<context>
+    <name>SpectrumViewState</name>
+    <message>
+        <source>Resultant</source>
+        <translation>合成</translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation>%1 Hz</translation>
+    </message>
+</context>
+<context>
+    <name>ThreeDScene</name>
+    <message>
+        <source>Drag to turn, right-drag to move, wheel to zoom, double-click to reset</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -801,6 +1190,17 @@ Pa</translation>
     <message>
         <source>%1 could not be written: %2</source>
         <translation>无法写入 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>chart_text</name>
+    <message>
+        <source>%1 Hz · last %2 s of %3 s</source>
+        <translation>%1 Hz · 最近 %2 s / 共 %3 s</translation>
+    </message>
+    <message>
+        <source>%1 Hz · %2 s to %3 s of %4 s</source>
+        <translation>%1 Hz · %2 s 至 %3 s / 共 %4 s</translation>
     </message>
 </context>
 <context>
@@ -1037,16 +1437,8 @@ Pa</translation>
         <translation>网关</translation>
     </message>
     <message>
-        <source>The spectrum comes with a later version.</source>
-        <translation>频谱功能将在后续版本中提供。</translation>
-    </message>
-    <message>
         <source>The 3D view comes with a later version.</source>
         <translation>三维视图将在后续版本中提供。</translation>
-    </message>
-    <message>
-        <source>The firmware update comes with a later version.</source>
-        <translation>固件升级功能将在后续版本中提供。</translation>
     </message>
     <message>
         <source>Choose a serial port and connect (%1)</source>
@@ -1115,6 +1507,18 @@ Pa</translation>
     <message>
         <source>Record the stream to CSV files (%1)</source>
         <translation>将数据流记录到 CSV 文件 (%1)</translation>
+    </message>
+    <message>
+        <source>Load new firmware into the device</source>
+        <translation>将新固件写入设备</translation>
+    </message>
+    <message>
+        <source>Ctrl+F</source>
+        <translation>Ctrl+F</translation>
+    </message>
+    <message>
+        <source>Spectrum of the selected node, with alarms</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1194,6 +1598,105 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>%1 is not a serial port.</source>
         <translation>%1 不是串口。</translation>
+    </message>
+</context>
+<context>
+    <name>form_fftchart</name>
+    <message>
+        <source>Acceleration</source>
+        <translation>加速度</translation>
+    </message>
+    <message>
+        <source>Value (mG)</source>
+        <translation>幅值 (mG)</translation>
+    </message>
+    <message>
+        <source>Angular Velocity</source>
+        <translation>角速度</translation>
+    </message>
+    <message>
+        <source>Value (deg/s)</source>
+        <translation>幅值 (deg/s)</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>实时</translation>
+    </message>
+    <message>
+        <source>Max Hold</source>
+        <translation>最大保持</translation>
+    </message>
+    <message>
+        <source>Avg Hold</source>
+        <translation>平均保持</translation>
+    </message>
+    <message>
+        <source>FFT Analysis</source>
+        <translation>FFT 分析</translation>
+    </message>
+    <message>
+        <source>Sample points:</source>
+        <translation>采样点数：</translation>
+    </message>
+    <message>
+        <source>Window:</source>
+        <translation>窗函数：</translation>
+    </message>
+    <message>
+        <source>Hold:</source>
+        <translation>保持：</translation>
+    </message>
+    <message>
+        <source>Amplitude Max:</source>
+        <translation>幅值上限：</translation>
+    </message>
+    <message>
+        <source>Switch between acceleration and angular velocity spectra.</source>
+        <translation>在加速度频谱与角速度频谱之间切换。</translation>
+    </message>
+    <message>
+        <source>Choose how many time-domain samples are included in each FFT calculation.</source>
+        <translation>选择每次 FFT 计算所用的时域采样点数。</translation>
+    </message>
+    <message>
+        <source>Select the window function applied before the FFT.</source>
+        <translation>选择 FFT 之前施加的窗函数。</translation>
+    </message>
+    <message>
+        <source>Choose whether the spectrum is live, max-hold, or averaged across frames.</source>
+        <translation>选择显示实时频谱、最大保持频谱或多帧平均频谱。</translation>
+    </message>
+    <message>
+        <source>Set the visible FFT amplitude ceiling. Acceleration can be adjusted up to 32000 mG and angular velocity up to 4000 deg/s.</source>
+        <translation>设置 FFT 幅值的显示上限。加速度最高可设为 32000 mG，角速度最高可设为 4000 deg/s。</translation>
+    </message>
+    <message>
+        <source>Shows the current sample rate and the RMSE of the resultant time-domain signal.</source>
+        <translation>显示当前采样频率和合成时域信号的 RMSE。</translation>
+    </message>
+    <message>
+        <source>Start or pause FFT updates.</source>
+        <translation>开始或暂停 FFT 更新。</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>暂停</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>开始</translation>
+    </message>
+    <message>
+        <source>Sample Frequency:%1Hz, RMSE of Norm:%2</source>
+        <translation>采样频率：%1 Hz，合成 RMSE：%2</translation>
+    </message>
+    <message>
+        <source>FFT %1</source>
+        <translation>%1 FFT</translation>
+    </message>
+    <message>
+        <source>Hover to inspect frequency and amplitude. Mouse wheel zooms Y, Ctrl + wheel zooms X, left drag pans, and right or middle double-click resets the view.</source>
+        <translation>悬停可查看频率和幅值。滚轮缩放 Y 轴，Ctrl + 滚轮缩放 X 轴，按住左键拖动可平移，右键或中键双击可重置视图。</translation>
     </message>
 </context>
 <context>
@@ -1548,6 +2051,596 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>Saving restarts the device; this takes 2 seconds.</source>
         <translation>保存后设备会重启，约需 2 秒。</translation>
+    </message>
+    <message>
+        <source>The device does not answer. Check the baud rate, then identify it again.</source>
+        <translation>设备没有应答。请检查波特率，然后重新识别。</translation>
+    </message>
+    <message>
+        <source>The device refused %1.</source>
+        <translation>设备拒绝了 %1。</translation>
+    </message>
+    <message>
+        <source>The settings were sent and the device has restarted.</source>
+        <translation>设置已发送，设备已重启。</translation>
+    </message>
+</context>
+<context>
+    <name>form_threed</name>
+    <message>
+        <source>3D view</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attitude</source>
+        <translation>姿态</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>Set &amp;home</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take the live pose as the reference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Clear home</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forget the reference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mounting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How the axes of the device lie in the body</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RFU / ENU 312 (Z-X-Y)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FLU / NWU / ZYX Intrinsic (Z-Y-X)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>型号</translation>
+    </message>
+    <message>
+        <source>Jet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cube</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plane</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spaceship</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Load…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show a model from a file: X forward, Y up, Z to the right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Reset view</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put the camera back (Home key in the picture, or double-click)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The 3D picture needs OpenGL, which is not available here. The numbers are complete.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The 3D picture cannot be drawn here. The numbers are complete.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The 3D picture could not be loaded. The log of the program tells why.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current preset: RFU body / ENU navigation, Euler 312 intrinsic (Z-X-Y).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current preset: FLU body or NWU body, Euler ZYX intrinsic (Z-Y-X).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current preset: Unknown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Capture the current live pose as Home to compare mounting bias and installation offsets.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Home pose captured. Delta shows the live attitude relative to the stored home reference.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting for live attitude data to capture home pose.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No attitude</source>
+        <translation>无姿态数据</translation>
+    </message>
+    <message>
+        <source>From quaternion</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From Euler angles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open 3D asset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>3D Assets (*.obj *.mesh)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>form_updater</name>
+    <message>
+        <source>Firmware Update</source>
+        <translation>固件升级</translation>
+    </message>
+    <message>
+        <source>Image file</source>
+        <translation>映像文件</translation>
+    </message>
+    <message>
+        <source>Open File</source>
+        <translation>打开文件</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>连接</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>烧录</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>日志</translation>
+    </message>
+    <message>
+        <source>&amp;Copy log</source>
+        <translation>复制日志(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copies what is shown above together with the log, for a report</source>
+        <translation>复制上方显示的内容和日志，便于反馈问题</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message>
+        <source>The port was closed: connect again before the download.</source>
+        <translation>串口已关闭：烧录前请重新连接。</translation>
+    </message>
+    <message>
+        <source>Please select image
+</source>
+        <translation>请选择映像文件
+</translation>
+    </message>
+    <message>
+        <source>PATH: %1
+</source>
+        <translation>路径：%1
+</translation>
+    </message>
+    <message>
+        <source>The download has to end first: without it the device has no complete firmware.</source>
+        <translation>必须等待烧录结束，否则设备中没有完整的固件。</translation>
+    </message>
+    <message>
+        <source>Text Files(*.hex)</source>
+        <translation>HEX 文件 (*.hex)</translation>
+    </message>
+    <message>
+        <source>FILE:%1
+</source>
+        <translation>文件：%1
+</translation>
+    </message>
+    <message>
+        <source>No file selected
+</source>
+        <translation>未选择文件
+</translation>
+    </message>
+    <message>
+        <source>Failed to open file
+</source>
+        <translation>打开文件失败
+</translation>
+    </message>
+    <message>
+        <source>Failed to parse HEX file
+</source>
+        <translation>解析 HEX 文件失败
+</translation>
+    </message>
+    <message>
+        <source>SIZE:%1 bytes
+</source>
+        <translation>大小：%1 字节
+</translation>
+    </message>
+    <message>
+        <source>SP:0x%1
+</source>
+        <translation>SP：0x%1
+</translation>
+    </message>
+    <message>
+        <source>PC:0x%1
+</source>
+        <translation>PC：0x%1
+</translation>
+    </message>
+    <message>
+        <source>ADDR:0x%1
+</source>
+        <translation>地址：0x%1
+</translation>
+    </message>
+    <message>
+        <source>
+--- Connecting to bootloader ---
+</source>
+        <translation>
+--- 正在连接引导程序 ---
+</translation>
+    </message>
+    <message>
+        <source>CONNECT ERR<byte value="xd"/>
+</source>
+        <translation>连接失败<byte value="xd"/>
+</translation>
+    </message>
+    <message>
+        <source>Please check:
+</source>
+        <translation>请检查：
+</translation>
+    </message>
+    <message>
+        <source>  - Device is powered on
+</source>
+        <translation>  - 设备是否已上电
+</translation>
+    </message>
+    <message>
+        <source>  - Serial port is correct
+</source>
+        <translation>  - 串口是否正确
+</translation>
+    </message>
+    <message>
+        <source>  - Bootloader is installed
+</source>
+        <translation>  - 是否已安装引导程序
+</translation>
+    </message>
+    <message>
+        <source>Connect OK
+</source>
+        <translation>连接成功
+</translation>
+    </message>
+    <message>
+        <source>PKT SIZE:%1
+</source>
+        <translation>数据包大小：%1
+</translation>
+    </message>
+    <message>
+        <source>FLASH SIZE:%1KB
+</source>
+        <translation>闪存容量：%1 KB
+</translation>
+    </message>
+    <message>
+        <source>SDID:</source>
+        <translation>SDID：</translation>
+    </message>
+    <message>
+        <source>KBOOT:%1.%2.%3
+</source>
+        <translation>KBOOT：%1.%2.%3
+</translation>
+    </message>
+    <message>
+        <source>SECTOR:%1
+</source>
+        <translation>扇区大小：%1
+</translation>
+    </message>
+    <message>
+        <source>
+Ready to download firmware.
+</source>
+        <translation>
+可以烧录固件。
+</translation>
+    </message>
+    <message>
+        <source>
+--- Loading HEX file ---
+</source>
+        <translation>
+--- 正在加载 HEX 文件 ---
+</translation>
+    </message>
+    <message>
+        <source>NO IMAGE<byte value="xd"/>
+</source>
+        <translation>没有映像<byte value="xd"/>
+</translation>
+    </message>
+    <message>
+        <source>The image could not be loaded; the device is as it was. Choose another file.</source>
+        <translation>无法加载映像；设备未被改动。请选择其他文件。</translation>
+    </message>
+    <message>
+        <source>
+--- Starting download ---
+</source>
+        <translation>
+--- 开始烧录 ---
+</translation>
+    </message>
+    <message>
+        <source>Download failed
+</source>
+        <translation>烧录失败
+</translation>
+    </message>
+    <message>
+        <source>Not connected to bootloader<byte value="xd"/>
+</source>
+        <translation>未连接到引导程序<byte value="xd"/>
+</translation>
+    </message>
+    <message>
+        <source>Press Connect first: the device has to run its bootloader.</source>
+        <translation>请先点击“连接”：设备须处于引导程序中。</translation>
+    </message>
+    <message>
+        <source>Update complete, image running...
+</source>
+        <translation>升级完成，固件正在运行...
+</translation>
+    </message>
+    <message>
+        <source>A download is running.</source>
+        <translation>正在烧录。</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>已连接</translation>
+    </message>
+    <message>
+        <source>Chooses the image, an Intel HEX file</source>
+        <translation>选择映像文件（Intel HEX 格式）</translation>
+    </message>
+    <message>
+        <source>Restarts the device into its bootloader</source>
+        <translation>重启设备并进入引导程序</translation>
+    </message>
+    <message>
+        <source>Erases the device&apos;s firmware and writes the image</source>
+        <translation>擦除设备中的固件并写入映像</translation>
+    </message>
+    <message>
+        <source>Press Connect first.</source>
+        <translation>请先点击“连接”。</translation>
+    </message>
+    <message>
+        <source>Not connected. Connect restarts the device; this takes up to 4 s.</source>
+        <translation>未连接。点击“连接”会重启设备，最长需 4 秒。</translation>
+    </message>
+    <message>
+        <source>Ready to download</source>
+        <translation>可以烧录</translation>
+    </message>
+    <message>
+        <source>Waiting for the bootloader</source>
+        <translation>等待连接引导程序</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>完成</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>The file has changed since it was loaded. Choose it again to load it anew.</source>
+        <translation>文件在加载后已发生更改。请重新选择以再次加载。</translation>
+    </message>
+    <message>
+        <source>There is no file at this place: choose an image.</source>
+        <translation>此位置没有文件：请选择映像文件。</translation>
+    </message>
+    <message>
+        <source>This is no Intel HEX file that can be loaded; the log file debug.log says why. Choose another one.</source>
+        <translation>这不是可加载的 Intel HEX 文件，原因请查看日志文件 debug.log。请选择其他文件。</translation>
+    </message>
+    <message>
+        <source>The serial port is closed or takes no data.</source>
+        <translation>串口已关闭，或无法发送数据。</translation>
+    </message>
+    <message>
+        <source>The connection to the device was lost.</source>
+        <translation>与设备的连接已断开。</translation>
+    </message>
+    <message>
+        <source>The device answered, but not as its bootloader does.</source>
+        <translation>设备有应答，但并非引导程序的应答。</translation>
+    </message>
+    <message>
+        <source>The bootloader refused a packet.</source>
+        <translation>引导程序拒绝了一个数据包。</translation>
+    </message>
+    <message>
+        <source>The bootloader aborted the transfer.</source>
+        <translation>引导程序中止了传输。</translation>
+    </message>
+    <message>
+        <source>The bootloader did not answer the erase command within 1.5 s.</source>
+        <translation>引导程序未在 1.5 秒内应答擦除命令。</translation>
+    </message>
+    <message>
+        <source>The bootloader did not answer the write command within 1.5 s.</source>
+        <translation>引导程序未在 1.5 秒内应答写入命令。</translation>
+    </message>
+    <message>
+        <source>The bootloader did not acknowledge a packet.</source>
+        <translation>引导程序未确认某个数据包。</translation>
+    </message>
+    <message>
+        <source>No bootloader answered.</source>
+        <translation>引导程序没有应答。</translation>
+    </message>
+    <message>
+        <source>The flash may be partly erased: the firmware may not start any more.</source>
+        <translation>闪存可能已被部分擦除：固件可能无法再启动。</translation>
+    </message>
+    <message>
+        <source>The flash is erased: the device has no firmware now.</source>
+        <translation>闪存已擦除：设备中现已没有固件。</translation>
+    </message>
+    <message>
+        <source>Nothing was written, but the flash may be erased: the firmware may not start any more.</source>
+        <translation>未写入任何数据，但闪存可能已被擦除：固件可能无法再启动。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 bytes were written: the firmware is incomplete and cannot start.</source>
+        <translation>已写入 %1 / %2 字节：固件不完整，无法启动。</translation>
+    </message>
+    <message>
+        <source>Nothing was written: the firmware of the device is as it was.</source>
+        <translation>未写入任何数据：设备的固件未被改动。</translation>
+    </message>
+    <message>
+        <source>Check the cable, open the port again and press Connect.</source>
+        <translation>请检查连接线，重新打开串口，然后点击“连接”。</translation>
+    </message>
+    <message>
+        <source>Check power, port and baud rate, then press Connect again.</source>
+        <translation>请检查电源、串口和波特率，然后再次点击“连接”。</translation>
+    </message>
+    <message>
+        <source>The bootloader stays in the device: press Connect, then Download.</source>
+        <translation>引导程序仍保留在设备中：请点击“连接”，再点击“烧录”。</translation>
+    </message>
+    <message>
+        <source>Connecting to the bootloader...</source>
+        <translation>正在连接引导程序...</translation>
+    </message>
+    <message>
+        <source>Erasing the flash...</source>
+        <translation>正在擦除闪存...</translation>
+    </message>
+    <message>
+        <source>Preparing to write...</source>
+        <translation>正在准备写入...</translation>
+    </message>
+    <message>
+        <source>Writing the image...</source>
+        <translation>正在写入映像...</translation>
+    </message>
+    <message>
+        <source>Restarting the device...</source>
+        <translation>正在重启设备...</translation>
+    </message>
+    <message>
+        <source>The bootloader takes no data: it reports packets of %1 bytes.</source>
+        <translation>引导程序无法接收数据：其报告的数据包大小为 %1 字节。</translation>
+    </message>
+    <message>
+        <source>It had reported status %1 before.</source>
+        <translation>此前它曾报告状态 %1。</translation>
+    </message>
+    <message>
+        <source>%1 bytes were written in %2 s, %3 of %4 packets were sent again.</source>
+        <translation>已写入 %1 字节，用时 %2 秒；重发数据包 %3 / %4 个。</translation>
+    </message>
+    <message>
+        <source>The device restarts with the new firmware.</source>
+        <translation>设备将以新固件重启。</translation>
+    </message>
+    <message>
+        <source>But the bootloader reported status %1: if the firmware does not start, press Connect and download again.</source>
+        <translation>但引导程序报告了状态 %1：如果固件无法启动，请点击“连接”并重新烧录。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 bytes</source>
+        <translation>%1 / %2 字节</translation>
+    </message>
+    <message>
+        <source>%1 · %2 KB/s · %3 s left</source>
+        <translation>%1 · %2 KB/s · 剩余 %3 s</translation>
+    </message>
+    <message>
+        <source>Bootloader %1, %2 KB of flash in sectors of %3 bytes, packets of up to %4 bytes, chip %5</source>
+        <translation>引导程序 %1，闪存 %2 KB，扇区 %3 字节，数据包最大 %4 字节，芯片 %5</translation>
+    </message>
+    <message>
+        <source>%1 bytes from %2, stack pointer %3, reset vector %4</source>
+        <translation>%1 字节，起始地址 %2，栈指针 %3，复位向量 %4</translation>
+    </message>
+    <message>
+        <source>The file begins at %1, but it will be written to %2, where the first file of this run began. Restart the program to write it to its own address.</source>
+        <translation>此文件的起始地址为 %1，但将写入 %2，即本次运行中首个文件的起始地址。如需写入其自身地址，请重启本程序。</translation>
+    </message>
+    <message>
+        <source>The image does not fit the %1 KB of flash from this address on.</source>
+        <translation>从该地址起，映像超出了 %1 KB 的闪存空间。</translation>
+    </message>
+    <message>
+        <source>The stack pointer is no word address in RAM.</source>
+        <translation>栈指针不是 RAM 中按字对齐的地址。</translation>
+    </message>
+    <message>
+        <source>The reset vector is no Thumb address inside the image.</source>
+        <translation>复位向量不是映像内的 Thumb 地址。</translation>
+    </message>
+    <message>
+        <source>The image is very small for a firmware.</source>
+        <translation>对固件而言，此映像过小。</translation>
     </message>
 </context>
 <context>

@@ -9,6 +9,144 @@
     </message>
 </context>
 <context>
+    <name>AlarmPanel</name>
+    <message>
+        <source>Alarm</source>
+        <translation>警報</translation>
+    </message>
+    <message>
+        <source>Judge the spectra by this preset</source>
+        <translation>依此預設集判斷頻譜</translation>
+    </message>
+    <message>
+        <source>Custom…</source>
+        <translation>自訂…</translation>
+    </message>
+    <message>
+        <source>Set thresholds and frequencies yourself</source>
+        <translation>自行設定門檻與頻率</translation>
+    </message>
+</context>
+<context>
+    <name>AlarmRuleEditor</name>
+    <message>
+        <source>From</source>
+        <translation>頻率下限</translation>
+    </message>
+    <message>
+        <source>To (0: no limit)</source>
+        <translation>頻率上限（0：不限）</translation>
+    </message>
+    <message>
+        <source>Watch from</source>
+        <translation>注意門檻</translation>
+    </message>
+    <message>
+        <source>Alarm from</source>
+        <translation>警報門檻</translation>
+    </message>
+    <message>
+        <source>Spectra to raise</source>
+        <translation>觸發所需訊框數</translation>
+    </message>
+    <message>
+        <source>Spectra to clear</source>
+        <translation>解除所需訊框數</translation>
+    </message>
+    <message>
+        <source>Use this rule</source>
+        <translation>使用此規則</translation>
+    </message>
+</context>
+<context>
+    <name>AttitudeFigures</name>
+    <message>
+        <source>Live</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From home</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>橫滾</translation>
+    </message>
+    <message>
+        <source>Pitch</source>
+        <translation>俯仰</translation>
+    </message>
+    <message>
+        <source>Yaw</source>
+        <translation>偏航</translation>
+    </message>
+    <message>
+        <source>Quaternion</source>
+        <translation>四元數</translation>
+    </message>
+</context>
+<context>
+    <name>BandEditor</name>
+    <message>
+        <source>Name of the band</source>
+        <translation>頻帶名稱</translation>
+    </message>
+    <message>
+        <source>Lower edge</source>
+        <translation>頻帶下限</translation>
+    </message>
+    <message>
+        <source>Upper edge</source>
+        <translation>頻帶上限</translation>
+    </message>
+    <message>
+        <source>Measure this band</source>
+        <translation>量測此頻帶</translation>
+    </message>
+</context>
+<context>
+    <name>BandPanel</name>
+    <message>
+        <source>Peak and bands</source>
+        <translation>峰值與頻帶</translation>
+    </message>
+    <message>
+        <source>Back to the automatic bands</source>
+        <translation>恢復自動頻帶</translation>
+    </message>
+    <message>
+        <source>Add band…</source>
+        <translation>新增頻帶…</translation>
+    </message>
+    <message>
+        <source>Measure the power of a band of your own</source>
+        <translation>量測自訂頻帶的功率</translation>
+    </message>
+    <message>
+        <source>Peak: %1 Hz on %2, %3 %4</source>
+        <translation>主峰：%1 Hz（%2），%3 %4</translation>
+    </message>
+    <message>
+        <source>%1, %2–%3 Hz</source>
+        <translation>%1，%2–%3 Hz</translation>
+    </message>
+    <message>
+        <source>Coherence of the axes</source>
+        <translation>軸間相干性</translation>
+    </message>
+    <message>
+        <source>How alike the spectra of two axes are in shape, from 0 to 1</source>
+        <translation>兩軸頻譜形狀的相似程度，範圍 0 到 1</translation>
+    </message>
+</context>
+<context>
+    <name>BodyModel</name>
+    <message>
+        <source>The model cannot be shown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ChartFilterRow</name>
     <message>
         <source>Low-pass filter</source>
@@ -67,18 +205,6 @@
 <context>
     <name>CommandSession</name>
     <message>
-        <source>The device does not answer. Check the baud rate, then identify it again.</source>
-        <translation>裝置沒有回應。請檢查鮑率，然後重新識別。</translation>
-    </message>
-    <message>
-        <source>The device refused %1.</source>
-        <translation>裝置拒絕了 %1。</translation>
-    </message>
-    <message>
-        <source>The settings were sent and the device has restarted.</source>
-        <translation>設定已傳送，裝置已重新啟動。</translation>
-    </message>
-    <message>
         <source>(no reply)</source>
         <translation>（無回應）</translation>
     </message>
@@ -88,6 +214,29 @@
     <message>
         <source>This window could not be loaded. The log of the program tells why.</source>
         <translation>無法載入此視窗。原因請查看程式日誌。</translation>
+    </message>
+</context>
+<context>
+    <name>FFTChartView</name>
+    <message>
+        <source>Waiting for samples</source>
+        <translation>正在等待取樣資料</translation>
+    </message>
+    <message>
+        <source>No spectrum yet</source>
+        <translation>尚無頻譜</translation>
+    </message>
+    <message>
+        <source>The selected node sends none at the moment.</source>
+        <translation>所選節點目前沒有傳送取樣資料。</translation>
+    </message>
+    <message>
+        <source>Press Start above.</source>
+        <translation>請按一下上方的「開始」。</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>資料品質</translation>
     </message>
 </context>
 <context>
@@ -360,11 +509,66 @@
     </message>
 </context>
 <context>
-    <name>FftSnapshot</name>
+    <name>FftFiles</name>
     <message>
-        <source>The file could not be written: %1</source>
-        <translation>無法寫入檔案：%1</translation>
+        <source>Save a snapshot</source>
+        <translation>儲存快照</translation>
     </message>
+    <message>
+        <source>Spectrum snapshot (*.json)</source>
+        <translation>頻譜快照 (*.json)</translation>
+    </message>
+    <message>
+        <source>Save the spectra</source>
+        <translation>儲存頻譜</translation>
+    </message>
+    <message>
+        <source>Comma-separated values (*.csv)</source>
+        <translation>逗號分隔值檔案 (*.csv)</translation>
+    </message>
+    <message>
+        <source>Open a snapshot</source>
+        <translation>開啟快照</translation>
+    </message>
+    <message>
+        <source>%1 points, %2 Hz, window %3</source>
+        <translation>%1 點，%2 Hz，窗函數：%3</translation>
+    </message>
+    <message>
+        <source>Bands: %1</source>
+        <translation>頻帶：%1</translation>
+    </message>
+    <message>
+        <source>Coherence: %1</source>
+        <translation>相干性：%1</translation>
+    </message>
+    <message>
+        <source>Alarm (%1): %2</source>
+        <translation>警報（%1）：%2</translation>
+    </message>
+    <message>
+        <source>Settings: %1</source>
+        <translation>設定：%1</translation>
+    </message>
+    <message>
+        <source>the same as now</source>
+        <translation>與目前相同</translation>
+    </message>
+    <message>
+        <source>other than now (%1)</source>
+        <translation>與目前不同 (%1)</translation>
+    </message>
+    <message>
+        <source>Format: %1</source>
+        <translation>格式：%1</translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation>快照</translation>
+    </message>
+</context>
+<context>
+    <name>FftSnapshot</name>
     <message>
         <source>The file could not be read: %1</source>
         <translation>無法讀取檔案：%1</translation>
@@ -552,10 +756,106 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>MeshFile</name>
+    <message>
+        <source>The mesh file cannot be read: %1</source>
+        <translation>無法讀取網格檔案：%1</translation>
+    </message>
+    <message>
+        <source>The mesh file is larger than %1 MiB.</source>
+        <translation>網格檔案超過 %1 MiB。</translation>
+    </message>
+    <message>
+        <source>The mesh file is damaged, or of a kind that this program cannot show.</source>
+        <translation>網格檔案已損毀，或其類型不受本程式支援。</translation>
+    </message>
+</context>
+<context>
     <name>MessageRow</name>
     <message>
         <source>Dismiss</source>
         <translation>關閉提示</translation>
+    </message>
+</context>
+<context>
+    <name>ObjReader</name>
+    <message>
+        <source>The OBJ file cannot be read: %1</source>
+        <translation>無法讀取 OBJ 檔案：%1</translation>
+    </message>
+    <message>
+        <source>The OBJ file is larger than %1 MiB.</source>
+        <translation>OBJ 檔案超過 %1 MiB。</translation>
+    </message>
+    <message>
+        <source>The file is not an OBJ model: it holds no text.</source>
+        <translation>該檔案不是 OBJ 模型：其內容不是文字。</translation>
+    </message>
+    <message>
+        <source>Line %1 of the OBJ file holds a coordinate that is not a number.</source>
+        <translation>OBJ 檔案第 %1 行含有非數值的座標。</translation>
+    </message>
+    <message>
+        <source>The file is not an OBJ model.</source>
+        <translation>該檔案不是 OBJ 模型。</translation>
+    </message>
+    <message>
+        <source>The OBJ model has more than %1 triangles.</source>
+        <translation>OBJ 模型的三角形超過 %1 個。</translation>
+    </message>
+    <message>
+        <source>The OBJ file is damaged: a face names a vertex that does not exist.</source>
+        <translation>OBJ 檔案已損毀：有面參照了不存在的頂點。</translation>
+    </message>
+    <message>
+        <source>The OBJ model has coordinates that are not finite or too large.</source>
+        <translation>OBJ 模型含有非有限值或過大的座標。</translation>
+    </message>
+    <message>
+        <source>The OBJ file holds no faces to show.</source>
+        <translation>OBJ 檔案中沒有可顯示的面。</translation>
+    </message>
+</context>
+<context>
+    <name>Qt6ModelAsset</name>
+    <message>
+        <source>No 3D asset was selected.</source>
+        <translation>尚未選擇 3D 模型。</translation>
+    </message>
+    <message>
+        <source>The selected mesh file could not be found.</source>
+        <translation>找不到所選的網格檔案。</translation>
+    </message>
+    <message>
+        <source>The selected OBJ file could not be found.</source>
+        <translation>找不到所選的 OBJ 檔案。</translation>
+    </message>
+    <message>
+        <source>Unsupported 3D asset. Choose a bundled .obj model, an external .obj file, or a preconverted .mesh file.</source>
+        <translation>不支援此 3D 模型。請選擇內建的 .obj 模型、外部的 .obj 檔案或預先轉換的 .mesh 檔案。</translation>
+    </message>
+</context>
+<context>
+    <name>SceneMarks</name>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>E</source>
+        <comment>east</comment>
+        <translation>E</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <comment>south</comment>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <comment>west</comment>
+        <translation>W</translation>
     </message>
 </context>
 <context>
@@ -587,14 +887,6 @@ Pa</translation>
     <message>
         <source>Show this chart</source>
         <translation>顯示此圖表</translation>
-    </message>
-    <message>
-        <source>%1 Hz</source>
-        <translation>%1 Hz</translation>
-    </message>
-    <message>
-        <source>Paused · %1 Hz</source>
-        <translation>已暫停 · %1 Hz</translation>
     </message>
     <message>
         <source>No chart is chosen</source>
@@ -669,6 +961,103 @@ Pa</translation>
     <message>
         <source>Pressure</source>
         <translation>氣壓</translation>
+    </message>
+</context>
+<context>
+    <name>SpectrumChart</name>
+    <message>
+        <source>%1 points · %2 Hz · %3 · %4 Hz per bin</source>
+        <translation>%1 點 · %2 Hz · %3 · 解析度 %4 Hz</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>Show amplitudes as they are</source>
+        <translation>以線性刻度顯示振幅</translation>
+    </message>
+    <message>
+        <source>Show amplitudes in decibels</source>
+        <translation>以分貝顯示振幅</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>自動縮放</translation>
+    </message>
+    <message>
+        <source>Show amplitudes up to the set maximum</source>
+        <translation>依設定的上限顯示振幅</translation>
+    </message>
+    <message>
+        <source>Fit the amplitude axis to the curves beyond 0 Hz</source>
+        <translation>使振幅軸配合 0 Hz 以外的曲線</translation>
+    </message>
+    <message>
+        <source>Remove the cursors A and B</source>
+        <translation>移除游標 A 和 B</translation>
+    </message>
+    <message>
+        <source>Measure between the cursors A and B</source>
+        <translation>在游標 A 和 B 之間量測</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>A, B</source>
+        <translation>A、B</translation>
+    </message>
+    <message>
+        <source>Reset the view</source>
+        <translation>重設檢視</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>Save a picture of the chart</source>
+        <translation>儲存圖表圖片</translation>
+    </message>
+    <message>
+        <source>Save the spectra as a table</source>
+        <translation>將頻譜儲存為表格</translation>
+    </message>
+    <message>
+        <source>Save a snapshot of spectra and analysis</source>
+        <translation>儲存頻譜與分析結果的快照</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>開啟…</translation>
+    </message>
+    <message>
+        <source>Tell what a saved snapshot holds</source>
+        <translation>檢視已儲存快照的內容</translation>
+    </message>
+    <message>
+        <source>Level (dB, 0 dB = 1 %1)</source>
+        <translation>位準 (dB，0 dB = 1 %1)</translation>
+    </message>
+</context>
+<context>
+    <name>SpectrumViewState</name>
+    <message>
+        <source>Resultant</source>
+        <translation>合成</translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation>%1 Hz</translation>
+    </message>
+</context>
+<context>
+    <name>ThreeDScene</name>
+    <message>
+        <source>Drag to turn, right-drag to move, wheel to zoom, double-click to reset</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -801,6 +1190,17 @@ Pa</translation>
     <message>
         <source>%1 could not be written: %2</source>
         <translation>無法寫入 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>chart_text</name>
+    <message>
+        <source>%1 Hz · last %2 s of %3 s</source>
+        <translation>%1 Hz · 最近 %2 s / 共 %3 s</translation>
+    </message>
+    <message>
+        <source>%1 Hz · %2 s to %3 s of %4 s</source>
+        <translation>%1 Hz · %2 s 至 %3 s / 共 %4 s</translation>
     </message>
 </context>
 <context>
@@ -1037,16 +1437,8 @@ Pa</translation>
         <translation>閘道器</translation>
     </message>
     <message>
-        <source>The spectrum comes with a later version.</source>
-        <translation>頻譜功能將於後續版本提供。</translation>
-    </message>
-    <message>
         <source>The 3D view comes with a later version.</source>
         <translation>3D 檢視將於後續版本提供。</translation>
-    </message>
-    <message>
-        <source>The firmware update comes with a later version.</source>
-        <translation>韌體更新功能將於後續版本提供。</translation>
     </message>
     <message>
         <source>Choose a serial port and connect (%1)</source>
@@ -1115,6 +1507,18 @@ Pa</translation>
     <message>
         <source>Record the stream to CSV files (%1)</source>
         <translation>將資料串流記錄至 CSV 檔案 (%1)</translation>
+    </message>
+    <message>
+        <source>Load new firmware into the device</source>
+        <translation>將新韌體寫入裝置</translation>
+    </message>
+    <message>
+        <source>Ctrl+F</source>
+        <translation>Ctrl+F</translation>
+    </message>
+    <message>
+        <source>Spectrum of the selected node, with alarms</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1194,6 +1598,105 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>%1 is not a serial port.</source>
         <translation>%1 不是序列埠。</translation>
+    </message>
+</context>
+<context>
+    <name>form_fftchart</name>
+    <message>
+        <source>Acceleration</source>
+        <translation>加速度</translation>
+    </message>
+    <message>
+        <source>Value (mG)</source>
+        <translation>振幅 (mG)</translation>
+    </message>
+    <message>
+        <source>Angular Velocity</source>
+        <translation>角速度</translation>
+    </message>
+    <message>
+        <source>Value (deg/s)</source>
+        <translation>振幅 (deg/s)</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>即時</translation>
+    </message>
+    <message>
+        <source>Max Hold</source>
+        <translation>最大保持</translation>
+    </message>
+    <message>
+        <source>Avg Hold</source>
+        <translation>平均保持</translation>
+    </message>
+    <message>
+        <source>FFT Analysis</source>
+        <translation>FFT 分析</translation>
+    </message>
+    <message>
+        <source>Sample points:</source>
+        <translation>取樣點數：</translation>
+    </message>
+    <message>
+        <source>Window:</source>
+        <translation>窗函數：</translation>
+    </message>
+    <message>
+        <source>Hold:</source>
+        <translation>保持：</translation>
+    </message>
+    <message>
+        <source>Amplitude Max:</source>
+        <translation>振幅上限：</translation>
+    </message>
+    <message>
+        <source>Switch between acceleration and angular velocity spectra.</source>
+        <translation>在加速度頻譜與角速度頻譜之間切換。</translation>
+    </message>
+    <message>
+        <source>Choose how many time-domain samples are included in each FFT calculation.</source>
+        <translation>選擇每次 FFT 計算所用的時域取樣點數。</translation>
+    </message>
+    <message>
+        <source>Select the window function applied before the FFT.</source>
+        <translation>選擇 FFT 之前套用的窗函數。</translation>
+    </message>
+    <message>
+        <source>Choose whether the spectrum is live, max-hold, or averaged across frames.</source>
+        <translation>選擇顯示即時頻譜、最大保持頻譜或多個訊框的平均頻譜。</translation>
+    </message>
+    <message>
+        <source>Set the visible FFT amplitude ceiling. Acceleration can be adjusted up to 32000 mG and angular velocity up to 4000 deg/s.</source>
+        <translation>設定 FFT 振幅的顯示上限。加速度最高可設為 32000 mG，角速度最高可設為 4000 deg/s。</translation>
+    </message>
+    <message>
+        <source>Shows the current sample rate and the RMSE of the resultant time-domain signal.</source>
+        <translation>顯示目前的取樣頻率與合成時域訊號的 RMSE。</translation>
+    </message>
+    <message>
+        <source>Start or pause FFT updates.</source>
+        <translation>開始或暫停 FFT 更新。</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>暫停</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Sample Frequency:%1Hz, RMSE of Norm:%2</source>
+        <translation>取樣頻率：%1 Hz，合成 RMSE：%2</translation>
+    </message>
+    <message>
+        <source>FFT %1</source>
+        <translation>%1 FFT</translation>
+    </message>
+    <message>
+        <source>Hover to inspect frequency and amplitude. Mouse wheel zooms Y, Ctrl + wheel zooms X, left drag pans, and right or middle double-click resets the view.</source>
+        <translation>將滑鼠移到圖上可檢視頻率與振幅。滾輪縮放 Y 軸，Ctrl + 滾輪縮放 X 軸，按住左鍵拖曳可平移，按兩下右鍵或中鍵可重設檢視。</translation>
     </message>
 </context>
 <context>
@@ -1548,6 +2051,596 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>Saving restarts the device; this takes 2 seconds.</source>
         <translation>儲存後裝置會重新啟動，約需 2 秒。</translation>
+    </message>
+    <message>
+        <source>The device does not answer. Check the baud rate, then identify it again.</source>
+        <translation>裝置沒有回應。請檢查鮑率，然後重新識別。</translation>
+    </message>
+    <message>
+        <source>The device refused %1.</source>
+        <translation>裝置拒絕了 %1。</translation>
+    </message>
+    <message>
+        <source>The settings were sent and the device has restarted.</source>
+        <translation>設定已傳送，裝置已重新啟動。</translation>
+    </message>
+</context>
+<context>
+    <name>form_threed</name>
+    <message>
+        <source>3D view</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attitude</source>
+        <translation>姿態</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>Set &amp;home</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take the live pose as the reference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Clear home</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forget the reference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mounting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How the axes of the device lie in the body</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RFU / ENU 312 (Z-X-Y)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FLU / NWU / ZYX Intrinsic (Z-Y-X)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>型號</translation>
+    </message>
+    <message>
+        <source>Jet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cube</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plane</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spaceship</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Load…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show a model from a file: X forward, Y up, Z to the right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Reset view</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put the camera back (Home key in the picture, or double-click)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The 3D picture needs OpenGL, which is not available here. The numbers are complete.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The 3D picture cannot be drawn here. The numbers are complete.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The 3D picture could not be loaded. The log of the program tells why.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current preset: RFU body / ENU navigation, Euler 312 intrinsic (Z-X-Y).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current preset: FLU body or NWU body, Euler ZYX intrinsic (Z-Y-X).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current preset: Unknown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Capture the current live pose as Home to compare mounting bias and installation offsets.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Home pose captured. Delta shows the live attitude relative to the stored home reference.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting for live attitude data to capture home pose.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No attitude</source>
+        <translation>無姿態資料</translation>
+    </message>
+    <message>
+        <source>From quaternion</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From Euler angles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open 3D asset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>3D Assets (*.obj *.mesh)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>form_updater</name>
+    <message>
+        <source>Firmware Update</source>
+        <translation>韌體更新</translation>
+    </message>
+    <message>
+        <source>Image file</source>
+        <translation>映像檔</translation>
+    </message>
+    <message>
+        <source>Open File</source>
+        <translation>開啟檔案</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>連線</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>燒錄</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>日誌</translation>
+    </message>
+    <message>
+        <source>&amp;Copy log</source>
+        <translation>複製日誌(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copies what is shown above together with the log, for a report</source>
+        <translation>複製上方顯示的內容與日誌，方便回報問題</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>關閉(&amp;C)</translation>
+    </message>
+    <message>
+        <source>The port was closed: connect again before the download.</source>
+        <translation>序列埠已關閉：燒錄前請重新連線。</translation>
+    </message>
+    <message>
+        <source>Please select image
+</source>
+        <translation>請選擇映像檔
+</translation>
+    </message>
+    <message>
+        <source>PATH: %1
+</source>
+        <translation>路徑：%1
+</translation>
+    </message>
+    <message>
+        <source>The download has to end first: without it the device has no complete firmware.</source>
+        <translation>必須等待燒錄結束，否則裝置中沒有完整的韌體。</translation>
+    </message>
+    <message>
+        <source>Text Files(*.hex)</source>
+        <translation>HEX 檔案 (*.hex)</translation>
+    </message>
+    <message>
+        <source>FILE:%1
+</source>
+        <translation>檔案：%1
+</translation>
+    </message>
+    <message>
+        <source>No file selected
+</source>
+        <translation>尚未選擇檔案
+</translation>
+    </message>
+    <message>
+        <source>Failed to open file
+</source>
+        <translation>無法開啟檔案
+</translation>
+    </message>
+    <message>
+        <source>Failed to parse HEX file
+</source>
+        <translation>無法剖析 HEX 檔案
+</translation>
+    </message>
+    <message>
+        <source>SIZE:%1 bytes
+</source>
+        <translation>大小：%1 位元組
+</translation>
+    </message>
+    <message>
+        <source>SP:0x%1
+</source>
+        <translation>SP：0x%1
+</translation>
+    </message>
+    <message>
+        <source>PC:0x%1
+</source>
+        <translation>PC：0x%1
+</translation>
+    </message>
+    <message>
+        <source>ADDR:0x%1
+</source>
+        <translation>位址：0x%1
+</translation>
+    </message>
+    <message>
+        <source>
+--- Connecting to bootloader ---
+</source>
+        <translation>
+--- 正在連線至啟動載入程式 ---
+</translation>
+    </message>
+    <message>
+        <source>CONNECT ERR<byte value="xd"/>
+</source>
+        <translation>連線失敗<byte value="xd"/>
+</translation>
+    </message>
+    <message>
+        <source>Please check:
+</source>
+        <translation>請檢查：
+</translation>
+    </message>
+    <message>
+        <source>  - Device is powered on
+</source>
+        <translation>  - 裝置是否已通電
+</translation>
+    </message>
+    <message>
+        <source>  - Serial port is correct
+</source>
+        <translation>  - 序列埠是否正確
+</translation>
+    </message>
+    <message>
+        <source>  - Bootloader is installed
+</source>
+        <translation>  - 是否已安裝啟動載入程式
+</translation>
+    </message>
+    <message>
+        <source>Connect OK
+</source>
+        <translation>連線成功
+</translation>
+    </message>
+    <message>
+        <source>PKT SIZE:%1
+</source>
+        <translation>封包大小：%1
+</translation>
+    </message>
+    <message>
+        <source>FLASH SIZE:%1KB
+</source>
+        <translation>快閃記憶體容量：%1 KB
+</translation>
+    </message>
+    <message>
+        <source>SDID:</source>
+        <translation>SDID：</translation>
+    </message>
+    <message>
+        <source>KBOOT:%1.%2.%3
+</source>
+        <translation>KBOOT：%1.%2.%3
+</translation>
+    </message>
+    <message>
+        <source>SECTOR:%1
+</source>
+        <translation>磁區大小：%1
+</translation>
+    </message>
+    <message>
+        <source>
+Ready to download firmware.
+</source>
+        <translation>
+可以燒錄韌體。
+</translation>
+    </message>
+    <message>
+        <source>
+--- Loading HEX file ---
+</source>
+        <translation>
+--- 正在載入 HEX 檔案 ---
+</translation>
+    </message>
+    <message>
+        <source>NO IMAGE<byte value="xd"/>
+</source>
+        <translation>沒有映像檔<byte value="xd"/>
+</translation>
+    </message>
+    <message>
+        <source>The image could not be loaded; the device is as it was. Choose another file.</source>
+        <translation>無法載入映像檔；裝置未受變更。請選擇其他檔案。</translation>
+    </message>
+    <message>
+        <source>
+--- Starting download ---
+</source>
+        <translation>
+--- 開始燒錄 ---
+</translation>
+    </message>
+    <message>
+        <source>Download failed
+</source>
+        <translation>燒錄失敗
+</translation>
+    </message>
+    <message>
+        <source>Not connected to bootloader<byte value="xd"/>
+</source>
+        <translation>尚未連線至啟動載入程式<byte value="xd"/>
+</translation>
+    </message>
+    <message>
+        <source>Press Connect first: the device has to run its bootloader.</source>
+        <translation>請先按一下「連線」：裝置必須處於啟動載入程式中。</translation>
+    </message>
+    <message>
+        <source>Update complete, image running...
+</source>
+        <translation>更新完成，韌體執行中...
+</translation>
+    </message>
+    <message>
+        <source>A download is running.</source>
+        <translation>正在燒錄。</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>已連線</translation>
+    </message>
+    <message>
+        <source>Chooses the image, an Intel HEX file</source>
+        <translation>選擇映像檔（Intel HEX 格式）</translation>
+    </message>
+    <message>
+        <source>Restarts the device into its bootloader</source>
+        <translation>重新啟動裝置並進入啟動載入程式</translation>
+    </message>
+    <message>
+        <source>Erases the device&apos;s firmware and writes the image</source>
+        <translation>抹除裝置中的韌體並寫入映像檔</translation>
+    </message>
+    <message>
+        <source>Press Connect first.</source>
+        <translation>請先按一下「連線」。</translation>
+    </message>
+    <message>
+        <source>Not connected. Connect restarts the device; this takes up to 4 s.</source>
+        <translation>尚未連線。按一下「連線」會重新啟動裝置，最長需 4 秒。</translation>
+    </message>
+    <message>
+        <source>Ready to download</source>
+        <translation>可以燒錄</translation>
+    </message>
+    <message>
+        <source>Waiting for the bootloader</source>
+        <translation>等待連線至啟動載入程式</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>完成</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>The file has changed since it was loaded. Choose it again to load it anew.</source>
+        <translation>檔案在載入後已變更。請重新選擇以再次載入。</translation>
+    </message>
+    <message>
+        <source>There is no file at this place: choose an image.</source>
+        <translation>此位置沒有檔案：請選擇映像檔。</translation>
+    </message>
+    <message>
+        <source>This is no Intel HEX file that can be loaded; the log file debug.log says why. Choose another one.</source>
+        <translation>這不是可載入的 Intel HEX 檔案，原因請查看日誌檔 debug.log。請選擇其他檔案。</translation>
+    </message>
+    <message>
+        <source>The serial port is closed or takes no data.</source>
+        <translation>序列埠已關閉，或無法傳送資料。</translation>
+    </message>
+    <message>
+        <source>The connection to the device was lost.</source>
+        <translation>與裝置的連線已中斷。</translation>
+    </message>
+    <message>
+        <source>The device answered, but not as its bootloader does.</source>
+        <translation>裝置有回應，但並非啟動載入程式的回應。</translation>
+    </message>
+    <message>
+        <source>The bootloader refused a packet.</source>
+        <translation>啟動載入程式拒絕了一個封包。</translation>
+    </message>
+    <message>
+        <source>The bootloader aborted the transfer.</source>
+        <translation>啟動載入程式中止了傳輸。</translation>
+    </message>
+    <message>
+        <source>The bootloader did not answer the erase command within 1.5 s.</source>
+        <translation>啟動載入程式未在 1.5 秒內回應抹除命令。</translation>
+    </message>
+    <message>
+        <source>The bootloader did not answer the write command within 1.5 s.</source>
+        <translation>啟動載入程式未在 1.5 秒內回應寫入命令。</translation>
+    </message>
+    <message>
+        <source>The bootloader did not acknowledge a packet.</source>
+        <translation>啟動載入程式未確認某個封包。</translation>
+    </message>
+    <message>
+        <source>No bootloader answered.</source>
+        <translation>啟動載入程式沒有回應。</translation>
+    </message>
+    <message>
+        <source>The flash may be partly erased: the firmware may not start any more.</source>
+        <translation>快閃記憶體可能已部分抹除：韌體可能無法再啟動。</translation>
+    </message>
+    <message>
+        <source>The flash is erased: the device has no firmware now.</source>
+        <translation>快閃記憶體已抹除：裝置中目前沒有韌體。</translation>
+    </message>
+    <message>
+        <source>Nothing was written, but the flash may be erased: the firmware may not start any more.</source>
+        <translation>未寫入任何資料，但快閃記憶體可能已抹除：韌體可能無法再啟動。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 bytes were written: the firmware is incomplete and cannot start.</source>
+        <translation>已寫入 %1 / %2 位元組：韌體不完整，無法啟動。</translation>
+    </message>
+    <message>
+        <source>Nothing was written: the firmware of the device is as it was.</source>
+        <translation>未寫入任何資料：裝置的韌體未受變更。</translation>
+    </message>
+    <message>
+        <source>Check the cable, open the port again and press Connect.</source>
+        <translation>請檢查連接線，重新開啟序列埠，然後按一下「連線」。</translation>
+    </message>
+    <message>
+        <source>Check power, port and baud rate, then press Connect again.</source>
+        <translation>請檢查電源、序列埠與鮑率，然後再按一下「連線」。</translation>
+    </message>
+    <message>
+        <source>The bootloader stays in the device: press Connect, then Download.</source>
+        <translation>啟動載入程式仍保留在裝置中：請按一下「連線」，再按一下「燒錄」。</translation>
+    </message>
+    <message>
+        <source>Connecting to the bootloader...</source>
+        <translation>正在連線至啟動載入程式...</translation>
+    </message>
+    <message>
+        <source>Erasing the flash...</source>
+        <translation>正在抹除快閃記憶體...</translation>
+    </message>
+    <message>
+        <source>Preparing to write...</source>
+        <translation>正在準備寫入...</translation>
+    </message>
+    <message>
+        <source>Writing the image...</source>
+        <translation>正在寫入映像檔...</translation>
+    </message>
+    <message>
+        <source>Restarting the device...</source>
+        <translation>正在重新啟動裝置...</translation>
+    </message>
+    <message>
+        <source>The bootloader takes no data: it reports packets of %1 bytes.</source>
+        <translation>啟動載入程式無法接收資料：其回報的封包大小為 %1 位元組。</translation>
+    </message>
+    <message>
+        <source>It had reported status %1 before.</source>
+        <translation>先前它曾回報狀態 %1。</translation>
+    </message>
+    <message>
+        <source>%1 bytes were written in %2 s, %3 of %4 packets were sent again.</source>
+        <translation>已寫入 %1 位元組，耗時 %2 秒；重送封包 %3 / %4 個。</translation>
+    </message>
+    <message>
+        <source>The device restarts with the new firmware.</source>
+        <translation>裝置將以新韌體重新啟動。</translation>
+    </message>
+    <message>
+        <source>But the bootloader reported status %1: if the firmware does not start, press Connect and download again.</source>
+        <translation>但啟動載入程式回報了狀態 %1：如果韌體無法啟動，請按一下「連線」並重新燒錄。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 bytes</source>
+        <translation>%1 / %2 位元組</translation>
+    </message>
+    <message>
+        <source>%1 · %2 KB/s · %3 s left</source>
+        <translation>%1 · %2 KB/s · 剩餘 %3 s</translation>
+    </message>
+    <message>
+        <source>Bootloader %1, %2 KB of flash in sectors of %3 bytes, packets of up to %4 bytes, chip %5</source>
+        <translation>啟動載入程式 %1，快閃記憶體 %2 KB，磁區 %3 位元組，封包最大 %4 位元組，晶片 %5</translation>
+    </message>
+    <message>
+        <source>%1 bytes from %2, stack pointer %3, reset vector %4</source>
+        <translation>%1 位元組，起始位址 %2，堆疊指標 %3，重置向量 %4</translation>
+    </message>
+    <message>
+        <source>The file begins at %1, but it will be written to %2, where the first file of this run began. Restart the program to write it to its own address.</source>
+        <translation>此檔案的起始位址為 %1，但將寫入 %2，即本次執行中第一個檔案的起始位址。如需寫入其自身位址，請重新啟動本程式。</translation>
+    </message>
+    <message>
+        <source>The image does not fit the %1 KB of flash from this address on.</source>
+        <translation>從此位址起，映像檔超出了 %1 KB 的快閃記憶體空間。</translation>
+    </message>
+    <message>
+        <source>The stack pointer is no word address in RAM.</source>
+        <translation>堆疊指標不是 RAM 中以字組對齊的位址。</translation>
+    </message>
+    <message>
+        <source>The reset vector is no Thumb address inside the image.</source>
+        <translation>重置向量不是映像檔內的 Thumb 位址。</translation>
+    </message>
+    <message>
+        <source>The image is very small for a firmware.</source>
+        <translation>以韌體而言，此映像檔過小。</translation>
     </message>
 </context>
 <context>
