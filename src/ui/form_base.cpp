@@ -18,6 +18,7 @@
 #include "app/theme.h"
 #include "attitude/tool_adi.h"
 #include "device/command_broker.h"
+#include "fft/form_fftchart.h"
 #include "link/imu_parser.h"
 #include "link/kv_uart_port.h"
 #include "link/stream_dispatcher.h"
@@ -171,10 +172,8 @@ void form_base::setUpActions()
     dashboard->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_D));
     gateway->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_G));
     m_ui->menuView->insertActions(m_ui->actionFFT_Chart, {dashboard, gateway});
-    gateway->setEnabled(false); // until a gateway is connected
-    // The windows behind these come with later versions.
-    for (QAction *action : {m_ui->action3D_view, m_ui->actionFFT_Chart})
-        action->setEnabled(false);
+    gateway->setEnabled(false);             // until a gateway is connected
+    m_ui->action3D_view->setEnabled(false); // comes with a later version
 
     m_connectButton = new QToolButton(this);
     m_connectButton->setObjectName(QStringLiteral("button_connect"));
@@ -289,7 +288,7 @@ void form_base::retranslate()
     text(findAction("action_sensor_dashboard"), tr("Sensor Dashboard"), tr("Waveforms of the selected node"));
     text(findAction("action_wireless_gateway_dashboard"), tr("Wireless Gateway Dashboard"),
          tr("All radio nodes of a connected wireless gateway"));
-    m_ui->actionFFT_Chart->setToolTip(tr("The spectrum comes with a later version."));
+    m_ui->actionFFT_Chart->setToolTip(tr("Spectrum of the selected node, with alarms"));
     m_ui->action3D_view->setToolTip(tr("The 3D view comes with a later version."));
     m_ui->action_export_data->setToolTip(
         tr("Record the stream to CSV files (%1)")
@@ -341,6 +340,7 @@ void form_base::closeEvent(QCloseEvent *event)
                             static_cast<QDialog *>(m_updater), static_cast<QDialog *>(m_recordDialog),
                             static_cast<QDialog *>(m_aboutDialog)})
         dialog->close();
+    m_spectrum.reset();
     m_sensorDashboard.reset();
     m_wirelessDashboard.reset();
     QMainWindow::closeEvent(event);

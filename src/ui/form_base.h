@@ -29,6 +29,7 @@ class ToolADI;
 class ValueStrip;
 class form_about;
 class form_com_select;
+class form_fftchart;
 class form_record;
 class form_sensor_dashboard;
 class form_settings;
@@ -72,6 +73,7 @@ public slots:
     void on_actionDevice_Settiing_triggered();
     void on_action_export_data_triggered();
     void on_action_firmware_update_triggered();
+    void on_actionFFT_Chart_triggered();
     void on_actionAbout_triggered();
     void on_actionFontSmall_triggered();
     void on_actionFontMedium_triggered();
@@ -150,6 +152,7 @@ private:
     form_updater *m_updater = nullptr;
     form_record *m_recordDialog = nullptr;
     QToolButton *m_recordButton = nullptr;
+    std::unique_ptr<form_fftchart> m_spectrum;                    ///< created when first asked for
     std::unique_ptr<form_sensor_dashboard> m_sensorDashboard;     ///< created when first asked for
     std::unique_ptr<form_wireless_dashboard> m_wirelessDashboard; ///< created when first asked for
     QPointer<QMessageBox> m_errorBox;

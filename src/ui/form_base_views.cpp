@@ -8,6 +8,7 @@
 
 #include "attitude/tool_adi.h"
 #include "device/product_profile.h"
+#include "fft/form_fftchart.h"
 #include "link/imu_parser.h"
 #include "link/kv_uart_port.h"
 #include "link/stream_dispatcher.h"
@@ -34,6 +35,8 @@ void setTextIfChanged(QLabel *label, const QString &text)
         label->setText(text);
 }
 
+constexpr int kEstimateRate = 0; // the time stamps tell the spectrum more exactly than a count per second
+
 } // namespace
 
 void form_base::onKbootFrameRecv(const QByteArray &payload)
@@ -50,8 +53,12 @@ void form_base::onSelectedNodeChanged(const node_data_t &node)
     m_attitude = attitude_convention::normalizeAttitude(m_dispatcher->currentSelectedSnapshot(), m_preset);
     const DecodedFrame &frame = m_dispatcher->currentFrame();
     m_panel->appendSample(m_clock.elapsed(), node, sampleFields(frame));
-    update_charts(node, {m_attitude.euler.x(), m_attitude.euler.y(), m_attitude.euler.z()},
-                  frame.family == frame_family::GatewayBatch63 ? frame.gw_ts_ms : node.time_ms);
+    node_data_t sample = node;
+    if (frame.family == frame_family::GatewayBatch63)
+        sample.time_ms = frame.gw_ts_ms; // compact records share the gateway's clock
+    update_charts(sample, {m_attitude.euler.x(), m_attitude.euler.y(), m_attitude.euler.z()}, sample.time_ms);
+    if (m_spectrum)
+        m_spectrum->appendData(sample, kEstimateRate);
 }
 
 void form_base::onSnapshotChanged(const StreamSnapshot &snapshot)

@@ -11,6 +11,7 @@
 #include <algorithm>
 
 #include "app/app_language_manager.h"
+#include "fft/form_fftchart.h"
 #include "link/sample_fields.h"
 #include "link/stream_dispatcher.h"
 #include "ui/form_record.h"
@@ -22,11 +23,11 @@
 
 namespace {
 
-void bringUp(QDialog *dialog)
+void bringUp(QWidget *window)
 {
-    dialog->show();
-    dialog->raise();
-    dialog->activateWindow();
+    window->show();
+    window->raise();
+    window->activateWindow();
 }
 
 constexpr unsigned int kMsPerSecond = 1000;
@@ -41,6 +42,13 @@ void form_base::on_action_export_data_triggered()
 void form_base::on_action_firmware_update_triggered()
 {
     bringUp(m_updater);
+}
+
+void form_base::on_actionFFT_Chart_triggered()
+{
+    if (!m_spectrum)
+        m_spectrum = std::make_unique<form_fftchart>();
+    bringUp(m_spectrum.get());
 }
 
 void form_base::on_action_sensor_dashboard_triggered()
