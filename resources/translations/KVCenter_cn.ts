@@ -62,11 +62,11 @@
     <name>AttitudeFigures</name>
     <message>
         <source>Live</source>
-        <translation type="unfinished"></translation>
+        <translation>实时</translation>
     </message>
     <message>
         <source>From home</source>
-        <translation type="unfinished"></translation>
+        <translation>相对基准</translation>
     </message>
     <message>
         <source>Roll</source>
@@ -143,7 +143,7 @@
     <name>BodyModel</name>
     <message>
         <source>The model cannot be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法显示此模型。</translation>
     </message>
 </context>
 <context>
@@ -840,22 +840,22 @@ Pa</translation>
     <message>
         <source>N</source>
         <comment>north</comment>
-        <translation>N</translation>
+        <translation>北</translation>
     </message>
     <message>
         <source>E</source>
         <comment>east</comment>
-        <translation>E</translation>
+        <translation>东</translation>
     </message>
     <message>
         <source>S</source>
         <comment>south</comment>
-        <translation>S</translation>
+        <translation>南</translation>
     </message>
     <message>
         <source>W</source>
         <comment>west</comment>
-        <translation>W</translation>
+        <translation>西</translation>
     </message>
 </context>
 <context>
@@ -1057,7 +1057,7 @@ Pa</translation>
     <name>ThreeDScene</name>
     <message>
         <source>Drag to turn, right-drag to move, wheel to zoom, double-click to reset</source>
-        <translation type="unfinished"></translation>
+        <translation>拖动旋转，右键拖动平移，滚轮缩放，双击重置</translation>
     </message>
 </context>
 <context>
@@ -1518,7 +1518,7 @@ Pa</translation>
     </message>
     <message>
         <source>Spectrum of the selected node, with alarms</source>
-        <translation type="unfinished"></translation>
+        <translation>所选节点的频谱，带报警功能</translation>
     </message>
 </context>
 <context>
@@ -2069,7 +2069,7 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <name>form_threed</name>
     <message>
         <source>3D view</source>
-        <translation type="unfinished"></translation>
+        <translation>三维视图</translation>
     </message>
     <message>
         <source>Attitude</source>
@@ -2077,111 +2077,111 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>Home</source>
-        <translation>Home</translation>
+        <translation>基准姿态</translation>
     </message>
     <message>
         <source>Set &amp;home</source>
-        <translation type="unfinished"></translation>
+        <translation>设为基准(&amp;H)</translation>
     </message>
     <message>
         <source>Take the live pose as the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>将当前实时姿态设为基准</translation>
     </message>
     <message>
         <source>&amp;Clear home</source>
-        <translation type="unfinished"></translation>
+        <translation>清除基准(&amp;C)</translation>
     </message>
     <message>
         <source>Forget the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>清除已设的基准姿态</translation>
     </message>
     <message>
         <source>Mounting</source>
-        <translation type="unfinished"></translation>
+        <translation>安装方向</translation>
     </message>
     <message>
         <source>How the axes of the device lie in the body</source>
-        <translation type="unfinished"></translation>
+        <translation>设备坐标轴在载体中的方向</translation>
     </message>
     <message>
         <source>RFU / ENU 312 (Z-X-Y)</source>
-        <translation type="unfinished"></translation>
+        <translation>RFU / ENU 312 (Z-X-Y)</translation>
     </message>
     <message>
         <source>FLU / NWU / ZYX Intrinsic (Z-Y-X)</source>
-        <translation type="unfinished"></translation>
+        <translation>FLU / NWU / ZYX 内旋 (Z-Y-X)</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation>型号</translation>
+        <translation>模型</translation>
     </message>
     <message>
         <source>Jet</source>
-        <translation type="unfinished"></translation>
+        <translation>喷气机</translation>
     </message>
     <message>
         <source>Cube</source>
-        <translation type="unfinished"></translation>
+        <translation>立方体</translation>
     </message>
     <message>
         <source>Plane</source>
-        <translation type="unfinished"></translation>
+        <translation>飞机</translation>
     </message>
     <message>
         <source>Spaceship</source>
-        <translation type="unfinished"></translation>
+        <translation>飞船</translation>
     </message>
     <message>
         <source>&amp;Load…</source>
-        <translation type="unfinished"></translation>
+        <translation>加载(&amp;L)…</translation>
     </message>
     <message>
         <source>Show a model from a file: X forward, Y up, Z to the right</source>
-        <translation type="unfinished"></translation>
+        <translation>显示文件中的模型：X 向前，Y 向上，Z 向右</translation>
     </message>
     <message>
         <source>&amp;Reset view</source>
-        <translation type="unfinished"></translation>
+        <translation>重置视图(&amp;R)</translation>
     </message>
     <message>
         <source>Put the camera back (Home key in the picture, or double-click)</source>
-        <translation type="unfinished"></translation>
+        <translation>恢复初始视角（在画面中按 Home 键或双击）</translation>
     </message>
     <message>
         <source>The 3D picture needs OpenGL, which is not available here. The numbers are complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>三维画面需要 OpenGL，但当前环境不可用。数值显示不受影响。</translation>
     </message>
     <message>
         <source>The 3D picture cannot be drawn here. The numbers are complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>当前环境无法绘制三维画面。数值显示不受影响。</translation>
     </message>
     <message>
         <source>The 3D picture could not be loaded. The log of the program tells why.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法加载三维画面。原因请查看程序日志。</translation>
     </message>
     <message>
         <source>Current preset: RFU body / ENU navigation, Euler 312 intrinsic (Z-X-Y).</source>
-        <translation type="unfinished"></translation>
+        <translation>当前预设：RFU 载体系 / ENU 导航系，欧拉角 312 内旋 (Z-X-Y)。</translation>
     </message>
     <message>
         <source>Current preset: FLU body or NWU body, Euler ZYX intrinsic (Z-Y-X).</source>
-        <translation type="unfinished"></translation>
+        <translation>当前预设：FLU 载体系或 NWU 载体系，欧拉角 ZYX 内旋 (Z-Y-X)。</translation>
     </message>
     <message>
         <source>Current preset: Unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>当前预设：未知。</translation>
     </message>
     <message>
         <source>Capture the current live pose as Home to compare mounting bias and installation offsets.</source>
-        <translation type="unfinished"></translation>
+        <translation>采集当前实时姿态作为基准，以比较安装偏差和偏移。</translation>
     </message>
     <message>
         <source>Home pose captured. Delta shows the live attitude relative to the stored home reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>已采集基准姿态。“相对基准”显示实时姿态相对于该基准的偏差。</translation>
     </message>
     <message>
         <source>Waiting for live attitude data to capture home pose.</source>
-        <translation type="unfinished"></translation>
+        <translation>正在等待实时姿态数据，以采集基准姿态。</translation>
     </message>
     <message>
         <source>No attitude</source>
@@ -2189,19 +2189,19 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>From quaternion</source>
-        <translation type="unfinished"></translation>
+        <translation>来自四元数</translation>
     </message>
     <message>
         <source>From Euler angles</source>
-        <translation type="unfinished"></translation>
+        <translation>来自欧拉角</translation>
     </message>
     <message>
         <source>Open 3D asset</source>
-        <translation type="unfinished"></translation>
+        <translation>打开三维模型</translation>
     </message>
     <message>
         <source>3D Assets (*.obj *.mesh)</source>
-        <translation type="unfinished"></translation>
+        <translation>三维模型 (*.obj *.mesh)</translation>
     </message>
 </context>
 <context>

@@ -62,11 +62,11 @@
     <name>AttitudeFigures</name>
     <message>
         <source>Live</source>
-        <translation type="unfinished"></translation>
+        <translation>即時</translation>
     </message>
     <message>
         <source>From home</source>
-        <translation type="unfinished"></translation>
+        <translation>相對基準</translation>
     </message>
     <message>
         <source>Roll</source>
@@ -143,7 +143,7 @@
     <name>BodyModel</name>
     <message>
         <source>The model cannot be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>無法顯示此模型。</translation>
     </message>
 </context>
 <context>
@@ -840,22 +840,22 @@ Pa</translation>
     <message>
         <source>N</source>
         <comment>north</comment>
-        <translation>N</translation>
+        <translation>北</translation>
     </message>
     <message>
         <source>E</source>
         <comment>east</comment>
-        <translation>E</translation>
+        <translation>東</translation>
     </message>
     <message>
         <source>S</source>
         <comment>south</comment>
-        <translation>S</translation>
+        <translation>南</translation>
     </message>
     <message>
         <source>W</source>
         <comment>west</comment>
-        <translation>W</translation>
+        <translation>西</translation>
     </message>
 </context>
 <context>
@@ -1057,7 +1057,7 @@ Pa</translation>
     <name>ThreeDScene</name>
     <message>
         <source>Drag to turn, right-drag to move, wheel to zoom, double-click to reset</source>
-        <translation type="unfinished"></translation>
+        <translation>拖曳旋轉，右鍵拖曳平移，滾輪縮放，按兩下重設</translation>
     </message>
 </context>
 <context>
@@ -1518,7 +1518,7 @@ Pa</translation>
     </message>
     <message>
         <source>Spectrum of the selected node, with alarms</source>
-        <translation type="unfinished"></translation>
+        <translation>所選節點的頻譜，附警報功能</translation>
     </message>
 </context>
 <context>
@@ -2069,7 +2069,7 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <name>form_threed</name>
     <message>
         <source>3D view</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 檢視</translation>
     </message>
     <message>
         <source>Attitude</source>
@@ -2077,111 +2077,111 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>Home</source>
-        <translation>Home</translation>
+        <translation>基準姿態</translation>
     </message>
     <message>
         <source>Set &amp;home</source>
-        <translation type="unfinished"></translation>
+        <translation>設為基準(&amp;H)</translation>
     </message>
     <message>
         <source>Take the live pose as the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>將目前的即時姿態設為基準</translation>
     </message>
     <message>
         <source>&amp;Clear home</source>
-        <translation type="unfinished"></translation>
+        <translation>清除基準(&amp;C)</translation>
     </message>
     <message>
         <source>Forget the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>清除已設定的基準姿態</translation>
     </message>
     <message>
         <source>Mounting</source>
-        <translation type="unfinished"></translation>
+        <translation>安裝方向</translation>
     </message>
     <message>
         <source>How the axes of the device lie in the body</source>
-        <translation type="unfinished"></translation>
+        <translation>裝置座標軸在載體中的方向</translation>
     </message>
     <message>
         <source>RFU / ENU 312 (Z-X-Y)</source>
-        <translation type="unfinished"></translation>
+        <translation>RFU / ENU 312 (Z-X-Y)</translation>
     </message>
     <message>
         <source>FLU / NWU / ZYX Intrinsic (Z-Y-X)</source>
-        <translation type="unfinished"></translation>
+        <translation>FLU / NWU / ZYX 內旋 (Z-Y-X)</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation>型號</translation>
+        <translation>模型</translation>
     </message>
     <message>
         <source>Jet</source>
-        <translation type="unfinished"></translation>
+        <translation>噴射機</translation>
     </message>
     <message>
         <source>Cube</source>
-        <translation type="unfinished"></translation>
+        <translation>立方體</translation>
     </message>
     <message>
         <source>Plane</source>
-        <translation type="unfinished"></translation>
+        <translation>飛機</translation>
     </message>
     <message>
         <source>Spaceship</source>
-        <translation type="unfinished"></translation>
+        <translation>太空船</translation>
     </message>
     <message>
         <source>&amp;Load…</source>
-        <translation type="unfinished"></translation>
+        <translation>載入(&amp;L)…</translation>
     </message>
     <message>
         <source>Show a model from a file: X forward, Y up, Z to the right</source>
-        <translation type="unfinished"></translation>
+        <translation>顯示檔案中的模型：X 向前，Y 向上，Z 向右</translation>
     </message>
     <message>
         <source>&amp;Reset view</source>
-        <translation type="unfinished"></translation>
+        <translation>重設檢視(&amp;R)</translation>
     </message>
     <message>
         <source>Put the camera back (Home key in the picture, or double-click)</source>
-        <translation type="unfinished"></translation>
+        <translation>恢復初始視角（在畫面中按 Home 鍵或按兩下）</translation>
     </message>
     <message>
         <source>The 3D picture needs OpenGL, which is not available here. The numbers are complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 畫面需要 OpenGL，但目前的環境無法使用。數值顯示不受影響。</translation>
     </message>
     <message>
         <source>The 3D picture cannot be drawn here. The numbers are complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>目前的環境無法繪製 3D 畫面。數值顯示不受影響。</translation>
     </message>
     <message>
         <source>The 3D picture could not be loaded. The log of the program tells why.</source>
-        <translation type="unfinished"></translation>
+        <translation>無法載入 3D 畫面。原因請查看程式日誌。</translation>
     </message>
     <message>
         <source>Current preset: RFU body / ENU navigation, Euler 312 intrinsic (Z-X-Y).</source>
-        <translation type="unfinished"></translation>
+        <translation>目前預設集：RFU 載體系 / ENU 導航系，歐拉角 312 內旋 (Z-X-Y)。</translation>
     </message>
     <message>
         <source>Current preset: FLU body or NWU body, Euler ZYX intrinsic (Z-Y-X).</source>
-        <translation type="unfinished"></translation>
+        <translation>目前預設集：FLU 載體系或 NWU 載體系，歐拉角 ZYX 內旋 (Z-Y-X)。</translation>
     </message>
     <message>
         <source>Current preset: Unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>目前預設集：未知。</translation>
     </message>
     <message>
         <source>Capture the current live pose as Home to compare mounting bias and installation offsets.</source>
-        <translation type="unfinished"></translation>
+        <translation>擷取目前的即時姿態作為基準，以比較安裝偏差與偏移。</translation>
     </message>
     <message>
         <source>Home pose captured. Delta shows the live attitude relative to the stored home reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>已擷取基準姿態。「相對基準」顯示即時姿態相對於該基準的偏差。</translation>
     </message>
     <message>
         <source>Waiting for live attitude data to capture home pose.</source>
-        <translation type="unfinished"></translation>
+        <translation>正在等待即時姿態資料，以擷取基準姿態。</translation>
     </message>
     <message>
         <source>No attitude</source>
@@ -2189,19 +2189,19 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>From quaternion</source>
-        <translation type="unfinished"></translation>
+        <translation>來自四元數</translation>
     </message>
     <message>
         <source>From Euler angles</source>
-        <translation type="unfinished"></translation>
+        <translation>來自歐拉角</translation>
     </message>
     <message>
         <source>Open 3D asset</source>
-        <translation type="unfinished"></translation>
+        <translation>開啟 3D 模型</translation>
     </message>
     <message>
         <source>3D Assets (*.obj *.mesh)</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 模型 (*.obj *.mesh)</translation>
     </message>
 </context>
 <context>
