@@ -9,6 +9,144 @@
     </message>
 </context>
 <context>
+    <name>AlarmPanel</name>
+    <message>
+        <source>Alarm</source>
+        <translation>警報</translation>
+    </message>
+    <message>
+        <source>Judge the spectra by this preset</source>
+        <translation>このプリセットでスペクトルを判定</translation>
+    </message>
+    <message>
+        <source>Custom…</source>
+        <translation>カスタム…</translation>
+    </message>
+    <message>
+        <source>Set thresholds and frequencies yourself</source>
+        <translation>しきい値と周波数を任意に設定</translation>
+    </message>
+</context>
+<context>
+    <name>AlarmRuleEditor</name>
+    <message>
+        <source>From</source>
+        <translation>下限周波数</translation>
+    </message>
+    <message>
+        <source>To (0: no limit)</source>
+        <translation>上限周波数 (0: なし)</translation>
+    </message>
+    <message>
+        <source>Watch from</source>
+        <translation>注意しきい値</translation>
+    </message>
+    <message>
+        <source>Alarm from</source>
+        <translation>警報しきい値</translation>
+    </message>
+    <message>
+        <source>Spectra to raise</source>
+        <translation>発生フレーム数</translation>
+    </message>
+    <message>
+        <source>Spectra to clear</source>
+        <translation>解除フレーム数</translation>
+    </message>
+    <message>
+        <source>Use this rule</source>
+        <translation>このルールを適用</translation>
+    </message>
+</context>
+<context>
+    <name>AttitudeFigures</name>
+    <message>
+        <source>Live</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From home</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>ロール</translation>
+    </message>
+    <message>
+        <source>Pitch</source>
+        <translation>ピッチ</translation>
+    </message>
+    <message>
+        <source>Yaw</source>
+        <translation>ヨー</translation>
+    </message>
+    <message>
+        <source>Quaternion</source>
+        <translation>クォータニオン</translation>
+    </message>
+</context>
+<context>
+    <name>BandEditor</name>
+    <message>
+        <source>Name of the band</source>
+        <translation>帯域の名前</translation>
+    </message>
+    <message>
+        <source>Lower edge</source>
+        <translation>下限周波数</translation>
+    </message>
+    <message>
+        <source>Upper edge</source>
+        <translation>上限周波数</translation>
+    </message>
+    <message>
+        <source>Measure this band</source>
+        <translation>この帯域を測定</translation>
+    </message>
+</context>
+<context>
+    <name>BandPanel</name>
+    <message>
+        <source>Peak and bands</source>
+        <translation>ピークと帯域</translation>
+    </message>
+    <message>
+        <source>Back to the automatic bands</source>
+        <translation>自動の帯域に戻す</translation>
+    </message>
+    <message>
+        <source>Add band…</source>
+        <translation>帯域を追加…</translation>
+    </message>
+    <message>
+        <source>Measure the power of a band of your own</source>
+        <translation>任意の帯域のパワーを測定</translation>
+    </message>
+    <message>
+        <source>Peak: %1 Hz on %2, %3 %4</source>
+        <translation>ピーク: %1 Hz (%2)、%3 %4</translation>
+    </message>
+    <message>
+        <source>%1, %2–%3 Hz</source>
+        <translation>%1、%2～%3 Hz</translation>
+    </message>
+    <message>
+        <source>Coherence of the axes</source>
+        <translation>軸間コヒーレンス</translation>
+    </message>
+    <message>
+        <source>How alike the spectra of two axes are in shape, from 0 to 1</source>
+        <translation>2 軸のスペクトル形状の類似度 (0～1)</translation>
+    </message>
+</context>
+<context>
+    <name>BodyModel</name>
+    <message>
+        <source>The model cannot be shown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ChartFilterRow</name>
     <message>
         <source>Low-pass filter</source>
@@ -67,18 +205,6 @@
 <context>
     <name>CommandSession</name>
     <message>
-        <source>The device does not answer. Check the baud rate, then identify it again.</source>
-        <translation>デバイスが応答しません。ボーレートを確認して、もう一度識別してください。</translation>
-    </message>
-    <message>
-        <source>The device refused %1.</source>
-        <translation>デバイスが %1 を受け付けませんでした。</translation>
-    </message>
-    <message>
-        <source>The settings were sent and the device has restarted.</source>
-        <translation>設定を送信し、デバイスが再起動しました。</translation>
-    </message>
-    <message>
         <source>(no reply)</source>
         <translation>（応答なし）</translation>
     </message>
@@ -88,6 +214,29 @@
     <message>
         <source>This window could not be loaded. The log of the program tells why.</source>
         <translation>このウィンドウを読み込めませんでした。原因はプログラムのログを確認してください。</translation>
+    </message>
+</context>
+<context>
+    <name>FFTChartView</name>
+    <message>
+        <source>Waiting for samples</source>
+        <translation>サンプルを待っています</translation>
+    </message>
+    <message>
+        <source>No spectrum yet</source>
+        <translation>スペクトルはまだありません</translation>
+    </message>
+    <message>
+        <source>The selected node sends none at the moment.</source>
+        <translation>選択したノードは現在サンプルを送信していません。</translation>
+    </message>
+    <message>
+        <source>Press Start above.</source>
+        <translation>上の「開始」を押してください。</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>品質</translation>
     </message>
 </context>
 <context>
@@ -360,11 +509,66 @@
     </message>
 </context>
 <context>
-    <name>FftSnapshot</name>
+    <name>FftFiles</name>
     <message>
-        <source>The file could not be written: %1</source>
-        <translation>ファイルに書き込めませんでした: %1</translation>
+        <source>Save a snapshot</source>
+        <translation>スナップショットを保存</translation>
     </message>
+    <message>
+        <source>Spectrum snapshot (*.json)</source>
+        <translation>スペクトルのスナップショット (*.json)</translation>
+    </message>
+    <message>
+        <source>Save the spectra</source>
+        <translation>スペクトルを保存</translation>
+    </message>
+    <message>
+        <source>Comma-separated values (*.csv)</source>
+        <translation>CSV ファイル (*.csv)</translation>
+    </message>
+    <message>
+        <source>Open a snapshot</source>
+        <translation>スナップショットを開く</translation>
+    </message>
+    <message>
+        <source>%1 points, %2 Hz, window %3</source>
+        <translation>%1 点、%2 Hz、窓関数 %3</translation>
+    </message>
+    <message>
+        <source>Bands: %1</source>
+        <translation>帯域: %1</translation>
+    </message>
+    <message>
+        <source>Coherence: %1</source>
+        <translation>コヒーレンス: %1</translation>
+    </message>
+    <message>
+        <source>Alarm (%1): %2</source>
+        <translation>警報 (%1): %2</translation>
+    </message>
+    <message>
+        <source>Settings: %1</source>
+        <translation>設定: %1</translation>
+    </message>
+    <message>
+        <source>the same as now</source>
+        <translation>現在と同じ</translation>
+    </message>
+    <message>
+        <source>other than now (%1)</source>
+        <translation>現在と異なる (%1)</translation>
+    </message>
+    <message>
+        <source>Format: %1</source>
+        <translation>形式: %1</translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation>スナップショット</translation>
+    </message>
+</context>
+<context>
+    <name>FftSnapshot</name>
     <message>
         <source>The file could not be read: %1</source>
         <translation>ファイルを読み込めませんでした: %1</translation>
@@ -395,6 +599,65 @@
     <message>
         <source>Flat Top</source>
         <translation>フラットトップ窓</translation>
+    </message>
+</context>
+<context>
+    <name>GatewayDashboard</name>
+    <message>
+        <source>Pause</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>再開</translation>
+    </message>
+    <message>
+        <source>Hold the pictures; the table goes on</source>
+        <translation>グラフを一時停止（表の更新は続きます）</translation>
+    </message>
+    <message>
+        <source>Go on with the newest samples</source>
+        <translation>最新のサンプルから表示を再開</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>スペースキー</translation>
+    </message>
+    <message>
+        <source>Hide these charts</source>
+        <translation>この種類のグラフを非表示</translation>
+    </message>
+    <message>
+        <source>Show these charts of the chosen nodes</source>
+        <translation>選択したノードについて、この種類のグラフを表示</translation>
+    </message>
+    <message>
+        <source>%1 · %2 Hz</source>
+        <translation>%1 · %2 Hz</translation>
+    </message>
+    <message>
+        <source>No chart is chosen</source>
+        <translation>グラフが選択されていません</translation>
+    </message>
+    <message>
+        <source>No node is chosen</source>
+        <translation>ノードが選択されていません</translation>
+    </message>
+    <message>
+        <source>Choose above what to show.</source>
+        <translation>表示するものを上で選択してください。</translation>
+    </message>
+    <message>
+        <source>Click a node in the table to see its waveforms. Up to %1 nodes are shown together.</source>
+        <translation>表のノードをクリックすると、その波形が表示されます。同時に表示できるのは最大 %1 ノードです。</translation>
+    </message>
+    <message>
+        <source>Waiting for samples</source>
+        <translation>サンプルを待っています</translation>
+    </message>
+    <message>
+        <source>Connect a wireless gateway; its nodes appear here.</source>
+        <translation>無線ゲートウェイを接続すると、そのノードがここに表示されます。</translation>
     </message>
 </context>
 <context>
@@ -440,10 +703,159 @@
     </message>
 </context>
 <context>
+    <name>GatewayNodeTable</name>
+    <message>
+        <source>Node</source>
+        <translation>ノード</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>Rate
+Hz</source>
+        <translation>レート
+Hz</translation>
+    </message>
+    <message>
+        <source>Newest
+ago</source>
+        <translation>最終受信
+から</translation>
+    </message>
+    <message>
+        <source>Missing
+samples</source>
+        <translation>欠落
+サンプル</translation>
+    </message>
+    <message>
+        <source>Temp.
+°C</source>
+        <translation>温度
+°C</translation>
+    </message>
+    <message>
+        <source>Pressure
+Pa</source>
+        <translation>気圧
+Pa</translation>
+    </message>
+    <message>
+        <source>Node %1, %2</source>
+        <translation>ノード %1、%2</translation>
+    </message>
+    <message>
+        <source>%1 nodes are shown already: drop one first.</source>
+        <translation>すでに %1 ノードを表示しています。先にいずれかの選択を解除してください。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 nodes chosen for charts</source>
+        <translation>グラフに表示するノード: %1 / %2</translation>
+    </message>
+</context>
+<context>
+    <name>MeshFile</name>
+    <message>
+        <source>The mesh file cannot be read: %1</source>
+        <translation>メッシュファイルを読み込めません: %1</translation>
+    </message>
+    <message>
+        <source>The mesh file is larger than %1 MiB.</source>
+        <translation>メッシュファイルが %1 MiB を超えています。</translation>
+    </message>
+    <message>
+        <source>The mesh file is damaged, or of a kind that this program cannot show.</source>
+        <translation>メッシュファイルが破損しているか、このプログラムで表示できない形式です。</translation>
+    </message>
+</context>
+<context>
     <name>MessageRow</name>
     <message>
         <source>Dismiss</source>
         <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>ObjReader</name>
+    <message>
+        <source>The OBJ file cannot be read: %1</source>
+        <translation>OBJ ファイルを読み込めません: %1</translation>
+    </message>
+    <message>
+        <source>The OBJ file is larger than %1 MiB.</source>
+        <translation>OBJ ファイルが %1 MiB を超えています。</translation>
+    </message>
+    <message>
+        <source>The file is not an OBJ model: it holds no text.</source>
+        <translation>このファイルはテキスト形式ではないため、OBJ モデルではありません。</translation>
+    </message>
+    <message>
+        <source>Line %1 of the OBJ file holds a coordinate that is not a number.</source>
+        <translation>OBJ ファイルの %1 行目に、数値ではない座標があります。</translation>
+    </message>
+    <message>
+        <source>The file is not an OBJ model.</source>
+        <translation>このファイルは OBJ モデルではありません。</translation>
+    </message>
+    <message>
+        <source>The OBJ model has more than %1 triangles.</source>
+        <translation>OBJ モデルの三角形が %1 個を超えています。</translation>
+    </message>
+    <message>
+        <source>The OBJ file is damaged: a face names a vertex that does not exist.</source>
+        <translation>OBJ ファイルが破損しています。存在しない頂点を参照する面があります。</translation>
+    </message>
+    <message>
+        <source>The OBJ model has coordinates that are not finite or too large.</source>
+        <translation>OBJ モデルに、有限でない座標または大きすぎる座標があります。</translation>
+    </message>
+    <message>
+        <source>The OBJ file holds no faces to show.</source>
+        <translation>OBJ ファイルに表示できる面がありません。</translation>
+    </message>
+</context>
+<context>
+    <name>Qt6ModelAsset</name>
+    <message>
+        <source>No 3D asset was selected.</source>
+        <translation>3D モデルが選択されていません。</translation>
+    </message>
+    <message>
+        <source>The selected mesh file could not be found.</source>
+        <translation>選択したメッシュファイルが見つかりません。</translation>
+    </message>
+    <message>
+        <source>The selected OBJ file could not be found.</source>
+        <translation>選択した OBJ ファイルが見つかりません。</translation>
+    </message>
+    <message>
+        <source>Unsupported 3D asset. Choose a bundled .obj model, an external .obj file, or a preconverted .mesh file.</source>
+        <translation>対応していない 3D モデルです。付属の .obj モデル、外部の .obj ファイル、または変換済みの .mesh ファイルを選択してください。</translation>
+    </message>
+</context>
+<context>
+    <name>SceneMarks</name>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>北</translation>
+    </message>
+    <message>
+        <source>E</source>
+        <comment>east</comment>
+        <translation>東</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <comment>south</comment>
+        <translation>南</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <comment>west</comment>
+        <translation>西</translation>
     </message>
 </context>
 <context>
@@ -475,14 +887,6 @@
     <message>
         <source>Show this chart</source>
         <translation>このグラフを表示</translation>
-    </message>
-    <message>
-        <source>%1 Hz</source>
-        <translation>%1 Hz</translation>
-    </message>
-    <message>
-        <source>Paused · %1 Hz</source>
-        <translation>一時停止中 · %1 Hz</translation>
     </message>
     <message>
         <source>No chart is chosen</source>
@@ -557,6 +961,103 @@
     <message>
         <source>Pressure</source>
         <translation>気圧</translation>
+    </message>
+</context>
+<context>
+    <name>SpectrumChart</name>
+    <message>
+        <source>%1 points · %2 Hz · %3 · %4 Hz per bin</source>
+        <translation>%1 点 · %2 Hz · %3 · 分解能 %4 Hz</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>Show amplitudes as they are</source>
+        <translation>振幅をリニア表示</translation>
+    </message>
+    <message>
+        <source>Show amplitudes in decibels</source>
+        <translation>振幅をデシベル表示</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>フィット</translation>
+    </message>
+    <message>
+        <source>Show amplitudes up to the set maximum</source>
+        <translation>設定した上限まで振幅を表示</translation>
+    </message>
+    <message>
+        <source>Fit the amplitude axis to the curves beyond 0 Hz</source>
+        <translation>0 Hz を除く曲線に振幅軸を合わせる</translation>
+    </message>
+    <message>
+        <source>Remove the cursors A and B</source>
+        <translation>カーソル A/B を消去</translation>
+    </message>
+    <message>
+        <source>Measure between the cursors A and B</source>
+        <translation>カーソル A/B 間を測定</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>A, B</source>
+        <translation>A, B</translation>
+    </message>
+    <message>
+        <source>Reset the view</source>
+        <translation>表示範囲をリセット</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>Save a picture of the chart</source>
+        <translation>グラフの画像を保存</translation>
+    </message>
+    <message>
+        <source>Save the spectra as a table</source>
+        <translation>スペクトルを表として保存</translation>
+    </message>
+    <message>
+        <source>Save a snapshot of spectra and analysis</source>
+        <translation>スペクトルと解析のスナップショットを保存</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>開く…</translation>
+    </message>
+    <message>
+        <source>Tell what a saved snapshot holds</source>
+        <translation>保存したスナップショットの内容を表示</translation>
+    </message>
+    <message>
+        <source>Level (dB, 0 dB = 1 %1)</source>
+        <translation>レベル (dB、0 dB = 1 %1)</translation>
+    </message>
+</context>
+<context>
+    <name>SpectrumViewState</name>
+    <message>
+        <source>Resultant</source>
+        <translation>合成</translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation>%1 Hz</translation>
+    </message>
+</context>
+<context>
+    <name>ThreeDScene</name>
+    <message>
+        <source>Drag to turn, right-drag to move, wheel to zoom, double-click to reset</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -689,6 +1190,17 @@
     <message>
         <source>%1 could not be written: %2</source>
         <translation>%1 に書き込めませんでした: %2</translation>
+    </message>
+</context>
+<context>
+    <name>chart_text</name>
+    <message>
+        <source>%1 Hz · last %2 s of %3 s</source>
+        <translation>%1 Hz · 直近 %2 s / %3 s</translation>
+    </message>
+    <message>
+        <source>%1 Hz · %2 s to %3 s of %4 s</source>
+        <translation>%1 Hz · %2～%3 s / %4 s</translation>
     </message>
 </context>
 <context>
@@ -925,16 +1437,8 @@
         <translation>ゲートウェイ</translation>
     </message>
     <message>
-        <source>The spectrum comes with a later version.</source>
-        <translation>スペクトル表示は今後のバージョンで追加されます。</translation>
-    </message>
-    <message>
         <source>The 3D view comes with a later version.</source>
         <translation>3D ビューは今後のバージョンで追加されます。</translation>
-    </message>
-    <message>
-        <source>The firmware update comes with a later version.</source>
-        <translation>ファームウェア更新は今後のバージョンで追加されます。</translation>
     </message>
     <message>
         <source>Choose a serial port and connect (%1)</source>
@@ -1003,6 +1507,18 @@
     <message>
         <source>The translation for %1 cannot be loaded. The language stays as it is.</source>
         <translation>%1 の翻訳を読み込めません。表示言語は変更されません。</translation>
+    </message>
+    <message>
+        <source>Load new firmware into the device</source>
+        <translation>デバイスに新しいファームウェアを書き込みます</translation>
+    </message>
+    <message>
+        <source>Ctrl+F</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spectrum of the selected node, with alarms</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1082,6 +1598,105 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>%1 is not a serial port.</source>
         <translation>%1 はシリアルポートではありません。</translation>
+    </message>
+</context>
+<context>
+    <name>form_fftchart</name>
+    <message>
+        <source>Acceleration</source>
+        <translation>加速度</translation>
+    </message>
+    <message>
+        <source>Value (mG)</source>
+        <translation>振幅 (mG)</translation>
+    </message>
+    <message>
+        <source>Angular Velocity</source>
+        <translation>角速度</translation>
+    </message>
+    <message>
+        <source>Value (deg/s)</source>
+        <translation>振幅 (deg/s)</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>リアルタイム</translation>
+    </message>
+    <message>
+        <source>Max Hold</source>
+        <translation>最大ホールド</translation>
+    </message>
+    <message>
+        <source>Avg Hold</source>
+        <translation>平均ホールド</translation>
+    </message>
+    <message>
+        <source>FFT Analysis</source>
+        <translation>FFT 解析</translation>
+    </message>
+    <message>
+        <source>Sample points:</source>
+        <translation>サンプル点数:</translation>
+    </message>
+    <message>
+        <source>Window:</source>
+        <translation>窓関数:</translation>
+    </message>
+    <message>
+        <source>Hold:</source>
+        <translation>ホールド:</translation>
+    </message>
+    <message>
+        <source>Amplitude Max:</source>
+        <translation>振幅上限:</translation>
+    </message>
+    <message>
+        <source>Switch between acceleration and angular velocity spectra.</source>
+        <translation>加速度と角速度のスペクトルを切り替えます。</translation>
+    </message>
+    <message>
+        <source>Choose how many time-domain samples are included in each FFT calculation.</source>
+        <translation>1 回の FFT 計算に使用する時間領域のサンプル数を選択します。</translation>
+    </message>
+    <message>
+        <source>Select the window function applied before the FFT.</source>
+        <translation>FFT の前に適用する窓関数を選択します。</translation>
+    </message>
+    <message>
+        <source>Choose whether the spectrum is live, max-hold, or averaged across frames.</source>
+        <translation>スペクトルの表示方法（リアルタイム、最大ホールド、フレーム平均）を選択します。</translation>
+    </message>
+    <message>
+        <source>Set the visible FFT amplitude ceiling. Acceleration can be adjusted up to 32000 mG and angular velocity up to 4000 deg/s.</source>
+        <translation>表示する FFT 振幅の上限を設定します。加速度は 32000 mG、角速度は 4000 deg/s まで設定できます。</translation>
+    </message>
+    <message>
+        <source>Shows the current sample rate and the RMSE of the resultant time-domain signal.</source>
+        <translation>現在のサンプリング周波数と、合成した時間領域信号の RMSE を表示します。</translation>
+    </message>
+    <message>
+        <source>Start or pause FFT updates.</source>
+        <translation>FFT の更新を開始または一時停止します。</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Sample Frequency:%1Hz, RMSE of Norm:%2</source>
+        <translation>サンプリング周波数: %1 Hz、合成 RMSE: %2</translation>
+    </message>
+    <message>
+        <source>FFT %1</source>
+        <translation>%1の FFT</translation>
+    </message>
+    <message>
+        <source>Hover to inspect frequency and amplitude. Mouse wheel zooms Y, Ctrl + wheel zooms X, left drag pans, and right or middle double-click resets the view.</source>
+        <translation>マウスポインターを合わせると周波数と振幅を確認できます。ホイールで Y 軸、Ctrl + ホイールで X 軸を拡大・縮小し、左ドラッグで移動、右または中ボタンのダブルクリックで表示範囲をリセットします。</translation>
     </message>
 </context>
 <context>
@@ -1436,6 +2051,596 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>Saving restarts the device; this takes 2 seconds.</source>
         <translation>保存するとデバイスが再起動します（所要時間 2 秒）。</translation>
+    </message>
+    <message>
+        <source>The device does not answer. Check the baud rate, then identify it again.</source>
+        <translation>デバイスが応答しません。ボーレートを確認して、もう一度識別してください。</translation>
+    </message>
+    <message>
+        <source>The device refused %1.</source>
+        <translation>デバイスが %1 を受け付けませんでした。</translation>
+    </message>
+    <message>
+        <source>The settings were sent and the device has restarted.</source>
+        <translation>設定を送信し、デバイスが再起動しました。</translation>
+    </message>
+</context>
+<context>
+    <name>form_threed</name>
+    <message>
+        <source>3D view</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attitude</source>
+        <translation>姿勢</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>Set &amp;home</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take the live pose as the reference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Clear home</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forget the reference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mounting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How the axes of the device lie in the body</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RFU / ENU 312 (Z-X-Y)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FLU / NWU / ZYX Intrinsic (Z-Y-X)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>モデル</translation>
+    </message>
+    <message>
+        <source>Jet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cube</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plane</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spaceship</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Load…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show a model from a file: X forward, Y up, Z to the right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Reset view</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put the camera back (Home key in the picture, or double-click)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The 3D picture needs OpenGL, which is not available here. The numbers are complete.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The 3D picture cannot be drawn here. The numbers are complete.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The 3D picture could not be loaded. The log of the program tells why.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current preset: RFU body / ENU navigation, Euler 312 intrinsic (Z-X-Y).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current preset: FLU body or NWU body, Euler ZYX intrinsic (Z-Y-X).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current preset: Unknown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Capture the current live pose as Home to compare mounting bias and installation offsets.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Home pose captured. Delta shows the live attitude relative to the stored home reference.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting for live attitude data to capture home pose.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No attitude</source>
+        <translation>姿勢データなし</translation>
+    </message>
+    <message>
+        <source>From quaternion</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From Euler angles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open 3D asset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>3D Assets (*.obj *.mesh)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>form_updater</name>
+    <message>
+        <source>Firmware Update</source>
+        <translation>ファームウェア更新</translation>
+    </message>
+    <message>
+        <source>Image file</source>
+        <translation>イメージファイル</translation>
+    </message>
+    <message>
+        <source>Open File</source>
+        <translation>ファイルを開く</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>接続</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>書き込み</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>ログ</translation>
+    </message>
+    <message>
+        <source>&amp;Copy log</source>
+        <translation>ログをコピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copies what is shown above together with the log, for a report</source>
+        <translation>上に表示されている内容をログとともにコピーします（報告用）</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>閉じる(&amp;C)</translation>
+    </message>
+    <message>
+        <source>The port was closed: connect again before the download.</source>
+        <translation>ポートが閉じられました。書き込む前に、もう一度接続してください。</translation>
+    </message>
+    <message>
+        <source>Please select image
+</source>
+        <translation>イメージを選択してください
+</translation>
+    </message>
+    <message>
+        <source>PATH: %1
+</source>
+        <translation>パス: %1
+</translation>
+    </message>
+    <message>
+        <source>The download has to end first: without it the device has no complete firmware.</source>
+        <translation>書き込みが終わるまで閉じることはできません。中断すると、デバイスのファームウェアが不完全になります。</translation>
+    </message>
+    <message>
+        <source>Text Files(*.hex)</source>
+        <translation>HEX ファイル (*.hex)</translation>
+    </message>
+    <message>
+        <source>FILE:%1
+</source>
+        <translation>ファイル: %1
+</translation>
+    </message>
+    <message>
+        <source>No file selected
+</source>
+        <translation>ファイルが選択されていません
+</translation>
+    </message>
+    <message>
+        <source>Failed to open file
+</source>
+        <translation>ファイルを開けませんでした
+</translation>
+    </message>
+    <message>
+        <source>Failed to parse HEX file
+</source>
+        <translation>HEX ファイルを解析できませんでした
+</translation>
+    </message>
+    <message>
+        <source>SIZE:%1 bytes
+</source>
+        <translation>サイズ: %1 バイト
+</translation>
+    </message>
+    <message>
+        <source>SP:0x%1
+</source>
+        <translation>SP:0x%1
+</translation>
+    </message>
+    <message>
+        <source>PC:0x%1
+</source>
+        <translation>PC:0x%1
+</translation>
+    </message>
+    <message>
+        <source>ADDR:0x%1
+</source>
+        <translation>アドレス: 0x%1
+</translation>
+    </message>
+    <message>
+        <source>
+--- Connecting to bootloader ---
+</source>
+        <translation>
+--- ブートローダーに接続しています ---
+</translation>
+    </message>
+    <message>
+        <source>CONNECT ERR<byte value="xd"/>
+</source>
+        <translation>接続エラー<byte value="xd"/>
+</translation>
+    </message>
+    <message>
+        <source>Please check:
+</source>
+        <translation>次の点を確認してください:
+</translation>
+    </message>
+    <message>
+        <source>  - Device is powered on
+</source>
+        <translation>  - デバイスの電源が入っていること
+</translation>
+    </message>
+    <message>
+        <source>  - Serial port is correct
+</source>
+        <translation>  - シリアルポートが正しいこと
+</translation>
+    </message>
+    <message>
+        <source>  - Bootloader is installed
+</source>
+        <translation>  - ブートローダーが組み込まれていること
+</translation>
+    </message>
+    <message>
+        <source>Connect OK
+</source>
+        <translation>接続しました
+</translation>
+    </message>
+    <message>
+        <source>PKT SIZE:%1
+</source>
+        <translation>パケットサイズ: %1
+</translation>
+    </message>
+    <message>
+        <source>FLASH SIZE:%1KB
+</source>
+        <translation>フラッシュサイズ: %1 KB
+</translation>
+    </message>
+    <message>
+        <source>SDID:</source>
+        <translation>SDID:</translation>
+    </message>
+    <message>
+        <source>KBOOT:%1.%2.%3
+</source>
+        <translation>KBOOT:%1.%2.%3
+</translation>
+    </message>
+    <message>
+        <source>SECTOR:%1
+</source>
+        <translation>セクター: %1
+</translation>
+    </message>
+    <message>
+        <source>
+Ready to download firmware.
+</source>
+        <translation>
+ファームウェアの書き込み準備が完了しました。
+</translation>
+    </message>
+    <message>
+        <source>
+--- Loading HEX file ---
+</source>
+        <translation>
+--- HEX ファイルを読み込んでいます ---
+</translation>
+    </message>
+    <message>
+        <source>NO IMAGE<byte value="xd"/>
+</source>
+        <translation>イメージなし<byte value="xd"/>
+</translation>
+    </message>
+    <message>
+        <source>The image could not be loaded; the device is as it was. Choose another file.</source>
+        <translation>イメージを読み込めませんでした。デバイスは元のままです。別のファイルを選択してください。</translation>
+    </message>
+    <message>
+        <source>
+--- Starting download ---
+</source>
+        <translation>
+--- 書き込みを開始します ---
+</translation>
+    </message>
+    <message>
+        <source>Download failed
+</source>
+        <translation>書き込みに失敗しました
+</translation>
+    </message>
+    <message>
+        <source>Not connected to bootloader<byte value="xd"/>
+</source>
+        <translation>ブートローダーに接続されていません<byte value="xd"/>
+</translation>
+    </message>
+    <message>
+        <source>Press Connect first: the device has to run its bootloader.</source>
+        <translation>先に「接続」を押して、デバイスのブートローダーを起動してください。</translation>
+    </message>
+    <message>
+        <source>Update complete, image running...
+</source>
+        <translation>更新が完了し、イメージを実行しています...
+</translation>
+    </message>
+    <message>
+        <source>A download is running.</source>
+        <translation>書き込み中です。</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>接続済み</translation>
+    </message>
+    <message>
+        <source>Chooses the image, an Intel HEX file</source>
+        <translation>イメージ（Intel HEX ファイル）を選択します</translation>
+    </message>
+    <message>
+        <source>Restarts the device into its bootloader</source>
+        <translation>デバイスを再起動してブートローダーに入ります</translation>
+    </message>
+    <message>
+        <source>Erases the device&apos;s firmware and writes the image</source>
+        <translation>デバイスのファームウェアを消去し、イメージを書き込みます</translation>
+    </message>
+    <message>
+        <source>Press Connect first.</source>
+        <translation>先に「接続」を押してください。</translation>
+    </message>
+    <message>
+        <source>Not connected. Connect restarts the device; this takes up to 4 s.</source>
+        <translation>未接続です。「接続」を押すとデバイスが再起動します（最大 4 秒）。</translation>
+    </message>
+    <message>
+        <source>Ready to download</source>
+        <translation>書き込み準備完了</translation>
+    </message>
+    <message>
+        <source>Waiting for the bootloader</source>
+        <translation>ブートローダー接続待ち</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>完了</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>The file has changed since it was loaded. Choose it again to load it anew.</source>
+        <translation>読み込み後にファイルが変更されました。読み込み直すには、もう一度選択してください。</translation>
+    </message>
+    <message>
+        <source>There is no file at this place: choose an image.</source>
+        <translation>この場所にファイルがありません。イメージを選択してください。</translation>
+    </message>
+    <message>
+        <source>This is no Intel HEX file that can be loaded; the log file debug.log says why. Choose another one.</source>
+        <translation>Intel HEX ファイルとして読み込めません（理由はログファイル debug.log を参照）。別のファイルを選択してください。</translation>
+    </message>
+    <message>
+        <source>The serial port is closed or takes no data.</source>
+        <translation>シリアルポートが閉じているか、データを送信できません。</translation>
+    </message>
+    <message>
+        <source>The connection to the device was lost.</source>
+        <translation>デバイスとの接続が切れました。</translation>
+    </message>
+    <message>
+        <source>The device answered, but not as its bootloader does.</source>
+        <translation>デバイスは応答しましたが、ブートローダーの応答ではありません。</translation>
+    </message>
+    <message>
+        <source>The bootloader refused a packet.</source>
+        <translation>ブートローダーがパケットを拒否しました。</translation>
+    </message>
+    <message>
+        <source>The bootloader aborted the transfer.</source>
+        <translation>ブートローダーが転送を中止しました。</translation>
+    </message>
+    <message>
+        <source>The bootloader did not answer the erase command within 1.5 s.</source>
+        <translation>ブートローダーが消去コマンドに 1.5 秒以内に応答しませんでした。</translation>
+    </message>
+    <message>
+        <source>The bootloader did not answer the write command within 1.5 s.</source>
+        <translation>ブートローダーが書き込みコマンドに 1.5 秒以内に応答しませんでした。</translation>
+    </message>
+    <message>
+        <source>The bootloader did not acknowledge a packet.</source>
+        <translation>ブートローダーからパケットの受信確認がありませんでした。</translation>
+    </message>
+    <message>
+        <source>No bootloader answered.</source>
+        <translation>ブートローダーが応答しませんでした。</translation>
+    </message>
+    <message>
+        <source>The flash may be partly erased: the firmware may not start any more.</source>
+        <translation>フラッシュの一部が消去され、ファームウェアが起動しなくなった可能性があります。</translation>
+    </message>
+    <message>
+        <source>The flash is erased: the device has no firmware now.</source>
+        <translation>フラッシュは消去済みで、現在デバイスにファームウェアがありません。</translation>
+    </message>
+    <message>
+        <source>Nothing was written, but the flash may be erased: the firmware may not start any more.</source>
+        <translation>何も書き込まれていませんが、フラッシュが消去され、ファームウェアが起動しなくなった可能性があります。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 bytes were written: the firmware is incomplete and cannot start.</source>
+        <translation>%2 バイト中 %1 バイトを書き込みました。ファームウェアは不完全で、起動できません。</translation>
+    </message>
+    <message>
+        <source>Nothing was written: the firmware of the device is as it was.</source>
+        <translation>何も書き込まれていません。デバイスのファームウェアは元のままです。</translation>
+    </message>
+    <message>
+        <source>Check the cable, open the port again and press Connect.</source>
+        <translation>ケーブルを確認し、ポートを開き直してから「接続」を押してください。</translation>
+    </message>
+    <message>
+        <source>Check power, port and baud rate, then press Connect again.</source>
+        <translation>電源、ポート、ボーレートを確認して、もう一度「接続」を押してください。</translation>
+    </message>
+    <message>
+        <source>The bootloader stays in the device: press Connect, then Download.</source>
+        <translation>ブートローダーはデバイスに残っています。「接続」、「書き込み」の順に押してください。</translation>
+    </message>
+    <message>
+        <source>Connecting to the bootloader...</source>
+        <translation>ブートローダーに接続中...</translation>
+    </message>
+    <message>
+        <source>Erasing the flash...</source>
+        <translation>フラッシュを消去中...</translation>
+    </message>
+    <message>
+        <source>Preparing to write...</source>
+        <translation>書き込みを準備中...</translation>
+    </message>
+    <message>
+        <source>Writing the image...</source>
+        <translation>イメージを書き込み中...</translation>
+    </message>
+    <message>
+        <source>Restarting the device...</source>
+        <translation>デバイスを再起動中...</translation>
+    </message>
+    <message>
+        <source>The bootloader takes no data: it reports packets of %1 bytes.</source>
+        <translation>ブートローダーがデータを受け付けません（通知されたパケットサイズ: %1 バイト）。</translation>
+    </message>
+    <message>
+        <source>It had reported status %1 before.</source>
+        <translation>それ以前にステータス %1 を通知していました。</translation>
+    </message>
+    <message>
+        <source>%1 bytes were written in %2 s, %3 of %4 packets were sent again.</source>
+        <translation>%1 バイトを %2 秒で書き込みました（%4 パケット中 %3 パケットを再送）。</translation>
+    </message>
+    <message>
+        <source>The device restarts with the new firmware.</source>
+        <translation>デバイスは新しいファームウェアで再起動します。</translation>
+    </message>
+    <message>
+        <source>But the bootloader reported status %1: if the firmware does not start, press Connect and download again.</source>
+        <translation>ただし、ブートローダーがステータス %1 を通知しました。ファームウェアが起動しない場合は、「接続」を押してもう一度書き込んでください。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 bytes</source>
+        <translation>%1 / %2 バイト</translation>
+    </message>
+    <message>
+        <source>%1 · %2 KB/s · %3 s left</source>
+        <translation>%1 · %2 KB/s · 残り %3 秒</translation>
+    </message>
+    <message>
+        <source>Bootloader %1, %2 KB of flash in sectors of %3 bytes, packets of up to %4 bytes, chip %5</source>
+        <translation>ブートローダー %1、フラッシュ %2 KB（セクター %3 バイト）、パケット最大 %4 バイト、チップ %5</translation>
+    </message>
+    <message>
+        <source>%1 bytes from %2, stack pointer %3, reset vector %4</source>
+        <translation>%2 から %1 バイト、スタックポインター %3、リセットベクター %4</translation>
+    </message>
+    <message>
+        <source>The file begins at %1, but it will be written to %2, where the first file of this run began. Restart the program to write it to its own address.</source>
+        <translation>このファイルの先頭は %1 ですが、起動後に最初に読み込んだファイルの先頭 %2 に書き込まれます。本来のアドレスに書き込むには、プログラムを再起動してください。</translation>
+    </message>
+    <message>
+        <source>The image does not fit the %1 KB of flash from this address on.</source>
+        <translation>このアドレスからでは、イメージが %1 KB のフラッシュに収まりません。</translation>
+    </message>
+    <message>
+        <source>The stack pointer is no word address in RAM.</source>
+        <translation>スタックポインターが RAM のワードアドレスではありません。</translation>
+    </message>
+    <message>
+        <source>The reset vector is no Thumb address inside the image.</source>
+        <translation>リセットベクターがイメージ内の Thumb アドレスではありません。</translation>
+    </message>
+    <message>
+        <source>The image is very small for a firmware.</source>
+        <translation>ファームウェアとしてはイメージが小さすぎます。</translation>
     </message>
 </context>
 <context>

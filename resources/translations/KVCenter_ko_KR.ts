@@ -9,6 +9,144 @@
     </message>
 </context>
 <context>
+    <name>AlarmPanel</name>
+    <message>
+        <source>Alarm</source>
+        <translation>경보</translation>
+    </message>
+    <message>
+        <source>Judge the spectra by this preset</source>
+        <translation>이 프리셋으로 스펙트럼 판정</translation>
+    </message>
+    <message>
+        <source>Custom…</source>
+        <translation>사용자 지정…</translation>
+    </message>
+    <message>
+        <source>Set thresholds and frequencies yourself</source>
+        <translation>임계값과 주파수를 직접 설정</translation>
+    </message>
+</context>
+<context>
+    <name>AlarmRuleEditor</name>
+    <message>
+        <source>From</source>
+        <translation>하한 주파수</translation>
+    </message>
+    <message>
+        <source>To (0: no limit)</source>
+        <translation>상한 주파수(0: 없음)</translation>
+    </message>
+    <message>
+        <source>Watch from</source>
+        <translation>주의 임계값</translation>
+    </message>
+    <message>
+        <source>Alarm from</source>
+        <translation>경보 임계값</translation>
+    </message>
+    <message>
+        <source>Spectra to raise</source>
+        <translation>발생 프레임 수</translation>
+    </message>
+    <message>
+        <source>Spectra to clear</source>
+        <translation>해제 프레임 수</translation>
+    </message>
+    <message>
+        <source>Use this rule</source>
+        <translation>이 규칙 적용</translation>
+    </message>
+</context>
+<context>
+    <name>AttitudeFigures</name>
+    <message>
+        <source>Live</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From home</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>롤</translation>
+    </message>
+    <message>
+        <source>Pitch</source>
+        <translation>피치</translation>
+    </message>
+    <message>
+        <source>Yaw</source>
+        <translation>요</translation>
+    </message>
+    <message>
+        <source>Quaternion</source>
+        <translation>쿼터니언</translation>
+    </message>
+</context>
+<context>
+    <name>BandEditor</name>
+    <message>
+        <source>Name of the band</source>
+        <translation>대역 이름</translation>
+    </message>
+    <message>
+        <source>Lower edge</source>
+        <translation>하한 주파수</translation>
+    </message>
+    <message>
+        <source>Upper edge</source>
+        <translation>상한 주파수</translation>
+    </message>
+    <message>
+        <source>Measure this band</source>
+        <translation>이 대역 측정</translation>
+    </message>
+</context>
+<context>
+    <name>BandPanel</name>
+    <message>
+        <source>Peak and bands</source>
+        <translation>피크 및 대역</translation>
+    </message>
+    <message>
+        <source>Back to the automatic bands</source>
+        <translation>자동 대역으로 되돌리기</translation>
+    </message>
+    <message>
+        <source>Add band…</source>
+        <translation>대역 추가…</translation>
+    </message>
+    <message>
+        <source>Measure the power of a band of your own</source>
+        <translation>직접 지정한 대역의 파워 측정</translation>
+    </message>
+    <message>
+        <source>Peak: %1 Hz on %2, %3 %4</source>
+        <translation>피크: %1 Hz(%2), %3 %4</translation>
+    </message>
+    <message>
+        <source>%1, %2–%3 Hz</source>
+        <translation>%1, %2~%3 Hz</translation>
+    </message>
+    <message>
+        <source>Coherence of the axes</source>
+        <translation>축 간 코히런스</translation>
+    </message>
+    <message>
+        <source>How alike the spectra of two axes are in shape, from 0 to 1</source>
+        <translation>두 축의 스펙트럼 형태가 비슷한 정도(0~1)</translation>
+    </message>
+</context>
+<context>
+    <name>BodyModel</name>
+    <message>
+        <source>The model cannot be shown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ChartFilterRow</name>
     <message>
         <source>Low-pass filter</source>
@@ -67,18 +205,6 @@
 <context>
     <name>CommandSession</name>
     <message>
-        <source>The device does not answer. Check the baud rate, then identify it again.</source>
-        <translation>장치가 응답하지 않습니다. 보드 레이트를 확인한 다음 다시 식별하십시오.</translation>
-    </message>
-    <message>
-        <source>The device refused %1.</source>
-        <translation>장치가 명령을 거부했습니다: %1.</translation>
-    </message>
-    <message>
-        <source>The settings were sent and the device has restarted.</source>
-        <translation>설정을 전송했으며 장치가 다시 시작되었습니다.</translation>
-    </message>
-    <message>
         <source>(no reply)</source>
         <translation>(응답 없음)</translation>
     </message>
@@ -88,6 +214,29 @@
     <message>
         <source>This window could not be loaded. The log of the program tells why.</source>
         <translation>이 창을 불러올 수 없습니다. 원인은 프로그램 로그를 확인하십시오.</translation>
+    </message>
+</context>
+<context>
+    <name>FFTChartView</name>
+    <message>
+        <source>Waiting for samples</source>
+        <translation>샘플을 기다리는 중</translation>
+    </message>
+    <message>
+        <source>No spectrum yet</source>
+        <translation>아직 스펙트럼 없음</translation>
+    </message>
+    <message>
+        <source>The selected node sends none at the moment.</source>
+        <translation>선택한 노드가 현재 샘플을 전송하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Press Start above.</source>
+        <translation>위의 &apos;시작&apos;을 누르십시오.</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>품질</translation>
     </message>
 </context>
 <context>
@@ -360,11 +509,66 @@
     </message>
 </context>
 <context>
-    <name>FftSnapshot</name>
+    <name>FftFiles</name>
     <message>
-        <source>The file could not be written: %1</source>
-        <translation>파일에 쓸 수 없습니다: %1</translation>
+        <source>Save a snapshot</source>
+        <translation>스냅샷 저장</translation>
     </message>
+    <message>
+        <source>Spectrum snapshot (*.json)</source>
+        <translation>스펙트럼 스냅샷 (*.json)</translation>
+    </message>
+    <message>
+        <source>Save the spectra</source>
+        <translation>스펙트럼 저장</translation>
+    </message>
+    <message>
+        <source>Comma-separated values (*.csv)</source>
+        <translation>CSV 파일 (*.csv)</translation>
+    </message>
+    <message>
+        <source>Open a snapshot</source>
+        <translation>스냅샷 열기</translation>
+    </message>
+    <message>
+        <source>%1 points, %2 Hz, window %3</source>
+        <translation>%1포인트, %2 Hz, 창 함수 %3</translation>
+    </message>
+    <message>
+        <source>Bands: %1</source>
+        <translation>대역: %1</translation>
+    </message>
+    <message>
+        <source>Coherence: %1</source>
+        <translation>코히런스: %1</translation>
+    </message>
+    <message>
+        <source>Alarm (%1): %2</source>
+        <translation>경보(%1): %2</translation>
+    </message>
+    <message>
+        <source>Settings: %1</source>
+        <translation>설정: %1</translation>
+    </message>
+    <message>
+        <source>the same as now</source>
+        <translation>현재와 같음</translation>
+    </message>
+    <message>
+        <source>other than now (%1)</source>
+        <translation>현재와 다름(%1)</translation>
+    </message>
+    <message>
+        <source>Format: %1</source>
+        <translation>형식: %1</translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation>스냅샷</translation>
+    </message>
+</context>
+<context>
+    <name>FftSnapshot</name>
     <message>
         <source>The file could not be read: %1</source>
         <translation>파일을 읽을 수 없습니다: %1</translation>
@@ -395,6 +599,65 @@
     <message>
         <source>Flat Top</source>
         <translation>플랫톱</translation>
+    </message>
+</context>
+<context>
+    <name>GatewayDashboard</name>
+    <message>
+        <source>Pause</source>
+        <translation>일시 정지</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>재개</translation>
+    </message>
+    <message>
+        <source>Hold the pictures; the table goes on</source>
+        <translation>그래프 일시 정지(표는 계속 갱신됨)</translation>
+    </message>
+    <message>
+        <source>Go on with the newest samples</source>
+        <translation>최신 샘플부터 다시 표시</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>스페이스바</translation>
+    </message>
+    <message>
+        <source>Hide these charts</source>
+        <translation>이 종류의 그래프 숨기기</translation>
+    </message>
+    <message>
+        <source>Show these charts of the chosen nodes</source>
+        <translation>선택한 노드에 대해 이 종류의 그래프 표시</translation>
+    </message>
+    <message>
+        <source>%1 · %2 Hz</source>
+        <translation>%1 · %2 Hz</translation>
+    </message>
+    <message>
+        <source>No chart is chosen</source>
+        <translation>선택된 그래프 없음</translation>
+    </message>
+    <message>
+        <source>No node is chosen</source>
+        <translation>선택된 노드 없음</translation>
+    </message>
+    <message>
+        <source>Choose above what to show.</source>
+        <translation>표시할 항목을 위에서 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>Click a node in the table to see its waveforms. Up to %1 nodes are shown together.</source>
+        <translation>표에서 노드를 클릭하면 해당 파형이 표시됩니다. 최대 %1개 노드를 함께 표시할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Waiting for samples</source>
+        <translation>샘플을 기다리는 중</translation>
+    </message>
+    <message>
+        <source>Connect a wireless gateway; its nodes appear here.</source>
+        <translation>무선 게이트웨이를 연결하면 해당 노드가 여기에 표시됩니다.</translation>
     </message>
 </context>
 <context>
@@ -440,10 +703,159 @@
     </message>
 </context>
 <context>
+    <name>GatewayNodeTable</name>
+    <message>
+        <source>Node</source>
+        <translation>노드</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>상태</translation>
+    </message>
+    <message>
+        <source>Rate
+Hz</source>
+        <translation>속도
+Hz</translation>
+    </message>
+    <message>
+        <source>Newest
+ago</source>
+        <translation>수신 후
+경과</translation>
+    </message>
+    <message>
+        <source>Missing
+samples</source>
+        <translation>누락
+샘플</translation>
+    </message>
+    <message>
+        <source>Temp.
+°C</source>
+        <translation>온도
+°C</translation>
+    </message>
+    <message>
+        <source>Pressure
+Pa</source>
+        <translation>기압
+Pa</translation>
+    </message>
+    <message>
+        <source>Node %1, %2</source>
+        <translation>노드 %1, %2</translation>
+    </message>
+    <message>
+        <source>%1 nodes are shown already: drop one first.</source>
+        <translation>이미 %1개 노드가 표시되어 있습니다. 먼저 하나를 선택 해제하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 nodes chosen for charts</source>
+        <translation>그래프에 표시할 노드: %1 / %2</translation>
+    </message>
+</context>
+<context>
+    <name>MeshFile</name>
+    <message>
+        <source>The mesh file cannot be read: %1</source>
+        <translation>메시 파일을 읽을 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>The mesh file is larger than %1 MiB.</source>
+        <translation>메시 파일이 %1 MiB보다 큽니다.</translation>
+    </message>
+    <message>
+        <source>The mesh file is damaged, or of a kind that this program cannot show.</source>
+        <translation>메시 파일이 손상되었거나 이 프로그램에서 표시할 수 없는 형식입니다.</translation>
+    </message>
+</context>
+<context>
     <name>MessageRow</name>
     <message>
         <source>Dismiss</source>
         <translation>닫기</translation>
+    </message>
+</context>
+<context>
+    <name>ObjReader</name>
+    <message>
+        <source>The OBJ file cannot be read: %1</source>
+        <translation>OBJ 파일을 읽을 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>The OBJ file is larger than %1 MiB.</source>
+        <translation>OBJ 파일이 %1 MiB보다 큽니다.</translation>
+    </message>
+    <message>
+        <source>The file is not an OBJ model: it holds no text.</source>
+        <translation>텍스트 파일이 아니므로 OBJ 모델이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the OBJ file holds a coordinate that is not a number.</source>
+        <translation>OBJ 파일의 %1번째 줄에 숫자가 아닌 좌표가 있습니다.</translation>
+    </message>
+    <message>
+        <source>The file is not an OBJ model.</source>
+        <translation>OBJ 모델 파일이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>The OBJ model has more than %1 triangles.</source>
+        <translation>OBJ 모델의 삼각형이 %1개를 초과합니다.</translation>
+    </message>
+    <message>
+        <source>The OBJ file is damaged: a face names a vertex that does not exist.</source>
+        <translation>OBJ 파일이 손상되었습니다. 존재하지 않는 정점을 참조하는 면이 있습니다.</translation>
+    </message>
+    <message>
+        <source>The OBJ model has coordinates that are not finite or too large.</source>
+        <translation>OBJ 모델에 유한하지 않거나 너무 큰 좌표가 있습니다.</translation>
+    </message>
+    <message>
+        <source>The OBJ file holds no faces to show.</source>
+        <translation>OBJ 파일에 표시할 면이 없습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>Qt6ModelAsset</name>
+    <message>
+        <source>No 3D asset was selected.</source>
+        <translation>선택된 3D 모델이 없습니다.</translation>
+    </message>
+    <message>
+        <source>The selected mesh file could not be found.</source>
+        <translation>선택한 메시 파일을 찾을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The selected OBJ file could not be found.</source>
+        <translation>선택한 OBJ 파일을 찾을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Unsupported 3D asset. Choose a bundled .obj model, an external .obj file, or a preconverted .mesh file.</source>
+        <translation>지원되지 않는 3D 모델입니다. 기본 제공 .obj 모델, 외부 .obj 파일 또는 미리 변환된 .mesh 파일을 선택하십시오.</translation>
+    </message>
+</context>
+<context>
+    <name>SceneMarks</name>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>북</translation>
+    </message>
+    <message>
+        <source>E</source>
+        <comment>east</comment>
+        <translation>동</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <comment>south</comment>
+        <translation>남</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <comment>west</comment>
+        <translation>서</translation>
     </message>
 </context>
 <context>
@@ -475,14 +887,6 @@
     <message>
         <source>Show this chart</source>
         <translation>이 그래프 표시</translation>
-    </message>
-    <message>
-        <source>%1 Hz</source>
-        <translation>%1 Hz</translation>
-    </message>
-    <message>
-        <source>Paused · %1 Hz</source>
-        <translation>일시 정지됨 · %1 Hz</translation>
     </message>
     <message>
         <source>No chart is chosen</source>
@@ -557,6 +961,103 @@
     <message>
         <source>Pressure</source>
         <translation>기압</translation>
+    </message>
+</context>
+<context>
+    <name>SpectrumChart</name>
+    <message>
+        <source>%1 points · %2 Hz · %3 · %4 Hz per bin</source>
+        <translation>%1포인트 · %2 Hz · %3 · 분해능 %4 Hz</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>Show amplitudes as they are</source>
+        <translation>진폭을 선형으로 표시</translation>
+    </message>
+    <message>
+        <source>Show amplitudes in decibels</source>
+        <translation>진폭을 데시벨로 표시</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>맞춤</translation>
+    </message>
+    <message>
+        <source>Show amplitudes up to the set maximum</source>
+        <translation>설정한 최댓값까지 진폭 표시</translation>
+    </message>
+    <message>
+        <source>Fit the amplitude axis to the curves beyond 0 Hz</source>
+        <translation>0 Hz를 제외한 곡선에 진폭 축 맞추기</translation>
+    </message>
+    <message>
+        <source>Remove the cursors A and B</source>
+        <translation>커서 A/B 지우기</translation>
+    </message>
+    <message>
+        <source>Measure between the cursors A and B</source>
+        <translation>커서 A/B 사이 측정</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>A, B</source>
+        <translation>A, B</translation>
+    </message>
+    <message>
+        <source>Reset the view</source>
+        <translation>보기 초기화</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>Save a picture of the chart</source>
+        <translation>그래프 이미지 저장</translation>
+    </message>
+    <message>
+        <source>Save the spectra as a table</source>
+        <translation>스펙트럼을 표로 저장</translation>
+    </message>
+    <message>
+        <source>Save a snapshot of spectra and analysis</source>
+        <translation>스펙트럼 및 분석 스냅샷 저장</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>열기…</translation>
+    </message>
+    <message>
+        <source>Tell what a saved snapshot holds</source>
+        <translation>저장된 스냅샷의 내용 보기</translation>
+    </message>
+    <message>
+        <source>Level (dB, 0 dB = 1 %1)</source>
+        <translation>레벨 (dB, 0 dB = 1 %1)</translation>
+    </message>
+</context>
+<context>
+    <name>SpectrumViewState</name>
+    <message>
+        <source>Resultant</source>
+        <translation>합성</translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation>%1 Hz</translation>
+    </message>
+</context>
+<context>
+    <name>ThreeDScene</name>
+    <message>
+        <source>Drag to turn, right-drag to move, wheel to zoom, double-click to reset</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -689,6 +1190,17 @@
     <message>
         <source>%1 could not be written: %2</source>
         <translation>%1 파일에 쓸 수 없습니다: %2</translation>
+    </message>
+</context>
+<context>
+    <name>chart_text</name>
+    <message>
+        <source>%1 Hz · last %2 s of %3 s</source>
+        <translation>%1 Hz · 최근 %2 s / %3 s</translation>
+    </message>
+    <message>
+        <source>%1 Hz · %2 s to %3 s of %4 s</source>
+        <translation>%1 Hz · %2 ~ %3 s / %4 s</translation>
     </message>
 </context>
 <context>
@@ -925,16 +1437,8 @@
         <translation>게이트웨이</translation>
     </message>
     <message>
-        <source>The spectrum comes with a later version.</source>
-        <translation>스펙트럼 기능은 이후 버전에서 제공됩니다.</translation>
-    </message>
-    <message>
         <source>The 3D view comes with a later version.</source>
         <translation>3D 보기는 이후 버전에서 제공됩니다.</translation>
-    </message>
-    <message>
-        <source>The firmware update comes with a later version.</source>
-        <translation>펌웨어 업데이트는 이후 버전에서 제공됩니다.</translation>
     </message>
     <message>
         <source>Choose a serial port and connect (%1)</source>
@@ -1003,6 +1507,18 @@
     <message>
         <source>The translation for %1 cannot be loaded. The language stays as it is.</source>
         <translation>번역을 불러올 수 없습니다: %1. 표시 언어는 변경되지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Load new firmware into the device</source>
+        <translation>장치에 새 펌웨어를 다운로드합니다</translation>
+    </message>
+    <message>
+        <source>Ctrl+F</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spectrum of the selected node, with alarms</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1082,6 +1598,105 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>%1 is not a serial port.</source>
         <translation>시리얼 포트가 아닙니다: %1</translation>
+    </message>
+</context>
+<context>
+    <name>form_fftchart</name>
+    <message>
+        <source>Acceleration</source>
+        <translation>가속도</translation>
+    </message>
+    <message>
+        <source>Value (mG)</source>
+        <translation>진폭 (mG)</translation>
+    </message>
+    <message>
+        <source>Angular Velocity</source>
+        <translation>각속도</translation>
+    </message>
+    <message>
+        <source>Value (deg/s)</source>
+        <translation>진폭 (deg/s)</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>실시간</translation>
+    </message>
+    <message>
+        <source>Max Hold</source>
+        <translation>최대 홀드</translation>
+    </message>
+    <message>
+        <source>Avg Hold</source>
+        <translation>평균 홀드</translation>
+    </message>
+    <message>
+        <source>FFT Analysis</source>
+        <translation>FFT 분석</translation>
+    </message>
+    <message>
+        <source>Sample points:</source>
+        <translation>샘플 포인트:</translation>
+    </message>
+    <message>
+        <source>Window:</source>
+        <translation>창 함수:</translation>
+    </message>
+    <message>
+        <source>Hold:</source>
+        <translation>홀드:</translation>
+    </message>
+    <message>
+        <source>Amplitude Max:</source>
+        <translation>진폭 최댓값:</translation>
+    </message>
+    <message>
+        <source>Switch between acceleration and angular velocity spectra.</source>
+        <translation>가속도 스펙트럼과 각속도 스펙트럼을 전환합니다.</translation>
+    </message>
+    <message>
+        <source>Choose how many time-domain samples are included in each FFT calculation.</source>
+        <translation>한 번의 FFT 계산에 사용할 시간 영역 샘플 수를 선택합니다.</translation>
+    </message>
+    <message>
+        <source>Select the window function applied before the FFT.</source>
+        <translation>FFT 전에 적용할 창 함수를 선택합니다.</translation>
+    </message>
+    <message>
+        <source>Choose whether the spectrum is live, max-hold, or averaged across frames.</source>
+        <translation>스펙트럼 표시 방식(실시간, 최대 홀드, 프레임 평균)을 선택합니다.</translation>
+    </message>
+    <message>
+        <source>Set the visible FFT amplitude ceiling. Acceleration can be adjusted up to 32000 mG and angular velocity up to 4000 deg/s.</source>
+        <translation>표시할 FFT 진폭의 최댓값을 설정합니다. 가속도는 32000 mG, 각속도는 4000 deg/s까지 설정할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Shows the current sample rate and the RMSE of the resultant time-domain signal.</source>
+        <translation>현재 샘플링 주파수와 합성 시간 영역 신호의 RMSE를 표시합니다.</translation>
+    </message>
+    <message>
+        <source>Start or pause FFT updates.</source>
+        <translation>FFT 업데이트를 시작하거나 일시 정지합니다.</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>일시 정지</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>시작</translation>
+    </message>
+    <message>
+        <source>Sample Frequency:%1Hz, RMSE of Norm:%2</source>
+        <translation>샘플링 주파수: %1 Hz, 합성 RMSE: %2</translation>
+    </message>
+    <message>
+        <source>FFT %1</source>
+        <translation>%1 FFT</translation>
+    </message>
+    <message>
+        <source>Hover to inspect frequency and amplitude. Mouse wheel zooms Y, Ctrl + wheel zooms X, left drag pans, and right or middle double-click resets the view.</source>
+        <translation>마우스 포인터를 올리면 주파수와 진폭을 확인할 수 있습니다. 휠로 Y축, Ctrl + 휠로 X축을 확대/축소하고, 왼쪽 버튼으로 끌어 이동하며, 오른쪽 또는 가운데 버튼을 두 번 클릭하면 보기가 초기화됩니다.</translation>
     </message>
 </context>
 <context>
@@ -1436,6 +2051,596 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>Saving restarts the device; this takes 2 seconds.</source>
         <translation>저장하면 장치가 다시 시작됩니다(2초 소요).</translation>
+    </message>
+    <message>
+        <source>The device does not answer. Check the baud rate, then identify it again.</source>
+        <translation>장치가 응답하지 않습니다. 보드 레이트를 확인한 다음 다시 식별하십시오.</translation>
+    </message>
+    <message>
+        <source>The device refused %1.</source>
+        <translation>장치가 명령을 거부했습니다: %1.</translation>
+    </message>
+    <message>
+        <source>The settings were sent and the device has restarted.</source>
+        <translation>설정을 전송했으며 장치가 다시 시작되었습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>form_threed</name>
+    <message>
+        <source>3D view</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attitude</source>
+        <translation>자세</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>Set &amp;home</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take the live pose as the reference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Clear home</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forget the reference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mounting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How the axes of the device lie in the body</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RFU / ENU 312 (Z-X-Y)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FLU / NWU / ZYX Intrinsic (Z-Y-X)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>모델</translation>
+    </message>
+    <message>
+        <source>Jet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cube</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plane</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spaceship</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Load…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show a model from a file: X forward, Y up, Z to the right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Reset view</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put the camera back (Home key in the picture, or double-click)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The 3D picture needs OpenGL, which is not available here. The numbers are complete.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The 3D picture cannot be drawn here. The numbers are complete.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The 3D picture could not be loaded. The log of the program tells why.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current preset: RFU body / ENU navigation, Euler 312 intrinsic (Z-X-Y).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current preset: FLU body or NWU body, Euler ZYX intrinsic (Z-Y-X).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current preset: Unknown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Capture the current live pose as Home to compare mounting bias and installation offsets.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Home pose captured. Delta shows the live attitude relative to the stored home reference.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting for live attitude data to capture home pose.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No attitude</source>
+        <translation>자세 데이터 없음</translation>
+    </message>
+    <message>
+        <source>From quaternion</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From Euler angles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open 3D asset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>3D Assets (*.obj *.mesh)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>form_updater</name>
+    <message>
+        <source>Firmware Update</source>
+        <translation>펌웨어 업데이트</translation>
+    </message>
+    <message>
+        <source>Image file</source>
+        <translation>이미지 파일</translation>
+    </message>
+    <message>
+        <source>Open File</source>
+        <translation>파일 열기</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>연결</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>다운로드</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>로그</translation>
+    </message>
+    <message>
+        <source>&amp;Copy log</source>
+        <translation>로그 복사(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copies what is shown above together with the log, for a report</source>
+        <translation>위에 표시된 내용을 로그와 함께 복사합니다(보고용)</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>닫기(&amp;C)</translation>
+    </message>
+    <message>
+        <source>The port was closed: connect again before the download.</source>
+        <translation>포트가 닫혔습니다. 다운로드하기 전에 다시 연결하십시오.</translation>
+    </message>
+    <message>
+        <source>Please select image
+</source>
+        <translation>이미지를 선택하십시오
+</translation>
+    </message>
+    <message>
+        <source>PATH: %1
+</source>
+        <translation>경로: %1
+</translation>
+    </message>
+    <message>
+        <source>The download has to end first: without it the device has no complete firmware.</source>
+        <translation>다운로드가 끝나야 닫을 수 있습니다. 중단하면 장치의 펌웨어가 불완전해집니다.</translation>
+    </message>
+    <message>
+        <source>Text Files(*.hex)</source>
+        <translation>HEX 파일 (*.hex)</translation>
+    </message>
+    <message>
+        <source>FILE:%1
+</source>
+        <translation>파일: %1
+</translation>
+    </message>
+    <message>
+        <source>No file selected
+</source>
+        <translation>선택된 파일 없음
+</translation>
+    </message>
+    <message>
+        <source>Failed to open file
+</source>
+        <translation>파일을 열지 못했습니다
+</translation>
+    </message>
+    <message>
+        <source>Failed to parse HEX file
+</source>
+        <translation>HEX 파일을 분석하지 못했습니다
+</translation>
+    </message>
+    <message>
+        <source>SIZE:%1 bytes
+</source>
+        <translation>크기: %1바이트
+</translation>
+    </message>
+    <message>
+        <source>SP:0x%1
+</source>
+        <translation>SP:0x%1
+</translation>
+    </message>
+    <message>
+        <source>PC:0x%1
+</source>
+        <translation>PC:0x%1
+</translation>
+    </message>
+    <message>
+        <source>ADDR:0x%1
+</source>
+        <translation>주소: 0x%1
+</translation>
+    </message>
+    <message>
+        <source>
+--- Connecting to bootloader ---
+</source>
+        <translation>
+--- 부트로더에 연결하는 중 ---
+</translation>
+    </message>
+    <message>
+        <source>CONNECT ERR<byte value="xd"/>
+</source>
+        <translation>연결 오류<byte value="xd"/>
+</translation>
+    </message>
+    <message>
+        <source>Please check:
+</source>
+        <translation>다음 사항을 확인하십시오:
+</translation>
+    </message>
+    <message>
+        <source>  - Device is powered on
+</source>
+        <translation>  - 장치의 전원이 켜져 있음
+</translation>
+    </message>
+    <message>
+        <source>  - Serial port is correct
+</source>
+        <translation>  - 시리얼 포트가 올바름
+</translation>
+    </message>
+    <message>
+        <source>  - Bootloader is installed
+</source>
+        <translation>  - 부트로더가 설치되어 있음
+</translation>
+    </message>
+    <message>
+        <source>Connect OK
+</source>
+        <translation>연결되었습니다
+</translation>
+    </message>
+    <message>
+        <source>PKT SIZE:%1
+</source>
+        <translation>패킷 크기: %1
+</translation>
+    </message>
+    <message>
+        <source>FLASH SIZE:%1KB
+</source>
+        <translation>플래시 크기: %1 KB
+</translation>
+    </message>
+    <message>
+        <source>SDID:</source>
+        <translation>SDID:</translation>
+    </message>
+    <message>
+        <source>KBOOT:%1.%2.%3
+</source>
+        <translation>KBOOT:%1.%2.%3
+</translation>
+    </message>
+    <message>
+        <source>SECTOR:%1
+</source>
+        <translation>섹터: %1
+</translation>
+    </message>
+    <message>
+        <source>
+Ready to download firmware.
+</source>
+        <translation>
+펌웨어를 다운로드할 준비가 되었습니다.
+</translation>
+    </message>
+    <message>
+        <source>
+--- Loading HEX file ---
+</source>
+        <translation>
+--- HEX 파일을 불러오는 중 ---
+</translation>
+    </message>
+    <message>
+        <source>NO IMAGE<byte value="xd"/>
+</source>
+        <translation>이미지 없음<byte value="xd"/>
+</translation>
+    </message>
+    <message>
+        <source>The image could not be loaded; the device is as it was. Choose another file.</source>
+        <translation>이미지를 불러올 수 없습니다. 장치는 변경되지 않았습니다. 다른 파일을 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>
+--- Starting download ---
+</source>
+        <translation>
+--- 다운로드를 시작합니다 ---
+</translation>
+    </message>
+    <message>
+        <source>Download failed
+</source>
+        <translation>다운로드하지 못했습니다
+</translation>
+    </message>
+    <message>
+        <source>Not connected to bootloader<byte value="xd"/>
+</source>
+        <translation>부트로더에 연결되어 있지 않습니다<byte value="xd"/>
+</translation>
+    </message>
+    <message>
+        <source>Press Connect first: the device has to run its bootloader.</source>
+        <translation>먼저 &apos;연결&apos;을 눌러 장치의 부트로더를 실행하십시오.</translation>
+    </message>
+    <message>
+        <source>Update complete, image running...
+</source>
+        <translation>업데이트 완료, 이미지 실행 중...
+</translation>
+    </message>
+    <message>
+        <source>A download is running.</source>
+        <translation>다운로드 중입니다.</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>연결됨</translation>
+    </message>
+    <message>
+        <source>Chooses the image, an Intel HEX file</source>
+        <translation>이미지(Intel HEX 파일)를 선택합니다</translation>
+    </message>
+    <message>
+        <source>Restarts the device into its bootloader</source>
+        <translation>장치를 다시 시작하여 부트로더로 들어갑니다</translation>
+    </message>
+    <message>
+        <source>Erases the device&apos;s firmware and writes the image</source>
+        <translation>장치의 펌웨어를 지우고 이미지를 씁니다</translation>
+    </message>
+    <message>
+        <source>Press Connect first.</source>
+        <translation>먼저 &apos;연결&apos;을 누르십시오.</translation>
+    </message>
+    <message>
+        <source>Not connected. Connect restarts the device; this takes up to 4 s.</source>
+        <translation>연결되지 않았습니다. &apos;연결&apos;을 누르면 장치가 다시 시작됩니다(최대 4초).</translation>
+    </message>
+    <message>
+        <source>Ready to download</source>
+        <translation>다운로드 준비 완료</translation>
+    </message>
+    <message>
+        <source>Waiting for the bootloader</source>
+        <translation>부트로더 연결 대기 중</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>완료</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>실패</translation>
+    </message>
+    <message>
+        <source>The file has changed since it was loaded. Choose it again to load it anew.</source>
+        <translation>파일을 불러온 후 내용이 변경되었습니다. 새로 불러오려면 다시 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>There is no file at this place: choose an image.</source>
+        <translation>이 위치에 파일이 없습니다. 이미지를 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>This is no Intel HEX file that can be loaded; the log file debug.log says why. Choose another one.</source>
+        <translation>Intel HEX 파일로 불러올 수 없습니다(이유는 로그 파일 debug.log 참조). 다른 파일을 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>The serial port is closed or takes no data.</source>
+        <translation>시리얼 포트가 닫혀 있거나 데이터를 보낼 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The connection to the device was lost.</source>
+        <translation>장치와의 연결이 끊어졌습니다.</translation>
+    </message>
+    <message>
+        <source>The device answered, but not as its bootloader does.</source>
+        <translation>장치가 응답했지만 부트로더의 응답이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>The bootloader refused a packet.</source>
+        <translation>부트로더가 패킷을 거부했습니다.</translation>
+    </message>
+    <message>
+        <source>The bootloader aborted the transfer.</source>
+        <translation>부트로더가 전송을 중단했습니다.</translation>
+    </message>
+    <message>
+        <source>The bootloader did not answer the erase command within 1.5 s.</source>
+        <translation>부트로더가 지우기 명령에 1.5초 안에 응답하지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>The bootloader did not answer the write command within 1.5 s.</source>
+        <translation>부트로더가 쓰기 명령에 1.5초 안에 응답하지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>The bootloader did not acknowledge a packet.</source>
+        <translation>부트로더가 패킷 수신을 확인하지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>No bootloader answered.</source>
+        <translation>응답한 부트로더가 없습니다.</translation>
+    </message>
+    <message>
+        <source>The flash may be partly erased: the firmware may not start any more.</source>
+        <translation>플래시의 일부가 지워져 펌웨어가 더 이상 시작되지 않을 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>The flash is erased: the device has no firmware now.</source>
+        <translation>플래시가 지워져 현재 장치에 펌웨어가 없습니다.</translation>
+    </message>
+    <message>
+        <source>Nothing was written, but the flash may be erased: the firmware may not start any more.</source>
+        <translation>아무것도 쓰지 않았지만, 플래시가 지워져 펌웨어가 더 이상 시작되지 않을 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 bytes were written: the firmware is incomplete and cannot start.</source>
+        <translation>%2바이트 중 %1바이트를 썼습니다. 펌웨어가 불완전하여 시작할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Nothing was written: the firmware of the device is as it was.</source>
+        <translation>아무것도 쓰지 않았습니다. 장치의 펌웨어는 변경되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>Check the cable, open the port again and press Connect.</source>
+        <translation>케이블을 확인하고 포트를 다시 연 다음 &apos;연결&apos;을 누르십시오.</translation>
+    </message>
+    <message>
+        <source>Check power, port and baud rate, then press Connect again.</source>
+        <translation>전원, 포트, 보드 레이트를 확인한 다음 &apos;연결&apos;을 다시 누르십시오.</translation>
+    </message>
+    <message>
+        <source>The bootloader stays in the device: press Connect, then Download.</source>
+        <translation>부트로더는 장치에 남아 있습니다. &apos;연결&apos;, &apos;다운로드&apos;를 차례로 누르십시오.</translation>
+    </message>
+    <message>
+        <source>Connecting to the bootloader...</source>
+        <translation>부트로더에 연결하는 중...</translation>
+    </message>
+    <message>
+        <source>Erasing the flash...</source>
+        <translation>플래시를 지우는 중...</translation>
+    </message>
+    <message>
+        <source>Preparing to write...</source>
+        <translation>쓰기를 준비하는 중...</translation>
+    </message>
+    <message>
+        <source>Writing the image...</source>
+        <translation>이미지를 쓰는 중...</translation>
+    </message>
+    <message>
+        <source>Restarting the device...</source>
+        <translation>장치를 다시 시작하는 중...</translation>
+    </message>
+    <message>
+        <source>The bootloader takes no data: it reports packets of %1 bytes.</source>
+        <translation>부트로더가 데이터를 받지 않습니다(보고된 패킷 크기: %1바이트).</translation>
+    </message>
+    <message>
+        <source>It had reported status %1 before.</source>
+        <translation>그 전에 부트로더가 보고한 상태 코드: %1.</translation>
+    </message>
+    <message>
+        <source>%1 bytes were written in %2 s, %3 of %4 packets were sent again.</source>
+        <translation>%1바이트를 %2초 동안 썼습니다(패킷 %4개 중 %3개 재전송).</translation>
+    </message>
+    <message>
+        <source>The device restarts with the new firmware.</source>
+        <translation>장치가 새 펌웨어로 다시 시작됩니다.</translation>
+    </message>
+    <message>
+        <source>But the bootloader reported status %1: if the firmware does not start, press Connect and download again.</source>
+        <translation>다만 부트로더가 보고한 상태 코드는 %1입니다. 펌웨어가 시작되지 않으면 &apos;연결&apos;을 누르고 다시 다운로드하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 bytes</source>
+        <translation>%1 / %2바이트</translation>
+    </message>
+    <message>
+        <source>%1 · %2 KB/s · %3 s left</source>
+        <translation>%1 · %2 KB/s · %3초 남음</translation>
+    </message>
+    <message>
+        <source>Bootloader %1, %2 KB of flash in sectors of %3 bytes, packets of up to %4 bytes, chip %5</source>
+        <translation>부트로더 %1, 플래시 %2 KB(섹터 %3바이트), 최대 패킷 %4바이트, 칩 %5</translation>
+    </message>
+    <message>
+        <source>%1 bytes from %2, stack pointer %3, reset vector %4</source>
+        <translation>%2부터 %1바이트, 스택 포인터 %3, 리셋 벡터 %4</translation>
+    </message>
+    <message>
+        <source>The file begins at %1, but it will be written to %2, where the first file of this run began. Restart the program to write it to its own address.</source>
+        <translation>이 파일의 시작 주소는 %1이지만, 실행 후 처음 불러온 파일의 시작 주소인 %2에 기록됩니다. 원래 주소에 쓰려면 프로그램을 다시 시작하십시오.</translation>
+    </message>
+    <message>
+        <source>The image does not fit the %1 KB of flash from this address on.</source>
+        <translation>이 주소부터는 이미지가 %1 KB 플래시에 들어가지 않습니다.</translation>
+    </message>
+    <message>
+        <source>The stack pointer is no word address in RAM.</source>
+        <translation>스택 포인터가 RAM의 워드 주소가 아닙니다.</translation>
+    </message>
+    <message>
+        <source>The reset vector is no Thumb address inside the image.</source>
+        <translation>리셋 벡터가 이미지 안의 Thumb 주소가 아닙니다.</translation>
+    </message>
+    <message>
+        <source>The image is very small for a firmware.</source>
+        <translation>펌웨어로는 이미지가 너무 작습니다.</translation>
     </message>
 </context>
 <context>
