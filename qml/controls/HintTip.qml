@@ -8,7 +8,7 @@ T.ToolTip {
 
     x: parent ? Math.round((parent.width - implicitWidth) / 2) : 0
     y: parent ? parent.height + 4 : 0
-    implicitWidth: contentItem.implicitWidth + leftPadding + rightPadding
+    implicitWidth: Math.min(contentItem.implicitWidth, 420) + leftPadding + rightPadding
     implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
     margins: 4
     horizontalPadding: 8
@@ -19,6 +19,7 @@ T.ToolTip {
     contentItem: Text {
         text: control.text
         textFormat: Text.PlainText
+        wrapMode: Text.Wrap
         font: Theme.smallFont
         color: Theme.surface
     }

@@ -35,7 +35,7 @@ PanelSection {
 
     Flow {
         width: parent.width
-        spacing: 6
+        spacing: 4
 
         Repeater {
             model: panel.bridge.alarmPresetNames
@@ -46,7 +46,7 @@ PanelSection {
 
                 objectName: "preset_" + index
                 text: modelData
-                horizontalPadding: 10
+                horizontalPadding: 9
                 checkable: false
                 checked: panel.bridge.alarmPresetIndex === index && !panel.bridge.hasCustomAlarmRule
                 hint: qsTr("Judge the spectra by this preset")
@@ -56,7 +56,7 @@ PanelSection {
         Chip {
             objectName: "customRule"
             text: qsTr("Custom…")
-            horizontalPadding: 10
+            horizontalPadding: 9
             checkable: false
             checked: panel.bridge.hasCustomAlarmRule
             hint: qsTr("Set thresholds and frequencies yourself")

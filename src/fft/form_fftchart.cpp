@@ -68,7 +68,8 @@ form_fftchart::form_fftchart(QWidget *parent)
       m_window(new QComboBox(this)), m_hold(new QComboBox(this)), m_yAxisMax(new QDoubleSpinBox(this)),
       m_start(new QPushButton(this)), m_pointsLabel(new QLabel(this)), m_windowLabel(new QLabel(this)),
       m_holdLabel(new QLabel(this)), m_yAxisLabel(new QLabel(this)), m_status(new QLabel(this)),
-      m_accelerationMax(kTypes[0].defaultMax), m_angularVelocityMax(kTypes[1].defaultMax)
+      m_controls(new QHBoxLayout), m_statusRow(new QHBoxLayout), m_accelerationMax(kTypes[0].defaultMax),
+      m_angularVelocityMax(kTypes[1].defaultMax)
 {
     setObjectName(QStringLiteral("form_fftchart"));
     setStyleSheet(QStringLiteral("background-color:white; color:black;"));
@@ -120,30 +121,43 @@ void form_fftchart::configureControls()
     m_windowLabel->setBuddy(m_window);
     m_holdLabel->setBuddy(m_hold);
     m_yAxisLabel->setBuddy(m_yAxisMax);
-    m_status->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_status->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     updateYAxisControl();
 
-    auto *controls = new QHBoxLayout;
-    controls->setContentsMargins(12, 8, 12, 8);
-    controls->setSpacing(theme::kGrid);
-    controls->addWidget(m_start);
-    controls->addWidget(m_type);
+    m_controls->setContentsMargins(12, 8, 12, 8);
+    m_controls->setSpacing(theme::kGrid);
+    m_controls->addWidget(m_start);
+    m_controls->addWidget(m_type);
     const std::pair<QLabel *, QWidget *> pairs[] = {
         {m_pointsLabel, m_points}, {m_windowLabel, m_window}, {m_holdLabel, m_hold}, {m_yAxisLabel, m_yAxisMax}};
     for (const auto &[label, control] : pairs) {
-        controls->addSpacing(theme::kGrid / 2);
-        controls->addWidget(label);
-        controls->addWidget(control);
+        m_controls->addSpacing(theme::kGrid / 2);
+        m_controls->addWidget(label);
+        m_controls->addWidget(control);
     }
-    controls->addWidget(m_status, 1);
+    m_controls->addStretch(1);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addLayout(controls);
+    layout->addLayout(m_controls);
+    layout->addLayout(m_statusRow);
 
     QMetaObject::connectSlotsByName(this);
     connect(m_points, &QComboBox::currentTextChanged, this, &form_fftchart::onFftCalPointTextChanged);
+}
+
+void form_fftchart::placeStatus()
+{
+    // Some room to spare on the way back, so that it does not move with every digit.
+    const bool isFirst = m_controls->indexOf(m_status) >= 0;
+    const int status = m_status->sizeHint().width() + m_controls->spacing();
+    const int needed = m_controls->sizeHint().width() + (isFirst ? 0 : status + 6 * theme::kGrid);
+    QHBoxLayout *row = needed <= width() ? m_controls : m_statusRow;
+    if (row->indexOf(m_status) >= 0)
+        return;
+    (isFirst ? m_controls : m_statusRow)->removeWidget(m_status);
+    row->addWidget(m_status, row == m_statusRow ? 1 : 0);
+    m_statusRow->setContentsMargins(12, 0, 12, row == m_statusRow ? 8 : 0);
 }
 
 void form_fftchart::retranslateDynamicUi()
@@ -427,6 +441,7 @@ void form_fftchart::updateStatus()
     m_status->setText(
         tr("Sample Frequency:%1Hz, RMSE of Norm:%2")
             .arg(QString::number(m_sampler.currentRateHz()), QString::number(m_sampler.normDeviation(), 'f', 2)));
+    placeStatus();
 }
 
 QString form_fftchart::currentChartTitle() const
@@ -470,6 +485,12 @@ void form_fftchart::closeEvent(QCloseEvent *event)
     releaseResources();
     QSettings(settings_keys::kFile, QSettings::IniFormat).setValue(settings_keys::kSpectrumGeometry, saveGeometry());
     QWidget::closeEvent(event);
+}
+
+void form_fftchart::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    placeStatus();
 }
 
 void form_fftchart::changeEvent(QEvent *event)

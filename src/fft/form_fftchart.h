@@ -11,6 +11,7 @@ class FftFiles;
 class FftTrans;
 class QComboBox;
 class QDoubleSpinBox;
+class QHBoxLayout;
 class QLabel;
 class QPushButton;
 class QQuickView;
@@ -47,6 +48,7 @@ protected:
     void showEvent(QShowEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private slots:
     void on_BTN_start_clicked();
@@ -60,6 +62,7 @@ private slots:
 
 private:
     void configureControls();
+    void placeStatus();
     void retranslateDynamicUi();
     void initChartParam();
     void setViewProperty(const char *name, const QVariant &value);
@@ -98,6 +101,8 @@ private:
     QLabel *m_holdLabel;
     QLabel *m_yAxisLabel;
     QLabel *m_status;
+    QHBoxLayout *m_controls;  ///< first row
+    QHBoxLayout *m_statusRow; ///< second row, for a status that has no room in the first
 
     FftChartBridge m_bridge;
     FftSampler m_sampler;
