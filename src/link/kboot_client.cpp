@@ -198,7 +198,7 @@ QByteArray KbootProtocol::propertyValue(quint8 property)
 {
     if (m_cancelled)
         return {};
-    const QByteArray value = cmd_get_property(property);
+    QByteArray value = cmd_get_property(property);
     if (value.size() == kPropertySize)
         return value;
     fail(m_responseReceived ? BootloaderFault::WrongAnswer : BootloaderFault::NoAnswer);

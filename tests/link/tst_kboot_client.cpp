@@ -5,6 +5,7 @@
 #include <QTest>
 
 #include <atomic>
+#include <memory>
 
 #include "link/kboot_protocol.h"
 #include "link/kv_uart_port.h"
@@ -171,7 +172,8 @@ private slots:
             BootloaderPeer peer([at = at, answer = answer](const QByteArray &, int index) {
                 return index == at ? Answer(answer) : Answer();
             });
-            TestedPort port(peer.path());
+            const auto owner = std::make_unique<TestedPort>(peer.path());
+            TestedPort &port = *owner;
             QVERIFY2(port.connects() == (fault == Fault::None), name);
             QVERIFY2(port.outcome().fault == fault && port.outcome().step == Step::Properties, name);
             QVERIFY2(peer.packets().size() == (fault == Fault::None ? 7 : at + 1), name);
@@ -207,7 +209,8 @@ private slots:
                 const bool isIt = tag > 0 ? isCommand(packet, tag) : isData(packet) && data >= 2 && data < 2 + times;
                 return isIt ? Answer(answer) : Answer();
             });
-            TestedPort port(peer.path());
+            const auto owner = std::make_unique<TestedPort>(peer.path());
+            TestedPort &port = *owner;
             QVERIFY2(port.connects(), name);
             const bool complete = step == Step::Reset;
             QVERIFY2(port.downloads(counting(100), attempts) == complete, name);
@@ -239,7 +242,8 @@ private slots:
                 const bool isAsked = isCommand(packet, 0x07) && packet.at(10) == 0x0B;
                 return isAsked ? Answer(BootloaderPeer::propertyReply(frames::Bytes().u32(largest))) : Answer();
             });
-            TestedPort port(peer.path());
+            const auto owner = std::make_unique<TestedPort>(peer.path());
+            TestedPort &port = *owner;
             QVERIFY(port.connects());
             QCOMPARE(port.downloads(counting(size)), complete);
             QCOMPARE(port.progress, progress);
@@ -261,7 +265,8 @@ private slots:
                     return index == at ? Answer(kNothing) : Answer();
                 });
                 self = &peer;
-                TestedPort port(peer.path());
+                const auto owner = std::make_unique<TestedPort>(peer.path());
+                TestedPort &port = *owner;
                 if (at < 7) {
                     QMetaObject::invokeMethod(&port, "runConnect", Qt::QueuedConnection);
                 } else {

@@ -30,7 +30,7 @@ QByteArray convert(const QByteArray &file)
 QByteArray logged()
 {
     QFile file(QStringLiteral("debug.log"));
-    const QByteArray lines = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    QByteArray lines = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     file.remove();
     return lines;
 }
