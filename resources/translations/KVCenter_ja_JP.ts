@@ -62,11 +62,11 @@
     <name>AttitudeFigures</name>
     <message>
         <source>Live</source>
-        <translation type="unfinished"></translation>
+        <translation>現在</translation>
     </message>
     <message>
         <source>From home</source>
-        <translation type="unfinished"></translation>
+        <translation>基準との差</translation>
     </message>
     <message>
         <source>Roll</source>
@@ -143,7 +143,7 @@
     <name>BodyModel</name>
     <message>
         <source>The model cannot be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>モデルを表示できません。</translation>
     </message>
 </context>
 <context>
@@ -1057,7 +1057,7 @@ Pa</translation>
     <name>ThreeDScene</name>
     <message>
         <source>Drag to turn, right-drag to move, wheel to zoom, double-click to reset</source>
-        <translation type="unfinished"></translation>
+        <translation>ドラッグで回転、右ドラッグで移動、ホイールで拡大・縮小、ダブルクリックでリセット</translation>
     </message>
 </context>
 <context>
@@ -1514,11 +1514,11 @@ Pa</translation>
     </message>
     <message>
         <source>Ctrl+F</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+F</translation>
     </message>
     <message>
         <source>Spectrum of the selected node, with alarms</source>
-        <translation type="unfinished"></translation>
+        <translation>選択したノードのスペクトルと警報を表示します</translation>
     </message>
 </context>
 <context>
@@ -2069,7 +2069,7 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <name>form_threed</name>
     <message>
         <source>3D view</source>
-        <translation type="unfinished"></translation>
+        <translation>3D ビュー</translation>
     </message>
     <message>
         <source>Attitude</source>
@@ -2077,39 +2077,39 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>Home</source>
-        <translation>Home</translation>
+        <translation>基準姿勢</translation>
     </message>
     <message>
         <source>Set &amp;home</source>
-        <translation type="unfinished"></translation>
+        <translation>基準を設定(&amp;H)</translation>
     </message>
     <message>
         <source>Take the live pose as the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>現在の姿勢を基準にします</translation>
     </message>
     <message>
         <source>&amp;Clear home</source>
-        <translation type="unfinished"></translation>
+        <translation>基準を解除(&amp;C)</translation>
     </message>
     <message>
         <source>Forget the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>設定した基準姿勢を破棄します</translation>
     </message>
     <message>
         <source>Mounting</source>
-        <translation type="unfinished"></translation>
+        <translation>取付</translation>
     </message>
     <message>
         <source>How the axes of the device lie in the body</source>
-        <translation type="unfinished"></translation>
+        <translation>機体に対するデバイスの軸の向きです</translation>
     </message>
     <message>
         <source>RFU / ENU 312 (Z-X-Y)</source>
-        <translation type="unfinished"></translation>
+        <translation>RFU / ENU 312 (Z-X-Y)</translation>
     </message>
     <message>
         <source>FLU / NWU / ZYX Intrinsic (Z-Y-X)</source>
-        <translation type="unfinished"></translation>
+        <translation>FLU / NWU / ZYX 内因性 (Z-Y-X)</translation>
     </message>
     <message>
         <source>Model</source>
@@ -2117,71 +2117,71 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>Jet</source>
-        <translation type="unfinished"></translation>
+        <translation>ジェット機</translation>
     </message>
     <message>
         <source>Cube</source>
-        <translation type="unfinished"></translation>
+        <translation>立方体</translation>
     </message>
     <message>
         <source>Plane</source>
-        <translation type="unfinished"></translation>
+        <translation>飛行機</translation>
     </message>
     <message>
         <source>Spaceship</source>
-        <translation type="unfinished"></translation>
+        <translation>宇宙船</translation>
     </message>
     <message>
         <source>&amp;Load…</source>
-        <translation type="unfinished"></translation>
+        <translation>読み込み(&amp;L)…</translation>
     </message>
     <message>
         <source>Show a model from a file: X forward, Y up, Z to the right</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルのモデルを表示します（X: 前、Y: 上、Z: 右）</translation>
     </message>
     <message>
         <source>&amp;Reset view</source>
-        <translation type="unfinished"></translation>
+        <translation>視点をリセット(&amp;R)</translation>
     </message>
     <message>
         <source>Put the camera back (Home key in the picture, or double-click)</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラを初期位置に戻します（3D 画面で Home キーまたはダブルクリック）</translation>
     </message>
     <message>
         <source>The 3D picture needs OpenGL, which is not available here. The numbers are complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 表示に必要な OpenGL を利用できません。数値はすべて表示されます。</translation>
     </message>
     <message>
         <source>The 3D picture cannot be drawn here. The numbers are complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 画像を描画できません。数値はすべて表示されます。</translation>
     </message>
     <message>
         <source>The 3D picture could not be loaded. The log of the program tells why.</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 画像を読み込めませんでした。原因はプログラムのログを確認してください。</translation>
     </message>
     <message>
         <source>Current preset: RFU body / ENU navigation, Euler 312 intrinsic (Z-X-Y).</source>
-        <translation type="unfinished"></translation>
+        <translation>現在のプリセット: RFU 機体座標系 / ENU 航法座標系、オイラー角 312 内因性 (Z-X-Y)。</translation>
     </message>
     <message>
         <source>Current preset: FLU body or NWU body, Euler ZYX intrinsic (Z-Y-X).</source>
-        <translation type="unfinished"></translation>
+        <translation>現在のプリセット: FLU または NWU 機体座標系、オイラー角 ZYX 内因性 (Z-Y-X)。</translation>
     </message>
     <message>
         <source>Current preset: Unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>現在のプリセット: 不明。</translation>
     </message>
     <message>
         <source>Capture the current live pose as Home to compare mounting bias and installation offsets.</source>
-        <translation type="unfinished"></translation>
+        <translation>現在の姿勢を基準として記録すると、取り付けの傾きやずれを比較できます。</translation>
     </message>
     <message>
         <source>Home pose captured. Delta shows the live attitude relative to the stored home reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>基準姿勢を記録しました。「基準との差」は、記録した基準に対する現在の姿勢です。</translation>
     </message>
     <message>
         <source>Waiting for live attitude data to capture home pose.</source>
-        <translation type="unfinished"></translation>
+        <translation>基準姿勢を記録するため、姿勢データを待っています。</translation>
     </message>
     <message>
         <source>No attitude</source>
@@ -2189,19 +2189,19 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>From quaternion</source>
-        <translation type="unfinished"></translation>
+        <translation>クォータニオンから算出</translation>
     </message>
     <message>
         <source>From Euler angles</source>
-        <translation type="unfinished"></translation>
+        <translation>オイラー角から算出</translation>
     </message>
     <message>
         <source>Open 3D asset</source>
-        <translation type="unfinished"></translation>
+        <translation>3D モデルを開く</translation>
     </message>
     <message>
         <source>3D Assets (*.obj *.mesh)</source>
-        <translation type="unfinished"></translation>
+        <translation>3D モデル (*.obj *.mesh)</translation>
     </message>
 </context>
 <context>

@@ -62,11 +62,11 @@
     <name>AttitudeFigures</name>
     <message>
         <source>Live</source>
-        <translation type="unfinished"></translation>
+        <translation>현재</translation>
     </message>
     <message>
         <source>From home</source>
-        <translation type="unfinished"></translation>
+        <translation>기준 대비</translation>
     </message>
     <message>
         <source>Roll</source>
@@ -143,7 +143,7 @@
     <name>BodyModel</name>
     <message>
         <source>The model cannot be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>모델을 표시할 수 없습니다.</translation>
     </message>
 </context>
 <context>
@@ -1057,7 +1057,7 @@ Pa</translation>
     <name>ThreeDScene</name>
     <message>
         <source>Drag to turn, right-drag to move, wheel to zoom, double-click to reset</source>
-        <translation type="unfinished"></translation>
+        <translation>끌어서 회전, 오른쪽 버튼으로 끌어서 이동, 휠로 확대/축소, 두 번 클릭하여 초기화</translation>
     </message>
 </context>
 <context>
@@ -1514,11 +1514,11 @@ Pa</translation>
     </message>
     <message>
         <source>Ctrl+F</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+F</translation>
     </message>
     <message>
         <source>Spectrum of the selected node, with alarms</source>
-        <translation type="unfinished"></translation>
+        <translation>선택한 노드의 스펙트럼과 경보를 표시합니다</translation>
     </message>
 </context>
 <context>
@@ -2069,7 +2069,7 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <name>form_threed</name>
     <message>
         <source>3D view</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 보기</translation>
     </message>
     <message>
         <source>Attitude</source>
@@ -2077,39 +2077,39 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>Home</source>
-        <translation>Home</translation>
+        <translation>기준 자세</translation>
     </message>
     <message>
         <source>Set &amp;home</source>
-        <translation type="unfinished"></translation>
+        <translation>기준 설정(&amp;H)</translation>
     </message>
     <message>
         <source>Take the live pose as the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>현재 자세를 기준으로 설정합니다</translation>
     </message>
     <message>
         <source>&amp;Clear home</source>
-        <translation type="unfinished"></translation>
+        <translation>기준 해제(&amp;C)</translation>
     </message>
     <message>
         <source>Forget the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>설정한 기준 자세를 지웁니다</translation>
     </message>
     <message>
         <source>Mounting</source>
-        <translation type="unfinished"></translation>
+        <translation>장착</translation>
     </message>
     <message>
         <source>How the axes of the device lie in the body</source>
-        <translation type="unfinished"></translation>
+        <translation>기체에 대한 장치 축의 방향입니다</translation>
     </message>
     <message>
         <source>RFU / ENU 312 (Z-X-Y)</source>
-        <translation type="unfinished"></translation>
+        <translation>RFU / ENU 312 (Z-X-Y)</translation>
     </message>
     <message>
         <source>FLU / NWU / ZYX Intrinsic (Z-Y-X)</source>
-        <translation type="unfinished"></translation>
+        <translation>FLU / NWU / ZYX 내재적 (Z-Y-X)</translation>
     </message>
     <message>
         <source>Model</source>
@@ -2117,71 +2117,71 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>Jet</source>
-        <translation type="unfinished"></translation>
+        <translation>제트기</translation>
     </message>
     <message>
         <source>Cube</source>
-        <translation type="unfinished"></translation>
+        <translation>정육면체</translation>
     </message>
     <message>
         <source>Plane</source>
-        <translation type="unfinished"></translation>
+        <translation>비행기</translation>
     </message>
     <message>
         <source>Spaceship</source>
-        <translation type="unfinished"></translation>
+        <translation>우주선</translation>
     </message>
     <message>
         <source>&amp;Load…</source>
-        <translation type="unfinished"></translation>
+        <translation>불러오기(&amp;L)…</translation>
     </message>
     <message>
         <source>Show a model from a file: X forward, Y up, Z to the right</source>
-        <translation type="unfinished"></translation>
+        <translation>파일의 모델을 표시합니다(X: 앞, Y: 위, Z: 오른쪽)</translation>
     </message>
     <message>
         <source>&amp;Reset view</source>
-        <translation type="unfinished"></translation>
+        <translation>시점 초기화(&amp;R)</translation>
     </message>
     <message>
         <source>Put the camera back (Home key in the picture, or double-click)</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라를 처음 위치로 되돌립니다(3D 화면에서 Home 키 또는 두 번 클릭)</translation>
     </message>
     <message>
         <source>The 3D picture needs OpenGL, which is not available here. The numbers are complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 표시에 필요한 OpenGL을 사용할 수 없습니다. 수치는 모두 표시됩니다.</translation>
     </message>
     <message>
         <source>The 3D picture cannot be drawn here. The numbers are complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 화면을 그릴 수 없습니다. 수치는 모두 표시됩니다.</translation>
     </message>
     <message>
         <source>The 3D picture could not be loaded. The log of the program tells why.</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 화면을 불러올 수 없습니다. 원인은 프로그램 로그를 확인하십시오.</translation>
     </message>
     <message>
         <source>Current preset: RFU body / ENU navigation, Euler 312 intrinsic (Z-X-Y).</source>
-        <translation type="unfinished"></translation>
+        <translation>현재 프리셋: RFU 기체 좌표계 / ENU 항법 좌표계, 오일러 각 312 내재적 (Z-X-Y).</translation>
     </message>
     <message>
         <source>Current preset: FLU body or NWU body, Euler ZYX intrinsic (Z-Y-X).</source>
-        <translation type="unfinished"></translation>
+        <translation>현재 프리셋: FLU 또는 NWU 기체 좌표계, 오일러 각 ZYX 내재적 (Z-Y-X).</translation>
     </message>
     <message>
         <source>Current preset: Unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>현재 프리셋: 알 수 없음.</translation>
     </message>
     <message>
         <source>Capture the current live pose as Home to compare mounting bias and installation offsets.</source>
-        <translation type="unfinished"></translation>
+        <translation>현재 자세를 기준으로 저장하면 장착 기울기와 설치 오차를 비교할 수 있습니다.</translation>
     </message>
     <message>
         <source>Home pose captured. Delta shows the live attitude relative to the stored home reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>기준 자세를 저장했습니다. &apos;기준 대비&apos;는 저장된 기준에 대한 현재 자세입니다.</translation>
     </message>
     <message>
         <source>Waiting for live attitude data to capture home pose.</source>
-        <translation type="unfinished"></translation>
+        <translation>기준 자세를 저장하기 위해 자세 데이터를 기다리는 중입니다.</translation>
     </message>
     <message>
         <source>No attitude</source>
@@ -2189,19 +2189,19 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>From quaternion</source>
-        <translation type="unfinished"></translation>
+        <translation>쿼터니언에서 계산</translation>
     </message>
     <message>
         <source>From Euler angles</source>
-        <translation type="unfinished"></translation>
+        <translation>오일러 각에서 계산</translation>
     </message>
     <message>
         <source>Open 3D asset</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 모델 열기</translation>
     </message>
     <message>
         <source>3D Assets (*.obj *.mesh)</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 모델 (*.obj *.mesh)</translation>
     </message>
 </context>
 <context>
