@@ -1,0 +1,34 @@
+import QtQuick
+import QtQuick3D
+import QtQuick3D.AssetUtils
+import KVCenter.ThreeD
+
+/// The model of a source: a built-in scene, whose size is right, or one of the two files, fitted to it.
+Node {
+    id: body
+
+    property url source
+    required property ObjGeometry objModel
+    required property MeshFile meshModel
+    readonly property bool isScene: source.toString().endsWith(".qml")
+    readonly property string error: isScene && builtIn.status === Loader3D.Error ? qsTr("The model cannot be shown.") : ""
+
+    Loader3D {
+        id: builtIn
+
+        active: body.isScene
+        source: body.isScene ? body.source : ""
+    }
+    FittedModel {
+        visible: body.objModel.source.toString() !== "" && body.objModel.error === ""
+        geometry: visible ? body.objModel : null
+        minimum: body.objModel.minimum
+        maximum: body.objModel.maximum
+    }
+    FittedModel {
+        visible: body.meshModel.source.toString() !== "" && body.meshModel.error === ""
+        source: visible ? body.meshModel.source : ""
+        minimum: body.meshModel.minimum
+        maximum: body.meshModel.maximum
+    }
+}

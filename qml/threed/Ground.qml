@@ -1,0 +1,40 @@
+import QtQuick
+import QtQuick3D
+import QtQuick3D.Helpers
+
+/// The ground below the body: a grid that lies level, and an arrow to the north (+X).
+Node {
+    y: -58
+
+    Model {
+        eulerRotation.x: 90
+        geometry: GridGeometry {
+            horizontalLines: 11
+            verticalLines: 11
+            horizontalStep: 20
+            verticalStep: 20
+        }
+        materials: DefaultMaterial {
+            lighting: DefaultMaterial.NoLighting
+            diffuseColor: SceneColors.grid
+        }
+    }
+    Node {
+        x: 100
+
+        Model {
+            source: "#Cone"
+            x: 4
+            eulerRotation.z: -90
+            scale: Qt.vector3d(0.1, 0.14, 0.02)
+            eulerRotation.x: 90
+            materials: mark
+        }
+    }
+    DefaultMaterial {
+        id: mark
+
+        lighting: DefaultMaterial.NoLighting
+        diffuseColor: SceneColors.north
+    }
+}

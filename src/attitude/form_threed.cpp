@@ -1,0 +1,370 @@
+#include "attitude/form_threed.h"
+
+#include <QDebug>
+#include <QEvent>
+#include <QFileDialog>
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickView>
+#include <QSGRendererInterface>
+#include <QScreen>
+#include <QScrollBar>
+#include <QSettings>
+#include <QSignalBlocker>
+
+#include "app/settings_keys.h"
+#include "app/theme.h"
+#include "attitude/qt6_model_asset.h"
+#include "ui_form_threed.h"
+
+namespace {
+
+constexpr int kReplotMs = 25;
+constexpr QLatin1String kPresetKey("THREED/ROTATION_PRESET");
+constexpr QLatin1String kGeometryKey("THREED/GEOMETRY");
+constexpr QLatin1String kFolderKey("THREED/FOLDER");
+constexpr QLatin1String kDefaultModel("jet.obj");
+/// In the order of the selector's entries.
+constexpr std::array kModels{QLatin1String("jet.obj"), QLatin1String("cube.obj"), QLatin1String("plane.obj"),
+                             QLatin1String("spaceship.obj")};
+
+QSettings settingsFile()
+{
+    return {settings_keys::kFile, QSettings::IniFormat};
+}
+
+void setIfChanged(QLabel *label, const QString &text)
+{
+    if (label->text() != text)
+        label->setText(text);
+}
+
+} // namespace
+
+form_threed::form_threed(QWidget *parent) : QWidget(parent, Qt::Window), m_ui(std::make_unique<Ui::form_threed>())
+{
+    m_ui->setupUi(this);
+    m_replotTimer.setInterval(kReplotMs);
+    m_replotTimer.setTimerType(Qt::PreciseTimer);
+    connect(&m_replotTimer, &QTimer::timeout, this, &form_threed::objectReplot);
+    initView();
+    setOrientationPreset(loadRotationPreset());
+    updateRotationPresetUi();
+    fitPanel();
+    if (!restoreGeometry(settingsFile().value(kGeometryKey).toByteArray()))
+        resize(size().boundedTo(screen()->availableSize()));
+}
+
+form_threed::~form_threed()
+{
+    close();
+    delete m_container; // the scene goes before the backend that it is bound to
+}
+
+void form_threed::initView()
+{
+    m_view = new QQuickView;
+    m_container = QWidget::createWindowContainer(m_view, m_ui->STK_stage);
+    // The scene smooths its own edges; samples of the window on top would only cost.
+    QSurfaceFormat surface = m_view->format();
+    surface.setSamples(0);
+    m_view->setFormat(surface);
+    m_view->setColor(theme::kSurface);
+    m_view->setResizeMode(QQuickView::SizeRootObjectToView);
+    if (m_view->rendererInterface()->graphicsApi() == QSGRendererInterface::Software) {
+        showNoPicture(tr("The 3D picture needs OpenGL, which is not available here. The numbers are complete."));
+    } else {
+        m_container->setFocusPolicy(Qt::StrongFocus);
+        m_container->setMinimumSize(320, 240);
+        m_ui->STK_stage->addWidget(m_container);
+        m_ui->STK_stage->setCurrentWidget(m_container);
+        connect(
+            m_view, &QQuickWindow::sceneGraphError, this,
+            [this](QQuickWindow::SceneGraphError /*error*/, const QString &message) {
+                qWarning().noquote() << "3D view:" << message;
+                showNoPicture(tr("The 3D picture cannot be drawn here. The numbers are complete."));
+            },
+            Qt::QueuedConnection);
+        m_view->engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));
+        m_view->rootContext()->setContextProperty(QStringLiteral("backend"), &m_backend);
+        m_view->setSource(QUrl(QStringLiteral("qrc:/qml/ThreeDView.qml")));
+        if (m_view->status() == QQuickView::Error) {
+            qWarning() << "ThreeDView.qml errors:" << m_view->errors();
+            showNoPicture(tr("The 3D picture could not be loaded. The log of the program tells why."));
+        }
+    }
+
+    QString error;
+    if (!loadobj(Qt6ModelAsset::defaultBundledObjFilePath(kDefaultModel), &error)) {
+        qWarning().noquote() << "Failed to load default 3D asset:" << error;
+        loadobj(Qt6ModelAsset::builtInScene(kDefaultModel), nullptr); // no window without a model
+    }
+    updateModelUi();
+}
+
+void form_threed::showNoPicture(const QString &reason)
+{
+    m_ui->LBL_noPicture->setText(reason);
+    m_ui->STK_stage->setCurrentWidget(m_ui->LBL_noPicture);
+    m_ui->BTNResetCamera->setEnabled(false);
+    m_ui->BTNResetCamera->setToolTip(reason);
+    if (!m_container)
+        return;
+    m_container->hide();
+    // This may run while the view is busy.
+    m_container->deleteLater();
+    m_container = nullptr;
+    m_view = nullptr;
+}
+
+void form_threed::open()
+{
+    if (isMinimized())
+        showNormal();
+    show();
+    raise();
+    activateWindow();
+}
+
+void form_threed::setAttitude(const NormalizedAttitude &attitude)
+{
+    m_attitude = attitude;
+}
+
+void form_threed::startThreeDPlot()
+{
+    objectReplot();
+    m_replotTimer.start();
+}
+
+void form_threed::stopThreeDPlot()
+{
+    m_replotTimer.stop();
+}
+
+void form_threed::objectReplot()
+{
+    if (m_isAwaitingHome && m_attitude.valid)
+        captureHome();
+    m_backend.setAttitude(m_attitude.quaternion, m_attitude.euler);
+    std::optional<QVector3D> relative;
+    if (m_hasHome && m_attitude.valid) {
+        relative = attitude_convention::relativeDisplayEuler(m_attitude.quaternion, m_home);
+        m_backend.setRelativeEuler(*relative);
+    }
+    m_ui->figures->show(m_attitude, relative);
+    updateHomeReferenceUi();
+}
+
+void form_threed::setOrientationPreset(OrientationPreset preset)
+{
+    const QSignalBlocker blocker(m_ui->CBRotationPreset);
+    m_ui->CBRotationPreset->setCurrentIndex(preset == OrientationPreset::RfuEnu312   ? 0
+                                            : preset == OrientationPreset::FluNwuZyx ? 1
+                                                                                     : -1);
+    applyPreset(preset);
+}
+
+void form_threed::applyPreset(OrientationPreset preset)
+{
+    if (preset != m_preset)
+        clearHomeReference();
+    m_preset = preset;
+    m_backend.setBodyAxes(
+        BodyAxesBasis::fromAxisMatrix(attitude_convention::toDisplayAttitude(0, 0, 0, preset).axisMatrix));
+    updateRotationPresetUi();
+    objectReplot();
+}
+
+void form_threed::on_CBRotationPreset_currentIndexChanged(int index)
+{
+    if (index != 0 && index != 1)
+        return;
+    applyPreset(index == 0 ? OrientationPreset::RfuEnu312 : OrientationPreset::FluNwuZyx);
+    saveRotationPreset();
+    emit orientationPresetChanged(m_preset);
+}
+
+OrientationPreset form_threed::loadRotationPreset() const
+{
+    return settingsFile().value(kPresetKey).toInt() == 1 ? OrientationPreset::FluNwuZyx : OrientationPreset::RfuEnu312;
+}
+
+void form_threed::saveRotationPreset() const
+{
+    settingsFile().setValue(kPresetKey, int(m_preset));
+}
+
+void form_threed::updateRotationPresetUi()
+{
+    switch (m_preset) {
+    case OrientationPreset::RfuEnu312:
+        m_ui->LBL_preset->setText(tr("Current preset: RFU body / ENU navigation, Euler 312 intrinsic (Z-X-Y)."));
+        return;
+    case OrientationPreset::FluNwuZyx:
+        m_ui->LBL_preset->setText(tr("Current preset: FLU body or NWU body, Euler ZYX intrinsic (Z-Y-X)."));
+        return;
+    case OrientationPreset::None:
+        break;
+    }
+    m_ui->LBL_preset->setText(tr("Current preset: Unknown."));
+}
+
+void form_threed::on_BTNSetHome_clicked()
+{
+    if (m_attitude.valid)
+        captureHome();
+    else
+        m_isAwaitingHome = true;
+    objectReplot();
+}
+
+void form_threed::captureHome()
+{
+    m_home = m_attitude.quaternion;
+    m_hasHome = true;
+    m_isAwaitingHome = false;
+    m_backend.setHomeReference(m_home, true);
+}
+
+void form_threed::on_BTNClearHome_clicked()
+{
+    clearHomeReference();
+}
+
+void form_threed::clearHomeReference()
+{
+    m_home = {};
+    m_hasHome = false;
+    m_isAwaitingHome = false;
+    m_backend.setHomeReference(m_home, false);
+    m_backend.setRelativeEuler({});
+    objectReplot();
+}
+
+void form_threed::updateHomeReferenceUi()
+{
+    QString text = tr("Capture the current live pose as Home to compare mounting bias and installation offsets.");
+    if (m_hasHome)
+        text = tr("Home pose captured. Delta shows the live attitude relative to the stored home reference.");
+    else if (m_isAwaitingHome)
+        text = tr("Waiting for live attitude data to capture home pose.");
+    setIfChanged(m_ui->LBL_home, text);
+    m_ui->BTNClearHome->setEnabled(m_hasHome || m_isAwaitingHome);
+    setIfChanged(m_ui->LBL_source, !m_attitude.valid           ? tr("No attitude")
+                                   : m_attitude.fromQuaternion ? tr("From quaternion")
+                                                               : tr("From Euler angles"));
+}
+
+void form_threed::on_CBModel_activated(int index)
+{
+    QString error;
+    loadobj(Qt6ModelAsset::builtInScene(kModels.at(size_t(index))), &error);
+    m_ui->LBL_model->setText(error);
+    updateModelUi();
+}
+
+void form_threed::on_BNTLoad_clicked()
+{
+    QString folder = settingsFile().value(kFolderKey).toString();
+    if (folder.isEmpty())
+        folder = QFileInfo(Qt6ModelAsset::defaultBundledObjFilePath(kDefaultModel)).path();
+    const QString path =
+        QFileDialog::getOpenFileName(this, tr("Open 3D asset"), folder, tr("3D Assets (*.obj *.mesh)"));
+    if (path.isEmpty())
+        return;
+    settingsFile().setValue(kFolderKey, QFileInfo(path).path());
+    QString error;
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor); // a large model takes a second
+    loadobj(path, &error);
+    QGuiApplication::restoreOverrideCursor();
+    m_ui->LBL_model->setText(error);
+    updateModelUi();
+}
+
+bool form_threed::loadobj(const QString &path, QString *error)
+{
+    QString problem;
+    const QUrl source = Qt6ModelAsset::resolveModelSource(path, &problem);
+    if (!source.isEmpty()) {
+        const QUrl previous = m_backend.objSource();
+        m_backend.setObjSource({}); // a file that has changed is read again
+        m_backend.setObjSource(source);
+        if (m_view && m_view->rootObject())
+            problem = m_view->rootObject()->property("modelError").toString();
+        if (!problem.isEmpty())
+            m_backend.setObjSource(previous);
+    }
+    if (error)
+        *error = problem;
+    return problem.isEmpty();
+}
+
+void form_threed::updateModelUi()
+{
+    const QUrl source = m_backend.objSource();
+    int index = -1;
+    for (size_t i = 0; i < kModels.size(); ++i) {
+        if (QUrl(Qt6ModelAsset::builtInScene(kModels[i])) == source)
+            index = int(i);
+    }
+    m_ui->CBModel->setPlaceholderText(source.fileName());
+    m_ui->CBModel->setCurrentIndex(index);
+    m_ui->CBModel->setToolTip(index < 0 ? source.toLocalFile() : QString());
+    m_ui->LBL_model->setVisible(!m_ui->LBL_model->text().isEmpty());
+}
+
+void form_threed::on_BTNResetCamera_clicked()
+{
+    m_backend.resetCamera();
+}
+
+void form_threed::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    startThreeDPlot();
+}
+
+void form_threed::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    stopThreeDPlot();
+    settingsFile().setValue(kGeometryKey, saveGeometry());
+}
+
+void form_threed::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    switch (event->type()) {
+    case QEvent::WindowStateChange:
+        if (isMinimized())
+            stopThreeDPlot();
+        else if (isVisible())
+            startThreeDPlot();
+        break;
+    case QEvent::LanguageChange:
+        m_ui->retranslateUi(this);
+        m_ui->LBL_model->clear();
+        updateRotationPresetUi();
+        updateHomeReferenceUi();
+        updateModelUi();
+        if (m_view)
+            m_view->engine()->retranslate();
+        fitPanel();
+        break;
+    case QEvent::FontChange:
+        fitPanel();
+        break;
+    default:
+        break;
+    }
+}
+
+/// The panel is as wide as its numbers and buttons need; its sentences wrap.
+void form_threed::fitPanel()
+{
+    m_ui->panel->ensurePolished();
+    const int content = qMax(m_ui->panel->minimumSizeHint().width(), fontMetrics().averageCharWidth() * 42);
+    m_ui->SCR_panel->setFixedWidth(content + m_ui->SCR_panel->verticalScrollBar()->sizeHint().width());
+}
