@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Checks of form: the folder graph, formatting, clang-tidy. Needs a configured dev build (./test makes one).
+# Checks of form: the folder graph, formatting, qmllint, clang-tidy. Needs a configured dev build (./test makes one).
 # Prints only what is wrong, and a line when all is well.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
@@ -9,13 +9,21 @@ python3 scripts/check_folders.py
 mapfile -t files < <(git ls-files '*.cpp' '*.h')
 clang-format-14 --dry-run --Werror "${files[@]}"
 
+lint=$(mktemp)
+trap 'rm -f "$lint"' EXIT
+if ! cmake --build build/dev --target all_qmllint >"$lint" 2>&1; then
+  cat "$lint" >&2
+  echo "check: qmllint is not content, see above" >&2
+  exit 1
+fi
+
 mapfile -t sources < <(git ls-files 'src/*.cpp' 'simulator/*.cpp')
 remarks=$(mktemp) # clang-tidy counts suppressed warnings there; worth reading only when it fails
-trap 'rm -f "$remarks"' EXIT
+trap 'rm -f "$lint" "$remarks"' EXIT
 if ! printf '%s\0' "${sources[@]}" |
   xargs -0 -P 2 -n 4 clang-tidy-14 -p build/dev --quiet --extra-arg=-Wno-unknown-warning-option 2>"$remarks"; then
   cat "$remarks" >&2
   echo "check: clang-tidy is not content, see above" >&2
   exit 1
 fi
-echo "check: folders, formatting and clang-tidy are in order"
+echo "check: folders, formatting, qmllint and clang-tidy are in order"

@@ -10,14 +10,14 @@ packages=(
   qt6-base-dev qt6-serialport-dev libgl-dev libgl1-mesa-dri
   qt6-declarative-dev qt6-declarative-dev-tools qt6-shadertools-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
   qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts qml6-module-qtquick-templates
-  qml6-module-qtquick-window qml6-module-qtquick-shapes qml6-module-qtqml-workerscript
+  qml6-module-qtquick-window qml6-module-qtquick-shapes qml6-module-qtqml qml6-module-qtqml-workerscript
   qt6-translations-l10n
   # benchmarks, and a plotting library to compare with
   libbenchmark-dev libqcustomplot-dev
   # fonts: the interface in Latin and in Chinese, Japanese and Korean, and the two built-in fixed-pitch fonts
   fonts-noto-core fonts-noto-cjk fonts-noto-mono fonts-hack
-  # tests: a display without a screen
-  xvfb xauth
+  # tests: a display without a screen, and a transform and a converter to compare with
+  xvfb xauth libfftw3-dev srecord
   # checks
   clang-format-14 clang-tidy-14 python3
 )
