@@ -5,7 +5,6 @@ import QtQuick3D
 QtObject {
     id: rig
 
-    property Camera camera
     /// Degrees; 0 looks to -Z, -90 to +X.
     property real azimuth: defaultAzimuth
     /// Degrees above the ground.
@@ -16,7 +15,7 @@ QtObject {
 
     readonly property real defaultAzimuth: -62
     readonly property real defaultElevation: 20
-    readonly property real defaultDistance: 270
+    readonly property real defaultDistance: 290
     readonly property real reach: 150
 
     signal changed

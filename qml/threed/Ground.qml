@@ -11,25 +11,20 @@ Node {
         geometry: GridGeometry {
             horizontalLines: 11
             verticalLines: 11
-            horizontalStep: 20
-            verticalStep: 20
+            horizontalStep: 16
+            verticalStep: 16
         }
         materials: DefaultMaterial {
             lighting: DefaultMaterial.NoLighting
             diffuseColor: SceneColors.grid
         }
     }
-    Node {
-        x: 100
-
-        Model {
-            source: "#Cone"
-            x: 4
-            eulerRotation.z: -90
-            scale: Qt.vector3d(0.1, 0.14, 0.02)
-            eulerRotation.x: 90
-            materials: mark
-        }
+    Model {
+        source: "#Cone"
+        x: 84
+        eulerRotation.z: -90
+        scale: Qt.vector3d(0.02, 0.14, 0.1)
+        materials: mark
     }
     DefaultMaterial {
         id: mark

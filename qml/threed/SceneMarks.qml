@@ -14,12 +14,30 @@ Item {
     /// Raised when the camera or the size has changed: places are worked out again.
     property int revision: 0
 
+    // Places are known from the first frame on.
+    Connections {
+        target: marks.Window.window
+        enabled: !first.seen
+
+        function onFrameSwapped() {
+            first.seen = true;
+            marks.revision++;
+        }
+    }
+    QtObject {
+        id: first
+
+        property bool seen: false
+    }
+
+    /// Place in the picture; z is above 0 in front of the camera. `revision` only makes bindings depend on it.
+    function seenAt(place, revision) {
+        return view.camera ? view.mapFrom3DScene(place) : Qt.vector3d(0, 0, -1);
+    }
+
     component Mark: Text {
         required property vector3d place
-        readonly property vector3d seen: {
-            marks.revision;
-            return marks.view.mapFrom3DScene(place);
-        }
+        readonly property vector3d seen: marks.seenAt(place, marks.revision)
 
         x: Math.round(seen.x - width / 2)
         y: Math.round(seen.y - height / 2)
@@ -53,19 +71,19 @@ Item {
         model: [
             {
                 text: qsTr("N", "north"),
-                place: Qt.vector3d(122, -58, 0)
+                place: Qt.vector3d(104, -58, 0)
             },
             {
                 text: qsTr("E", "east"),
-                place: Qt.vector3d(0, -58, 110)
+                place: Qt.vector3d(0, -58, 90)
             },
             {
                 text: qsTr("S", "south"),
-                place: Qt.vector3d(-110, -58, 0)
+                place: Qt.vector3d(-90, -58, 0)
             },
             {
                 text: qsTr("W", "west"),
-                place: Qt.vector3d(0, -58, -110)
+                place: Qt.vector3d(0, -58, -90)
             }
         ]
 

@@ -45,7 +45,7 @@ Item {
 
         objectName: "view3D"
         anchors.fill: parent
-        camera: rig.camera
+        camera: camera
         importScene: world
         environment: SceneEnvironment {
             backgroundMode: SceneEnvironment.Color
@@ -64,13 +64,13 @@ Item {
             // From over the left shoulder, so that no side is without form.
             DirectionalLight {
                 eulerRotation: Qt.vector3d(-18, -24, 0)
-                brightness: 0.45
+                brightness: 0.4
             }
         }
         DirectionalLight {
             eulerRotation: Qt.vector3d(-65, -35, 0)
-            brightness: 0.5
-            ambientColor: "#606060"
+            brightness: 0.4
+            ambientColor: "#868686"
         }
 
         Ground {}
@@ -114,9 +114,6 @@ Item {
                 clipFar: 3000
             }
         }
-    }
-    Binding {
-        rig.camera: camera
     }
 
     SceneMarks {

@@ -84,14 +84,14 @@ class Model:
                 if not any(around):  # a point: its neighbours tell
                     near = behind if i == 0 else ahead
                     around = sub(near[(k + 1) % steps], near[k - 1])
-                row.append(unit(cross(sub(behind[k], ahead[k]), around)))
+                row.append(unit(cross(around, sub(behind[k], ahead[k]))))
             normals.append(row)
         for i in range(len(rings) - 1):
             for k in range(steps):
                 j = (k + 1) % steps
                 lower = under and k >= steps // 2
                 paint = under if lower else material
-                corners = [(i, k), (i + 1, k), (i + 1, j), (i, j)]
+                corners = [(i, k), (i, j), (i + 1, j), (i + 1, k)]
                 kept = [c for n, c in enumerate(corners)
                         if rings[c[0]][c[1]] != rings[corners[n - 1][0]][corners[n - 1][1]]]
                 self.face(paint, [rings[r][c] for r, c in kept], [normals[r][c] for r, c in kept])

@@ -48,6 +48,7 @@ form_threed::form_threed(QWidget *parent) : QWidget(parent, Qt::Window), m_ui(st
     m_replotTimer.setInterval(kReplotMs);
     m_replotTimer.setTimerType(Qt::PreciseTimer);
     connect(&m_replotTimer, &QTimer::timeout, this, &form_threed::objectReplot);
+    m_ui->LBL_model->hide();
     initView();
     setOrientationPreset(loadRotationPreset());
     updateRotationPresetUi();
@@ -100,7 +101,6 @@ void form_threed::initView()
         qWarning().noquote() << "Failed to load default 3D asset:" << error;
         loadobj(Qt6ModelAsset::builtInScene(kDefaultModel), nullptr); // no window without a model
     }
-    updateModelUi();
 }
 
 void form_threed::showNoPicture(const QString &reason)
@@ -259,10 +259,7 @@ void form_threed::updateHomeReferenceUi()
 
 void form_threed::on_CBModel_activated(int index)
 {
-    QString error;
-    loadobj(Qt6ModelAsset::builtInScene(kModels.at(size_t(index))), &error);
-    m_ui->LBL_model->setText(error);
-    updateModelUi();
+    chooseModel(Qt6ModelAsset::builtInScene(kModels.at(size_t(index))));
 }
 
 void form_threed::on_BNTLoad_clicked()
@@ -275,12 +272,17 @@ void form_threed::on_BNTLoad_clicked()
     if (path.isEmpty())
         return;
     settingsFile().setValue(kFolderKey, QFileInfo(path).path());
+    chooseModel(path);
+}
+
+void form_threed::chooseModel(const QString &path)
+{
     QString error;
     QGuiApplication::setOverrideCursor(Qt::WaitCursor); // a large model takes a second
     loadobj(path, &error);
     QGuiApplication::restoreOverrideCursor();
     m_ui->LBL_model->setText(error);
-    updateModelUi();
+    m_ui->LBL_model->setVisible(!error.isEmpty());
 }
 
 bool form_threed::loadobj(const QString &path, QString *error)
@@ -298,6 +300,7 @@ bool form_threed::loadobj(const QString &path, QString *error)
     }
     if (error)
         *error = problem;
+    updateModelUi();
     return problem.isEmpty();
 }
 
@@ -312,7 +315,6 @@ void form_threed::updateModelUi()
     m_ui->CBModel->setPlaceholderText(source.fileName());
     m_ui->CBModel->setCurrentIndex(index);
     m_ui->CBModel->setToolTip(index < 0 ? source.toLocalFile() : QString());
-    m_ui->LBL_model->setVisible(!m_ui->LBL_model->text().isEmpty());
 }
 
 void form_threed::on_BTNResetCamera_clicked()
@@ -345,7 +347,7 @@ void form_threed::changeEvent(QEvent *event)
         break;
     case QEvent::LanguageChange:
         m_ui->retranslateUi(this);
-        m_ui->LBL_model->clear();
+        m_ui->LBL_model->hide();
         updateRotationPresetUi();
         updateHomeReferenceUi();
         updateModelUi();

@@ -82,6 +82,8 @@ private:
     void showNoPicture(const QString &reason);
     void applyPreset(OrientationPreset preset);
     void captureHome();
+    /// loadobj() for the user: a failure is told in the window.
+    void chooseModel(const QString &path);
     OrientationPreset loadRotationPreset() const;
     void saveRotationPreset() const;
     void updateRotationPresetUi();
