@@ -2603,10 +2603,6 @@ Ready to download firmware.
         <translation>设备将以新固件重启。</translation>
     </message>
     <message>
-        <source>But the bootloader reported status %1: if the firmware does not start, press Connect and download again.</source>
-        <translation>但引导程序报告了状态 %1：如果固件无法启动，请点击“连接”并重新烧录。</translation>
-    </message>
-    <message>
         <source>%1 of %2 bytes</source>
         <translation>%1 / %2 字节</translation>
     </message>
@@ -2641,6 +2637,18 @@ Ready to download firmware.
     <message>
         <source>The image is very small for a firmware.</source>
         <translation>对固件而言，此映像过小。</translation>
+    </message>
+    <message>
+        <source>But the bootloader reported status %1.</source>
+        <translation>但引导程序报告了状态 %1。</translation>
+    </message>
+    <message>
+        <source>But the bootloader did not confirm the whole image.</source>
+        <translation>但引导程序未确认完整的映像。</translation>
+    </message>
+    <message>
+        <source>If the firmware does not start, press Connect and download again.</source>
+        <translation>如果固件无法启动，请点击“连接”并重新烧录。</translation>
     </message>
 </context>
 <context>

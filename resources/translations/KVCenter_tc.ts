@@ -2603,10 +2603,6 @@ Ready to download firmware.
         <translation>裝置將以新韌體重新啟動。</translation>
     </message>
     <message>
-        <source>But the bootloader reported status %1: if the firmware does not start, press Connect and download again.</source>
-        <translation>但啟動載入程式回報了狀態 %1：如果韌體無法啟動，請按一下「連線」並重新燒錄。</translation>
-    </message>
-    <message>
         <source>%1 of %2 bytes</source>
         <translation>%1 / %2 位元組</translation>
     </message>
@@ -2641,6 +2637,18 @@ Ready to download firmware.
     <message>
         <source>The image is very small for a firmware.</source>
         <translation>以韌體而言，此映像檔過小。</translation>
+    </message>
+    <message>
+        <source>But the bootloader reported status %1.</source>
+        <translation>但啟動載入程式回報了狀態 %1。</translation>
+    </message>
+    <message>
+        <source>But the bootloader did not confirm the whole image.</source>
+        <translation>但啟動載入程式未確認完整的映像檔。</translation>
+    </message>
+    <message>
+        <source>If the firmware does not start, press Connect and download again.</source>
+        <translation>如果韌體無法啟動，請按一下「連線」並重新燒錄。</translation>
     </message>
 </context>
 <context>
