@@ -47,7 +47,7 @@ Item {
             bottomMargin: view.gap
             rightMargin: view.gap
         }
-        width: Math.round(Math.max(300, Math.min(view.width * 0.36, Theme.font.pointSize * 34)))
+        width: Math.round(Math.max(324, Math.min(view.width * 0.36, Theme.font.pointSize * 34)))
         contentHeight: column.height
         clip: true
         boundsBehavior: Flickable.StopAtBounds

@@ -94,7 +94,8 @@ double FftTrans::calNormAndFindMax(const std::complex<double> *data, int n, doub
     return largest;
 }
 
-void FftTrans::fftCalculate(unsigned long long batchId, signed char channel, int sampleRateHz, QList<double> samples)
+void FftTrans::fftCalculate(unsigned long long batchId, signed char channel, int sampleRateHz,
+                            const QList<double> &samples)
 {
     const qsizetype count = std::min<qsizetype>(samples.size(), m_points);
     const double *newest = samples.constData() + (samples.size() - count);

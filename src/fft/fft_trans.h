@@ -49,7 +49,7 @@ public:
 
 public slots:
     /// Computes one spectrum. Fewer samples than the size are followed by zeros; of more the newest count.
-    void fftCalculate(unsigned long long batchId, signed char channel, int sampleRateHz, QList<double> samples);
+    void fftCalculate(unsigned long long batchId, signed char channel, int sampleRateHz, const QList<double> &samples);
 
 signals:
     /// The answer to fftCalculate() with its batch and channel. `maxAmplitude` is the largest amplitude, cut to whole

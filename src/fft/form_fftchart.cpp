@@ -281,7 +281,7 @@ void form_fftchart::startFFTCal()
         emit start_fft_cal(batch->id, static_cast<signed char>(channel), batch->rateHz, batch->samples[channel]);
 }
 
-void form_fftchart::get_fft_result(unsigned long long batchId, signed char channel, QList<QPointF> points, int)
+void form_fftchart::get_fft_result(unsigned long long batchId, signed char channel, const QList<QPointF> &points, int)
 {
     const FftResultOutcome outcome = m_sampler.takeResult(batchId, channel, points);
     if (!outcome.points.isEmpty())

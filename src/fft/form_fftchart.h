@@ -57,7 +57,8 @@ private slots:
     void on_CB_hold_currentIndexChanged(int index);
     void onFftCalPointTextChanged(const QString &text);
     void on_SB_y_axis_max_valueChanged(double value);
-    void get_fft_result(unsigned long long batchId, signed char channel, QList<QPointF> points, int maxAmplitude);
+    void get_fft_result(unsigned long long batchId, signed char channel, const QList<QPointF> &points,
+                        int maxAmplitude);
     void onTimer50ms();
 
 private:

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "app/theme.h"
 #include "wave/axis_ticks.h"
@@ -48,6 +49,7 @@ void SpectrumViewState::setDecibels(bool decibels)
     if (decibels == m_decibels)
         return;
     m_decibels = decibels;
+    m_fitAnew = m_fitted;
     m_y = fullY();
     emit viewChanged();
     emit marksChanged();
@@ -60,6 +62,7 @@ void SpectrumViewState::setFitted(bool fitted)
     if (fitted == m_fitted)
         return;
     m_fitted = fitted;
+    m_fitAnew = fitted;
     m_y = fullY();
     emit viewChanged();
     emit pictureChanged();
@@ -308,7 +311,10 @@ void SpectrumViewState::fitLevels(double low, double high)
         return;
     low = m_decibels ? std::max(low, high - kFittedDecibels) : 0;
     const chart_range::Range full = fullY();
-    setY(chart_range::fitted(m_y, low, high, {full.min, full.max, m_decibels ? kMinDecibelSpan : kMinAmplitudeSpan}));
+    constexpr chart_range::Range kHoldsNothing{1, 0};
+    const chart_range::Range current = std::exchange(m_fitAnew, false) ? kHoldsNothing : m_y;
+    setY(chart_range::fitted(current, low, high,
+                             {full.min, full.max, m_decibels ? kMinDecibelSpan : kMinAmplitudeSpan}));
 }
 
 void SpectrumViewState::dataChanged()

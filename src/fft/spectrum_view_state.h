@@ -136,6 +136,7 @@ private:
     chart_range::Range m_y{0, 1};
     bool m_decibels = false;
     bool m_fitted = false;
+    bool m_fitAnew = false; ///< whatever is visible now
     double m_maxFreq = 50;
     double m_ceiling = 0;
     std::array<bool, 3> m_visible{true, true, true};
