@@ -47,6 +47,7 @@ struct BootloaderOutcome
     /// First status other than 0 that the target answered to erase or write, or behind the data. The dialogue goes on
     /// regardless; when it fails later, this is the likely reason.
     quint32 targetStatus = 0;
-    int sentPackets = 0;     ///< data packets since the last connect, repeated ones included
-    int repeatedPackets = 0; ///< those that were sent again
+    bool isConfirmed = false; ///< the target has answered the whole write behind the last packet
+    int sentPackets = 0;      ///< data packets since the last connect, repeated ones included
+    int repeatedPackets = 0;  ///< those that were sent again
 };

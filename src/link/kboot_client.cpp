@@ -211,6 +211,7 @@ bool KbootProtocol::download(const QByteArray &image, int startAddress, int atte
     m_outcome.fault = BootloaderFault::None;
     m_outcome.acknowledgedBytes = 0;
     m_outcome.targetStatus = 0;
+    m_outcome.isConfirmed = false;
     const bool complete = downloadSteps(image, startAddress, attempts);
     if (!complete && m_cancelled)
         m_outcome.fault = BootloaderFault::PortClosed;
@@ -246,7 +247,7 @@ bool KbootProtocol::downloadSteps(const QByteArray &image, int startAddress, int
     begin(BootloaderStep::Reset);
     m_outcome.fault = BootloaderFault::None; // of an attempt that was repeated
     delay(kBeforeResetMs);
-    noteStatus(); // the response to the whole write comes behind the last acknowledge
+    m_outcome.isConfirmed = noteStatus(); // the response to the whole write comes behind the last acknowledge
     return cmd_reset();
 }
 
@@ -280,11 +281,15 @@ bool KbootProtocol::fail(BootloaderFault fault)
     return false;
 }
 
-/// Keeps the status word of the response in the frame buffer: the dialogue goes on, but the user shall know.
-void KbootProtocol::noteStatus()
+/// Keeps the status word of the response in the frame buffer: the dialogue goes on, but the user shall know. False when
+/// there is no response.
+bool KbootProtocol::noteStatus()
 {
     constexpr int kStatusOffset = kHeaderSize + kCommandHeaderSize;
-    if (m_outcome.targetStatus == 0 && m_responseReceived && quint8(m_frameBuffer.at(1)) == kTypeCommand
-        && m_frameBuffer.size() >= kStatusOffset + kStatusSize)
+    if (!m_responseReceived || quint8(m_frameBuffer.at(1)) != kTypeCommand
+        || m_frameBuffer.size() < kStatusOffset + kStatusSize)
+        return false;
+    if (m_outcome.targetStatus == 0)
         m_outcome.targetStatus = qFromLittleEndian<quint32>(m_frameBuffer.constData() + kStatusOffset);
+    return true;
 }

@@ -127,7 +127,7 @@ private:
     void begin(BootloaderStep step);
     bool fail(BootloaderFault fault);
     void forgetReply();
-    void noteStatus();
+    bool noteStatus();
     QByteArray propertyValue(quint8 property);
 
     QByteArray m_rxStaging;

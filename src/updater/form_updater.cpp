@@ -285,7 +285,7 @@ void form_updater::onBootloaderDownloadFinished(bool ok)
     const BootloaderOutcome end = outcome();
     if (ok)
         showStatus(updater_text::downloadSuccess(end, m_downloadClock.isValid() ? m_downloadClock.elapsed() : 0),
-                   end.targetStatus != 0);
+                   updater_text::isDoubtful(end));
     else
         showStatus(updater_text::downloadFailure(end, m_image.size(), m_facts.maxPacketSize), true);
     m_step = BootloaderStep::Idle;

@@ -120,17 +120,23 @@ QString updater_text::downloadFailure(const BootloaderOutcome &outcome, qint64 t
     return sentences.join(u' ');
 }
 
+bool updater_text::isDoubtful(const BootloaderOutcome &outcome)
+{
+    return outcome.targetStatus != 0 || (outcome.sentPackets > 0 && !outcome.isConfirmed);
+}
+
 QString updater_text::downloadSuccess(const BootloaderOutcome &outcome, qint64 elapsedMs)
 {
     const QString written = Text::tr("%1 bytes were written in %2 s, %3 of %4 packets were sent again.")
                                 .arg(grouped(outcome.acknowledgedBytes), decimal(double(elapsedMs) / 1000.0),
                                      grouped(outcome.repeatedPackets), grouped(outcome.sentPackets));
-    if (outcome.targetStatus == 0)
+    if (!isDoubtful(outcome))
         return written + u' ' + Text::tr("The device restarts with the new firmware.");
-    return written + u' '
-           + Text::tr("But the bootloader reported status %1: if the firmware does not start, press Connect and "
-                      "download again.")
-                 .arg(outcome.targetStatus);
+    const QString doubt = outcome.targetStatus != 0
+                              ? Text::tr("But the bootloader reported status %1.").arg(outcome.targetStatus)
+                              : Text::tr("But the bootloader did not confirm the whole image.");
+    return QStringList{written, doubt, Text::tr("If the firmware does not start, press Connect and download again.")}
+        .join(u' ');
 }
 
 QString updater_text::transfer(qint64 done, qint64 total, qint64 elapsedMs)

@@ -17,6 +17,9 @@ QString connectFailure(const BootloaderOutcome &outcome);
 /// The same of a download of `total` bytes to a target with packets of `packetSize` bytes.
 QString downloadFailure(const BootloaderOutcome &outcome, qint64 total, int packetSize);
 
+/// Something speaks against a download that went through to its end.
+bool isDoubtful(const BootloaderOutcome &outcome);
+
 /// What a download that took `elapsedMs` did.
 QString downloadSuccess(const BootloaderOutcome &outcome, qint64 elapsedMs);
 

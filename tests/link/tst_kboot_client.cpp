@@ -216,6 +216,7 @@ private slots:
             QVERIFY2(port.downloads(counting(100), attempts) == complete, name);
             const BootloaderOutcome outcome = port.outcome();
             QVERIFY2(outcome.step == step && outcome.fault == fault, name);
+            QVERIFY2(outcome.isConfirmed == (tag == 0 && answer == badStatus), name); // the peer does so by script only
             QVERIFY2(outcome.targetStatus == (answer == badStatus ? 102U : 0U), name);
             QByteArray written; // a packet that is sent again carries the same bytes
             for (QByteArray last; const QByteArray &packet : peer.packets()) {

@@ -207,6 +207,9 @@ private slots:
         QCOMPARE(bar->value(), 100);
         QVERIFY(bench.flash(image.size()) == image);
         QCOMPARE(bench.device.stat("packets"), 625);
+        QVERIFY(bench.label("LBL_status")
+                    .endsWith(QStringLiteral("0 of 625 packets were sent again. The device restarts "
+                                             "with the new firmware.")));
         QCOMPARE(running, (QList<QVariantList>{{true}, {false}}));
         QCOMPARE(connected, (QList<QVariantList>{{true}, {false}}));
         QCOMPARE(bench.button("BTN_connect")->text(), QStringLiteral("Connect"));
