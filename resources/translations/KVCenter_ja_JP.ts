@@ -391,31 +391,31 @@
     </message>
     <message>
         <source>%1 monitoring: waiting for data</source>
-        <translation>%1 監視: データ待ち</translation>
+        <translation>%1監視: データ待ち</translation>
     </message>
     <message>
         <source>%1 monitoring: no dominant peak yet.</source>
-        <translation>%1 監視: 卓越ピークはまだありません。</translation>
+        <translation>%1監視: 卓越ピークはまだありません。</translation>
     </message>
     <message>
         <source>%1 monitoring: %2 is below the watch level.</source>
-        <translation>%1 監視: %2 のピークは注意レベル未満です。</translation>
+        <translation>%1監視: %2 のピークは注意レベル未満です。</translation>
     </message>
     <message>
         <source>%1 watch: %2 is approaching the alarm threshold.</source>
-        <translation>%1 注意: %2 のピークが警報しきい値に近づいています。</translation>
+        <translation>%1監視（注意）: %2 のピークが警報しきい値に近づいています。</translation>
     </message>
     <message>
         <source>%1 alarm: %2 persisted above threshold.</source>
-        <translation>%1 警報: %2 のピークがしきい値を超え続けています。</translation>
+        <translation>%1監視（警報）: %2 のピークがしきい値を超え続けています。</translation>
     </message>
     <message>
         <source>%1 monitoring: dominant peak outside target band</source>
-        <translation>%1 監視: 卓越ピークが対象帯域外</translation>
+        <translation>%1監視: 卓越ピークが対象帯域外</translation>
     </message>
     <message>
         <source>%1 monitoring: %2 is outside the target band.</source>
-        <translation>%1 監視: %2 のピークは対象帯域外です。</translation>
+        <translation>%1監視: %2 のピークは対象帯域外です。</translation>
     </message>
     <message>
         <source>The dominant peak %1 is outside the monitored band %2, so this preset stays idle.</source>
@@ -967,7 +967,7 @@ Pa</translation>
     <name>SpectrumChart</name>
     <message>
         <source>%1 points · %2 Hz · %3 · %4 Hz per bin</source>
-        <translation>%1 点 · %2 Hz · %3 · 分解能 %4 Hz</translation>
+        <translation>%1 点 · %2 Hz · %3 · Δf %4 Hz</translation>
     </message>
     <message>
         <source>dB</source>
@@ -1196,11 +1196,11 @@ Pa</translation>
     <name>chart_text</name>
     <message>
         <source>%1 Hz · last %2 s of %3 s</source>
-        <translation>%1 Hz · 直近 %2 s / %3 s</translation>
+        <translation>%1 Hz · 直近 %2 s / 全 %3 s</translation>
     </message>
     <message>
         <source>%1 Hz · %2 s to %3 s of %4 s</source>
-        <translation>%1 Hz · %2～%3 s / %4 s</translation>
+        <translation>%1 Hz · %2～%3 s / 全 %4 s</translation>
     </message>
 </context>
 <context>
@@ -2603,10 +2603,6 @@ Ready to download firmware.
         <translation>デバイスは新しいファームウェアで再起動します。</translation>
     </message>
     <message>
-        <source>But the bootloader reported status %1: if the firmware does not start, press Connect and download again.</source>
-        <translation>ただし、ブートローダーがステータス %1 を通知しました。ファームウェアが起動しない場合は、「接続」を押してもう一度書き込んでください。</translation>
-    </message>
-    <message>
         <source>%1 of %2 bytes</source>
         <translation>%1 / %2 バイト</translation>
     </message>
@@ -2641,6 +2637,18 @@ Ready to download firmware.
     <message>
         <source>The image is very small for a firmware.</source>
         <translation>ファームウェアとしてはイメージが小さすぎます。</translation>
+    </message>
+    <message>
+        <source>But the bootloader reported status %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>But the bootloader did not confirm the whole image.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>If the firmware does not start, press Connect and download again.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -967,7 +967,7 @@ Pa</translation>
     <name>SpectrumChart</name>
     <message>
         <source>%1 points · %2 Hz · %3 · %4 Hz per bin</source>
-        <translation>%1포인트 · %2 Hz · %3 · 분해능 %4 Hz</translation>
+        <translation>%1포인트 · %2 Hz · %3 · Δf %4 Hz</translation>
     </message>
     <message>
         <source>dB</source>
@@ -1196,11 +1196,11 @@ Pa</translation>
     <name>chart_text</name>
     <message>
         <source>%1 Hz · last %2 s of %3 s</source>
-        <translation>%1 Hz · 최근 %2 s / %3 s</translation>
+        <translation>%1 Hz · 최근 %2 s / 전체 %3 s</translation>
     </message>
     <message>
         <source>%1 Hz · %2 s to %3 s of %4 s</source>
-        <translation>%1 Hz · %2 ~ %3 s / %4 s</translation>
+        <translation>%1 Hz · %2 ~ %3 s / 전체 %4 s</translation>
     </message>
 </context>
 <context>
@@ -2603,10 +2603,6 @@ Ready to download firmware.
         <translation>장치가 새 펌웨어로 다시 시작됩니다.</translation>
     </message>
     <message>
-        <source>But the bootloader reported status %1: if the firmware does not start, press Connect and download again.</source>
-        <translation>다만 부트로더가 보고한 상태 코드는 %1입니다. 펌웨어가 시작되지 않으면 &apos;연결&apos;을 누르고 다시 다운로드하십시오.</translation>
-    </message>
-    <message>
         <source>%1 of %2 bytes</source>
         <translation>%1 / %2바이트</translation>
     </message>
@@ -2641,6 +2637,18 @@ Ready to download firmware.
     <message>
         <source>The image is very small for a firmware.</source>
         <translation>펌웨어로는 이미지가 너무 작습니다.</translation>
+    </message>
+    <message>
+        <source>But the bootloader reported status %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>But the bootloader did not confirm the whole image.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>If the firmware does not start, press Connect and download again.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
