@@ -1437,10 +1437,6 @@ Pa</translation>
         <translation>ゲートウェイ</translation>
     </message>
     <message>
-        <source>The 3D view comes with a later version.</source>
-        <translation>3D ビューは今後のバージョンで追加されます。</translation>
-    </message>
-    <message>
         <source>Choose a serial port and connect (%1)</source>
         <translation>シリアルポートを選択して接続します (%1)</translation>
     </message>
@@ -1519,6 +1515,14 @@ Pa</translation>
     <message>
         <source>Spectrum of the selected node, with alarms</source>
         <translation>選択したノードのスペクトルと警報を表示します</translation>
+    </message>
+    <message>
+        <source>Ctrl+3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attitude of the selected node in three dimensions</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2640,15 +2644,15 @@ Ready to download firmware.
     </message>
     <message>
         <source>But the bootloader reported status %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>ただし、ブートローダーがステータス %1 を通知しました。</translation>
     </message>
     <message>
         <source>But the bootloader did not confirm the whole image.</source>
-        <translation type="unfinished"></translation>
+        <translation>ただし、ブートローダーからイメージ全体の受信確認がありませんでした。</translation>
     </message>
     <message>
         <source>If the firmware does not start, press Connect and download again.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファームウェアが起動しない場合は、「接続」を押してもう一度書き込んでください。</translation>
     </message>
 </context>
 <context>

@@ -1437,10 +1437,6 @@ Pa</translation>
         <translation>게이트웨이</translation>
     </message>
     <message>
-        <source>The 3D view comes with a later version.</source>
-        <translation>3D 보기는 이후 버전에서 제공됩니다.</translation>
-    </message>
-    <message>
         <source>Choose a serial port and connect (%1)</source>
         <translation>시리얼 포트를 선택하여 연결합니다 (%1)</translation>
     </message>
@@ -1519,6 +1515,14 @@ Pa</translation>
     <message>
         <source>Spectrum of the selected node, with alarms</source>
         <translation>선택한 노드의 스펙트럼과 경보를 표시합니다</translation>
+    </message>
+    <message>
+        <source>Ctrl+3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attitude of the selected node in three dimensions</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2640,15 +2644,15 @@ Ready to download firmware.
     </message>
     <message>
         <source>But the bootloader reported status %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>다만 부트로더가 보고한 상태 코드는 %1입니다.</translation>
     </message>
     <message>
         <source>But the bootloader did not confirm the whole image.</source>
-        <translation type="unfinished"></translation>
+        <translation>다만 부트로더가 이미지 전체의 수신을 확인하지 않았습니다.</translation>
     </message>
     <message>
         <source>If the firmware does not start, press Connect and download again.</source>
-        <translation type="unfinished"></translation>
+        <translation>펌웨어가 시작되지 않으면 &apos;연결&apos;을 누르고 다시 다운로드하십시오.</translation>
     </message>
 </context>
 <context>
