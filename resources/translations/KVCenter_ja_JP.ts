@@ -1518,11 +1518,11 @@ Pa</translation>
     </message>
     <message>
         <source>Ctrl+3</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+3</translation>
     </message>
     <message>
         <source>Attitude of the selected node in three dimensions</source>
-        <translation type="unfinished"></translation>
+        <translation>選択したノードの姿勢を 3D で表示します</translation>
     </message>
 </context>
 <context>
@@ -2472,7 +2472,7 @@ Ready to download firmware.
     </message>
     <message>
         <source>Not connected. Connect restarts the device; this takes up to 4 s.</source>
-        <translation>未接続です。「接続」を押すとデバイスが再起動します（最大 4 秒）。</translation>
+        <translation>未接続です。接続するとデバイスが再起動します（最大 4 秒）。</translation>
     </message>
     <message>
         <source>Ready to download</source>

@@ -1518,11 +1518,11 @@ Pa</translation>
     </message>
     <message>
         <source>Ctrl+3</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+3</translation>
     </message>
     <message>
         <source>Attitude of the selected node in three dimensions</source>
-        <translation type="unfinished"></translation>
+        <translation>선택한 노드의 자세를 3D로 표시합니다</translation>
     </message>
 </context>
 <context>
