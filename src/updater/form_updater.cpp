@@ -57,6 +57,8 @@ form_updater::~form_updater() = default;
 
 void form_updater::set_serial_instance(KvUartPort *port)
 {
+    if (port == nullptr)
+        return;
     m_port = port;
     connect(port->kboot(), &KbootProtocol::downloadProgress, this, &form_updater::onUpdateProgressBar);
     connect(port->kboot(), &KbootProtocol::downloadAdvanced, this, &form_updater::onDownloadAdvanced);
@@ -77,6 +79,7 @@ void form_updater::showEvent(QShowEvent *event)
     if (event->spontaneous() || m_downloading)
         return;
     reset_ui_state();
+    const QString before = m_imagePath;
     m_imagePath = QDir::currentPath() + QLatin1String("/firmware.hex");
     QSettings settings(settings_keys::kFile, QSettings::IniFormat);
     const QString stored = settings.value(settings_keys::kUpdaterPath).toString();
@@ -84,6 +87,7 @@ void form_updater::showEvent(QShowEvent *event)
         m_imagePath = stored;
     else
         settings.setValue(settings_keys::kUpdaterPath, m_imagePath);
+    m_imageLoaded = m_imageLoaded && m_imagePath == before;
     log(m_imagePath.isEmpty() ? tr("Please select image\n") : tr("PATH: %1\n").arg(m_imagePath));
     lookAtImage();
 }
