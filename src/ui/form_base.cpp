@@ -16,6 +16,7 @@
 #include "app/app_log.h"
 #include "app/settings_keys.h"
 #include "app/theme.h"
+#include "attitude/form_threed.h"
 #include "attitude/tool_adi.h"
 #include "device/command_broker.h"
 #include "fft/form_fftchart.h"
@@ -172,8 +173,7 @@ void form_base::setUpActions()
     dashboard->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_D));
     gateway->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_G));
     m_ui->menuView->insertActions(m_ui->actionFFT_Chart, {dashboard, gateway});
-    gateway->setEnabled(false);             // until a gateway is connected
-    m_ui->action3D_view->setEnabled(false); // comes with a later version
+    gateway->setEnabled(false); // until a gateway is connected
 
     m_connectButton = new QToolButton(this);
     m_connectButton->setObjectName(QStringLiteral("button_connect"));
@@ -289,7 +289,7 @@ void form_base::retranslate()
     text(findAction("action_wireless_gateway_dashboard"), tr("Wireless Gateway Dashboard"),
          tr("All radio nodes of a connected wireless gateway"));
     m_ui->actionFFT_Chart->setToolTip(tr("Spectrum of the selected node, with alarms"));
-    m_ui->action3D_view->setToolTip(tr("The 3D view comes with a later version."));
+    m_ui->action3D_view->setToolTip(tr("Attitude of the selected node in three dimensions"));
     m_ui->action_export_data->setToolTip(
         tr("Record the stream to CSV files (%1)")
             .arg(m_ui->action_export_data->shortcut().toString(QKeySequence::NativeText)));
@@ -340,6 +340,7 @@ void form_base::closeEvent(QCloseEvent *event)
                             static_cast<QDialog *>(m_updater), static_cast<QDialog *>(m_recordDialog),
                             static_cast<QDialog *>(m_aboutDialog)})
         dialog->close();
+    m_threed.reset();
     m_spectrum.reset();
     m_sensorDashboard.reset();
     m_wirelessDashboard.reset();

@@ -33,6 +33,7 @@ class form_fftchart;
 class form_record;
 class form_sensor_dashboard;
 class form_settings;
+class form_threed;
 class form_updater;
 class form_wireless_dashboard;
 
@@ -74,6 +75,7 @@ public slots:
     void on_action_export_data_triggered();
     void on_action_firmware_update_triggered();
     void on_actionFFT_Chart_triggered();
+    void on_action3D_view_triggered();
     void on_actionAbout_triggered();
     void on_actionFontSmall_triggered();
     void on_actionFontMedium_triggered();
@@ -152,6 +154,7 @@ private:
     form_updater *m_updater = nullptr;
     form_record *m_recordDialog = nullptr;
     QToolButton *m_recordButton = nullptr;
+    std::unique_ptr<form_threed> m_threed;                        ///< created when first asked for
     std::unique_ptr<form_fftchart> m_spectrum;                    ///< created when first asked for
     std::unique_ptr<form_sensor_dashboard> m_sensorDashboard;     ///< created when first asked for
     std::unique_ptr<form_wireless_dashboard> m_wirelessDashboard; ///< created when first asked for

@@ -10,6 +10,7 @@
 
 #include "app/app_log.h"
 #include "app/settings_keys.h"
+#include "attitude/form_threed.h"
 #include "attitude/tool_adi.h"
 #include "device/command_broker.h"
 #include "device/orientation_override.h"
@@ -122,6 +123,8 @@ void form_base::closeConnection()
     m_attitude = {};
     m_panel->clear();
     m_adi->setAttitude(m_attitude);
+    if (m_threed)
+        m_threed->setAttitude(m_attitude);
     m_angles->setTexts({});
     update_wireless_node_list({});
     m_nodeLabel->clear();

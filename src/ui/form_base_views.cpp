@@ -6,6 +6,7 @@
 
 #include <algorithm>
 
+#include "attitude/form_threed.h"
 #include "attitude/tool_adi.h"
 #include "device/product_profile.h"
 #include "fft/form_fftchart.h"
@@ -51,6 +52,8 @@ void form_base::onKbootFrameRecv(const QByteArray &payload)
 void form_base::onSelectedNodeChanged(const node_data_t &node)
 {
     m_attitude = attitude_convention::normalizeAttitude(m_dispatcher->currentSelectedSnapshot(), m_preset);
+    if (m_threed)
+        m_threed->setAttitude(m_attitude);
     const DecodedFrame &frame = m_dispatcher->currentFrame();
     m_panel->appendSample(m_clock.elapsed(), node, sampleFields(frame));
     node_data_t sample = node;
@@ -193,4 +196,6 @@ void form_base::showDevice()
     for (QLabel *label : {m_ui->label_product, m_ui->label_model, m_ui->label_build, m_ui->label_uuid})
         label->setToolTip(device_text::plainToolTip(label->text()));
     m_ui->combo_mounting->setCurrentIndex(m_preset == OrientationPreset::FluNwuZyx ? 1 : 0);
+    if (m_threed)
+        m_threed->setOrientationPreset(m_preset);
 }

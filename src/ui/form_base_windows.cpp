@@ -11,6 +11,7 @@
 #include <algorithm>
 
 #include "app/app_language_manager.h"
+#include "attitude/form_threed.h"
 #include "fft/form_fftchart.h"
 #include "link/sample_fields.h"
 #include "link/stream_dispatcher.h"
@@ -49,6 +50,18 @@ void form_base::on_actionFFT_Chart_triggered()
     if (!m_spectrum)
         m_spectrum = std::make_unique<form_fftchart>();
     bringUp(m_spectrum.get());
+}
+
+void form_base::on_action3D_view_triggered()
+{
+    if (!m_threed) {
+        m_threed = std::make_unique<form_threed>();
+        m_threed->setOrientationPreset(m_preset);
+        m_threed->setAttitude(m_attitude);
+        connect(m_threed.get(), &form_threed::orientationPresetChanged, this,
+                &form_base::on_orientation_preset_changed);
+    }
+    m_threed->open();
 }
 
 void form_base::on_action_sensor_dashboard_triggered()

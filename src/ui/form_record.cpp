@@ -171,7 +171,12 @@ void form_record::stopRecording()
 
 unsigned int form_record::recordCount() const
 {
-    return m_run ? m_run->writer().getFrameCtr() - m_run->writer().lostRecords() : 0;
+    if (!m_run)
+        return 0;
+    // A lost record is counted as such just before it counts as a record.
+    const unsigned int lost = m_run->writer().lostRecords();
+    const unsigned int count = m_run->writer().getFrameCtr();
+    return count > lost ? count - lost : 0;
 }
 
 void form_record::imuPackage0x91(const node_data_t &node)
@@ -260,10 +265,10 @@ void form_record::measure()
 {
     const CsvWriter &writer = m_run->writer();
     const double seconds = double(m_sinceMeasured.restart()) / 1000;
-    const unsigned int count = writer.getFrameCtr();
+    const unsigned int count = recordCount();
     const QString file = writer.filePath();
     const qint64 size = writer.fileSize();
-    m_recordsPerSecond = (count - m_measuredCount) / seconds;
+    m_recordsPerSecond = (count > m_measuredCount ? count - m_measuredCount : 0) / seconds;
     m_bytesPerSecond = double(file == m_measuredFile ? size - m_measuredSize : size) / seconds;
     m_measuredCount = count;
     m_measuredFile = file;
