@@ -67,10 +67,10 @@ void FftFiles::showSnapshot(const QString &path)
                      ? tr("the same as now")
                      : tr("other than now (%1)").arg(value("profileHash"))),
         tr("Format: %1").arg(value("version"))};
-    auto *box = new QMessageBox(QMessageBox::NoIcon, tr("Snapshot"), QFileInfo(path).fileName());
+    auto *box = new QMessageBox(QMessageBox::NoIcon, tr("Snapshot"), QString());
     box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setTextFormat(Qt::PlainText); // it comes from a file
-    box->setInformativeText(lines.join(QLatin1Char('\n')));
+    box->setTextFormat(Qt::PlainText); // it comes from a file; the informative text has no such setting
+    box->setText(QFileInfo(path).fileName() + QStringLiteral("\n\n") + lines.join(QLatin1Char('\n')));
     box->setWindowModality(Qt::WindowModal);
     box->winId();
     box->windowHandle()->setTransientParent(window());

@@ -62,6 +62,7 @@ void FftSampler::reset(int points)
     for (CircularSampleBuffer &axis : m_axes)
         axis.setCapacity(points);
     m_stamps.setCapacity(points);
+    m_stamps.clear(); // the clock may be another one
     m_norms.setCapacity(points);
     m_norms.clear();
     recomputeNormStatistics();

@@ -55,7 +55,7 @@ struct FftTelemetry
 /// contain a value that is not finite.
 ///
 /// Time stamps that stand still or run back are stored as 1 ms after the newest one. They serve only to estimate the
-/// rate, for callers that do not know it.
+/// rate, for callers that do not know it: after a clock that jumped far back it reads 1000 Hz until reset().
 class FftSampler
 {
 public:
@@ -74,8 +74,8 @@ public:
     /// Each of these takes effect with a reset(). Another type also forgets the samples: they have another unit.
     void setSpectrumType(FftSpectrumType type);
     void setHoldMode(FftHoldMode mode) { m_hold = mode; }
-    /// Starts anew with rings of `points` samples, at least 1: abandons the batch in flight, forgets held spectra, rate
-    /// and telemetry. The newest samples that fit stay.
+    /// Starts anew with rings of `points` samples, at least 1: abandons the batch in flight, forgets held spectra, time
+    /// stamps, rate and telemetry. The newest samples that fit stay.
     void reset(int points);
     /// Ignores what the batch in flight still brings.
     void abandonBatch();

@@ -137,8 +137,10 @@ private slots:
         sampler.reset(4); // abandoned
         QVERIFY(!sampler.takeResult(2, 1, flat(1)).accepted);
         QCOMPARE(sampler.currentRateHz(), 0);
-        sampler.append(sample(80, 1), 400);
-        QCOMPARE(sampler.nextBatch()->samples[0], (QList<double>{5000, 6000, 1000, 1000}));
+        sampler.append(sample(5, 1), 0);
+        QVERIFY(sampler.append(sample(25, 1), 0)); // a clock that began anew
+        QCOMPARE(sampler.currentRateHz(), 50);
+        QCOMPARE(sampler.nextBatch()->samples[0], (QList<double>{6000, 1000, 1000, 1000}));
     }
 
     void latencyAndHealth_data()
