@@ -967,7 +967,7 @@ Pa</translation>
     <name>SpectrumChart</name>
     <message>
         <source>%1 points · %2 Hz · %3 · %4 Hz per bin</source>
-        <translation>%1 点 · %2 Hz · %3 · 分辨率 %4 Hz</translation>
+        <translation>%1 点 · %2 Hz · %3 · Δf %4 Hz</translation>
     </message>
     <message>
         <source>dB</source>
@@ -983,7 +983,7 @@ Pa</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation>自动缩放</translation>
+        <translation>自动</translation>
     </message>
     <message>
         <source>Show amplitudes up to the set maximum</source>
@@ -1437,10 +1437,6 @@ Pa</translation>
         <translation>网关</translation>
     </message>
     <message>
-        <source>The 3D view comes with a later version.</source>
-        <translation>三维视图将在后续版本中提供。</translation>
-    </message>
-    <message>
         <source>Choose a serial port and connect (%1)</source>
         <translation>选择串口并连接 (%1)</translation>
     </message>
@@ -1519,6 +1515,14 @@ Pa</translation>
     <message>
         <source>Spectrum of the selected node, with alarms</source>
         <translation>所选节点的频谱，带报警功能</translation>
+    </message>
+    <message>
+        <source>Ctrl+3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attitude of the selected node in three dimensions</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

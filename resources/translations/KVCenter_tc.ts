@@ -967,7 +967,7 @@ Pa</translation>
     <name>SpectrumChart</name>
     <message>
         <source>%1 points · %2 Hz · %3 · %4 Hz per bin</source>
-        <translation>%1 點 · %2 Hz · %3 · 解析度 %4 Hz</translation>
+        <translation>%1 點 · %2 Hz · %3 · Δf %4 Hz</translation>
     </message>
     <message>
         <source>dB</source>
@@ -983,7 +983,7 @@ Pa</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation>自動縮放</translation>
+        <translation>自動</translation>
     </message>
     <message>
         <source>Show amplitudes up to the set maximum</source>
@@ -1437,10 +1437,6 @@ Pa</translation>
         <translation>閘道器</translation>
     </message>
     <message>
-        <source>The 3D view comes with a later version.</source>
-        <translation>3D 檢視將於後續版本提供。</translation>
-    </message>
-    <message>
         <source>Choose a serial port and connect (%1)</source>
         <translation>選擇序列埠並連線 (%1)</translation>
     </message>
@@ -1519,6 +1515,14 @@ Pa</translation>
     <message>
         <source>Spectrum of the selected node, with alarms</source>
         <translation>所選節點的頻譜，附警報功能</translation>
+    </message>
+    <message>
+        <source>Ctrl+3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attitude of the selected node in three dimensions</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
