@@ -13,6 +13,7 @@ MouseArea {
     onPressed: event => {
         last = Qt.point(event.x, event.y);
         forceActiveFocus();
+        Window.window.requestActivate(); // keys come here after a click
     }
     onPositionChanged: event => {
         const dx = event.x - last.x;

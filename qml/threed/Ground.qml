@@ -21,9 +21,9 @@ Node {
     }
     Model {
         source: "#Cone"
-        x: 84
+        x: 78
         eulerRotation.z: -90
-        scale: Qt.vector3d(0.02, 0.14, 0.1)
+        scale: Qt.vector3d(0.02, 0.22, 0.15)
         materials: mark
     }
     DefaultMaterial {

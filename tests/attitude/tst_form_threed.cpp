@@ -1,0 +1,320 @@
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QQuickView>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QtEndian>
+
+#include "app/settings_keys.h"
+#include "attitude/form_threed.h"
+#include "attitude/qt6_model_asset.h"
+
+namespace {
+
+NormalizedAttitude attitude(const QQuaternion &device, OrientationPreset preset = OrientationPreset::RfuEnu312)
+{
+    NodeSnapshot node;
+    node.has_quat = true;
+    const float values[] = {device.scalar(), device.x(), device.y(), device.z()};
+    std::copy(std::begin(values), std::end(values), node.sample.quat);
+    return attitude_convention::normalizeAttitude(node, preset);
+}
+NormalizedAttitude pitched(float degrees)
+{
+    return attitude(QQuaternion::fromAxisAndAngle(1, 0, 0, degrees));
+}
+
+/// Middle of the pixels of a part, told by their hue and least saturation.
+QPointF middle(const QImage &image, int hueFrom, int hueTo, int saturation)
+{
+    QPointF sum;
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor pixel = image.pixelColor(x, y);
+            const int hue = pixel.hsvHue() > 340 ? pixel.hsvHue() - 360 : pixel.hsvHue();
+            if (pixel.hsvSaturation() >= saturation && hue >= hueFrom && hue <= hueTo) {
+                sum += QPointF(x, y);
+                ++count;
+            }
+        }
+    }
+    return count > 8 ? sum / count : QPointF(-1, -1);
+}
+
+class Window : public form_threed
+{
+public:
+    Window()
+    {
+        resize(900, 600);
+        open();
+        QVERIFY(QTest::qWaitForWindowExposed(this));
+        if (view())
+            QVERIFY(QTest::qWaitForWindowExposed(view()));
+    }
+    void show(const NormalizedAttitude &shown)
+    {
+        setAttitude(shown);
+        objectReplot();
+    }
+    QString text(const char *name) { return findChild<QLabel *>(QLatin1String(name))->text().trimmed(); }
+    void click(const char *name) { findChild<QPushButton *>(QLatin1String(name))->click(); }
+    QComboBox *presets() { return findChild<QComboBox *>(QStringLiteral("CBRotationPreset")); }
+};
+
+} // namespace
+
+#define NEEDS_PICTURE(window)                                                                                          \
+    if (!(window).view())                                                                                              \
+    QSKIP("No OpenGL here")
+
+class TestFormThreed : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir m_folder;
+
+private slots:
+    void init() { QFile::remove(settings_keys::kFile); }
+
+    void noPictureIsSaid()
+    {
+        Window window;
+        QCOMPARE(window.view() == nullptr, qEnvironmentVariable("QT_QUICK_BACKEND") == QLatin1String("software"));
+        auto *sentence = window.findChild<QLabel *>(QStringLiteral("LBL_noPicture"));
+        QCOMPARE(sentence->isVisible(), window.view() == nullptr);
+        QCOMPARE(sentence->text().contains(QLatin1String("OpenGL")), window.view() == nullptr);
+        window.show(pitched(12));
+        QCOMPARE(window.text("VAL_pitch"), QStringLiteral("+12.00°"));
+    }
+
+    void posesAreRightInNumbersAndPicture_data()
+    {
+        QTest::addColumn<OrientationPreset>("preset");
+        QTest::addColumn<QVector3D>("axis"); // of the device
+        QTest::addColumn<float>("angle");
+        QTest::addColumn<QStringList>("numbers"); // roll, pitch, yaw
+        QTest::addColumn<QString>("seen");
+        const auto row = [](const char *name, OrientationPreset preset, QVector3D axis, float angle,
+                            const QStringList &numbers, const char *seen) {
+            QTest::newRow(name) << preset << axis << angle << numbers << QString::fromLatin1(seen);
+        };
+        const auto rfu = OrientationPreset::RfuEnu312;
+        const auto flu = OrientationPreset::FluNwuZyx;
+        const QVector3D x(1, 0, 0);
+        const QVector3D y(0, 1, 0);
+        const QVector3D z(0, 0, 1);
+        const QString o = QStringLiteral("0.00°");
+        const QString up = QStringLiteral("+40.00°");
+        const QString down = QStringLiteral("−40.00°");
+        const QString right = QStringLiteral("+60.00°");
+        const QString left = QStringLiteral("−60.00°");
+        const QString east = QStringLiteral("−90.00°");
+        const QString west = QStringLiteral("+90.00°");
+        row("RFU nose up", rfu, x, 40, {o, up, o}, "nose up");
+        row("RFU nose down", rfu, x, -40, {o, down, o}, "nose down");
+        row("RFU right wing down", rfu, y, 60, {right, o, o}, "right wing down");
+        row("RFU left wing down", rfu, y, -60, {left, o, o}, "left wing down");
+        row("RFU heading east", rfu, z, -90, {o, o, east}, "nose right, fin up");
+        row("RFU heading west", rfu, z, 90, {o, o, west}, "nose left");
+        row("RFU on its back", rfu, y, 179.999F, {QStringLiteral("+180.00°"), o, o}, "fin down");
+        row("FLU nose up", flu, y, -40, {o, up, o}, "nose up");
+        row("FLU nose down", flu, y, 40, {o, down, o}, "nose down");
+        row("FLU right wing down", flu, x, 60, {right, o, o}, "right wing down");
+        row("FLU left wing down", flu, x, -60, {left, o, o}, "left wing down");
+        row("FLU heading east", flu, z, -90, {o, o, east}, "nose right, fin up");
+        row("FLU on its back", flu, x, 179.999F, {QStringLiteral("+180.00°"), o, o}, "fin down");
+    }
+    void posesAreRightInNumbersAndPicture()
+    {
+        QFETCH(OrientationPreset, preset);
+        QFETCH(QVector3D, axis);
+        QFETCH(float, angle);
+        QFETCH(QString, seen);
+        Window window;
+        window.setOrientationPreset(preset);
+        window.show(attitude(QQuaternion::fromAxisAndAngle(axis, angle), preset));
+        const QStringList numbers{window.text("VAL_roll"), window.text("VAL_pitch"), window.text("VAL_yaw")};
+        QTEST(numbers, "numbers");
+
+        NEEDS_PICTURE(window);
+        window.backend().setBodyAxes({{}, {}, {}}); // arrows have colours like parts of the jet
+        const QImage image = window.view()->grabWindow();
+        const double unit = image.height() / 100.0;
+        const QPointF nose = middle(image, 28, 50, 150);
+        const QPointF fin = middle(image, 217, 232, 180);
+        const QPointF port = middle(image, -10, 10, 120);
+        const QPointF starboard = middle(image, 130, 155, 120);
+        const QMap<QString, bool> found{
+            {QStringLiteral("nose up"), nose.y() >= 0 && nose.y() < fin.y() - 5 * unit},
+            {QStringLiteral("nose down"), nose.y() > fin.y() + 5 * unit},
+            {QStringLiteral("nose right"), nose.x() > fin.x() + 20 * unit},
+            {QStringLiteral("nose left"), nose.x() >= 0 && nose.x() < fin.x() - 20 * unit},
+            {QStringLiteral("right wing down"), port.y() >= 0 && starboard.y() > port.y() + 10 * unit},
+            {QStringLiteral("left wing down"), starboard.y() >= 0 && port.y() > starboard.y() + 10 * unit},
+            {QStringLiteral("fin up"), fin.y() >= 0 && fin.y() < (port.y() + starboard.y()) / 2},
+            {QStringLiteral("fin down"), fin.y() > (port.y() + starboard.y()) / 2},
+        };
+        for (const QString &wanted : seen.split(QStringLiteral(", ")))
+            QVERIFY2(found[wanted], qPrintable(wanted));
+    }
+
+    void mouseMovesTheCamera()
+    {
+        Window window;
+        NEEDS_PICTURE(window);
+        window.show(pitched(10));
+        QQuickView *view = window.view();
+        QVERIFY(!view->grabWindow().isNull()); // the axes' names have their places from the first picture on
+        window.click("BTNResetCamera");
+        const QImage first = view->grabWindow();
+        const QPoint at(view->width() / 2, view->height() / 2);
+        const auto drag = [&](Qt::MouseButton button) {
+            QTest::mousePress(view, button, {}, at);
+            QTest::mouseMove(view, at + QPoint(60, 30));
+            QTest::mouseRelease(view, button, {}, at + QPoint(60, 30));
+        };
+        drag(Qt::LeftButton);
+        const QImage turned = view->grabWindow();
+        QVERIFY(turned != first);
+        drag(Qt::RightButton);
+        QVERIFY(view->grabWindow() != turned);
+        window.click("BTNResetCamera");
+        QTRY_COMPARE(view->grabWindow(), first);
+        QTRY_COMPARE(QGuiApplication::focusWindow(), view); // a click into the picture gives it the keys
+        QTest::keyClick(view, Qt::Key_Plus);
+        QVERIFY(view->grabWindow() != first);
+        QTest::mouseDClick(view, Qt::LeftButton, {}, at);
+        QTRY_COMPARE(view->grabWindow(), first);
+    }
+
+    void drawsOnlyWhileOpen()
+    {
+        Window window;
+        QVERIFY(window.isPlotting());
+        window.setAttitude(pitched(20));
+        QTRY_COMPARE(window.backend().euler().y(), 20.0F);
+        window.close();
+        QVERIFY(!window.isPlotting());
+        window.open();
+        QVERIFY(window.isPlotting());
+    }
+
+    void userChoosesTheMounting()
+    {
+        Window window;
+        const QSignalSpy changed(&window, &form_threed::orientationPresetChanged);
+        window.show(pitched(10));
+        window.click("BTNSetHome");
+        window.presets()->setCurrentIndex(1);
+        QCOMPARE(changed.value(0).value(0).value<OrientationPreset>(), OrientationPreset::FluNwuZyx);
+        QVERIFY(!window.backend().homeReferenceActive()); // it was captured in other axes
+        QCOMPARE(window.backend().bodyAxisX(), QVector3D(1, 0, 0));
+        QCOMPARE(window.text("LBL_preset"),
+                 QStringLiteral("Current preset: FLU body or NWU body, Euler ZYX intrinsic (Z-Y-X)."));
+        QCOMPARE(Window().orientationPreset(), OrientationPreset::FluNwuZyx); // the next one begins with it
+
+        window.setOrientationPreset(OrientationPreset::None);
+        QCOMPARE(window.presets()->currentIndex(), -1);
+        QCOMPARE(window.text("LBL_preset"), QStringLiteral("Current preset: Unknown."));
+        window.setOrientationPreset(OrientationPreset::RfuEnu312);
+        QCOMPARE(window.presets()->currentText(), QStringLiteral("RFU / ENU 312 (Z-X-Y)"));
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(Window().orientationPreset(), OrientationPreset::FluNwuZyx);
+    }
+
+    void homeIsCapturedComparedAndCleared()
+    {
+        Window window;
+        const QString dash = QStringLiteral("—");
+        QVERIFY(window.text("LBL_home").startsWith(QLatin1String("Capture the current live pose as Home")));
+        window.show(pitched(10));
+        window.click("BTNSetHome");
+        QVERIFY(window.text("LBL_home").startsWith(QLatin1String("Home pose captured. Delta shows")));
+        window.show(pitched(45.5F));
+        QCOMPARE(window.text("VAL_dpitch"), QStringLiteral("+35.50°"));
+        QCOMPARE(window.backend().relativeEuler().y(), 35.5F);
+        QVERIFY(window.backend().homeReferenceActive());
+        window.show({}); // the device is gone, home stays
+        QCOMPARE(window.text("VAL_dpitch"), dash);
+        QVERIFY(window.backend().homeReferenceActive());
+        window.click("BTNClearHome");
+        QVERIFY(!window.backend().homeReferenceActive());
+
+        window.click("BTNSetHome");
+        QCOMPARE(window.text("LBL_home"), QStringLiteral("Waiting for live attitude data to capture home pose."));
+        window.show(pitched(-5));
+        QVERIFY(window.backend().homeReferenceActive());
+        QCOMPARE(window.text("VAL_dpitch"), QStringLiteral("0.00°"));
+    }
+
+    void everyBuiltInModelIsDrawn_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char *name : {"jet.obj", "cube.obj", "plane.obj", "spaceship.obj"})
+            QTest::newRow(name) << QString::fromLatin1(name);
+    }
+    void everyBuiltInModelIsDrawn()
+    {
+        QFETCH(QString, name);
+        Window window;
+        NEEDS_PICTURE(window);
+        window.backend().setObjSource({});
+        const QImage empty = window.view()->grabWindow();
+        QString error;
+        QVERIFY2(window.loadobj(Qt6ModelAsset::builtInScene(name), &error), qPrintable(error));
+        const QImage full = window.view()->grabWindow();
+        int covered = 0;
+        for (int y = 0; y < full.height(); y += 4) {
+            for (int x = 0; x < full.width(); x += 4)
+                covered += full.pixel(x, y) != empty.pixel(x, y);
+        }
+        QVERIFY2(covered > full.width() * full.height() / 16 / 50, qPrintable(QString::number(covered)));
+    }
+
+    void filesOfOthersAreShownOrRefused()
+    {
+        Window window;
+        NEEDS_PICTURE(window);
+        const auto write = [this](const char *name, const QByteArray &bytes) {
+            QDir(m_folder.path()).mkpath(QStringLiteral("模型 ü"));
+            QFile file(m_folder.filePath(QStringLiteral("模型 ü/") + QLatin1String(name)));
+            return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() ? file.fileName() : QString();
+        };
+        QFile built(QStringLiteral(":/modelscenes/cube/meshes/face_up.mesh"));
+        QVERIFY(built.open(QIODevice::ReadOnly));
+        const QByteArray mesh = built.readAll();
+        // Far away and tiny: fitted into the picture, where a level plate of it is seen from above.
+        const QByteArray plate = "v 1000 0 -.01\nv 1000 0 .01\nv 1000.02 0 .01\nv 1000.02 0 -.01\nf 1 2 3 4\n";
+        for (const QString &path : {write("plate.obj", plate), write("face.mesh", mesh)}) {
+            QString error;
+            window.backend().setObjSource({});
+            const QImage empty = window.view()->grabWindow();
+            QVERIFY2(window.loadobj(path, &error), qPrintable(error));
+            const QImage full = window.view()->grabWindow();
+            const QPoint beside(full.width() / 2 - full.height() / 10, full.height() / 2);
+            QVERIFY(full.pixelColor(beside) != empty.pixelColor(beside));
+        }
+        const QUrl shown = window.backend().objSource();
+        for (const QString &path : {write("bad.obj", "f 1 2 3\n"), write("bad.mesh", mesh.first(200))}) {
+            QString error;
+            QVERIFY(!window.loadobj(path, &error));
+            QVERIFY(!error.isEmpty());
+            QCOMPARE(window.backend().objSource(), shown);
+        }
+        // Whatever number is wrong in a mesh that is let through, the renderer lives with it.
+        for (qsizetype offset = 0; offset + 4 <= mesh.size(); offset += 4) {
+            QByteArray changed = mesh;
+            qToLittleEndian(0x7FFFFFFFU, changed.data() + offset);
+            if (window.loadobj(write("changed.mesh", changed), nullptr))
+                QVERIFY(!window.view()->grabWindow().isNull());
+        }
+    }
+};
+
+QTEST_MAIN(TestFormThreed)
+#include "tst_form_threed.moc"
