@@ -419,7 +419,7 @@
     </message>
     <message>
         <source>%1 Hz on %2 (amp %3)</source>
-        <translation>%2 · %1 Hz（幅值 %3）</translation>
+        <translation>%2 · %1 Hz (幅值 %3)</translation>
     </message>
     <message>
         <source>Band %1 | Watch &gt;= %2 | Alarm &gt;= %3 | %4 frame(s)</source>
@@ -1098,6 +1098,10 @@ Pa</translation>
         <translation>正在等待采样数据</translation>
     </message>
     <message>
+        <source>Paused</source>
+        <translation>已暂停</translation>
+    </message>
+    <message>
         <source>Live</source>
         <translation>实时</translation>
     </message>
@@ -1518,11 +1522,11 @@ Pa</translation>
     </message>
     <message>
         <source>Ctrl+3</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+3</translation>
     </message>
     <message>
         <source>Attitude of the selected node in three dimensions</source>
-        <translation type="unfinished"></translation>
+        <translation>所选节点的三维姿态</translation>
     </message>
 </context>
 <context>

@@ -419,7 +419,7 @@
     </message>
     <message>
         <source>%1 Hz on %2 (amp %3)</source>
-        <translation>%2 · %1 Hz（振幅 %3）</translation>
+        <translation>%2 · %1 Hz (振幅 %3)</translation>
     </message>
     <message>
         <source>Band %1 | Watch &gt;= %2 | Alarm &gt;= %3 | %4 frame(s)</source>
@@ -1098,6 +1098,10 @@ Pa</translation>
         <translation>正在等待取樣資料</translation>
     </message>
     <message>
+        <source>Paused</source>
+        <translation>已暫停</translation>
+    </message>
+    <message>
         <source>Live</source>
         <translation>即時</translation>
     </message>
@@ -1518,11 +1522,11 @@ Pa</translation>
     </message>
     <message>
         <source>Ctrl+3</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+3</translation>
     </message>
     <message>
         <source>Attitude of the selected node in three dimensions</source>
-        <translation type="unfinished"></translation>
+        <translation>所選節點的 3D 姿態</translation>
     </message>
 </context>
 <context>
