@@ -1057,7 +1057,7 @@ Pa</translation>
     <name>ThreeDScene</name>
     <message>
         <source>Drag to turn, right-drag to move, wheel to zoom, double-click to reset</source>
-        <translation>ドラッグで回転、右ドラッグで移動、ホイールで拡大・縮小、ダブルクリックでリセット</translation>
+        <translation>ドラッグで回転、右ドラッグで移動、ホイールでズーム、ダブルクリックでリセット</translation>
     </message>
 </context>
 <context>
@@ -1096,6 +1096,10 @@ Pa</translation>
     <message>
         <source>Waiting for samples</source>
         <translation>サンプルを待っています</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>一時停止中</translation>
     </message>
     <message>
         <source>Live</source>

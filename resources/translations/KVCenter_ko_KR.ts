@@ -1057,7 +1057,7 @@ Pa</translation>
     <name>ThreeDScene</name>
     <message>
         <source>Drag to turn, right-drag to move, wheel to zoom, double-click to reset</source>
-        <translation>끌어서 회전, 오른쪽 버튼으로 끌어서 이동, 휠로 확대/축소, 두 번 클릭하여 초기화</translation>
+        <translation>끌기: 회전, 오른쪽 끌기: 이동, 휠: 확대/축소, 두 번 클릭: 초기화</translation>
     </message>
 </context>
 <context>
@@ -1096,6 +1096,10 @@ Pa</translation>
     <message>
         <source>Waiting for samples</source>
         <translation>샘플을 기다리는 중</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>일시 정지됨</translation>
     </message>
     <message>
         <source>Live</source>
