@@ -649,7 +649,7 @@
     </message>
     <message>
         <source>Click a node in the table to see its waveforms. Up to %1 nodes are shown together.</source>
-        <translation>表のノードをクリックすると、その波形が表示されます。同時に表示できるのは最大 %1 ノードです。</translation>
+        <translation>表のノードをクリックすると波形が表示されます（同時に最大 %1 ノード）。</translation>
     </message>
     <message>
         <source>Waiting for samples</source>
