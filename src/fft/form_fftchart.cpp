@@ -130,10 +130,10 @@ void form_fftchart::configureControls()
     m_controls->addWidget(m_type);
     const std::pair<QLabel *, QWidget *> pairs[] = {
         {m_pointsLabel, m_points}, {m_windowLabel, m_window}, {m_holdLabel, m_hold}, {m_yAxisLabel, m_yAxisMax}};
-    for (const auto &[label, control] : pairs) {
+    for (const auto &pair : pairs) {
         m_controls->addSpacing(theme::kGrid / 2);
-        m_controls->addWidget(label);
-        m_controls->addWidget(control);
+        m_controls->addWidget(pair.first);
+        m_controls->addWidget(pair.second);
     }
     m_controls->addStretch(1);
     auto *layout = new QVBoxLayout(this);
@@ -167,9 +167,9 @@ void form_fftchart::retranslateDynamicUi()
     m_windowLabel->setText(tr("Window:"));
     m_holdLabel->setText(tr("Hold:"));
     m_yAxisLabel->setText(tr("Amplitude Max:"));
-    for (int i = 0; i < m_type->count(); ++i)
+    for (int i = 0; i < int(std::size(kTypes)); ++i)
         m_type->setItemText(i, tr(kTypes[i].name));
-    for (int i = 0; i < m_hold->count(); ++i)
+    for (int i = 0; i < int(std::size(kHolds)); ++i)
         m_hold->setItemText(i, tr(kHolds[i]));
     for (int i = 0; i < m_window->count(); ++i)
         m_window->setItemText(i, fftWindowLabel(fftWindowNames().at(i)));
