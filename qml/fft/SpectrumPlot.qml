@@ -209,6 +209,11 @@ Item {
                     border.width: 1
                     border.color: Theme.accent
                 }
+                Rectangle {
+                    anchors.fill: markText
+                    anchors.margins: -2
+                    color: "#E6FFFFFF"
+                }
                 Text {
                     id: markText
 
