@@ -16,11 +16,23 @@ Flow {
     }
 
     spacing: 8
+    // A chart that comes back finds its filter as it was left.
+    Component.onCompleted: {
+        if (bridge !== null && bridge.filterOn) {
+            cutoffHz = bridge.filterCutoffHz;
+            toggle.checked = true;
+        }
+    }
 
     Connections {
         target: row.bridge
         function onFilterChanged() {
             toggle.checked = row.bridge.filterOn;
+        }
+        // The title changes with the language, and so has the sentence to.
+        function onChartTitleChanged() {
+            if (row.problem !== "")
+                row.apply(true, row.cutoffHz);
         }
     }
     SwitchBox {
@@ -32,9 +44,11 @@ Flow {
     }
     NumberField {
         objectName: "filterCutoff"
+        implicitWidth: Math.round(font.pointSize * 10)
         value: row.cutoffHz
-        from: 0
-        to: 100000
+        // No number is put back in silence: the filter says what it refuses.
+        from: -1e99
+        to: 1e99
         unit: "Hz"
         hint: qsTr("Cutoff frequency")
         onEntered: number => {

@@ -63,16 +63,21 @@ Item {
                 onClicked: dashboard.bridge.togglePlaying()
             }
             Repeater {
-                model: dashboard.bridge.paneStates
+                // A number, so that the chips stay, and one keeps the keyboard, when their states change.
+                model: dashboard.bridge.sensorCount
 
                 Chip {
-                    required property var modelData
+                    required property int index
+                    readonly property var paneState: dashboard.bridge.paneStates[index]
 
-                    objectName: "chip_" + modelData.type
-                    text: modelData.label
-                    checked: modelData.selected
-                    hint: modelData.selected ? qsTr("Hide this chart") : qsTr("Show this chart")
-                    onClicked: dashboard.bridge.setSensorSelected(modelData.type, checked)
+                    objectName: "chip_" + paneState.type
+                    text: paneState.label
+                    checked: paneState.selected
+                    hint: checked ? qsTr("Hide this chart") : qsTr("Show this chart")
+                    onClicked: {
+                        dashboard.bridge.setSensorSelected(paneState.type, checked);
+                        checked = Qt.binding(() => paneState.selected);
+                    }
                 }
             }
         }

@@ -13,7 +13,7 @@ FocusScope {
     property WaveChartBridge bridge: null
     property bool maximized: false
     property bool canMaximize: true
-    property string emptyText: qsTr("Waiting for samples")
+    readonly property string emptyText: bridge === null || bridge.playing ? qsTr("Waiting for samples") : qsTr("Paused")
     readonly property alias viewState: view
     /// Too low for live values beside the names, and too narrow for all buttons.
     readonly property bool low: height < Theme.font.pointSize * 24
@@ -121,6 +121,9 @@ FocusScope {
                 checkable: true
                 iconName: "filter"
                 hint: qsTr("Low-pass filter")
+                // A filter that is on does not hide.
+                onClicked: checked = checked || chart.bridge.filterOn
+                Component.onCompleted: checked = chart.bridge !== null && chart.bridge.filterOn
             }
             ActionButton {
                 bare: true
@@ -203,7 +206,7 @@ FocusScope {
         }
         ChartFilterRow {
             width: parent.width
-            visible: filterButton.checked && filterButton.visible
+            visible: (filterButton.checked && filterButton.visible) || (chart.bridge !== null && chart.bridge.filterOn)
             bridge: chart.bridge
         }
         Flow {

@@ -91,11 +91,12 @@ QString chart_text::range(const WaveChartBridge &bridge, double xMin, double xMa
     const auto seconds = [](double value) {
         return axis_ticks::number(value, value == std::floor(value) ? 0 : std::abs(value) < 1 ? 3 : 1);
     };
-    const QString kept = seconds(std::round(-bridge.xHistoryMin()));
+    const double keptSec = std::round(-bridge.xHistoryMin()); // the view may be wider while it fills
+    const QString kept = seconds(keptSec);
     const QString rate = QString::number(bridge.framerate());
     if (xMax >= 0) {
         return QCoreApplication::translate("chart_text", "%1 Hz · last %2 s of %3 s")
-            .arg(rate, seconds(xMax - xMin), kept);
+            .arg(rate, seconds(std::min(xMax - xMin, keptSec)), kept);
     }
     return QCoreApplication::translate("chart_text", "%1 Hz · %2 s to %3 s of %4 s")
         .arg(rate, seconds(xMin), seconds(xMax), kept);

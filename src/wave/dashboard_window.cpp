@@ -20,13 +20,15 @@ namespace {
 
 constexpr QSize kMinimumSize{720, 480};
 constexpr QSize kDefaultSize{1280, 680};
-constexpr int kFrame = 48; ///< room for the window's frame and a task bar
+constexpr int kFrame = 48;    ///< room for the window's frame and a task bar
+constexpr int kTitleBar = 32; ///< by which a window is moved, so it has to be on the screen
 
 /// `wanted` made to fit its screen; centred on the first screen when it lies on none.
 QRect onScreen(QRect wanted)
 {
     const QScreen *screen = QGuiApplication::screenAt(wanted.center());
-    const QRect available = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+    const QRect available =
+        (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry().adjusted(0, kTitleBar, 0, 0);
     wanted.setSize(wanted.size().boundedTo(available.size()).expandedTo(kMinimumSize));
     if (!screen)
         wanted.moveCenter(available.center());

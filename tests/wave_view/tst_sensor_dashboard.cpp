@@ -1,4 +1,5 @@
 #include <QFileDialog>
+#include <QPointer>
 #include <QQuickItem>
 #include <QRegularExpression>
 #include <QSettings>
@@ -224,6 +225,10 @@ private slots:
         enter(QStringLiteral("2"));
         QTRY_VERIFY(!problem->isVisible());
         QVERIFY(bench.view->bridge()->filterOn());
+        enter(QStringLiteral("-3"));
+        QTRY_VERIFY(problem->isVisible() && !bench.view->bridge()->filterOn());
+        enter(QStringLiteral("1e30"));
+        QTRY_VERIFY(!problem->isVisible() && bench.view->bridge()->filterOn());
     }
 
     void remembersSelectionAndPlace()
@@ -239,10 +244,15 @@ private slots:
             QCOMPARE(window.bridge().selectedSensorTypes().join(u','), QStringLiteral("gyr,prs"));
             QVERIFY(window.screen()->availableGeometry().contains(window.geometry()));
             window.open();
-            QVERIFY(QTest::qWaitForWindowExposed(&window) && window.bridge().dashboardActive());
-            QQuickItem *chip = find(window.rootObject(), "chip_eul");
-            QTest::mouseClick(&window, Qt::LeftButton, {}, chip->mapToScene(chip->boundingRect().center()).toPoint());
-            QTRY_VERIFY(find(window.rootObject(), "chart_eul")->isVisible());
+            QVERIFY(QTest::qWaitForWindowActive(&window) && window.bridge().dashboardActive());
+            const QPointer<QQuickItem> chip = find(window.rootObject(), "chip_eul");
+            QTest::mouseMove(&window, QPoint(300, 300)); // over the charts, which change places below it
+            chip->forceActiveFocus(Qt::TabFocusReason);
+            for (const bool shown : {true, false, true}) { // the chip stays, and keeps the keyboard
+                QTest::keyClick(&window, Qt::Key_Space);
+                QTRY_COMPARE(find(window.rootObject(), "chart_eul")->isVisible(), shown);
+                QVERIFY(chip && chip->hasActiveFocus() && chip->property("checked").toBool() == shown);
+            }
             window.resize(760, 490);
             QTRY_COMPARE(find(window.rootObject(), "noChart")->window()->width(), 760);
             window.close();

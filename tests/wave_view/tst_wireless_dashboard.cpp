@@ -94,6 +94,13 @@ private slots:
         QCOMPARE(item(QStringLiteral("chart_0")), first);
         click(item(QStringLiteral("chip_gyr")));
         QTRY_VERIFY(item(QStringLiteral("chart_1")));
+        item(QStringLiteral("chart_1"))->property("bridge").value<WaveChartBridge *>()->trySetFilter(true, 5);
+        click(item(QStringLiteral("chip_gyr")));
+        QTRY_VERIFY(!item(QStringLiteral("chart_1")));
+        click(item(QStringLiteral("chip_gyr")));
+        QTRY_VERIFY(item(QStringLiteral("chart_1"))); // and its filter, as it was left
+        const QQuickItem *filter = findItem(item(QStringLiteral("chart_1")), QStringLiteral("filterSwitch"));
+        QVERIFY(filter->isVisible() && filter->property("checked").toBool());
         click(item(QStringLiteral("playButton")));
         QVERIFY(!m_window->bridge().playing());
         click(item(QStringLiteral("chip_gyr")));
