@@ -65,10 +65,6 @@
         <translation>实时</translation>
     </message>
     <message>
-        <source>From home</source>
-        <translation>相对基准</translation>
-    </message>
-    <message>
         <source>Roll</source>
         <translation>横滚</translation>
     </message>
@@ -83,6 +79,10 @@
     <message>
         <source>Quaternion</source>
         <translation>四元数</translation>
+    </message>
+    <message>
+        <source>Delta</source>
+        <translation>相对基准</translation>
     </message>
 </context>
 <context>

@@ -65,10 +65,6 @@
         <translation>即時</translation>
     </message>
     <message>
-        <source>From home</source>
-        <translation>相對基準</translation>
-    </message>
-    <message>
         <source>Roll</source>
         <translation>橫滾</translation>
     </message>
@@ -83,6 +79,10 @@
     <message>
         <source>Quaternion</source>
         <translation>四元數</translation>
+    </message>
+    <message>
+        <source>Delta</source>
+        <translation>相對基準</translation>
     </message>
 </context>
 <context>
