@@ -21,9 +21,9 @@ Node {
     }
     Model {
         source: "#Cone"
-        x: 78
+        x: 70
         eulerRotation.z: -90
-        scale: Qt.vector3d(0.02, 0.22, 0.15)
+        scale: Qt.vector3d(0.02, 0.3, 0.12)
         materials: mark
     }
     DefaultMaterial {

@@ -47,11 +47,10 @@ Item {
         anchors.fill: parent
         camera: camera
         importScene: world
+        renderMode: View3D.Inline
+        // Without a picture of its own in between: that costs more than the scene where there is no GPU.
         environment: SceneEnvironment {
-            backgroundMode: SceneEnvironment.Color
-            clearColor: Theme.surface
-            antialiasingMode: SceneEnvironment.MSAA
-            antialiasingQuality: SceneEnvironment.High
+            backgroundMode: SceneEnvironment.Transparent
         }
     }
     Node {

@@ -5,6 +5,7 @@
 #include <QLabel>
 
 #include <cmath>
+#include <limits>
 
 #include "app/theme.h"
 
@@ -108,7 +109,7 @@ void AttitudeFigures::changeEvent(QEvent *event)
 
 void AttitudeFigures::setTexts()
 {
-    const std::array texts{tr("Live"), tr("From home"), tr("Roll"), tr("Pitch"), tr("Yaw"), tr("Quaternion")};
+    const std::array texts{tr("Live"), tr("Delta"), tr("Roll"), tr("Pitch"), tr("Yaw"), tr("Quaternion")};
     for (size_t i = 0; i < texts.size(); ++i)
         m_names[i]->setText(texts[i]);
 }

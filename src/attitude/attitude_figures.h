@@ -29,6 +29,6 @@ private:
     void setTexts();
     void setFonts();
 
-    std::array<QLabel *, 6> m_names{};   ///< live, from home, roll, pitch, yaw, quaternion
+    std::array<QLabel *, 6> m_names{};   ///< live, delta, roll, pitch, yaw, quaternion
     std::array<QLabel *, 10> m_values{}; ///< live angles, relative angles, w x y z
 };

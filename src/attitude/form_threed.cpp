@@ -13,6 +13,10 @@
 #include <QSettings>
 #include <QSignalBlocker>
 
+#include <array>
+#include <cmath>
+#include <optional>
+
 #include "app/settings_keys.h"
 #include "app/theme.h"
 #include "attitude/qt6_model_asset.h"
@@ -21,6 +25,7 @@
 namespace {
 
 constexpr int kReplotMs = 25;
+constexpr int kSamplesPerPixel = 4; // all that drawing without a GPU can do
 constexpr QLatin1String kPresetKey("THREED/ROTATION_PRESET");
 constexpr QLatin1String kGeometryKey("THREED/GEOMETRY");
 constexpr QLatin1String kFolderKey("THREED/FOLDER");
@@ -67,14 +72,15 @@ void form_threed::initView()
 {
     m_view = new QQuickView;
     m_container = QWidget::createWindowContainer(m_view, m_ui->STK_stage);
-    // The scene smooths its own edges; samples of the window on top would only cost.
+    // The scene is drawn straight into the window, whose samples smooth its edges.
     QSurfaceFormat surface = m_view->format();
-    surface.setSamples(0);
+    surface.setSamples(kSamplesPerPixel);
     m_view->setFormat(surface);
     m_view->setColor(theme::kSurface);
     m_view->setResizeMode(QQuickView::SizeRootObjectToView);
     if (m_view->rendererInterface()->graphicsApi() == QSGRendererInterface::Software) {
-        showNoPicture(tr("The 3D picture needs OpenGL, which is not available here. The numbers are complete."));
+        showNoPicture(
+            QT_TR_NOOP("The 3D picture needs OpenGL, which is not available here. The numbers are complete."));
     } else {
         m_container->setFocusPolicy(Qt::StrongFocus);
         m_container->setMinimumSize(320, 240);
@@ -84,7 +90,7 @@ void form_threed::initView()
             m_view, &QQuickWindow::sceneGraphError, this,
             [this](QQuickWindow::SceneGraphError /*error*/, const QString &message) {
                 qWarning().noquote() << "3D view:" << message;
-                showNoPicture(tr("The 3D picture cannot be drawn here. The numbers are complete."));
+                showNoPicture(QT_TR_NOOP("The 3D picture cannot be drawn here. The numbers are complete."));
             },
             Qt::QueuedConnection);
         m_view->engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));
@@ -92,7 +98,7 @@ void form_threed::initView()
         m_view->setSource(QUrl(QStringLiteral("qrc:/qml/ThreeDView.qml")));
         if (m_view->status() == QQuickView::Error) {
             qWarning() << "ThreeDView.qml errors:" << m_view->errors();
-            showNoPicture(tr("The 3D picture could not be loaded. The log of the program tells why."));
+            showNoPicture(QT_TR_NOOP("The 3D picture could not be loaded. The log of the program tells why."));
         }
     }
 
@@ -103,19 +109,24 @@ void form_threed::initView()
     }
 }
 
-void form_threed::showNoPicture(const QString &reason)
+void form_threed::showNoPicture(const char *reason)
 {
-    m_ui->LBL_noPicture->setText(reason);
+    m_noPicture = reason;
+    updateNoPictureUi();
     m_ui->STK_stage->setCurrentWidget(m_ui->LBL_noPicture);
     m_ui->BTNResetCamera->setEnabled(false);
-    m_ui->BTNResetCamera->setToolTip(reason);
-    if (!m_container)
-        return;
     m_container->hide();
-    // This may run while the view is busy.
-    m_container->deleteLater();
+    m_container->deleteLater(); // not at once: this may run while the view is busy
     m_container = nullptr;
     m_view = nullptr;
+}
+
+void form_threed::updateNoPictureUi()
+{
+    if (!m_noPicture)
+        return;
+    m_ui->LBL_noPicture->setText(tr(m_noPicture));
+    m_ui->BTNResetCamera->setToolTip(tr(m_noPicture));
 }
 
 void form_threed::open()
@@ -129,7 +140,7 @@ void form_threed::open()
 
 void form_threed::setAttitude(const NormalizedAttitude &attitude)
 {
-    m_attitude = attitude;
+    m_attitude = std::isfinite(attitude.quaternion.length()) ? attitude : NormalizedAttitude();
 }
 
 void form_threed::startThreeDPlot()
@@ -314,7 +325,8 @@ void form_threed::updateModelUi()
     }
     m_ui->CBModel->setPlaceholderText(source.fileName());
     m_ui->CBModel->setCurrentIndex(index);
-    m_ui->CBModel->setToolTip(index < 0 ? source.toLocalFile() : QString());
+    m_ui->CBModel->setToolTip(index < 0 ? QStringLiteral("<span>%1</span>").arg(source.toLocalFile().toHtmlEscaped())
+                                        : QString());
 }
 
 void form_threed::on_BTNResetCamera_clicked()
@@ -351,6 +363,7 @@ void form_threed::changeEvent(QEvent *event)
         updateRotationPresetUi();
         updateHomeReferenceUi();
         updateModelUi();
+        updateNoPictureUi();
         if (m_view)
             m_view->engine()->retranslate();
         fitPanel();

@@ -33,7 +33,7 @@ public:
     /// Shows the window, or brings it to the front.
     void open();
 
-    /// The newest attitude of the selected node; one that is not valid when there is none.
+    /// The newest attitude of the selected node; one that is not valid, or not finite, when there is none.
     void setAttitude(const NormalizedAttitude &attitude);
 
     /// Shows another mounting without storing or reporting it. A real change drops the home reference: it was captured
@@ -79,7 +79,9 @@ private slots:
 
 private:
     void initView();
-    void showNoPicture(const QString &reason);
+    /// Puts a sentence, not yet translated, in place of the picture.
+    void showNoPicture(const char *reason);
+    void updateNoPictureUi();
     void applyPreset(OrientationPreset preset);
     void captureHome();
     /// loadobj() for the user: a failure is told in the window.
@@ -95,6 +97,7 @@ private:
     AttitudeBackend m_backend;
     QWidget *m_container = nullptr; ///< holds and owns m_view
     QQuickView *m_view = nullptr;
+    const char *m_noPicture = nullptr; ///< why there is none
     QTimer m_replotTimer;
     NormalizedAttitude m_attitude;
     QQuaternion m_home;

@@ -8,6 +8,8 @@
 #include <QTest>
 #include <QtEndian>
 
+#include <limits>
+
 #include "app/settings_keys.h"
 #include "attitude/form_threed.h"
 #include "attitude/qt6_model_asset.h"
@@ -239,7 +241,9 @@ private slots:
         QCOMPARE(window.text("VAL_dpitch"), QStringLiteral("+35.50°"));
         QCOMPARE(window.backend().relativeEuler().y(), 35.5F);
         QVERIFY(window.backend().homeReferenceActive());
-        window.show({}); // the device is gone, home stays
+        NormalizedAttitude broken = pitched(1);
+        broken.quaternion.setX(std::numeric_limits<float>::quiet_NaN());
+        window.show(broken); // as when the device is gone; home stays
         QCOMPARE(window.text("VAL_dpitch"), dash);
         QVERIFY(window.backend().homeReferenceActive());
         window.click("BTNClearHome");
