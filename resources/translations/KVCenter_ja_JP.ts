@@ -65,10 +65,6 @@
         <translation>現在</translation>
     </message>
     <message>
-        <source>From home</source>
-        <translation>基準との差</translation>
-    </message>
-    <message>
         <source>Roll</source>
         <translation>ロール</translation>
     </message>
@@ -83,6 +79,10 @@
     <message>
         <source>Quaternion</source>
         <translation>クォータニオン</translation>
+    </message>
+    <message>
+        <source>Delta</source>
+        <translation>基準との差</translation>
     </message>
 </context>
 <context>

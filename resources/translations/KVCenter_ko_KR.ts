@@ -65,10 +65,6 @@
         <translation>현재</translation>
     </message>
     <message>
-        <source>From home</source>
-        <translation>기준 대비</translation>
-    </message>
-    <message>
         <source>Roll</source>
         <translation>롤</translation>
     </message>
@@ -83,6 +79,10 @@
     <message>
         <source>Quaternion</source>
         <translation>쿼터니언</translation>
+    </message>
+    <message>
+        <source>Delta</source>
+        <translation>기준 대비</translation>
     </message>
 </context>
 <context>
