@@ -174,6 +174,7 @@ private:
     qint64 m_lastReadMs = -1; ///< when the last read of product information ended, on m_clock
     bool m_productInfoRequested = false;
     bool m_liveStreamSkipLogged = false;
+    int m_readsAfterUpdate = 0; ///< readings still allowed to interrupt the stream of new firmware
 
     // what the views show
     SampleClock m_chartClock;       ///< time of the charts, from the selected node's clock

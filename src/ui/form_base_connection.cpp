@@ -34,6 +34,7 @@ namespace {
 
 constexpr int kConnectedTextDelayMs = 200;
 constexpr int kConnectedTextHoldMs = 1500;
+constexpr int kReadsAfterUpdate = 5;
 
 } // namespace
 
@@ -118,6 +119,7 @@ void form_base::closeConnection()
         m_wirelessDashboard->clear();
     clearDetectedDevice();
     m_chosenNodeId.reset();
+    m_readsAfterUpdate = 0;
     m_lastFrameMs = -1;
     m_lastReadMs = -1;
     m_attitude = {};
@@ -184,7 +186,9 @@ void form_base::try_read_prod_info()
 {
     if (!m_dispatcher->snapshot().link_connected || m_broker->isCollecting())
         return;
-    if (m_productInfoRequested && !m_device.valid && isStreamLive()) {
+    if (m_readsAfterUpdate > 0)
+        --m_readsAfterUpdate; // the first ones may have met a device that was still starting
+    else if (m_productInfoRequested && !m_device.valid && isStreamLive()) {
         m_retryTimer->stop();
         if (!m_liveStreamSkipLogged) {
             AppLog::logfile(QtInfoMsg, QStringLiteral("product-info read skipped because live frame stream is active"));
@@ -227,7 +231,7 @@ void form_base::onBootloaderChanged()
     if (resident) {
         m_retryTimer->stop();
     } else if (isOpen) {
-        m_productInfoRequested = false;
+        m_readsAfterUpdate = kReadsAfterUpdate;
         clearDetectedDevice();
         m_dispatcher->setProductInfoReady(false);
         m_retryTimer->start();
@@ -241,6 +245,7 @@ void form_base::takeDetectedDevice(const DetectedDevice &device)
     const TransportRole role = product_profile::transportRole(profile);
     const bool known = product_profile::isKnownProduct(profile.key);
     m_retryTimer->stop();
+    m_readsAfterUpdate = 0;
     m_liveStreamSkipLogged = false;
     m_dispatcher->setProductInfoReady(true);
     m_dispatcher->setProductProfileResolved(known);

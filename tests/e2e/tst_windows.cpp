@@ -4,7 +4,9 @@
 #include <QTest>
 
 #include "app/app_language_manager.h"
+#include "attitude/form_threed.h"
 #include "e2e/desk.h"
+#include "fft/form_fftchart.h"
 #include "link/stream_dispatcher.h"
 #include "support/hex_file.h"
 #include "support/simulator_process.h"
@@ -117,6 +119,35 @@ private slots:
         desk.find<QAction>("action_serial_stop")->trigger();
         QCOMPARE(model->rowCount(), 0);
         QVERIFY(!action->isEnabled());
+    }
+
+    void spectrumAndThreeDShowTheSelectedNode()
+    {
+        SimulatorProcess simulator({QStringLiteral("--rate"), QStringLiteral("400"), QStringLiteral("--vibration"),
+                                    QStringLiteral("25:2:z"), QStringLiteral("--motion"), QStringLiteral("swing")});
+        Desk desk;
+        desk.open(simulator.port());
+        desk.find<QAction>("actionFFT_Chart")->trigger();
+        desk.find<QAction>("action3D_view")->trigger();
+        const auto widgets = QApplication::topLevelWidgets();
+        form_fftchart *spectrum = nullptr;
+        form_threed *threed = nullptr;
+        for (QWidget *widget : widgets) {
+            spectrum = spectrum ? spectrum : qobject_cast<form_fftchart *>(widget);
+            threed = threed ? threed : qobject_cast<form_threed *>(widget);
+        }
+        QVERIFY(spectrum != nullptr && threed != nullptr);
+        spectrum->findChild<QPushButton *>(QStringLiteral("BTN_start"))->click();
+        QTRY_VERIFY2_WITH_TIMEOUT(qAbs(spectrum->bridge().dominantPeakFrequency() - 25) < 1,
+                                  qPrintable(QString::number(spectrum->bridge().dominantPeakFrequency())), 20000);
+
+        const QQuaternion before = threed->backend().quaternion();
+        QTRY_VERIFY(threed->backend().quaternion() != before);
+        auto *mounting = desk.find<QComboBox>("combo_mounting");
+        const int other = 1 - mounting->currentIndex();
+        mounting->setCurrentIndex(other);
+        emit mounting->activated(other); // as when a user picks it
+        QCOMPARE(int(threed->orientationPreset()), other);
     }
 
     void dashboardsFollowTheLanguage()
