@@ -33,6 +33,16 @@ QQuickItem *find(QQuickItem *root, const char *name)
     return nullptr;
 }
 
+template <typename T> T *topLevel()
+{
+    T *found = nullptr;
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (auto *candidate = qobject_cast<T *>(widget))
+            found = candidate;
+    }
+    return found;
+}
+
 /// The window on the screen, and what a user does in it.
 struct Bench
 {
@@ -261,12 +271,9 @@ private slots:
         QVERIFY(write(u"good.json"_s, bench.bridge().exportSnapshotJson()));
         files->showSnapshot(u"good.json"_s);
         QVERIFY(files->message().isEmpty());
-        QMessageBox *box = nullptr;
-        for (QWidget *widget : QApplication::topLevelWidgets()) {
-            if (auto *candidate = qobject_cast<QMessageBox *>(widget))
-                box = candidate;
-        }
-        QVERIFY(box);
+        auto *box = topLevel<QMessageBox>();
+        if (!box)
+            QFAIL("no box");
         QVERIFY(box->text().contains("the same as now"_L1));
         box->close();
 
@@ -274,12 +281,9 @@ private slots:
         bench.start();
         QTRY_VERIFY(bench.bridge().hasData());
         files->saveCsv();
-        QFileDialog *dialog = nullptr;
-        for (QWidget *widget : QApplication::topLevelWidgets()) {
-            if (auto *candidate = qobject_cast<QFileDialog *>(widget))
-                dialog = candidate;
-        }
-        QVERIFY(dialog);
+        auto *dialog = topLevel<QFileDialog>();
+        if (!dialog)
+            QFAIL("no dialog");
         emit dialog->fileSelected(m_folder.filePath(u"missing/spectrum.csv"_s));
         QVERIFY(files->hasFailed());
         emit dialog->fileSelected(m_folder.filePath(u"spectrum.csv"_s));
