@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Templates as T
 import KVCenter.Controls
 import KVCenter.Wave
 
@@ -42,9 +43,11 @@ FocusScope {
     }
 
     HoverHandler {
-        // Keys go to the chart under the pointer, but never out of a field that is being filled in.
+        // Keys go to the chart under the pointer, but never out of a field that is being filled in, nor from a button
+        // that was reached by keys: it may have moved the charts below a resting pointer.
         onHoveredChanged: {
-            if (hovered && !(chart.Window.activeFocusItem instanceof TextInput))
+            const item = chart.Window.activeFocusItem;
+            if (hovered && !(item instanceof TextInput) && !(item as T.AbstractButton)?.visualFocus)
                 chart.forceActiveFocus();
         }
     }
