@@ -18,13 +18,13 @@ Node {
         source: "#Cylinder"
         y: 32
         scale: Qt.vector3d(0.014, 0.64, 0.014)
-        materials: ink
+        materials: [ink]
     }
     Model {
         source: "#Cone"
         y: 64
         scale: Qt.vector3d(0.05, 0.09, 0.05)
-        materials: ink
+        materials: [ink]
     }
     DefaultMaterial {
         id: ink

@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick3D
-import QtQuick3D.AssetUtils
 import KVCenter.ThreeD
 
 /// The model of a source: a built-in scene, whose size is right, or one of the two files, fitted to it.
@@ -10,7 +9,7 @@ Node {
     property url source
     required property ObjGeometry objModel
     required property MeshFile meshModel
-    readonly property bool isScene: source.toString().endsWith(".qml")
+    readonly property bool isScene: String(source).endsWith(".qml")
     readonly property string error: isScene && builtIn.status === Loader3D.Error ? qsTr("The model cannot be shown.") : ""
 
     Loader3D {
@@ -20,13 +19,13 @@ Node {
         source: body.isScene ? body.source : ""
     }
     FittedModel {
-        visible: body.objModel.source.toString() !== "" && body.objModel.error === ""
+        visible: String(body.objModel.source) !== "" && body.objModel.error === ""
         geometry: visible ? body.objModel : null
         minimum: body.objModel.minimum
         maximum: body.objModel.maximum
     }
     FittedModel {
-        visible: body.meshModel.source.toString() !== "" && body.meshModel.error === ""
+        visible: String(body.meshModel.source) !== "" && body.meshModel.error === ""
         source: visible ? body.meshModel.source : ""
         minimum: body.meshModel.minimum
         maximum: body.meshModel.maximum

@@ -24,7 +24,7 @@ Node {
         x: 70
         eulerRotation.z: -90
         scale: Qt.vector3d(0.02, 0.3, 0.12)
-        materials: mark
+        materials: [mark]
     }
     DefaultMaterial {
         id: mark

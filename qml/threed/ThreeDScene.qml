@@ -14,7 +14,7 @@ Item {
     required property AttitudeBackend attitude
     /// What is wrong with the model; empty when it is shown.
     readonly property string modelError: objModel.error || meshModel.error || body.error
-    readonly property string sourceName: attitude.objSource.toString().toLowerCase()
+    readonly property string sourceName: String(attitude.objSource).toLowerCase()
 
     CameraRig {
         id: rig

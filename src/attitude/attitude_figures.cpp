@@ -61,7 +61,7 @@ AttitudeFigures::AttitudeFigures(QWidget *parent) : QWidget(parent)
         setInk(head, theme::kTextSecondary);
         grid->addWidget(head, 0, column + 1);
         for (int row = 0; row < 3; ++row)
-            grid->addWidget(m_values[size_t(column * 3 + row)], row + 1, column + 1);
+            grid->addWidget(m_values[size_t(column) * 3 + size_t(row)], row + 1, column + 1);
     }
     for (size_t row = 0; row < 3; ++row) {
         setInk(m_names[row + 2], kAxisColors[row]);

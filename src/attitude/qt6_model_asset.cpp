@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -50,7 +51,7 @@ QString Qt6ModelAsset::builtInScene(const QString &fileName)
 QString Qt6ModelAsset::defaultBundledObjFilePath(const QString &fileName)
 {
     for (const QLatin1String place : kSamplePlaces) {
-        const QString path = QString(place).arg(fileName);
+        QString path = QString(place).arg(fileName);
         if (QFileInfo::exists(path))
             return path;
     }
