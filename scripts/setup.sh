@@ -12,7 +12,7 @@ packages=(
   qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts qml6-module-qtquick-templates
   qml6-module-qtquick-window qml6-module-qtquick-shapes qml6-module-qtqml qml6-module-qtqml-workerscript
   qt6-quick3d-dev qt6-quick3d-dev-tools qml6-module-quick3d qml6-module-quick3d-assetutils
-  qml6-module-quick3d-helpers libtinyobjloader-dev qt6-translations-l10n
+  qml6-module-quick3d-helpers qt6-quick3d-assetimporters-plugin libtinyobjloader-dev qt6-translations-l10n
   # benchmarks, and a plotting library to compare with
   libbenchmark-dev libqcustomplot-dev
   # fonts: the interface in Latin and in Chinese, Japanese and Korean, and the two built-in fixed-pitch fonts

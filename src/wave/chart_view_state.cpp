@@ -113,8 +113,7 @@ void ChartViewState::setChannelVisible(int channel, bool visible)
 
 void ChartViewState::zoomX(double factor, double anchor)
 {
-    const bool samplesPass = isFollowing() && m_bridge && m_bridge->playing();
-    setX(chart_range::zoomed(m_x, factor, samplesPass ? 1 : anchor));
+    setX(chart_range::zoomed(m_x, factor, anchor));
 }
 
 void ChartViewState::zoomY(double factor, double anchor)
@@ -182,7 +181,9 @@ void ChartViewState::removeCursors()
 bool ChartViewState::handleKey(int key, int modifiers)
 {
     const bool valueAxis = modifiers & Qt::ControlModifier;
-    const auto zoom = [this, valueAxis](double factor) { valueAxis ? zoomY(factor, 0.5) : zoomX(factor, 0.5); };
+    const auto zoom = [this, valueAxis](double factor) {
+        valueAxis ? zoomY(factor, 0.5) : zoomX(factor, isFollowing() ? 1 : 0.5);
+    };
     switch (key) {
     case Qt::Key_Left:
         panX(-kPanPerKey);

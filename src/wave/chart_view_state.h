@@ -92,8 +92,7 @@ public:
     QStringList hoverTexts() const;
 
     Q_INVOKABLE void setChannelVisible(int channel, bool visible);
-    /// Zooms the time axis; below 1 zooms in. `anchor` is the place that stays, 0 the left edge to 1 the right edge;
-    /// while samples pass in a following view it is the right edge.
+    /// Zooms the time axis; below 1 zooms in. `anchor` is the place that stays, 0 the left edge to 1 the right edge.
     Q_INVOKABLE void zoomX(double factor, double anchor);
     /// Zooms the value axis and makes it manual; `anchor` is 0 at the bottom to 1 at the top.
     Q_INVOKABLE void zoomY(double factor, double anchor);
