@@ -2,6 +2,7 @@
 #include <QThread>
 #include <QtTest>
 
+#include <atomic>
 #include <cmath>
 #include <fftw3.h>
 #include <limits>
@@ -211,20 +212,22 @@ private slots:
     {
         QThread thread;
         auto *engine = new FftTrans;
+        engine->initSize(16);
         engine->moveToThread(&thread);
         connect(&thread, &QThread::finished, engine, &QObject::deleteLater);
-        QSignalSpy results(engine, &FftTrans::fftResult);
-        QThread *answered = nullptr;
+        std::atomic<QThread *> answered = nullptr; // told from there
         connect(engine, &FftTrans::fftResult, engine, [&answered] { answered = QThread::currentThread(); });
+        unsigned long long batch = 0;
+        QList<QPointF> points;
+        connect(engine, &FftTrans::fftResult, this,
+                [&](unsigned long long id, signed char, const QList<QPointF> &result) { batch = id, points = result; });
         thread.start();
-        QMetaObject::invokeMethod(engine, [engine] { engine->initSize(16); });
-        QMetaObject::invokeMethod(engine, [engine] { engine->fftCalculate(5, 1, 160, tone(16, 3, 10)); });
-        QTRY_COMPARE(results.size(), 1);
+        QMetaObject::invokeMethod(engine, "fftCalculate", Qt::QueuedConnection, Q_ARG(unsigned long long, 5),
+                                  Q_ARG(signed char, 1), Q_ARG(int, 160), Q_ARG(QList<double>, tone(16, 3, 10)));
+        QTRY_COMPARE(batch, 5ULL);
         thread.quit();
         QVERIFY(thread.wait());
-        QCOMPARE(answered, &thread);
-        QCOMPARE(results.at(0).at(0).toULongLong(), 5ULL);
-        const auto points = results.at(0).at(2).value<QList<QPointF>>();
+        QCOMPARE(answered.load(), &thread);
         QCOMPARE(points.value(3).x(), 30.0);
         QVERIFY(std::abs(points.value(3).y() - 10) < 1e-9);
     }

@@ -250,7 +250,7 @@ private slots:
             for (const bool shown : {true, false, true}) { // the chip stays, and keeps the keyboard
                 QTest::keyClick(&window, Qt::Key_Space);
                 QTRY_COMPARE(find(window.rootObject(), "chart_eul")->isVisible(), shown);
-                QVERIFY(chip && chip->hasActiveFocus() && chip->property("checked").toBool() == shown);
+                QTRY_VERIFY(chip && chip->hasActiveFocus() && chip->property("checked").toBool() == shown);
             }
             window.resize(760, 490);
             QTRY_COMPARE(find(window.rootObject(), "noChart")->window()->width(), 760);
