@@ -174,7 +174,7 @@ private slots:
     /// While a bootloader is there nothing else talks to the device; with the firmware back it is identified anew.
     void firmwareUpdateKeepsTheDeviceToItself()
     {
-        SimulatorProcess simulator({QStringLiteral("--bootloader-wait"), QStringLiteral("20000"),
+        SimulatorProcess simulator({QStringLiteral("--bootloader-wait"), QStringLiteral("5000"),
                                     QStringLiteral("--packet-size"), QStringLiteral("512")});
         Desk desk;
         const QByteArray image = QByteArray::fromHex("00400020C1000000") + QByteArray(60000, 'x');
@@ -199,7 +199,7 @@ private slots:
         QVERIFY(desk.isOpen());
         QTRY_VERIFY_WITH_TIMEOUT(!updater->isDownloadRunning(), 30000);
         QVERIFY(desk.find<QAction>("action_serial_stop")->isEnabled());
-        QTRY_COMPARE_WITH_TIMEOUT(desk.label("label_product"), QStringLiteral("MZ221"), 20000);
+        QTRY_COMPARE_WITH_TIMEOUT(desk.label("label_product"), QStringLiteral("MZ221"), 40000);
         QVERIFY(desk.find<QAction>("actionDevice_Settiing")->isEnabled());
     }
 };
