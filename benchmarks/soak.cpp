@@ -1,7 +1,7 @@
 // kv_soak [--minutes M] [--record] [--dashboards] [simulator options...]: the real main window against the simulator
 // for some minutes, recording into the working folder and with the dashboards open when told to. Prints processor share
-// and memory as it goes, and at the end the frames that were sent, those that were decoded and those that were recorded.
-// Ends with 1 when one was lost.
+// and memory as it goes, and at the end the frames that were sent, those that were decoded and those that were
+// recorded. Ends with 1 when one was lost.
 
 #include <QApplication>
 #include <QCommandLineParser>

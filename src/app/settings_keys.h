@@ -16,7 +16,7 @@ constexpr QLatin1String kBaudRate("SERIAL/BAUDRATE");    ///< last baud rate
 constexpr QLatin1String kPortVendor("SERIAL/VENDOR_ID"); ///< USB identity of the last port, decimal
 constexpr QLatin1String kPortProduct("SERIAL/PRODUCT_ID");
 constexpr QLatin1String kPortSerial("SERIAL/SERIAL_NUMBER");
-constexpr QLatin1String kRecordPath("RECORD/PATH"); ///< folder and name of the last recording, "<folder>/data.csv"
+constexpr QLatin1String kRecordPath("RECORD/PATH");   ///< folder and name of the last recording, "<folder>/data.csv"
 constexpr QLatin1String kUpdaterPath("UPDATER/PATH"); ///< last firmware image
 
 constexpr QLatin1String kSpectrum("SPECTRUM"); ///< group of the spectrum window; kDashboardFolder below it
