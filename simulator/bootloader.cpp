@@ -13,22 +13,22 @@ constexpr qsizetype kMaxCommandBytes = 32;
 constexpr qsizetype kCommandHeaderBytes = 4;
 
 enum Tag : quint8 {
-    kEraseAll = 0x01,
-    kEraseRegion = 0x02,
-    kWriteMemory = 0x04,
-    kGetProperty = 0x07,
-    kExecute = 0x09,
-    kReset = 0x0B,
-    kGenericResponse = 0xA0,
-    kPropertyResponse = 0xA7,
+    EraseAll = 0x01,
+    EraseRegion = 0x02,
+    WriteMemory = 0x04,
+    GetProperty = 0x07,
+    Execute = 0x09,
+    Reset = 0x0B,
+    GenericResponse = 0xA0,
+    PropertyResponse = 0xA7,
 };
 
 enum Status : quint32 {
-    kSuccess = 0,
-    kInvalidArgument = 4,
-    kUnknownCommand = 10000,
-    kRangeInvalid = 10200,
-    kUnknownProperty = 10300,
+    Success = 0,
+    InvalidArgument = 4,
+    UnknownCommand = 10000,
+    RangeInvalid = 10200,
+    UnknownProperty = 10300,
 };
 
 constexpr quint32 kVersion = 0x4B020103; // 'K', 2.1.3
@@ -113,43 +113,43 @@ void Bootloader::handleCommand(const QByteArray &payload)
 {
     answer(encodeShortPacket(PacketType::Ack));
     if (payload.size() < kCommandHeaderBytes) {
-        respond(kInvalidArgument, 0);
+        respond(InvalidArgument, 0);
         return;
     }
     const auto tag = quint8(payload[0]);
     const qsizetype count = quint8(payload[3]);
-    const qsizetype needed = tag == kEraseRegion || tag == kWriteMemory ? 2 : tag == kGetProperty ? 1 : 0;
+    const qsizetype needed = tag == EraseRegion || tag == WriteMemory ? 2 : tag == GetProperty ? 1 : 0;
     if (payload.size() != kCommandHeaderBytes + 4 * count || count < needed) {
-        respond(kInvalidArgument, tag);
+        respond(InvalidArgument, tag);
         return;
     }
     const auto parameter = [&payload](qsizetype i) {
         return qFromLittleEndian<quint32>(payload.constData() + kCommandHeaderBytes + 4 * i);
     };
     switch (tag) {
-    case kEraseAll:
+    case EraseAll:
         respond(erase(m_flash.geometry().base, m_flash.geometry().size), tag, m_faults.eraseMs);
         break;
-    case kEraseRegion:
+    case EraseRegion:
         respond(erase(parameter(0), parameter(1)), tag, m_faults.eraseMs);
         break;
-    case kWriteMemory:
+    case WriteMemory:
         respond(beginWrite(parameter(0), parameter(1)), tag);
         break;
-    case kGetProperty:
+    case GetProperty:
         answerProperty(parameter(0));
         break;
-    case kExecute:
-        respond(m_firmwareWhole ? kSuccess : kInvalidArgument, tag);
+    case Execute:
+        respond(m_firmwareWhole ? Success : InvalidArgument, tag);
         if (m_firmwareWhole)
             m_exit = Exit::StartFirmware;
         break;
-    case kReset:
-        respond(kSuccess, tag);
+    case Reset:
+        respond(Success, tag);
         m_exit = Exit::Reset;
         break;
     default:
-        respond(kUnknownCommand, tag);
+        respond(UnknownCommand, tag);
         break;
     }
 }
@@ -157,20 +157,20 @@ void Bootloader::handleCommand(const QByteArray &payload)
 quint32 Bootloader::erase(quint32 address, quint32 count)
 {
     if (!m_flash.erase(address, count))
-        return kRangeInvalid;
+        return RangeInvalid;
     m_firmwareWhole = m_firmwareWhole && count == 0;
-    return kSuccess;
+    return Success;
 }
 
 quint32 Bootloader::beginWrite(quint32 address, quint32 count)
 {
     if (!m_flash.contains(address, count))
-        return kRangeInvalid;
+        return RangeInvalid;
     m_writing = count > 0;
     m_firmwareWhole = m_firmwareWhole && count == 0;
     m_writeAddress = address;
     m_writeLeft = count;
-    return kSuccess;
+    return Success;
 }
 
 void Bootloader::handleData(const QByteArray &payload)
@@ -207,7 +207,7 @@ void Bootloader::handleData(const QByteArray &payload)
     if (m_writeLeft == 0) {
         m_writing = false;
         m_firmwareWhole = true;
-        respond(kSuccess, kWriteMemory);
+        respond(Success, WriteMemory);
     }
 }
 
@@ -227,12 +227,12 @@ void Bootloader::answerProperty(quint32 property)
     const bool known = row != std::end(values);
     QByteArray value = littleEndian({known ? row->second : 0});
     value.resize(m_faults.propertyBytes, '\0');
-    answer(encodeResponse(kPropertyResponse, littleEndian({known ? kSuccess : kUnknownProperty}) + value));
+    answer(encodeResponse(PropertyResponse, littleEndian({known ? Success : UnknownProperty}) + value));
 }
 
 void Bootloader::respond(quint32 status, quint8 tag, int delayMs)
 {
-    answer(encodeResponse(kGenericResponse, littleEndian({status, tag})), delayMs);
+    answer(encodeResponse(GenericResponse, littleEndian({status, tag})), delayMs);
 }
 
 void Bootloader::answer(const QByteArray &bytes, int delayMs)

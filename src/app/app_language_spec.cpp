@@ -39,7 +39,8 @@ AppLanguageSpec languageFrom(const QJsonObject &object)
     language.setting = language_manifest::normalizeSetting(object.value(u"setting").toString());
     language.displayName = object.value(u"displayName").toString();
     language.translationStem = object.value(u"translationStem").toString();
-    for (const QJsonValue &family : object.value(u"fontFamilies").toArray())
+    const QJsonArray families = object.value(u"fontFamilies").toArray();
+    for (const auto family : families)
         language.fontFamilies.append(family.toString());
     return language;
 }
@@ -99,7 +100,8 @@ LanguageManifest language_manifest::parse(const QByteArray &json, QString *error
     LanguageManifest manifest;
     manifest.defaultLanguage = normalizeSetting(root.value(u"defaultLanguage").toString());
     *error = parseError.error == QJsonParseError::NoError ? QString() : parseError.errorString();
-    for (const QJsonValue &entry : root.value(u"languages").toArray()) {
+    const QJsonArray entries = root.value(u"languages").toArray();
+    for (const auto entry : entries) {
         const AppLanguageSpec language = languageFrom(entry.toObject());
         if (error->isEmpty())
             *error = faultOf(language, manifest.languages);

@@ -135,8 +135,7 @@ void DashboardWindow::showLoadFailure()
     if (!item)
         return; // the toolkit's own views are missing: the log has said it
     item->setProperty("text", tr("This window could not be loaded. The log of the program tells why."));
-    text.release();
     item->setParentItem(contentItem());
-    item->setParent(contentItem());
+    text.release()->setParent(contentItem());
     item->setWidth(width());
 }
