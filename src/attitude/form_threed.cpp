@@ -380,6 +380,6 @@ void form_threed::changeEvent(QEvent *event)
 void form_threed::fitPanel()
 {
     m_ui->panel->ensurePolished();
-    const int content = qMax(m_ui->panel->minimumSizeHint().width(), fontMetrics().averageCharWidth() * 42);
+    const int content = qMax(m_ui->panel->minimumSizeHint().width(), fontMetrics().horizontalAdvance(u'0') * 40);
     m_ui->SCR_panel->setFixedWidth(content + m_ui->SCR_panel->verticalScrollBar()->sizeHint().width());
 }
