@@ -45,7 +45,7 @@ QByteArray pattern(qsizetype size)
 // A bootloader of 64 KiB flash in sectors of 1 KiB, asked once a millisecond.
 struct Target
 {
-    Bootloader boot{{{kBase, 64 * 1024, 1024}, 32, 1000, 1}};
+    Bootloader boot{Bootloader::Settings{{kBase, 64 * 1024, 1024}, 32, 1000, 1}};
     qint64 nowNs = 0;
 
     Target() { boot.enter(0); }
