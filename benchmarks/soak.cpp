@@ -9,13 +9,11 @@
 #include <QStyleFactory>
 #include <QTextStream>
 
-#include <sys/resource.h>
-#include <unistd.h>
-
 #include "app/application_fonts.h"
 #include "app/theme.h"
 #include "e2e/desk.h"
 #include "link/stream_dispatcher.h"
+#include "process_figures.h"
 #include "support/simulator_process.h"
 #include "ui/form_record.h"
 
@@ -24,24 +22,6 @@ namespace {
 constexpr int kReportMs = 30000;
 constexpr int kDrainMs = 2000;
 constexpr int kStreamMs = 1000;
-
-/// Processor time of this process in milliseconds, user and system.
-qint64 processorMs()
-{
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    const auto ms = [](const timeval &time) { return qint64(time.tv_sec) * 1000 + time.tv_usec / 1000; };
-    return ms(usage.ru_utime) + ms(usage.ru_stime);
-}
-
-/// Resident memory in KiB.
-qint64 residentKib()
-{
-    QFile file(QStringLiteral("/proc/self/statm"));
-    if (!file.open(QIODevice::ReadOnly))
-        return 0;
-    return file.readAll().split(' ').value(1).toLongLong() * sysconf(_SC_PAGESIZE) / 1024;
-}
 
 void wait(int ms)
 {
@@ -94,22 +74,24 @@ int main(int argc, char **argv)
         decodedBefore = dispatcher->snapshot().seq;
     }
 
-    const qint64 startKib = residentKib();
-    out << "start: " << startKib << " KiB resident\n" << Qt::flush;
+    const process_figures::Figures start = process_figures::look();
+    process_figures::Figures last = start;
+    out << "start: " << start.residentKib << " KiB resident\n" << Qt::flush;
     QElapsedTimer clock;
     clock.start();
-    const qint64 startProcessorMs = processorMs();
     while (clock.elapsed() < qint64(minutes * 60000)) {
         const qint64 fromMs = clock.elapsed();
-        const qint64 fromProcessorMs = processorMs();
         wait(int(std::min<qint64>(kReportMs, qint64(minutes * 60000) - fromMs)));
-        out << clock.elapsed() / 1000
-            << " s: " << 100.0 * double(processorMs() - fromProcessorMs) / double(clock.elapsed() - fromMs)
-            << " % of a core, " << residentKib() << " KiB, " << desk.label("label_traffic") << '\n'
+        const process_figures::Figures now = process_figures::look();
+        out << clock.elapsed() / 1000 << " s: " << process_figures::percentBetween(last, now) << " % of a core, "
+            << now.residentKib << " KiB, " << desk.label("label_traffic") << '\n'
             << Qt::flush;
+        last = now;
     }
-    out << "whole run: " << 100.0 * double(processorMs() - startProcessorMs) / double(clock.elapsed())
-        << " % of a core, memory " << startKib << " -> " << residentKib() << " KiB\n";
+    out << "whole run: " << process_figures::percentBetween(start, last) << " % of a core, memory " << start.residentKib
+        << " -> " << last.residentKib << " KiB, " << last.openHandles << " handles\n";
+    for (const process_figures::Share &share : process_figures::sharesBetween(start, last))
+        out << "  " << share.name << " (" << share.threads << "): " << share.percent << " %\n";
 
     const qint64 dropped = simulator.stat("dropped"); // what the line was too slow for
     simulator.control("silent on");

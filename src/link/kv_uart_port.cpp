@@ -31,6 +31,7 @@ KvUartPort::KvUartPort(QObject *parent)
     connect(m_kboot.get(), &KbootProtocol::serialSend, this, &KvUartPort::serialSend);
     connect(m_secondTimer.get(), &QTimer::timeout, this, &KvUartPort::onTimer1000ms);
     m_secondTimer->setInterval(kSecondMs);
+    m_workerThread->setObjectName(QStringLiteral("KvUartPort")); // as debuggers and process lists show it
 }
 
 KvUartPort::~KvUartPort()
