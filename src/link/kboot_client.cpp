@@ -70,6 +70,7 @@ void KbootProtocol::delay(unsigned int ms)
 void KbootProtocol::forgetReply()
 {
     m_responseReceived = false;
+    m_health.discardedBytes += health().pendingBytes;
     m_frameBuffer.clear();
     m_decodeState = Hunting;
 }

@@ -1,5 +1,6 @@
 #include "link/kboot_protocol.h"
 
+#include <QDateTime>
 #include <QtEndian>
 
 #include "link/framing_packet.h"
@@ -15,6 +16,12 @@ constexpr qsizetype kMaxDiscardedBytes = 4096;
 quint16 u16At(const QByteArray &bytes, int offset)
 {
     return qFromLittleEndian<quint16>(bytes.constData() + offset);
+}
+
+/// Devices answer commands in ASCII lines.
+bool isText(quint8 byte)
+{
+    return (byte >= 0x20 && byte < 0x7F) || byte == '\r' || byte == '\n' || byte == '\t';
 }
 
 } // namespace
@@ -40,12 +47,18 @@ void KbootProtocol::clear()
     m_responseReceived = false;
     m_rxStaging.clear();
     m_frameBuffer.clear();
+    m_health = {};
 }
 
 void KbootProtocol::decode(const QByteArray &data)
 {
+    m_health.receivedBytes += quint64(data.size());
     for (const char byte : data)
         decodeByte(byte);
+    if (m_errorNoted) { // the clock is asked once for a chunk, and for a damaged one only
+        m_errorNoted = false;
+        m_health.lastErrorMs = QDateTime::currentMSecsSinceEpoch();
+    }
 }
 
 void KbootProtocol::decodeByte(char byte)
@@ -54,8 +67,10 @@ void KbootProtocol::decodeByte(char byte)
         if (quint8(byte) == kStartByte) {
             startPacket();
             m_decodeState = Type;
-        } else if (m_frameBuffer.size() >= kMaxDiscardedBytes) {
-            return;
+        } else {
+            countDiscarded(quint8(byte));
+            if (m_frameBuffer.size() >= kMaxDiscardedBytes)
+                return;
         }
         m_frameBuffer.append(byte);
         return;
@@ -102,7 +117,13 @@ void KbootProtocol::takeType(quint8 type)
         break;
     case kTypePing:
         m_responseReceived = true;
+        [[fallthrough]];
+    case kTypeAck:
+    case kTypeNak:
+    case kTypeAckAbort: // complete with its type; what it means is for those who wait for it
         m_decodeState = Hunting;
+        ++m_health.controlPackets;
+        m_health.controlBytes += kStartSize;
         break;
     case kTypePingResponse:
         m_expectedLength = kPingResponseSize;
@@ -111,6 +132,12 @@ void KbootProtocol::takeType(quint8 type)
         break;
     default:
         m_decodeState = Hunting;
+        if (isText(type)) { // the start byte is the letter Z
+            m_health.discardedBytes += kStartSize;
+        } else {
+            ++m_health.unknownTypes;
+            noteError(LinkError::UnknownType);
+        }
         break;
     }
 }
@@ -118,19 +145,71 @@ void KbootProtocol::takeType(quint8 type)
 void KbootProtocol::finishHeader()
 {
     m_expectedLength = u16At(m_frameBuffer, kLengthOffset) + kHeaderSize;
-    m_decodeState = m_expectedLength > kMaxPacketSize ? Hunting : Payload;
+    m_decodeState = Payload;
+    if (m_expectedLength > kMaxPacketSize) {
+        m_decodeState = Hunting;
+        ++m_health.overLongLengths;
+        noteError(LinkError::OverLong);
+    }
 }
 
 void KbootProtocol::finishPacket()
 {
     m_decodeState = Hunting;
-    if (do_crc_check(m_frameBuffer) != u16At(m_frameBuffer, kCrcOffset))
-        return;
-    if (quint8(m_frameBuffer.at(1)) == kTypeData) {
+    const quint8 type = quint8(m_frameBuffer.at(1));
+    const bool fits = do_crc_check(m_frameBuffer) == u16At(m_frameBuffer, kCrcOffset);
+    if (fits && type == kTypeData) {
+        countData();
         m_frameBuffer.remove(0, kHeaderSize);
         emit kbootRecv(m_frameBuffer);
+    } else if (fits || type == kTypePingResponse) { // which has its check value in another place
+        ++m_health.controlPackets;
+        m_health.controlBytes += quint64(m_frameBuffer.size());
+    } else {
+        ++m_health.crcErrors;
+        m_health.crcErrorBytes += quint64(m_frameBuffer.size());
+        noteError(LinkError::Checksum);
     }
-    m_responseReceived = true;
+    if (fits)
+        m_responseReceived = true;
+}
+
+LinkHealth KbootProtocol::health() const
+{
+    LinkHealth health = m_health;
+    if (m_decodeState != Hunting)
+        health.pendingBytes = quint64(m_frameBuffer.size());
+    return health;
+}
+
+void KbootProtocol::countData()
+{
+    if (m_health.dataPackets == 0) {
+        LinkHealth fresh;
+        fresh.receivedBytes = m_health.receivedBytes;
+        fresh.controlPackets = m_health.controlPackets;
+        fresh.controlBytes = m_health.controlBytes;
+        fresh.leadingBytes = m_health.rejectedBytes() + m_health.discardedBytes;
+        m_health = fresh;
+        m_errorNoted = false;
+    }
+    ++m_health.dataPackets;
+    m_health.dataBytes += quint64(m_frameBuffer.size());
+}
+
+void KbootProtocol::countDiscarded(quint8 byte)
+{
+    ++m_health.discardedBytes;
+    if (!isText(byte)) {
+        ++m_health.noiseBytes;
+        noteError(LinkError::Noise);
+    }
+}
+
+void KbootProtocol::noteError(LinkError error)
+{
+    m_health.lastError = error;
+    m_errorNoted = true;
 }
 
 quint16 KbootProtocol::do_crc_check(const QByteArray &packet)

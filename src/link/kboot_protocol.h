@@ -4,6 +4,7 @@
 #include <QObject>
 
 #include "link/bootloader_state.h"
+#include "link/link_health.h"
 
 /// Deframer of the serial link: a byte-driven state machine that finds framing packets in the stream, checks them and
 /// hands the payload of each good data packet upward; and, in the same packet format, the host's side of the dialogue
@@ -18,8 +19,8 @@
 ///     4       2      CRC-16/XMODEM over bytes 0..3 and the payload
 ///     6       n      payload
 ///
-/// Nothing is reported for bad input; the decoder returns to hunting from the byte that follows and never looks at a
-/// rejected packet's bytes again. A packet may be split over any number of reads.
+/// Nothing is reported for bad input, it is only counted; the decoder returns to hunting from the byte that follows and
+/// never looks at a rejected packet's bytes again. A packet may be split over any number of reads.
 ///
 /// The client waits in nested event loops, in steps of 1 ms, so that the port is read and decoded meanwhile. It never
 /// acknowledges what the target sends, and acts on no status word. A command packet's payload:
@@ -43,7 +44,7 @@ public:
     /// Feeds bytes through the state machine; results are kbootRecv() and responseReceived().
     void decode(const QByteArray &data);
 
-    /// Forgets a packet in progress, all collected bytes and the response flag.
+    /// Forgets a packet in progress, all collected bytes, the response flag and the counts.
     void clear();
 
     /// CRC of a packet: over bytes 0..3 and everything from byte 6 on, starting from 0. The packet's own CRC field is
@@ -60,6 +61,9 @@ public:
 
     /// A packet that counts as a response (types 0xA4 to 0xA7) has arrived since the flag was last cleared.
     bool responseReceived() const { return m_responseReceived; }
+
+    /// What has been decoded and lost since the last clear(). This object's thread.
+    LinkHealth health() const;
 
     using QObject::connect;
     /// Pings the bootloader and reads its facts; an unanswered ping is no fault, a property that is missing or not of 4
@@ -119,6 +123,9 @@ private:
     void takeType(quint8 type);
     void finishHeader();
     void finishPacket();
+    void countData();
+    void countDiscarded(quint8 byte);
+    void noteError(LinkError error);
 
     // client
     bool connectSteps();
@@ -135,6 +142,8 @@ private:
     int m_decodeState = Hunting;
     int m_expectedLength = 0;
     bool m_responseReceived = false;
+    LinkHealth m_health;
+    bool m_errorNoted = false; ///< in the chunk being decoded
 
     BootloaderFacts m_facts;
     BootloaderOutcome m_outcome;

@@ -45,6 +45,7 @@ void KvUartPort::openUART(const QString &portName, int baud)
         stopInWorker();
         m_workerThread->wait();
     }
+    clear(); // nobody is to take the last connection's figures for those of this one
     m_portName = portName;
     m_baudRate = baud;
     m_startPending = true;
@@ -102,6 +103,7 @@ void KvUartPort::threadStopped()
         close();
     }
     m_secondTimer->stop();
+    publishHealth();
     AppLog::logfile(QtInfoMsg, QStringLiteral("uart-thread stopped."));
     if (m_bootloaderBusy) { // and waits below on this thread's stack
         m_kboot->cancel();
@@ -174,6 +176,7 @@ void KvUartPort::clear()
     m_kboot->clear();
     m_bootloaderMode = false;
     const QMutexLocker lock(&m_statsMutex);
+    m_health = {};
     m_lastSecond = {};
     m_txBytes = 0;
     m_rxBytes = 0;
@@ -186,6 +189,18 @@ LinkStatistics KvUartPort::statistics() const
     return m_lastSecond;
 }
 
+LinkHealth KvUartPort::health() const
+{
+    const QMutexLocker lock(&m_statsMutex);
+    return m_health;
+}
+
+void KvUartPort::publishHealth()
+{
+    const QMutexLocker lock(&m_statsMutex);
+    m_health = m_kboot->health();
+}
+
 quint32 KvUartPort::loadPercent(quint64 bytes, int bitsPerSecond, int bitsPerCharacter)
 {
     const double charactersPerSecond = double(bitsPerSecond) / bitsPerCharacter;
@@ -196,6 +211,7 @@ quint32 KvUartPort::loadPercent(quint64 bytes, int bitsPerSecond, int bitsPerCha
 
 void KvUartPort::onTimer1000ms()
 {
+    publishHealth();
     // The settings' values as the library numbers them, plus the start bit: 8 + 0 + 1 + 1 = 10 for 8N1.
     const int bitsPerCharacter = int(dataBits()) + int(parity()) + int(stopBits()) + 1;
     const QMutexLocker lock(&m_statsMutex);

@@ -8,6 +8,8 @@
 #include <atomic>
 #include <memory>
 
+#include "link/link_health.h"
+
 class KbootProtocol;
 
 /// What the link carried during the last whole second. Loads are in per cent of the line's capacity.
@@ -51,6 +53,10 @@ public:
 
     /// Counters of the last whole second. Any thread.
     LinkStatistics statistics() const;
+
+    /// What the deframer has decoded and lost since the last opening, as of the last whole second; as of the end once
+    /// the port is closed. Any thread.
+    LinkHealth health() const;
 
     /// The bootloader client, for its signals; and for its facts and outcome while isBootloaderBusy() is false.
     const KbootProtocol *kboot() const { return m_kboot.get(); }
@@ -100,6 +106,7 @@ private slots:
 
 private:
     void stopInWorker();
+    void publishHealth();
     void moveAllTo(QThread *target);
     bool beginBootloader();
     void endBootloader();
@@ -115,6 +122,7 @@ private:
     std::atomic<bool> m_bootloaderBusy = false; ///< orders what the client has written before other threads' looks
 
     mutable QMutex m_statsMutex; ///< guards all below
+    LinkHealth m_health;
     LinkStatistics m_lastSecond;
     quint64 m_txBytes = 0; ///< of the current second, as all below
     quint64 m_rxBytes = 0;

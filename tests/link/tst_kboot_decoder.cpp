@@ -31,6 +31,29 @@ QByteArray counting(qsizetype size)
     return bytes;
 }
 
+/// What has been counted, without zeros: packets and bytes by fate, the kind of the last error.
+QString counts(const LinkHealth &health)
+{
+    const char *const errors[] = {"", "checksum", "over-long", "type", "noise"};
+    QStringList words;
+    const auto add = [&words](const char *name, quint64 count) {
+        if (count > 0)
+            words += QLatin1String(name) + QString::number(count);
+    };
+    add("data ", health.dataPackets);
+    add("control ", health.controlPackets);
+    add("crc ", health.crcErrors);
+    add("long ", health.overLongLengths);
+    add("type ", health.unknownTypes);
+    add("discarded ", health.discardedBytes);
+    add("noise ", health.noiseBytes);
+    add("leading ", health.leadingBytes);
+    add("pending ", health.pendingBytes);
+    if (health.lastError != LinkError::None)
+        words += QStringLiteral("last ") + QLatin1String(errors[int(health.lastError)]);
+    return words.join(u", ");
+}
+
 } // namespace
 
 class TestKbootDecoder : public QObject
@@ -86,9 +109,10 @@ private slots:
         QTest::addColumn<Payloads>("payloads");
         QTest::addColumn<bool>("response");
         QTest::addColumn<QByteArray>("frameBuffer");
+        QTest::addColumn<QString>("counts");
         const auto row = [](const char *name, const QByteArray &stream, const Payloads &payloads, bool response,
-                            const QByteArray &buffer) {
-            QTest::newRow(name) << stream << payloads << response << buffer;
+                            const QByteArray &buffer, const char *counts) {
+            QTest::newRow(name) << stream << payloads << response << buffer << QString::fromLatin1(counts);
         };
         const QByteArray p1 = hex("01 02 03"); // also what is left in the buffer: the header is taken off in place
         const QByteArray p2 = hex("04 05");
@@ -100,24 +124,35 @@ private slots:
         const QByteArray pingCrc = frames::Bytes().u16(frames::crc16(hex("5A A7 00 01 02 50 00 00")));
         const QByteArray pingWithCrc = hex("5A A7 00 01") + pingCrc + hex("02 50 00 00");
 
-        row("noise around", hex("00 A5 5B") + good + hex("11 22") + other, {p1, p2}, true, p2);
-        row("longest", frames::packet(longest), {longest}, true, longest);
-        row("bad CRC keeps the flag", hex("5A A6") + bad, {}, true, bad);
-        row("5A is not looked at again", hex("5A") + good + hex("00"), {}, false, hex("5A") + good + hex("00"));
-        row("start byte in a rejected packet is lost", hex("5A A5 05 00 00 00") + good.left(5) + other, {p2}, true, p2);
-        row("A0", hex("5A A0") + good, {p1}, true, p1);
-        row("A2, discarded bytes behind", hex("5A A2 01 02"), {}, false, hex("5A A2 01 02"));
-        row("A4", hex("5A A4 03 00 B3 71 01 02 03"), {}, true, hex("5A A4 03 00 B3 71 01 02 03"));
-        row("A4 with bad CRC", badA4, {}, false, badA4);
-        row("A6, then data", hex("5A A6") + good, {p1}, true, p1);
-        row("A7 answers at its type byte", hex("5A A7"), {}, true, hex("5A A7"));
-        row("A7 is never data, not even with a fitting CRC", pingWithCrc, {}, true, pingWithCrc);
-        row("A7, ten bytes, then data", hex("5A A7 00 01 02 50 00 00 FB 40") + good, {p1}, true, p1);
-        row("A7 of eight bytes takes two of the next", hex("5A A7 00 01 02 50 00 00") + good + other, {p2}, true, p2);
+        row("noise around", hex("00 A5 5B") + good + hex("11 22") + other, {p1, p2}, true, p2,
+            "data 2, discarded 2, noise 1, leading 3, last noise");
+        row("longest", frames::packet(longest), {longest}, true, longest, "data 1");
+        row("bad CRC keeps the flag", hex("5A A6") + bad, {}, true, bad, "control 1, crc 1, last checksum");
+        row("5A is not looked at again", hex("5A") + good + hex("00"), {}, false, hex("5A") + good + hex("00"),
+            "discarded 11, noise 8, last noise");
+        row("start byte in a rejected packet is lost", hex("5A A5 05 00 00 00") + good.left(5) + other, {p2}, true, p2,
+            "data 1, leading 11");
+        row("A0", hex("5A A0") + good, {p1}, true, p1, "data 1, leading 2");
+        row("A2, discarded bytes behind", hex("5A A2 01 02"), {}, false, hex("5A A2 01 02"),
+            "control 1, discarded 2, noise 2, last noise");
+        row("A4", hex("5A A4 03 00 B3 71 01 02 03"), {}, true, hex("5A A4 03 00 B3 71 01 02 03"), "control 1");
+        row("A4 with bad CRC", badA4, {}, false, badA4, "crc 1, last checksum");
+        row("A6, then data", hex("5A A6") + good, {p1}, true, p1, "data 1, control 1");
+        row("A7 answers at its type byte", hex("5A A7"), {}, true, hex("5A A7"), "pending 2");
+        row("A7 is never data, not even with a fitting CRC", pingWithCrc, {}, true, pingWithCrc, "control 1");
+        row("A7, ten bytes, then data", hex("5A A7 00 01 02 50 00 00 FB 40") + good, {p1}, true, p1,
+            "data 1, control 1");
+        row("A7 of eight bytes takes two of the next", hex("5A A7 00 01 02 50 00 00") + good + other, {p2}, true, p2,
+            "data 1, control 1, leading 7");
         // An empty packet is looked at one byte late, fails for that and so costs the packet behind it.
-        row("empty, then data", frames::packet({}) + good + other, {p2}, true, p2);
-        row("2042 is over-long", frames::packet({}, 0xA5, 2042) + good, {p1}, true, p1);
-        row("65535 is over-long", frames::packet({}, 0xA4, 65535) + good, {p1}, true, p1);
+        row("empty, then data", frames::packet({}) + good + other, {p2}, true, p2, "data 1, leading 15");
+        row("2042 is over-long", frames::packet({}, 0xA5, 2042) + good, {p1}, true, p1, "data 1, leading 6");
+        row("65535 is over-long", good + frames::packet({}, 0xA4, 65535) + good, {p1, p1}, true, p1,
+            "data 2, long 1, last over-long");
+        row("text of a device", hex("5A A6") + good + "Z1, AZ\r\n\t" + good, {p1, p1}, true, p1,
+            "data 2, control 1, discarded 9");
+        row("damage of all kinds behind data", good + bad + hex("5A 00 00") + bad, {p1}, true, bad,
+            "data 1, crc 2, type 1, discarded 1, noise 1, last checksum");
     }
     void streams()
     {
@@ -129,6 +164,11 @@ private slots:
             QTEST(decoder.payloads, "payloads");
             QTEST(decoder.responseReceived(), "response");
             QTEST(decoder.frameBuffer(), "frameBuffer");
+            const LinkHealth health = decoder.health();
+            QTEST(counts(health), "counts");
+            QVERIFY(health.addsUp());
+            QCOMPARE(health.receivedBytes, quint64(stream.size()));
+            QCOMPARE(health.lastErrorMs != 0, health.lastError != LinkError::None);
         }
     }
 
@@ -172,9 +212,11 @@ private slots:
         for (qsizetype size = 1; size < packet.size(); ++size) {
             Decoder decoder;
             decoder.serial_read(hex("5A A6") + packet.left(size));
+            QCOMPARE(decoder.health().pendingBytes, quint64(size));
             decoder.clear();
             QVERIFY(!decoder.responseReceived());
             QVERIFY(decoder.frameBuffer().isEmpty());
+            QCOMPARE(decoder.health(), LinkHealth());
             decoder.serial_read(packet);
             QCOMPARE(decoder.payloads, Payloads{counting(76)});
         }
