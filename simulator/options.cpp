@@ -103,6 +103,10 @@ void addOptions(QCommandLineParser &parser)
     add("fixed", "Send constant values, see above; same as --values fixed.");
     add("replay", "Play a CSV recording instead of the motion model.", "FILE");
     add("link", "Keep a symbolic link to the port at this path.", "PATH");
+    add("write-times",
+        "Write when each sent frame's last byte was given to the port: 8 bytes each, little-endian, nanoseconds of "
+        "CLOCK_MONOTONIC.",
+        "FILE");
     add("seed", "Seed of all randomness (default 1).", "N");
     add("bootloader-wait",
         "Time that the bootloader waits for a host before it starts the firmware, ms (default 1000). 0: no bootloader.",
@@ -215,6 +219,7 @@ std::optional<Options> parseOptions(const QStringList &arguments, QString *error
         return {};
     }
     options.linkPath = parser.value(QStringLiteral("link"));
+    options.writeTimesPath = parser.value(QStringLiteral("write-times"));
     options.control = parser.isSet(QStringLiteral("control"));
     for (const ControlOption &row : kValueControls) {
         for (const QString &value : parser.values(QLatin1String(row.option)))

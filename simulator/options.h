@@ -26,6 +26,7 @@ struct Options
     MotionKind motion = MotionKind::Swing;
     QString replayPath;
     QString linkPath;
+    QString writeTimesPath; ///< empty: not wanted
     Bootloader::Settings bootloader;
     quint64 seed = 1;
     bool control = false;

@@ -34,6 +34,8 @@ Simulator::Simulator(const Options &options, std::optional<CsvRecording> recordi
 
 bool Simulator::start(QString *error)
 {
+    if (!m_options.writeTimesPath.isEmpty() && !m_writeTimes.open(m_options.writeTimesPath, error))
+        return false;
     m_elapsed.start();
     if (!replug(error))
         return false;
@@ -247,10 +249,14 @@ void Simulator::discardUnsent()
 void Simulator::flush()
 {
     while (!m_line.ready().isEmpty()) {
+        // Before the call: a reader on another core may have the bytes before it returns.
+        const quint64 writeNs = m_writeTimes.isOpen() ? WriteTimes::now() : 0;
         const qsizetype taken = m_port.write(m_line.ready());
         if (taken <= 0)
             return;
+        const quint64 sentBefore = m_line.sentFrames();
         m_line.take(taken);
+        m_writeTimes.add(writeNs, m_line.sentFrames() - sentBefore);
     }
     // The next word of the bootloader's dialogue is due when the bytes under way have arrived.
     const qint64 outNs = m_line.remainingNs();

@@ -13,6 +13,7 @@
 #include "simulator/sample_source.h"
 #include "simulator/transmit_line.h"
 #include "simulator/wake_timer.h"
+#include "simulator/write_times.h"
 
 namespace kvsim {
 
@@ -100,6 +101,7 @@ private:
     TransmitLine m_hostLine; // the other direction: what the host has sent and is still on its way
     FrameClock m_clock;
     PortLink m_link;
+    WriteTimes m_writeTimes; // not open: not wanted
     PtyPort m_port;
     QTimer m_timer;
     WakeTimer m_wake;

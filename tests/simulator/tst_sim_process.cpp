@@ -3,6 +3,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <chrono>
 #include <cmath>
 #include <csignal>
 
@@ -239,6 +240,42 @@ private slots:
         QVERIFY(intact >= host.payloads.size() && intact < simulator.stat("frames_sent"));
     }
 
+    void writeTimesStandBeforeTheArrivals()
+    {
+        constexpr int kFrames = 60;
+        constexpr int kBurst = 3;
+        constexpr int kFrameBytes = 82;
+        const QTemporaryDir folder;
+        QFile file(folder.filePath(QStringLiteral("times")));
+        QList<qint64> arrivedNs;
+        const auto now = [] {
+            return std::chrono::steady_clock::now().time_since_epoch() / std::chrono::nanoseconds(1);
+        };
+        qint64 sent = 0;
+        qint64 openedNs = 0;
+        {
+            SimulatorProcess simulator(words("--rate 500 --burst 3 --write-times") + QStringList{file.fileName()});
+            openedNs = now();
+            Host host(simulator.port());
+            QVERIFY(host.readUntil([&] {
+                while (arrivedNs.size() < host.bytes.size() / kFrameBytes)
+                    arrivedNs.append(now());
+                return arrivedNs.size() >= kFrames;
+            }));
+            QVERIFY(simulator.control("silent on"));
+            sent = simulator.stat("frames_sent");
+        }
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray times = file.readAll();
+        QCOMPARE(times.size(), sent * 8);
+        const auto timeOf = [&times](qsizetype i) { return qFromLittleEndian<qint64>(times.constData() + i * 8); };
+        for (qsizetype i = 0; i < kFrames; ++i) {
+            const qint64 since = i < kBurst ? openedNs : timeOf(i - kBurst);
+            QVERIFY2(timeOf(i) >= since && timeOf(i) <= arrivedNs.at(i), QByteArray::number(i));
+            QCOMPARE(timeOf(i), timeOf(i - i % kBurst));
+        }
+    }
+
     void controlsAreChecked()
     {
         SimulatorProcess simulator({});
@@ -298,11 +335,14 @@ private slots:
         for (const char *arguments :
              {"--bogus", "--device mz999", "--device mz221 --layout 62", "--device gateway --layout 91", "--rate 2001",
               "--noise much", "--flash-base 0xFFFFFFFF", "--flash-sector 0", "--bootloader bogus", "walk.csv",
-              "--replay /tmp", "--replay " KV_SIMULATOR_PATH, "--link " KV_SIMULATOR_PATH, "--link /nonexistent/imu"}) {
+              "--replay /tmp", "--replay " KV_SIMULATOR_PATH, "--link " KV_SIMULATOR_PATH, "--link /nonexistent/imu",
+              "--write-times /nonexistent/times"}) {
             QProcess process;
             process.start(QStringLiteral(KV_SIMULATOR_PATH), words(arguments));
             QVERIFY2(process.waitForFinished() && process.exitStatus() == QProcess::NormalExit, arguments);
-            QVERIFY2(process.exitCode() == (qstrncmp(arguments, "--link", 6) == 0 ? 1 : 2), arguments);
+            QVERIFY2(process.exitCode()
+                         == (qstrncmp(arguments, "--link", 6) == 0 || qstrncmp(arguments, "--write", 7) == 0 ? 1 : 2),
+                     arguments);
             QVERIFY2(process.readAllStandardError().startsWith("kv_simulator: "), arguments);
         }
     }
