@@ -1,5 +1,5 @@
 // What the waveform dashboard costs: feeds all six charts with synthetic motion and prints frames per second and the
-// processor's share. Figures are those of the whole program. See docs/benchmarks.md.
+// processor's share. Figures are those of the whole program. See docs/performance.md.
 
 #include <QApplication>
 #include <QCommandLineParser>

@@ -1,5 +1,5 @@
 // What the spectrum window costs: feeds it with synthetic vibration and prints frames per second, the processor's
-// share, dropped batches and latency. Figures are those of the whole program. See docs/benchmarks.md.
+// share, dropped batches and latency. Figures are those of the whole program. See docs/performance.md.
 
 #include <QApplication>
 #include <QComboBox>

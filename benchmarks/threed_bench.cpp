@@ -1,5 +1,6 @@
 // What the 3D view costs: feeds it an attitude that turns about all axes and prints frames per second and the
-// processor's share. Figures are those of the whole program. Also draws its window in any pose. See docs/benchmarks.md.
+// processor's share. Figures are those of the whole program. Also draws its window in any pose. See
+// docs/performance.md.
 
 #include <QApplication>
 #include <QCommandLineParser>

@@ -13,8 +13,8 @@ packages=(
   qml6-module-qtquick-window qml6-module-qtquick-shapes qml6-module-qtqml qml6-module-qtqml-workerscript
   qt6-quick3d-dev qt6-quick3d-dev-tools qml6-module-quick3d qml6-module-quick3d-assetutils
   qml6-module-quick3d-helpers qt6-quick3d-assetimporters-plugin libtinyobjloader-dev qt6-translations-l10n
-  # benchmarks, and a plotting library to compare with
-  libbenchmark-dev libqcustomplot-dev
+  # benchmarks, a plotting library to compare with, and the display server's reports of what is drawn
+  libbenchmark-dev libqcustomplot-dev libxcb1-dev libxcb-damage0-dev
   # fonts: the interface in Latin and in Chinese, Japanese and Korean, and the two built-in fixed-pitch fonts
   fonts-noto-core fonts-noto-cjk fonts-noto-mono fonts-hack
   # tests: a display without a screen, and a transform and a converter to compare with
