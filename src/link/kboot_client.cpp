@@ -287,8 +287,9 @@ bool KbootProtocol::fail(BootloaderFault fault)
 bool KbootProtocol::noteStatus()
 {
     constexpr int kStatusOffset = kHeaderSize + kCommandHeaderSize;
-    if (!m_responseReceived || quint8(m_frameBuffer.at(1)) != kTypeCommand
-        || m_frameBuffer.size() < kStatusOffset + kStatusSize)
+    // A data packet counts as a response as well, and leaves nothing but its payload, which may be one byte.
+    if (!m_responseReceived || m_frameBuffer.size() < kStatusOffset + kStatusSize
+        || quint8(m_frameBuffer.at(1)) != kTypeCommand)
         return false;
     if (m_outcome.targetStatus == 0)
         m_outcome.targetStatus = qFromLittleEndian<quint32>(m_frameBuffer.constData() + kStatusOffset);

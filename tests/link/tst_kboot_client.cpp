@@ -201,6 +201,7 @@ private slots:
             {"erase silent", 0x02, BootloaderPeer::ack(), 1, 2, Step::Erase, Fault::NoAnswer},
             {"write silent", 0x04, kNothing, 1, 2, Step::Write, Fault::NoAnswer},
             {"reset silent", 0x0B, kNothing, 1, 2, Step::Reset, Fault::None},
+            {"data of one byte for erase's response", 0x02, frames::packet("a"), 1, 2, Step::Reset, Fault::None},
             {"erase fails and goes on", 0x02, badStatus, 1, 2, Step::Reset, Fault::None}};
         for (const auto &[name, tag, answer, times, attempts, step, fault] : rows) {
             BootloaderPeer peer([tag = tag, answer = answer, times = times, data = 0](const QByteArray &packet,
