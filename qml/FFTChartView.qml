@@ -113,4 +113,17 @@ Item {
         failed: view.files.failed
         onDismissed: view.files.clearMessage()
     }
+
+    Item {
+        anchors.fill: parent
+
+        PointHandler {
+            acceptedButtons: Qt.AllButtons
+            // The window around the view has the keyboard; a click in here has to bring it, or fields stay dead.
+            onActiveChanged: {
+                if (active)
+                    view.Window.window.requestActivate();
+            }
+        }
+    }
 }
