@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
-# Checks of form: the folder graph, formatting, qmllint, clang-tidy. Needs a configured dev build (./test makes one).
-# Prints only what is wrong, and a line when all is well.
+# Checks of form: the folder graph, links of the documents, formatting, qmllint, clang-tidy. Needs a configured dev
+# build (./test makes one). Prints only what is wrong, and a line when all is well.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 python3 scripts/check_folders.py
+python3 scripts/check_links.py
 
 mapfile -t files < <(git ls-files '*.cpp' '*.h')
 clang-format-14 --dry-run --Werror "${files[@]}"
@@ -26,4 +27,4 @@ if ! printf '%s\0' "${sources[@]}" |
   echo "check: clang-tidy is not content, see above" >&2
   exit 1
 fi
-echo "check: folders, formatting, qmllint and clang-tidy are in order"
+echo "check: folders, links, formatting, qmllint and clang-tidy are in order"
