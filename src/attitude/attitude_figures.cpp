@@ -95,7 +95,8 @@ void AttitudeFigures::show(const NormalizedAttitude &live, const std::optional<Q
         setIfChanged(m_values[size_t(axis) + 3], figure(relative ? (*relative)[axis] : kNoNumber, 2, degree));
     }
     for (size_t i = 0; i < quaternion.size(); ++i)
-        setIfChanged(m_values[i + 6], figure(live.valid ? quaternion[i] : kNoNumber, 4, {}));
+        setIfChanged(m_values[i + 6],
+                     QLatin1Char("WXYZ"[i]) + figure(live.valid ? quaternion[i] : kNoNumber, 4, {}).rightJustified(9));
 }
 
 void AttitudeFigures::changeEvent(QEvent *event)
@@ -118,7 +119,7 @@ void AttitudeFigures::setFonts()
 {
     const QFont fixed = theme::fixedPitchFont(font().pointSizeF());
     // The longest number keeps its place.
-    const int width = QFontMetrics(fixed).horizontalAdvance(QStringLiteral("−180.00°"));
+    const int width = QFontMetrics(fixed).horizontalAdvance(QStringLiteral("W  +0.1234"));
     for (QLabel *label : m_values) {
         label->setFont(fixed);
         label->setMinimumWidth(width);
