@@ -62,7 +62,7 @@ program() {
 
 # window PATTERN: waits for a window and makes it the one that keys go to
 window() {
-  for _ in $(seq 100); do
+  for _ in $(seq 200); do
     window=$(xdotool search --onlyvisible --name "$1" 2>/dev/null | tail -1) && [ -n "$window" ] && break
     sleep 0.2
   done
