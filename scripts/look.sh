@@ -1,7 +1,6 @@
 #!/usr/bin/env bash
 # look.sh OUT.png [SECONDS] [./run options...]: starts ./run on a display without a screen, opens the remembered port as
 # a user would (Ctrl+O, Enter), waits SECONDS (default 6) and takes a picture of the window.
-# Needs the Debian packages imagemagick, xdotool and openbox beside what scripts/setup.sh installs.
 set -euo pipefail
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 out=$(realpath -m -- "$1")

@@ -21,6 +21,8 @@ packages=(
   xvfb xauth libfftw3-dev srecord
   # checks
   clang-format-14 clang-tidy-14 python3
+  # the Debian package and its checks; a bare system to install it in, and eyes and hands there
+  dpkg-dev file desktop-file-utils appstream lintian debootstrap openbox xdotool imagemagick
 )
 
 missing=()
