@@ -11,7 +11,6 @@ fail() {
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-cmake --preset release >"$work/log" 2>&1 || { cat "$work/log" >&2; fail "not configured"; }
 rm -f build/release/kvcenter_*.deb
 (cd build/release && cpack) >"$work/log" 2>&1 || { cat "$work/log" >&2; fail "not packed"; }
 package=$(echo build/release/kvcenter_*.deb)

@@ -52,7 +52,7 @@ inside() { # a command as root
 }
 as_user() { # VARIABLE=VALUE... COMMAND...: as the ordinary user, in a shell's place
   exec env -i PATH=/usr/bin:/bin HOME=/home/tester USER=tester LANG=en_US.UTF-8 DISPLAY="$DISPLAY" \
-    chroot --userspec=tester:tester "$root" env "$@"
+    /usr/sbin/chroot --userspec=tester:tester "$root" env "$@"
 }
 installed_kb() {
   inside dpkg-query -W -f='${Installed-Size}\n' | awk '{ sum += $1 } END { print sum }'
@@ -65,16 +65,21 @@ wait_for() { # SECONDS COMMAND...
     sleep 0.2
   done
 }
-window() { # TITLE: waits for the visible window, gives its number
-  wait_for 60 xdotool search --onlyvisible --name "$1" || fail "no window \"$1\""
-  xdotool search --onlyvisible --name "$1" | tail -n 1
+visible() { # TITLE: the number of the visible window; a search is lost when a tooltip goes meanwhile
+  xdotool search --onlyvisible --name "$1" 2>/dev/null | grep -m 1 .
+}
+to_front() { # TITLE
+  xdotool windowactivate --sync "$(visible "$1")"
+}
+window() { # TITLE: waits for the visible window, brings it to the front
+  wait_for 60 visible "$1" || fail "no window \"$1\""
+  wait_for 10 to_front "$1" || fail "window \"$1\" does not come to the front"
 }
 picture() { # TITLE FILE COLOURS: its picture; one with fewer colours shows nothing
-  local id colours
-  id=$(window "$1")
-  xdotool windowactivate --sync "$id"
-  sleep 4
-  import -window "$id" "$out/$2.png"
+  local colours
+  window "$1"
+  sleep 4 # until it has drawn some seconds of data
+  import -window "$(visible "$1")" "$out/$2.png" || fail "no picture of \"$1\""
   colours=$(identify -format %k "$out/$2.png")
   step "window \"$1\": $(identify -format '%wx%h' "$out/$2.png"), $colours colours"
   [ "$colours" -ge "$3" ] || fail "window \"$1\" looks empty"
@@ -120,30 +125,37 @@ wait "$program" || fail "the first run ended with $?"
 step "first start: language asked and kept in the data folder"
 
 as_user kv_simulator --link /home/tester/imu --baud 921600 --rate 400 --motion swing \
-  --vibration 50:0.2:z:0.5,0.25 >"$out/simulator.log" 2>&1 &
+  --vibration 50:4:z:0.5,0.25 >"$out/simulator.log" 2>&1 &
 wait_for 10 test -L "$root/home/tester/imu" || fail "the simulator did not start"
 "$top/scripts/remember_port.sh" "$data/param.ini" /home/tester/imu 921600
 chown --reference="$data" "$data/param.ini"
 as_user kvcenter >"$out/second-start.log" 2>&1 &
 program=$!
-window 'ORVEL-IMU' >/dev/null
+window 'ORVEL-IMU'
 sleep 2
 xdotool key ctrl+o
-window 'Open serial port' >/dev/null
+window 'Open serial port'
 xdotool key Return
 wait_for 20 grep -q 'product-info resolved' "$data/debug.log" || fail "the device is not identified"
-step "device: $(grep -o 'product-info resolved.*' "$data/debug.log" | tr -d '\r')"
+step "device: $(grep -ao 'product-info resolved.*' "$data/debug.log" | tr -d '\r')"
 xdotool key ctrl+r
 picture 'Record to file' 3-record 100
 xdotool key alt+s
+sleep 1
+xdotool key alt+c # the recording goes on
 picture 'ORVEL-IMU' 4-live 500
 xdotool key ctrl+d
 picture 'Sensor Dashboard' 5-waves 500
-xdotool windowactivate --sync "$(window ORVEL-IMU)" key ctrl+f
+window 'ORVEL-IMU'
+xdotool key ctrl+f
+window 'FFT Analysis'
+xdotool mousemove --window "$(visible 'FFT Analysis')" 40 28 click 1 # Start
 picture 'FFT Analysis' 6-spectrum 500
-xdotool windowactivate --sync "$(window ORVEL-IMU)" key ctrl+3
+window 'ORVEL-IMU'
+xdotool key ctrl+3
 picture '3D view' 7-threed 500
-xdotool windowactivate --sync "$(window ORVEL-IMU)" key ctrl+w
+window 'ORVEL-IMU'
+xdotool key ctrl+w # ends the recording, too
 sleep 2
 xdotool key ctrl+q
 wait "$program" || fail "the second run ended with $?"
@@ -158,7 +170,7 @@ step "recording: $(cd "$data" && ls ./*.csv), $rows rows"
 mkdir "$root/home/locked"
 as_user HOME=/home/locked kvcenter >"$out/locked-home.log" 2>&1 &
 program=$!
-window 'Choose Language' >/dev/null
+window 'Choose Language'
 sleep 1
 xdotool key Return
 picture 'ORVEL-IMU' 8-locked-home 200
