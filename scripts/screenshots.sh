@@ -13,31 +13,45 @@ limit=$((150 * 1024))
 "$top/scripts/setup.sh"
 cd "$top"
 mkdir "$work" || { echo "screenshots: $work must not exist" >&2; exit 1; }
-jobs=()
+desktop=()
+program=""
+simulator=""
+
+# end_process NAME: ends the process whose id is in that variable, if there is one
+end_process() {
+  local -n id=$1
+  [ -z "$id" ] || { kill "$id" 2>/dev/null && wait "$id" 2>/dev/null; } || true
+  id=""
+}
+end_scene() {
+  end_process program
+  end_process simulator
+}
 cleanup() {
-  for job in "${jobs[@]}"; do kill "$job" 2>/dev/null && wait "$job" 2>/dev/null || true; done
+  end_scene
+  for job in "${desktop[@]}"; do end_process job; done
   rm -rf "$work"
 }
 trap cleanup EXIT
+trap 'exit 130' INT TERM
 if ! { cmake --preset release && cmake --build --preset release --target kvcenter kv_simulator; } >"$work/log" 2>&1; then
   cat "$work/log" >&2
   exit 1
 fi
 
 exec {display}< <(exec Xvfb -displayfd 1 -screen 0 1366x768x24 -nolisten tcp 2>/dev/null)
-jobs+=($!)
+desktop+=($!)
 read -r -t 20 number <&"$display"
 export DISPLAY=":$number" QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8 XDG_RUNTIME_DIR="$work/runtime"
 mkdir -m 700 "$XDG_RUNTIME_DIR"
 unset WAYLAND_DISPLAY
 openbox 2>/dev/null &
-jobs+=($!)
+desktop+=($!)
 
 # device OPTIONS...: the simulated device at $work/imu, its controls at descriptor $controls
 device() {
   coproc SIMULATOR { exec "$programs/kv_simulator" --link "$work/imu" --control "$@"; }
   simulator=$SIMULATOR_PID
-  jobs+=("$simulator")
   exec {answers}<&"${SIMULATOR[0]}" {controls}>&"${SIMULATOR[1]}"
   read -r -t 10 _ <&"$answers"
 }
@@ -56,7 +70,6 @@ program() {
   printf '%s\n' "$@" >>"$work/settings/param.ini"
   (cd "$work/settings" && exec "$programs/kvcenter") &
   program=$!
-  jobs+=("$program")
   window '^ORVEL-IMU'
 }
 
@@ -98,19 +111,12 @@ take() {
   echo "screenshots: ${file#"$top/"} $(stat -c %s "$file") bytes"
 }
 
-end_scene() {
-  kill "$program" 2>/dev/null && wait "$program" 2>/dev/null || true
-  [ -z "${simulator:-}" ] || { kill "$simulator" 2>/dev/null && wait "$simulator" 2>/dev/null || true; }
-  simulator=""
-}
-
 scene_language() {
   program
-  kill "$program" && wait "$program" 2>/dev/null || true
+  end_process program
   sed -i '/^LANGUAGE=/d' "$work/settings/param.ini"
   (cd "$work/settings" && exec env LC_ALL=en_US.UTF-8 "$programs/kvcenter") &
   program=$!
-  jobs+=("$program")
   window '^Choose Language'
   take language
 }
