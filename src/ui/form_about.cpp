@@ -1,5 +1,6 @@
 #include "ui/form_about.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QEvent>
 #include <QIcon>
@@ -9,7 +10,6 @@
 
 namespace {
 
-constexpr QLatin1String kIcon(":/images/mainicon.png");
 constexpr int kIconSize = 64;
 constexpr int kTextWidth = 432;
 
@@ -20,7 +20,7 @@ form_about::form_about(QWidget *parent) : QDialog(parent), m_ui(std::make_unique
     m_ui->setupUi(this);
     // Wrapped texts need a width to lay themselves out in; it follows the font.
     m_ui->LBL_what->setMinimumWidth(qMax(kTextWidth, 56 * fontMetrics().averageCharWidth()));
-    const QPixmap icon = QIcon(kIcon).pixmap(QSize(kIconSize, kIconSize), devicePixelRatio());
+    const QPixmap icon = QApplication::windowIcon().pixmap(QSize(kIconSize, kIconSize), devicePixelRatio());
     m_ui->LBL_icon->setPixmap(icon);
     m_ui->LBL_icon->setVisible(!icon.isNull());
     fillTexts();

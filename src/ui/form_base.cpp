@@ -72,7 +72,9 @@ QString toolbarText(QString text)
 form_base::form_base(QWidget *parent) : QMainWindow(parent), m_ui(std::make_unique<Ui::form_base>())
 {
     const int fontSize = storedFontSize();
-    AppLanguageManager::instance().applyCurrentFont(fontSize); // before any widget, so that all start with it
+    // Before any widget, so that all start with it: a change would have every one of them worked out again.
+    AppLanguageManager::instance().applyCurrentFont(fontSize);
+    styleMenus(fontSize);
 
     m_ui->setupUi(this);
     setUpPanels();
@@ -82,11 +84,7 @@ form_base::form_base(QWidget *parent) : QMainWindow(parent), m_ui(std::make_uniq
                     QStringLiteral("ui-thread=%1 started").arg(reinterpret_cast<quintptr>(QThread::currentThreadId())));
 
     m_port = std::make_unique<KvUartPort>();
-    m_portDialog = new form_com_select(this);
-    m_updater = new form_updater(this);
-    m_updater->set_serial_instance(m_port.get());
     m_recordDialog = new form_record(this);
-    m_aboutDialog = new form_about(this);
     m_settingsDialog = new form_settings(this);
     setUpActions();
 
@@ -161,7 +159,7 @@ void form_base::setUpPanels()
     m_ui->statusbar->addPermanentWidget(m_trafficLabel);
     m_ui->statusbar->setSizeGripEnabled(false);
     m_ui->statusbar->setContentsMargins(theme::kGrid, 0, theme::kGrid, 0);
-    m_ui->label_icon->setPixmap(QIcon(QStringLiteral(":/images/mainicon.png")).pixmap(72, 72));
+    m_ui->label_icon->setPixmap(QApplication::windowIcon().pixmap(72, 72));
 }
 
 void form_base::setUpActions()
@@ -199,7 +197,6 @@ void form_base::setUpConnections()
 {
     connect(m_port.get(), &KvUartPort::kbootRecv, this, &form_base::onKbootFrameRecv);
     connect(m_port.get(), &QSerialPort::errorOccurred, this, &form_base::onSerialError);
-    connect(m_portDialog, &QDialog::accepted, this, &form_base::onPortChosen);
     connect(m_settingsDialog, &form_settings::settingsClosed, this, &form_base::on_form_settings_closed);
     connect(m_dispatcher, &StreamDispatcher::singleNodeFrame, m_recordDialog, &form_record::imuPackage0x91);
     connect(m_dispatcher, &StreamDispatcher::gatewayBatch62, m_recordDialog, &form_record::imuPackage0x62);
@@ -208,8 +205,6 @@ void form_base::setUpConnections()
     connect(m_dispatcher, &StreamDispatcher::gatewayBatch63, this, &form_base::handleGatewayBatch);
     connect(m_recordDialog, &form_record::recordingChanged, this, &form_base::showRecordingState);
     connect(m_recordDialog, &form_record::troubleChanged, this, &form_base::showRecordingState);
-    connect(m_updater, &form_updater::downloadRunningChanged, this, &form_base::onBootloaderChanged);
-    connect(m_updater, &form_updater::bootloaderConnectedChanged, this, &form_base::onBootloaderChanged);
     connect(m_dispatcher, &StreamDispatcher::selectedNodeChanged, this, &form_base::onSelectedNodeChanged);
     connect(m_dispatcher, &StreamDispatcher::streamSnapshotChanged, this, &form_base::onSnapshotChanged);
     connect(m_retryTimer, &QTimer::timeout, this, &form_base::try_read_prod_info);
@@ -226,13 +221,21 @@ void form_base::setUpConnections()
 void form_base::applyFontSize(int points)
 {
     AppLanguageManager::instance().applyCurrentFont(points);
-    setStyleSheet(QStringLiteral("QMenu {font: %1pt '%2';}")
-                      .arg(QString::number(points), QApplication::font().families().join(QStringLiteral("','"))));
+    styleMenus(points);
     m_trafficLabel->setFont(theme::fixedPitchFont(points));
     m_ui->scroll_left->setFixedWidth(points * kLeftWidthPerPoint);
     m_ui->actionFontSmall->setChecked(points == kFontSmall);
     m_ui->actionFontMedium->setChecked(points == kFontMedium);
     m_ui->actionFontBig->setChecked(points == kFontBig);
+}
+
+void form_base::styleMenus(int points)
+{
+    const QString sheet =
+        QStringLiteral("QMenu {font: %1pt '%2';}")
+            .arg(QString::number(points), QApplication::font().families().join(QStringLiteral("','")));
+    if (styleSheet() != sheet)
+        setStyleSheet(sheet);
 }
 
 void form_base::storeFontSize(int points)
@@ -265,6 +268,8 @@ void form_base::on_actionDevice_Settiing_triggered()
 
 void form_base::on_actionAbout_triggered()
 {
+    if (m_aboutDialog == nullptr)
+        m_aboutDialog = new form_about(this);
     m_aboutDialog->open();
 }
 
@@ -328,7 +333,7 @@ void form_base::changeEvent(QEvent *event)
 
 void form_base::closeEvent(QCloseEvent *event)
 {
-    if (m_updater->isDownloadRunning()) { // ending now would leave the device without firmware
+    if (m_updater != nullptr && m_updater->isDownloadRunning()) { // ending now would leave the device without firmware
         m_updater->raise();
         m_updater->activateWindow();
         event->ignore();
@@ -338,8 +343,10 @@ void form_base::closeEvent(QCloseEvent *event)
     settingsFile().setValue(settings_keys::kGeometry, saveGeometry());
     for (QDialog *dialog : {static_cast<QDialog *>(m_portDialog), static_cast<QDialog *>(m_settingsDialog),
                             static_cast<QDialog *>(m_updater), static_cast<QDialog *>(m_recordDialog),
-                            static_cast<QDialog *>(m_aboutDialog)})
-        dialog->close();
+                            static_cast<QDialog *>(m_aboutDialog)}) {
+        if (dialog != nullptr)
+            dialog->close();
+    }
     m_threed.reset();
     m_spectrum.reset();
     m_sensorDashboard.reset();

@@ -91,6 +91,7 @@ private:
     void setUpActions();
     void setUpConnections();
     void applyFontSize(int points);
+    void styleMenus(int points);
     void storeFontSize(int points);
     void retranslate();
     void setUpLanguages();
@@ -148,10 +149,10 @@ private:
     ValueStrip *m_angles = nullptr;
 
     std::unique_ptr<KvUartPort> m_port;
-    form_com_select *m_portDialog = nullptr;
+    form_com_select *m_portDialog = nullptr; ///< created when first asked for
     form_settings *m_settingsDialog = nullptr;
-    form_about *m_aboutDialog = nullptr;
-    form_updater *m_updater = nullptr;
+    form_about *m_aboutDialog = nullptr; ///< created when first asked for
+    form_updater *m_updater = nullptr;   ///< created when first asked for
     form_record *m_recordDialog = nullptr;
     QToolButton *m_recordButton = nullptr;
     std::unique_ptr<form_threed> m_threed;                        ///< created when first asked for

@@ -41,6 +41,10 @@ constexpr int kReadsAfterUpdate = 5;
 void form_base::on_action_serial_open_triggered()
 {
     // Not exec(): a command that waits for its reply meanwhile must not wait for the user as well.
+    if (m_portDialog == nullptr) {
+        m_portDialog = new form_com_select(this);
+        connect(m_portDialog, &QDialog::accepted, this, &form_base::onPortChosen);
+    }
     m_portDialog->open();
     m_portDialog->raise();
 }
@@ -75,7 +79,8 @@ void form_base::open_port()
     m_dispatcher->setLinkConnected(true);
     m_settingsDialog->set_connected(true);
     m_recordDialog->setLinkOpen(true);
-    m_updater->set_connection_open(true);
+    if (m_updater != nullptr)
+        m_updater->set_connection_open(true);
     forgetChartHistory();
     m_panel->clear();
 
@@ -113,7 +118,8 @@ void form_base::closeConnection()
     QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
     m_dispatcher->clear();
     m_settingsDialog->set_connected(false);
-    m_updater->set_connection_open(false);
+    if (m_updater != nullptr)
+        m_updater->set_connection_open(false);
     m_recordDialog->setLinkOpen(false); // ends a recording: flushed and closed
     if (m_wirelessDashboard)
         m_wirelessDashboard->clear();
@@ -136,7 +142,8 @@ void form_base::closeConnection()
 
 void form_base::leaveDeviceStreaming()
 {
-    if (m_updater->isBootloaderConnected() || (!m_broker->isCollecting() && !m_settingsDialog->is_output_stopped()))
+    const bool inBootloader = m_updater != nullptr && m_updater->isBootloaderConnected();
+    if (inBootloader || (!m_broker->isCollecting() && !m_settingsDialog->is_output_stopped()))
         return;
     // A reading in progress, or the user, has stopped the output: the next program must not find a mute device.
     QMetaObject::invokeMethod(m_port.get(), "serialSend", Qt::QueuedConnection,

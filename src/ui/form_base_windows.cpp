@@ -42,6 +42,12 @@ void form_base::on_action_export_data_triggered()
 
 void form_base::on_action_firmware_update_triggered()
 {
+    if (m_updater == nullptr) {
+        m_updater = new form_updater(this);
+        m_updater->set_serial_instance(m_port.get());
+        connect(m_updater, &form_updater::downloadRunningChanged, this, &form_base::onBootloaderChanged);
+        connect(m_updater, &form_updater::bootloaderConnectedChanged, this, &form_base::onBootloaderChanged);
+    }
     bringUp(m_updater);
 }
 
