@@ -23,6 +23,7 @@
 #include <vector>
 
 #include <poll.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <xcb/damage.h>
@@ -136,7 +137,7 @@ private:
 struct Run
 {
     double paintedMs = 0;
-    double processorMs = 0; ///< used by then, in steps of the kernel's tick
+    double processorMs = 0; ///< used in all, until it was ended right behind its first picture
     qint64 residentKib = 0; ///< by then
     QImage picture;
 };
@@ -162,10 +163,12 @@ std::optional<Run> startOnce(Display &display, const QByteArray &program, const 
     const auto painted = display.firstPicture();
     const process_figures::Figures figures = process_figures::look(child);
     ::kill(child, SIGTERM);
-    ::waitpid(child, nullptr, 0);
+    rusage usage{};
+    ::wait4(child, nullptr, 0, &usage);
     if (!painted)
         return {};
-    return Run{double(painted->second - startNs) * 1e-6, double(figures.processorNs) * 1e-6, figures.residentKib,
+    const auto ms = [](const timeval &time) { return double(time.tv_sec) * 1e3 + double(time.tv_usec) * 1e-3; };
+    return Run{double(painted->second - startNs) * 1e-6, ms(usage.ru_utime) + ms(usage.ru_stime), figures.residentKib,
                painted->first};
 }
 
