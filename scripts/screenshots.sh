@@ -2,7 +2,6 @@
 # screenshots.sh [NAME...]: takes the pictures of docs/images anew, all or those named: the real program beside the
 # simulator on a display without a screen, driven by keys and mouse as a user would. Each picture starts from fresh
 # settings, so that it can be repeated; the figures in it depend on when it was taken.
-# Needs the Debian packages imagemagick, xdotool and openbox beside what scripts/setup.sh installs.
 set -euo pipefail
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 images="$top/docs/images"
