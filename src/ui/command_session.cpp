@@ -8,10 +8,17 @@ namespace {
 /// Bit times per byte on the line: 10, and a margin.
 constexpr float kBitTimesPerByteMs = 12000.0F;
 constexpr quint32 kResumeWindowMs = 50;
+constexpr int kResumeAgainMs = 2000;
+constexpr int kResumesAgain = 5;
 
 } // namespace
 
-CommandSession::CommandSession(QObject *parent) : QObject(parent) {}
+CommandSession::CommandSession(QObject *parent) : QObject(parent)
+{
+    m_resumeTimer.setSingleShot(true);
+    m_resumeTimer.setInterval(kResumeAgainMs);
+    connect(&m_resumeTimer, &QTimer::timeout, this, &CommandSession::resumeAgain);
+}
 
 void CommandSession::setBroker(CommandBroker *broker)
 {
@@ -30,6 +37,7 @@ void CommandSession::setConnected(bool connected)
     ++m_connection;
     m_connected = connected;
     m_outputStopped = false;
+    m_resumeTimer.stop();
     emit outcome(Outcome::Nothing, {});
     emit stateChanged();
 }
@@ -81,9 +89,10 @@ QStringList CommandSession::readInfoNow()
         logReply(lines);
     }
     // Also on a connection that began meanwhile: the rest of the sequence has quieted its device.
-    if (m_connected)
-        execute(settings_command_adapter::buildResumeOutputCommand(), kResumeWindowMs);
-    if (self == nullptr || connection != m_connection)
+    m_resumesLeft = lines.isEmpty() ? 0 : kResumesAgain; // nobody is there, or somebody whose output is stopped now
+    if (m_connected && !sendResume(kResumeWindowMs))
+        return {};
+    if (connection != m_connection)
         return {};
     m_outputStopped = false;
     m_device = product_resolver::resolve(lines);
@@ -130,6 +139,7 @@ void CommandSession::runHotkey(SettingsHotkeyAction action)
     if (text.isEmpty() || !begin())
         return;
     emit outcome(Outcome::Nothing, {});
+    m_resumeTimer.stop();
     const QPointer<CommandSession> self(this);
     m_outputStopped =
         action == SettingsHotkeyAction::StopOutput
@@ -144,10 +154,34 @@ void CommandSession::resumeOutput(bool waitForReply)
     if (!begin())
         return;
     emit outcome(Outcome::Nothing, {});
-    const QPointer<CommandSession> self(this);
     m_outputStopped = false;
-    execute(settings_command_adapter::buildResumeOutputCommand(), waitForReply ? kResumeWindowMs : 0);
-    if (self != nullptr)
+    m_resumesLeft = kResumesAgain;
+    if (sendResume(waitForReply ? kResumeWindowMs : 0))
+        end();
+}
+
+/// False when this object did not outlive the wait.
+bool CommandSession::sendResume(quint32 waitMs)
+{
+    m_resumeTimer.stop();
+    const QPointer<CommandSession> self(this);
+    const bool isCurrent = execute(settings_command_adapter::buildResumeOutputCommand(), waitMs).has_value();
+    if (self == nullptr)
+        return false;
+    if (isCurrent && waitMs > 0 && m_broker != nullptr && m_broker->lastResult().isEmpty() && m_resumesLeft > 0)
+        m_resumeTimer.start();
+    return true;
+}
+
+void CommandSession::resumeAgain()
+{
+    if (!begin()) { // a command of the user runs
+        if (m_connected)
+            m_resumeTimer.start();
+        return;
+    }
+    --m_resumesLeft;
+    if (sendResume(kResumeWindowMs))
         end();
 }
 

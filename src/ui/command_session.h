@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QStringList>
+#include <QTimer>
 
 #include <optional>
 
@@ -17,6 +18,9 @@ class CommandBroker;
 /// Every command waits in a nested event loop of the broker. While one runs, all others are refused. A connection has a
 /// number: what was begun on one connection sends no more and reports nothing once another has begun. The session, the
 /// broker and the port may be destroyed inside a wait.
+///
+/// A command that resumes the output and is followed by nothing at all, no reply and no data, may have been lost on the
+/// line, which would leave an identified device mute. It is sent again a few times, some seconds apart.
 ///
 /// Main thread only.
 class CommandSession : public QObject
@@ -82,6 +86,8 @@ private:
     QStringList readInfoNow();
     void logCommands(const QList<SettingsCommand> &commands);
     void logReply(const QStringList &lines);
+    bool sendResume(quint32 waitMs);
+    void resumeAgain();
     float byteTimeMs() const;
     quint32 replyWindowMs() const;
 
@@ -93,4 +99,6 @@ private:
     bool m_connected = false;
     bool m_busy = false;
     bool m_outputStopped = false;
+    QTimer m_resumeTimer; ///< runs while a resume is to be sent again
+    int m_resumesLeft = 0;
 };
