@@ -64,3 +64,9 @@ function(kv_test name)
     endif()
   endif()
 endfunction()
+
+# kv_add_images(target): embeds the program's pictures under ":/images/".
+function(kv_add_images target)
+  file(GLOB images CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/resources/images/*.png")
+  qt_add_resources(${target} kv_images PREFIX "/images" BASE "${PROJECT_SOURCE_DIR}/resources/images" FILES ${images})
+endfunction()

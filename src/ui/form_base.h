@@ -62,6 +62,9 @@ public:
     /// The user's preset for the product where one is stored in the settings file, else the product's own.
     static OrientationPreset resolveOrientationPreset(const DetectedDevice &device);
 
+    /// The link, for those who count what passes through the program.
+    const KvUartPort &port() const { return *m_port; }
+
     // Not slots: their actions are not in the generated layout, and would be looked for by name.
     void on_action_sensor_dashboard_triggered();
     void on_action_wireless_gateway_dashboard_triggered();

@@ -16,6 +16,21 @@
 #include "ui/form_settings.h"
 #include "ui/sensor_data_panel.h"
 
+/// Opens a port as a user does: the action, the path typed into the dialog, the button. Returns when identification has
+/// ended.
+inline void openPort(const form_base &window, const QString &path, int baud = 921600)
+{
+    window.findChild<QAction *>(QStringLiteral("action_serial_open"))->trigger();
+    auto *dialog = window.findChild<form_com_select *>();
+    dialog->findChild<QLineEdit *>(QStringLiteral("LE_path"))->setText(path);
+    dialog->findChild<QComboBox *>(QStringLiteral("CB_baud"))->setCurrentText(QString::number(baud));
+    auto *button = dialog->findChild<QPushButton *>(QStringLiteral("BTN_open"));
+    if (button->isEnabled())
+        button->click();
+    else
+        dialog->reject();
+}
+
 /// A user's desk: the real main window in a working folder of its own, and what the user does and sees there.
 class Desk
 {
@@ -59,20 +74,8 @@ public:
         return QStringLiteral("not shown");
     }
 
-    /// Opens a port as a user does: the action, the path typed into the dialog, the button. Returns when identification
-    /// has ended.
-    void open(const QString &path, int baud = 921600)
-    {
-        find<QAction>("action_serial_open")->trigger();
-        auto *dialog = window->findChild<form_com_select *>();
-        dialog->findChild<QLineEdit *>(QStringLiteral("LE_path"))->setText(path);
-        dialog->findChild<QComboBox *>(QStringLiteral("CB_baud"))->setCurrentText(QString::number(baud));
-        auto *button = dialog->findChild<QPushButton *>(QStringLiteral("BTN_open"));
-        if (button->isEnabled())
-            button->click();
-        else
-            dialog->reject();
-    }
+    /// Returns when identification has ended.
+    void open(const QString &path, int baud = 921600) { openPort(*window, path, baud); }
 
     QByteArray log() const
     {

@@ -1,0 +1,97 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QRandomGenerator>
+#include <QTextStream>
+
+#include <memory>
+
+#include "campaign/campaign_report.h"
+#include "campaign/link_account.h"
+#include "campaign/scenario.h"
+#include "campaign/user.h"
+#include "campaign/watchdog.h"
+#include "support/simulator_process.h"
+
+/// A user who works with the running program while one device after the other misbehaves. Each round connects a device,
+/// opens every window, records, lets a few things go wrong while habits of a user go on, and ends with the books:
+/// bytes, frames and records that were sent against those that arrived; memory, handles and threads in equal states.
+///
+/// run() is for a thread of its own; the program's main thread only carries out what it posts.
+class Campaign
+{
+public:
+    struct Options
+    {
+        double minutes = 30;
+        quint32 seed = 1;
+        bool isQuick = false; ///< one round per device and each fault once, in less than a minute
+    };
+
+    /// Main thread, with the program's event loop.
+    Campaign(form_base &window, const Options &options);
+    Q_DISABLE_COPY_MOVE(Campaign)
+
+    /// Works, then closes the main window.
+    void run();
+
+    /// After run(), and after the program has ended.
+    CampaignReport &report() { return m_report; }
+
+    // What faults are made of. Each takes its time, with habits of the user in between.
+
+    /// Sends the simulator controls, lets time pass and sends those that end them.
+    void during(std::initializer_list<const char *> begin, std::initializer_list<const char *> end);
+    void control(const char *line);
+    void openPort();
+    void closePort();
+    void reopenPort();
+    /// Presses the settings' button.
+    void identify();
+
+private:
+    /// The simulator's counts since its start.
+    struct Sent
+    {
+        quint64 frames = 0;
+        quint64 intact = 0;
+        quint64 bytes = 0;
+        quint64 dropped = 0;
+        quint64 unheard = 0;
+    };
+
+    void round(const scenario::Device &device);
+    void openEverything();
+    void misbehave(const scenario::Device &device);
+    bool backToOrder();
+    void settleBooks(bool bytesWereDamaged);
+    void endConnection();
+    void checkRecordings();
+    void look(const QString &state);
+
+    void act(const QString &what, const User::Action &action);
+    void doHabit();
+    void pause(int fromMs, int toMs);
+    bool isOpen();
+    Sent sent();
+    LinkAccount::Counts counts();
+    void fail(const QString &what);
+    bool isTimeUp() const;
+    void log(const QString &line);
+
+    Options m_options;
+    Watchdog m_watchdog;
+    User m_user;
+    LinkAccount m_account;
+    std::unique_ptr<SimulatorProcess> m_simulator;
+    QRandomGenerator m_random;
+    QElapsedTimer m_clock;
+    QFile m_logFile;
+    QTextStream m_log;
+    QList<scenario::Fault> m_faults; ///< still to come in this pass
+    QList<scenario::Habit> m_habits;
+    CampaignReport m_report;
+
+    LinkAccount::Counts m_before; ///< at the start of the round
+};

@@ -1,0 +1,143 @@
+#include "campaign/campaign_report.h"
+
+#include <QFile>
+#include <QMap>
+#include <QTextStream>
+
+#include <algorithm>
+
+namespace {
+
+// What two looks at one state may differ by: the toolkit's caches grow with what was shown, such as glyphs.
+constexpr qint64 kResidentSlackKib = 6 * 1024;
+constexpr qint64 kHeapSlackKib = 2 * 1024;
+constexpr int kShownStalls = 12;
+
+// The program asks for six samples per pixel, and takes four where a renderer has no more: said once per window.
+constexpr QLatin1String kToleratedWarning("Requested MSAA sample count");
+
+double median(QList<double> values)
+{
+    std::sort(values.begin(), values.end());
+    const qsizetype middle = values.size() / 2;
+    return values.size() % 2 == 1 ? values.at(middle) : (values.at(middle - 1) + values.at(middle)) / 2;
+}
+
+struct Figure
+{
+    const char *name;
+    qsizetype fewestLooks; ///< with fewer it is not judged: what was shown last makes memory swing
+    double slack;
+    double (*of)(const CampaignReport::Look &look);
+};
+
+constexpr Figure kFigures[] = {
+    {"resident memory, KiB", 12, kResidentSlackKib,
+     [](const CampaignReport::Look &look) { return double(look.residentKib); }},
+    {"heap in use, KiB", 12, kHeapSlackKib, [](const CampaignReport::Look &look) { return double(look.heapKib); }},
+    {"file handles", 4, 0, [](const CampaignReport::Look &look) { return double(look.handles); }},
+    {"threads", 4, 0, [](const CampaignReport::Look &look) { return double(look.threads); }},
+};
+
+/// The looks at each state behind the warm-up, in order of time.
+QMap<QString, QList<CampaignReport::Look>> byState(const CampaignReport &report)
+{
+    QMap<QString, QList<CampaignReport::Look>> states;
+    for (const CampaignReport::Look &look : report.looks) {
+        if (look.round > report.warmUpRounds)
+            states[look.state].append(look);
+    }
+    return states;
+}
+
+/// Medians of a figure in the first and in the second half of the looks; needs two of them.
+std::pair<double, double> halves(const QList<CampaignReport::Look> &looks, const Figure &figure)
+{
+    QList<double> first;
+    QList<double> second;
+    for (qsizetype i = 0; i < looks.size(); ++i)
+        (i < looks.size() / 2 ? first : second).append(figure.of(looks.at(i)));
+    return {median(first), median(second)};
+}
+
+} // namespace
+
+void CampaignReport::judge(int stallLimitMs, const QString &messageLog)
+{
+    for (const auto &[state, its] : byState(*this).toStdMap()) {
+        for (const Figure &figure : kFigures) {
+            if (its.size() < figure.fewestLooks)
+                continue;
+            const auto [before, after] = halves(its, figure);
+            if (after - before > figure.slack)
+                failures.append(QStringLiteral("%1 grew from %2 to %3 in the state \"%4\"")
+                                    .arg(QLatin1String(figure.name))
+                                    .arg(before)
+                                    .arg(after)
+                                    .arg(state));
+        }
+    }
+    if (!waits.stalls.isEmpty() && waits.stalls.constFirst().ms > stallLimitMs)
+        failures.append(QStringLiteral("the longest stall took %1 ms, more than %2 ms")
+                            .arg(waits.stalls.constFirst().ms, 0, 'f', 0)
+                            .arg(stallLimitMs));
+
+    QFile file(messageLog);
+    if (!file.open(QIODevice::ReadOnly))
+        failures.append(QStringLiteral("the message log cannot be read"));
+    QMap<QString, int> warnings;
+    while (!file.atEnd()) { // "[hh:mm:ss.zzz] LEVEL: message (file:line)"
+        const QString line = QString::fromUtf8(file.readLine()).trimmed().section(u' ', 1);
+        const bool isWarning = !line.startsWith(QLatin1String("DBG")) && !line.startsWith(QLatin1String("INF"));
+        if (isWarning && !line.contains(kToleratedWarning))
+            ++warnings[line];
+    }
+    for (const auto &[line, count] : warnings.toStdMap())
+        failures.append(QStringLiteral("message log, %1 x: %2").arg(count).arg(line));
+}
+
+void CampaignReport::print(QTextStream &out) const
+{
+    out << rounds << " rounds, " << actions << " actions of the user, " << faultsDone.size() << " faults\n\n";
+
+    out << "Events of the main thread, by the time that they waited:\n";
+    for (std::size_t i = 0; i < waits.histogram.size(); ++i) {
+        const bool isLast = i == Watchdog::kClassesMs.size();
+        out << (isLast ? "  from " : "  below ") << Watchdog::kClassesMs[isLast ? i - 1 : i]
+            << " ms: " << waits.histogram[i] << '\n';
+    }
+    out << "Longest stalls, ms (of them on a processor; ready, but without one):\n";
+    for (const Watchdog::Stall &stall : waits.stalls.first(std::min<qsizetype>(kShownStalls, waits.stalls.size()))) {
+        out << "  " << qRound(stall.ms) << " (" << qRound(stall.ranMs) << "; " << qRound(stall.queuedMs) << ") at "
+            << qRound(stall.atSeconds) << " s: " << stall.during << '\n';
+    }
+
+    const LinkAccount::Counts &taken = books.taken;
+    out << "\nFrames: sent " << books.framesSent << ", intact " << books.framesIntact << "; good packets "
+        << taken.payloads << ", handed to views and recorder " << taken.published << "\n"
+        << "  not sent: " << books.dropped << " (device silent or line too slow), " << books.unheard
+        << " (no port open)\n"
+        << "Bytes: sent " << books.bytesSent << ", read " << taken.bytesRead << ", cut off by " << taken.closings
+        << " closings " << books.bytesSent - taken.bytesRead << "; of those read, counted as lost " << taken.lostBytes
+        << "\n"
+        << "Records: " << books.recordings.cameIn << " came in, " << books.recordings.written << " written in "
+        << books.recordings.count << " recordings, " << books.linesInFiles << " lines in the files\n\n";
+
+    out << "Medians of the first and second half behind the warm-up of " << warmUpRounds << " rounds:\n";
+    for (const auto &[state, its] : byState(*this).toStdMap()) {
+        if (its.size() < 2)
+            continue;
+        out << "  " << state << " (" << its.size() << " looks): ";
+        for (const Figure &figure : kFigures) {
+            const auto [before, after] = halves(its, figure);
+            out << (&figure == kFigures ? "" : "; ") << figure.name << ' ' << before << " -> " << after;
+        }
+        out << '\n';
+    }
+    out << '\n';
+    for (const QString &failure : failures)
+        out << "FAILED: " << failure << '\n';
+    if (failures.isEmpty())
+        out << "All goals were met.\n";
+    out.flush();
+}

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include "campaign/link_account.h"
+#include "campaign/watchdog.h"
+
+class QTextStream;
+
+/// What a campaign has found, and whether its goals were met.
+struct CampaignReport
+{
+    /// The link's books over all rounds: what the simulator sent, and what became of it.
+    struct Books
+    {
+        quint64 framesSent = 0;
+        quint64 framesIntact = 0; ///< of them; no fault touched them
+        quint64 bytesSent = 0;
+        quint64 dropped = 0; ///< frames not sent: silent, or the line too slow
+        quint64 unheard = 0; ///< frames not sent: no port open
+        LinkAccount::Counts taken;
+        LinkAccount::Recordings recordings;
+        quint64 linesInFiles = 0;
+    };
+
+    /// The process in a state that comes again and again.
+    struct Look
+    {
+        QString state;
+        int round = 0;
+        qint64 residentKib = 0;
+        qint64 heapKib = 0; ///< in use, by the allocator's books
+        int handles = 0;
+        int threads = 0;
+    };
+
+    int rounds = 0;
+    int warmUpRounds = 0;
+    int actions = 0;
+    QStringList faultsDone;
+    Books books;
+    QList<Look> looks;
+    QStringList failures; ///< goals that were not met, as sentences
+    Watchdog::Result waits;
+
+    /// Judges memory, handles and threads, the longest stall, and the program's message log.
+    void judge(int stallLimitMs, const QString &messageLog);
+    void print(QTextStream &out) const;
+};

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QStringList>
+
+#include <functional>
+
+class Campaign;
+class form_base;
+
+/// What a campaign is made of: devices that are connected, things that go wrong, and things that a user does meanwhile.
+namespace scenario {
+
+struct Device
+{
+    const char *name;
+    const char *options; ///< of the simulator
+    bool isGateway;
+};
+
+enum class Suits { All, Gateway };
+
+struct Fault
+{
+    const char *name;
+    Suits suits;
+    bool damagesBytes;           ///< frames may be hurt that the simulator counts as intact
+    void (*run)(Campaign &with); ///< begins it, lets time pass, and ends it
+};
+
+struct Habit
+{
+    const char *name;
+    void (*run)(form_base &window); ///< main thread
+};
+
+const QList<Device> &devices();
+const QList<Fault> &faults();
+const QList<Habit> &habits();
+
+/// Opens every window, or those that are closed of them; the gateway's is opened where its action is enabled.
+/// One action each, as a user would.
+const QList<Habit> &openings();
+/// Language, font, sizes and choices in which memory is compared.
+void setPlainLook(form_base &window);
+void startRecording(form_base &window);
+
+} // namespace scenario
