@@ -201,6 +201,10 @@
         <source>Saved %1</source>
         <translation>已保存 %1</translation>
     </message>
+    <message>
+        <source>%1 could not be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
 </context>
 <context>
     <name>CommandSession</name>
@@ -566,16 +570,13 @@
         <source>Snapshot</source>
         <translation>快照</translation>
     </message>
-</context>
-<context>
-    <name>FftSnapshot</name>
-    <message>
-        <source>The file could not be read: %1</source>
-        <translation>无法读取文件：%1</translation>
-    </message>
     <message>
         <source>The file is no spectrum snapshot.</source>
         <translation>该文件不是频谱快照。</translation>
+    </message>
+    <message>
+        <source>The file could not be read: %1</source>
+        <translation>无法读取文件：%1</translation>
     </message>
 </context>
 <context>
@@ -935,7 +936,7 @@ Pa</translation>
         <translation>加速度</translation>
     </message>
     <message>
-        <source>Angular rate</source>
+        <source>Angular velocity</source>
         <translation>角速度</translation>
     </message>
     <message>
@@ -1187,13 +1188,6 @@ Pa</translation>
     <message>
         <source>The cutoff frequency is too low for %1 samples per second.</source>
         <translation>对于每秒 %1 个采样，截止频率过低。</translation>
-    </message>
-</context>
-<context>
-    <name>chart_export</name>
-    <message>
-        <source>%1 could not be written: %2</source>
-        <translation>无法写入 %1：%2</translation>
     </message>
 </context>
 <context>
@@ -1893,6 +1887,18 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <source>The folder %1 cannot be shown.</source>
         <translation>无法显示文件夹 %1。</translation>
     </message>
+    <message>
+        <source>Writing the last records…</source>
+        <translation>正在写入最后的记录…</translation>
+    </message>
+    <message>
+        <source>%1, enough for less than 1 min</source>
+        <translation>%1，可记录不足 1 分钟</translation>
+    </message>
+    <message>
+        <source>The last recording is still being written. Try again when that has ended.</source>
+        <translation>上一次记录仍在写入，请待其结束后重试。</translation>
+    </message>
 </context>
 <context>
     <name>form_settings</name>
@@ -2575,24 +2581,24 @@ Ready to download firmware.
         <translation>引导程序仍保留在设备中：请点击“连接”，再点击“烧录”。</translation>
     </message>
     <message>
-        <source>Connecting to the bootloader...</source>
-        <translation>正在连接引导程序...</translation>
+        <source>Connecting to the bootloader…</source>
+        <translation>正在连接引导程序…</translation>
     </message>
     <message>
-        <source>Erasing the flash...</source>
-        <translation>正在擦除闪存...</translation>
+        <source>Erasing the flash…</source>
+        <translation>正在擦除闪存…</translation>
     </message>
     <message>
-        <source>Preparing to write...</source>
-        <translation>正在准备写入...</translation>
+        <source>Preparing to write…</source>
+        <translation>正在准备写入…</translation>
     </message>
     <message>
-        <source>Writing the image...</source>
-        <translation>正在写入映像...</translation>
+        <source>Writing the image…</source>
+        <translation>正在写入映像…</translation>
     </message>
     <message>
-        <source>Restarting the device...</source>
-        <translation>正在重启设备...</translation>
+        <source>Restarting the device…</source>
+        <translation>正在重启设备…</translation>
     </message>
     <message>
         <source>The bootloader takes no data: it reports packets of %1 bytes.</source>

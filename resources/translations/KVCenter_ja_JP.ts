@@ -201,6 +201,10 @@
         <source>Saved %1</source>
         <translation>%1 を保存しました</translation>
     </message>
+    <message>
+        <source>%1 could not be written: %2</source>
+        <translation>%1 に書き込めませんでした: %2</translation>
+    </message>
 </context>
 <context>
     <name>CommandSession</name>
@@ -566,16 +570,13 @@
         <source>Snapshot</source>
         <translation>スナップショット</translation>
     </message>
-</context>
-<context>
-    <name>FftSnapshot</name>
-    <message>
-        <source>The file could not be read: %1</source>
-        <translation>ファイルを読み込めませんでした: %1</translation>
-    </message>
     <message>
         <source>The file is no spectrum snapshot.</source>
         <translation>スペクトルのスナップショットファイルではありません。</translation>
+    </message>
+    <message>
+        <source>The file could not be read: %1</source>
+        <translation>ファイルを読み込めませんでした: %1</translation>
     </message>
 </context>
 <context>
@@ -935,7 +936,7 @@ Pa</translation>
         <translation>加速度</translation>
     </message>
     <message>
-        <source>Angular rate</source>
+        <source>Angular velocity</source>
         <translation>角速度</translation>
     </message>
     <message>
@@ -1187,13 +1188,6 @@ Pa</translation>
     <message>
         <source>The cutoff frequency is too low for %1 samples per second.</source>
         <translation>サンプリング周波数 %1 Hz に対して、カットオフ周波数が低すぎます。</translation>
-    </message>
-</context>
-<context>
-    <name>chart_export</name>
-    <message>
-        <source>%1 could not be written: %2</source>
-        <translation>%1 に書き込めませんでした: %2</translation>
     </message>
 </context>
 <context>
@@ -1893,6 +1887,18 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <source>The folder %1 cannot be shown.</source>
         <translation>フォルダー %1 を開けません。</translation>
     </message>
+    <message>
+        <source>Writing the last records…</source>
+        <translation>最後のレコードを書き込み中…</translation>
+    </message>
+    <message>
+        <source>%1, enough for less than 1 min</source>
+        <translation>%1（記録可能時間 1 分未満）</translation>
+    </message>
+    <message>
+        <source>The last recording is still being written. Try again when that has ended.</source>
+        <translation>前回の記録をまだ書き込んでいます。終わってからもう一度お試しください。</translation>
+    </message>
 </context>
 <context>
     <name>form_settings</name>
@@ -2575,24 +2581,24 @@ Ready to download firmware.
         <translation>ブートローダーはデバイスに残っています。「接続」、「書き込み」の順に押してください。</translation>
     </message>
     <message>
-        <source>Connecting to the bootloader...</source>
-        <translation>ブートローダーに接続中...</translation>
+        <source>Connecting to the bootloader…</source>
+        <translation>ブートローダーに接続中…</translation>
     </message>
     <message>
-        <source>Erasing the flash...</source>
-        <translation>フラッシュを消去中...</translation>
+        <source>Erasing the flash…</source>
+        <translation>フラッシュを消去中…</translation>
     </message>
     <message>
-        <source>Preparing to write...</source>
-        <translation>書き込みを準備中...</translation>
+        <source>Preparing to write…</source>
+        <translation>書き込みを準備中…</translation>
     </message>
     <message>
-        <source>Writing the image...</source>
-        <translation>イメージを書き込み中...</translation>
+        <source>Writing the image…</source>
+        <translation>イメージを書き込み中…</translation>
     </message>
     <message>
-        <source>Restarting the device...</source>
-        <translation>デバイスを再起動中...</translation>
+        <source>Restarting the device…</source>
+        <translation>デバイスを再起動中…</translation>
     </message>
     <message>
         <source>The bootloader takes no data: it reports packets of %1 bytes.</source>

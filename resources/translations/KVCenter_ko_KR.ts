@@ -201,6 +201,10 @@
         <source>Saved %1</source>
         <translation>저장됨: %1</translation>
     </message>
+    <message>
+        <source>%1 could not be written: %2</source>
+        <translation>%1 파일에 쓸 수 없습니다: %2</translation>
+    </message>
 </context>
 <context>
     <name>CommandSession</name>
@@ -566,16 +570,13 @@
         <source>Snapshot</source>
         <translation>스냅샷</translation>
     </message>
-</context>
-<context>
-    <name>FftSnapshot</name>
-    <message>
-        <source>The file could not be read: %1</source>
-        <translation>파일을 읽을 수 없습니다: %1</translation>
-    </message>
     <message>
         <source>The file is no spectrum snapshot.</source>
         <translation>스펙트럼 스냅샷 파일이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>The file could not be read: %1</source>
+        <translation>파일을 읽을 수 없습니다: %1</translation>
     </message>
 </context>
 <context>
@@ -935,7 +936,7 @@ Pa</translation>
         <translation>가속도</translation>
     </message>
     <message>
-        <source>Angular rate</source>
+        <source>Angular velocity</source>
         <translation>각속도</translation>
     </message>
     <message>
@@ -1187,13 +1188,6 @@ Pa</translation>
     <message>
         <source>The cutoff frequency is too low for %1 samples per second.</source>
         <translation>차단 주파수가 샘플링 주파수 %1 Hz에 비해 너무 낮습니다.</translation>
-    </message>
-</context>
-<context>
-    <name>chart_export</name>
-    <message>
-        <source>%1 could not be written: %2</source>
-        <translation>%1 파일에 쓸 수 없습니다: %2</translation>
     </message>
 </context>
 <context>
@@ -1893,6 +1887,18 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <source>The folder %1 cannot be shown.</source>
         <translation>%1 폴더를 열 수 없습니다.</translation>
     </message>
+    <message>
+        <source>Writing the last records…</source>
+        <translation>마지막 레코드를 쓰는 중…</translation>
+    </message>
+    <message>
+        <source>%1, enough for less than 1 min</source>
+        <translation>%1(1분 미만 기록 가능)</translation>
+    </message>
+    <message>
+        <source>The last recording is still being written. Try again when that has ended.</source>
+        <translation>이전 기록을 아직 쓰고 있습니다. 끝난 뒤 다시 시도하십시오.</translation>
+    </message>
 </context>
 <context>
     <name>form_settings</name>
@@ -2575,24 +2581,24 @@ Ready to download firmware.
         <translation>부트로더는 장치에 남아 있습니다. &apos;연결&apos;, &apos;다운로드&apos;를 차례로 누르십시오.</translation>
     </message>
     <message>
-        <source>Connecting to the bootloader...</source>
-        <translation>부트로더에 연결하는 중...</translation>
+        <source>Connecting to the bootloader…</source>
+        <translation>부트로더에 연결하는 중…</translation>
     </message>
     <message>
-        <source>Erasing the flash...</source>
-        <translation>플래시를 지우는 중...</translation>
+        <source>Erasing the flash…</source>
+        <translation>플래시를 지우는 중…</translation>
     </message>
     <message>
-        <source>Preparing to write...</source>
-        <translation>쓰기를 준비하는 중...</translation>
+        <source>Preparing to write…</source>
+        <translation>쓰기를 준비하는 중…</translation>
     </message>
     <message>
-        <source>Writing the image...</source>
-        <translation>이미지를 쓰는 중...</translation>
+        <source>Writing the image…</source>
+        <translation>이미지를 쓰는 중…</translation>
     </message>
     <message>
-        <source>Restarting the device...</source>
-        <translation>장치를 다시 시작하는 중...</translation>
+        <source>Restarting the device…</source>
+        <translation>장치를 다시 시작하는 중…</translation>
     </message>
     <message>
         <source>The bootloader takes no data: it reports packets of %1 bytes.</source>

@@ -201,6 +201,10 @@
         <source>Saved %1</source>
         <translation>已儲存 %1</translation>
     </message>
+    <message>
+        <source>%1 could not be written: %2</source>
+        <translation>無法寫入 %1：%2</translation>
+    </message>
 </context>
 <context>
     <name>CommandSession</name>
@@ -566,16 +570,13 @@
         <source>Snapshot</source>
         <translation>快照</translation>
     </message>
-</context>
-<context>
-    <name>FftSnapshot</name>
-    <message>
-        <source>The file could not be read: %1</source>
-        <translation>無法讀取檔案：%1</translation>
-    </message>
     <message>
         <source>The file is no spectrum snapshot.</source>
         <translation>該檔案不是頻譜快照。</translation>
+    </message>
+    <message>
+        <source>The file could not be read: %1</source>
+        <translation>無法讀取檔案：%1</translation>
     </message>
 </context>
 <context>
@@ -935,7 +936,7 @@ Pa</translation>
         <translation>加速度</translation>
     </message>
     <message>
-        <source>Angular rate</source>
+        <source>Angular velocity</source>
         <translation>角速度</translation>
     </message>
     <message>
@@ -1187,13 +1188,6 @@ Pa</translation>
     <message>
         <source>The cutoff frequency is too low for %1 samples per second.</source>
         <translation>以每秒 %1 筆取樣而言，截止頻率過低。</translation>
-    </message>
-</context>
-<context>
-    <name>chart_export</name>
-    <message>
-        <source>%1 could not be written: %2</source>
-        <translation>無法寫入 %1：%2</translation>
     </message>
 </context>
 <context>
@@ -1893,6 +1887,18 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <source>The folder %1 cannot be shown.</source>
         <translation>無法顯示資料夾 %1。</translation>
     </message>
+    <message>
+        <source>Writing the last records…</source>
+        <translation>正在寫入最後的記錄…</translation>
+    </message>
+    <message>
+        <source>%1, enough for less than 1 min</source>
+        <translation>%1，可記錄不足 1 分鐘</translation>
+    </message>
+    <message>
+        <source>The last recording is still being written. Try again when that has ended.</source>
+        <translation>上一次記錄仍在寫入，請待其結束後再試。</translation>
+    </message>
 </context>
 <context>
     <name>form_settings</name>
@@ -2575,24 +2581,24 @@ Ready to download firmware.
         <translation>啟動載入程式仍保留在裝置中：請按一下「連線」，再按一下「燒錄」。</translation>
     </message>
     <message>
-        <source>Connecting to the bootloader...</source>
-        <translation>正在連線至啟動載入程式...</translation>
+        <source>Connecting to the bootloader…</source>
+        <translation>正在連線至啟動載入程式…</translation>
     </message>
     <message>
-        <source>Erasing the flash...</source>
-        <translation>正在抹除快閃記憶體...</translation>
+        <source>Erasing the flash…</source>
+        <translation>正在抹除快閃記憶體…</translation>
     </message>
     <message>
-        <source>Preparing to write...</source>
-        <translation>正在準備寫入...</translation>
+        <source>Preparing to write…</source>
+        <translation>正在準備寫入…</translation>
     </message>
     <message>
-        <source>Writing the image...</source>
-        <translation>正在寫入映像檔...</translation>
+        <source>Writing the image…</source>
+        <translation>正在寫入映像檔…</translation>
     </message>
     <message>
-        <source>Restarting the device...</source>
-        <translation>正在重新啟動裝置...</translation>
+        <source>Restarting the device…</source>
+        <translation>正在重新啟動裝置…</translation>
     </message>
     <message>
         <source>The bootloader takes no data: it reports packets of %1 bytes.</source>

@@ -22,8 +22,13 @@ constexpr QLatin1String kUpdaterPath("UPDATER/PATH"); ///< last firmware image
 constexpr QLatin1String kSpectrum("SPECTRUM"); ///< group of the spectrum window; kDashboardFolder below it
 constexpr QLatin1String kSpectrumGeometry("SPECTRUM/GEOMETRY"); ///< its size and place
 
-constexpr QLatin1String kSensorDashboard("SENSOR_DASHBOARD"); ///< group of the sensor dashboard; below it:
-constexpr QLatin1String kDashboardPlace("PLACE");             ///< window's size and place while not maximised
+constexpr QLatin1String kRotationPreset("THREED/ROTATION_PRESET"); ///< last mounting chosen in the 3D window
+constexpr QLatin1String kThreeDGeometry("THREED/GEOMETRY");        ///< its size and place
+constexpr QLatin1String kThreeDFolder("THREED/FOLDER");            ///< folder of the last model
+
+constexpr QLatin1String kSensorDashboard("SENSOR_DASHBOARD"); ///< groups of the two dashboards; below them:
+constexpr QLatin1String kWirelessDashboard("WIRELESS_DASHBOARD");
+constexpr QLatin1String kDashboardPlace("PLACE"); ///< window's size and place while not maximised
 constexpr QLatin1String kDashboardMaximized("MAXIMIZED");
 constexpr QLatin1String kDashboardFolder("SAVE_FOLDER"); ///< folder of the last saved picture or samples
 

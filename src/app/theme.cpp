@@ -52,6 +52,7 @@ QPushButton:default:hover, QPushButton[primary="true"]:hover, QToolBar QToolButt
     background: #1D4ED8; border-color: #1D4ED8; }
 QPushButton:default:disabled, QPushButton[primary="true"]:disabled {
     background: #BFDBFE; border-color: #BFDBFE; color: #FFFFFF; }
+QPushButton[connected="true"]:disabled { color: #1F2937; }
 QToolButton#button_language { border: none; border-radius: 4px; padding: 4px 22px 4px 10px; }
 QToolButton#button_language:hover { background: #EFF6FF; }
 QToolButton#button_language::menu-indicator {

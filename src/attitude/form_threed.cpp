@@ -26,9 +26,6 @@ namespace {
 
 constexpr int kReplotMs = 25;
 constexpr int kSamplesPerPixel = 4; // all that drawing without a GPU can do
-constexpr QLatin1String kPresetKey("THREED/ROTATION_PRESET");
-constexpr QLatin1String kGeometryKey("THREED/GEOMETRY");
-constexpr QLatin1String kFolderKey("THREED/FOLDER");
 constexpr QLatin1String kDefaultModel("jet.obj");
 /// In the order of the selector's entries.
 constexpr std::array kModels{QLatin1String("jet.obj"), QLatin1String("cube.obj"), QLatin1String("plane.obj"),
@@ -58,7 +55,7 @@ form_threed::form_threed(QWidget *parent) : QWidget(parent, Qt::Window), m_ui(st
     setOrientationPreset(loadRotationPreset());
     updateRotationPresetUi();
     fitPanel();
-    if (!restoreGeometry(settingsFile().value(kGeometryKey).toByteArray()))
+    if (!restoreGeometry(settingsFile().value(settings_keys::kThreeDGeometry).toByteArray()))
         resize(size().boundedTo(screen()->availableSize()));
 }
 
@@ -199,12 +196,13 @@ void form_threed::on_CBRotationPreset_currentIndexChanged(int index)
 
 OrientationPreset form_threed::loadRotationPreset() const
 {
-    return settingsFile().value(kPresetKey).toInt() == 1 ? OrientationPreset::FluNwuZyx : OrientationPreset::RfuEnu312;
+    return settingsFile().value(settings_keys::kRotationPreset).toInt() == 1 ? OrientationPreset::FluNwuZyx
+                                                                             : OrientationPreset::RfuEnu312;
 }
 
 void form_threed::saveRotationPreset() const
 {
-    settingsFile().setValue(kPresetKey, int(m_preset));
+    settingsFile().setValue(settings_keys::kRotationPreset, int(m_preset));
 }
 
 void form_threed::updateRotationPresetUi()
@@ -275,14 +273,14 @@ void form_threed::on_CBModel_activated(int index)
 
 void form_threed::on_BNTLoad_clicked()
 {
-    QString folder = settingsFile().value(kFolderKey).toString();
+    QString folder = settingsFile().value(settings_keys::kThreeDFolder).toString();
     if (folder.isEmpty())
         folder = QFileInfo(Qt6ModelAsset::defaultBundledObjFilePath(kDefaultModel)).path();
     const QString path =
         QFileDialog::getOpenFileName(this, tr("Open 3D asset"), folder, tr("3D Assets (*.obj *.mesh)"));
     if (path.isEmpty())
         return;
-    settingsFile().setValue(kFolderKey, QFileInfo(path).path());
+    settingsFile().setValue(settings_keys::kThreeDFolder, QFileInfo(path).path());
     chooseModel(path);
 }
 
@@ -344,7 +342,7 @@ void form_threed::hideEvent(QHideEvent *event)
 {
     QWidget::hideEvent(event);
     stopThreeDPlot();
-    settingsFile().setValue(kGeometryKey, saveGeometry());
+    settingsFile().setValue(settings_keys::kThreeDGeometry, saveGeometry());
 }
 
 void form_threed::changeEvent(QEvent *event)

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "app/theme.h"
-#include "wave/axis_ticks.h"
+#include "app/value_format.h"
 
 namespace {
 
@@ -110,7 +110,7 @@ QVariantList SpectrumViewState::marks() const
     if (!m_bridge || !m_bridge->currentAlarmPeak().valid)
         return list;
     const FftPeakSummary peak = m_bridge->currentAlarmPeak();
-    add(peak.frequency, peak.amplitude, tr("%1 Hz").arg(axis_ticks::number(peak.frequency, 2)));
+    add(peak.frequency, peak.amplitude, tr("%1 Hz").arg(value_format::number(peak.frequency, 2)));
     for (const FftHarmonicPeak &harmonic : m_bridge->harmonics())
         add(harmonic.frequency, harmonic.amplitude, QStringLiteral("H%1").arg(harmonic.order));
     return list;
@@ -138,7 +138,7 @@ QString SpectrumViewState::hoverFrequency() const
 {
     const QVariantMap bin = m_bridge ? m_bridge->queryCursor(m_hoverX) : QVariantMap();
     return bin.isEmpty() ? QString()
-                         : tr("%1 Hz").arg(axis_ticks::number(bin.value(QStringLiteral("frequency")).toDouble(), 2));
+                         : tr("%1 Hz").arg(value_format::number(bin.value(QStringLiteral("frequency")).toDouble(), 2));
 }
 
 QStringList SpectrumViewState::hoverTexts() const
@@ -164,9 +164,9 @@ QString SpectrumViewState::amplitudeText(double amplitude, bool isDifference) co
 {
     // A difference of decibels is handed in as such.
     if (m_decibels)
-        return (isDifference ? axis_ticks::signedNumber(amplitude, 1) : axis_ticks::number(level(amplitude), 1))
+        return (isDifference ? value_format::signedNumber(amplitude, 1) : value_format::number(level(amplitude), 1))
                + QStringLiteral(" dB");
-    const QString number = isDifference ? axis_ticks::signedNumber(amplitude, 2) : axis_ticks::number(amplitude, 2);
+    const QString number = isDifference ? value_format::signedNumber(amplitude, 2) : value_format::number(amplitude, 2);
     return m_bridge ? number + QLatin1Char(' ') + m_bridge->unit() : number;
 }
 
@@ -184,11 +184,11 @@ QStringList SpectrumViewState::measurement() const
         if (!std::isnan(m_cursors[i]))
             texts += QStringLiteral("%1 %2")
                          .arg(QLatin1Char(i == 0 ? 'A' : 'B'))
-                         .arg(tr("%1 Hz").arg(axis_ticks::number(m_cursors[i], 2)));
+                         .arg(tr("%1 Hz").arg(value_format::number(m_cursors[i], 2)));
     }
     if (texts.size() < 2)
         return texts;
-    texts += QStringLiteral("Δf %1").arg(tr("%1 Hz").arg(axis_ticks::signedNumber(m_cursors[1] - m_cursors[0], 2)));
+    texts += QStringLiteral("Δf %1").arg(tr("%1 Hz").arg(value_format::signedNumber(m_cursors[1] - m_cursors[0], 2)));
     const QList<bool> visible = visibleLines();
     const QStringList names = lineNames();
     for (qsizetype i = 0; i < std::min(amplitudes[0].size(), amplitudes[1].size()); ++i) {

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QStorageInfo>
 
 #include "record/number_text.h"
 
@@ -101,6 +102,29 @@ QString CsvWriter::fileError() const
 {
     const QMutexLocker locker(&m_queueLock);
     return m_fileError;
+}
+
+QString CsvWriter::vanishedFile() const
+{
+    const QMutexLocker locker(&m_queueLock);
+    return m_vanishedFile;
+}
+
+void CsvWriter::askAboutDisk()
+{
+    if (!m_isLookDue.exchange(true))
+        QMetaObject::invokeMethod(this, &CsvWriter::lookAtDisk, Qt::QueuedConnection);
+}
+
+void CsvWriter::lookAtDisk()
+{
+    const QString path = m_file->fileName();
+    m_freeBytes = QStorageInfo(QFileInfo(path).path()).bytesAvailable();
+    if (m_file->isOpen() && !m_hasFileError && !QFileInfo::exists(path)) {
+        const QMutexLocker locker(&m_queueLock);
+        m_vanishedFile = path;
+    }
+    m_isLookDue = false;
 }
 
 void CsvWriter::enqueueRecord(PendingRecord &&record)

@@ -79,6 +79,13 @@ public:
     unsigned int droppedRecords() const { return m_droppedRecords; }
     /// Records that no file took. Those that a full disk refuses at the end are counted when the file is closed.
     unsigned int lostRecords() const { return m_lostRecords; }
+    /// Bytes that the user may still write on the disk, when askAboutDisk() was answered last; -1: not known.
+    qint64 freeBytes() const { return m_freeBytes; }
+    /// Path of the file that was found deleted or moved when askAboutDisk() was answered; empty while none was.
+    QString vanishedFile() const;
+    /// Has the writer's thread ask the system for both, which may take as long as the disk likes. While it has not
+    /// answered, asking again does nothing.
+    void askAboutDisk();
 
 public slots:
     /// Writes what is queued. Writer's thread.
@@ -96,6 +103,7 @@ protected:
     virtual QDateTime now() const { return QDateTime::currentDateTimeUtc(); }
 
 private:
+    void lookAtDisk();
     void enqueueRecord(PendingRecord &&record);
     void openNewFile(const QDateTime &start);
     void ensureWritableFile(const QDateTime &time, PendingRecordType type);
@@ -123,7 +131,7 @@ private:
     std::unique_ptr<QFile> m_file;
     QDateTime m_fileStartTime;
     QString m_basePath;
-    mutable QMutex m_queueLock;            ///< guards the queue with its two flags, and the two texts for other threads
+    mutable QMutex m_queueLock;            ///< guards the queue with its two flags, and the texts for other threads
     std::array<bool, 3> m_headerWritten{}; ///< by record type, for the current file
     qint64 m_bytesSinceFlush = 0;
     std::atomic<quint32> m_frameCounter = 0;
@@ -141,4 +149,7 @@ private:
     std::atomic<qint64> m_fileSize = 0;
     std::atomic<quint32> m_droppedRecords = 0;
     std::atomic<quint32> m_lostRecords = 0;
+    QString m_vanishedFile;
+    std::atomic<qint64> m_freeBytes = -1;
+    std::atomic<bool> m_isLookDue = false;
 };

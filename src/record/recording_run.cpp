@@ -9,6 +9,7 @@ RecordingRun::RecordingRun(const QString &basePath) : m_writer(std::make_unique<
     // Behind the event loop's end but still in the thread: nothing can overtake the last records.
     const auto finish = [this] {
         m_writer->flushPendingAndClose();
+        emit ended();
         m_isRunning = false;
     };
     QObject::connect(&m_thread, &QThread::finished, m_writer.get(), finish, Qt::DirectConnection);
@@ -21,9 +22,14 @@ RecordingRun::~RecordingRun()
     stop();
 }
 
-void RecordingRun::stop()
+void RecordingRun::requestStop()
 {
     m_thread.quit();
+}
+
+void RecordingRun::stop()
+{
+    requestStop();
     while (m_isRunning)
         m_thread.wait();
 }

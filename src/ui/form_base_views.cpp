@@ -6,6 +6,7 @@
 
 #include <algorithm>
 
+#include "app/value_format.h"
 #include "attitude/form_threed.h"
 #include "attitude/tool_adi.h"
 #include "device/product_profile.h"
@@ -17,7 +18,6 @@
 #include "ui/form_com_select.h"
 #include "ui/sensor_data_panel.h"
 #include "ui/status_text.h"
-#include "ui/value_format.h"
 #include "ui/value_strip.h"
 #include "ui_form_base.h"
 #include "wave/form_sensor_dashboard.h"

@@ -18,7 +18,8 @@ class form_record;
 ///
 /// A recording belongs to this object, not to its window: it goes on while the window is closed and whatever other
 /// windows do. It ends when it is stopped, when the link closes and with this object; what was taken in until then is
-/// on disk then. Files are written on a thread of their own; nothing that comes in here waits for a disk.
+/// written. Files are written on a thread of their own; while recording, and when a recording is stopped, nothing here
+/// waits for a disk, but for waitForFile() and the destructor.
 ///
 /// Folder and name of the last recording are kept in the settings file. A missing folder is created at the start.
 ///
@@ -38,8 +39,11 @@ public:
     /// Starts a recording with what the fields hold. False when that cannot be: the window says why. True, and nothing
     /// happens, when one is running.
     bool startRecording();
-    /// Waits until everything taken in is written and the file is closed. Nothing when nothing is recorded.
+    /// Takes in nothing more. What was taken in is written and the file closed meanwhile; until then no other recording
+    /// can be started. Nothing when nothing is recorded.
     void stopRecording();
+    /// Waits until a stopped recording's file is closed.
+    void waitForFile();
 
     bool isRecording() const { return m_isRecording; }
     /// Records written in the running recording, or in the last one.
@@ -80,15 +84,16 @@ private:
         unsigned int dropped = 0; ///< records that found a full queue
         unsigned int lost = 0;    ///< records that no file took
         QString fileError;        ///< the system's words, while the file cannot be written
-        QString vanishedFile;     ///< stays until the next start
+        QString vanishedFile;     ///< deleted or moved while it was written
         bool lowSpace = false;    ///< while recording
 
         bool any() const { return kinds() != 0; }
         int kinds() const;
     };
-    enum class Problem { None, FolderIsFile, CannotCreateFolder, CannotOpenFile, CannotShowFolder };
+    enum class Problem { None, FolderIsFile, CannotCreateFolder, CannotOpenFile, CannotShowFolder, StillWriting };
 
     void tick();
+    void finishStop();
     void measure();
     void updateTrouble();
     void updateFields();
@@ -114,11 +119,11 @@ private:
     double m_bytesPerSecond = 0;
     qint64 m_freeBytes = -1;
     bool m_isRecording = false;
+    bool m_isFinishing = false; ///< stopped, but the file is not closed yet
     bool m_linkOpen = false;
     bool m_endedByLink = false;
     bool m_folderCreated = false;
     Trouble m_trouble;
-    QString m_vanishedFile;
     Problem m_problem = Problem::None; ///< of what the user asked for last
     QString m_problemPath;
     QString m_problemReason;

@@ -75,7 +75,6 @@ private:
     void createHotkeys();
     void showDevice();
     void showEditors(const ProductProfile &profile);
-    void loadChoice();
     void storeChoice();
     void updateState();
     void enableSender(QPushButton *button, const QString &blocked, const QString &what);

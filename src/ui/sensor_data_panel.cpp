@@ -7,8 +7,8 @@
 #include <cmath>
 
 #include "app/theme.h"
+#include "app/value_format.h"
 #include "ui/value_card.h"
-#include "ui/value_format.h"
 #include "ui/value_strip.h"
 
 namespace {
@@ -80,7 +80,7 @@ QList<ValueCard *> SensorDataPanel::cards() const
 void SensorDataPanel::retranslate()
 {
     m_acceleration->setTitle(tr("Acceleration"), QStringLiteral("G"));
-    m_angularRate->setTitle(tr("Angular rate"), QStringLiteral("deg/s"));
+    m_angularRate->setTitle(tr("Angular velocity"), QStringLiteral("\u00B0/s"));
     m_magneticField->setTitle(tr("Magnetic field"), QStringLiteral("\u00B5T"));
     m_quaternion->setTitle(tr("Quaternion"), QString());
     m_summary->setCells({{tr("Node"), QString(), theme::kText, 3},

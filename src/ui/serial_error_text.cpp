@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
+#include "app/sentences.h"
 #include "ui/port_choice.h"
 
 namespace {
@@ -25,10 +26,9 @@ QString noPermissionText(const serial_error_text::PortFacts &facts)
 {
     const QString refused = Texts::tr("You are not allowed to open %1.").arg(facts.port);
     if (facts.group.isEmpty())
-        return refused + u' ' + Texts::tr("Ask the administrator of this computer for access.");
-    return refused + u' '
-           + Texts::tr("Run \"%1\" in a terminal, then log out and in again.")
-                 .arg(QStringLiteral("sudo usermod -aG %1 %2").arg(facts.group, facts.user));
+        return joinSentences({refused, Texts::tr("Ask the administrator of this computer for access.")});
+    return joinSentences({refused, Texts::tr("Run \"%1\" in a terminal, then log out and in again.")
+                                       .arg(QStringLiteral("sudo usermod -aG %1 %2").arg(facts.group, facts.user))});
 }
 
 } // namespace

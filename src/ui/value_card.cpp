@@ -8,7 +8,8 @@
 #include <cmath>
 
 #include "app/theme.h"
-#include "ui/value_format.h"
+#include "app/value_format.h"
+#include "wave/axis_ticks.h"
 
 namespace {
 
@@ -16,6 +17,7 @@ constexpr int kPadding = 2 * theme::kGrid;
 constexpr int kBarHeight = 5;
 constexpr int kTraceGap = theme::kGrid + theme::kGrid / 2;
 constexpr double kRoundingMargin = 1.001;
+constexpr double kMaxRange = 1e12;
 constexpr int kMinTraceHeight = 36;
 constexpr int kMaxTraceHeight = 160;
 constexpr QColor kBarGround{0xF3, 0xF4, 0xF6};
@@ -113,7 +115,8 @@ double ValueCard::range() const
             magnitude = std::max(magnitude, double(std::abs(value)));
     }
     // A unit quaternion may be a rounding error longer than 1.
-    return value_format::niceRange(magnitude / kRoundingMargin, m_format.minimumRange);
+    const double wanted = std::min(magnitude / kRoundingMargin, kMaxRange);
+    return wanted > m_format.minimumRange ? axis_ticks::step(wanted, 1) : m_format.minimumRange;
 }
 
 QStringList ValueCard::lines() const

@@ -6,7 +6,7 @@
 #include <algorithm>
 
 #include "app/theme.h"
-#include "ui/value_format.h"
+#include "app/value_format.h"
 
 namespace {
 

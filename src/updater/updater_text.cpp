@@ -4,6 +4,8 @@
 #include <QLocale>
 #include <QStringList>
 
+#include "app/sentences.h"
+
 namespace {
 
 constexpr qint64 kJudgeableMs = 200;
@@ -92,22 +94,22 @@ QString updater_text::step(BootloaderStep step)
     case BootloaderStep::Restart:
     case BootloaderStep::Ping:
     case BootloaderStep::Properties:
-        return Text::tr("Connecting to the bootloader...");
+        return Text::tr("Connecting to the bootloader…");
     case BootloaderStep::Erase:
-        return Text::tr("Erasing the flash...");
+        return Text::tr("Erasing the flash…");
     case BootloaderStep::Write:
-        return Text::tr("Preparing to write...");
+        return Text::tr("Preparing to write…");
     case BootloaderStep::Data:
-        return Text::tr("Writing the image...");
+        return Text::tr("Writing the image…");
     case BootloaderStep::Reset:
-        return Text::tr("Restarting the device...");
+        return Text::tr("Restarting the device…");
     }
     return {};
 }
 
 QString updater_text::connectFailure(const BootloaderOutcome &outcome)
 {
-    return QStringList{cause(outcome), deviceState(outcome, 0), nextStep(outcome)}.join(u' ');
+    return joinSentences({cause(outcome), deviceState(outcome, 0), nextStep(outcome)});
 }
 
 QString updater_text::downloadFailure(const BootloaderOutcome &outcome, qint64 total, int packetSize)
@@ -117,7 +119,7 @@ QString updater_text::downloadFailure(const BootloaderOutcome &outcome, qint64 t
         sentences[0] = Text::tr("The bootloader takes no data: it reports packets of %1 bytes.").arg(packetSize);
     if (outcome.targetStatus != 0)
         sentences.insert(1, Text::tr("It had reported status %1 before.").arg(outcome.targetStatus));
-    return sentences.join(u' ');
+    return joinSentences(sentences);
 }
 
 bool updater_text::isDoubtful(const BootloaderOutcome &outcome)
@@ -131,12 +133,12 @@ QString updater_text::downloadSuccess(const BootloaderOutcome &outcome, qint64 e
                                 .arg(grouped(outcome.acknowledgedBytes), decimal(double(elapsedMs) / 1000.0),
                                      grouped(outcome.repeatedPackets), grouped(outcome.sentPackets));
     if (!isDoubtful(outcome))
-        return written + u' ' + Text::tr("The device restarts with the new firmware.");
+        return joinSentences({written, Text::tr("The device restarts with the new firmware.")});
     const QString doubt = outcome.targetStatus != 0
                               ? Text::tr("But the bootloader reported status %1.").arg(outcome.targetStatus)
                               : Text::tr("But the bootloader did not confirm the whole image.");
-    return QStringList{written, doubt, Text::tr("If the firmware does not start, press Connect and download again.")}
-        .join(u' ');
+    return joinSentences(
+        {written, doubt, Text::tr("If the firmware does not start, press Connect and download again.")});
 }
 
 QString updater_text::transfer(qint64 done, qint64 total, qint64 elapsedMs)

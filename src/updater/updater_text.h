@@ -8,7 +8,7 @@
 /// Sentences of the firmware update for people.
 namespace updater_text {
 
-/// "Erasing the flash..."
+/// "Erasing the flash…"
 QString step(BootloaderStep step);
 
 /// Why a connect failed, what state the device is in and what to do next.

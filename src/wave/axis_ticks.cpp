@@ -5,8 +5,6 @@
 
 namespace {
 
-constexpr QChar kMinus(0x2212);
-constexpr double kScientificFrom = 1e6;
 constexpr int kMaxDecimals = 9;
 
 } // namespace
@@ -46,26 +44,4 @@ int axis_ticks::decimals(double step)
     if (!(step > 0))
         return 0;
     return std::clamp(int(-std::floor(std::log10(step) + 1e-9)), 0, kMaxDecimals);
-}
-
-QString axis_ticks::number(double value, int decimals)
-{
-    if (std::isnan(value))
-        return QStringLiteral("NaN");
-    const double magnitude = std::abs(value);
-    QString text;
-    if (std::isinf(magnitude))
-        text = QStringLiteral("\u221E");
-    else if (magnitude >= kScientificFrom)
-        text = QString::number(magnitude, 'e', 2);
-    else
-        text = QString::number(magnitude, 'f', decimals);
-    const bool isZero = std::all_of(text.begin(), text.end(), [](QChar c) { return c == u'0' || c == u'.'; });
-    return value < 0 && !isZero ? kMinus + text : text;
-}
-
-QString axis_ticks::signedNumber(double value, int decimals)
-{
-    const QString text = number(value, decimals);
-    return value > 0 && text != number(0, decimals) ? u'+' + text : text;
 }

@@ -1,10 +1,8 @@
 #pragma once
 
 #include <QList>
-#include <QString>
 
-/// Pure functions for value axes: ticks at 1-2-5 steps and the texts of numbers beside charts. Texts have a real minus
-/// sign, a decimal point in every language, and no sign on what rounds to zero.
+/// Pure functions for value axes: ticks at 1-2-5 steps.
 namespace axis_ticks {
 
 /// The smallest of 1, 2, 5, 10, 20, ... times a power of ten that divides `span` into at most `maxIntervals` parts.
@@ -17,11 +15,5 @@ inline constexpr int kMaxTicks = 64;
 
 /// Digits behind the point that texts need to tell neighbours `step` apart.
 int decimals(double step);
-
-/// "−0.5"; from a million on scientific. NaN and infinity are "NaN" and "∞".
-QString number(double value, int decimals);
-
-/// As number(), with a plus sign above zero.
-QString signedNumber(double value, int decimals);
 
 } // namespace axis_ticks

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "app/value_format.h"
 #include "wave/axis_ticks.h"
 
 void ChartAxis::setUnit(const QString &unit)
@@ -39,7 +40,7 @@ void ChartAxis::update()
         const int decimals = axis_ticks::decimals(step);
         for (const double value : axis_ticks::values(m_min, m_max, step)) {
             m_positions += (value - m_min) / span;
-            m_labels += axis_ticks::number(value, decimals) + (m_unit.isEmpty() ? QString() : u' ' + m_unit);
+            m_labels += value_format::number(value, decimals) + (m_unit.isEmpty() ? QString() : u' ' + m_unit);
         }
     }
     emit ticksChanged();

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "wave/axis_ticks.h"
+#include "app/value_format.h"
 #include "wave/wave_chart_bridge.h"
 
 namespace {
@@ -72,7 +72,8 @@ int chart_text::decimals(const QString &sensorType)
 QString chart_text::value(const WaveChartBridge &bridge, int channel, double value)
 {
     const int places = decimals(bridge.sensorType());
-    return isUnsigned(bridge, channel) ? axis_ticks::number(value, places) : axis_ticks::signedNumber(value, places);
+    return isUnsigned(bridge, channel) ? value_format::number(value, places)
+                                       : value_format::signedNumber(value, places);
 }
 
 QString chart_text::paddedValue(const WaveChartBridge &bridge, int channel, double value)
@@ -83,13 +84,13 @@ QString chart_text::paddedValue(const WaveChartBridge &bridge, int channel, doub
 
 QString chart_text::time(double seconds)
 {
-    return axis_ticks::number(seconds, 3) + QStringLiteral(" s");
+    return value_format::number(seconds, 3) + QStringLiteral(" s");
 }
 
 QString chart_text::range(const WaveChartBridge &bridge, double xMin, double xMax)
 {
     const auto seconds = [](double value) {
-        return axis_ticks::number(value, value == std::floor(value) ? 0 : std::abs(value) < 1 ? 3 : 1);
+        return value_format::number(value, value == std::floor(value) ? 0 : std::abs(value) < 1 ? 3 : 1);
     };
     const double keptSec = std::round(-bridge.xHistoryMin()); // the view may be wider while it fills
     const QString kept = seconds(keptSec);
@@ -107,14 +108,14 @@ QStringList chart_text::measurement(const WaveChartBridge &bridge, double a, dou
     const double difference = b - a;
     QStringList texts{QStringLiteral("%1t %2").arg(kDelta).arg(time(difference))};
     if (std::abs(difference) >= 0.0005)
-        texts += QStringLiteral("1/%1t %2 Hz").arg(kDelta).arg(axis_ticks::number(std::abs(1 / difference), 3));
+        texts += QStringLiteral("1/%1t %2 Hz").arg(kDelta).arg(value_format::number(std::abs(1 / difference), 3));
     const QVariantList atA = bridge.getValuesAtTime(a);
     const QVariantList atB = bridge.getValuesAtTime(b);
     const QStringList names = bridge.channelNames();
     for (int channel = 0; channel < std::min(atA.size(), atB.size()); ++channel) {
         const double change = atB.at(channel).toDouble() - atA.at(channel).toDouble();
         texts += QStringLiteral("%1%2 %3").arg(kDelta).arg(
-            names.value(channel), axis_ticks::signedNumber(change, decimals(bridge.sensorType())));
+            names.value(channel), value_format::signedNumber(change, decimals(bridge.sensorType())));
     }
     return texts;
 }

@@ -1,13 +1,15 @@
 #include "wave/form_wireless_dashboard.h"
 
+#include "app/settings_keys.h"
+
 namespace {
 
-constexpr QLatin1String kSettingsGroup("WIRELESS_DASHBOARD");
 constexpr QSize kMinimumSize{900, 480}; ///< the table and charts that can be read
 
 } // namespace
 
-form_wireless_dashboard::form_wireless_dashboard(QWindow *parent) : DashboardWindow(kSettingsGroup, parent)
+form_wireless_dashboard::form_wireless_dashboard(QWindow *parent)
+    : DashboardWindow(settings_keys::kWirelessDashboard, parent)
 {
     setMinimumSize(kMinimumSize);
     setTitle(m_bridge.windowTitle());

@@ -78,14 +78,15 @@ private slots:
         QTRY_COMPARE(desk.label("label_status"), QStringLiteral("Connected..."));
 
         QTRY_COMPARE(desk.value("Acceleration X"), QStringLiteral("+0.250 G"));
-        const std::pair<const char *, QString> shown[] = {{"Acceleration Y", QStringLiteral("\u22120.500 G")},
-                                                          {"Acceleration Z", QStringLiteral("+0.750 G")},
-                                                          {"Acceleration |a|", QStringLiteral("0.935 G")},
-                                                          {"Angular rate X", QStringLiteral("+10.50 deg/s")},
-                                                          {"Angular rate Y", QStringLiteral("\u221220.50 deg/s")},
-                                                          {"Magnetic field Z", QStringLiteral("+37.5 \u00B5T")},
-                                                          {"Quaternion W", QStringLiteral("+0.8000")},
-                                                          {"Quaternion Y", QStringLiteral("\u22120.4000")}};
+        const std::pair<const char *, QString> shown[] = {
+            {"Acceleration Y", QStringLiteral("\u22120.500 G")},
+            {"Acceleration Z", QStringLiteral("+0.750 G")},
+            {"Acceleration |a|", QStringLiteral("0.935 G")},
+            {"Angular velocity X", QStringLiteral("+10.50 \u00B0/s")},
+            {"Angular velocity Y", QStringLiteral("\u221220.50 \u00B0/s")},
+            {"Magnetic field Z", QStringLiteral("+37.5 \u00B5T")},
+            {"Quaternion W", QStringLiteral("+0.8000")},
+            {"Quaternion Y", QStringLiteral("\u22120.4000")}};
         for (const auto &[name, text] : shown)
             QCOMPARE(desk.value(name), text);
         QCOMPARE(desk.panel().contains(QLatin1String("Device time")), summary);

@@ -50,6 +50,7 @@ public:
             const qint64 sent = m_simulator.stat("frames_sent");
             QTRY_COMPARE_WITH_TIMEOUT(frames, sent, kTimeoutMs);
             m_recorder.setLinkOpen(false);
+            m_recorder.waitForFile();
             m_port.closeUART();
             QVERIFY(!m_recorder.hasTrouble());
             QCOMPARE(qint64(m_recorder.recordCount()), sent);

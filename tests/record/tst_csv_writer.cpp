@@ -2,13 +2,18 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <algorithm>
 #include <clocale>
 #include <cmath>
 #include <csignal>
 #include <cstring>
+#include <fcntl.h>
 #include <limits>
 #include <random>
 #include <sys/mount.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <vector>
 
 #include "record/number_text.h"
 #include "record/recording_run.h"
@@ -361,6 +366,38 @@ private slots:
         QCOMPARE(lines.size(), qsizetype(writer.getFrameCtr()) + 1 - 100);
         for (qsizetype i = 1; i < lines.size(); ++i)
             QCOMPARE(lines[i].count(','), 19);
+    }
+
+    /// A pipe that nobody reads stands for a disk that hangs.
+    void stopsWithoutWaitingForTheDisk()
+    {
+        const QDateTime now = QDateTime::currentDateTime();
+        for (int second = 0; second < 3; ++second)
+            QCOMPARE(::mkfifo(qPrintable(CsvWriter::pathOf(path(), now.addSecs(second))), 0600), 0);
+        std::vector<int> readers;
+        for (int second = 0; second < 3; ++second)
+            readers.push_back(
+                ::open(qPrintable(CsvWriter::pathOf(path(), now.addSecs(second))), O_RDONLY | O_NONBLOCK));
+        const auto close = qScopeGuard([&] { std::for_each(readers.begin(), readers.end(), ::close); });
+        RecordingRun run(path());
+        QVERIFY2(run.isRunning(), qPrintable(run.writer().fileError()));
+        QSignalSpy ended(&run, &RecordingRun::ended);
+        for (int i = 0; i < 400; ++i) // far more than a pipe holds
+            run.writer().enqueue62(batch({3}));
+        run.writer().askAboutDisk();
+        run.requestStop();
+        QVERIFY(run.isRunning() && run.writer().freeBytes() == -1);
+        char bytes[65536];
+        const auto drain = [&] {
+            for (const int reader : readers) {
+                while (::read(reader, bytes, sizeof bytes) > 0) {
+                }
+            }
+            return !run.isRunning();
+        };
+        QVERIFY(QTest::qWaitFor(drain));
+        QTRY_COMPARE(ended.count(), 1);
+        QCOMPARE(run.writer().getFrameCtr(), 400U);
     }
 
     void writesOnItsOwnThread()

@@ -3,9 +3,10 @@
 #include <array>
 #include <limits>
 
+#include "app/sentences.h"
+#include "app/value_format.h"
 #include "ui/status_text.h"
 #include "ui/trace_buffer.h"
-#include "ui/value_format.h"
 
 /// What the main window's numbers, texts and traces are made of.
 class TestDisplayParts : public QObject
@@ -41,20 +42,17 @@ private slots:
         }
     }
 
+    void joinsSentences()
+    {
+        QCOMPARE(joinSentences({QStringLiteral("One."), QString(), QStringLiteral("Two.")}),
+                 QStringLiteral("One. Two."));
+        QCOMPARE(joinSentences({QStringLiteral("一。"), QStringLiteral("二。")}), QStringLiteral("一。二。"));
+    }
+
     void formatsDeviceTime()
     {
         QCOMPARE(value_format::deviceTime(3661007), QLatin1String("01:01:01.007"));
         QCOMPARE(value_format::deviceTime(4294967295), QLatin1String("1193:02:47.295"));
-    }
-
-    void findsNiceRanges()
-    {
-        QCOMPARE(value_format::niceRange(0.3, 1.0), 1.0);
-        QCOMPARE(value_format::niceRange(2.5, 1.0), 5.0);
-        QCOMPARE(value_format::niceRange(5.5, 1.0), 10.0);
-        QCOMPARE(value_format::niceRange(190.0, 50.0), 200.0);
-        QCOMPARE(value_format::niceRange(Floats::quiet_NaN(), 1.0), 1.0);
-        QCOMPARE(value_format::niceRange(Floats::infinity(), 1.0), 1e12);
     }
 
     void formatsTraffic()

@@ -121,6 +121,7 @@ private slots:
             for (int i = 0; i < 300; ++i)
                 bench.dialog.imuPackage0x63(batch(), 7);
             bench.dialog.setLinkOpen(false);
+            bench.dialog.waitForFile();
             QVERIFY(!bench.dialog.isRecording() && bench.text("LBL_state").contains(QLatin1String("port was closed")));
             QCOMPARE(bench.dialog.recordCount(), 302U);
             QVERIFY(bench.dialog.elapsedMs() >= 1000 && !bench.dialog.hasTrouble());
@@ -215,6 +216,8 @@ private slots:
         for (int i = 0; i < 2000; ++i, ++sent)
             bench.dialog.imuPackage0x62(batch());
         bench.dialog.stopRecording();
+        QVERIFY(!bench.dialog.startRecording() && bench.notice().contains(QLatin1String("still being written")));
+        QTRY_VERIFY(!bench.notice().contains(QLatin1String("still being written"))); // it ends by itself
         QCOMPARE(trouble.count(), 1);
         const unsigned int dropped = sent - bench.dialog.recordCount();
         QVERIFY(bench.notice().endsWith(QLatin1String("dropped: ") + QString::number(dropped)));
@@ -229,6 +232,7 @@ private slots:
         QVERIFY(QFile::remove(bench.file()));
         QTRY_VERIFY_WITH_TIMEOUT(bench.notice().contains(QLatin1String("deleted or moved")), kNoticeMs);
         bench.dialog.stopRecording();
+        bench.dialog.waitForFile();
         QVERIFY(bench.dialog.hasTrouble());
 
         const QString disk = m_folder->filePath(QStringLiteral("disk"));
@@ -244,6 +248,7 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(bench.notice().contains(QLatin1String("cannot be written: ")), kNoticeMs);
         QTRY_VERIFY_WITH_TIMEOUT(bench.notice().contains(QLatin1String("could not be written: ")), kNoticeMs);
         bench.dialog.stopRecording();
+        bench.dialog.waitForFile();
         QVERIFY(bench.notice().contains(QLatin1String("cannot be written: "))); // neither could the rest
         QCOMPARE(linesOf(bench.file()), qsizetype(bench.dialog.recordCount()) + 1);
     }

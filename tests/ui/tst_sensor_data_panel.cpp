@@ -68,7 +68,8 @@ private slots:
         const auto shows = [&panel](const char *text) { return panel.text().contains(QString::fromUtf8(text)); };
         SensorDataModel model = sampleModel();
         panel.setModel(model);
-        for (const char *text : {"Acceleration X\t+1.000 G", "Angular rate X\t\u2013 deg/s", "Quaternion W\t\u2013"})
+        for (const char *text :
+             {"Acceleration X\t+1.000 G", "Angular velocity X\t\u2013 \u00B0/s", "Quaternion W\t\u2013"})
             QVERIFY2(shows(text), text);
 
         model.fields |= SampleFields(SampleField::Quaternion) | SampleField::Temperature | SampleField::Time;

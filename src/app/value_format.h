@@ -6,8 +6,9 @@
 /// fits, so that nothing jumps when a value changes its sign or its size.
 namespace value_format {
 
-/// `value` with a sign and `decimals` digits behind the point; a value that rounds to zero has no sign. NaN and
-/// infinity are shown as "NaN" and "∞" with its sign; values beyond a million in scientific notation.
+/// `value` with a sign, a real minus, and `decimals` digits behind the point, whatever the language; a value that
+/// rounds to zero has no sign. NaN and infinity are shown as "NaN" and "∞" with its sign; values beyond a million in
+/// scientific notation.
 QString signedNumber(double value, int decimals);
 
 /// As signedNumber() without a plus sign.
@@ -18,8 +19,5 @@ QString absent();
 
 /// Device time "hh:mm:ss.zzz"; hours go up to 1193, where the 32-bit millisecond counter wraps.
 QString deviceTime(quint32 milliseconds);
-
-/// The smallest of 1, 2, 5, 10, 20, ... times a power of ten that is not below `magnitude`, and not below `minimum`.
-double niceRange(double magnitude, double minimum);
 
 } // namespace value_format

@@ -1,4 +1,4 @@
-#include "ui/value_format.h"
+#include "app/value_format.h"
 
 #include <cmath>
 
@@ -6,7 +6,6 @@ namespace {
 
 constexpr QChar kMinus(0x2212);
 constexpr double kScientificFrom = 1e6;
-constexpr double kMaxRange = 1e12;
 
 QString magnitudeText(double magnitude, int decimals)
 {
@@ -61,18 +60,4 @@ QString value_format::deviceTime(quint32 milliseconds)
         .arg(seconds / 60 % 60, 2, 10, QLatin1Char('0'))
         .arg(seconds % 60, 2, 10, QLatin1Char('0'))
         .arg(milliseconds % 1000, 3, 10, QLatin1Char('0'));
-}
-
-double value_format::niceRange(double magnitude, double minimum)
-{
-    if (!(magnitude > minimum))
-        return minimum;
-    if (magnitude > kMaxRange)
-        return kMaxRange;
-    const double decade = std::pow(10.0, std::floor(std::log10(magnitude)));
-    for (const double step : {1.0, 2.0, 5.0}) {
-        if (step * decade >= magnitude)
-            return step * decade;
-    }
-    return 10.0 * decade;
 }
