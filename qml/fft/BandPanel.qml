@@ -13,6 +13,7 @@ PanelSection {
     title: qsTr("Peak and bands")
     aside: [
         ActionButton {
+            objectName: "resetBands"
             bare: true
             visible: panel.bridge.hasCustomBands
             iconName: "reset"

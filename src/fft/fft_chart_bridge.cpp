@@ -1,7 +1,5 @@
 #include "fft/fft_chart_bridge.h"
 
-#include <QCryptographicHash>
-
 #include <algorithm>
 #include <cmath>
 
@@ -15,7 +13,6 @@ namespace {
 
 constexpr int kVersion[] = {1, 0, 0};
 constexpr double kUnknownMaxHz = 50;
-constexpr int kHashDigits = 16;
 
 QString fixed(double value)
 {
@@ -210,105 +207,6 @@ QVariantList FftChartBridge::bandPowersToVariantList() const
     return list;
 }
 
-void FftChartBridge::setCustomBand(const QString &name, double lowHz, double highHz)
-{
-    const QString trimmed = name.trimmed().left(kMaxBandNameLength);
-    if (trimmed.isEmpty() || !std::isfinite(lowHz) || !std::isfinite(highHz) || highHz <= lowHz)
-        return;
-    const auto band = std::find_if(m_bandDefinitions.begin(), m_bandDefinitions.end(),
-                                   [&trimmed](const FftBandDefinition &b) { return b.name == trimmed; });
-    if (band != m_bandDefinitions.end())
-        *band = {trimmed, lowHz, highHz};
-    else if (m_bandDefinitions.size() < kMaxBands)
-        m_bandDefinitions.append({trimmed, lowHz, highHz});
-    else
-        return;
-    updateAnalysisSummaries();
-    updateProfileHash();
-}
-
-QString FftChartBridge::tryCustomBand(const QString &name, double lowHz, double highHz)
-{
-    if (name.trimmed().isEmpty())
-        return tr("The band needs a name.");
-    if (!std::isfinite(lowHz) || !std::isfinite(highHz) || highHz <= lowHz)
-        return tr("The upper edge must be above the lower one.");
-    setCustomBand(name, lowHz, highHz);
-    const FftBandDefinition wanted{name.trimmed().left(kMaxBandNameLength), lowHz, highHz};
-    return m_bandDefinitions.contains(wanted) ? QString() : tr("There are %1 bands already.").arg(kMaxBands);
-}
-
-void FftChartBridge::resetBandDefinitions()
-{
-    if (m_bandDefinitions.isEmpty())
-        return;
-    m_bandDefinitions.clear();
-    updateAnalysisSummaries();
-    updateProfileHash();
-}
-
-void FftChartBridge::setAlarmPresetIndex(int index)
-{
-    const FftAlarmPreset preset = index == 1   ? FftAlarmPreset::Industrial
-                                  : index == 2 ? FftAlarmPreset::Human
-                                               : FftAlarmPreset::General;
-    if (preset != m_preset || hasCustomAlarmRule())
-        installAlarm(preset, fftAlarmRule(preset));
-}
-
-QVariantMap FftChartBridge::alarmRuleToVariantMap() const
-{
-    const FftAlarmRule &rule = alarmRule();
-    return {{QStringLiteral("minimumHz"), rule.minimumHz},
-            {QStringLiteral("maximumHz"), rule.maximumHz},
-            {QStringLiteral("watchThreshold"), rule.watchThreshold},
-            {QStringLiteral("alarmThreshold"), rule.alarmThreshold},
-            {QStringLiteral("triggerFrames"), rule.triggerFrames},
-            {QStringLiteral("clearFrames"), rule.clearFrames}};
-}
-
-void FftChartBridge::setAlarmRule(const FftAlarmRule &rule)
-{
-    if (!std::isfinite(rule.minimumHz) || !std::isfinite(rule.maximumHz) || !std::isfinite(rule.alarmThreshold)
-        || !std::isfinite(rule.watchThreshold))
-        return;
-    FftAlarmRule usable = rule;
-    usable.triggerFrames = std::max(rule.triggerFrames, 1);
-    usable.clearFrames = std::max(rule.clearFrames, 1);
-    installAlarm(m_preset, usable);
-}
-
-QString FftChartBridge::tryAlarmRule(const QVariantMap &values)
-{
-    const auto number = [&values](const char *key) { return values.value(QLatin1String(key)).toDouble(); };
-    const FftAlarmRule rule{tr("Custom rule"),
-                            number("minimumHz"),
-                            number("maximumHz"),
-                            number("alarmThreshold"),
-                            number("watchThreshold"),
-                            int(std::clamp(number("triggerFrames"), 1.0, 1e6)),
-                            int(std::clamp(number("clearFrames"), 1.0, 1e6))};
-    if (rule.maximumHz > 0 && rule.maximumHz <= rule.minimumHz)
-        return tr("The upper frequency must be above the lower one, or 0 for no limit.");
-    // Written so that what is not a number is refused too.
-    if (!(rule.watchThreshold > 0 && rule.alarmThreshold >= rule.watchThreshold && rule.alarmThreshold < 1e9))
-        return tr("The alarm threshold must not be below the watch threshold, and both must be above 0.");
-    if (!(rule.minimumHz >= 0 && rule.minimumHz < 1e9 && std::abs(rule.maximumHz) < 1e9))
-        return tr("The frequencies are out of range.");
-    setAlarmRule(rule);
-    return {};
-}
-
-void FftChartBridge::installAlarm(FftAlarmPreset preset, const FftAlarmRule &rule)
-{
-    m_preset = preset;
-    m_alarm = FftAlarm(rule);
-    updateProfileHash();
-    emit alarmPresetChanged();
-    updatePresentation();
-    emit alarmStateChanged();
-}
-
 QVariantList FftChartBridge::alarmEventsToVariantList() const
 {
     QVariantList list;
@@ -459,32 +357,6 @@ void FftChartBridge::updateHealthSummary()
     m_healthSummary = tr("Latency %1ms avg / %2ms max | Dropped %3 | Clipping %4 | Confidence %5")
                           .arg(fixed(t.meanLatencyMs), fixed(t.maxLatencyMs), QString::number(t.droppedBatches),
                                QString::number(t.clippedSamples), fixed(t.health));
-}
-
-void FftChartBridge::updateProfileHash()
-{
-    QStringList bands;
-    for (const FftBandDefinition &band : std::as_const(m_bandDefinitions))
-        bands += QStringLiteral("%1:%2-%3").arg(band.name, fixed(band.lowHz), fixed(band.highHz));
-    const FftAlarmRule &rule = m_alarm.rule();
-    const QString profile = QStringList{versionString(),
-                                        QString::number(m_meta.fftSize),
-                                        QString::number(m_meta.sampleRate),
-                                        m_meta.windowName,
-                                        m_meta.unit,
-                                        alarmPresetName(),
-                                        fixed(rule.minimumHz),
-                                        fixed(rule.maximumHz),
-                                        fixed(rule.alarmThreshold),
-                                        fixed(rule.watchThreshold),
-                                        QString::number(rule.triggerFrames),
-                                        QString::number(rule.clearFrames),
-                                        bands.join(QLatin1Char(';')),
-                                        QStringLiteral("%1%2").arg(int(m_showResultant)).arg(int(m_coherenceEnabled))}
-                                .join(QLatin1Char('|'));
-    const QByteArray digest = QCryptographicHash::hash(profile.toUtf8(), QCryptographicHash::Sha256).toHex();
-    if (assign(m_profileHash, QString::fromLatin1(digest.left(kHashDigits))))
-        emit viewConfigChanged();
 }
 
 FftSnapshot FftChartBridge::snapshot() const

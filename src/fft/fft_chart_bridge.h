@@ -103,7 +103,6 @@ public:
     /// Asks the view to show all frequencies.
     void requestXAxisReset() { emit xAxisResetRequested(); }
 
-    const FftFrameMeta &frameMeta() const { return m_meta; }
     void setFrameMeta(const FftFrameMeta &meta);
     int fftSize() const { return m_meta.fftSize; }
     int sampleRate() const { return m_meta.sampleRate; }

@@ -44,10 +44,15 @@ void FftFiles::openSnapshot()
 
 void FftFiles::showSnapshot(const QString &path)
 {
-    QString error;
-    const QVariantMap summary = fft_snapshot::readFile(path, error);
+    QString reason;
+    const QVariantMap summary = fft_snapshot::readFile(path, reason);
     if (summary.isEmpty()) {
-        tell(error, true);
+        tell(
+            [reason] {
+                return reason.isEmpty() ? tr("The file is no spectrum snapshot.")
+                                        : tr("The file could not be read: %1").arg(reason);
+            },
+            true);
         return;
     }
     clearMessage();

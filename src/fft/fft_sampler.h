@@ -68,7 +68,6 @@ public:
     explicit FftSampler(Clock clock = {});
 
     FftSpectrumType spectrumType() const { return m_type; }
-    FftHoldMode holdMode() const { return m_hold; }
     /// Capacity of the rings, which is the size of the spectra.
     int pointCount() const { return m_axes[0].capacity(); }
     /// Each of these takes effect with a reset(). Another type also forgets the samples: they have another unit.

@@ -1,6 +1,5 @@
 #include "fft/fft_snapshot.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -129,21 +128,16 @@ QVariantMap summary(const QString &text)
     return map;
 }
 
-QVariantMap readFile(const QString &path, QString &error)
+QVariantMap readFile(const QString &path, QString &reason)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        error = QCoreApplication::translate("FftSnapshot", "The file could not be read: %1").arg(file.errorString());
+        reason = file.errorString();
         return {};
     }
     // Read with one byte too many instead of asking for the size: a device or a pipe has none.
     const QByteArray bytes = file.read(kMaxImportLength + 1);
-    QVariantMap map;
-    if (bytes.size() <= kMaxImportLength)
-        map = summary(QString::fromUtf8(bytes));
-    if (map.isEmpty())
-        error = QCoreApplication::translate("FftSnapshot", "The file is no spectrum snapshot.");
-    return map;
+    return bytes.size() <= kMaxImportLength ? summary(QString::fromUtf8(bytes)) : QVariantMap();
 }
 
 } // namespace fft_snapshot

@@ -70,7 +70,8 @@ QString toCsv(const FftSnapshot &snapshot);
 /// kMaxImportLength.
 QVariantMap summary(const QString &text);
 
-/// Reads the summary of a snapshot file. `error` says why it is empty; files beyond kMaxImportLength are not read.
-QVariantMap readFile(const QString &path, QString &error);
+/// Reads the summary of a snapshot file; files beyond kMaxImportLength are none. `reason` holds the system's words when
+/// the file cannot be read.
+QVariantMap readFile(const QString &path, QString &reason);
 
 } // namespace fft_snapshot

@@ -40,7 +40,6 @@ public:
     int pointCount() const { return m_points; }
     /// Halvings that take the size to 1.
     int log2PointCount() const { return m_log2; }
-    FftWindowType windowType() const { return m_windowType; }
     const FftWindow &window() const { return m_window; }
 
     /// Writes the magnitudes of `n` values to `out`, the first one halved, and returns the largest. -1 when n and m

@@ -76,7 +76,7 @@ private:
     void setRunning(bool running);
     void updateYAxisControl();
     void applyYAxisRangeToChart();
-    void syncFrequencyAxisState(bool rateChanged);
+    void syncFrequencyAxisState();
     void syncBridgeMeta();
     void syncBridgeViewConfig();
     void syncBridgeRuntimeTelemetry();
@@ -110,9 +110,9 @@ private:
     QTimer m_timer;
     FftWindowType m_windowType = FftWindowType::Rectangular;
     int m_pointCount = FftSampler::kDefaultPoints;
-    double m_accelerationMax;    ///< mG
-    double m_angularVelocityMax; ///< deg/s
-    bool m_refitX = false;       ///< show all frequencies when the rate is known
+    double m_accelerationMax = 0;    ///< mG; 0 for the default, as below
+    double m_angularVelocityMax = 0; ///< deg/s
+    bool m_refitX = false;           ///< show all frequencies when the rate is known
 
     QThread *m_thread = nullptr;
     FftTrans *m_engine = nullptr; ///< deletes itself when the thread ends

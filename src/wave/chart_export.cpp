@@ -1,7 +1,5 @@
 #include "wave/chart_export.h"
 
-#include <QCoreApplication>
-#include <QDir>
 #include <QSaveFile>
 
 #include "wave/chart_text.h"
@@ -35,11 +33,11 @@ QByteArray chart_export::csv(const WaveChartBridge &bridge, double xMin, double 
     return text;
 }
 
-QString chart_export::write(const QString &path, const QByteArray &content)
+bool chart_export::write(const QString &path, const QByteArray &content, QString &reason)
 {
     QSaveFile file(path);
     if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
-        return {};
-    return QCoreApplication::translate("chart_export", "%1 could not be written: %2")
-        .arg(QDir::toNativeSeparators(path), file.errorString());
+        return true;
+    reason = file.errorString();
+    return false;
 }

@@ -17,7 +17,7 @@ namespace chart_export {
 /// "-inf".
 QByteArray csv(const WaveChartBridge &bridge, double xMin, double xMax);
 
-/// Writes a file whole or not at all. Returns an empty text, or a sentence that says what failed.
-QString write(const QString &path, const QByteArray &content);
+/// Writes a file whole or not at all. On failure `reason` holds the system's words.
+bool write(const QString &path, const QByteArray &content, QString &reason);
 
 } // namespace chart_export

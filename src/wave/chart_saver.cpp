@@ -11,6 +11,7 @@
 #include <QStandardPaths>
 #include <QWindow>
 
+#include "app/app_language_manager.h"
 #include "app/settings_keys.h"
 #include "wave/chart_export.h"
 
@@ -25,7 +26,10 @@ QString stemOf(const ChartViewState &view)
 
 ChartSaver::ChartSaver(QWindow *window, QLatin1String settingsGroup, QObject *parent)
     : QObject(parent), m_window(window), m_settingsGroup(settingsGroup)
-{}
+{
+    connect(&AppLanguageManager::instance(), &AppLanguageManager::languageChanged, this,
+            [this] { tell(m_sentence, m_failed); });
+}
 
 void ChartSaver::saveData(ChartViewState *view)
 {
@@ -47,7 +51,7 @@ void ChartSaver::savePictureAs(const QString &stem, QQuickItem *item)
         return;
     const auto grab = item->grabToImage((item->size() * m_window->devicePixelRatio()).toSize());
     if (!grab) {
-        tell(tr("The picture could not be taken."), true);
+        tell([] { return tr("The picture could not be taken."); }, true);
         return;
     }
     // The result lives until its signal has been handled, and no longer.
@@ -76,10 +80,13 @@ void ChartSaver::save(const QString &title, const QString &fileName, const QStri
     dialog->windowHandle()->setTransientParent(m_window);
     connect(this, &QObject::destroyed, dialog, &QObject::deleteLater);
     connect(dialog, &QFileDialog::fileSelected, this, [this, content](const QString &path) {
-        const QString problem = chart_export::write(path, content);
-        tell(problem.isEmpty() ? tr("Saved %1").arg(QDir::toNativeSeparators(path)) : problem, !problem.isEmpty());
-        if (!problem.isEmpty())
+        const QString shownPath = QDir::toNativeSeparators(path);
+        QString reason;
+        if (!chart_export::write(path, content, reason)) {
+            tell([=] { return tr("%1 could not be written: %2").arg(shownPath, reason); }, true);
             return;
+        }
+        tell([=] { return tr("Saved %1").arg(shownPath); }, false);
         QSettings store(settings_keys::kFile, QSettings::IniFormat);
         store.beginGroup(m_settingsGroup);
         store.setValue(settings_keys::kDashboardFolder, QFileInfo(path).absolutePath());
@@ -102,8 +109,10 @@ QString ChartSaver::folder() const
                : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
 }
 
-void ChartSaver::tell(const QString &message, bool failed)
+void ChartSaver::tell(const Sentence &sentence, bool failed)
 {
+    m_sentence = sentence;
+    const QString message = sentence ? sentence() : QString();
     if (message == m_message && failed == m_failed)
         return;
     m_message = message;

@@ -5,6 +5,8 @@
 #include <QQuickItem>
 #include <QString>
 
+#include <functional>
+
 #include "wave/chart_view_state.h"
 
 class QWindow;
@@ -24,7 +26,7 @@ public:
     /// `window` is the one that dialogs belong to; `settingsGroup` keeps the folder.
     ChartSaver(QWindow *window, QLatin1String settingsGroup, QObject *parent = nullptr);
 
-    /// What the last save led to, a sentence for the user; empty before.
+    /// What the last save led to, a sentence for the user in the language of the interface; empty before.
     const QString &message() const { return m_message; }
     bool hasFailed() const { return m_failed; }
 
@@ -45,7 +47,10 @@ signals:
     void messageChanged();
 
 protected:
-    void tell(const QString &message, bool failed);
+    /// Makes a sentence, in the language that is in use when it is called.
+    using Sentence = std::function<QString()>;
+    /// Shows a sentence, and shows it anew in another language. An empty function clears.
+    void tell(const Sentence &sentence, bool failed);
     QWindow *window() const { return m_window; }
     /// The folder used last, else that of documents.
     QString folder() const;
@@ -53,6 +58,7 @@ protected:
 private:
     QWindow *m_window;
     QLatin1String m_settingsGroup;
+    Sentence m_sentence;
     QString m_message;
     bool m_failed = false;
 };

@@ -1,5 +1,9 @@
 #include <QAction>
 #include <QCloseEvent>
+#include <QFileDialog>
+#include <QQuickItem>
+#include <QQuickView>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -7,11 +11,13 @@
 #include "attitude/form_threed.h"
 #include "e2e/desk.h"
 #include "fft/form_fftchart.h"
+#include "fft/spectrum_view_state.h"
 #include "link/stream_dispatcher.h"
 #include "support/hex_file.h"
 #include "support/simulator_process.h"
 #include "ui/form_record.h"
 #include "updater/form_updater.h"
+#include "wave/chart_saver.h"
 #include "wave/form_sensor_dashboard.h"
 #include "wave/form_wireless_dashboard.h"
 
@@ -25,6 +31,30 @@ template <class Window> Window *openWindow()
             return found;
     }
     return nullptr;
+}
+
+/// The dialog of a kind, null when there is none.
+template <class Dialog> Dialog *openDialog()
+{
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (auto *found = qobject_cast<Dialog *>(widget); found && found->isVisible())
+            return found;
+    }
+    return nullptr;
+}
+
+/// The texts that a declarative view shows.
+QStringList shownTexts(const QQuickItem *root)
+{
+    QStringList texts;
+    for (const QQuickItem *child : root->childItems()) {
+        if (!child->isVisible())
+            continue;
+        if (const QVariant text = child->property("text"); text.typeId() == QMetaType::QString)
+            texts += text.toString();
+        texts += shownTexts(child);
+    }
+    return texts;
 }
 
 QList<QByteArray> recordedLines()
@@ -82,6 +112,7 @@ private slots:
         else
             simulator.control("unplug");
         QTRY_VERIFY(!recorder->isRecording());
+        recorder->waitForFile();
         disconnect(dispatcher, nullptr, this, nullptr);
 
         const QList<QByteArray> lines = recordedLines(); // header and the empty end beside the records
@@ -164,11 +195,67 @@ private slots:
         QVERIFY(AppLanguageManager::instance().setLanguage(QStringLiteral("EN")));
         const QStringList english = texts();
         QCOMPARE(english.at(1), QStringLiteral("Angular Velocity (°/s)"));
+        ChartSaver *saver = dashboard->saver();
+        saver->save({}, QStringLiteral("a.csv"), {}, "x");
+        auto *dialog = openDialog<QFileDialog>();
+        QVERIFY(dialog != nullptr);
+        emit dialog->fileSelected(QStringLiteral("/none/a.csv"));
+        dialog->close();
+        const QString refused = saver->message();
+        QVERIFY(saver->hasFailed() && refused.startsWith(QLatin1String("/none/a.csv could not be written")));
         QVERIFY(AppLanguageManager::instance().setLanguage(QStringLiteral("JA")));
+        QVERIFY(saver->hasFailed() && saver->message() != refused);
+        QVERIFY(saver->message().contains(QLatin1String("/none/a.csv")));
         for (int i = 0; i < english.size(); ++i)
             QTRY_VERIFY2(texts().at(i) != english.at(i), qPrintable(english.at(i)));
         QVERIFY(AppLanguageManager::instance().setLanguage(QStringLiteral("EN")));
         QTRY_COMPARE(texts(), english);
+    }
+
+    /// Batches go on arriving while the language changes; no word of the other one stays.
+    void gatewayViewsFollowTheLanguage()
+    {
+        SimulatorProcess simulator(
+            {QStringLiteral("--device"), QStringLiteral("gateway"), QStringLiteral("--nodes"), QStringLiteral("4")});
+        Desk desk;
+        QVERIFY(AppLanguageManager::instance().initialize());
+        QVERIFY(AppLanguageManager::instance().setLanguage(QStringLiteral("EN")));
+        desk.open(simulator.port());
+        auto *action = desk.find<QAction>("action_wireless_gateway_dashboard");
+        QTRY_VERIFY(action->isEnabled());
+        action->trigger();
+        desk.find<QAction>("actionFFT_Chart")->trigger();
+        auto *dashboard = openWindow<form_wireless_dashboard>();
+        QVERIFY(dashboard != nullptr);
+        dashboard->bridge().setNodeChosen(1, true);
+        auto *spectrum = openDialog<form_fftchart>();
+        QVERIFY(spectrum != nullptr);
+        QQuickView *spectrumView = nullptr;
+        for (QWindow *window : QGuiApplication::allWindows()) {
+            auto *view = qobject_cast<QQuickView *>(window);
+            if (view && view->rootObject() && view->findChild<SpectrumViewState *>())
+                spectrumView = view;
+        }
+        QVERIFY(spectrumView != nullptr);
+        static const QRegularExpression asian(QStringLiteral("[\\p{Han}\\p{Hiragana}\\p{Katakana}\\p{Hangul}]"));
+        static const QRegularExpression english(QStringLiteral("[a-z]{5}"));
+        const auto strangers = [&](const QRegularExpression &script) {
+            return (shownTexts(dashboard->rootObject()) + shownTexts(spectrumView->rootObject())
+                    + QStringList{dashboard->title(), spectrum->windowTitle()})
+                .filter(script);
+        };
+        QTRY_VERIFY(strangers(english).size() > 10);
+        auto *dispatcher = desk.window->findChild<StreamDispatcher *>();
+        for (const char *code : {"JA", "KO", "CN", "TC"}) {
+            const quint64 before = dispatcher->snapshot().seq;
+            QVERIFY(AppLanguageManager::instance().setLanguage(QLatin1String(code)));
+            QTRY_VERIFY2(strangers(english).isEmpty(),
+                         qPrintable(QLatin1String(code) + QLatin1String(": ") + strangers(english).join(u'|')));
+            QTRY_VERIFY(dispatcher->snapshot().seq > before + 10);
+            QVERIFY(AppLanguageManager::instance().setLanguage(QStringLiteral("EN")));
+            QTRY_VERIFY2(strangers(asian).isEmpty(), qPrintable(strangers(asian).join(u'|')));
+        }
+        QCOMPARE(dashboard->bridge().nodeCount(), 4);
     }
 
     /// While a bootloader is there nothing else talks to the device; with the firmware back it is identified anew.

@@ -299,7 +299,7 @@ private slots:
         const QVariantMap map = fft_snapshot::readFile(path, error);
         QCOMPARE(map, FftChartBridge().importSnapshotJson(QString::fromUtf8(text)));
         QCOMPARE(map.isEmpty(), !accepted);
-        QCOMPARE(error.isEmpty(), accepted);
+        QVERIFY(error.isEmpty()); // it could be read
         QCOMPARE(map.value(u"fftSize"_s, 0).toInt(), 0);
         QCOMPARE(map.value(u"sampleRate"_s, 0).toInt(), 0);
     }

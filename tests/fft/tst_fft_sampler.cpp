@@ -98,6 +98,18 @@ private slots:
         QCOMPARE(changes > 0, sampler.currentRateHz() > 0);
     }
 
+    void resetForgetsTheClock()
+    {
+        qint64 hostMs = 100;
+        FftSampler sampler([&hostMs] { return hostMs; });
+        sampler.append(sample(1'000'000, 1), 0);
+        hostMs = 5000;
+        sampler.reset(8);
+        sampler.append(sample(0, 1), 0); // the host's clock stands in, and begins anew
+        sampler.append(sample(20, 1), 0);
+        QCOMPARE(sampler.currentRateHz(), 50);
+    }
+
     void batches()
     {
         qint64 hostMs = 0;

@@ -17,21 +17,11 @@
 #include "fft/fft_files.h"
 #include "fft/form_fftchart.h"
 #include "fft/spectrum_view_state.h"
+#include "support/quick_items.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QQuickItem *find(QQuickItem *root, const char *name)
-{
-    if (root->objectName() == QLatin1String(name))
-        return root;
-    for (QQuickItem *child : root->childItems()) {
-        if (QQuickItem *found = find(child, name))
-            return found;
-    }
-    return nullptr;
-}
 
 template <typename T> T *topLevel()
 {
@@ -61,7 +51,7 @@ struct Bench
     }
     template <typename T> T *control(const char *name) { return window.findChild<T *>(QLatin1String(name)); }
     FftChartBridge &bridge() { return window.bridge(); }
-    QQuickItem *item(const char *name) { return find(view->rootObject(), name); }
+    QQuickItem *item(const char *name) { return findItem(view->rootObject(), name); }
     void start() { control<QPushButton>("BTN_start")->click(); }
     void choose(const char *combo, int index) { control<QComboBox>(combo)->setCurrentIndex(index); }
 
@@ -260,6 +250,65 @@ private slots:
         bench.click("applyRule");
         QTRY_COMPARE(bench.bridge().alarmRule().maximumHz, 300.0);
         QVERIFY(bench.bridge().hasCustomAlarmRule());
+    }
+
+    void customBand()
+    {
+        Bench bench;
+        QVERIFY(QTest::qWaitForWindowExposed(bench.view));
+        bench.feed(512, 0.25F);
+        bench.start();
+        QTRY_VERIFY(bench.bridge().hasData());
+        const auto type = [&bench](const char *field, const char *text) {
+            bench.item(field)->forceActiveFocus();
+            QTest::keyClick(bench.view, Qt::Key_A, Qt::ControlModifier);
+            for (const char *c = text; *c; ++c)
+                QTest::keyClick(bench.view, *c);
+        };
+        bench.click("addBand");
+        QTRY_VERIFY(bench.item("bandEditor")->isVisible() && bench.item("applyBand")->y() > 0); // laid out
+        bench.click("applyBand");
+        QVERIFY(!bench.bridge().hasCustomBands());
+        QTRY_COMPARE(bench.item("bandEditor")->property("problem").toString(), u"The band needs a name."_s);
+        type("bandName", "tone");
+        type("bandLow", "100");
+        type("bandHigh", "150");
+        bench.click("applyBand");
+        QTRY_VERIFY(!bench.item("bandEditor")->isVisible());
+        QTRY_COMPARE(bench.bridge().bandPowers().size(), 1);
+        const QVariantMap band = bench.bridge().bandPowersToVariantList().first().toMap();
+        QCOMPARE(band.value(u"name"_s), u"tone"_s);
+        QCOMPARE(band.value(u"highHz"_s), 150.0);
+        QTRY_VERIFY(std::abs(bench.bridge().bandPowers().first().rmsEquivalent - 250 / std::numbers::sqrt2) < 0.1);
+        QTRY_VERIFY(bench.item("addBand")->x() > 0); // laid out
+        bench.click("resetBands");
+        QTRY_COMPARE(bench.bridge().bandPowers().size(), 3);
+    }
+
+    void pictureIsSaved()
+    {
+        Bench bench;
+        QVERIFY(QTest::qWaitForWindowExposed(bench.view));
+        bench.control<QDoubleSpinBox>("SB_y_axis_max")->setValue(250); // the tone is as high as the picture
+        bench.feed(512, 0.25F);
+        bench.start();
+        QTRY_VERIFY(bench.bridge().hasData());
+        const QSizeF chart = bench.item("chart")->size() * bench.view->devicePixelRatio();
+        bench.click("savePicture");
+        QFileDialog *dialog = nullptr;
+        QTRY_VERIFY((dialog = topLevel<QFileDialog>()) && dialog->isVisible());
+        emit dialog->fileSelected(m_folder.filePath(u"spectrum.png"_s));
+        const QImage image(u"spectrum.png"_s);
+        QCOMPARE(image.size(), chart.toSize());
+        int green = 0; // the tone is on Y
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                const QColor color = image.pixelColor(x, y);
+                green += color.green() > color.red() + 60 && color.green() > color.blue() + 30;
+            }
+        }
+        QVERIFY2(green > 200, qPrintable(QString::number(green)));
+        dialog->close();
     }
 
     void snapshotsAreToldAndRefused()

@@ -3,9 +3,9 @@
 #include <QQuickItem>
 
 /// The first item with the object name `name` in and below `root`; null when there is none. Delegates are found too.
-inline QQuickItem *findItem(QQuickItem *root, const QString &name)
+inline QQuickItem *findItem(QQuickItem *root, QAnyStringView name)
 {
-    if (root->objectName() == name)
+    if (QAnyStringView(root->objectName()) == name)
         return root;
     for (QQuickItem *child : root->childItems()) {
         if (QQuickItem *found = findItem(child, name))

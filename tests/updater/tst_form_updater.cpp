@@ -36,6 +36,18 @@ void write(const QString &path, const QByteArray &bytes)
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
 }
 
+/// Whether a widget holds pixels as dark as text that can be read.
+bool hasDarkInk(QWidget *widget)
+{
+    const QImage image = widget->grab().toImage();
+    int dark = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            dark += qGray(image.pixel(x, y)) < 90;
+    }
+    return dark > 20;
+}
+
 /// The dialog on the screen, with a simulated device on an open port.
 struct Bench
 {
@@ -196,7 +208,8 @@ private slots:
         QVERIFY(bench.dialog.isDownloadRunning());
         for (const char *name : {"BTN_open_file", "BTN_connect", "BTN_download", "BTN_close"})
             QVERIFY2(!bench.button(name)->isEnabled() && !bench.button(name)->toolTip().isEmpty(), name);
-        bench.dialog.close(); // the window manager's way
+        QVERIFY(hasDarkInk(bench.button("BTN_connect"))); // locked, but to be read on its green
+        bench.dialog.close();                             // the window manager's way
         QTest::keyClick(&bench.dialog, Qt::Key_Escape);
         QVERIFY(bench.dialog.isVisible());
         QVERIFY(bench.label("LBL_status").contains(QStringLiteral("has to end first")));

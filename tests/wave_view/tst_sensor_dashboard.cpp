@@ -10,30 +10,20 @@
 #include <limits>
 
 #include "app/settings_keys.h"
+#include "support/quick_items.h"
 #include "wave/chart_saver.h"
 #include "wave/form_sensor_dashboard.h"
 #include "wave/series_item.h"
 
 namespace {
 
-QQuickItem *find(QQuickItem *root, const char *name)
-{
-    if (root->objectName() == QLatin1String(name))
-        return root;
-    for (QQuickItem *child : root->childItems()) {
-        if (QQuickItem *found = find(child, name))
-            return found;
-    }
-    return nullptr;
-}
-
 /// The window with its acceleration chart. Red is X, which no other part of a plot is.
 struct Bench
 {
     form_sensor_dashboard window;
-    QQuickItem *chart = find(window.rootObject(), "chart_acc");
-    QQuickItem *plot = find(chart, "plotMouse");
-    SeriesItem *series = qobject_cast<SeriesItem *>(find(chart, "series"));
+    QQuickItem *chart = findItem(window.rootObject(), "chart_acc");
+    QQuickItem *plot = findItem(chart, "plotMouse");
+    SeriesItem *series = qobject_cast<SeriesItem *>(findItem(chart, "series"));
     ChartViewState *view = series->viewState();
 
     explicit Bench(const QStringList &types = {QStringLiteral("acc")})
@@ -113,11 +103,11 @@ private slots:
         QTRY_VERIFY(bench.red(0.7, 1) > 100);
         QVERIFY(bench.red(0, 0.35) > 100);
         QCOMPARE(bench.red(0.42, 0.58), 0);
-        QTRY_VERIFY(!find(bench.chart, "legend_Norm")->property("value").toString().isEmpty());
+        QTRY_VERIFY(!findItem(bench.chart, "legend_Norm")->property("value").toString().isEmpty());
 
-        bench.click(find(bench.chart, "legend_X"));
+        bench.click(findItem(bench.chart, "legend_X"));
         QTRY_COMPARE(bench.red(), 0);
-        bench.click(find(bench.chart, "legend_X"));
+        bench.click(findItem(bench.chart, "legend_X"));
         QTRY_VERIFY(bench.red() > 100);
 
         // Pausing keeps the picture.
@@ -127,12 +117,12 @@ private slots:
         bench.push(10000, 15000);
         QVERIFY(bench.red(0.7, 1) > 100);
         QCOMPARE(bench.series->polishCount(), polishes);
-        bench.click(find(bench.window.rootObject(), "playButton"));
+        bench.click(findItem(bench.window.rootObject(), "playButton"));
         QVERIFY(bench.window.bridge().playing());
 
         // A chart that is not chosen costs nothing.
         bench.window.bridge().setSensorSelected(QStringLiteral("acc"), false);
-        QTRY_VERIFY(find(bench.window.rootObject(), "noChart")->isVisible());
+        QTRY_VERIFY(findItem(bench.window.rootObject(), "noChart")->isVisible());
         const int before = bench.series->polishCount();
         bench.push(15000, 16000);
         QVERIFY(bench.red() == 0 && bench.series->polishCount() == before);
@@ -180,7 +170,7 @@ private slots:
         QTRY_VERIFY(bench.view->hasData());
         const QTemporaryDir folder;
         for (const char *button : {"saveData", "savePicture"}) {
-            bench.click(find(bench.chart, button));
+            bench.click(findItem(bench.chart, button));
             QFileDialog *dialog = nullptr;
             QTRY_VERIFY((dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget())));
             QCOMPARE(dialog->windowHandle()->transientParent(), &bench.window);
@@ -206,9 +196,9 @@ private slots:
         Bench bench;
         QVERIFY(bench.isShown());
         bench.window.bridge().setFrameRate(10);
-        bench.click(find(bench.chart, "filterButton"));
-        QQuickItem *cutoff = find(bench.chart, "filterCutoff");
-        QQuickItem *problem = find(bench.chart, "filterProblem");
+        bench.click(findItem(bench.chart, "filterButton"));
+        QQuickItem *cutoff = findItem(bench.chart, "filterCutoff");
+        QQuickItem *problem = findItem(bench.chart, "filterProblem");
         QTRY_VERIFY(cutoff->isVisible());
         const auto enter = [&](const QString &text) {
             cutoff->forceActiveFocus();
@@ -217,7 +207,7 @@ private slots:
         };
         enter(QStringLiteral("0.01"));
         QVERIFY(!problem->isVisible());
-        bench.click(find(bench.chart, "filterSwitch"));
+        bench.click(findItem(bench.chart, "filterSwitch"));
         QTRY_VERIFY(problem->isVisible() && !problem->property("text").toString().isEmpty());
         QVERIFY(!bench.view->bridge()->filterOn());
         enter(QStringLiteral("abc"));
@@ -245,15 +235,15 @@ private slots:
             QVERIFY(window.screen()->availableGeometry().contains(window.geometry()));
             window.open();
             QVERIFY(QTest::qWaitForWindowActive(&window) && window.bridge().dashboardActive());
-            const QPointer<QQuickItem> chip = find(window.rootObject(), "chip_eul");
+            const QPointer<QQuickItem> chip = findItem(window.rootObject(), "chip_eul");
             chip->forceActiveFocus(Qt::TabFocusReason);
             for (const bool shown : {true, false, true}) { // the chip stays, and keeps the keyboard
                 QTest::keyClick(&window, Qt::Key_Space);
-                QTRY_COMPARE(find(window.rootObject(), "chart_eul")->isVisible(), shown);
+                QTRY_COMPARE(findItem(window.rootObject(), "chart_eul")->isVisible(), shown);
                 QTRY_VERIFY(chip && chip->hasActiveFocus() && chip->property("checked").toBool() == shown);
             }
             window.resize(760, 490);
-            QTRY_COMPARE(find(window.rootObject(), "noChart")->window()->width(), 760);
+            QTRY_COMPARE(findItem(window.rootObject(), "noChart")->window()->width(), 760);
             window.close();
             QVERIFY(!window.bridge().dashboardActive());
         }
@@ -278,9 +268,9 @@ private slots:
         Bench bench({QStringLiteral("acc"), QStringLiteral("gyr")});
         QVERIFY(bench.isShown());
         const qreal width = bench.chart->width();
-        bench.click(find(bench.chart, "maximizeButton"));
+        bench.click(findItem(bench.chart, "maximizeButton"));
         QTRY_VERIFY(bench.chart->width() > 1.8 * width);
-        QVERIFY(!find(bench.window.rootObject(), "chart_gyr")->isVisible());
+        QVERIFY(!findItem(bench.window.rootObject(), "chart_gyr")->isVisible());
         QTest::keyClick(&bench.window, Qt::Key_Escape);
         QTRY_COMPARE(bench.chart->width(), width);
     }
