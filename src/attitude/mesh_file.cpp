@@ -39,7 +39,7 @@ public:
     }
     void skip(quint32 bytes)
     {
-        if (m_stream.skipRawData(int(std::min<quint32>(bytes, kMaxFileBytes))) < int(bytes))
+        if (bytes > kMaxFileBytes || m_stream.skipRawData(int(bytes)) < int(bytes))
             m_stream.setStatus(QDataStream::ReadPastEnd);
     }
     void align() { skip(4 - quint32(position() % 4)); }

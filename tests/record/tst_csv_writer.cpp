@@ -268,6 +268,22 @@ private slots:
         qunsetenv("TZ");
     }
 
+    void newFileFreesTheGroups()
+    {
+        Writer writer(path());
+        writer.time = QDateTime::fromString(QStringLiteral("2040-10-27T23:15:00Z"), Qt::ISODate);
+        for (const char id : {'3', '4'}) {
+            writer.enqueue62(batch({id - '0'}));
+            writer.enqueue63(batch({id - '0'}), 7);
+            writer.flushPendingAndClose();
+            const QByteArrayList lines = linesOf(writer.filePath());
+            QCOMPARE(lines.size(), 4);
+            QCOMPARE(lines.at(1).split(',').at(1), QByteArray(1, id)); // the first group
+            QCOMPARE(lines.at(3).split(',').at(2), QByteArray(1, id));
+            writer.time = writer.time.addSecs(3600);
+        }
+    }
+
     void fullQueueDropsAndTellsOnce()
     {
         CsvWriter writer(path());

@@ -290,7 +290,12 @@ private slots:
         for (const auto &[control, ends, state, remedy] : rows) {
             Bench bench(hex_file::file(image, 0));
             QVERIFY(bench.device.control(control));
-            QVERIFY2(bench.update() == (ends == Complete), control);
+            // An acknowledge that comes late by itself may come too late on a busy machine: such a fault stays.
+            int tries = QByteArray(control).contains("-ms") && ends == Complete ? 3 : 1;
+            bool isComplete = bench.update();
+            while (!isComplete && --tries > 0)
+                isComplete = bench.update();
+            QVERIFY2(isComplete == (ends == Complete), control);
             QVERIFY2(bench.label("LBL_status").contains(state), qPrintable(bench.label("LBL_status")));
             QVERIFY(bench.button("BTN_connect")->isEnabled() && !bench.button("BTN_download")->isEnabled());
             QVERIFY(

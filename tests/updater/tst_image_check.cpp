@@ -36,7 +36,7 @@ private slots:
             {"stack off the word", image(0x20004002, 0xA0C1), 0xA000, 128, {Doubt::StackPointer}},
             {"even vector", image(0x20004000, 0xA0C0), 0xA000, 128, {Doubt::ResetVector}},
             {"vector before", image(0x20004000, 0x9FFF), 0xA000, 128, {Doubt::ResetVector}},
-            {"vector behind", image(0x20004000, 0xB001), 0xA000, 128, {Doubt::ResetVector}},
+            {"vector behind", image(0x20004000, 0xB001, 4097), 0xA000, 128, {Doubt::ResetVector}},
             {"tiny", image(0x20004000, 0xA0C1, 1023), 0xA000, 128, {Doubt::TooSmall}},
             {"5 bytes", good.left(5), 0xA000, 128, {Doubt::ResetVector, Doubt::TooSmall}}};
         for (const auto &[name, file, address, flashSizeKb, expected] : rows) {
