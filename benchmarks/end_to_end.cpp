@@ -331,6 +331,7 @@ int run(ProbedApplication &application, const Plan &plan)
     counts.decoded = qint64(dispatcher->snapshot().seq);
     if (plan.record) {
         recorder->stopRecording();
+        recorder->waitForFile();
         counts.offered = counts.decoded - qint64(decodedBefore);
         counts.recorded = recordedLines();
     }

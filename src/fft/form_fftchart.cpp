@@ -217,6 +217,7 @@ void form_fftchart::clearRenderedFftData()
 void form_fftchart::syncFrequencyAxisState()
 {
     syncBridgeMeta();
+    updateStatus();
     if (!m_refitX)
         return;
     m_bridge.requestXAxisReset();

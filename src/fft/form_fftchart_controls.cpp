@@ -96,6 +96,11 @@ void form_fftchart::configureControls()
     layout->addLayout(m_controls);
     layout->addLayout(m_statusRow);
 
+    const QList<QWidget *> inOrder{m_start, m_type, m_points, m_window, m_hold, m_yAxisMax};
+    for (qsizetype i = 1; i < inOrder.size(); ++i)
+        setTabOrder(inOrder.at(i - 1), inOrder.at(i));
+    m_start->setFocus();
+
     QMetaObject::connectSlotsByName(this);
     connect(m_points, &QComboBox::currentTextChanged, this, &form_fftchart::onFftCalPointTextChanged);
 }
