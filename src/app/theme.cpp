@@ -41,7 +41,8 @@ QStatusBar::item { border: none; }
 QToolTip { background: #111827; color: #FFFFFF; border: 1px solid #111827; padding: 4px 6px; }
 
 QPushButton, QToolBar QToolButton {
-    background: #FFFFFF; border: 1px solid #D1D5DB; border-radius: 6px; padding: 6px 14px; color: #1F2937; }
+    background: #FFFFFF; border: 1px solid #D1D5DB; border-radius: 6px; padding: 6px 14px; color: #1F2937;
+    outline: none; }
 QPushButton:hover, QToolBar QToolButton:hover { background: #F9FAFB; border-color: #9CA3AF; }
 QPushButton:pressed, QToolBar QToolButton:pressed { background: #E5E7EB; }
 QPushButton:focus, QToolBar QToolButton:focus { border-color: #2563EB; }
@@ -50,6 +51,8 @@ QPushButton:default, QPushButton[primary="true"], QToolBar QToolButton[primary="
     background: #2563EB; border-color: #2563EB; color: #FFFFFF; }
 QPushButton:default:hover, QPushButton[primary="true"]:hover, QToolBar QToolButton[primary="true"]:hover {
     background: #1D4ED8; border-color: #1D4ED8; }
+QPushButton:default:focus, QPushButton[primary="true"]:focus, QToolBar QToolButton[primary="true"]:focus {
+    border-color: #1E3A8A; }
 QPushButton:default:disabled, QPushButton[primary="true"]:disabled {
     background: #BFDBFE; border-color: #BFDBFE; color: #FFFFFF; }
 QPushButton[connected="true"]:disabled { color: #1F2937; }
