@@ -145,15 +145,15 @@ sleep 1
 xdotool key alt+c # the recording goes on
 picture 'ORVEL-IMU' 4-live 500
 xdotool key ctrl+d
-picture 'Sensor Dashboard' 5-waves 500
+picture 'Sensor Dashboard' 5-waves 2500
 window 'ORVEL-IMU'
 xdotool key ctrl+f
 window 'FFT Analysis'
 xdotool mousemove --window "$(visible 'FFT Analysis')" 40 28 click 1 # Start
-picture 'FFT Analysis' 6-spectrum 500
+picture 'FFT Analysis' 6-spectrum 2500
 window 'ORVEL-IMU'
 xdotool key ctrl+3
-picture '3D view' 7-threed 500
+picture '3D view' 7-threed 2500
 window 'ORVEL-IMU'
 xdotool key ctrl+w # ends the recording, too
 sleep 2
