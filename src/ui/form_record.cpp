@@ -134,7 +134,6 @@ void form_record::stopRecording()
     m_run->requestStop();
     updateTrouble();
     updateState();
-    emit recordingChanged(false);
 }
 
 void form_record::waitForFile()
@@ -154,6 +153,7 @@ void form_record::finishStop()
         m_problem = Problem::None;
     updateTrouble();
     updateState();
+    emit recordingChanged(false);
 }
 
 unsigned int form_record::recordCount() const

@@ -63,6 +63,7 @@ public slots:
     void imuPackage0x63(const QList<node_data_t> &nodes, unsigned int timestampMs);
 
 signals:
+    /// A recording has begun, or it has been stopped and its file is closed.
     void recordingChanged(bool recording);
     /// A kind of trouble has come or gone.
     void troubleChanged();

@@ -171,6 +171,9 @@ private slots:
                 QVERIFY2(!errorOf(bad).isEmpty(), qPrintable(QStringLiteral("%1: %2").arg(offset).arg(value)));
             }
         }
+        QByteArray oneTooFar = good;
+        qToLittleEndian(4U, oneTooFar.data() + 0xEC); // the face has four vertices
+        QVERIFY(!errorOf(oneTooFar).isEmpty());
     }
 };
 

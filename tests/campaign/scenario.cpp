@@ -62,6 +62,7 @@ void toggleRecording(form_base &window)
     auto *recorder = window.findChild<form_record *>();
     if (recorder->isRecording())
         recorder->stopRecording();
+    recorder->waitForFile();
     recorder->startRecording();
 }
 

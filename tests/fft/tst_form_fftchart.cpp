@@ -172,6 +172,10 @@ private slots:
         bench.start();
         QTRY_VERIFY(std::abs(bench.bridge().dominantPeakAmplitude() - 250) < 2);
         QCOMPARE(bench.bridge().windowName(), fftWindowNames().at(window));
+        // The bin beside the tone shows which window the engine took.
+        const QList<double> leakage = fftWindowLeakage(fftWindowNames().at(window));
+        const double beside = bench.bridge().getPoints(1).at(1 + 64 + 1).y(); // behind the anchor
+        QVERIFY2(std::abs(beside - 250 * leakage.value(0) / 2) < 5, qPrintable(QString::number(beside)));
     }
 
     void closingAbandonsTheBatch()
@@ -213,6 +217,10 @@ private slots:
         QTest::mouseDClick(bench.view, Qt::RightButton, {}, bench.at(0.5, 0.5));
         QCOMPARE(bench.state->xViewMin(), 0.0);
         QCOMPARE(bench.state->yViewMax(), 16000.0);
+
+        QTest::keyClick(bench.view, Qt::Key_Plus, Qt::ControlModifier);
+        QVERIFY(std::abs(bench.state->xViewMin() - 50) < 1); // about the middle
+        QTest::keyClick(bench.view, Qt::Key_Home);
 
         QTest::mouseMove(bench.view, bench.at(0.25, 0.5));
         QTRY_COMPARE(bench.state->hoverFrequency(), u"125.00 Hz"_s);
@@ -297,7 +305,7 @@ private slots:
         const QSizeF chart = bench.item("chart")->size() * bench.view->devicePixelRatio();
         bench.click("savePicture");
         QFileDialog *dialog = nullptr;
-        QTRY_VERIFY((dialog = topLevel<QFileDialog>()) && dialog->isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT((dialog = topLevel<QFileDialog>()) && dialog->isVisible(), 20000);
         emit dialog->fileSelected(m_folder.filePath(u"spectrum.png"_s));
         const QImage image(u"spectrum.png"_s);
         QCOMPARE(image.size(), chart.toSize());

@@ -45,6 +45,19 @@ private slots:
         }
     }
 
+    void tellsTheStatusBefore()
+    {
+        BootloaderOutcome outcome;
+        outcome.step = BootloaderStep::Data;
+        outcome.fault = BootloaderFault::Refused;
+        outcome.acknowledgedBytes = 64;
+        QVERIFY(!updater_text::downloadFailure(outcome, 5000, 32).contains(QLatin1String("status")));
+        outcome.targetStatus = 101;
+        QVERIFY(
+            updater_text::downloadFailure(outcome, 5000, 32)
+                .startsWith(QLatin1String("The bootloader refused a packet. It had reported status 101 before. 64 ")));
+    }
+
     void transfer()
     {
         QLocale::setDefault(QLocale::c());

@@ -82,6 +82,10 @@ private slots:
         QCoreApplication::processEvents();
         QCOMPARE(order.size(), 8);
         QVERIFY(!chart.hasData());
+        chart.setObserved(false);
+        push(chart, 200);
+        chart.reset(); // hidden: nobody looks
+        QCOMPARE(order.size(), 8);
     }
 
     void pauses()
