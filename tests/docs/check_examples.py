@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """check_examples.py SIMULATOR: what the user guide shows about bytes is true. Its decoder reads what the simulator
-sends, intact and through a bad cable, and the packet that it works through by hand has the CRC that it says."""
+sends, intact and through a bad cable; the packet that it works through by hand has the CRC that it says; its demo
+firmware is a file that can be loaded."""
 import binascii
 import csv
 import io
@@ -10,10 +11,13 @@ import select
 import struct
 import subprocess
 import sys
+import tempfile
 from pathlib import Path
 
 TOP = Path(__file__).parents[2]
 DECODER = TOP / "docs/examples/decode_stream.py"
+FIRMWARE = TOP / "docs/examples/demo_firmware.py"
+FLASH = 0x08000000
 PAGE = TOP / "docs/user-guide/device-formats.md"
 ENOUGH = 20_000  # bytes
 MOTION = {"acc_x": .25, "acc_y": -.5, "acc_z": .75, "gyr_x": 10.5, "gyr_y": -20.5, "gyr_z": 30.5, "mag_x": 12.5,
@@ -96,7 +100,30 @@ def worked_packet_problems():
     return found
 
 
+def firmware_problems():
+    """The demo image is Intel HEX from the start of the flash on, without a gap, with vectors that pass for good."""
+    with tempfile.TemporaryDirectory() as folder:
+        path = Path(folder) / "demo.hex"
+        subprocess.run([sys.executable, FIRMWARE, path, "65"], check=True)
+        records = [bytes.fromhex(line[1:]) for line in path.read_text(encoding="ascii").splitlines()]
+    image, upper = b"", 0
+    for record in records:
+        count, low, kind = struct.unpack_from(">BHB", record)
+        if sum(record) & 0xFF or len(record) != count + 5:
+            return [f"bad record {record.hex()}"]
+        if kind == 4:
+            upper = struct.unpack_from(">H", record, 4)[0] << 16
+        elif kind == 0 and upper + low != FLASH + len(image):
+            return [f"gap in front of {upper + low:#x}"]
+        elif kind == 0:
+            image += record[4:-1]
+    stack, reset = struct.unpack_from("<II", image)
+    good = len(image) == 65 * 1024 and stack % 4 == 0 and reset % 2 == 1 and 0 < reset - FLASH < len(image)
+    return [] if good and records[-1][3] == 1 else ["wrong size, vectors or end"]
+
+
 failed = [f"{PAGE.name}: {problem}" for problem in worked_packet_problems()]
+failed += [f"{FIRMWARE.name}: {problem}" for problem in firmware_problems()]
 for case in CASES:
     failed += [f"{' '.join(case[0])}: {problem}" for problem in problems(sys.argv[1], *case)]
 print("\n".join(failed))
