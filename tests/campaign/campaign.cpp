@@ -228,11 +228,10 @@ void Campaign::endConnection()
 void Campaign::checkRecordings()
 {
     CampaignReport::Books &books = m_report.books;
-    const LinkAccount::Recordings recordings =
-        m_user.ask<LinkAccount::Recordings>([this](form_base &window) {
-            window.findChild<form_record *>()->waitForFile();
-            return m_account.recordings();
-        });
+    const LinkAccount::Recordings recordings = m_user.ask<LinkAccount::Recordings>([this](form_base &window) {
+        window.findChild<form_record *>()->waitForFile();
+        return m_account.recordings();
+    });
     for (const QString &name : QDir::current().entryList({QStringLiteral("data_*.csv")}, QDir::Files)) {
         QFile file(name);
         if (!file.open(QIODevice::ReadOnly))
