@@ -11,7 +11,6 @@
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
 #include <QOpenGLFunctions>
-#include <QStyleFactory>
 #include <QTextStream>
 
 #include <algorithm>
@@ -352,9 +351,7 @@ int main(int argc, char **argv)
 {
     ProbedApplication application(argc, argv);
     const Plan plan = readPlan(application);
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    QApplication::setPalette(theme::palette());
-    application.setStyleSheet(theme::styleSheet());
+    theme::apply(application);
     application_fonts::loadAll();
     return run(application, plan);
 }

@@ -8,7 +8,6 @@
 #include <QMetaObject>
 #include <QQuickView>
 #include <QScreen>
-#include <QStyleFactory>
 
 #include <atomic>
 #include <cmath>
@@ -46,11 +45,9 @@ QCommandLineOption option(const char *name, const char *text, const char *value,
 
 int main(int argc, char **argv)
 {
-    const QApplication application(argc, argv);
+    QApplication application(argc, argv);
     application_fonts::loadAll();
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    QApplication::setPalette(theme::palette());
-    qobject_cast<QApplication *>(QCoreApplication::instance())->setStyleSheet(theme::styleSheet());
+    theme::apply(application);
 
     QCommandLineParser parser;
     parser.addHelpOption();

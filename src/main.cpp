@@ -4,7 +4,6 @@
 #include <QDebug>
 #include <QIcon>
 #include <QSerialPort>
-#include <QStyleFactory>
 #include <QSurfaceFormat>
 
 #include <cstdlib>
@@ -22,17 +21,10 @@ namespace {
 
 constexpr int kSamplesPerPixel = 6; // for the 3D and chart views
 
-void applyLook()
-{
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    QApplication::setPalette(theme::palette());
-    qobject_cast<QApplication *>(QCoreApplication::instance())->setStyleSheet(theme::styleSheet());
-}
-
 /// Runs the program; returns the event loop's exit code.
 int qMain(int argc, char **argv)
 {
-    const QApplication application(argc, argv);
+    QApplication application(argc, argv);
     message_log::open(QStringLiteral("qt6_debug.log"));
     message_log::install();
 
@@ -46,7 +38,7 @@ int qMain(int argc, char **argv)
 
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/mainicon.png")));
     application_fonts::loadAll();
-    applyLook();
+    theme::apply(application);
     AppLanguageManager::instance().setPicker(pickInitialLanguage);
     if (!AppLanguageManager::instance().initialize()) {
         qWarning() << "Failed to initialize application language manager";

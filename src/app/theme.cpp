@@ -1,5 +1,8 @@
 #include "app/theme.h"
 
+#include <QApplication>
+#include <QStyleFactory>
+
 #include "app/application_fonts.h"
 
 QPalette theme::palette()
@@ -103,6 +106,13 @@ QTabWidget::pane { border: 1px solid #E5E7EB; border-radius: 8px; background: #F
 QTabBar::tab { padding: 6px 16px; border: 1px solid transparent; color: #4B5563; background: transparent; }
 QTabBar::tab:selected { color: #1D4ED8; border-bottom: 2px solid #2563EB; }
 )");
+}
+
+void theme::apply(QApplication &application)
+{
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(palette());
+    application.setStyleSheet(styleSheet());
 }
 
 QFont theme::fixedPitchFont(qreal pointSize)

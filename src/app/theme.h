@@ -5,6 +5,8 @@
 #include <QPalette>
 #include <QString>
 
+class QApplication;
+
 /// The look that all windows share: light surfaces, one neutral grey scale, one accent, the axis colours.
 namespace theme {
 
@@ -30,6 +32,9 @@ QPalette palette();
 
 /// Style sheet of the application's widgets; independent of the font size.
 QString styleSheet();
+
+/// Gives the application style, palette and style sheet.
+void apply(QApplication &application);
 
 /// Font for figures and logs: all digits equally wide, at `pointSize`.
 QFont fixedPitchFont(qreal pointSize);
