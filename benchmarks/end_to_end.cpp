@@ -18,6 +18,7 @@
 #include "app/application_fonts.h"
 #include "app/theme.h"
 #include "e2e/desk.h"
+#include "fft/form_fftchart.h"
 #include "latency.h"
 #include "link/stream_dispatcher.h"
 #include "process_figures.h"
@@ -109,6 +110,10 @@ void openViews(const Plan &plan, const Desk &desk, StreamProbe &probe)
     if (auto *gateway = openWindow<form_wireless_dashboard>()) {
         for (const int node : {1, 2})
             gateway->bridge().setNodeChosen(node, true);
+    }
+    for (const QWidget *window : QApplication::topLevelWidgets()) {
+        if (qobject_cast<const form_fftchart *>(window))
+            window->findChild<QPushButton *>(QStringLiteral("BTN_start"))->click();
     }
     if (auto *waves = openWindow<form_sensor_dashboard>())
         probe.watch(*waves);
