@@ -5,6 +5,7 @@
 
 #include <QList>
 
+#include "link/sample_gaps.h"
 #include "wave/gateway_sample.h"
 
 /// How recently a radio node was heard. Three periods of silence, but at least half a second, are late; twice that, but
@@ -44,7 +45,6 @@ public:
 private:
     static constexpr int kBucketMs = 100;
     static constexpr int kBuckets = 20; ///< complete ones, two seconds
-    static constexpr int kSteps = 16;
 
     struct Node
     {
@@ -54,18 +54,13 @@ private:
         qint64 heardMs = 0; ///< host time of the newest sample
         qint64 sinceMs = 0; ///< host time from which it was heard without a break
         bool hasNodeTime = false;
-        bool hasClock = false;
-        quint32 stampMs = 0;
-        std::array<quint32, kSteps> steps{}; ///< newest steps between samples in milliseconds, a ring
-        int stepCount = 0;
+        SampleGaps gaps;
         quint64 missing = 0;
         std::array<quint32, kBuckets + 1> counts{}; ///< samples per bucket of host time, a ring
     };
 
     static void addSample(Node &node, const GatewaySample &sample, qint64 hostMs);
-    static void addStep(Node &node, quint32 stepMs);
     static void emptyBuckets(Node &node, qint64 fromMs, qint64 toMs);
-    static double periodMs(const Node &node);
     static double rateHz(const Node &node, qint64 hostMs);
     static NodeState state(const Node &node, qint64 hostMs);
 

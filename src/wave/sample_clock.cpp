@@ -2,14 +2,7 @@
 
 #include <limits>
 
-ClockStep ClockStep::between(quint32 previousMs, quint32 stampMs)
-{
-    const quint32 forward = stampMs - previousMs; // modulo 2^32, so that the wrap is no event
-    if (forward != 0 && forward <= kMaxStepMs)
-        return {Forward, forward};
-    const quint32 back = previousMs - stampMs;
-    return {back < kMaxBackMs ? Repeated : Jump, 0};
-}
+#include "link/clock_step.h"
 
 quint32 SampleClock::next(quint32 deviceMs, unsigned int nominalPeriodMs)
 {
