@@ -1522,6 +1522,18 @@ Pa</translation>
         <source>Attitude of the selected node in three dimensions</source>
         <translation>所选节点的三维姿态</translation>
     </message>
+    <message>
+        <source>&amp;Link health</source>
+        <translation>链路质量(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Ctrl+L</source>
+        <translation>Ctrl+L</translation>
+    </message>
+    <message>
+        <source>How completely the data arrive: errors, gaps, losses (%1)</source>
+        <translation>数据接收的完整程度：错误、间隔、丢失 (%1)</translation>
+    </message>
 </context>
 <context>
     <name>form_com_select</name>
@@ -1699,6 +1711,237 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>Hover to inspect frequency and amplitude. Mouse wheel zooms Y, Ctrl + wheel zooms X, left drag pans, and right or middle double-click resets the view.</source>
         <translation>悬停可查看频率和幅值。滚轮缩放 Y 轴，Ctrl + 滚轮缩放 X 轴，按住左键拖动可平移，右键或中键双击可重置视图。</translation>
+    </message>
+</context>
+<context>
+    <name>form_link_health</name>
+    <message>
+        <source>Link health</source>
+        <translation>链路质量</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>线路</translation>
+    </message>
+    <message>
+        <source>Bytes received</source>
+        <translation>已接收字节</translation>
+    </message>
+    <message>
+        <source>All bytes of this connection</source>
+        <translation>本次连接接收的全部字节</translation>
+    </message>
+    <message>
+        <source>Data packets</source>
+        <translation>数据包</translation>
+    </message>
+    <message>
+        <source>Packets whose checksum fits; their samples are shown and recorded</source>
+        <translation>校验正确的数据包；其采样会显示并记录</translation>
+    </message>
+    <message>
+        <source>Bootloader packets</source>
+        <translation>引导程序数据包</translation>
+    </message>
+    <message>
+        <source>Answers of the bootloader during a firmware update</source>
+        <translation>固件更新期间引导程序的应答</translation>
+    </message>
+    <message>
+        <source>Checksum errors</source>
+        <translation>校验错误</translation>
+    </message>
+    <message>
+        <source>Packets that were damaged on the line and rejected</source>
+        <translation>在线路上损坏而被拒绝的数据包</translation>
+    </message>
+    <message>
+        <source>Over-long lengths</source>
+        <translation>长度超限</translation>
+    </message>
+    <message>
+        <source>Headers that claim more bytes than a packet can have</source>
+        <translation>声明的字节数超过数据包上限的包头</translation>
+    </message>
+    <message>
+        <source>Unknown packet types</source>
+        <translation>未知包类型</translation>
+    </message>
+    <message>
+        <source>Start bytes that no known packet type follows</source>
+        <translation>其后不是已知包类型的起始字节</translation>
+    </message>
+    <message>
+        <source>Bytes outside packets</source>
+        <translation>数据包之外的字节</translation>
+    </message>
+    <message>
+        <source>Text that the device answers to commands, and what is left of damaged packets</source>
+        <translation>设备应答命令的文本，以及损坏数据包的剩余部分</translation>
+    </message>
+    <message>
+        <source>of these, noise</source>
+        <translation>其中的噪声</translation>
+    </message>
+    <message>
+        <source>Bytes outside packets that cannot be text</source>
+        <translation>数据包之外且不可能是文本的字节</translation>
+    </message>
+    <message>
+        <source>Bytes before the first packet</source>
+        <translation>首个数据包之前的字节</translation>
+    </message>
+    <message>
+        <source>A port is mostly opened in the middle of a packet: no sign of a fault</source>
+        <translation>打开串口时通常正处于数据包中间，并非故障</translation>
+    </message>
+    <message>
+        <source>Last error</source>
+        <translation>最近的错误</translation>
+    </message>
+    <message>
+        <source>What was damaged last on the line</source>
+        <translation>线路上最近一次损坏的类型</translation>
+    </message>
+    <message>
+        <source>Time of the last error</source>
+        <translation>最近错误的时间</translation>
+    </message>
+    <message>
+        <source>The computer&apos;s clock</source>
+        <translation>计算机时间</translation>
+    </message>
+    <message>
+        <source>Stream</source>
+        <translation>数据流</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>采样</translation>
+    </message>
+    <message>
+        <source>Samples of all nodes</source>
+        <translation>所有节点的采样</translation>
+    </message>
+    <message>
+        <source>Missing samples</source>
+        <translation>丢失的采样</translation>
+    </message>
+    <message>
+        <source>By the time stamps of the samples, for all nodes; a dash when they have none</source>
+        <translation>依据采样的时间戳，统计所有节点；没有时间戳时显示短横线</translation>
+    </message>
+    <message>
+        <source>Lost</source>
+        <translation>丢失率</translation>
+    </message>
+    <message>
+        <source>Share of missing samples among all that the device sent</source>
+        <translation>丢失的采样占设备发送总数的比例</translation>
+    </message>
+    <message>
+        <source>Largest gap</source>
+        <translation>最长间隔</translation>
+    </message>
+    <message>
+        <source>Longest time between two samples with others missing between them, by the device&apos;s clock</source>
+        <translation>中间有采样丢失的两个采样之间的最长时间（按设备时钟）</translation>
+    </message>
+    <message>
+        <source>Last gap</source>
+        <translation>最近的间隔</translation>
+    </message>
+    <message>
+        <source>The computer&apos;s clock at the end of the last gap</source>
+        <translation>最近一次间隔结束时的计算机时间</translation>
+    </message>
+    <message>
+        <source>Clock jumps</source>
+        <translation>时钟跳变</translation>
+    </message>
+    <message>
+        <source>The device restarted or its time was set; what was lost meanwhile cannot be told</source>
+        <translation>设备重启或时间被重设；期间丢失的数量无法得知</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>记录</translation>
+    </message>
+    <message>
+        <source>Records dropped</source>
+        <translation>已丢弃的记录</translation>
+    </message>
+    <message>
+        <source>The disk was too slow for them</source>
+        <translation>磁盘速度过慢</translation>
+    </message>
+    <message>
+        <source>Records not written</source>
+        <translation>未写入的记录</translation>
+    </message>
+    <message>
+        <source>The file could not be written</source>
+        <translation>文件无法写入</translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>节点</translation>
+    </message>
+    <message>
+        <source>Figures of each node</source>
+        <translation>各节点的数值</translation>
+    </message>
+    <message>
+        <source>Nothing has been connected yet. Open a serial port to see how completely its data arrive.</source>
+        <translation>尚未连接。打开串口后可查看数据接收的完整程度。</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>关闭(&amp;L)</translation>
+    </message>
+    <message>
+        <source>checksum</source>
+        <translation>校验</translation>
+    </message>
+    <message>
+        <source>over-long length</source>
+        <translation>长度超限</translation>
+    </message>
+    <message>
+        <source>unknown packet type</source>
+        <translation>未知包类型</translation>
+    </message>
+    <message>
+        <source>noise</source>
+        <translation>噪声</translation>
+    </message>
+    <message>
+        <source>Copy all figures to the clipboard</source>
+        <translation>将全部数值复制到剪贴板</translation>
+    </message>
+    <message>
+        <source>There is nothing to copy yet</source>
+        <translation>尚无可复制的内容</translation>
+    </message>
+    <message>
+        <source>Connected: %1, %2 baud</source>
+        <translation>已连接：%1，波特率 %2</translation>
+    </message>
+    <message>
+        <source>Closed: %1, %2 baud. Figures of the last connection.</source>
+        <translation>已关闭：%1，波特率 %2。显示上次连接的数值。</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>丢失</translation>
     </message>
 </context>
 <context>

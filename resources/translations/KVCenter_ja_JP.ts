@@ -1522,6 +1522,18 @@ Pa</translation>
         <source>Attitude of the selected node in three dimensions</source>
         <translation>選択したノードの姿勢を 3D で表示します</translation>
     </message>
+    <message>
+        <source>&amp;Link health</source>
+        <translation>通信品質(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Ctrl+L</source>
+        <translation>Ctrl+L</translation>
+    </message>
+    <message>
+        <source>How completely the data arrive: errors, gaps, losses (%1)</source>
+        <translation>データの受信状況（エラー、途切れ、欠落）を表示します (%1)</translation>
+    </message>
 </context>
 <context>
     <name>form_com_select</name>
@@ -1699,6 +1711,237 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>Hover to inspect frequency and amplitude. Mouse wheel zooms Y, Ctrl + wheel zooms X, left drag pans, and right or middle double-click resets the view.</source>
         <translation>マウスポインターを合わせると周波数と振幅を確認できます。ホイールで Y 軸、Ctrl + ホイールで X 軸を拡大・縮小し、左ドラッグで移動、右または中ボタンのダブルクリックで表示範囲をリセットします。</translation>
+    </message>
+</context>
+<context>
+    <name>form_link_health</name>
+    <message>
+        <source>Link health</source>
+        <translation>通信品質</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>回線</translation>
+    </message>
+    <message>
+        <source>Bytes received</source>
+        <translation>受信バイト数</translation>
+    </message>
+    <message>
+        <source>All bytes of this connection</source>
+        <translation>この接続で受信した全バイト</translation>
+    </message>
+    <message>
+        <source>Data packets</source>
+        <translation>データパケット</translation>
+    </message>
+    <message>
+        <source>Packets whose checksum fits; their samples are shown and recorded</source>
+        <translation>チェックサムが正しいパケット。そのサンプルは表示・記録されます</translation>
+    </message>
+    <message>
+        <source>Bootloader packets</source>
+        <translation>ブートローダーのパケット</translation>
+    </message>
+    <message>
+        <source>Answers of the bootloader during a firmware update</source>
+        <translation>ファームウェア更新中のブートローダーの応答</translation>
+    </message>
+    <message>
+        <source>Checksum errors</source>
+        <translation>チェックサムエラー</translation>
+    </message>
+    <message>
+        <source>Packets that were damaged on the line and rejected</source>
+        <translation>回線上で壊れて破棄されたパケット</translation>
+    </message>
+    <message>
+        <source>Over-long lengths</source>
+        <translation>長さの超過</translation>
+    </message>
+    <message>
+        <source>Headers that claim more bytes than a packet can have</source>
+        <translation>パケットの上限を超える長さを示すヘッダー</translation>
+    </message>
+    <message>
+        <source>Unknown packet types</source>
+        <translation>不明なパケット種別</translation>
+    </message>
+    <message>
+        <source>Start bytes that no known packet type follows</source>
+        <translation>既知のパケット種別が続かない開始バイト</translation>
+    </message>
+    <message>
+        <source>Bytes outside packets</source>
+        <translation>パケット外のバイト</translation>
+    </message>
+    <message>
+        <source>Text that the device answers to commands, and what is left of damaged packets</source>
+        <translation>コマンドへのデバイスの応答テキストと、壊れたパケットの残り</translation>
+    </message>
+    <message>
+        <source>of these, noise</source>
+        <translation>うちノイズ</translation>
+    </message>
+    <message>
+        <source>Bytes outside packets that cannot be text</source>
+        <translation>パケット外のバイトのうちテキストではないもの</translation>
+    </message>
+    <message>
+        <source>Bytes before the first packet</source>
+        <translation>最初のパケットより前のバイト</translation>
+    </message>
+    <message>
+        <source>A port is mostly opened in the middle of a packet: no sign of a fault</source>
+        <translation>ポートは通常パケットの途中で開かれるため、異常ではありません</translation>
+    </message>
+    <message>
+        <source>Last error</source>
+        <translation>最後のエラー</translation>
+    </message>
+    <message>
+        <source>What was damaged last on the line</source>
+        <translation>回線上で最後に起きた異常の種類</translation>
+    </message>
+    <message>
+        <source>Time of the last error</source>
+        <translation>最後のエラーの時刻</translation>
+    </message>
+    <message>
+        <source>The computer&apos;s clock</source>
+        <translation>コンピューターの時刻</translation>
+    </message>
+    <message>
+        <source>Stream</source>
+        <translation>ストリーム</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>サンプル</translation>
+    </message>
+    <message>
+        <source>Samples of all nodes</source>
+        <translation>全ノードのサンプル</translation>
+    </message>
+    <message>
+        <source>Missing samples</source>
+        <translation>欠落サンプル</translation>
+    </message>
+    <message>
+        <source>By the time stamps of the samples, for all nodes; a dash when they have none</source>
+        <translation>全ノードのサンプルのタイムスタンプから算出。タイムスタンプがない場合はダッシュ</translation>
+    </message>
+    <message>
+        <source>Lost</source>
+        <translation>欠落率</translation>
+    </message>
+    <message>
+        <source>Share of missing samples among all that the device sent</source>
+        <translation>デバイスが送信した全サンプルに占める欠落の割合</translation>
+    </message>
+    <message>
+        <source>Largest gap</source>
+        <translation>最大の途切れ</translation>
+    </message>
+    <message>
+        <source>Longest time between two samples with others missing between them, by the device&apos;s clock</source>
+        <translation>間に欠落のある 2 サンプル間の最長時間（デバイスの時計による）</translation>
+    </message>
+    <message>
+        <source>Last gap</source>
+        <translation>最後の途切れ</translation>
+    </message>
+    <message>
+        <source>The computer&apos;s clock at the end of the last gap</source>
+        <translation>最後の途切れが終わったときのコンピューターの時刻</translation>
+    </message>
+    <message>
+        <source>Clock jumps</source>
+        <translation>時計の飛び</translation>
+    </message>
+    <message>
+        <source>The device restarted or its time was set; what was lost meanwhile cannot be told</source>
+        <translation>デバイスの再起動または時刻の再設定。その間の欠落数は分かりません</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>記録</translation>
+    </message>
+    <message>
+        <source>Records dropped</source>
+        <translation>破棄したレコード</translation>
+    </message>
+    <message>
+        <source>The disk was too slow for them</source>
+        <translation>ディスクの書き込みが追いつきませんでした</translation>
+    </message>
+    <message>
+        <source>Records not written</source>
+        <translation>書き込めなかったレコード</translation>
+    </message>
+    <message>
+        <source>The file could not be written</source>
+        <translation>ファイルに書き込めませんでした</translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>ノード</translation>
+    </message>
+    <message>
+        <source>Figures of each node</source>
+        <translation>各ノードの値</translation>
+    </message>
+    <message>
+        <source>Nothing has been connected yet. Open a serial port to see how completely its data arrive.</source>
+        <translation>まだ何も接続されていません。シリアルポートを開くと、データの受信状況を確認できます。</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>閉じる(&amp;L)</translation>
+    </message>
+    <message>
+        <source>checksum</source>
+        <translation>チェックサム</translation>
+    </message>
+    <message>
+        <source>over-long length</source>
+        <translation>長さの超過</translation>
+    </message>
+    <message>
+        <source>unknown packet type</source>
+        <translation>不明なパケット種別</translation>
+    </message>
+    <message>
+        <source>noise</source>
+        <translation>ノイズ</translation>
+    </message>
+    <message>
+        <source>Copy all figures to the clipboard</source>
+        <translation>すべての値をクリップボードにコピーします</translation>
+    </message>
+    <message>
+        <source>There is nothing to copy yet</source>
+        <translation>コピーできる値がまだありません</translation>
+    </message>
+    <message>
+        <source>Connected: %1, %2 baud</source>
+        <translation>接続済み: %1、%2 baud</translation>
+    </message>
+    <message>
+        <source>Closed: %1, %2 baud. Figures of the last connection.</source>
+        <translation>切断済み: %1、%2 baud。前回の接続の値です。</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>欠落</translation>
     </message>
 </context>
 <context>

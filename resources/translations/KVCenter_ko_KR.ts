@@ -1522,6 +1522,18 @@ Pa</translation>
         <source>Attitude of the selected node in three dimensions</source>
         <translation>선택한 노드의 자세를 3D로 표시합니다</translation>
     </message>
+    <message>
+        <source>&amp;Link health</source>
+        <translation>통신 품질(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Ctrl+L</source>
+        <translation>Ctrl+L</translation>
+    </message>
+    <message>
+        <source>How completely the data arrive: errors, gaps, losses (%1)</source>
+        <translation>데이터 수신 상태(오류, 끊김, 누락)를 표시합니다 (%1)</translation>
+    </message>
 </context>
 <context>
     <name>form_com_select</name>
@@ -1699,6 +1711,237 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>Hover to inspect frequency and amplitude. Mouse wheel zooms Y, Ctrl + wheel zooms X, left drag pans, and right or middle double-click resets the view.</source>
         <translation>마우스 포인터를 올리면 주파수와 진폭을 확인할 수 있습니다. 휠로 Y축, Ctrl + 휠로 X축을 확대/축소하고, 왼쪽 버튼으로 끌어 이동하며, 오른쪽 또는 가운데 버튼을 두 번 클릭하면 보기가 초기화됩니다.</translation>
+    </message>
+</context>
+<context>
+    <name>form_link_health</name>
+    <message>
+        <source>Link health</source>
+        <translation>통신 품질</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>회선</translation>
+    </message>
+    <message>
+        <source>Bytes received</source>
+        <translation>수신 바이트</translation>
+    </message>
+    <message>
+        <source>All bytes of this connection</source>
+        <translation>이번 연결에서 수신한 모든 바이트</translation>
+    </message>
+    <message>
+        <source>Data packets</source>
+        <translation>데이터 패킷</translation>
+    </message>
+    <message>
+        <source>Packets whose checksum fits; their samples are shown and recorded</source>
+        <translation>체크섬이 맞는 패킷이며 그 샘플이 표시되고 기록됩니다</translation>
+    </message>
+    <message>
+        <source>Bootloader packets</source>
+        <translation>부트로더 패킷</translation>
+    </message>
+    <message>
+        <source>Answers of the bootloader during a firmware update</source>
+        <translation>펌웨어 업데이트 중 부트로더의 응답</translation>
+    </message>
+    <message>
+        <source>Checksum errors</source>
+        <translation>체크섬 오류</translation>
+    </message>
+    <message>
+        <source>Packets that were damaged on the line and rejected</source>
+        <translation>회선에서 손상되어 거부된 패킷</translation>
+    </message>
+    <message>
+        <source>Over-long lengths</source>
+        <translation>길이 초과</translation>
+    </message>
+    <message>
+        <source>Headers that claim more bytes than a packet can have</source>
+        <translation>패킷 한도보다 많은 바이트를 나타내는 헤더</translation>
+    </message>
+    <message>
+        <source>Unknown packet types</source>
+        <translation>알 수 없는 패킷 유형</translation>
+    </message>
+    <message>
+        <source>Start bytes that no known packet type follows</source>
+        <translation>알려진 패킷 유형이 뒤따르지 않는 시작 바이트</translation>
+    </message>
+    <message>
+        <source>Bytes outside packets</source>
+        <translation>패킷 밖의 바이트</translation>
+    </message>
+    <message>
+        <source>Text that the device answers to commands, and what is left of damaged packets</source>
+        <translation>명령에 대한 장치의 텍스트 응답과 손상된 패킷의 나머지</translation>
+    </message>
+    <message>
+        <source>of these, noise</source>
+        <translation>그중 노이즈</translation>
+    </message>
+    <message>
+        <source>Bytes outside packets that cannot be text</source>
+        <translation>패킷 밖의 바이트 중 텍스트일 수 없는 것</translation>
+    </message>
+    <message>
+        <source>Bytes before the first packet</source>
+        <translation>첫 패킷 앞의 바이트</translation>
+    </message>
+    <message>
+        <source>A port is mostly opened in the middle of a packet: no sign of a fault</source>
+        <translation>포트는 대개 패킷 중간에 열리므로 이상이 아닙니다</translation>
+    </message>
+    <message>
+        <source>Last error</source>
+        <translation>마지막 오류</translation>
+    </message>
+    <message>
+        <source>What was damaged last on the line</source>
+        <translation>회선에서 마지막으로 일어난 손상의 종류</translation>
+    </message>
+    <message>
+        <source>Time of the last error</source>
+        <translation>마지막 오류 시각</translation>
+    </message>
+    <message>
+        <source>The computer&apos;s clock</source>
+        <translation>컴퓨터 시각</translation>
+    </message>
+    <message>
+        <source>Stream</source>
+        <translation>스트림</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>샘플</translation>
+    </message>
+    <message>
+        <source>Samples of all nodes</source>
+        <translation>모든 노드의 샘플</translation>
+    </message>
+    <message>
+        <source>Missing samples</source>
+        <translation>누락된 샘플</translation>
+    </message>
+    <message>
+        <source>By the time stamps of the samples, for all nodes; a dash when they have none</source>
+        <translation>모든 노드 샘플의 타임스탬프 기준이며 타임스탬프가 없으면 줄표로 표시합니다</translation>
+    </message>
+    <message>
+        <source>Lost</source>
+        <translation>누락률</translation>
+    </message>
+    <message>
+        <source>Share of missing samples among all that the device sent</source>
+        <translation>장치가 보낸 전체 샘플 중 누락된 비율</translation>
+    </message>
+    <message>
+        <source>Largest gap</source>
+        <translation>최대 끊김</translation>
+    </message>
+    <message>
+        <source>Longest time between two samples with others missing between them, by the device&apos;s clock</source>
+        <translation>사이에 누락이 있는 두 샘플 간의 최장 시간(장치 시계 기준)</translation>
+    </message>
+    <message>
+        <source>Last gap</source>
+        <translation>마지막 끊김</translation>
+    </message>
+    <message>
+        <source>The computer&apos;s clock at the end of the last gap</source>
+        <translation>마지막 끊김이 끝난 컴퓨터 시각</translation>
+    </message>
+    <message>
+        <source>Clock jumps</source>
+        <translation>시계 점프</translation>
+    </message>
+    <message>
+        <source>The device restarted or its time was set; what was lost meanwhile cannot be told</source>
+        <translation>장치가 다시 시작되었거나 시간이 설정되었으며, 그동안의 누락 수는 알 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>기록</translation>
+    </message>
+    <message>
+        <source>Records dropped</source>
+        <translation>버려진 레코드</translation>
+    </message>
+    <message>
+        <source>The disk was too slow for them</source>
+        <translation>디스크 쓰기 속도가 너무 느렸습니다</translation>
+    </message>
+    <message>
+        <source>Records not written</source>
+        <translation>쓰지 못한 레코드</translation>
+    </message>
+    <message>
+        <source>The file could not be written</source>
+        <translation>파일에 쓸 수 없었습니다</translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>노드</translation>
+    </message>
+    <message>
+        <source>Figures of each node</source>
+        <translation>노드별 수치</translation>
+    </message>
+    <message>
+        <source>Nothing has been connected yet. Open a serial port to see how completely its data arrive.</source>
+        <translation>아직 연결된 장치가 없습니다. 시리얼 포트를 열면 데이터 수신 상태를 볼 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>복사(&amp;C)</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>닫기(&amp;L)</translation>
+    </message>
+    <message>
+        <source>checksum</source>
+        <translation>체크섬</translation>
+    </message>
+    <message>
+        <source>over-long length</source>
+        <translation>길이 초과</translation>
+    </message>
+    <message>
+        <source>unknown packet type</source>
+        <translation>알 수 없는 패킷 유형</translation>
+    </message>
+    <message>
+        <source>noise</source>
+        <translation>노이즈</translation>
+    </message>
+    <message>
+        <source>Copy all figures to the clipboard</source>
+        <translation>모든 수치를 클립보드에 복사합니다</translation>
+    </message>
+    <message>
+        <source>There is nothing to copy yet</source>
+        <translation>아직 복사할 내용이 없습니다</translation>
+    </message>
+    <message>
+        <source>Connected: %1, %2 baud</source>
+        <translation>연결됨: %1, %2 baud</translation>
+    </message>
+    <message>
+        <source>Closed: %1, %2 baud. Figures of the last connection.</source>
+        <translation>닫힘: %1, %2 baud. 지난 연결의 수치입니다.</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>누락</translation>
     </message>
 </context>
 <context>

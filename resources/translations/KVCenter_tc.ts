@@ -1522,6 +1522,18 @@ Pa</translation>
         <source>Attitude of the selected node in three dimensions</source>
         <translation>所選節點的 3D 姿態</translation>
     </message>
+    <message>
+        <source>&amp;Link health</source>
+        <translation>連線品質(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Ctrl+L</source>
+        <translation>Ctrl+L</translation>
+    </message>
+    <message>
+        <source>How completely the data arrive: errors, gaps, losses (%1)</source>
+        <translation>資料接收的完整程度：錯誤、間隔、遺失 (%1)</translation>
+    </message>
 </context>
 <context>
     <name>form_com_select</name>
@@ -1699,6 +1711,237 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>Hover to inspect frequency and amplitude. Mouse wheel zooms Y, Ctrl + wheel zooms X, left drag pans, and right or middle double-click resets the view.</source>
         <translation>將滑鼠移到圖上可檢視頻率與振幅。滾輪縮放 Y 軸，Ctrl + 滾輪縮放 X 軸，按住左鍵拖曳可平移，按兩下右鍵或中鍵可重設檢視。</translation>
+    </message>
+</context>
+<context>
+    <name>form_link_health</name>
+    <message>
+        <source>Link health</source>
+        <translation>連線品質</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>線路</translation>
+    </message>
+    <message>
+        <source>Bytes received</source>
+        <translation>已接收位元組</translation>
+    </message>
+    <message>
+        <source>All bytes of this connection</source>
+        <translation>本次連線接收的所有位元組</translation>
+    </message>
+    <message>
+        <source>Data packets</source>
+        <translation>資料封包</translation>
+    </message>
+    <message>
+        <source>Packets whose checksum fits; their samples are shown and recorded</source>
+        <translation>檢查碼正確的封包；其取樣會顯示並記錄</translation>
+    </message>
+    <message>
+        <source>Bootloader packets</source>
+        <translation>啟動載入程式封包</translation>
+    </message>
+    <message>
+        <source>Answers of the bootloader during a firmware update</source>
+        <translation>韌體更新期間啟動載入程式的回應</translation>
+    </message>
+    <message>
+        <source>Checksum errors</source>
+        <translation>檢查碼錯誤</translation>
+    </message>
+    <message>
+        <source>Packets that were damaged on the line and rejected</source>
+        <translation>在線路上損壞而被拒絕的封包</translation>
+    </message>
+    <message>
+        <source>Over-long lengths</source>
+        <translation>長度超限</translation>
+    </message>
+    <message>
+        <source>Headers that claim more bytes than a packet can have</source>
+        <translation>宣告的位元組數超過封包上限的標頭</translation>
+    </message>
+    <message>
+        <source>Unknown packet types</source>
+        <translation>未知封包類型</translation>
+    </message>
+    <message>
+        <source>Start bytes that no known packet type follows</source>
+        <translation>其後不是已知封包類型的起始位元組</translation>
+    </message>
+    <message>
+        <source>Bytes outside packets</source>
+        <translation>封包以外的位元組</translation>
+    </message>
+    <message>
+        <source>Text that the device answers to commands, and what is left of damaged packets</source>
+        <translation>裝置回應命令的文字，以及損壞封包的剩餘部分</translation>
+    </message>
+    <message>
+        <source>of these, noise</source>
+        <translation>其中的雜訊</translation>
+    </message>
+    <message>
+        <source>Bytes outside packets that cannot be text</source>
+        <translation>封包以外且不可能是文字的位元組</translation>
+    </message>
+    <message>
+        <source>Bytes before the first packet</source>
+        <translation>第一個封包之前的位元組</translation>
+    </message>
+    <message>
+        <source>A port is mostly opened in the middle of a packet: no sign of a fault</source>
+        <translation>開啟序列埠時通常正處於封包中間，並非故障</translation>
+    </message>
+    <message>
+        <source>Last error</source>
+        <translation>最近的錯誤</translation>
+    </message>
+    <message>
+        <source>What was damaged last on the line</source>
+        <translation>線路上最近一次損壞的類型</translation>
+    </message>
+    <message>
+        <source>Time of the last error</source>
+        <translation>最近錯誤的時間</translation>
+    </message>
+    <message>
+        <source>The computer&apos;s clock</source>
+        <translation>電腦時間</translation>
+    </message>
+    <message>
+        <source>Stream</source>
+        <translation>資料流</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>取樣</translation>
+    </message>
+    <message>
+        <source>Samples of all nodes</source>
+        <translation>所有節點的取樣</translation>
+    </message>
+    <message>
+        <source>Missing samples</source>
+        <translation>遺失的取樣</translation>
+    </message>
+    <message>
+        <source>By the time stamps of the samples, for all nodes; a dash when they have none</source>
+        <translation>依據取樣的時間戳記，統計所有節點；沒有時間戳記時顯示短橫線</translation>
+    </message>
+    <message>
+        <source>Lost</source>
+        <translation>遺失率</translation>
+    </message>
+    <message>
+        <source>Share of missing samples among all that the device sent</source>
+        <translation>遺失的取樣占裝置傳送總數的比例</translation>
+    </message>
+    <message>
+        <source>Largest gap</source>
+        <translation>最長間隔</translation>
+    </message>
+    <message>
+        <source>Longest time between two samples with others missing between them, by the device&apos;s clock</source>
+        <translation>中間有取樣遺失的兩個取樣之間的最長時間（依裝置時鐘）</translation>
+    </message>
+    <message>
+        <source>Last gap</source>
+        <translation>最近的間隔</translation>
+    </message>
+    <message>
+        <source>The computer&apos;s clock at the end of the last gap</source>
+        <translation>最近一次間隔結束時的電腦時間</translation>
+    </message>
+    <message>
+        <source>Clock jumps</source>
+        <translation>時鐘跳變</translation>
+    </message>
+    <message>
+        <source>The device restarted or its time was set; what was lost meanwhile cannot be told</source>
+        <translation>裝置重新啟動或時間被重設；期間遺失的數量無法得知</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>記錄</translation>
+    </message>
+    <message>
+        <source>Records dropped</source>
+        <translation>已捨棄的記錄</translation>
+    </message>
+    <message>
+        <source>The disk was too slow for them</source>
+        <translation>磁碟速度過慢</translation>
+    </message>
+    <message>
+        <source>Records not written</source>
+        <translation>未寫入的記錄</translation>
+    </message>
+    <message>
+        <source>The file could not be written</source>
+        <translation>檔案無法寫入</translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>節點</translation>
+    </message>
+    <message>
+        <source>Figures of each node</source>
+        <translation>各節點的數值</translation>
+    </message>
+    <message>
+        <source>Nothing has been connected yet. Open a serial port to see how completely its data arrive.</source>
+        <translation>尚未連線。開啟序列埠後可檢視資料接收的完整程度。</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>複製(&amp;C)</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>關閉(&amp;L)</translation>
+    </message>
+    <message>
+        <source>checksum</source>
+        <translation>檢查碼</translation>
+    </message>
+    <message>
+        <source>over-long length</source>
+        <translation>長度超限</translation>
+    </message>
+    <message>
+        <source>unknown packet type</source>
+        <translation>未知封包類型</translation>
+    </message>
+    <message>
+        <source>noise</source>
+        <translation>雜訊</translation>
+    </message>
+    <message>
+        <source>Copy all figures to the clipboard</source>
+        <translation>將所有數值複製到剪貼簿</translation>
+    </message>
+    <message>
+        <source>There is nothing to copy yet</source>
+        <translation>尚無可複製的內容</translation>
+    </message>
+    <message>
+        <source>Connected: %1, %2 baud</source>
+        <translation>已連線：%1，鮑率 %2</translation>
+    </message>
+    <message>
+        <source>Closed: %1, %2 baud. Figures of the last connection.</source>
+        <translation>已關閉：%1，鮑率 %2。顯示上次連線的數值。</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>遺失</translation>
     </message>
 </context>
 <context>

@@ -22,6 +22,7 @@ inline constexpr QColor kLine{0xE5, 0xE7, 0xEB};
 inline constexpr QColor kText{0x11, 0x18, 0x27};
 inline constexpr QColor kTextSecondary{0x4B, 0x55, 0x63};
 inline constexpr QColor kTextDisabled{0x9C, 0xA3, 0xAF};
+inline constexpr QColor kWarning{0xB4, 0x53, 0x09};
 inline constexpr QColor kAccent{0x25, 0x63, 0xEB};
 
 /// Distance unit in device-independent pixels.

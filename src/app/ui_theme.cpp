@@ -77,7 +77,7 @@ QColor UiTheme::accentSoft() const
 
 QColor UiTheme::warning() const
 {
-    return {0xB4, 0x53, 0x09};
+    return theme::kWarning;
 }
 
 int UiTheme::grid() const

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "link/clock_step.h"
 
@@ -22,7 +23,7 @@ SampleGaps::Step SampleGaps::add(quint32 stampMs, qint64 hostMs)
         const quint32 ms = forwardMs(stampMs, hostMs, step.jumped);
         if (ms > 0) {
             const Pace known = pace(); // before the step itself is part of it
-            if (m_stepCount >= kKnownSteps && ms > known.gapMs) {
+            if (ms > known.gapMs) {
                 step.missing = quint64(std::max(std::lround(ms / known.periodMs) - 1, 0L));
                 step.gapMs = step.missing > 0 ? ms : 0;
             }
@@ -80,8 +81,9 @@ SampleGaps::Pace SampleGaps::pace() const
     std::nth_element(sorted.begin(), middle, sorted.begin() + count);
     double limit = kGap * *middle;
     // At periods between one and two milliseconds, steps of both come in turn.
-    const auto rounded = std::count(sorted.begin(), sorted.begin() + count, *middle + 1);
-    if (rounded * kRoundedShare >= count)
+    const auto longer = std::count(sorted.begin(), sorted.begin() + count, *middle + 1);
+    const bool isRounded = longer * kRoundedShare >= count;
+    if (isRounded)
         limit = std::max(limit, double(*middle + 1));
     double sum = 0;
     int used = 0;
@@ -92,5 +94,7 @@ SampleGaps::Pace SampleGaps::pace() const
         }
     }
     const double period = sum / used;
-    return {period, std::max(kGap * period, rounded * kRoundedShare >= count ? limit : 0)};
+    if (count < (*middle > 1 ? kKnownSteps : kSteps))
+        return {period, std::numeric_limits<double>::infinity()};
+    return {period, std::max(kGap * period, isRounded ? limit : 0)};
 }

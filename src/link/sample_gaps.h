@@ -3,6 +3,7 @@
 #include <QtGlobal>
 
 #include <array>
+#include <limits>
 
 /// Tells from the time stamps of one source which of its samples are missing, without knowing its rate: the period is
 /// learned from the newest steps, in a way that gaps among them do not lengthen it. A step of one and a half periods or
@@ -42,7 +43,7 @@ private:
     struct Pace
     {
         double periodMs = 0;
-        double gapMs = 0; ///< a longer step is a gap
+        double gapMs = std::numeric_limits<double>::infinity(); ///< a longer step is a gap
     };
 
     quint32 forwardMs(quint32 stampMs, qint64 hostMs, bool &jumped) const;

@@ -23,11 +23,13 @@
 #include "link/imu_parser.h"
 #include "link/kv_uart_port.h"
 #include "link/stream_dispatcher.h"
+#include "ui/action_label.h"
 #include "ui/app_version.h"
 #include "ui/form_about.h"
 #include "ui/form_com_select.h"
 #include "ui/form_record.h"
 #include "ui/form_settings.h"
+#include "ui/link_monitor.h"
 #include "ui/sensor_data_panel.h"
 #include "ui/value_strip.h"
 #include "ui_form_base.h"
@@ -85,6 +87,7 @@ form_base::form_base(QWidget *parent) : QMainWindow(parent), m_ui(std::make_uniq
 
     m_port = std::make_unique<KvUartPort>();
     m_recordDialog = new form_record(this);
+    m_linkMonitor = new LinkMonitor(m_port.get(), m_recordDialog, this);
     m_settingsDialog = new form_settings(this);
     setUpActions();
 
@@ -147,7 +150,7 @@ void form_base::setUpPanels()
     m_statusLabel->setTextFormat(Qt::PlainText);
     m_nodeLabel = new QLabel(this);
     m_nodeLabel->setObjectName(QStringLiteral("label_node"));
-    m_trafficLabel = new QLabel(this);
+    m_trafficLabel = new ActionLabel(m_ui->action_link_health, this);
     m_trafficLabel->setObjectName(QStringLiteral("label_traffic"));
     m_ui->statusbar->addWidget(m_statusLabel, 1);
     m_recordButton = new QToolButton(this);
@@ -185,6 +188,7 @@ void form_base::setUpActions()
     m_ui->toolbar->addActions({m_ui->actionDevice_Settiing, m_ui->action_firmware_update});
 
     connect(m_ui->action_copy_values, &QAction::triggered, this, &form_base::copyValues);
+    connect(m_ui->action_link_health, &QAction::triggered, this, &form_base::showLinkHealth);
     connect(m_ui->action_quit, &QAction::triggered, this, &form_base::close);
     connect(m_ui->button_open, &QPushButton::clicked, m_ui->action_serial_open, &QAction::trigger);
     connect(dashboard, &QAction::triggered, this, &form_base::on_action_sensor_dashboard_triggered);
@@ -298,6 +302,9 @@ void form_base::retranslate()
     m_ui->action_export_data->setToolTip(
         tr("Record the stream to CSV files (%1)")
             .arg(m_ui->action_export_data->shortcut().toString(QKeySequence::NativeText)));
+    m_ui->action_link_health->setToolTip(
+        tr("How completely the data arrive: errors, gaps, losses (%1)")
+            .arg(m_ui->action_link_health->shortcut().toString(QKeySequence::NativeText)));
     m_ui->action_firmware_update->setToolTip(tr("Load new firmware into the device"));
     findChild<QToolButton *>(QStringLiteral("button_language"))->setToolTip(tr("Language of the interface"));
     findChild<QMenu *>(QStringLiteral("menu_language"))->setTitle(tr("Language"));

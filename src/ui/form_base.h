@@ -19,6 +19,7 @@
 class CommandBroker;
 class ImuParser;
 class KvUartPort;
+class LinkMonitor;
 class QLabel;
 class QMessageBox;
 class QScrollArea;
@@ -30,6 +31,7 @@ class ValueStrip;
 class form_about;
 class form_com_select;
 class form_fftchart;
+class form_link_health;
 class form_record;
 class form_sensor_dashboard;
 class form_settings;
@@ -131,6 +133,7 @@ private:
     /// A node that joins or leaves shifts the places of the others: stays with the node that the user picked.
     void followChosenNode(const QList<node_data_t> &nodes);
     void run_uart_UItmr();
+    void showLinkHealth();
     void update_status_bar_text(const StreamSnapshot &snapshot);
     void updateConnectionPanel(const StreamSnapshot &snapshot);
     void update_wireless_node_list(const QList<node_data_t> &nodes);
@@ -158,6 +161,8 @@ private:
     form_updater *m_updater = nullptr;   ///< created when first asked for
     form_record *m_recordDialog = nullptr;
     QToolButton *m_recordButton = nullptr;
+    LinkMonitor *m_linkMonitor = nullptr;
+    form_link_health *m_linkHealth = nullptr;                     ///< created when first asked for
     std::unique_ptr<form_threed> m_threed;                        ///< created when first asked for
     std::unique_ptr<form_fftchart> m_spectrum;                    ///< created when first asked for
     std::unique_ptr<form_sensor_dashboard> m_sensorDashboard;     ///< created when first asked for

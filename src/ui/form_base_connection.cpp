@@ -22,6 +22,7 @@
 #include "ui/form_com_select.h"
 #include "ui/form_record.h"
 #include "ui/form_settings.h"
+#include "ui/link_monitor.h"
 #include "ui/sensor_data_panel.h"
 #include "ui/serial_error_text.h"
 #include "ui/status_text.h"
@@ -79,6 +80,7 @@ void form_base::open_port()
     m_dispatcher->setLinkConnected(true);
     m_settingsDialog->set_connected(true);
     m_recordDialog->setLinkOpen(true);
+    m_linkMonitor->open(portName, baudRate);
     if (m_updater != nullptr)
         m_updater->set_connection_open(true);
     forgetChartHistory();
@@ -121,6 +123,7 @@ void form_base::closeConnection()
     if (m_updater != nullptr)
         m_updater->set_connection_open(false);
     m_recordDialog->setLinkOpen(false); // ends a recording: flushed and closed
+    m_linkMonitor->close();
     if (m_wirelessDashboard)
         m_wirelessDashboard->clear();
     clearDetectedDevice();

@@ -16,6 +16,7 @@
 #include "link/stream_dispatcher.h"
 #include "ui/device_text.h"
 #include "ui/form_com_select.h"
+#include "ui/link_monitor.h"
 #include "ui/sensor_data_panel.h"
 #include "ui/status_text.h"
 #include "ui/value_strip.h"
@@ -46,7 +47,9 @@ void form_base::onKbootFrameRecv(const QByteArray &payload)
         return;
     m_lastFrameMs = m_clock.elapsed();
     m_dispatcher->setMeasuredFrameRate(m_port->statistics().framesLastSecond);
-    m_dispatcher->publishFrame(m_parser->parseFrame(payload));
+    const DecodedFrame frame = m_parser->parseFrame(payload);
+    m_linkMonitor->addFrame(frame);
+    m_dispatcher->publishFrame(frame);
 }
 
 void form_base::onSelectedNodeChanged(const node_data_t &node)

@@ -15,6 +15,7 @@
 #include "fft/form_fftchart.h"
 #include "link/sample_fields.h"
 #include "link/stream_dispatcher.h"
+#include "ui/form_link_health.h"
 #include "ui/form_record.h"
 #include "ui_form_base.h"
 #include "updater/form_updater.h"
@@ -49,6 +50,13 @@ void form_base::on_action_firmware_update_triggered()
         connect(m_updater, &form_updater::bootloaderConnectedChanged, this, &form_base::onBootloaderChanged);
     }
     bringUp(m_updater);
+}
+
+void form_base::showLinkHealth()
+{
+    if (m_linkHealth == nullptr)
+        m_linkHealth = new form_link_health(m_linkMonitor, this);
+    bringUp(m_linkHealth);
 }
 
 void form_base::on_actionFFT_Chart_triggered()

@@ -69,8 +69,13 @@ void form_record::setLinkOpen(bool open)
         return;
     m_linkOpen = open;
     m_endedByLink = !open && m_isRecording;
-    if (!open)
+    if (open) {
+        m_runIsOfLastLink = true;
+        m_droppedInEarlier = 0;
+        m_lostInEarlier = 0;
+    } else {
         stopRecording();
+    }
     updateState();
 }
 
@@ -103,7 +108,10 @@ bool form_record::startRecording()
     if (settings.status() != QSettings::NoError)
         AppLog::logfile(QtWarningMsg, QStringLiteral("failed to store the recording folder."));
 
+    m_droppedInEarlier = droppedRecords();
+    m_lostInEarlier = lostRecords();
     m_run = std::move(run);
+    m_runIsOfLastLink = false;
     connect(&m_run->writer(), &CsvWriter::queueOverflow, this, &form_record::updateTrouble);
     connect(m_run.get(), &RecordingRun::ended, this, &form_record::finishStop);
     m_folderCreated = isMissing;
@@ -164,6 +172,16 @@ unsigned int form_record::recordCount() const
     const unsigned int lost = m_run->writer().lostRecords();
     const unsigned int count = m_run->writer().getFrameCtr();
     return count > lost ? count - lost : 0;
+}
+
+unsigned int form_record::droppedRecords() const
+{
+    return m_droppedInEarlier + (countsRun() ? m_run->writer().droppedRecords() : 0);
+}
+
+unsigned int form_record::lostRecords() const
+{
+    return m_lostInEarlier + (countsRun() ? m_run->writer().lostRecords() : 0);
 }
 
 void form_record::imuPackage0x91(const node_data_t &node)

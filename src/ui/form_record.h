@@ -48,6 +48,10 @@ public:
     bool isRecording() const { return m_isRecording; }
     /// Records written in the running recording, or in the last one.
     unsigned int recordCount() const;
+    /// Records of this connection's recordings that found a full queue; see CsvWriter.
+    unsigned int droppedRecords() const;
+    /// Records of this connection's recordings that no file took.
+    unsigned int lostRecords() const;
     /// Length in milliseconds of the running recording, or of the last one.
     qint64 elapsedMs() const { return m_isRecording ? m_clock.elapsed() : m_elapsedMs; }
     /// Records of the running recording, or of the last one, were lost, or are about to be: the disk is too slow, full
@@ -93,6 +97,7 @@ private:
     };
     enum class Problem { None, FolderIsFile, CannotCreateFolder, CannotOpenFile, CannotShowFolder, StillWriting };
 
+    bool countsRun() const { return m_run && !m_runIsOfLastLink; }
     void tick();
     void finishStop();
     void measure();
@@ -123,6 +128,9 @@ private:
     bool m_isFinishing = false; ///< stopped, but the file is not closed yet
     bool m_linkOpen = false;
     bool m_endedByLink = false;
+    bool m_runIsOfLastLink = false;      ///< m_run was made in an earlier connection
+    unsigned int m_droppedInEarlier = 0; ///< in earlier recordings of this connection
+    unsigned int m_lostInEarlier = 0;
     bool m_folderCreated = false;
     Trouble m_trouble;
     Problem m_problem = Problem::None; ///< of what the user asked for last

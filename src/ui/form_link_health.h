@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QDialog>
+#include <QTimer>
+
+#include <memory>
+
+#include "ui/link_monitor.h"
+
+class QLabel;
+
+namespace Ui {
+class form_link_health;
+}
+
+/// Shows how well the connection carries its data: what the line damaged, what is missing in the stream, in total and
+/// for each node of a gateway, and what a recording could not keep. Without a connection it shows the last one's
+/// figures, or says that there is none. Asks the monitor twice a second while it is visible. Remembers its place. Main
+/// thread only.
+class form_link_health : public QDialog
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(form_link_health)
+
+public:
+    /// `monitor` outlives this window.
+    explicit form_link_health(const LinkMonitor *monitor, QWidget *parent = nullptr);
+    ~form_link_health() override;
+
+    /// What is shown, as lines of caption and figure with a tab between them, then the table.
+    QString text() const;
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void refresh();
+    void showLine(const LinkReport &report);
+    void showSamples(const LinkReport &report);
+    void showNodes(const LinkReport &report);
+    void nameColumns();
+
+    std::unique_ptr<Ui::form_link_health> m_ui;
+    const LinkMonitor *m_monitor;
+    QTimer m_timer;
+};

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QTimer>
+
+#include "link/link_health.h"
+#include "link/stream_health.h"
+
+class KvUartPort;
+class form_record;
+
+/// How well a connection carries its data, from the port to the file. A plain value.
+struct LinkReport
+{
+    bool wasOpened = false; ///< there is, or was, a connection
+    bool isOpen = false;
+    QString portName;
+    int baudRate = 0;
+    LinkHealth link;
+    NodeHealth samples;              ///< of all nodes together
+    QList<quint8> nodeIds;           ///< of a gateway's nodes, ascending; empty for a module
+    QList<NodeHealth> nodes;         ///< in the order of nodeIds
+    unsigned int droppedRecords = 0; ///< of the connection's recordings: the disk was too slow
+    unsigned int lostRecords = 0;    ///< of the connection's recordings: no file took them
+};
+
+/// Watches one connection at a time: counts what its samples' clocks tell, brings together what the port and the
+/// recorder have counted, and writes that to the log once a minute and at the end, when it has changed. The figures of
+/// a closed connection stay until the next one is opened. Main thread only.
+class LinkMonitor : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(LinkMonitor)
+
+public:
+    /// `port` and `recorder` live as long as this object is used.
+    LinkMonitor(const KvUartPort *port, const form_record *recorder, QObject *parent = nullptr);
+
+    /// A connection begins: all figures begin anew.
+    void open(const QString &portName, int baudRate);
+    /// Takes a decoded frame of the connection.
+    void addFrame(const DecodedFrame &frame) { m_stream.addFrame(frame, m_clock.elapsed()); }
+    /// The connection has ended, its port is closed and its recording written.
+    void close();
+
+    LinkReport report() const;
+
+    /// The line for the log: "link health" and key=value pairs.
+    static QString logLine(const LinkReport &report);
+    /// Name of a kind of error for logs: "checksum", "over_long", "unknown_type", "noise", else "none".
+    static QLatin1String errorName(LinkError error);
+
+private:
+    void log();
+
+    const KvUartPort *m_port;
+    const form_record *m_recorder;
+    StreamHealth m_stream;
+    QElapsedTimer m_clock;
+    QTimer m_logTimer;
+    LinkReport m_connection; ///< what is known without asking
+    QString m_logged;
+};
