@@ -84,8 +84,8 @@ QAbstractSpinBox::down-arrow { image: url(:/images/chevron-down.png); width: 10p
 QTreeView, QListView, QTableView {
     background: #FFFFFF; border: 1px solid #E5E7EB; border-radius: 6px; outline: none;
     selection-background-color: #EFF6FF; selection-color: #1D4ED8; }
-QTreeView::item, QListView::item { padding: 4px 6px; border: 0; }
-QTreeView::item:selected, QListView::item:selected { background: #EFF6FF; color: #1D4ED8; }
+QTreeView::item, QListView::item, QTableView::item { padding: 4px 6px; border: 0; }
+QTreeView::item:selected, QListView::item:selected, QTableView::item:selected { background: #EFF6FF; color: #1D4ED8; }
 QHeaderView::section {
     background: #FFFFFF; color: #4B5563; border: none; border-bottom: 1px solid #E5E7EB; padding: 5px 8px; }
 

@@ -27,6 +27,7 @@
 #include "ui/app_version.h"
 #include "ui/form_about.h"
 #include "ui/form_com_select.h"
+#include "ui/form_link_health.h"
 #include "ui/form_record.h"
 #include "ui/form_settings.h"
 #include "ui/link_monitor.h"
@@ -350,7 +351,7 @@ void form_base::closeEvent(QCloseEvent *event)
     settingsFile().setValue(settings_keys::kGeometry, saveGeometry());
     for (QDialog *dialog : {static_cast<QDialog *>(m_portDialog), static_cast<QDialog *>(m_settingsDialog),
                             static_cast<QDialog *>(m_updater), static_cast<QDialog *>(m_recordDialog),
-                            static_cast<QDialog *>(m_aboutDialog)}) {
+                            static_cast<QDialog *>(m_aboutDialog), static_cast<QDialog *>(m_linkHealth)}) {
         if (dialog != nullptr)
             dialog->close();
     }

@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QScreen>
 #include <QSettings>
 #include <QStyle>
 
@@ -17,6 +18,7 @@
 namespace {
 
 constexpr int kRefreshMs = 500;
+constexpr int kFrameHeight = 48; ///< room for the window's frame
 
 enum Column { Id, Samples, Missing, Share, LargestGap, LastGap, Jumps, Columns };
 
@@ -24,6 +26,13 @@ QString timeText(qint64 epochMs)
 {
     return epochMs == 0 ? value_format::absent()
                         : QDateTime::fromMSecsSinceEpoch(epochMs).toString(u"yyyy-MM-dd hh:mm:ss");
+}
+
+/// The time, with its date when that is not today's.
+QString shortTimeText(qint64 epochMs)
+{
+    const QDateTime time = QDateTime::fromMSecsSinceEpoch(epochMs);
+    return epochMs != 0 && time.date() == QDate::currentDate() ? time.toString(u"hh:mm:ss") : timeText(epochMs);
 }
 
 QString gapText(const NodeHealth &health)
@@ -91,7 +100,7 @@ void put(QTableWidget *table, int row, int column, const QString &text, bool isD
     QTableWidgetItem *item = table->item(row, column);
     if (item == nullptr) {
         item = new QTableWidgetItem;
-        item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        item->setTextAlignment((column == Id ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
         table->setItem(row, column, item);
     }
     if (item->text() == text)
@@ -107,7 +116,8 @@ form_link_health::form_link_health(const LinkMonitor *monitor, QWidget *parent)
 {
     m_ui->setupUi(this);
     m_ui->TBL_nodes->setColumnCount(Columns);
-    m_ui->TBL_nodes->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    m_ui->TBL_nodes->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_ui->TBL_nodes->horizontalHeader()->setSectionResizeMode(Id, QHeaderView::Stretch);
     m_ui->TBL_nodes->horizontalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_ui->TBL_nodes->horizontalHeader()->setHighlightSections(false);
     nameColumns();
@@ -115,7 +125,8 @@ form_link_health::form_link_health(const LinkMonitor *monitor, QWidget *parent)
     connect(&m_timer, &QTimer::timeout, this, &form_link_health::refresh);
     connect(m_ui->BTN_copy, &QPushButton::clicked, this, [this] { QGuiApplication::clipboard()->setText(text()); });
     connect(m_ui->BTN_close, &QPushButton::clicked, this, &form_link_health::close);
-    restoreGeometry(
+    m_ui->CARD_nodes->hide(); // until there are some
+    m_hasPlace = restoreGeometry(
         QSettings(settings_keys::kFile, QSettings::IniFormat).value(settings_keys::kLinkHealthGeometry).toByteArray());
 }
 
@@ -161,6 +172,10 @@ void form_link_health::refresh()
             form->itemAt(row, QFormLayout::FieldRole)->widget()->setFont(figures);
     }
     m_ui->TBL_nodes->setFont(figures);
+    QHeaderView *rows = m_ui->TBL_nodes->verticalHeader();
+    const int rowHeight = fontMetrics().height() + theme::kGrid;
+    if (rows->defaultSectionSize() != rowHeight)
+        rows->setDefaultSectionSize(rowHeight);
     showLine(report);
     showSamples(report);
     showNodes(report);
@@ -199,9 +214,14 @@ void form_link_health::showSamples(const LinkReport &report)
 void form_link_health::showNodes(const LinkReport &report)
 {
     QTableWidget *table = m_ui->TBL_nodes;
+    const bool appears = m_ui->CARD_nodes->isHidden() && !report.nodes.isEmpty();
     m_ui->CARD_nodes->setVisible(!report.nodes.isEmpty());
     if (table->rowCount() != int(report.nodes.size()))
         table->setRowCount(int(report.nodes.size()));
+    if (appears && !m_hasPlace) { // windows do not grow by themselves
+        const QSize room = screen()->availableSize() - QSize(0, kFrameHeight);
+        resize(size().expandedTo(sizeHint()).boundedTo(room).expandedTo(size()));
+    }
     for (int row = 0; row < int(report.nodes.size()); ++row) {
         const NodeHealth &node = report.nodes.at(row);
         const bool isDamaged = node.missing > 0;
@@ -210,7 +230,7 @@ void form_link_health::showNodes(const LinkReport &report)
         put(table, row, Missing, missingText(node), isDamaged);
         put(table, row, Share, shareText(node), isDamaged);
         put(table, row, LargestGap, gapText(node), isDamaged);
-        put(table, row, LastGap, timeText(node.lastGapMs), isDamaged);
+        put(table, row, LastGap, shortTimeText(node.lastGapMs), isDamaged);
         put(table, row, Jumps, QString::number(node.restarts), node.restarts > 0);
     }
 }
@@ -219,6 +239,7 @@ void form_link_health::nameColumns()
 {
     m_ui->TBL_nodes->setHorizontalHeaderLabels(
         {tr("ID"), tr("Samples"), tr("Missing"), tr("Lost"), tr("Largest gap"), tr("Last gap"), tr("Clock jumps")});
+    m_ui->TBL_nodes->horizontalHeaderItem(Id)->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 }
 
 void form_link_health::showEvent(QShowEvent *event)

@@ -45,4 +45,5 @@ private:
     std::unique_ptr<Ui::form_link_health> m_ui;
     const LinkMonitor *m_monitor;
     QTimer m_timer;
+    bool m_hasPlace = false; ///< size and place are the user's
 };
