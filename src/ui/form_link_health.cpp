@@ -11,8 +11,8 @@
 
 #include "app/settings_keys.h"
 #include "app/theme.h"
+#include "app/value_format.h"
 #include "ui/device_text.h"
-#include "ui/value_format.h"
 #include "ui_form_link_health.h"
 
 namespace {

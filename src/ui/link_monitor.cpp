@@ -37,6 +37,10 @@ LinkMonitor::LinkMonitor(const KvUartPort *port, const form_record *recorder, QO
     m_logTimer.setObjectName(QStringLiteral("timer_link_log"));
     m_logTimer.setInterval(kLogMs);
     connect(&m_logTimer, &QTimer::timeout, this, &LinkMonitor::log);
+    connect(recorder, &form_record::recordingChanged, this, [this](bool recording) {
+        if (!recording && m_connection.wasOpened && !m_connection.isOpen)
+            log(); // its last records were written, or not, after the port was closed
+    });
 }
 
 void LinkMonitor::open(const QString &portName, int baudRate)

@@ -41,7 +41,7 @@ public:
     void open(const QString &portName, int baudRate);
     /// Takes a decoded frame of the connection.
     void addFrame(const DecodedFrame &frame) { m_stream.addFrame(frame, m_clock.elapsed()); }
-    /// The connection has ended, its port is closed and its recording written.
+    /// The connection has ended and its port is closed. A recording may still be written.
     void close();
 
     LinkReport report() const;
