@@ -14,7 +14,8 @@
 
 namespace {
 
-constexpr int kLookMs = 800; // till what was closed is gone
+constexpr int kStartMs = 3000; // nobody opens a window before
+constexpr int kLookMs = 800;   // till what was closed is gone
 constexpr int kFirstOpeningMs = 800;
 constexpr int kOpenMs = 8000;
 constexpr int kStreamMs = 8000;
@@ -52,6 +53,7 @@ Campaign::Campaign(form_base &window, const Options &options)
 void Campaign::run()
 {
     m_clock.start();
+    pause(kStartMs, kStartMs);
     const QList<scenario::Device> &devices = scenario::devices();
     m_report.warmUpRounds = m_options.isQuick ? 2 : int(devices.size());
     while (!isTimeUp())
@@ -104,9 +106,11 @@ void Campaign::openEverything()
 {
     act(QStringLiteral("plain look"), scenario::setPlainLook);
     for (const scenario::Habit &opening : scenario::openings()) {
-        act(QStringLiteral("open ") + QLatin1String(opening.name), opening.run);
+        const bool isFirst = m_report.rounds == 1;
+        act((isFirst ? CampaignReport::kFirstOpening : QLatin1String("open ")) + QLatin1String(opening.name),
+            opening.run);
         // Later all at once; for the first time one by one, so that the report tells what each takes.
-        if (m_report.rounds == 1 && !m_options.isQuick)
+        if (isFirst && !m_options.isQuick)
             pause(kFirstOpeningMs, kFirstOpeningMs);
         else
             pause(20, 60);

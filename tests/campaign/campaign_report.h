@@ -36,6 +36,9 @@ struct CampaignReport
         int threads = 0;
     };
 
+    /// How the label of an action begins that makes a window for the first time.
+    static constexpr QLatin1String kFirstOpening{"first opening of "};
+
     int rounds = 0;
     int warmUpRounds = 0;
     int actions = 0;
@@ -45,7 +48,7 @@ struct CampaignReport
     QStringList failures; ///< goals that were not met, as sentences
     Watchdog::Result waits;
 
-    /// Judges memory, handles and threads, the longest stall, and the program's message log.
+    /// Judges memory, handles and threads, the longest stalls, and the program's message log.
     void judge(int stallLimitMs, const QString &messageLog);
     void print(QTextStream &out) const;
 };
