@@ -195,6 +195,16 @@ scene_gateway() {
   take gateway
 }
 
+scene_link_health() {
+  device --device gateway --nodes 4 --rate 50 --noise 0.02
+  program
+  connected
+  keys ctrl+l
+  window '^Link health'
+  sleep 8
+  take link-health
+}
+
 spectrum() {
   device --rate 1000 --vibration 62.5:0.05:z:0.5,0.25
   program
