@@ -17,8 +17,9 @@ void StreamHealth::addFrame(const DecodedFrame &frame, qint64 hostMs)
 void StreamHealth::addSample(const node_data_t &sample, bool sharesClock, qint64 hostMs)
 {
     Node &node = m_nodes[sample.id];
-    if (node.sharesClock != sharesClock) {
+    if (node.sharesClock != sharesClock || node.interruptions != m_interruptions) {
         node.sharesClock = sharesClock;
+        node.interruptions = m_interruptions;
         node.gaps.changeClock();
     }
     const SampleGaps::Step step = node.gaps.add(sample.time_ms, hostMs);

@@ -34,6 +34,9 @@ class StreamHealth
 public:
     /// Takes one decoded frame; `hostMs` is its arrival on a steady clock, milliseconds.
     void addFrame(const DecodedFrame &frame, qint64 hostMs);
+    /// The device was told to be silent, or may restart as it was told: what the clocks say between the samples before
+    /// and after this call is no loss.
+    void interrupt() { ++m_interruptions; }
     /// A new connection: nothing has been heard.
     void clear() { *this = {}; }
 
@@ -50,12 +53,14 @@ private:
     {
         NodeHealth health;
         SampleGaps gaps;
-        bool sharesClock = false; ///< stamps are the gateway's
+        bool sharesClock = false;  ///< stamps are the gateway's
+        quint32 interruptions = 0; ///< before its newest sample
     };
 
     void addSample(const node_data_t &sample, bool sharesClock, qint64 hostMs);
 
     std::array<Node, 256> m_nodes;
     NodeHealth m_total;
+    quint32 m_interruptions = 0;
     bool m_isGateway = false;
 };

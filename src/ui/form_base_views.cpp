@@ -9,6 +9,7 @@
 #include "app/value_format.h"
 #include "attitude/form_threed.h"
 #include "attitude/tool_adi.h"
+#include "device/command_broker.h"
 #include "device/product_profile.h"
 #include "fft/form_fftchart.h"
 #include "link/imu_parser.h"
@@ -16,6 +17,7 @@
 #include "link/stream_dispatcher.h"
 #include "ui/device_text.h"
 #include "ui/form_com_select.h"
+#include "ui/form_settings.h"
 #include "ui/link_monitor.h"
 #include "ui/sensor_data_panel.h"
 #include "ui/status_text.h"
@@ -97,6 +99,8 @@ bool form_base::isStreaming() const
 
 void form_base::run_uart_UItmr()
 {
+    if (m_broker->isCollecting() || m_settingsDialog->is_output_stopped())
+        m_linkMonitor->interrupt();
     const LinkStatistics statistics = m_port->statistics();
     m_dispatcher->setMeasuredFrameRate(statistics.framesLastSecond);
     const StreamSnapshot &snapshot = m_dispatcher->snapshot();

@@ -41,6 +41,8 @@ public:
     void open(const QString &portName, int baudRate);
     /// Takes a decoded frame of the connection.
     void addFrame(const DecodedFrame &frame) { m_stream.addFrame(frame, m_clock.elapsed()); }
+    /// Commands are on their way, which stop the output or restart the device: no loss of the line.
+    void interrupt() { m_stream.interrupt(); }
     /// The connection has ended and its port is closed. A recording may still be written.
     void close();
 

@@ -150,6 +150,15 @@ private slots:
         QCOMPARE(health.node(1).missing, 6U);
         QCOMPARE(health.node(1).restarts, 0U);
 
+        health.interrupt(); // told to be silent, then to go on, with its clock set anew
+        for (const quint32 begin : {50000U, 100U}) {
+            for (quint32 i = 0; i < 20; ++i)
+                health.addFrame(batchFrame(other, {1}, begin + 10 * i), ms + begin + 10 * i);
+            QCOMPARE(health.node(1).missing, 6U);
+            QCOMPARE(health.node(1).restarts, 0U);
+            health.interrupt();
+        }
+
         health.clear();
         QVERIFY(health.nodeIds().isEmpty());
         QCOMPARE(health.total(), NodeHealth());
