@@ -1,6 +1,6 @@
 # The two built-in fixed-pitch fonts. No font file is kept in the repository: each comes from the build machine's
-# packages, the named font where it is installed, else a free relative. Without either the resource is left out and the
-# program falls back to the system's fixed-pitch font.
+# packages, and is one that may be passed on with the program, whatever the resource is called. Without it the resource is
+# left out and the program falls back to the system's fixed-pitch font.
 #
 # kv_add_fonts(target): embeds what was found under ":/fonts/".
 
@@ -27,14 +27,14 @@ endfunction()
 
 function(kv_add_fonts target)
   _kv_find_font(droid DroidSansMono.ttf NotoMono-Regular.ttf)
-  _kv_find_font(monaco Monaco.ttf Hack-Regular.ttf)
+  _kv_find_font(monaco Hack-Regular.ttf)
   set(files "")
   foreach(pair "DroidSansMono.ttf|${droid}" "Monaco.ttf|${monaco}")
     string(REPLACE "|" ";" pair "${pair}")
     list(GET pair 0 alias)
     list(LENGTH pair parts)
     if(parts LESS 2)
-      message(STATUS "Built-in font ${alias}: neither it nor a relative is installed, left out")
+      message(STATUS "Built-in font ${alias}: not installed, left out")
       continue()
     endif()
     list(GET pair 1 path)

@@ -1228,8 +1228,8 @@ Pa</translation>
         <translation>OK</translation>
     </message>
     <message>
-        <source>Qt %1 (licence: GNU LGPL, version 3)</source>
-        <translation>Qt %1 (ライセンス: GNU LGPL バージョン 3)</translation>
+        <source>Qt %1 (licence: GNU LGPL 3; Qt Quick 3D: GNU GPL 3)</source>
+        <translation>Qt %1 (ライセンス: GNU LGPL 3、Qt Quick 3D: GNU GPL 3)</translation>
     </message>
 </context>
 <context>

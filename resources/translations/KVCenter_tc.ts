@@ -1228,8 +1228,8 @@ Pa</translation>
         <translation>確定</translation>
     </message>
     <message>
-        <source>Qt %1 (licence: GNU LGPL, version 3)</source>
-        <translation>Qt %1（授權：GNU LGPL 第 3 版）</translation>
+        <source>Qt %1 (licence: GNU LGPL 3; Qt Quick 3D: GNU GPL 3)</source>
+        <translation>Qt %1（授權：GNU LGPL 3；Qt Quick 3D：GNU GPL 3）</translation>
     </message>
 </context>
 <context>

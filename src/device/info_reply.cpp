@@ -83,6 +83,13 @@ bool isLineEnd(char byte)
     return byte == '\r' || byte == '\n';
 }
 
+/// The answer to a command before the question, come late.
+bool isAcknowledge(const QString &line)
+{
+    const QString word = line.trimmed();
+    return word == QLatin1String("OK") || word == QLatin1String("ERROR");
+}
+
 } // namespace
 
 QList<QString> info_reply::lines(const QByteArray &reply)
@@ -93,7 +100,7 @@ QList<QString> info_reply::lines(const QByteArray &reply)
     while (begin != text.cend() && result.size() < kMaxLines) {
         const auto end = std::find_if(begin, text.cend(), isLineEnd);
         const QString line = readable(QString::fromUtf8(begin, end - begin));
-        if (!line.isEmpty())
+        if (!line.isEmpty() && !(result.isEmpty() && isAcknowledge(line)))
             result.append(line);
         begin = end == text.cend() ? end : end + 1;
     }
