@@ -13,6 +13,8 @@
 #include "app/application_fonts.h"
 #include "app/initial_language_picker.h"
 #include "app/message_log.h"
+#include "app/settings_file.h"
+#include "app/settings_keys.h"
 #include "app/theme.h"
 #include "link/node_data.h"
 #include "ui/form_base.h"
@@ -27,6 +29,7 @@ int qMain(int argc, char **argv)
     QApplication application(argc, argv);
     message_log::open(QStringLiteral("qt6_debug.log"));
     message_log::install();
+    settings_file::setAsideIfDamaged(settings_keys::kFile);
 
     qRegisterMetaType<QSerialPort::SerialPortError>("QSerialPort::SerialPortError");
     qRegisterMetaType<node_data_t>("node_data_t");

@@ -3,7 +3,8 @@
 #include <QLatin1String>
 
 /// The settings file and its keys. It lies in the working folder, is read and written through QSettings in INI format,
-/// and may be missing, unwritable or hold anything: every reader checks what it gets.
+/// and may be missing, unwritable or hold anything: every reader checks what it gets (and settings_file, at the start,
+/// that it can be read at all).
 namespace settings_keys {
 
 constexpr QLatin1String kFile("param.ini");

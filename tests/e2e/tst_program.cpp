@@ -52,6 +52,24 @@ private slots:
             QVERIFY2(line.match(QString::fromUtf8(text)).hasMatch(), text.constData());
     }
 
+    // Read as they stand, these lists in lists would take more stack than there is.
+    void startsWithDamagedSettings()
+    {
+        const QTemporaryDir folder;
+        QFile settings(folder.filePath(QStringLiteral("param.ini")));
+        QVERIFY(settings.open(QIODevice::WriteOnly));
+        settings.write("[Main]\nLANGUAGE=@Variant(" + QByteArray(R"(\0\0\0\t\0\0\0\x1)").repeated(50000) + ")\n");
+        settings.close();
+        QProcess program;
+        program.setWorkingDirectory(folder.path());
+        program.start(QStringLiteral(KV_PROGRAM_PATH), QStringList());
+        QVERIFY(program.waitForStarted());
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(settings.fileName() + QStringLiteral(".damaged")), 20000);
+        QVERIFY(!program.waitForFinished(1500)); // it asks for the language
+        program.terminate();
+        program.waitForFinished();
+    }
+
     void startsWhereNothingCanBeWritten()
     {
         QTemporaryDir folder;
