@@ -58,7 +58,9 @@ QByteArray withoutPackets(const QByteArray &reply)
 
 bool isBad(QChar character)
 {
-    return character == QChar::ReplacementCharacter
+    // A byte order mark is taken off a line's beginning by the toolkit; behind noise it would be an invisible
+    // beginning.
+    return character == QChar::ReplacementCharacter || character == QChar::ByteOrderMark
            || (character.category() == QChar::Other_Control && character != u'\t');
 }
 

@@ -43,6 +43,7 @@ private slots:
         row("tab is white space", "\t\tA\tB\n", {u"\t\tA\tB"_s});
         row("readable end of 4", "\x01\x02\xFEUUID\n", {u"UUID"_s});
         row("readable end of 3", "\x01\x02\xFEUID\n", {});
+        row("byte order mark behind noise", "\xFF\xFF\xFF\xEF\xBB\xBFKV999\n", {u"KV999"_s});
         row("exactly a quarter", QByteArray("\0abc", 4), {u" abc"_s});
         row("more than a quarter, readable start", "MZ221\xFF\xFF\n", {});
         row("readable end that is blank", "\x01\x02\x03     \n", {});
