@@ -19,8 +19,6 @@ namespace {
 
 constexpr int kTickMs = 250;
 constexpr int kMeasureMs = 1000;
-constexpr int kMaximumPathLength = 4096;
-constexpr QLatin1String kDefaultFile("/data.csv");
 
 constexpr qint64 kLowBytes = 500LL * 1024 * 1024;
 constexpr double kLowSeconds = 600;
@@ -36,18 +34,12 @@ int form_record::Trouble::kinds() const
 form_record::form_record(QWidget *parent) : QDialog(parent), m_ui(std::make_unique<Ui::form_record>())
 {
     m_ui->setupUi(this);
-    m_ui->LE_folder->setMaxLength(kMaximumPathLength);
+    m_ui->LE_folder->setMaxLength(recording_target::kMaxPathLength);
     m_ui->LE_name->setMaxLength(int(recording_target::kMaxNameBytes));
 
-    const QSettings settings(settings_keys::kFile, QSettings::IniFormat);
-    const QString fallback = QDir::currentPath() + kDefaultFile;
-    const QFileInfo stored(settings.value(settings_keys::kRecordPath, fallback).toString().left(kMaximumPathLength));
-    const bool isUsable =
-        stored.isAbsolute()
-        && recording_target::nameState(recording_target::name(stored.fileName())) == recording_target::NameState::Good;
-    const QFileInfo target = isUsable ? stored : QFileInfo(fallback);
-    m_ui->LE_folder->setText(QDir::toNativeSeparators(target.path()));
-    m_ui->LE_name->setText(recording_target::name(target.fileName()));
+    const auto [folder, name] = recording_target::remembered(QSettings(settings_keys::kFile, QSettings::IniFormat));
+    m_ui->LE_folder->setText(QDir::toNativeSeparators(folder));
+    m_ui->LE_name->setText(name);
 
     m_timer.setInterval(kTickMs);
     connect(&m_timer, &QTimer::timeout, this, &form_record::tick);

@@ -3,13 +3,16 @@
 #include <QDir>
 #include <QLocale>
 #include <QRegularExpression>
+#include <QSettings>
 #include <QStorageInfo>
 
+#include "app/settings_keys.h"
 #include "record/csv_writer.h"
 
 namespace {
 
 constexpr QLatin1String kSuffix(".csv");
+constexpr QLatin1String kDefaultFile("/data.csv");
 
 } // namespace
 
@@ -37,6 +40,15 @@ QString recording_target::folder(const QString &typed)
 {
     const QString text = typed.trimmed();
     return text.isEmpty() ? text : QDir::cleanPath(QDir::current().absoluteFilePath(QDir::fromNativeSeparators(text)));
+}
+
+recording_target::Target recording_target::remembered(const QSettings &settings)
+{
+    const QString fallback = QDir::currentPath() + kDefaultFile;
+    const QFileInfo stored(settings.value(settings_keys::kRecordPath, fallback).toString().left(kMaxPathLength));
+    const bool isUsable = stored.isAbsolute() && nameState(name(stored.fileName())) == NameState::Good;
+    const QFileInfo target = isUsable ? stored : QFileInfo(fallback);
+    return {target.path(), name(target.fileName())};
 }
 
 qint64 recording_target::freeBytes(const QString &folder)

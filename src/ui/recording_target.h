@@ -3,6 +3,8 @@
 #include <QDateTime>
 #include <QString>
 
+class QSettings;
+
 /// Where recordings go: what the user types, checked and completed. File systems are asked, nothing is changed.
 namespace recording_target {
 
@@ -24,6 +26,18 @@ NameState nameState(const QString &name);
 
 /// The absolute folder from what was typed or stored; empty when nothing was.
 QString folder(const QString &typed);
+
+/// Longest path that can be typed or is taken from the settings file, in characters.
+constexpr int kMaxPathLength = 4096;
+
+struct Target
+{
+    QString folder; ///< absolute
+    QString name;   ///< a good one
+};
+
+/// Where the last recording went; "data" in the working folder when nothing usable is remembered.
+Target remembered(const QSettings &settings);
 
 /// Bytes that the user may still write on the disk of a folder that may not exist yet; -1: not known.
 qint64 freeBytes(const QString &folder);
