@@ -187,9 +187,10 @@ QString MeshFile::check(const QString &path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return tr("The mesh file cannot be read: %1").arg(file.errorString());
-    if (file.size() > kMaxFileBytes)
+    const qint64 size = file.size();
+    if (size > kMaxFileBytes)
         return tr("The mesh file is larger than %1 MiB.").arg(kMaxFileBytes >> 20);
-    const QByteArray bytes = file.read(kMaxFileBytes);
+    const QByteArray bytes = file.read(size);
     Cursor cursor(bytes);
     Shape shape;
     const bool isSound = hasFrame(cursor, bytes.size()) && readShape(cursor, shape)

@@ -109,9 +109,10 @@ std::optional<TriangleMesh> ObjReader::read(const QString &path, QString *error)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return failed(tr("The OBJ file cannot be read: %1").arg(file.errorString()));
-    if (file.size() > kMaxFileBytes)
+    const qint64 size = file.size();
+    if (size > kMaxFileBytes)
         return failed(tr("The OBJ file is larger than %1 MiB.").arg(kMaxFileBytes >> 20));
-    const QByteArray text = file.read(kMaxFileBytes);
+    const QByteArray text = file.read(size);
     if (text.contains('\0'))
         return failed(tr("The file is not an OBJ model: it holds no text."));
     if (const qsizetype line = badCoordinateLine(text))
