@@ -23,6 +23,8 @@ packages=(
   clang-format-14 clang-tidy-14 python3
   # the Debian package and its checks; a bare system to install it in, and eyes and hands there
   dpkg-dev file desktop-file-utils appstream lintian debootstrap openbox xdotool imagemagick
+  # fuzzing
+  clang-14 libclang-rt-14-dev
 )
 
 missing=()

@@ -1,0 +1,29 @@
+// Writes the seeds of every target's corpus: kv_fuzz_seeds FOLDER. Files that stand there already are overwritten when
+// they have the same name, all others stay.
+
+#include <QDir>
+#include <QFile>
+
+#include <cstdio>
+
+#include "fuzz/seeds.h"
+
+int main(int argc, char **argv)
+{
+    if (argc != 2) {
+        std::fputs("usage: kv_fuzz_seeds FOLDER\n", stderr);
+        return 2;
+    }
+    const QDir folder(QFile::decodeName(argv[1]));
+    const QList<seeds::Seed> all = seeds::bootloader() + seeds::hex() + seeds::models() + seeds::reply()
+                                   + seeds::settings() + seeds::snapshot() + seeds::stream();
+    for (const seeds::Seed &seed : all) {
+        const QString target = QLatin1String(seed.target);
+        QFile file(folder.filePath(target + u'/' + QLatin1String(seed.name)));
+        if (!folder.mkpath(target) || !file.open(QIODevice::WriteOnly) || file.write(seed.bytes) != seed.bytes.size()) {
+            std::fprintf(stderr, "%s: %s\n", qPrintable(file.fileName()), qPrintable(file.errorString()));
+            return 1;
+        }
+    }
+    return 0;
+}

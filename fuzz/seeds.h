@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+
+/// Inputs that fuzzing begins with, built by the simulator's encoders and the program's own exporters.
+namespace seeds {
+
+struct Seed
+{
+    const char *target; ///< folder in corpus/
+    const char *name;
+    QByteArray bytes;
+};
+
+QList<Seed> bootloader();
+QList<Seed> hex();
+QList<Seed> models();
+QList<Seed> reply();
+QList<Seed> settings();
+QList<Seed> snapshot();
+QList<Seed> stream();
+
+} // namespace seeds
