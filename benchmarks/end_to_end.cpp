@@ -60,7 +60,7 @@ Plan readPlan(const QApplication &application)
     add("report", "print a line every S seconds", "S", "0");
     add("record", "record into a temporary folder");
     add("dashboards", "open the dashboards, with the charts of two nodes for a gateway");
-    add("spectrum", "open the spectrum");
+    add("spectrum", "open the spectrum, with 8192 points");
     add("threed", "open the 3D view");
     add("json", "write the figures", "FILE");
     parser.addPositionalArgument(QStringLiteral("-- options"), QStringLiteral("of the simulator"));
@@ -112,8 +112,10 @@ void openViews(const Plan &plan, const Desk &desk, StreamProbe &probe)
             gateway->bridge().setNodeChosen(node, true);
     }
     for (const QWidget *window : QApplication::topLevelWidgets()) {
-        if (qobject_cast<const form_fftchart *>(window))
-            window->findChild<QPushButton *>(QStringLiteral("BTN_start"))->click();
+        if (!qobject_cast<const form_fftchart *>(window))
+            continue;
+        window->findChild<QComboBox *>(QStringLiteral("CB_points"))->setCurrentText(QStringLiteral("8192"));
+        window->findChild<QPushButton *>(QStringLiteral("BTN_start"))->click();
     }
     if (auto *waves = openWindow<form_sensor_dashboard>())
         probe.watch(*waves);
