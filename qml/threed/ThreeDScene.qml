@@ -40,19 +40,6 @@ Item {
         source: scene.sourceName.endsWith(".mesh") ? scene.attitude.objSource : ""
     }
 
-    View3D {
-        id: view
-
-        objectName: "view3D"
-        anchors.fill: parent
-        camera: camera
-        importScene: world
-        renderMode: View3D.Inline
-        // Without a picture of its own in between: that costs more than the scene where there is no GPU.
-        environment: SceneEnvironment {
-            backgroundMode: SceneEnvironment.Transparent
-        }
-    }
     Node {
         id: world
 
@@ -112,6 +99,20 @@ Item {
                 clipNear: 5
                 clipFar: 3000
             }
+        }
+    }
+    // Behind the world, so that it goes after it: what of the world has not been drawn yet takes itself off its list.
+    View3D {
+        id: view
+
+        objectName: "view3D"
+        anchors.fill: parent
+        camera: camera
+        importScene: world
+        renderMode: View3D.Inline
+        // Without a picture of its own in between: that costs more than the scene where there is no GPU.
+        environment: SceneEnvironment {
+            backgroundMode: SceneEnvironment.Transparent
         }
     }
 

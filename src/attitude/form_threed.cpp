@@ -5,6 +5,7 @@
 #include <QFileDialog>
 #include <QQmlContext>
 #include <QQmlEngine>
+#include <QQuick3DGeometry>
 #include <QQuickItem>
 #include <QQuickView>
 #include <QSGRendererInterface>
@@ -62,6 +63,7 @@ form_threed::form_threed(QWidget *parent) : QWidget(parent, Qt::Window), m_ui(st
 form_threed::~form_threed()
 {
     close();
+    releaseGeometries();
     delete m_container; // the scene goes before the backend that it is bound to
 }
 
@@ -103,6 +105,18 @@ void form_threed::initView()
     if (!loadobj(Qt6ModelAsset::defaultBundledObjFilePath(kDefaultModel), &error)) {
         qWarning().noquote() << "Failed to load default 3D asset:" << error;
         loadobj(Qt6ModelAsset::builtInScene(kDefaultModel), nullptr); // no window without a model
+    }
+}
+
+/// A geometry that has changed since the last picture stands in the scene's list of changes, and the toolkit does not
+/// take it out when both go: what goes after it would write into freed memory. Without a model it leaves the list.
+void form_threed::releaseGeometries()
+{
+    if (m_view == nullptr || m_view->rootObject() == nullptr)
+        return;
+    for (QObject *object : m_view->rootObject()->findChildren<QObject *>()) {
+        if (object->inherits("QQuick3DModel"))
+            object->setProperty("geometry", QVariant::fromValue<QQuick3DGeometry *>(nullptr));
     }
 }
 

@@ -79,6 +79,7 @@ private slots:
 
 private:
     void initView();
+    void releaseGeometries();
     /// Puts a sentence, not yet translated, in place of the picture.
     void showNoPicture(const char *reason);
     void updateNoPictureUi();

@@ -280,6 +280,17 @@ private slots:
         QVERIFY2(covered > full.width() * full.height() / 16 / 50, qPrintable(QString::number(covered)));
     }
 
+    /// A window may be closed for good before its scene has had a first picture.
+    void goesAwayBeforeItIsDrawn()
+    {
+        for (const char *name : {"jet.obj", "cube.obj", "plane.obj", "spaceship.obj"}) {
+            form_threed window;
+            window.backend().setObjSource({});
+            QVERIFY(window.loadobj(Qt6ModelAsset::builtInScene(QLatin1String(name)), nullptr));
+            window.open();
+        }
+    }
+
     void filesOfOthersAreShownOrRefused()
     {
         Window window;
