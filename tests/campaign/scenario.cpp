@@ -43,6 +43,7 @@ constexpr WindowRow kRecorder{"form_record", "action_export_data"};
 constexpr WindowRow kSettings{"form_settings", "actionDevice_Settiing"};
 constexpr WindowRow kUpdater{"form_updater", "action_firmware_update"};
 constexpr WindowRow kAbout{"form_about", "actionAbout"};
+constexpr WindowRow kLinkHealth{"form_link_health", "action_link_health"};
 
 void pickNode(form_base &window)
 {
@@ -87,7 +88,7 @@ const QList<scenario::Device> &scenario::devices()
         {"gateway, layouts 62 and 63", "--device gateway --layout dynamic --nodes 16 --rate 50", true},
         {"module, full records", "--device mz221 --layout 91 --rate 1000 --vibration 50:0.5:z --motion swing", false},
         {"gateway, layout 62", "--device gateway --layout 62 --nodes 16 --rate 100", true},
-        {"module, compact records", "--device mz226 --layout 93 --rate 400 --baud 460800", false},
+        {"module, compact records", "--device mz226 --layout 93 --rate 400 --baud 4000000", false},
         {"gateway, layout 63", "--device gateway --layout 63 --nodes 8 --rate 200", true},
         {"module, small items", "--device kv104 --layout items --rate 250 --motion spin", false},
     };
@@ -126,9 +127,9 @@ const QList<scenario::Fault> &scenario::faults()
              c.during({}, {"wrong-device off"});
              c.identify();
          }},
-        {"reply of 3 MB", Suits::All, false,
+        {"reply of 2 MB", Suits::All, false,
          [](Campaign &c) {
-             c.control("reply 3");
+             c.control("reply 2");
              c.identify();
              c.during({}, {"reply 0"});
              c.identify();
@@ -183,6 +184,7 @@ const QList<scenario::Habit> &scenario::habits()
         {"device settings anew", reopen<kSettings>},
         {"firmware update anew", reopen<kUpdater>},
         {"about box anew", reopen<kAbout>},
+        {"link health anew", reopen<kLinkHealth>},
         {"English", [](form_base &w) { trigger(w, "action_language_EN"); }},
         {"Simplified Chinese", [](form_base &w) { trigger(w, "action_language_CN"); }},
         {"Traditional Chinese", [](form_base &w) { trigger(w, "action_language_TC"); }},
@@ -219,6 +221,7 @@ const QList<scenario::Habit> &scenario::openings()
         {"device settings", open<kSettings>},
         {"firmware update", open<kUpdater>},
         {"about box", open<kAbout>},
+        {"link health", open<kLinkHealth>},
     };
     return rows;
 }
