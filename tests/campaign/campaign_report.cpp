@@ -8,15 +8,19 @@
 
 namespace {
 
-// What two looks at one state may differ by: the toolkit's caches grow with what was shown, such as glyphs.
-constexpr qint64 kResidentSlackKib = 6 * 1024;
-constexpr qint64 kHeapSlackKib = 2 * 1024;
+// What two looks at one state may differ by. Without a GPU the driver's textures are in this memory, too: one picture's
+// buffer is 19 MiB and stays or goes with the last size of its window.
+constexpr int kResidentSlackKib = 8 * 1024;
+constexpr int kHeapSlackKib = 2 * 1024;
+constexpr int kDriverSlackKib = 32 * 1024;
 constexpr int kShownStalls = 12;
 // The first view starts the toolkit's renderer and the graphics driver, in one piece that the program cannot part.
 constexpr int kFirstOpeningLimitMs = 500;
 
-// The program asks for six samples per pixel, and takes four where a renderer has no more: said once per window.
-constexpr QLatin1String kToleratedWarning("Requested MSAA sample count");
+// Six samples per pixel are asked for, and a renderer may have no more than four; and replies that are no text hold
+// characters that a font has no rules for.
+constexpr QLatin1String kToleratedWarnings[] = {QLatin1String("Requested MSAA sample count"),
+                                                QLatin1String("OpenType support missing for")};
 
 double median(QList<double> values)
 {
@@ -30,15 +34,17 @@ struct Figure
     const char *name;
     qsizetype fewestLooks; ///< with fewer it is not judged: what was shown last makes memory swing
     double slack;
+    bool isMemory;
     double (*of)(const CampaignReport::Look &look);
 };
 
 constexpr Figure kFigures[] = {
-    {"resident memory, KiB", 12, kResidentSlackKib,
+    {"resident memory, KiB", 12, kResidentSlackKib, true,
      [](const CampaignReport::Look &look) { return double(look.residentKib); }},
-    {"heap in use, KiB", 12, kHeapSlackKib, [](const CampaignReport::Look &look) { return double(look.heapKib); }},
-    {"file handles", 4, 0, [](const CampaignReport::Look &look) { return double(look.handles); }},
-    {"threads", 4, 0, [](const CampaignReport::Look &look) { return double(look.threads); }},
+    {"heap in use, KiB", 12, kHeapSlackKib, true,
+     [](const CampaignReport::Look &look) { return double(look.heapKib); }},
+    {"file handles", 4, 0, false, [](const CampaignReport::Look &look) { return double(look.handles); }},
+    {"threads", 4, 0, false, [](const CampaignReport::Look &look) { return double(look.threads); }},
 };
 
 /// The looks at each state behind the warm-up, in order of time.
@@ -66,12 +72,13 @@ std::pair<double, double> halves(const QList<CampaignReport::Look> &looks, const
 
 void CampaignReport::judge(int stallLimitMs, const QString &messageLog)
 {
+    const bool hasDriver = qEnvironmentVariable("QT_QUICK_BACKEND") != QLatin1String("software");
     for (const auto &[state, its] : byState(*this).toStdMap()) {
         for (const Figure &figure : kFigures) {
             if (its.size() < figure.fewestLooks)
                 continue;
             const auto [before, after] = halves(its, figure);
-            if (after - before > figure.slack)
+            if (after - before > figure.slack + (hasDriver && figure.isMemory ? kDriverSlackKib : 0))
                 failures.append(QStringLiteral("%1 grew from %2 to %3 in the state \"%4\"")
                                     .arg(QLatin1String(figure.name))
                                     .arg(before)
@@ -96,7 +103,9 @@ void CampaignReport::judge(int stallLimitMs, const QString &messageLog)
     while (!file.atEnd()) { // "[hh:mm:ss.zzz] LEVEL: message (file:line)"
         const QString line = QString::fromUtf8(file.readLine()).trimmed().section(u' ', 1);
         const bool isWarning = !line.startsWith(QLatin1String("DBG")) && !line.startsWith(QLatin1String("INF"));
-        if (isWarning && !line.contains(kToleratedWarning))
+        const bool isTolerated = std::any_of(std::begin(kToleratedWarnings), std::end(kToleratedWarnings),
+                                             [&line](QLatin1String known) { return line.contains(known); });
+        if (isWarning && !isTolerated)
             ++warnings[line];
     }
     for (const auto &[line, count] : warnings.toStdMap())
