@@ -102,9 +102,15 @@ QList<QString> info_reply::lines(const QByteArray &reply)
     while (begin != text.cend() && result.size() < kMaxLines) {
         const auto end = std::find_if(begin, text.cend(), isLineEnd);
         const QString line = readable(QString::fromUtf8(begin, end - begin));
-        if (!line.isEmpty() && !(result.isEmpty() && isAcknowledge(line)))
+        if (!line.isEmpty())
             result.append(line);
         begin = end == text.cend() ? end : end + 1;
     }
     return result;
+}
+
+QList<QString> info_reply::withoutLateAnswers(const QList<QString> &lines)
+{
+    const auto first = std::find_if_not(lines.cbegin(), lines.cend(), isAcknowledge);
+    return {first, lines.cend()};
 }

@@ -95,6 +95,7 @@ QStringList CommandSession::readInfoNow()
     if (connection != m_connection)
         return {};
     m_outputStopped = false;
+    lines = info_reply::withoutLateAnswers(lines);
     m_device = product_resolver::resolve(lines);
     emit outcome(m_device.valid ? Outcome::Nothing : Outcome::NoReply, {});
     emit deviceChanged();
