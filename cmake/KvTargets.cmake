@@ -37,10 +37,31 @@ function(kv_library name)
   target_link_libraries(${name} PUBLIC ${ARG_LINK} PRIVATE kv_options)
 endfunction()
 
-# kv_test(tst_imu_parser SOURCES tst_imu_parser.cpp LINK kv_link [LABELS gui]): one test executable, one ctest entry.
-# It runs in a folder of its own, because the program writes its settings and logs into the working folder.
+# kv_test_entry(tst_x COMMAND $<TARGET_FILE:tst_x> [GUI] [ENVIRONMENT NAME=VALUE] [TIMEOUT seconds]): one ctest entry. It
+# runs in a folder of its own, because the program writes its settings and logs into the working folder; a test with
+# windows runs on a display of its own.
+function(kv_test_entry name)
+  cmake_parse_arguments(ARG "GUI" "ENVIRONMENT;TIMEOUT" "COMMAND" ${ARGN})
+  set(folder "${CMAKE_BINARY_DIR}/test-run/${name}")
+  file(MAKE_DIRECTORY "${folder}")
+  if(ARG_GUI)
+    list(PREPEND ARG_COMMAND "${PROJECT_SOURCE_DIR}/tests/support/with_display.sh")
+  endif()
+  if(NOT ARG_TIMEOUT)
+    set(ARG_TIMEOUT 120)
+  endif()
+  add_test(NAME ${name} COMMAND ${ARG_COMMAND} WORKING_DIRECTORY "${folder}")
+  # The long ones first, so that none is left to run alone at the end.
+  set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} COST ${ARG_TIMEOUT} ENVIRONMENT "${ARG_ENVIRONMENT}")
+  if(ARG_GUI)
+    set_tests_properties(${name} PROPERTIES LABELS gui)
+  endif()
+endfunction()
+
+# kv_test(tst_imu_parser SOURCES tst_imu_parser.cpp LINK kv_link [GUI] [TIMEOUT seconds]): one test executable with its
+# ctest entry.
 function(kv_test name)
-  cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LINK;LABELS" ${ARGN})
+  cmake_parse_arguments(ARG "GUI" "TIMEOUT" "SOURCES;LINK" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   if(CMAKE_CXX_FLAGS MATCHES "fsanitize=address")
     target_sources(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests/support/keep_modules.cpp")
@@ -49,20 +70,11 @@ function(kv_test name)
   target_link_libraries(${name} PRIVATE ${ARG_LINK} Qt6::Test kv_options)
   target_compile_definitions(${name} PRIVATE
     KV_SIMULATOR_PATH="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/kv_simulator")
-  set(folder "${CMAKE_BINARY_DIR}/test-run/${name}")
-  file(MAKE_DIRECTORY "${folder}")
-  add_test(NAME ${name} COMMAND ${name} WORKING_DIRECTORY "${folder}")
-  if(NOT ARG_TIMEOUT)
-    set(ARG_TIMEOUT 120)
+  set(options "")
+  if(ARG_GUI)
+    list(APPEND options GUI)
   endif()
-  set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT})
-  if(ARG_LABELS)
-    set_tests_properties(${name} PROPERTIES LABELS "${ARG_LABELS}")
-    # Without a window manager the keyboard has one owner: tests with windows take turns.
-    if("gui" IN_LIST ARG_LABELS)
-      set_tests_properties(${name} PROPERTIES RESOURCE_LOCK display)
-    endif()
-  endif()
+  kv_test_entry(${name} COMMAND $<TARGET_FILE:${name}> TIMEOUT "${ARG_TIMEOUT}" ${options})
 endfunction()
 
 # kv_add_images(target): embeds the program's pictures under ":/images/".
