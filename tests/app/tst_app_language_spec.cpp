@@ -8,18 +8,29 @@ class TestAppLanguageSpec : public QObject
     Q_OBJECT
 
 private slots:
-    void readsManifests_data()
+    void readsManifests()
     {
-        QTest::addColumn<QByteArray>("json");
-        QTest::addColumn<QString>("fault"); // part of the message; empty: the manifest is good
+        // At last a part of the message; empty: the manifest is good.
+        const auto reads = [](const char *name, const QByteArray &json, const char *fault) {
+            QString error;
+            const LanguageManifest manifest = language_manifest::parse(json, &error);
+            QVERIFY2(error.isEmpty() == !*fault && error.contains(QLatin1String(fault)), name);
+            QVERIFY2(manifest.languages.size() == (*fault ? 0 : 2), name);
+            if (*fault)
+                return;
+            const AppLanguageSpec *english = manifest.find(QStringLiteral("eN\t"));
+            QVERIFY(english != nullptr);
+            QCOMPARE(english->tsFileName(), QStringLiteral("KV_en.ts"));
+            QCOMPARE(english->qmFileName(), QStringLiteral("KV_en.qm"));
+            QCOMPARE(english->qmResourcePath(), QStringLiteral(":/translations/KV_en.qm"));
+            QVERIFY(manifest.find(QStringLiteral("FR")) == nullptr);
+        };
+        const auto row = [&](const char *name, const QByteArray &list, const char *fault, const char *def = "En") {
+            reads(name, R"({"defaultLanguage":")" + QByteArray(def) + R"(","languages":[)" + list + "]}", fault);
+        };
         const QByteArray en =
             R"({"setting":" en ","displayName":"English","translationStem":"KV_en","fontFamilies":["A"]})";
         const QByteArray ja = R"({"setting":"JA","displayName":"JJ","translationStem":"KV_ja"})";
-        const auto row = [](const char *name, const QByteArray &list, const char *fault, const char *byDefault = "En") {
-            QTest::newRow(name) << QByteArray(R"({"defaultLanguage":")" + QByteArray(byDefault) + R"(","languages":[)"
-                                              + list + "]}")
-                                << QString::fromLatin1(fault);
-        };
         row("two languages, codes normalised", en + ',' + ja, "");
         row("the default is not there", en, "default", "KO");
         row("no languages", "", "default");
@@ -28,38 +39,17 @@ private slots:
         row("stem that leaves the folder", en + R"(,{"setting":"X","displayName":"x","translationStem":"../../etc/x"})",
             "file name for X");
         row("no name", en + R"(,{"setting":"X","translationStem":"x"})", "without code");
-        QTest::newRow("empty file") << QByteArray() << QStringLiteral("illegal");
-        QTest::newRow("cut off") << QByteArray(R"({"defaultLanguage":"EN","languages":[)")
-                                 << QStringLiteral("unterminated");
-        QTest::newRow("a list at the top") << QByteArray("[]") << QStringLiteral("default");
-    }
-    void readsManifests()
-    {
-        QFETCH(QByteArray, json);
-        QFETCH(QString, fault);
-        QString error;
-        const LanguageManifest manifest = language_manifest::parse(json, &error);
-        QCOMPARE(error.isEmpty(), fault.isEmpty());
-        QVERIFY2(error.contains(fault), qPrintable(error));
-        QCOMPARE(manifest.languages.size(), fault.isEmpty() ? 2 : 0);
-        if (!fault.isEmpty())
-            return;
-        const AppLanguageSpec *english = manifest.find(QStringLiteral("eN\t"));
-        QVERIFY(english != nullptr);
-        QCOMPARE(english->tsFileName(), QStringLiteral("KV_en.ts"));
-        QCOMPARE(english->qmFileName(), QStringLiteral("KV_en.qm"));
-        QCOMPARE(english->qmResourcePath(), QStringLiteral(":/translations/KV_en.qm"));
-        QVERIFY(manifest.find(QStringLiteral("FR")) == nullptr);
+        reads("empty file", {}, "illegal");
+        reads("cut off", R"({"defaultLanguage":"EN","languages":[)", "unterminated");
+        reads("a list at the top", "[]", "default");
     }
 
-    void recommendsTheSystemsLanguage_data()
+    void recommendsTheSystemsLanguage()
     {
-        QTest::addColumn<QStringList>("uiLanguages");
-        QTest::addColumn<QString>("localeName");
-        QTest::addColumn<QString>("setting");
         const auto row = [](const char *ui, const char *locale, const char *setting) {
-            QTest::addRow("%s / %s", ui, locale) << QString::fromLatin1(ui).split(u' ', Qt::SkipEmptyParts)
-                                                 << QString::fromLatin1(locale) << QString::fromLatin1(setting);
+            const QStringList languages = QString::fromLatin1(ui).split(u' ', Qt::SkipEmptyParts);
+            QVERIFY2(language_manifest::recommendedSetting(languages, QLatin1String(locale)) == QLatin1String(setting),
+                     setting);
         };
         row("zh-Hant-TW zh-TW", "zh_TW", "TC");
         row("zh-HK", "zh_HK", "TC");
@@ -71,12 +61,6 @@ private slots:
         row("en-GB", "zh_CN", "EN");
         row("jam", "jam", ""); // a language of its own, not Japanese
         row("de-DE", "de_DE", "");
-    }
-    void recommendsTheSystemsLanguage()
-    {
-        QFETCH(QStringList, uiLanguages);
-        QFETCH(QString, localeName);
-        QTEST(language_manifest::recommendedSetting(uiLanguages, localeName), "setting");
     }
 
     void withoutAManifestThereIsNoStart() // this program has no resources

@@ -10,6 +10,7 @@
 
 #include "app/app_log.h"
 #include "app/message_log.h"
+#include "support/files.h"
 
 namespace {
 
@@ -18,8 +19,7 @@ constexpr QLatin1String kMessages("messages.log");
 
 QString textOf(const QString &path)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    return QString::fromUtf8(readFile(path));
 }
 
 /// The handler that is installed while this lives; QtTest gets its own back.

@@ -5,6 +5,7 @@
 #include <QTest>
 
 #include "app/settings_file.h"
+#include "support/files.h"
 
 class TestSettingsFile : public QObject
 {
@@ -12,10 +13,18 @@ class TestSettingsFile : public QObject
 
 private slots:
     // A harmless value of another type stands for the dangerous ones: the toolkit finds both in the same way.
-    void findsWhatTheToolkitWouldDecode_data()
+    void findsWhatTheToolkitWouldDecode()
     {
-        QTest::addColumn<QByteArray>("value");
-        const auto row = [](const char *name, const char *value) { QTest::newRow(name) << QByteArray(value); };
+        const auto row = [this](const char *name, const QByteArray &value) {
+            const QString path = write("[A]\nb=" + value + "\n");
+            QVariantList items = QSettings(path, QSettings::IniFormat).value(QStringLiteral("A/b")).toList();
+            if (items.isEmpty())
+                items = {QSettings(path, QSettings::IniFormat).value(QStringLiteral("A/b"))};
+            bool isDecoded = false;
+            for (const QVariant &item : items)
+                isDecoded |= item.typeId() == QMetaType::Int || item.typeId() == QMetaType::QDateTime;
+            QVERIFY2(settings_file::isSafe("[A]\nb=" + value + "\n") == !isDecoded, name);
+        };
         row("text", "/dev/ttyUSB0");
         row("bytes", R"(@ByteArray(\x1\xd9\xd0\xcb\0\x3\0\0))");
         row("rectangle", "@Rect(10 20 800 600)");
@@ -33,18 +42,6 @@ private slots:
         row("escaped at sign", R"(@@Variant is text)");
         row("ends in an escape", R"(a\)");
     }
-    void findsWhatTheToolkitWouldDecode()
-    {
-        QFETCH(QByteArray, value);
-        const QString path = write("[A]\nb=" + value + "\n");
-        QVariantList items = QSettings(path, QSettings::IniFormat).value(QStringLiteral("A/b")).toList();
-        if (items.isEmpty())
-            items = {QSettings(path, QSettings::IniFormat).value(QStringLiteral("A/b"))};
-        bool isDecoded = false;
-        for (const QVariant &item : items)
-            isDecoded |= item.typeId() == QMetaType::Int || item.typeId() == QMetaType::QDateTime;
-        QCOMPARE(settings_file::isSafe("[A]\nb=" + value + "\n"), !isDecoded);
-    }
 
     void setsAside()
     {
@@ -55,9 +52,7 @@ private slots:
             QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^Settings file is damaged: ")));
             QVERIFY(settings_file::setAsideIfDamaged(path));
             QVERIFY(!QFile::exists(path));
-            QFile damaged(path + QStringLiteral(".damaged"));
-            QVERIFY(damaged.open(QIODevice::ReadOnly));
-            QCOMPARE(damaged.readAll(), text);
+            QCOMPARE(readFile(path + QStringLiteral(".damaged")), text);
         }
         const QString path = write(good);
         QVERIFY(!settings_file::setAsideIfDamaged(path));
@@ -69,10 +64,10 @@ private:
     QString write(const QByteArray &text)
     {
         // The toolkit remembers files by their names.
-        QFile file(m_folder.filePath(QStringLiteral("param%1.ini").arg(++m_count)));
-        if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
+        const QString path = m_folder.filePath(QStringLiteral("param%1.ini").arg(++m_count));
+        if (!writeFile(path, text))
             qFatal("the folder for tests cannot be written");
-        return file.fileName();
+        return path;
     }
 
     QTemporaryDir m_folder;

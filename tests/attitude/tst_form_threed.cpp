@@ -13,6 +13,7 @@
 #include "app/settings_keys.h"
 #include "attitude/form_threed.h"
 #include "attitude/qt6_model_asset.h"
+#include "support/files.h"
 
 namespace {
 
@@ -94,75 +95,53 @@ private slots:
         QCOMPARE(window.text("VAL_pitch"), QStringLiteral("+12.00°"));
     }
 
-    void posesAreRightInNumbersAndPicture_data()
+    void posesAreRightInNumbersAndPicture()
     {
-        QTest::addColumn<OrientationPreset>("preset");
-        QTest::addColumn<QVector3D>("axis"); // of the device
-        QTest::addColumn<float>("angle");
-        QTest::addColumn<QStringList>("numbers"); // roll, pitch, yaw
-        QTest::addColumn<QString>("seen");
-        const auto row = [](const char *name, OrientationPreset preset, QVector3D axis, float angle,
-                            const QStringList &numbers, const char *seen) {
-            QTest::newRow(name) << preset << axis << angle << numbers << QString::fromLatin1(seen);
-        };
         const auto rfu = OrientationPreset::RfuEnu312;
         const auto flu = OrientationPreset::FluNwuZyx;
         const QVector3D x(1, 0, 0);
         const QVector3D y(0, 1, 0);
         const QVector3D z(0, 0, 1);
-        const QString o = QStringLiteral("0.00°");
-        const QString up = QStringLiteral("+40.00°");
-        const QString down = QStringLiteral("−40.00°");
-        const QString right = QStringLiteral("+60.00°");
-        const QString left = QStringLiteral("−60.00°");
-        const QString east = QStringLiteral("−90.00°");
-        const QString west = QStringLiteral("+90.00°");
-        row("RFU nose up", rfu, x, 40, {o, up, o}, "nose up");
-        row("RFU nose down", rfu, x, -40, {o, down, o}, "nose down");
-        row("RFU right wing down", rfu, y, 60, {right, o, o}, "right wing down");
-        row("RFU left wing down", rfu, y, -60, {left, o, o}, "left wing down");
-        row("RFU heading east", rfu, z, -90, {o, o, east}, "nose right, fin up");
-        row("RFU heading west", rfu, z, 90, {o, o, west}, "nose left");
-        row("RFU on its back", rfu, y, 179.999F, {QStringLiteral("+180.00°"), o, o}, "fin down");
-        row("FLU nose up", flu, y, -40, {o, up, o}, "nose up");
-        row("FLU nose down", flu, y, 40, {o, down, o}, "nose down");
-        row("FLU right wing down", flu, x, 60, {right, o, o}, "right wing down");
-        row("FLU left wing down", flu, x, -60, {left, o, o}, "left wing down");
-        row("FLU heading east", flu, z, -90, {o, o, east}, "nose right, fin up");
-        row("FLU on its back", flu, x, 179.999F, {QStringLiteral("+180.00°"), o, o}, "fin down");
-    }
-    void posesAreRightInNumbersAndPicture()
-    {
-        QFETCH(OrientationPreset, preset);
-        QFETCH(QVector3D, axis);
-        QFETCH(float, angle);
-        QFETCH(QString, seen);
-        Window window;
-        window.setOrientationPreset(preset);
-        window.show(attitude(QQuaternion::fromAxisAndAngle(axis, angle), preset));
-        const QStringList numbers{window.text("VAL_roll"), window.text("VAL_pitch"), window.text("VAL_yaw")};
-        QTEST(numbers, "numbers");
-
-        NEEDS_PICTURE(window);
-        window.backend().setBodyAxes({{}, {}, {}}); // arrows have colours like parts of the jet
-        const QImage image = window.view()->grabWindow();
-        const double unit = image.height() / 100.0;
-        const QPointF nose = middle(image, 28, 50, 150);
-        const QPointF fin = middle(image, 217, 232, 180);
-        const QPointF port = middle(image, -10, 10, 120);
-        const QPointF starboard = middle(image, 130, 155, 120);
-        const QMap<QString, bool> found{
-            {QStringLiteral("nose up"), nose.y() >= 0 && nose.y() < fin.y() - 5 * unit},
-            {QStringLiteral("nose down"), nose.y() > fin.y() + 5 * unit},
-            {QStringLiteral("nose right"), nose.x() > fin.x() + 20 * unit},
-            {QStringLiteral("nose left"), nose.x() >= 0 && nose.x() < fin.x() - 20 * unit},
-            {QStringLiteral("right wing down"), port.y() >= 0 && starboard.y() > port.y() + 10 * unit},
-            {QStringLiteral("left wing down"), starboard.y() >= 0 && port.y() > starboard.y() + 10 * unit},
-            {QStringLiteral("fin up"), fin.y() >= 0 && fin.y() < (port.y() + starboard.y()) / 2},
-            {QStringLiteral("fin down"), fin.y() > (port.y() + starboard.y()) / 2},
-        };
-        for (const QString &wanted : seen.split(QStringLiteral(", ")))
-            QVERIFY2(found[wanted], qPrintable(wanted));
+        // A turn about an axis of the device; roll, pitch and yaw in degrees; what the picture shows.
+        const std::tuple<OrientationPreset, QVector3D, float, const char *, const char *> rows[] = {
+            {rfu, x, 40, "0.00 +40.00 0.00", "nose up"},
+            {rfu, x, -40, "0.00 −40.00 0.00", "nose down"},
+            {rfu, y, 60, "+60.00 0.00 0.00", "right wing down"},
+            {rfu, y, -60, "−60.00 0.00 0.00", "left wing down"},
+            {rfu, z, -90, "0.00 0.00 −90.00", "nose right, fin up"},
+            {rfu, z, 90, "0.00 0.00 +90.00", "nose left"},
+            {rfu, y, 179.999F, "+180.00 0.00 0.00", "fin down"},
+            {flu, y, -40, "0.00 +40.00 0.00", "nose up"},
+            {flu, x, 60, "+60.00 0.00 0.00", "right wing down"},
+            {flu, z, -90, "0.00 0.00 −90.00", "nose right, fin up"}};
+        for (const auto &[preset, axis, angle, numbers, seen] : rows) {
+            Window window;
+            window.setOrientationPreset(preset);
+            window.show(attitude(QQuaternion::fromAxisAndAngle(axis, angle), preset));
+            const QStringList texts{window.text("VAL_roll"), window.text("VAL_pitch"), window.text("VAL_yaw")};
+            QCOMPARE(texts.join(u' ').remove(u'°'), QString::fromUtf8(numbers));
+            if (!window.view())
+                continue;
+            window.backend().setBodyAxes({{}, {}, {}}); // arrows have colours like parts of the jet
+            const QImage image = window.view()->grabWindow();
+            const double unit = image.height() / 100.0;
+            const QPointF nose = middle(image, 28, 50, 150);
+            const QPointF fin = middle(image, 217, 232, 180);
+            const QPointF port = middle(image, -10, 10, 120);
+            const QPointF starboard = middle(image, 130, 155, 120);
+            const QMap<QString, bool> found{
+                {QStringLiteral("nose up"), nose.y() >= 0 && nose.y() < fin.y() - 5 * unit},
+                {QStringLiteral("nose down"), nose.y() > fin.y() + 5 * unit},
+                {QStringLiteral("nose right"), nose.x() > fin.x() + 20 * unit},
+                {QStringLiteral("nose left"), nose.x() >= 0 && nose.x() < fin.x() - 20 * unit},
+                {QStringLiteral("right wing down"), port.y() >= 0 && starboard.y() > port.y() + 10 * unit},
+                {QStringLiteral("left wing down"), starboard.y() >= 0 && port.y() > starboard.y() + 10 * unit},
+                {QStringLiteral("fin up"), fin.y() >= 0 && fin.y() < (port.y() + starboard.y()) / 2},
+                {QStringLiteral("fin down"), fin.y() > (port.y() + starboard.y()) / 2},
+            };
+            for (const QString &wanted : QString::fromLatin1(seen).split(QStringLiteral(", ")))
+                QVERIFY2(found[wanted], qPrintable(wanted));
+        }
     }
 
     void mouseMovesTheCamera()
@@ -256,28 +235,23 @@ private slots:
         QCOMPARE(window.text("VAL_dpitch"), QStringLiteral("0.00°"));
     }
 
-    void everyBuiltInModelIsDrawn_data()
-    {
-        QTest::addColumn<QString>("name");
-        for (const char *name : {"jet.obj", "cube.obj", "plane.obj", "spaceship.obj"})
-            QTest::newRow(name) << QString::fromLatin1(name);
-    }
     void everyBuiltInModelIsDrawn()
     {
-        QFETCH(QString, name);
         Window window;
         NEEDS_PICTURE(window);
         window.backend().setObjSource({});
         const QImage empty = window.view()->grabWindow();
-        QString error;
-        QVERIFY2(window.loadobj(Qt6ModelAsset::builtInScene(name), &error), qPrintable(error));
-        const QImage full = window.view()->grabWindow();
-        int covered = 0;
-        for (int y = 0; y < full.height(); y += 4) {
-            for (int x = 0; x < full.width(); x += 4)
-                covered += full.pixel(x, y) != empty.pixel(x, y);
+        for (const char *name : {"jet.obj", "cube.obj", "plane.obj", "spaceship.obj"}) {
+            QString error;
+            QVERIFY2(window.loadobj(Qt6ModelAsset::builtInScene(QLatin1String(name)), &error), qPrintable(error));
+            const QImage full = window.view()->grabWindow();
+            int covered = 0;
+            for (int y = 0; y < full.height(); y += 4) {
+                for (int x = 0; x < full.width(); x += 4)
+                    covered += full.pixel(x, y) != empty.pixel(x, y);
+            }
+            QVERIFY2(covered > full.width() * full.height() / 16 / 50, name);
         }
-        QVERIFY2(covered > full.width() * full.height() / 16 / 50, qPrintable(QString::number(covered)));
     }
 
     /// A window may be closed for good before its scene has had a first picture.
@@ -297,12 +271,10 @@ private slots:
         NEEDS_PICTURE(window);
         const auto write = [this](const char *name, const QByteArray &bytes) {
             QDir(m_folder.path()).mkpath(QStringLiteral("模型 ü"));
-            QFile file(m_folder.filePath(QStringLiteral("模型 ü/") + QLatin1String(name)));
-            return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() ? file.fileName() : QString();
+            const QString path = m_folder.filePath(QStringLiteral("模型 ü/") + QLatin1String(name));
+            return writeFile(path, bytes) ? path : QString();
         };
-        QFile built(QStringLiteral(":/modelscenes/cube/meshes/face_up.mesh"));
-        QVERIFY(built.open(QIODevice::ReadOnly));
-        const QByteArray mesh = built.readAll();
+        const QByteArray mesh = readFile(QStringLiteral(":/modelscenes/cube/meshes/face_up.mesh"));
         // Far away and tiny: fitted into the picture, where a level plate of it is seen from above.
         const QByteArray plate = "v 1000 0 -.01\nv 1000 0 .01\nv 1000.02 0 .01\nv 1000.02 0 -.01\nf 1 2 3 4\n";
         for (const QString &path : {write("plate.obj", plate), write("face.mesh", mesh)}) {

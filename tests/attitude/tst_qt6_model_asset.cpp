@@ -6,6 +6,7 @@
 #include "attitude/mesh_file.h"
 #include "attitude/obj_reader.h"
 #include "attitude/qt6_model_asset.h"
+#include "support/files.h"
 
 namespace {
 
@@ -24,8 +25,7 @@ class TestModelFiles : public QObject
     {
         const QString path = m_folder.filePath(name);
         QDir().mkpath(QFileInfo(path).path());
-        QFile file(path);
-        return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() ? path : QString();
+        return writeFile(path, bytes) ? path : QString();
     }
 
 private slots:
@@ -40,42 +40,40 @@ private slots:
     }
     void cleanupTestCase() { QDir::setCurrent(m_before); }
 
-    void resolving_data()
-    {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("source"); // "file": the file itself
-        QTest::addColumn<QString>("error");
-        const auto row = [](const char *name, const char *path, const char *source, const char *error = "") {
-            QTest::newRow(name) << QString::fromLatin1(path) << QString::fromLatin1(source)
-                                << QString::fromLatin1(error);
-        };
-        row("empty", "", "", "No 3D asset was selected.");
-        row("resource", "qrc:/any/Thing.qml", "qrc:/any/Thing.qml");
-        row("jet", "objModel/jet.obj", "qrc:/modelscenes/jet/Jet.qml");
-        row("letter case", "objModel/CUBE.Obj", "qrc:/modelscenes/cube/Cube.qml");
-        row("folder above", "../objModel/plane.obj", "qrc:/modelscenes/plane/Plane.qml");
-        row("product folder", "../KVCenter/objModel/spaceship.obj", "qrc:/modelscenes/spaceship/Spaceship.qml");
-        row("other way to it", "../work/objModel/../objModel/jet.obj", "qrc:/modelscenes/jet/Jet.qml");
-        row("name elsewhere", "../elsewhere/jet.obj", "file");
-        row("other in the folder", "objModel/other.obj", "file");
-        row("external", "other.OBJ", "file");
-        row("mesh", "part.mesh", "file");
-        row("no mesh", "gone.mesh", "", "The selected mesh file could not be found.");
-        row("no obj", "gone.obj", "", "The selected OBJ file could not be found.");
-        row("a folder", "folder.obj", "", "The selected OBJ file could not be found.");
-        row("other kind", "part.stl", "",
-            "Unsupported 3D asset. Choose a bundled .obj model, an external .obj file, or a preconverted .mesh file.");
-    }
     void resolving()
     {
-        QFETCH(QString, path);
-        QFETCH(QString, source);
-        QString error = QStringLiteral("old");
-        const QUrl expected =
-            source == QLatin1String("file") ? QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()) : QUrl(source);
-        QCOMPARE(Qt6ModelAsset::resolveModelSource(path, &error), expected);
-        QTEST(error, "error");
-        QCOMPARE(Qt6ModelAsset::resolveModelSource(path, nullptr), expected);
+        struct Row
+        {
+            const char *path;
+            const char *source; // "file": the file itself
+            const char *error = "";
+        };
+        const Row rows[] = {{"", "", "No 3D asset was selected."},
+                            {"qrc:/any/Thing.qml", "qrc:/any/Thing.qml"},
+                            {"objModel/jet.obj", "qrc:/modelscenes/jet/Jet.qml"},
+                            {"objModel/CUBE.Obj", "qrc:/modelscenes/cube/Cube.qml"},
+                            {"../objModel/plane.obj", "qrc:/modelscenes/plane/Plane.qml"},
+                            {"../KVCenter/objModel/spaceship.obj", "qrc:/modelscenes/spaceship/Spaceship.qml"},
+                            {"../work/objModel/../objModel/jet.obj", "qrc:/modelscenes/jet/Jet.qml"},
+                            {"../elsewhere/jet.obj", "file"},
+                            {"objModel/other.obj", "file"},
+                            {"other.OBJ", "file"},
+                            {"part.mesh", "file"},
+                            {"gone.mesh", "", "The selected mesh file could not be found."},
+                            {"gone.obj", "", "The selected OBJ file could not be found."},
+                            {"folder.obj", "", "The selected OBJ file could not be found."},
+                            {"part.stl", "",
+                             "Unsupported 3D asset. Choose a bundled .obj model, an external .obj file, or a "
+                             "preconverted .mesh file."}};
+        for (const auto &[name, source, message] : rows) {
+            const auto path = QString::fromLatin1(name);
+            const QUrl expected = qstrcmp(source, "file") == 0 ? QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath())
+                                                               : QUrl(QString::fromLatin1(source));
+            QString error = QStringLiteral("old");
+            QCOMPARE(Qt6ModelAsset::resolveModelSource(path, &error), expected);
+            QCOMPARE(error, QLatin1String(message));
+            QCOMPARE(Qt6ModelAsset::resolveModelSource(path, nullptr), expected);
+        }
     }
     void defaultPathIsTheFirstThatExists()
     {
@@ -87,67 +85,58 @@ private slots:
         QCOMPARE(path("gone.obj"), QString());
     }
 
-    void obj_data()
-    {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<int>("triangles"); // 0: refused
-        QTest::addColumn<QString>("word");  // of the sentence
-        const QByteArray points = kTriangle;
-        const auto row = [&](const char *name, const QByteArray &text, int triangles, const char *word = "") {
-            QTest::newRow(name) << text << triangles << QString::fromLatin1(word);
-        };
-        row("triangle", points + "f 1 2 3\n", 1);
-        row("quad with everything", points + "v 2 4 0\nvt 0 0\nvn 0 0 1\nf 1/1/1 2/1/1 4/1/1 3/1/1\n", 2);
-        row("from the newest", points + "f -3 -2 -1", 1);
-        row("lines of Windows", "v 0 0 0\r\nv 2 0 0\r\nv 0 4 0\r\nf 1 2 3\r\n", 1);
-        row("normals that are none", points + "vn 0 0 0\nvn 1e30 nan x\nf 1//1 2//2 3//9\n", 1);
-        row("unknown words", "o a\ng\ns off\nusemtl x\nmtllib /dev/zero\ncurv 0 1\nl 1 2\n" + points + "f 1 2 3\n", 1);
-        row("empty", "", 0, "no faces");
-        row("no faces", points, 0, "no faces");
-        row("without area", points + "f 1 1 2\nf 1 2\nf\n", 0, "no faces");
-        row("cut off", points + "f 1 2 3\nf 1 2 ", 1);
-        row("cut off in a vertex", "v 1 2 3\nv 1 2", 0, "no faces");
-        row("vertex that is not there", points + "f 1 2 4\n", 0, "does not exist");
-        row("vertex 0", points + "f 0 1 2\n", 0, "does not exist");
-        row("before the first", points + "f -4 -2 -1\n", 0, "does not exist");
-        row("huge index", points + "f 1 2 2147483647\n", 0, "does not exist");
-        row("words for indices", points + "f a b/c //\n", 0, "does not exist");
-        row("NaN", "v nan 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 3\n", 0, "Line 1 ");
-        row("infinity", "v 0 0 0\nv inf 0 0\nv 0 1 0\nf 1 2 3\n", 0, "Line 2 ");
-        row("too large", "v 1e38 0 0\nv 1e999 0 0\nv 0 1 0\nf 1 2 3\n", 0, "too large");
-        row("binary", QByteArray("v \0\1\2", 5), 0, "no text");
-        row("noise", QByteArray(5000, '\xF3') + '\n' + QByteArray(5000, '/') + "\nf " + QByteArray(5000, '/'), 0, "");
-        QByteArray many = points;
-        for (int i = 0; i < 1'000'001; ++i)
-            many += "f 1 2 3\n";
-        row("a million faces and one", many, 0, "1000000");
-        row("one face of a million", points + "f" + QByteArray(" 1 2 3").repeated(400'000) + '\n', 0, "1000000");
-    }
     void obj()
     {
-        QFETCH(QByteArray, text);
-        QFETCH(int, triangles);
-        QFETCH(QString, word);
-        const QString path = write(QStringLiteral("模型 ü/a.obj"), text);
-        QString error;
-        const auto mesh = ObjReader::read(path, &error);
-        QCOMPARE(mesh.has_value(), triangles > 0);
-        QVERIFY2(error.contains(word), qPrintable(error));
-        QCOMPARE(error.isEmpty(), triangles > 0);
-        if (!mesh)
-            return;
-        QCOMPARE(mesh->vertices.size(), triangles * 3 * TriangleMesh::kStride);
-        QCOMPARE(mesh->minimum, QVector3D(0, 0, 0));
-        QCOMPARE(mesh->maximum, QVector3D(2, 4, 0));
-        const auto *floats = reinterpret_cast<const float *>(mesh->vertices.constData());
-        QCOMPARE(QVector3D(floats[3], floats[4], floats[5]), QVector3D(0, 0, 1));
+        struct Row
+        {
+            const char *name;
+            QByteArray text;
+            int triangles;         // 0: refused
+            const char *word = ""; // of the sentence
+        };
+        const QByteArray points = kTriangle;
+        const QByteArray many = QByteArray("f 1 2 3\n").repeated(1'000'001);
+        const Row rows[] = {
+            {"triangle", points + "f 1 2 3\n", 1},
+            {"quad with everything", points + "v 2 4 0\nvt 0 0\nvn 0 0 1\nf 1/1/1 2/1/1 4/1/1 3/1/1\n", 2},
+            {"from the newest", points + "f -3 -2 -1", 1},
+            {"lines of Windows", "v 0 0 0\r\nv 2 0 0\r\nv 0 4 0\r\nf 1 2 3\r\n", 1},
+            {"normals that are none", points + "vn 0 0 0\nvn 1e30 nan x\nf 1//1 2//2 3//9\n", 1},
+            {"unknown words", "o a\ng\ns off\nusemtl x\nmtllib /dev/zero\ncurv 0 1\nl 1 2\n" + points + "f 1 2 3\n", 1},
+            {"empty", "", 0, "no faces"},
+            {"no faces", points, 0, "no faces"},
+            {"without area", points + "f 1 1 2\nf 1 2\nf\n", 0, "no faces"},
+            {"cut off", points + "f 1 2 3\nf 1 2 ", 1},
+            {"cut off in a vertex", "v 1 2 3\nv 1 2", 0, "no faces"},
+            {"vertex that is not there", points + "f 1 2 4\n", 0, "does not exist"},
+            {"vertex 0", points + "f 0 1 2\n", 0, "does not exist"},
+            {"before the first", points + "f -4 -2 -1\n", 0, "does not exist"},
+            {"huge index", points + "f 1 2 2147483647\n", 0, "does not exist"},
+            {"words for indices", points + "f a b/c //\n", 0, "does not exist"},
+            {"NaN", "v nan 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 3\n", 0, "Line 1 "},
+            {"infinity", "v 0 0 0\nv inf 0 0\nv 0 1 0\nf 1 2 3\n", 0, "Line 2 "},
+            {"too large", "v 1e38 0 0\nv 1e999 0 0\nv 0 1 0\nf 1 2 3\n", 0, "too large"},
+            {"binary", QByteArray("v \0\1\2", 5), 0, "no text"},
+            {"noise", QByteArray(5000, '\xF3') + '\n' + QByteArray(5000, '/') + "\nf " + QByteArray(5000, '/'), 0, ""},
+            {"a million faces and one", points + many, 0, "1000000"},
+            {"one face of a million", points + "f" + QByteArray(" 1 2 3").repeated(400'000) + '\n', 0, "1000000"}};
+        for (const auto &[name, text, triangles, word] : rows) {
+            QString error;
+            const auto mesh = ObjReader::read(write(QStringLiteral("模型 ü/a.obj"), text), &error);
+            QVERIFY2(mesh.has_value() == (triangles > 0) && error.isEmpty() == (triangles > 0), name);
+            QVERIFY2(error.contains(QLatin1String(word)), name);
+            if (!mesh)
+                continue;
+            QVERIFY2(mesh->vertices.size() == triangles * 3 * TriangleMesh::kStride, name);
+            QVERIFY2(mesh->minimum == QVector3D(0, 0, 0) && mesh->maximum == QVector3D(2, 4, 0), name);
+            const auto *floats = reinterpret_cast<const float *>(mesh->vertices.constData());
+            QVERIFY2(QVector3D(floats[3], floats[4], floats[5]) == QVector3D(0, 0, 1), name);
+        }
     }
 
     void meshesAreCheckedBeforeTheyAreShown()
     {
-        QFile built(QStringLiteral(":/modelscenes/cube/meshes/face_up.mesh"));
-        QVERIFY(built.open(QIODevice::ReadOnly));
-        const QByteArray good = built.readAll();
+        const QByteArray good = readFile(QStringLiteral(":/modelscenes/cube/meshes/face_up.mesh"));
         const auto errorOf = [this](const QByteArray &bytes) {
             MeshFile file;
             file.setSource(QUrl::fromLocalFile(write(QStringLiteral("模型/a.mesh"), bytes)));

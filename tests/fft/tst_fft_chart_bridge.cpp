@@ -8,6 +8,7 @@
 #include <limits>
 
 #include "fft/fft_chart_bridge.h"
+#include "support/files.h"
 
 using namespace Qt::StringLiterals;
 
@@ -111,52 +112,32 @@ private slots:
         QVERIFY(bridge.queryCursor(kNan).isEmpty());
     }
 
-    void cursors_data()
-    {
-        QTest::addColumn<double>("frequency");
-        QTest::addColumn<QVariantList>("wanted");
-        QTest::addRow("0 Hz, not the anchor") << -3.0 << QVariantList{0.0, 1000.0, 1000.0, 1000.0};
-        QTest::addRow("nearest below") << 10.4 << QVariantList{10.0, 4.0, 40.0, 0.0};
-        QTest::addRow("nearest above") << 19.6 << QVariantList{20.0, 2.0, 20.0, 0.0};
-        QTest::addRow("beyond the end") << 1e9 << QVariantList{63.0, 0.0, 0.0, 0.0};
-    }
     void cursors()
     {
-        QFETCH(double, frequency);
         FftChartBridge bridge;
-        QVERIFY(bridge.queryCursor(frequency).isEmpty());
+        QVERIFY(bridge.queryCursor(10).isEmpty());
         commit(bridge, 40);
-        const QVariantMap found = bridge.queryCursor(frequency);
-        QTEST((QVariantList{found[u"frequency"_s], found[u"xAmplitude"_s], found[u"yAmplitude"_s],
-                            found[u"zAmplitude"_s]}),
-              "wanted");
+        const std::pair<double, QVariantList> rows[] = {{-3, {0.0, 1000.0, 1000.0, 1000.0}}, // 0 Hz, not the anchor
+                                                        {10.4, {10.0, 4.0, 40.0, 0.0}},
+                                                        {19.6, {20.0, 2.0, 20.0, 0.0}},
+                                                        {1e9, {63.0, 0.0, 0.0, 0.0}}};
+        for (const auto &[frequency, wanted] : rows) {
+            const QVariantMap found = bridge.queryCursor(frequency);
+            QCOMPARE((QVariantList{found[u"frequency"_s], found[u"xAmplitude"_s], found[u"yAmplitude"_s],
+                                   found[u"zAmplitude"_s]}),
+                     wanted);
+        }
     }
 
-    void bands_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<double>("low");
-        QTest::addColumn<double>("high");
-        QTest::addColumn<int>("bands"); // custom ones afterwards
-        QTest::addRow("good") << " shaft " << 5.0 << 15.0 << 1;
-        QTest::addRow("blank") << "  " << 1.0 << 2.0 << 0;
-        QTest::addRow("empty range") << "A" << 5.0 << 5.0 << 0;
-        QTest::addRow("reversed") << "A" << 6.0 << 5.0 << 0;
-        QTest::addRow("not a number") << "A" << kNan << 5.0 << 0;
-        QTest::addRow("infinite") << "A" << 1.0 << kInfinite << 0;
-    }
     void bands()
     {
-        QFETCH(QString, name);
-        QFETCH(double, low);
-        QFETCH(double, high);
-        QFETCH(int, bands);
         FftChartBridge bridge;
         commit(bridge, 40);
-        QCOMPARE(bridge.tryCustomBand(name, low, high).isEmpty(), bands == 1);
-        QCOMPARE(bridge.hasCustomBands(), bands == 1);
-        if (bands == 0)
-            return;
+        const std::tuple<const char *, double, double> refused[] = {
+            {"  ", 1, 2}, {"A", 5, 5}, {"A", 6, 5}, {"A", kNan, 5}, {"A", 1, kInfinite}};
+        for (const auto &[name, low, high] : refused)
+            QVERIFY(!bridge.tryCustomBand(QLatin1String(name), low, high).isEmpty() && !bridge.hasCustomBands());
+        QVERIFY(bridge.tryCustomBand(u" shaft "_s, 5, 15).isEmpty() && bridge.hasCustomBands());
         bridge.setCustomBand(u"shaft"_s, 15, 25); // new edges
         QCOMPARE(bridge.bandPowers().size(), 1);
         QCOMPARE(bridge.bandPowers().at(0).name, u"shaft"_s);
@@ -271,44 +252,31 @@ private slots:
         QCOMPARE(summary[u"profileHash"_s].toString(), bridge.profileHash());
     }
 
-    void imports_data()
-    {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<bool>("accepted");
-        const QByteArray snapshot = FftChartBridge().exportSnapshotJson().toUtf8();
-        QTest::addRow("empty") << QByteArray() << false;
-        QTest::addRow("truncated") << snapshot.left(snapshot.size() / 2) << false;
-        QTest::addRow("an array") << QByteArray("[]") << false;
-        QTest::addRow("nested too deeply") << QByteArray(100000, '[') << false;
-        QTest::addRow("nested objects") << QByteArray("{\"meta\":").repeated(100000) << false;
-        QTest::addRow("binary") << QByteArray("\x00\xff\xfe{\x80}", 6) << false;
-        QTest::addRow("huge") << "{}" + QByteArray(fft_snapshot::kMaxImportLength, ' ') << false;
-        QTest::addRow("without meta") << QByteArray("{\"version\":1}") << true;
-        QTest::addRow("other types") << QByteArray("{\"meta\":{\"fftSize\":\"x\",\"sampleRate\":1e300}}") << true;
-    }
     void imports()
     {
-        QFETCH(QByteArray, text);
-        QFETCH(bool, accepted);
+        const QByteArray snapshot = FftChartBridge().exportSnapshotJson().toUtf8();
+        const std::tuple<const char *, QByteArray, bool> rows[] = {
+            {"empty", {}, false},
+            {"truncated", snapshot.left(snapshot.size() / 2), false},
+            {"an array", "[]", false},
+            {"nested too deeply", QByteArray(100000, '['), false},
+            {"nested objects", QByteArray("{\"meta\":").repeated(100000), false},
+            {"binary", QByteArray("\x00\xff\xfe{\x80}", 6), false},
+            {"huge", "{}" + QByteArray(fft_snapshot::kMaxImportLength, ' '), false},
+            {"without meta", "{\"version\":1}", true},
+            {"other types", "{\"meta\":{\"fftSize\":\"x\",\"sampleRate\":1e300}}", true}};
         const QTemporaryDir folder;
-        const QString path = folder.filePath(u"snapshot.json"_s);
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
-        file.close();
+        for (const auto &[name, text, accepted] : rows) {
+            const QString path = folder.filePath(u"snapshot.json"_s);
+            QVERIFY(writeFile(path, text));
+            QString error;
+            const QVariantMap map = fft_snapshot::readFile(path, error);
+            QVERIFY2(map == FftChartBridge().importSnapshotJson(QString::fromUtf8(text)), name);
+            QVERIFY2(map.isEmpty() == !accepted && error.isEmpty(), name); // it could be read
+            QVERIFY2(map.value(u"fftSize"_s, 0).toInt() == 0 && map.value(u"sampleRate"_s, 0).toInt() == 0, name);
+        }
         QString error;
-        const QVariantMap map = fft_snapshot::readFile(path, error);
-        QCOMPARE(map, FftChartBridge().importSnapshotJson(QString::fromUtf8(text)));
-        QCOMPARE(map.isEmpty(), !accepted);
-        QVERIFY(error.isEmpty()); // it could be read
-        QCOMPARE(map.value(u"fftSize"_s, 0).toInt(), 0);
-        QCOMPARE(map.value(u"sampleRate"_s, 0).toInt(), 0);
-    }
-
-    void unreadableFile()
-    {
-        QString error;
-        QVERIFY(fft_snapshot::readFile(u"missing/a.json"_s, error).isEmpty());
-        QVERIFY(!error.isEmpty());
+        QVERIFY(fft_snapshot::readFile(u"missing/a.json"_s, error).isEmpty() && !error.isEmpty());
     }
 };
 

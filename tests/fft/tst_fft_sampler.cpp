@@ -62,40 +62,33 @@ class TestFftSampler : public QObject
     Q_OBJECT
 
 private slots:
-    void rates_data()
-    {
-        QTest::addColumn<QList<quint32>>("stamps");
-        QTest::addColumn<int>("givenHz");
-        QTest::addColumn<int>("rateHz");
-        QTest::addRow("told") << QList<quint32>{1000} << 250 << 250;
-        QTest::addRow("one sample tells nothing") << QList<quint32>{1000} << 0 << 0;
-        QTest::addRow("estimated") << QList<quint32>{1000, 1010, 1020, 1031} << 0 << 97;
-        QTest::addRow("slower than 1 Hz") << QList<quint32>{1000, 61000} << -1 << 1;
-        QTest::addRow("stamps that stand still") << QList<quint32>{1000, 1000, 1000} << 0 << 1000;
-        QTest::addRow("stamps that run back") << QList<quint32>{5000, 4000, 4500, 5001} << 0 << 1000;
-        QTest::addRow("the ring knows the newest 8 only")
-            << QList<quint32>{10, 20, 30, 40, 45, 50, 55, 60, 65, 70, 75} << 0 << 200;
-        // 20 ms pass between samples on the host's clock, which stands in for stamps of 0.
-        QTest::addRow("no clock") << QList<quint32>{0, 0, 0} << 0 << 50;
-        QTest::addRow("clock that stops") << QList<quint32>{7000, 7020, 0, 0} << 0 << 50;
-    }
     void rates()
     {
-        QFETCH(QList<quint32>, stamps);
-        QFETCH(int, givenHz);
-        qint64 hostMs = 100;
-        FftSampler sampler([&hostMs] { return hostMs; });
-        sampler.reset(8);
-        int changes = 0;
-        for (const quint32 stamp : stamps) {
-            const int before = sampler.currentRateHz();
-            const bool changed = sampler.append(sample(stamp, 1), givenHz);
-            QCOMPARE(changed, sampler.currentRateHz() != before);
-            changes += changed;
-            hostMs += 20;
+        const std::tuple<const char *, QList<quint32>, int, int> rows[] = {
+            {"told", {1000}, 250, 250},
+            {"one sample tells nothing", {1000}, 0, 0},
+            {"estimated", {1000, 1010, 1020, 1031}, 0, 97},
+            {"slower than 1 Hz", {1000, 61000}, -1, 1},
+            {"stamps that stand still", {1000, 1000, 1000}, 0, 1000},
+            {"stamps that run back", {5000, 4000, 4500, 5001}, 0, 1000},
+            {"the ring knows the newest 8 only", {10, 20, 30, 40, 45, 50, 55, 60, 65, 70, 75}, 0, 200},
+            // 20 ms pass between samples on the host's clock, which stands in for stamps of 0.
+            {"no clock", {0, 0, 0}, 0, 50},
+            {"clock that stops", {7000, 7020, 0, 0}, 0, 50}};
+        for (const auto &[name, stamps, givenHz, rateHz] : rows) {
+            qint64 hostMs = 100;
+            FftSampler sampler([&hostMs] { return hostMs; });
+            sampler.reset(8);
+            int changes = 0;
+            for (const quint32 stamp : stamps) {
+                const int before = sampler.currentRateHz();
+                const bool changed = sampler.append(sample(stamp, 1), givenHz);
+                QVERIFY2(changed == (sampler.currentRateHz() != before), name);
+                changes += changed;
+                hostMs += 20;
+            }
+            QVERIFY2(sampler.currentRateHz() == rateHz && (changes > 0) == (rateHz > 0), name);
         }
-        QTEST(sampler.currentRateHz(), "rateHz");
-        QCOMPARE(changes > 0, sampler.currentRateHz() > 0);
     }
 
     void resetForgetsTheClock()
@@ -155,22 +148,16 @@ private slots:
         QCOMPARE(sampler.nextBatch()->samples[0], (QList<double>{6000, 1000, 1000, 1000}));
     }
 
-    void latencyAndHealth_data()
+    void health()
     {
-        QTest::addColumn<FftTelemetry>("telemetry");
-        QTest::addColumn<double>("health");
-        QTest::addRow("perfect") << FftTelemetry{} << 1.0;
-        QTest::addRow("dropped") << FftTelemetry{4, 0, 0, 0, 20} << 0.8;
-        QTest::addRow("clipped") << FftTelemetry{0, 7, 0, 0, 0} << 0.93;
-        QTest::addRow("late") << FftTelemetry{0, 0, 0, 0, 35} << 0.85;
-        QTest::addRow("all at their caps") << FftTelemetry{1000, 1000, 1, 0, 9000} << 0.0;
-        QTest::addRow("caps without lateness") << FftTelemetry{1000, 1000} << 0.3;
-    }
-    void latencyAndHealth()
-    {
-        QFETCH(FftTelemetry, telemetry);
-        QFETCH(double, health);
-        QVERIFY(std::abs(telemetry.health() - health) < 1e-12);
+        const std::pair<FftTelemetry, double> rows[] = {{{}, 1.0},
+                                                        {{4, 0, 0, 0, 20}, 0.8},
+                                                        {{0, 7, 0, 0, 0}, 0.93},
+                                                        {{0, 0, 0, 0, 35}, 0.85},
+                                                        {{1000, 1000, 1, 0, 9000}, 0.0}, // all at their caps
+                                                        {{1000, 1000}, 0.3}};
+        for (const auto &[telemetry, health] : rows)
+            QVERIFY2(std::abs(telemetry.health() - health) < 1e-12, qPrintable(QString::number(health)));
     }
 
     void latencies()
@@ -188,47 +175,32 @@ private slots:
         QCOMPARE((QList{t.lastLatencyMs, t.meanLatencyMs, t.maxLatencyMs}), (QList{20.0, 20.0, 30.0}));
     }
 
-    void holds_data()
-    {
-        QTest::addColumn<int>("mode");
-        QTest::addColumn<QList<double>>("amplitudes");
-        QTest::addRow("live") << 0 << QList<double>{4, 1, 7, 2};
-        QTest::addRow("max") << 1 << QList<double>{4, 4, 7, 7};
-        QTest::addRow("avg") << 2 << QList<double>{4, 2.5, 4, 3.5};
-    }
     void holds()
     {
-        QFETCH(int, mode);
-        FftSampler sampler;
-        sampler.setHoldMode(FftHoldMode(mode));
-        sampler.append(sample(1, 1), 100);
-        QTEST(shown(sampler, {flat(4), flat(1), flat(7), flat(2)}), "amplitudes");
-        QCOMPARE(shown(sampler, {flat(1, 8)}), QList<double>{1}); // another length starts anew
-        sampler.reset(8);
-        sampler.append(sample(1, 1), 100);
-        QCOMPARE(shown(sampler, {flat(0.5, 8)}), QList<double>{0.5});
+        const QList<double> rows[] = {{4, 1, 7, 2}, {4, 4, 7, 7}, {4, 2.5, 4, 3.5}}; // live, maximum, average
+        for (int mode = 0; mode < 3; ++mode) {
+            FftSampler sampler;
+            sampler.setHoldMode(FftHoldMode(mode));
+            sampler.append(sample(1, 1), 100);
+            QCOMPARE(shown(sampler, {flat(4), flat(1), flat(7), flat(2)}), rows[mode]);
+            QCOMPARE(shown(sampler, {flat(1, 8)}), QList<double>{1}); // another length starts anew
+            sampler.reset(8);
+            sampler.append(sample(1, 1), 100);
+            QCOMPARE(shown(sampler, {flat(0.5, 8)}), QList<double>{0.5});
+        }
     }
 
-    void clipping_data()
-    {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<float>("value");
-        QTest::addColumn<int>("clipped");
-        QTest::addRow("acceleration below") << 0 << 15.999F << 0;
-        QTest::addRow("acceleration at the limit") << 0 << -16.0F << 1;
-        QTest::addRow("angular velocity below") << 1 << 999.9F << 0;
-        QTest::addRow("angular velocity at the limit") << 1 << 1000.0F << 1;
-        QTest::addRow("not a number") << 0 << kNan << 1;
-        QTest::addRow("infinite") << 1 << -kInfinite << 1;
-    }
     void clipping()
     {
-        QFETCH(int, type);
-        QFETCH(float, value);
-        FftSampler sampler;
-        sampler.setSpectrumType(FftSpectrumType(type));
-        sampler.append(sample(1, 0, value), 100);
-        QTEST(sampler.telemetry().clippedSamples, "clipped");
+        // Type, value and whether it is clipped: beyond 16 G or 1000 deg/s, or no finite number.
+        const std::tuple<int, float, int> rows[] = {{0, 15.999F, 0}, {0, -16.0F, 1}, {1, 999.9F, 0},
+                                                    {1, 1000.0F, 1}, {0, kNan, 1},   {1, -kInfinite, 1}};
+        for (const auto &[type, value, clipped] : rows) {
+            FftSampler sampler;
+            sampler.setSpectrumType(FftSpectrumType(type));
+            sampler.append(sample(1, 0, value), 100);
+            QVERIFY2(sampler.telemetry().clippedSamples == clipped, qPrintable(QString::number(double(value))));
+        }
     }
 
     void badSamplesPoisonNothing()

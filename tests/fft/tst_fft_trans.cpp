@@ -10,7 +10,6 @@
 #include <random>
 
 #include "fft/fft_trans.h"
-#include "fft/peak_analysis.h"
 
 namespace {
 
@@ -61,20 +60,9 @@ class TestFftTrans : public QObject
 {
     Q_OBJECT
 
-private slots:
-    void agreesWithReference_data()
+private:
+    static void agrees(int points, int window)
     {
-        QTest::addColumn<int>("points");
-        QTest::addColumn<int>("window");
-        for (int points = 8; points <= 8192; points *= 2) {
-            for (int window = 0; window < 5; ++window)
-                QTest::addRow("%d points, %s", points, qPrintable(fftWindowNames().at(window))) << points << window;
-        }
-    }
-    void agreesWithReference()
-    {
-        QFETCH(int, points);
-        QFETCH(int, window);
         const QList<double> samples = noise(points);
         std::vector<double> in;
         double gain = 0;
@@ -101,77 +89,41 @@ private slots:
             const double share = std::abs(got.at(k).y() - wanted) / wanted;
             // A bin that all but cancels out has no more digits than the sum it comes from.
             const bool cancelled = std::abs(out[size_t(k)]) < 1e-5 * largest;
-            QVERIFY2(cancelled || share <= 1e-9, qPrintable(QStringLiteral("bin %1: %2").arg(k).arg(share)));
+            const QString place =
+                QStringLiteral("window %1, bin %2 of %3: %4").arg(window).arg(k).arg(points).arg(share);
+            QVERIFY2(cancelled || share <= 1e-9, qPrintable(place));
             QCOMPARE(got.at(k).x(), k * 1000.0 / points);
         }
     }
 
-    void tones_data()
+private slots:
+    void agreesWithReference()
     {
-        // A tone between bins reads low by the window's scalloping, textbook values in dB (negative).
-        QTest::addColumn<int>("window");
-        QTest::addColumn<double>("scallopingDb");
-        QTest::addRow("rectangular") << 0 << -3.92;
-        QTest::addRow("hann") << 1 << -1.42;
-        QTest::addRow("hamming") << 2 << -1.75;
-        QTest::addRow("blackman") << 3 << -1.10;
-        QTest::addRow("flat top") << 4 << -0.01;
-    }
-    void tones()
-    {
-        QFETCH(int, window);
-        QFETCH(double, scallopingDb);
-        FftTrans engine;
-        engine.initSize(1024);
-        engine.setWindowType(FftWindowType(window));
-        QVERIFY(std::abs(spectrum(engine, tone(1024, 100, 250)).at(100).y() - 250) < 250 * 2e-3);
-        QVERIFY(std::abs(spectrum(engine, QList<double>(1024, -42.0)).at(0).y() - 42) < 1e-9);
-        const double between = spectrum(engine, tone(1024, 100.5, 250)).at(100).y();
-        QVERIFY2(std::abs(20 * std::log10(between / 250) - scallopingDb) < 0.03, qPrintable(QString::number(between)));
-    }
-
-    void refinedPeakOfHannTone()
-    {
-        // A parabola does not fit the window's main lobe: the error is largest at a quarter of a bin and just beyond 5
-        // %.
-        FftTrans engine;
-        engine.initSize(1024);
-        engine.setWindowType(FftWindowType::Hann);
-        double worstBins = 0;
-        double worstShare = 0;
-        for (int step = 0; step < 200; ++step) {
-            const double bin = 200 + step / 200.0;
-            const QList<QPointF> points = spectrum(engine, tone(1024, bin, 100), 1024);
-            const FftPeakSummary peak = peak_analysis::findPeak(peak_analysis::withoutAnchor(points), 0);
-            worstBins = std::max(worstBins, std::abs(peak.frequency - bin));
-            worstShare = std::max(worstShare, std::abs(peak.amplitude / 100 - 1));
+        for (int points = 8; points <= 8192; points *= 2) {
+            for (int window = 0; window < 5; ++window)
+                agrees(points, window);
         }
-        qInfo("worst: %.4f bin, %.2f %% of the amplitude", worstBins, worstShare * 100);
-        QVERIFY(worstBins < 0.0535);
-        QVERIFY(worstShare < 0.075);
     }
 
-    void blocks_data()
-    {
-        QTest::addColumn<QList<double>>("samples");
-        QTest::addColumn<double>("mean");
-        const double nan = std::numeric_limits<double>::quiet_NaN();
-        const double infinite = std::numeric_limits<double>::infinity();
-        QTest::addRow("none") << QList<double>{} << 0.0;
-        QTest::addRow("short is followed by zeros") << QList<double>{8, 8} << 2.0;
-        QTest::addRow("long loses its oldest") << QList<double>{1e9, 1e9, 1, 1, 1, 1, 1, 1, 1, 1} << 1.0;
-        QTest::addRow("not finite is 0") << QList<double>{nan, infinite, -infinite, 2, 2, 2, 2, 0} << 1.0;
-    }
     void blocks()
     {
-        QFETCH(QList<double>, samples);
-        FftTrans engine;
-        engine.initSize(8);
-        spectrum(engine, QList<double>(8, 1e6)); // leaves nothing behind
-        const QList<QPointF> got = spectrum(engine, samples);
-        QTEST(got.at(0).y(), "mean");
-        for (const QPointF point : got)
-            QVERIFY(std::isfinite(point.y()));
+        const double nan = std::numeric_limits<double>::quiet_NaN();
+        const double infinite = std::numeric_limits<double>::infinity();
+        const std::tuple<const char *, QList<double>, double> rows[] = {
+            // samples and their mean
+            {"none", {}, 0},
+            {"short is followed by zeros", {8, 8}, 2},
+            {"long loses its oldest", {1e9, 1e9, 1, 1, 1, 1, 1, 1, 1, 1}, 1},
+            {"not finite is 0", {nan, infinite, -infinite, 2, 2, 2, 2, 0}, 1}};
+        for (const auto &[name, samples, mean] : rows) {
+            FftTrans engine;
+            engine.initSize(8);
+            spectrum(engine, QList<double>(8, 1e6)); // leaves nothing behind
+            const QList<QPointF> got = spectrum(engine, samples);
+            QVERIFY2(std::abs(got.at(0).y() - mean) < 1e-12, name);
+            for (const QPointF point : got)
+                QVERIFY2(std::isfinite(point.y()), name);
+        }
     }
 
     void sizes()

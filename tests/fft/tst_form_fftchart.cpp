@@ -17,21 +17,14 @@
 #include "fft/fft_files.h"
 #include "fft/form_fftchart.h"
 #include "fft/spectrum_view_state.h"
+#include "support/files.h"
+#include "support/open_dialog.h"
+#include "support/pixels.h"
 #include "support/quick_items.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-template <typename T> T *topLevel()
-{
-    T *found = nullptr;
-    for (QWidget *widget : QApplication::topLevelWidgets()) {
-        if (auto *candidate = qobject_cast<T *>(widget))
-            found = candidate;
-    }
-    return found;
-}
 
 /// The window on the screen, and what a user does in it.
 struct Bench
@@ -157,25 +150,20 @@ private slots:
         QTRY_VERIFY(std::abs(bench.bridge().dominantPeakAmplitude() - 25) < 0.01);
     }
 
-    void windowsReadTheTone_data()
-    {
-        QTest::addColumn<int>("window");
-        for (int window = 0; window < 5; ++window)
-            QTest::addRow("%d", window) << window;
-    }
     void windowsReadTheTone()
     {
-        QFETCH(int, window);
-        Bench bench;
-        bench.choose("CB_window", window);
-        bench.feed(512, 0.25F);
-        bench.start();
-        QTRY_VERIFY(std::abs(bench.bridge().dominantPeakAmplitude() - 250) < 2);
-        QCOMPARE(bench.bridge().windowName(), fftWindowNames().at(window));
-        // The bin beside the tone shows which window the engine took.
-        const QList<double> leakage = fftWindowLeakage(fftWindowNames().at(window));
-        const double beside = bench.bridge().getPoints(1).at(1 + 64 + 1).y(); // behind the anchor
-        QVERIFY2(std::abs(beside - 250 * leakage.value(0) / 2) < 5, qPrintable(QString::number(beside)));
+        for (int window = 0; window < 5; ++window) {
+            Bench bench;
+            bench.choose("CB_window", window);
+            bench.feed(512, 0.25F);
+            bench.start();
+            QTRY_VERIFY(std::abs(bench.bridge().dominantPeakAmplitude() - 250) < 2);
+            QCOMPARE(bench.bridge().windowName(), fftWindowNames().at(window));
+            // The bin beside the tone shows which window the engine took.
+            const QList<double> leakage = fftWindowLeakage(fftWindowNames().at(window));
+            const double beside = bench.bridge().getPoints(1).at(1 + 64 + 1).y(); // behind the anchor
+            QVERIFY2(std::abs(beside - 250 * leakage.value(0) / 2) < 5, qPrintable(QString::number(beside)));
+        }
     }
 
     void closingAbandonsTheBatch()
@@ -305,17 +293,13 @@ private slots:
         const QSizeF chart = bench.item("chart")->size() * bench.view->devicePixelRatio();
         bench.click("savePicture");
         QFileDialog *dialog = nullptr;
-        QTRY_VERIFY_WITH_TIMEOUT((dialog = topLevel<QFileDialog>()) && dialog->isVisible(), 20000);
+        QTRY_VERIFY_WITH_TIMEOUT((dialog = openDialog<QFileDialog>()), 20000);
         emit dialog->fileSelected(m_folder.filePath(u"spectrum.png"_s));
         const QImage image(u"spectrum.png"_s);
         QCOMPARE(image.size(), chart.toSize());
-        int green = 0; // the tone is on Y
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                const QColor color = image.pixelColor(x, y);
-                green += color.green() > color.red() + 60 && color.green() > color.blue() + 30;
-            }
-        }
+        const int green = countPixels(image, [](const QColor &color) { // the tone is on Y
+            return color.green() > color.red() + 60 && color.green() > color.blue() + 30;
+        });
         QVERIFY2(green > 200, qPrintable(QString::number(green)));
         dialog->close();
     }
@@ -324,17 +308,13 @@ private slots:
     {
         Bench bench;
         auto *files = bench.window.findChild<FftFiles *>();
-        const auto write = [](const QString &name, const QString &text) {
-            QFile file(name);
-            return file.open(QIODevice::WriteOnly) && file.write(text.toUtf8()) > 0;
-        };
-        QVERIFY(write(u"bad.json"_s, u"[1, 2"_s));
+        QVERIFY(writeFile(u"bad.json"_s, "[1, 2"));
         files->showSnapshot(u"bad.json"_s);
         QVERIFY(files->hasFailed() && !files->message().isEmpty());
-        QVERIFY(write(u"good.json"_s, bench.bridge().exportSnapshotJson()));
+        QVERIFY(writeFile(u"good.json"_s, bench.bridge().exportSnapshotJson().toUtf8()));
         files->showSnapshot(u"good.json"_s);
         QVERIFY(files->message().isEmpty());
-        auto *box = topLevel<QMessageBox>();
+        auto *box = openDialog<QMessageBox>();
         if (!box)
             QFAIL("no box");
         QVERIFY(box->text().contains("the same as now"_L1));
@@ -344,7 +324,7 @@ private slots:
         bench.start();
         QTRY_VERIFY(bench.bridge().hasData());
         files->saveCsv();
-        auto *dialog = topLevel<QFileDialog>();
+        auto *dialog = openDialog<QFileDialog>();
         if (!dialog)
             QFAIL("no dialog");
         emit dialog->fileSelected(m_folder.filePath(u"missing/spectrum.csv"_s));

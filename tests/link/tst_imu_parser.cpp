@@ -81,69 +81,64 @@ class TestImuParser : public QObject
     Q_OBJECT
 
 private slots:
-    void payloads_data()
+    void payloads()
     {
-        QTest::addColumn<QByteArray>("payload");
-        QTest::addColumn<QByteArray>("expected");
-        const auto row = [](const char *name, const QByteArray &payload, const QByteArray &expected) {
-            QTest::newRow(name) << payload << expected;
-        };
         const QByteArray acc = hex("A0 E8 03 18 FC 0A 00");
         const QByteArray accText = "acc=1,-1,0.01";
         const QByteArray angles = hex("D0 10 27 E8 03 08 07");
 
-        row("empty", {}, "4 []: ");
-        row("user id", hex("90 2A"), "4 [90]: id=0");
-        row("compact record", kCompact, "0 [93] q: id=9 " + kCompactText + kCompactQuat);
-        row("small items are one sample", kSmallItems,
-            "4 [a0 b0 c0 d0 d1 f0] q e: id=0 acc=32.767,-32.768,0.001 gyr=1,-1,0.1 mag=50,-50,0.1 p=101325 "
-            "rpy=10,100,180 quat=1,0.5,-0.5,0 q e");
-        row("filler is skipped whole", '\x60' + QByteArray(32, '\xF0') + acc, "4 [a0]: id=0 " + accText);
-        row("foreign bytes are stepped over", hex("00 01 92 FF") + acc + hex("EE A1"), "4 [a0]: id=0 " + accText);
-        row("acceleration, then full record", acc + kFull, "0 [a0 91] q e: " + kFullText);
-        row("compact record keeps temperature and pressure alone", kFull + kCompact,
-            "0 [91 93] q: id=9 t=-5 " + kCompactText + " p=101325" + kCompactQuat);
-        row("angles after a compact record", kCompact + angles,
-            "0 [93 d0] q e: id=9 " + kCompactText + " rpy=10,100,180" + kCompactQuat + " e");
-        row("NaN, infinities and the largest float go through",
-            hex("D1 00 00 C0 7F 00 00 80 7F 00 00 80 FF FF FF 7F 7F") + hex("F0 01 00 C0 FF"),
-            "4 [d1 f0] q: id=0 p=nan quat=nan,inf,-inf,3.40282e+38 q");
-
-        // Items that come too short.
-        row("short full record is all zero", hex("F0 00 50 C3 47") + kFull.left(75), "0 [f0 91] q e: id=0 q e");
-        row("short full record has the user id", hex("90 2A") + kFull.left(4), "0 [90 91] q e: id=42 q e");
-        row("short compact record is zero", acc + kCompact.left(27), "0 [a0 93] q: id=0 q");
-        row("short triple first", hex("A0 E8 03 00 00 00"), "4 [a0]: id=0");
-        row("short triple takes the raw values before it", acc + hex("D0"),
-            "4 [a0 d0] e: id=0 " + accText + " rpy=-10,10,1 e");
-        row("short rate after angles", angles + hex("B1 01"), "4 [d0 b1] e: id=0 gyr=1000,100,180 rpy=10,100,180 e");
-        row("short quaternion still counts", hex("D1 00 00 80 3F"), "4 [d1] q: id=0 q");
-        row("short pressure keeps the value", hex("F0 00 50 C3 47") + hex("F0 01 02 03"), "4 [f0 f0]: id=0 p=100000");
-        row("short filler", hex("60 A0 E8 03"), "4 []: ");
-
-        // Batches. The 0x63 one has 123456 ms.
+        // The batch of compact records has 123456 ms.
         const QByteArray head62 = hex("62 0B 03 00 FF FF FF FF");
         const QByteArray head63 = hex("63 0B 02 00 40 E2 01 00");
         const QByteArray text63 = "ms=123456 " + kCompactText;
         const QByteArray node63 = "id=9 " + text63 + " rpy=10,-20,90" + kCompactQuat + " e";
-        row("0x62: three claimed, two whole, tags not checked", head62 + kFull + hex("00") + kFull.mid(1),
-            "1 [62] batch q e gw11@0: " + kFullText + "; " + kFullText);
-        row("0x63 takes temperature and pressure so far", kFull + head63 + kRecord63,
-            "2 [91 63] batch q e gw11@123456: id=9 t=-5 " + text63 + " p=101325 rpy=10,-20,90" + kCompactQuat + " e");
-        row("fewer claimed than sent: the rest is scanned", hex("63 0B 01 00 40 E2 01 00") + kRecord63 + kFull,
-            "0 [63 91] batch q e gw11@123456: " + node63);
-        row("no records claimed", hex("62 0B 00 00 00 00 00 00") + acc, "1 [62 a0] batch q e gw11@0: ");
-        row("first record does not fit: scanned", hex("62 0B FF 00 00 00 00 00") + acc, "1 [62 a0] batch q e gw11@0: ");
-        row("255 claimed, the last does not fit: scanned", hex("63 0B FF 00 40 E2 01 00") + kRecord63 + acc,
-            "2 [63 a0] batch q e gw11@123456: " + node63);
-        row("short batch header ends the scan", acc + hex("62 0B 01 00 F0 00 50"), "1 [a0 62]: id=0 " + accText);
-        row("two batches", head63 + kRecord63 + kRecord63 + hex("62 0C 01 00 01 00 00 00") + kFull,
-            "1 [63 62] batch q e gw12@123456: " + node63 + "; " + node63 + "; " + kFullText);
-    }
-    void payloads()
-    {
-        QFETCH(const QByteArray, payload);
-        QTEST(describe(ImuParser().parseFrame(payload)), "expected");
+        const std::tuple<const char *, QByteArray, QByteArray> rows[] = {
+            {"empty", {}, "4 []: "},
+            {"user id", hex("90 2A"), "4 [90]: id=0"},
+            {"compact record", kCompact, "0 [93] q: id=9 " + kCompactText + kCompactQuat},
+            {"small items are one sample", kSmallItems,
+             "4 [a0 b0 c0 d0 d1 f0] q e: id=0 acc=32.767,-32.768,0.001 gyr=1,-1,0.1 mag=50,-50,0.1 p=101325 "
+             "rpy=10,100,180 quat=1,0.5,-0.5,0 q e"},
+            {"filler is skipped whole", '\x60' + QByteArray(32, '\xF0') + acc, "4 [a0]: id=0 " + accText},
+            {"foreign bytes are stepped over", hex("00 01 92 FF") + acc + hex("EE A1"), "4 [a0]: id=0 " + accText},
+            {"acceleration, then full record", acc + kFull, "0 [a0 91] q e: " + kFullText},
+            {"compact record keeps temperature and pressure alone", kFull + kCompact,
+             "0 [91 93] q: id=9 t=-5 " + kCompactText + " p=101325" + kCompactQuat},
+            {"angles after a compact record", kCompact + angles,
+             "0 [93 d0] q e: id=9 " + kCompactText + " rpy=10,100,180" + kCompactQuat + " e"},
+            {"NaN, infinities and the largest float go through",
+             hex("D1 00 00 C0 7F 00 00 80 7F 00 00 80 FF FF FF 7F 7F") + hex("F0 01 00 C0 FF"),
+             "4 [d1 f0] q: id=0 p=nan quat=nan,inf,-inf,3.40282e+38 q"},
+            // Items that come too short.
+            {"short full record is all zero", hex("F0 00 50 C3 47") + kFull.left(75), "0 [f0 91] q e: id=0 q e"},
+            {"short full record has the user id", hex("90 2A") + kFull.left(4), "0 [90 91] q e: id=42 q e"},
+            {"short compact record is zero", acc + kCompact.left(27), "0 [a0 93] q: id=0 q"},
+            {"short triple first", hex("A0 E8 03 00 00 00"), "4 [a0]: id=0"},
+            {"short triple takes the raw values before it", acc + hex("D0"),
+             "4 [a0 d0] e: id=0 " + accText + " rpy=-10,10,1 e"},
+            {"short rate after angles", angles + hex("B1 01"), "4 [d0 b1] e: id=0 gyr=1000,100,180 rpy=10,100,180 e"},
+            {"short quaternion still counts", hex("D1 00 00 80 3F"), "4 [d1] q: id=0 q"},
+            {"short pressure keeps the value", hex("F0 00 50 C3 47") + hex("F0 01 02 03"), "4 [f0 f0]: id=0 p=100000"},
+            {"short filler", hex("60 A0 E8 03"), "4 []: "},
+            // Batches.
+            {"0x62: three claimed, two whole, tags not checked", head62 + kFull + hex("00") + kFull.mid(1),
+             "1 [62] batch q e gw11@0: " + kFullText + "; " + kFullText},
+            {"0x63 takes temperature and pressure so far", kFull + head63 + kRecord63,
+             "2 [91 63] batch q e gw11@123456: id=9 t=-5 " + text63 + " p=101325 rpy=10,-20,90" + kCompactQuat + " e"},
+            {"fewer claimed than sent: the rest is scanned", hex("63 0B 01 00 40 E2 01 00") + kRecord63 + kFull,
+             "0 [63 91] batch q e gw11@123456: " + node63},
+            {"no records claimed", hex("62 0B 00 00 00 00 00 00") + acc, "1 [62 a0] batch q e gw11@0: "},
+            {"first record does not fit: scanned", hex("62 0B FF 00 00 00 00 00") + acc,
+             "1 [62 a0] batch q e gw11@0: "},
+            {"255 claimed, the last does not fit: scanned", hex("63 0B FF 00 40 E2 01 00") + kRecord63 + acc,
+             "2 [63 a0] batch q e gw11@123456: " + node63},
+            {"short batch header ends the scan", acc + hex("62 0B 01 00 F0 00 50"), "1 [a0 62]: id=0 " + accText},
+            {"two batches", head63 + kRecord63 + kRecord63 + hex("62 0C 01 00 01 00 00 00") + kFull,
+             "1 [63 62] batch q e gw12@123456: " + node63 + "; " + node63 + "; " + kFullText}};
+        for (const auto &[name, payload, expected] : rows) {
+            const QByteArray found = describe(ImuParser().parseFrame(payload));
+            QVERIFY2(found == expected, (name + (": " + found)).constData());
+        }
     }
 
     void everyTruncation()

@@ -9,6 +9,7 @@
 
 #include "app/app_log.h"
 #include "link/kv_uart_port.h"
+#include "support/files.h"
 #include "support/frames.h"
 #include "support/pty_pair.h"
 
@@ -237,9 +238,7 @@ private slots:
         QVERIFY(port.errors.isEmpty());
         port.closeUART();
         // No session has started twice, for instance by a start that belonged to the one before.
-        QFile log(QStringLiteral("debug.log"));
-        QVERIFY(log.open(QIODevice::ReadOnly));
-        const QByteArray lines = log.readAll();
+        const QByteArray lines = readFile(QStringLiteral("debug.log"));
         QVERIFY(!lines.contains("[W]: "));
         QCOMPARE(lines.count("[I]: uart-thread stopped.\r\n"), 61);
         QVERIFY(lines.count(" started\r\n") <= 61);

@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include "link/stream_dispatcher.h"
+#include "support/files.h"
 
 namespace {
 
@@ -68,8 +69,7 @@ struct Stream : StreamDispatcher
 
 qsizetype logLines()
 {
-    QFile file(QStringLiteral("debug.log"));
-    return file.open(QIODevice::ReadOnly) ? file.readAll().count('\n') : 0;
+    return readFile(QStringLiteral("debug.log")).count('\n');
 }
 
 } // namespace

@@ -52,19 +52,25 @@ class TestStreamHealth : public QObject
     Q_OBJECT
 
 private slots:
-    void gaps_data()
+    void gaps()
     {
-        QTest::addColumn<Samples>("samples");
-        QTest::addColumn<quint64>("missing");
-        QTest::addColumn<quint32>("largestGapMs");
-        QTest::addColumn<quint64>("restarts");
-        const auto row = [](const QByteArray &name, const Samples &samples, int missing, int gapMs, int restarts = 0) {
-            QTest::newRow(name.constData()) << samples << quint64(missing) << quint32(gapMs) << quint64(restarts);
+        const auto row = [](const QByteArray &name, const Samples &samples, quint64 missing, quint32 gapMs,
+                            quint64 restarts = 0) {
+            StreamHealth health;
+            const qint64 before = QDateTime::currentMSecsSinceEpoch();
+            for (const Sample &sample : samples)
+                health.addFrame(moduleFrame(7, sample.stampMs), sample.hostMs);
+            const NodeHealth &node = health.node(7);
+            QVERIFY2(node.samples == quint64(samples.size()) && node.missing == missing, name);
+            QVERIFY2(node.largestGapMs == gapMs && node.restarts == restarts, name);
+            QVERIFY2((node.lastGapMs >= before) == (missing > 0), name);
+            QVERIFY2(node.hasClock == (samples.last().stampMs != 0), name);
+            QVERIFY2(health.total() == node && !health.isGateway(), name);
         };
         for (const int rateHz : {1, 2, 10, 50, 100, 200, 250, 400, 500, 1000}) {
             const QByteArray rate = QByteArray::number(rateHz) + " Hz, ";
             row(rate + "complete", run(rateHz, 0, 200), 0, 0);
-            row(rate + "three lost", run(rateHz, 0, 100) + run(rateHz, 103, 200), 3, 4000 / rateHz);
+            row(rate + "three lost", run(rateHz, 0, 100) + run(rateHz, 103, 200), 3, 4000 / quint32(rateHz));
             row(rate + "one lost, then four", run(rateHz, 0, 40) + run(rateHz, 41, 60) + run(rateHz, 64, 90), 5,
                 run(rateHz, 64, 65).first().stampMs - run(rateHz, 59, 60).first().stampMs);
         }
@@ -90,34 +96,16 @@ private slots:
         row("too few to know the rate", {{1000, 0}, {1010, 10}, {1500, 500}, {1510, 510}}, 0, 0);
         row("never a stamp", {{0, 0}, {0, 10}, {0, 500}}, 0, 0);
     }
-    void gaps()
-    {
-        QFETCH(const Samples, samples);
-        QFETCH(const quint64, missing);
-        StreamHealth health;
-        const qint64 before = QDateTime::currentMSecsSinceEpoch();
-        for (const Sample &sample : samples)
-            health.addFrame(moduleFrame(7, sample.stampMs), sample.hostMs);
-        const NodeHealth &node = health.node(7);
-        QCOMPARE(node.samples, quint64(samples.size()));
-        QCOMPARE(node.missing, missing);
-        QTEST(node.largestGapMs, "largestGapMs");
-        QTEST(node.restarts, "restarts");
-        QCOMPARE(node.lastGapMs >= before, missing > 0);
-        QCOMPARE(node.hasClock, samples.last().stampMs != 0);
-        QCOMPARE(health.total(), node);
-        QVERIFY(!health.isGateway());
-    }
 
-    void nodesOfAGateway_data()
-    {
-        QTest::addColumn<int>("family");
-        QTest::newRow("own clocks") << int(frame_family::GatewayBatch62);
-        QTest::newRow("the gateway's clock") << int(frame_family::GatewayBatch63);
-    }
     void nodesOfAGateway()
     {
-        QFETCH(const int, family);
+        checkGateway(frame_family::GatewayBatch62); // clocks of their own
+        checkGateway(frame_family::GatewayBatch63); // the gateway's clock
+    }
+
+private:
+    static void checkGateway(int family)
+    {
         StreamHealth health;
         quint32 ms = 5000;
         const auto batches = [&](int count, const QList<quint8> &ids) {
@@ -164,6 +152,7 @@ private slots:
         QCOMPARE(health.total(), NodeHealth());
     }
 
+private slots:
     void anyIds()
     {
         StreamHealth health;

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "simulator/bootloader.h"
+#include "support/files.h"
 #include "support/frames.h"
 
 using namespace kvsim;
@@ -16,6 +17,7 @@ using Verdict = BootFaults::Verdict;
 constexpr qint64 kMs = 1'000'000;
 constexpr quint32 kBase = 0x08000000;
 const QByteArray kPing = hex("5aa6");
+const QByteArray kPong = hex("5aa70302015000004a24");
 const QByteArray kAck = hex("5aa1");
 const QByteArray kNak = hex("5aa2");
 const QByteArray kAbort = hex("5aa3");
@@ -65,64 +67,51 @@ class TestSimBootloader : public QObject
     Q_OBJECT
 
 private slots:
-    void answers_data()
-    {
-        QTest::addColumn<QByteArray>("request");
-        QTest::addColumn<QByteArray>("answer");
-        const auto row = [](const char *name, const QByteArray &request, const QByteArray &answer) {
-            QTest::newRow(name) << request << answer;
-        };
-        const auto property = [&row](const char *name, quint32 tag, quint32 value, quint32 status = 0) {
-            row(name, words(7, {tag}), kAck + words(0xA7, {status, value}));
-        };
-        const QByteArray write = words(4, {kBase, 40});
-        const QByteArray begun = kAck + response(0, 4);
-        QByteArray damaged = words(7, {1});
-        damaged[12] = 'x';
-        row("ping", kPing, hex("5aa70302015000004a24"));
-        row("ping in noise", "AT+RST\r\n\xFF\x5A" + kPing + "\x5A", hex("5aa70302015000004a24"));
-        property("version", 0x01, 0x4B020103);
-        property("flash start", 0x03, kBase);
-        property("flash size", 0x04, 64 * 1024);
-        property("sector size", 0x05, 1024);
-        property("packet size", 0x0B, 32);
-        property("device id", 0x10, 0x1A2B3C4D);
-        property("unknown property", 0x77, 0, 10300);
-        row("unknown command", words(0x33, {1}), kAck + response(10000, 0x33));
-        row("too few parameters", words(2, {kBase}), kAck + response(4, 2));
-        row("empty command", frames::packet({}, 0xA4) + kPing, kAck + response(4, 0) + hex("5aa70302015000004a24"));
-        row("damaged", damaged + kPing, kNak + hex("5aa70302015000004a24"));
-        row("too long", frames::packet({}, 0xA5, 33), kNak);
-        row("erase", words(2, {kBase + 64 * 1024 - 1, 1}), kAck + response(0, 2));
-        row("erase all", words(1, {}), kAck + response(0, 1));
-        row("erase nothing", words(2, {0, 0}), kAck + response(0, 2));
-        row("erase too far", words(2, {kBase + 64 * 1024 - 1, 2}), kAck + response(10200, 2));
-        row("erase around", words(2, {kBase, 0xFFFFFFFF}), kAck + response(10200, 2));
-        row("erase elsewhere", words(2, {0x100010C0, 4}), kAck + response(10200, 2));
-        row("write too far", words(4, {0, 64 * 1024 + 1}), kAck + response(10200, 4));
-        row("write nothing", words(4, {kBase, 0}), kAck + response(0, 4));
-        row("data without a write", frames::packet("x"), kAbort);
-        row("data after its end",
-            write + frames::packet(pattern(20)) + frames::packet(pattern(20)) + frames::packet("x"),
-            begun + kAck + kAck + response(0, 4) + kAbort);
-        row("more data than announced",
-            write + frames::packet(pattern(20)) + frames::packet(pattern(21)) + frames::packet("x"),
-            begun + kAck + kAbort + kAbort);
-        row("a command ends the data phase", write + kPing + words(1, {}) + frames::packet("x"),
-            begun + hex("5aa70302015000004a24") + kAck + response(0, 1) + kAbort);
-        row("reset is the end", words(0x0B, {}) + kPing, kAck + response(0, 0x0B));
-    }
     void answers()
     {
-        QFETCH(QByteArray, request);
-        QFETCH(QByteArray, answer);
-        Target whole;
-        QCOMPARE(whole.ask(request).toHex(), answer.toHex());
-        Target inPieces;
-        QByteArray collected;
-        for (const char byte : request)
-            collected += inPieces.ask(QByteArray(1, byte));
-        QCOMPARE(collected.toHex(), answer.toHex());
+        const QByteArray write = words(4, {kBase, 40});
+        const QByteArray begun = kAck + response(0, 4);
+        const QByteArray x = frames::packet("x");
+        const QByteArray data = frames::packet(pattern(20));
+        QByteArray damaged = words(7, {1});
+        damaged[12] = 'x';
+        QList<std::tuple<const char *, QByteArray, QByteArray>> rows = {
+            {"ping", kPing, kPong},
+            {"ping in noise", "AT+RST\r\n\xFF\x5A" + kPing + "\x5A", kPong},
+            {"unknown command", words(0x33, {1}), kAck + response(10000, 0x33)},
+            {"too few parameters", words(2, {kBase}), kAck + response(4, 2)},
+            {"empty command", frames::packet({}, 0xA4) + kPing, kAck + response(4, 0) + kPong},
+            {"damaged", damaged + kPing, kNak + kPong},
+            {"too long", frames::packet({}, 0xA5, 33), kNak},
+            {"erase", words(2, {kBase + 64 * 1024 - 1, 1}), kAck + response(0, 2)},
+            {"erase all", words(1, {}), kAck + response(0, 1)},
+            {"erase nothing", words(2, {0, 0}), kAck + response(0, 2)},
+            {"erase too far", words(2, {kBase + 64 * 1024 - 1, 2}), kAck + response(10200, 2)},
+            {"erase around", words(2, {kBase, 0xFFFFFFFF}), kAck + response(10200, 2)},
+            {"erase elsewhere", words(2, {0x100010C0, 4}), kAck + response(10200, 2)},
+            {"write too far", words(4, {0, 64 * 1024 + 1}), kAck + response(10200, 4)},
+            {"write nothing", words(4, {kBase, 0}), kAck + response(0, 4)},
+            {"data without a write", x, kAbort},
+            {"data after its end", write + data + data + x, begun + kAck + kAck + response(0, 4) + kAbort},
+            {"too much data", write + data + frames::packet(pattern(21)) + x, begun + kAck + kAbort + kAbort},
+            {"a command ends the data phase", write + kPing + words(1, {}) + x,
+             begun + kPong + kAck + response(0, 1) + kAbort},
+            {"reset is the end", words(0x0B, {}) + kPing, kAck + response(0, 0x0B)}};
+        const std::tuple<const char *, quint32, quint32, quint32> properties[] = {
+            {"version", 0x01, 0x4B020103, 0},    {"flash start", 0x03, kBase, 0}, {"flash size", 0x04, 64 * 1024, 0},
+            {"sector size", 0x05, 1024, 0},      {"packet size", 0x0B, 32, 0},    {"device id", 0x10, 0x1A2B3C4D, 0},
+            {"unknown property", 0x77, 0, 10300}};
+        for (const auto &[name, tag, value, status] : properties)
+            rows.append({name, words(7, {tag}), kAck + words(0xA7, {status, value})});
+        for (const auto &[name, request, answer] : rows) {
+            Target whole;
+            QVERIFY2(whole.ask(request) == answer, name);
+            Target inPieces;
+            QByteArray collected;
+            for (const char byte : request)
+                collected += inPieces.ask(QByteArray(1, byte));
+            QVERIFY2(collected == answer, name);
+        }
     }
 
     // Packets refused or not answered are sent again, as a host does; the flash holds the image and nothing else
@@ -156,8 +145,7 @@ private slots:
         const QTemporaryDir folder;
         const QString path = folder.filePath(QStringLiteral("flash.bin"));
         QCOMPARE(flash.dump(path), QString());
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::ReadOnly) && file.readAll() == flash.contents());
+        QVERIFY(readFile(path) == flash.contents());
         QVERIFY(!flash.dump(folder.filePath(QStringLiteral("no/flash.bin"))).isEmpty());
     }
 
@@ -198,7 +186,7 @@ private slots:
         Target slow;
         slow.boot.faults().eraseMs = 500;
         QCOMPARE(slow.ask(words(2, {kBase, 1}), 499), kAck);
-        QCOMPARE(slow.ask(kPing, 1), response(0, 2) + hex("5aa70302015000004a24"));
+        QCOMPARE(slow.ask(kPing, 1), response(0, 2) + kPong);
 
         Target trickling;
         trickling.boot.faults().trickleMs = 3;

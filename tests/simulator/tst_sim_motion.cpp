@@ -44,50 +44,44 @@ class TestSimMotion : public QObject
     Q_OBJECT
 
 private slots:
-    void motions_data()
-    {
-        QTest::addColumn<MotionKind>("kind");
-        QTest::addColumn<bool>("flu");
-        QTest::addColumn<double>("phase");
-        QTest::newRow("rest FLU") << MotionKind::Rest << true << 0.8;
-        QTest::newRow("swing FLU") << MotionKind::Swing << true << 0.0;
-        QTest::newRow("swing RFU") << MotionKind::Swing << false << 2.4;
-        QTest::newRow("spin FLU") << MotionKind::Spin << true << 1.6;
-        QTest::newRow("spin RFU") << MotionKind::Spin << false << 0.0;
-    }
     void motions()
     {
-        QFETCH(MotionKind, kind);
-        QFETCH(bool, flu);
-        QFETCH(double, phase);
-        const MotionModel model(kind, flu ? AxisConvention::FluZyx : AxisConvention::RfuZxy);
-        constexpr double kStep = 0.004;
-        double largest = 0.0;
-        for (int step = 0; step < 41; ++step) {
-            const double t = 0.1 + 0.29 * step;
-            const ImuSample s = model.sampleAt(t, phase);
-            const Quaternion attitude = attitudeOf(s);
-            // Angles and quaternion are the same attitude.
-            for (const Vector3 &axis : {Vector3{1, 0, 0}, Vector3{0, 1, 0}, Vector3{0, 0, 1}}) {
-                const Vector3 pitched = turned(turned(axis, flu ? 0 : 1, s.roll), flu ? 1 : 0, s.pitch);
-                QVERIFY2(distance(rotated(attitude, axis), turned(pitched, 2, s.yaw)) < 1e-5, QByteArray::number(t));
+        const std::tuple<MotionKind, bool, double> rows[] = {{MotionKind::Rest, true, 0.8}, // kind, FLU, phase
+                                                             {MotionKind::Swing, true, 0.0},
+                                                             {MotionKind::Swing, false, 2.4},
+                                                             {MotionKind::Spin, true, 1.6},
+                                                             {MotionKind::Spin, false, 0.0}};
+        for (const auto &[kind, flu, phase] : rows) {
+            const MotionModel model(kind, flu ? AxisConvention::FluZyx : AxisConvention::RfuZxy);
+            constexpr double kStep = 0.004;
+            double largest = 0.0;
+            for (int step = 0; step < 41; ++step) {
+                const double t = 0.1 + 0.29 * step;
+                const ImuSample s = model.sampleAt(t, phase);
+                const Quaternion attitude = attitudeOf(s);
+                // Angles and quaternion are the same attitude.
+                for (const Vector3 &axis : {Vector3{1, 0, 0}, Vector3{0, 1, 0}, Vector3{0, 0, 1}}) {
+                    const Vector3 pitched = turned(turned(axis, flu ? 0 : 1, s.roll), flu ? 1 : 0, s.pitch);
+                    QVERIFY2(distance(rotated(attitude, axis), turned(pitched, 2, s.yaw)) < 1e-5,
+                             QByteArray::number(t));
+                }
+                // Gravity and the earth's field are those of the world.
+                QVERIFY(distance(rotated(attitude, toDoubles(s.acc)), {0, 0, 1}) < 1e-5);
+                const Vector3 field = flu ? Vector3{20, 0, -45} : Vector3{0, 20, -45};
+                QVERIFY(distance(rotated(attitude, toDoubles(s.mag)), field) < 1e-4);
+                // The angular rate is the attitude's derivative.
+                Quaternion turn = conjugated(attitudeOf(model.sampleAt(t - kStep, phase)))
+                                  * attitudeOf(model.sampleAt(t + kStep, phase));
+                if (turn.w < 0.0) // the same rotation, the other way round
+                    turn = {-turn.w, -turn.x, -turn.y, -turn.z};
+                const double toRate = 1.0 / kStep / kRadiansPerDegree;
+                const Vector3 rate = toDoubles(s.gyr);
+                const Vector3 measured{turn.x * toRate, turn.y * toRate, turn.z * toRate};
+                QVERIFY2(distance(rate, measured) < 0.3, QByteArray::number(t));
+                largest = std::max(largest, lengthOf(rate));
             }
-            // Gravity and the earth's field are those of the world.
-            QVERIFY(distance(rotated(attitude, toDoubles(s.acc)), {0, 0, 1}) < 1e-5);
-            const Vector3 field = flu ? Vector3{20, 0, -45} : Vector3{0, 20, -45};
-            QVERIFY(distance(rotated(attitude, toDoubles(s.mag)), field) < 1e-4);
-            // The angular rate is the attitude's derivative.
-            Quaternion turn =
-                conjugated(attitudeOf(model.sampleAt(t - kStep, phase))) * attitudeOf(model.sampleAt(t + kStep, phase));
-            if (turn.w < 0.0) // the same rotation, the other way round
-                turn = {-turn.w, -turn.x, -turn.y, -turn.z};
-            const double toRate = 1.0 / kStep / kRadiansPerDegree;
-            const Vector3 rate = toDoubles(s.gyr);
-            const Vector3 measured{turn.x * toRate, turn.y * toRate, turn.z * toRate};
-            QVERIFY2(distance(rate, measured) < 0.3, QByteArray::number(t));
-            largest = std::max(largest, lengthOf(rate));
+            QCOMPARE(largest > 20.0, kind != MotionKind::Rest);
         }
-        QCOMPARE(largest > 20.0, kind != MotionKind::Rest);
     }
 
     // Fed with what a swinging body measures, the filter finds the body's tilt, from a first step on that is level only

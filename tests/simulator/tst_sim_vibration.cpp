@@ -41,35 +41,27 @@ class TestSimVibration : public QObject
     Q_OBJECT
 
 private slots:
-    void tones_data()
-    {
-        QTest::addColumn<QString>("tones");
-        QTest::addColumn<int>("value");
-        QTest::addColumn<double>("hertz");
-        QTest::addColumn<double>("amplitude");
-        const QString two = QStringLiteral("50:0.5:z:0.5,0.25 120:2:gx");
-        QTest::newRow("tone") << two << 2 << 50.0 << 0.5;
-        QTest::newRow("second harmonic") << two << 2 << 100.0 << 0.25;
-        QTest::newRow("third harmonic") << two << 2 << 150.0 << 0.125;
-        QTest::newRow("rate") << two << 3 << 120.0 << 2.0;
-        QTest::newRow("another axis") << two << 0 << 50.0 << 0.0;
-        QTest::newRow("another frequency") << two << 3 << 50.0 << 0.0;
-        QTest::newRow("two on one axis") << QStringLiteral("10:1:y 10:2:y") << 1 << 10.0 << 3.0;
-        QTest::newRow("between milliseconds") << QStringLiteral("33.3:1:x") << 0 << 33.3 << 1.0;
-    }
     void tones()
     {
-        QFETCH(QString, tones);
-        QFETCH(int, value);
-        QFETCH(double, hertz);
-        QFETCH(double, amplitude);
-        SampleSource source = resting();
-        for (const QString &tone : tones.split(u' '))
-            QCOMPARE(source.vibration().addTone(tone), QString());
-        const std::complex<double> wanted(0.0, -amplitude);
-        QVERIFY(std::abs(phasor(source, std::size_t(value), hertz) - wanted) < 1e-4);
-        source.vibration().clear();
-        QVERIFY(std::abs(phasor(source, std::size_t(value), hertz)) < 1e-4);
+        const char *const two = "50:0.5:z:0.5,0.25 120:2:gx";
+        const std::tuple<const char *, const char *, std::size_t, double, double> rows[] = {
+            {"tone", two, 2, 50.0, 0.5},
+            {"second harmonic", two, 2, 100.0, 0.25},
+            {"third harmonic", two, 2, 150.0, 0.125},
+            {"rate", two, 3, 120.0, 2.0},
+            {"another axis", two, 0, 50.0, 0.0},
+            {"another frequency", two, 3, 50.0, 0.0},
+            {"two on one axis", "10:1:y 10:2:y", 1, 10.0, 3.0},
+            {"between milliseconds", "33.3:1:x", 0, 33.3, 1.0}};
+        for (const auto &[name, tones, value, hertz, amplitude] : rows) {
+            SampleSource source = resting();
+            for (const QString &tone : QString::fromLatin1(tones).split(u' '))
+                QCOMPARE(source.vibration().addTone(tone), QString());
+            const std::complex<double> wanted(0.0, -amplitude);
+            QVERIFY2(std::abs(phasor(source, value, hertz) - wanted) < 1e-4, name);
+            source.vibration().clear();
+            QVERIFY2(std::abs(phasor(source, value, hertz)) < 1e-4, name);
+        }
     }
 
     void noise()

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "app/theme.h"
+#include "support/pixels.h"
 #include "ui/sensor_data_panel.h"
 #include "ui/value_card.h"
 
@@ -23,11 +24,13 @@ SensorDataModel sampleModel()
 /// Whether a pixel of about this colour is there; text and lines are antialiased, filled bars are not.
 bool contains(const QImage &image, const QColor &color)
 {
-    const QImage rgb = image.convertToFormat(QImage::Format_RGB32);
-    const auto *begin = reinterpret_cast<const QRgb *>(rgb.constBits());
-    return std::any_of(begin, begin + rgb.width() * rgb.height(), [&color](QRgb p) {
-        return qAbs(qRed(p) - color.red()) + qAbs(qGreen(p) - color.green()) + qAbs(qBlue(p) - color.blue()) < 24;
-    });
+    return countPixels(image,
+                       [&color](const QColor &p) {
+                           return qAbs(p.red() - color.red()) + qAbs(p.green() - color.green())
+                                      + qAbs(p.blue() - color.blue())
+                                  < 24;
+                       })
+           > 0;
 }
 
 /// The panel on the screen.

@@ -4,6 +4,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "support/files.h"
 #include "support/hex_file.h"
 #include "support/real_firmware.h"
 #include "updater/hex2bin.h"
@@ -29,9 +30,8 @@ QByteArray convert(const QByteArray &file)
 /// Lines of the application log since the last call.
 QByteArray logged()
 {
-    QFile file(QStringLiteral("debug.log"));
-    QByteArray lines = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    file.remove();
+    const QByteArray lines = readFile(QStringLiteral("debug.log"));
+    QFile::remove(QStringLiteral("debug.log"));
     return lines;
 }
 
@@ -57,48 +57,36 @@ private slots:
     }
     void init() { logged(); }
 
-    void images_data()
-    {
-        QTest::addColumn<QByteArray>("file");
-        QTest::addColumn<QByteArray>("image");
-        QTest::addColumn<unsigned int>("address");
-        QTest::addColumn<int>("skipped"); // 0: nothing
-        const QByteArray sixteen = "0123456789ABCDEF";
-        const auto row = [](const char *name) -> QTestData & { return QTest::newRow(name); };
-        row("linear address") << ":020000041000EA\n" + data(0xC0, "ab") << QByteArray("ab") << 0x100000C0U << 0;
-        row("segment address, padded") << ":02000002100000EC\n" + data(8, "ab") << QByteArray("ab") << 0x4008U << 0;
-        row("segment address") << record(2, 0, QByteArray("\x10\0", 2)) + data(8, "ab") << QByteArray("ab") << 0x4008U
-                               << 0;
-        row("segment behind linear") << ":020000040800F2\n:02000002100000EC\n" + data(0, "ab") << QByteArray("ab")
-                                     << 0x4000U << 0;
-        row("linear behind segment") << ":02000002100000EC\n:020000040800F2\n" + data(0, "ab") << QByteArray("ab")
-                                     << 0x08000000U << 0;
-        row("gap") << data(0, sixteen) + data(0x20, sixteen) + kEnd << sixteen + QByteArray(16, '0') + sixteen << 0U
-                   << 16;
-        row("over the 64 KiB border") << data(0xFFFE, "ab") + ":020000040001F9\n" + data(0, "cd") << QByteArray("abcd")
-                                      << 0xFFFEU << 0;
-        row("no end record") << data(4, "ab") << QByteArray("ab") << 4U << 0;
-        row("no line end") << data(4, "ab").trimmed() << QByteArray("ab") << 4U << 0;
-        row("lower case, byte-order mark")
-            << "\xEF\xBB\xBF" + data(4, "\xAB\xCD").toLower() << QByteArray("\xAB\xCD") << 4U << 0;
-        row("blank line ends") << data(4, "ab") + "\r\n" + data(6, "cd") << QByteArray("ab") << 4U << 0;
-        row("words end") << data(4, "ab") + "xyz --\n" + data(6, "cd") << QByteArray("ab") << 4U << 0;
-        row("start address ends") << data(4, "ab") + record(5, 0, "abcd") + data(6, "cd") << QByteArray("ab") << 4U
-                                  << 0;
-        row("255 bytes") << data(0, QByteArray(255, 'x')) + data(255, "y") << QByteArray(255, 'x') + "y" << 0U << 0;
-        row("no bytes") << data(4, {}) + data(4, "ab") << QByteArray("ab") << 4U << 0;
-        row("empty") << QByteArray() << QByteArray() << kNone << 0;
-    }
     void images()
     {
-        QFETCH(QByteArray, file);
-        QFETCH(int, skipped);
-        QTEST(convert(file), "image");
-        QTEST(hex2bin::first_data_addr(), "address");
-        const QByteArray log = logged();
-        QCOMPARE(log.count('\n'), skipped > 0 ? 1 : 0);
-        QVERIFY(skipped == 0 || log.contains("hex2bin, Bytesskipped=" + QByteArray::number(skipped) + "\r\n"));
-        QCOMPARE(hex2bin::start_addr(), 0x08000000U);
+        // The file, its image, where that begins, and how many bytes were skipped.
+        const QByteArray sixteen = "0123456789ABCDEF";
+        const std::tuple<const char *, QByteArray, QByteArray, unsigned int, int> rows[] = {
+            {"linear address", ":020000041000EA\n" + data(0xC0, "ab"), "ab", 0x100000C0U, 0},
+            {"segment address, padded", ":02000002100000EC\n" + data(8, "ab"), "ab", 0x4008U, 0},
+            {"segment address", record(2, 0, QByteArray("\x10\0", 2)) + data(8, "ab"), "ab", 0x4008U, 0},
+            {"segment behind linear", ":020000040800F2\n:02000002100000EC\n" + data(0, "ab"), "ab", 0x4000U, 0},
+            {"linear behind segment", ":02000002100000EC\n:020000040800F2\n" + data(0, "ab"), "ab", 0x08000000U, 0},
+            {"gap", data(0, sixteen) + data(0x20, sixteen) + kEnd, sixteen + QByteArray(16, '0') + sixteen, 0U, 16},
+            {"over the 64 KiB border", data(0xFFFE, "ab") + ":020000040001F9\n" + data(0, "cd"), "abcd", 0xFFFEU, 0},
+            {"no end record", data(4, "ab"), "ab", 4U, 0},
+            {"no line end", data(4, "ab").trimmed(), "ab", 4U, 0},
+            {"lower case, byte-order mark", "\xEF\xBB\xBF" + data(4, "\xAB\xCD").toLower(), QByteArray("\xAB\xCD"), 4U,
+             0},
+            {"blank line ends", data(4, "ab") + "\r\n" + data(6, "cd"), "ab", 4U, 0},
+            {"words end", data(4, "ab") + "xyz --\n" + data(6, "cd"), "ab", 4U, 0},
+            {"start address ends", data(4, "ab") + record(5, 0, "abcd") + data(6, "cd"), "ab", 4U, 0},
+            {"255 bytes", data(0, QByteArray(255, 'x')) + data(255, "y"), QByteArray(255, 'x') + "y", 0U, 0},
+            {"no bytes", data(4, {}) + data(4, "ab"), "ab", 4U, 0},
+            {"empty", {}, {}, kNone, 0}};
+        for (const auto &[name, file, image, address, skipped] : rows) {
+            QVERIFY2(convert(file) == image && hex2bin::first_data_addr() == address, name);
+            const QByteArray log = logged();
+            QVERIFY2(log.count('\n') == (skipped > 0 ? 1 : 0), name);
+            QVERIFY2(skipped == 0 || log.contains("hex2bin, Bytesskipped=" + QByteArray::number(skipped) + "\r\n"),
+                     name);
+            QCOMPARE(hex2bin::start_addr(), 0x08000000U);
+        }
     }
 
     void refused()
@@ -167,10 +155,9 @@ private slots:
             QVERIFY(expected.size() > 100000);
             QCOMPARE(convert(file), expected);
         }
-        QFile whole(real_firmware::path()); // with records that configure the chip, far behind the program
-        QVERIFY(whole.open(QIODevice::ReadOnly));
         logged();
-        QCOMPARE(convert(whole.readAll()), QByteArray());
+        // The whole file has records that configure the chip, far behind the program.
+        QCOMPARE(convert(readFile(real_firmware::path())), QByteArray());
         QVERIFY(logged().contains("hex2bin, image too large at 0x100010c0"));
     }
 

@@ -2,9 +2,8 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTranslator>
 
-#include "app/app_language_manager.h"
+#include "support/files.h"
 #include "wave/sample_feed.h"
 #include "wave/sensor_dashboard_bridge.h"
 
@@ -17,17 +16,6 @@ void push(WaveChartBridge &chart, int samples, unsigned int firstStampMs = 0)
         chart.pushSample(values, 4, firstStampMs == 0 ? 0 : firstStampMs + unsigned(i) * 1000);
     }
 }
-
-/// A language in which every text ends with a star.
-class Stars : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char *, const char *source, const char *, int) const override
-    {
-        return QString::fromUtf8(source) + u'*';
-    }
-};
 
 } // namespace
 
@@ -145,23 +133,6 @@ private slots:
         QVERIFY(!chart.filterOn());
     }
 
-    void followsTheLanguage()
-    {
-        SensorDashboardBridge dashboard;
-        QSignalSpy title(dashboard.bridge(QStringLiteral("mag")), &WaveChartBridge::chartTitleChanged);
-        Stars stars;
-        QCoreApplication::installTranslator(&stars);
-        emit AppLanguageManager::instance().languageChanged(QString());
-        emit AppLanguageManager::instance().languageChanged(QString());
-        dashboard.retranslate();
-        QCOMPARE(title.count(), 1);
-        QCOMPARE(dashboard.bridge(QStringLiteral("mag"))->chartTitle(), QStringLiteral("Magnetic Field (μT)*"));
-        QCOMPARE(dashboard.paneStates().at(1).toMap().value(QStringLiteral("label")).toString(),
-                 QLatin1String("Angular Velocity*"));
-        QCOMPARE(dashboard.windowTitle(), QLatin1String("Sensor Dashboard*"));
-        QCoreApplication::removeTranslator(&stars);
-    }
-
     void laysOutTheSelection()
     {
         SensorDashboardBridge dashboard;
@@ -209,23 +180,6 @@ private slots:
         QVERIFY(!chart->hasData());
     }
 
-    void letsTheHostDecideToPause()
-    {
-        SensorDashboardBridge dashboard;
-        QSignalSpy requests(&dashboard, &SensorDashboardBridge::playToggleRequested);
-        QSignalSpy changes(&dashboard, &SensorDashboardBridge::playingChanged);
-        dashboard.togglePlaying();
-        QCOMPARE(requests.takeFirst().at(0).toBool(), false);
-        QVERIFY(dashboard.playing());
-        dashboard.setPlaying(false);
-        dashboard.setPlaying(false);
-        dashboard.setFrameRate(50);
-        QCOMPARE(changes.count(), 1);
-        QVERIFY(!dashboard.backendAt(5)->playing());
-        dashboard.setPlaying(true);
-        QCOMPARE(dashboard.backendAt(5)->framerate(), 50U);
-    }
-
     void restoresTheSelection()
     {
         const QStringList all = SensorDashboardBridge().sensorTypes();
@@ -239,18 +193,16 @@ private slots:
         };
         const QTemporaryDir folder;
         for (const auto &[text, expected] : rows) {
-            QFile file(folder.filePath(QStringLiteral("param.ini")));
-            QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-            file.write(text);
-            file.close();
+            const QString path = folder.filePath(QStringLiteral("param.ini"));
+            QVERIFY(writeFile(path, text));
             SensorDashboardBridge dashboard;
             QSignalSpy layout(&dashboard, &SensorDashboardBridge::layoutChanged);
-            dashboard.loadSelectionState(file.fileName());
+            dashboard.loadSelectionState(path);
             QCOMPARE(dashboard.selectedSensorTypes(), expected);
             QCOMPARE(layout.count(), expected == all ? 0 : 1);
-            dashboard.saveSelectionState(file.fileName());
+            dashboard.saveSelectionState(path);
             SensorDashboardBridge again;
-            again.loadSelectionState(file.fileName());
+            again.loadSelectionState(path);
             QCOMPARE(again.selectedSensorTypes(), expected);
         }
     }
