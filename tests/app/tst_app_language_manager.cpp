@@ -119,35 +119,30 @@ private slots:
     }
 
     /// The real dialog, used with the keyboard.
-    void pickerAsksTheUser_data()
-    {
-        QTest::addColumn<QList<int>>("keys");
-        QTest::addColumn<int>("answer");
-        QTest::newRow("takes what is preferred") << QList<int>{Qt::Key_Return} << 3;
-        QTest::newRow("moves and stops at the end")
-            << QList<int>{Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Return} << 4;
-        QTest::newRow("moves up") << QList<int>{Qt::Key_Up, Qt::Key_Return} << 2;
-        QTest::newRow("cancelled") << QList<int>{Qt::Key_Up, Qt::Key_Escape} << -1;
-    }
     void pickerAsksTheUser()
     {
-        QFETCH(QList<int>, keys);
         QVariantList options;
         for (const AppLanguageSpec &language : m_manager.languages())
             options.append(
                 QVariantMap{{QStringLiteral("label"), language.displayName}, {QStringLiteral("recommended"), false}});
-        bool fits = false;
-        QTimer::singleShot(0, this, [&] {
-            QWidget *dialog = QApplication::activeModalWidget();
-            QVERIFY(dialog != nullptr);
-            QVERIFY(QTest::qWaitForWindowActive(dialog));
-            QCOMPARE(dialog->windowTitle(), QStringLiteral("Choose Language"));
-            fits = dialog->screen()->availableGeometry().contains(dialog->geometry());
-            for (const int key : keys)
-                QTest::keyClick(dialog->findChild<QQuickWidget *>(), Qt::Key(key));
-        });
-        QTEST(pickInitialLanguage(options, 3).value_or(-1), "answer");
-        QVERIFY(fits);
+        const std::pair<QList<int>, int> rows[] = {{{Qt::Key_Return}, 3}, // takes what is preferred
+                                                   {{Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Return}, 4},
+                                                   {{Qt::Key_Up, Qt::Key_Return}, 2},
+                                                   {{Qt::Key_Up, Qt::Key_Escape}, -1}};
+        for (const auto &row : rows) {
+            bool fits = false;
+            QTimer::singleShot(0, this, [&] {
+                QWidget *dialog = QApplication::activeModalWidget();
+                QVERIFY(dialog != nullptr);
+                QVERIFY(QTest::qWaitForWindowActive(dialog));
+                QCOMPARE(dialog->windowTitle(), QStringLiteral("Choose Language"));
+                fits = dialog->screen()->availableGeometry().contains(dialog->geometry());
+                for (const int key : row.first)
+                    QTest::keyClick(dialog->findChild<QQuickWidget *>(), Qt::Key(key));
+            });
+            QCOMPARE(pickInitialLanguage(options, 3).value_or(-1), row.second);
+            QVERIFY(fits);
+        }
     }
 };
 

@@ -8,16 +8,7 @@
 #include <QTest>
 
 #include "app/application_fonts.h"
-
-namespace {
-
-bool writeFile(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
-}
-
-} // namespace
+#include "support/files.h"
 
 class TestApplicationFonts : public QObject
 {

@@ -4,6 +4,7 @@
 #include <QtTest>
 
 #include "app/settings_keys.h"
+#include "support/files.h"
 #include "support/pty_pair.h"
 #include "ui/port_choice.h"
 
@@ -66,10 +67,9 @@ private slots:
         };
         for (const auto &[text, hasPath, hasUsbId, baud] : rows) {
             const QTemporaryDir folder;
-            QFile out(folder.filePath(settings_keys::kFile));
-            QVERIFY(out.open(QIODevice::WriteOnly) && out.write("[SERIAL]\n" + text) > text.size());
-            out.close();
-            const Remembered remembered = read(QSettings(out.fileName(), QSettings::IniFormat));
+            const QString path = folder.filePath(settings_keys::kFile);
+            QVERIFY(writeFile(path, "[SERIAL]\n" + text));
+            const Remembered remembered = read(QSettings(path, QSettings::IniFormat));
             QVERIFY2(remembered.port.path == QLatin1String(hasPath ? "/dev/ttyUSB0" : ""), text.left(80));
             QVERIFY2(remembered.port.hasUsbId == hasUsbId && remembered.baudRate == baud, text.left(80));
         }
@@ -116,13 +116,13 @@ private slots:
         QVERIFY(QFile::link(pty.path(), link));
         const QString dangling = folder.filePath(QStringLiteral("dangling"));
         QVERIFY(QFile::link(folder.filePath(QStringLiteral("nothing")), dangling));
-        QFile file(folder.filePath(QStringLiteral("file")));
-        QVERIFY(file.open(QIODevice::WriteOnly));
+        const QString file = folder.filePath(QStringLiteral("file"));
+        QVERIFY(writeFile(file, {}));
 
         QCOMPARE(pathState(link), PathState::Usable);
         QCOMPARE(pathState(QStringLiteral("null")), PathState::Usable); // a short name is one of /dev
         QCOMPARE(pathState(dangling), PathState::Missing);
-        QCOMPARE(pathState(file.fileName()), PathState::NotADevice);
+        QCOMPARE(pathState(file), PathState::NotADevice);
         QCOMPARE(pathState(folder.path()), PathState::NotADevice);
         QCOMPARE(pathState(QString()), PathState::Empty);
     }

@@ -12,7 +12,9 @@
 #include "app/theme.h"
 #include "link/kboot_protocol.h"
 #include "link/kv_uart_port.h"
+#include "support/files.h"
 #include "support/hex_file.h"
+#include "support/pixels.h"
 #include "support/real_firmware.h"
 #include "support/simulator_process.h"
 #include "updater/form_updater.h"
@@ -30,22 +32,10 @@ QByteArray goodImage(int size)
     return image;
 }
 
-void write(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-}
-
 /// Whether a widget holds pixels as dark as text that can be read.
 bool hasDarkInk(QWidget *widget)
 {
-    const QImage image = widget->grab().toImage();
-    int dark = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
-            dark += qGray(image.pixel(x, y)) < 90;
-    }
-    return dark > 20;
+    return countPixels(widget->grab().toImage(), [](const QColor &color) { return qGray(color.rgb()) < 90; }) > 20;
 }
 
 /// The dialog on the screen, with a simulated device on an open port.
@@ -59,7 +49,7 @@ struct Bench
     explicit Bench(const QByteArray &hexFile, const QStringList &options = {})
         : device(options + QStringList{QStringLiteral("--bootloader-wait"), QStringLiteral("20000")})
     {
-        write(QDir::current().filePath(QStringLiteral("firmware.hex")), hexFile);
+        QVERIFY(writeFile(QDir::current().filePath(QStringLiteral("firmware.hex")), hexFile));
         dialog.set_serial_instance(&port);
         open();
         dialog.show();
@@ -171,7 +161,7 @@ private slots:
         QCOMPARE(bench.log(), QStringLiteral("PATH: %1\n").arg(path));
         settings.sync();
         QCOMPARE(settings.value(QStringLiteral("UPDATER/PATH")).toString(), path);
-        write(other, hex_file::file(goodImage(3000), 0));
+        QVERIFY(writeFile(other, hex_file::file(goodImage(3000), 0)));
         settings.setValue(settings_keys::kUpdaterPath, other);
         settings.sync();
         bench.dialog.hide();
@@ -232,7 +222,7 @@ private slots:
         const QString report = QGuiApplication::clipboard()->text();
         QVERIFY(report.contains(bench.log()) && report.contains(QStringLiteral("firmware.hex"))
                 && report.contains(bench.label("LBL_status")));
-        write(QStringLiteral("firmware.hex"), hex_file::file(goodImage(4000), 0));
+        QVERIFY(writeFile(QStringLiteral("firmware.hex"), hex_file::file(goodImage(4000), 0)));
         bench.press("BTN_connect");
         QVERIFY(bench.label("LBL_doubts").contains(QStringLiteral("changed since it was loaded")));
         bench.dialog.close();

@@ -58,34 +58,26 @@ class tst_chart_logic : public QObject
     Q_OBJECT
 
 private slots:
-    void ticks_data()
-    {
-        QTest::addColumn<double>("min");
-        QTest::addColumn<double>("max");
-        QTest::addColumn<double>("length");
-        QTest::addColumn<QString>("labels");
-        QTest::newRow("units") << -4.0 << 8.0 << 300.0 << QStringLiteral("−4 −2 0 2 4 6 8");
-        QTest::newRow("one decimal, ends off the grid") << -0.3 << 0.9 << 150.0 << QStringLiteral("0.0 0.5");
-        QTest::newRow("hundredths") << 1.0 << 1.05 << 250.0 << QStringLiteral("1.00 1.01 1.02 1.03 1.04 1.05");
-        QTest::newRow("large") << 0.0 << 2e6 << 100.0 << QStringLiteral("0 1.00e+06 2.00e+06");
-        QTest::newRow("no room") << 0.0 << 1.0 << 20.0 << QString();
-        QTest::newRow("empty span") << 1.0 << 1.0 << 300.0 << QString();
-        QTest::newRow("no span") << -kInf << kNaN << 300.0 << QString();
-    }
     void ticks()
     {
-        QFETCH(double, min);
-        QFETCH(double, max);
-        QFETCH(double, length);
-        ChartAxis axis;
-        axis.setSpacing(50);
-        axis.setLength(length);
-        axis.setMin(min);
-        axis.setMax(max);
-        QTEST(axis.labels().join(u' '), "labels");
-        QCOMPARE(axis.count(), axis.labels().size());
-        for (const double place : axis.positions())
-            QVERIFY(place > -1e-6 && place < 1 + 1e-6);
+        const auto row = [](const char *name, double min, double max, double length, const char *labels) {
+            ChartAxis axis;
+            axis.setSpacing(50);
+            axis.setLength(length);
+            axis.setMin(min);
+            axis.setMax(max);
+            QVERIFY2(axis.labels().join(u' ') == QString::fromUtf8(labels), name);
+            QVERIFY2(axis.count() == axis.labels().size(), name);
+            for (const double place : axis.positions())
+                QVERIFY2(place > -1e-6 && place < 1 + 1e-6, name);
+        };
+        row("units", -4, 8, 300, "−4 −2 0 2 4 6 8");
+        row("one decimal, ends off the grid", -0.3, 0.9, 150, "0.0 0.5");
+        row("hundredths", 1, 1.05, 250, "1.00 1.01 1.02 1.03 1.04 1.05");
+        row("large", 0, 2e6, 100, "0 1.00e+06 2.00e+06");
+        row("no room", 0, 1, 20, "");
+        row("empty span", 1, 1, 300, "");
+        row("no span", -kInf, kNaN, 300, "");
     }
 
     void titlesHoldNameAndUnit()
@@ -95,55 +87,39 @@ private slots:
         QCOMPARE(chart_text::unit(QStringLiteral("Pressure")), QString());
     }
 
-    void timeWindow_data()
-    {
-        QTest::addColumn<Range>("wanted");
-        QTest::addColumn<Range>("got");
-        QTest::newRow("inside") << Range{-8, -3} << Range{-8, -3};
-        QTest::newRow("beyond the newest") << Range{-4, 2} << Range{-6, 0};
-        QTest::newRow("before the oldest") << Range{-40, -35} << Range{-30, -25};
-        QTest::newRow("longer than the history ends at the newest") << Range{-70, -20} << Range{-50, 0};
-        QTest::newRow("too long") << Range{-500, 0} << Range{-60, 0};
-        QTest::newRow("too short") << Range{-1.001, -1} << Range{-1.01, -1};
-        QTest::newRow("snapped") << Range{-8.00049, -3.00049} << Range{-8, -3};
-        QTest::newRow("no window") << Range{kNaN, 0} << Range{-60, 0};
-    }
     void timeWindow()
     {
-        QFETCH(Range, wanted);
-        QFETCH(Range, got);
-        const Range limited = chart_range::limited(wanted, {.history = -30});
-        QVERIFY2(std::abs(limited.min - got.min) < 1e-9 && std::abs(limited.max - got.max) < 1e-9,
-                 qPrintable(QStringLiteral("%1 %2").arg(limited.min).arg(limited.max)));
+        const auto row = [](const char *name, Range wanted, Range got) {
+            const Range limited = chart_range::limited(wanted, {.history = -30});
+            QVERIFY2(std::abs(limited.min - got.min) < 1e-9 && std::abs(limited.max - got.max) < 1e-9, name);
+        };
+        row("inside", {-8, -3}, {-8, -3});
+        row("beyond the newest", {-4, 2}, {-6, 0});
+        row("before the oldest", {-40, -35}, {-30, -25});
+        row("longer than the history ends at the newest", {-70, -20}, {-50, 0});
+        row("too long", {-500, 0}, {-60, 0});
+        row("too short", {-1.001, -1}, {-1.01, -1});
+        row("snapped", {-8.00049, -3.00049}, {-8, -3});
+        row("no window", {kNaN, 0}, {-60, 0});
     }
 
-    void fit_data()
-    {
-        QTest::addColumn<Range>("current");
-        QTest::addColumn<double>("low");
-        QTest::addColumn<double>("high");
-        QTest::addColumn<Range>("got");
-        QTest::newRow("first data") << Range{-32, 32} << -1.1 << 2.3 << Range{-2, 3};
-        QTest::newRow("small growth stays") << Range{-2, 3} << -1.9 << 2.9 << Range{-2, 3};
-        QTest::newRow("small shrinking stays") << Range{-2, 3} << -0.6 << 2.0 << Range{-2, 3};
-        QTest::newRow("leaving expands") << Range{-2, 3} << -1.0 << 3.1 << Range{-2, 4};
-        QTest::newRow("great shrinking fits") << Range{-2, 3} << -0.2 << 0.2 << Range{-0.3, 0.3};
-        QTest::newRow("flat line keeps the least span") << Range{-32, 32} << 1.0 << 1.0 << Range{0.94, 1.06};
-        QTest::newRow("usual data keep the usual range") << Range{-1, 1} << -31.9 << 31.9 << Range{-32, 32};
-        QTest::newRow("unusual data are shown") << Range{-1, 1} << 0.0 << 45.0 << Range{-10, 50};
-        QTest::newRow("no data") << Range{-1, 1} << kInf << -kInf << Range{-1, 1};
-    }
     void fit()
     {
-        QFETCH(Range, current);
-        QFETCH(double, low);
-        QFETCH(double, high);
-        QFETCH(Range, got);
-        const Range fitted = chart_range::fitted(current, low, high, {-32, 32, 0.1});
-        QVERIFY2(std::abs(fitted.min - got.min) < 1e-9 && std::abs(fitted.max - got.max) < 1e-9,
-                 qPrintable(QStringLiteral("%1 %2").arg(fitted.min).arg(fitted.max)));
-        const Range huge = chart_range::fitted(current, -1.7e308, 1.7e308, {-32, 32, 0.1});
-        QVERIFY(std::isfinite(huge.span()) && huge.span() > 0);
+        const auto row = [](const char *name, Range current, double low, double high, Range got) {
+            const Range fitted = chart_range::fitted(current, low, high, {-32, 32, 0.1});
+            QVERIFY2(std::abs(fitted.min - got.min) < 1e-9 && std::abs(fitted.max - got.max) < 1e-9, name);
+            const Range huge = chart_range::fitted(current, -1.7e308, 1.7e308, {-32, 32, 0.1});
+            QVERIFY2(std::isfinite(huge.span()) && huge.span() > 0, name);
+        };
+        row("first data", {-32, 32}, -1.1, 2.3, {-2, 3});
+        row("small growth stays", {-2, 3}, -1.9, 2.9, {-2, 3});
+        row("small shrinking stays", {-2, 3}, -0.6, 2.0, {-2, 3});
+        row("leaving expands", {-2, 3}, -1.0, 3.1, {-2, 4});
+        row("great shrinking fits", {-2, 3}, -0.2, 0.2, {-0.3, 0.3});
+        row("flat line keeps the least span", {-32, 32}, 1.0, 1.0, {0.94, 1.06});
+        row("usual data keep the usual range", {-1, 1}, -31.9, 31.9, {-32, 32});
+        row("unusual data are shown", {-1, 1}, 0.0, 45.0, {-10, 50});
+        row("no data", {-1, 1}, kInf, -kInf, {-1, 1});
     }
 
     void followsOrStaysOnItsSamples()
