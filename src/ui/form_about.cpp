@@ -46,7 +46,8 @@ void form_about::fillTexts()
     nameFont.setWeight(QFont::DemiBold);
     m_ui->LBL_name->setFont(nameFont);
     m_ui->LBL_version->setText(appVersion());
-    m_ui->LBL_toolkit->setText(tr("Qt %1 (licence: GNU LGPL 3; Qt Quick 3D: GNU GPL 3)").arg(QLatin1String(qVersion())));
+    m_ui->LBL_toolkit->setText(
+        tr("Qt %1 (licence: GNU LGPL 3; Qt Quick 3D: GNU GPL 3)").arg(QLatin1String(qVersion())));
     m_ui->LE_folder->setText(QDir::toNativeSeparators(QDir::currentPath()));
     m_ui->LE_folder->setCursorPosition(0);
 }
