@@ -116,8 +116,10 @@ form_link_health::form_link_health(const LinkMonitor *monitor, QWidget *parent)
 {
     m_ui->setupUi(this);
     m_ui->TBL_nodes->setColumnCount(Columns);
-    m_ui->TBL_nodes->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    // Not by the header itself: it would measure all columns anew with every cell that changes, seconds for 250 nodes.
+    m_ui->TBL_nodes->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_ui->TBL_nodes->horizontalHeader()->setSectionResizeMode(Id, QHeaderView::Stretch);
+    m_ui->TBL_nodes->horizontalHeader()->setResizeContentsPrecision(0); // the rows in sight
     m_ui->TBL_nodes->horizontalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_ui->TBL_nodes->horizontalHeader()->setHighlightSections(false);
     nameColumns();
@@ -233,6 +235,8 @@ void form_link_health::showNodes(const LinkReport &report)
         put(table, row, LastGap, shortTimeText(node.lastGapMs), isDamaged);
         put(table, row, Jumps, QString::number(node.restarts), node.restarts > 0);
     }
+    for (int column = Id + 1; column < Columns; ++column)
+        table->resizeColumnToContents(column);
 }
 
 void form_link_health::nameColumns()

@@ -101,6 +101,7 @@ struct Bench
     /// Presses a button by the keyboard. Returns when its command has ended.
     void press(const char *name)
     {
+        QTRY_VERIFY(button(name)->isEnabled()); // not while the output is resumed once more
         button(name)->setFocus();
         QTest::keyClick(button(name), Qt::Key_Space);
     }
