@@ -291,6 +291,8 @@ private slots:
         bench.start();
         QTRY_VERIFY(bench.bridge().hasData());
         const QSizeF chart = bench.item("chart")->size() * bench.view->devicePixelRatio();
+        QSignalSpy drawn(bench.view, &QQuickWindow::frameSwapped); // what moves with the first data is in its place
+        QTRY_VERIFY(drawn.count() > 1);
         bench.click("savePicture");
         QFileDialog *dialog = nullptr;
         QTRY_VERIFY_WITH_TIMEOUT((dialog = openDialog<QFileDialog>()), 20000);
