@@ -32,6 +32,12 @@ int FftTrans::setWindowType(FftWindowType type)
     return 0;
 }
 
+void FftTrans::configure(int points, FftWindowType type)
+{
+    initSize(points);
+    setWindowType(type);
+}
+
 void FftTrans::updateWindowSpec()
 {
     m_window = makeFftWindow(m_windowType, m_points);

@@ -47,6 +47,8 @@ public:
     static double calNormAndFindMax(const std::complex<double> *data, int n, double *out, int m);
 
 public slots:
+    /// initSize() and setWindowType() at once.
+    void configure(int points, FftWindowType type);
     /// Computes one spectrum. Fewer samples than the size are followed by zeros; of more the newest count.
     void fftCalculate(unsigned long long batchId, signed char channel, int sampleRateHz, const QList<double> &samples);
 

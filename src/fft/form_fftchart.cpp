@@ -99,13 +99,13 @@ void form_fftchart::initFFTParam()
     qRegisterMetaType<QVector<double>>();
     m_thread = new QThread(this);
     m_thread->setObjectName(QStringLiteral("FftTrans"));
-    m_engine = new FftTrans;
-    m_engine->initSize(m_pointCount);
-    m_engine->setWindowType(m_windowType);
-    connect(m_thread, &QThread::finished, m_engine, &QObject::deleteLater);
-    m_engine->moveToThread(m_thread);
-    connect(this, &form_fftchart::start_fft_cal, m_engine, &FftTrans::fftCalculate);
-    connect(m_engine, &FftTrans::fftResult, this, &form_fftchart::get_fft_result);
+    auto *engine = new FftTrans; // goes with its thread
+    engine->configure(m_pointCount, m_windowType);
+    connect(m_thread, &QThread::finished, engine, &QObject::deleteLater);
+    engine->moveToThread(m_thread);
+    connect(this, &form_fftchart::engineConfigured, engine, &FftTrans::configure);
+    connect(this, &form_fftchart::start_fft_cal, engine, &FftTrans::fftCalculate);
+    connect(engine, &FftTrans::fftResult, this, &form_fftchart::get_fft_result);
     m_thread->start();
 }
 
@@ -115,7 +115,6 @@ void form_fftchart::releaseResources()
     m_sampler.abandonBatch();
     if (!m_thread)
         return;
-    m_engine = nullptr;
     m_thread->quit();
     if (m_thread->wait(QDeadlineTimer(kThreadDeadline))) {
         delete m_thread;
@@ -199,13 +198,7 @@ void form_fftchart::resetFftBuffers()
     clearRenderedFftData();
     syncBridgeMeta();
     syncBridgeRuntimeTelemetry();
-    if (!m_engine)
-        return;
-    const auto configure = [engine = m_engine, points = m_pointCount, type = m_windowType] {
-        engine->initSize(points);
-        engine->setWindowType(type);
-    };
-    QMetaObject::invokeMethod(m_engine, configure); // queued: the engine lives on its own thread
+    emit engineConfigured(m_pointCount, m_windowType);
 }
 
 void form_fftchart::clearRenderedFftData()

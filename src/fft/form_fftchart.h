@@ -8,7 +8,6 @@
 #include "fft/fft_window.h"
 
 class FftFiles;
-class FftTrans;
 class QComboBox;
 class QDoubleSpinBox;
 class QHBoxLayout;
@@ -43,6 +42,8 @@ public:
 signals:
     /// One request of a batch, to the engine's thread.
     void start_fft_cal(unsigned long long batchId, signed char channel, int sampleRateHz, QList<double> samples);
+    /// Samples per block and window of the blocks that follow, to the engine's thread.
+    void engineConfigured(int points, FftWindowType type);
 
 protected:
     void showEvent(QShowEvent *event) override;
@@ -115,7 +116,6 @@ private:
     bool m_refitX = false;           ///< show all frequencies when the rate is known
 
     QThread *m_thread = nullptr;
-    FftTrans *m_engine = nullptr; ///< deletes itself when the thread ends
     QQuickView *m_view = nullptr; ///< owned by its container
     FftFiles *m_files = nullptr;
 };
