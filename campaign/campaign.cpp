@@ -165,11 +165,13 @@ void Campaign::settleBooks(bool bytesWereDamaged)
     LinkAccount::Counts taken;
     QElapsedTimer clock;
     clock.start();
-    do { // until nothing moves any more; the program's own counters are those of its last whole second
+    bool isSettled = false;
+    do { // until nothing moves any more and the program's own counters have followed, which they do once a second
         now = sent();
         taken = counts();
         pause(kSettleMs, kSettleMs);
-    } while ((sent().bytes != now.bytes || counts() != taken) && clock.elapsed() < kDrainMs);
+        isSettled = sent().bytes == now.bytes && counts() == taken && taken.countedBytes == taken.bytesRead;
+    } while (!isSettled && clock.elapsed() < kDrainMs);
     control("silent off");
     const LinkAccount::Counts round = taken - m_before;
 

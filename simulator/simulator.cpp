@@ -187,10 +187,8 @@ void Simulator::produceFrame(qint64 momentNs)
         return;
     }
     const FaultInjector::Result result = m_faults.apply(encodeFrame(nextPayload(momentNs)));
-    m_held.bytes += result.bytes;
-    ++m_held.frames;
-    m_held.intact += result.intact ? 1 : 0;
-    if (m_held.frames < m_burst)
+    m_held.append({result.bytes, result.intact});
+    if (m_held.size() < m_burst)
         return;
     // The line has carried bytes up to this frame's moment, even when the timer comes late.
     m_line.advance(momentNs);
@@ -199,9 +197,9 @@ void Simulator::produceFrame(qint64 momentNs)
 
 void Simulator::releaseHeldFrames()
 {
-    if (m_held.frames > 0 && !m_line.pushFrames(m_held))
-        m_statistics.dropped += quint64(m_held.frames);
-    m_held = {};
+    if (!m_line.pushFrames(m_held))
+        m_statistics.dropped += quint64(m_held.size());
+    m_held.clear();
 }
 
 QByteArray Simulator::nextPayload(qint64 momentNs)
@@ -242,8 +240,8 @@ QByteArray Simulator::nextPayload(qint64 momentNs)
 
 void Simulator::discardUnsent()
 {
-    m_statistics.dropped += quint64(m_held.frames + m_line.clear());
-    m_held = {};
+    m_statistics.dropped += quint64(m_held.size() + m_line.clear());
+    m_held.clear();
 }
 
 void Simulator::flush()

@@ -107,9 +107,9 @@ private:
     WakeTimer m_wake;
     QElapsedTimer m_elapsed;
     Statistics m_statistics;
-    TransmitLine::Chunk m_held; // frames of a burst not yet complete
-    qint64 m_bootNs = 0;        // when device time was 0
-    quint64 m_frame = 0;        // frames since then
+    QList<TransmitLine::Frame> m_held; // frames of a burst not yet complete
+    qint64 m_bootNs = 0;               // when device time was 0
+    quint64 m_frame = 0;               // frames since then
     qint64 m_muteUntilNs = 0;
     int m_clockRateHz = 0; // the rate that m_clock runs at; 0: it does not run
     int m_nodes;

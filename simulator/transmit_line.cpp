@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace kvsim {
 
@@ -28,15 +29,20 @@ void TransmitLine::advance(qint64 nowNs)
     m_nowNs = nowNs;
 }
 
-bool TransmitLine::pushFrames(const Chunk &chunk)
+bool TransmitLine::pushFrames(const QList<Frame> &frames)
 {
+    const qsizetype size = std::accumulate(frames.begin(), frames.end(), qsizetype(0),
+                                           [](qsizetype sum, const Frame &frame) { return sum + frame.bytes.size(); });
     const qsizetype waiting = m_bytes.size() - m_left;
-    const qsizetype room = std::max(kSmallestDeviceBuffer, 2 * chunk.bytes.size());
-    if (m_bytesPerSecond > 0.0 && waiting + chunk.bytes.size() > room)
+    const qsizetype room = std::max(kSmallestDeviceBuffer, 2 * size);
+    if (m_bytesPerSecond > 0.0 && waiting + size > room)
         return false;
-    if (m_bytes.size() - m_taken + chunk.bytes.size() > std::max(kMaxBacklogBytes, room))
+    if (m_bytes.size() - m_taken + size > std::max(kMaxBacklogBytes, room))
         return false;
-    append(chunk);
+    for (const Frame &frame : frames) {
+        append(frame.bytes);
+        m_marks.push_back({m_acceptedBytes, frame.isIntact});
+    }
     return true;
 }
 
@@ -44,16 +50,14 @@ bool TransmitLine::pushReply(const QByteArray &bytes)
 {
     if (m_bytes.size() - m_taken + bytes.size() > kMaxReplyBacklogBytes)
         return false;
-    append({bytes, 0, 0});
+    append(bytes);
     return true;
 }
 
-void TransmitLine::append(const Chunk &chunk)
+void TransmitLine::append(const QByteArray &bytes)
 {
-    m_bytes += chunk.bytes;
-    m_acceptedBytes += quint64(chunk.bytes.size());
-    if (chunk.frames > 0)
-        m_marks.push_back({m_acceptedBytes, chunk.frames, chunk.intact});
+    m_bytes += bytes;
+    m_acceptedBytes += quint64(bytes.size());
 }
 
 qint64 TransmitLine::remainingNs() const
@@ -69,8 +73,8 @@ void TransmitLine::take(qsizetype count)
     m_taken += count;
     m_sentBytes += quint64(count);
     while (!m_marks.empty() && m_marks.front().end <= m_sentBytes) {
-        m_sentFrames += quint64(m_marks.front().frames);
-        m_sentIntactFrames += quint64(m_marks.front().intact);
+        ++m_sentFrames;
+        m_sentIntactFrames += m_marks.front().isIntact ? 1 : 0;
         m_marks.pop_front();
     }
     // Moving the rest to the front costs as much as it is long, so do it only when it is short.
@@ -83,9 +87,7 @@ void TransmitLine::take(qsizetype count)
 
 int TransmitLine::clear()
 {
-    int lost = 0;
-    for (const Mark &mark : m_marks)
-        lost += mark.frames;
+    const int lost = int(m_marks.size());
     m_marks.clear();
     m_bytes.clear();
     m_taken = 0;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 
 #include <deque>
 
@@ -20,11 +21,10 @@ public:
     /// @param baudRate bits per second, 10 per byte; 0: bytes leave at once
     explicit TransmitLine(int baudRate) : m_bytesPerSecond(double(baudRate) / 10.0) {}
 
-    struct Chunk
+    struct Frame
     {
         QByteArray bytes;
-        int frames = 0; ///< frames in it; 0 for a reply
-        int intact = 0; ///< frames of them without damage
+        bool isIntact = true; ///< no fault touched it
     };
 
     /// Lets the line run until `nowNs`, nanoseconds; an earlier time than the last one changes nothing but that
@@ -33,7 +33,7 @@ public:
 
     /// Takes frames that go out together, all or none.
     /// @return false when the buffer has no room: they are lost
-    bool pushFrames(const Chunk &chunk);
+    bool pushFrames(const QList<Frame> &frames);
     /// Takes a text reply; it waits behind what is in the buffer already.
     bool pushReply(const QByteArray &bytes);
 
@@ -57,12 +57,11 @@ public:
 private:
     struct Mark
     {
-        quint64 end; // position after the chunk's last byte, counted like m_sentBytes
-        int frames;
-        int intact;
+        quint64 end; // position after the frame's last byte, counted like m_sentBytes
+        bool isIntact;
     };
 
-    void append(const Chunk &chunk);
+    void append(const QByteArray &bytes);
 
     double m_bytesPerSecond;
     double m_credit = 0.0; // bytes that the line may still carry by m_nowNs
