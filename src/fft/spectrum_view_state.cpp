@@ -9,10 +9,6 @@
 
 namespace {
 
-constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
-constexpr double kWheelNotch = 120;
-constexpr double kZoomPerNotch = 0.8;
-constexpr double kPanPerKey = 0.1;
 constexpr double kMinShareX = 1e-3; ///< smallest visible part of the frequencies
 constexpr double kMinAmplitudeSpan = 1e-4;
 constexpr double kMinDecibelSpan = 1;
@@ -21,7 +17,7 @@ constexpr int kWidth = 9;              ///< characters of a usual amplitude
 
 } // namespace
 
-SpectrumViewState::SpectrumViewState(QObject *parent) : QObject(parent), m_cursors{kNone, kNone} {}
+SpectrumViewState::SpectrumViewState(QObject *parent) : PlotViewState(MainAxis::Y, {0, 50}, {0, 1}, parent) {}
 
 void SpectrumViewState::setBridge(FftChartBridge *bridge)
 {
@@ -126,14 +122,6 @@ double SpectrumViewState::alarmLevel() const
     return m_bridge ? level(m_bridge->alarmRule().alarmThreshold) : 0;
 }
 
-void SpectrumViewState::setHoverX(double frequency)
-{
-    if (frequency == m_hoverX || (std::isnan(frequency) && std::isnan(m_hoverX)))
-        return;
-    m_hoverX = frequency;
-    emit hoverChanged();
-}
-
 QString SpectrumViewState::hoverFrequency() const
 {
     const QVariantMap bin = m_bridge ? m_bridge->queryCursor(m_hoverX) : QVariantMap();
@@ -170,11 +158,6 @@ QString SpectrumViewState::amplitudeText(double amplitude, bool isDifference) co
     return m_bridge ? number + QLatin1Char(' ') + m_bridge->unit() : number;
 }
 
-bool SpectrumViewState::hasCursors() const
-{
-    return !std::isnan(m_cursors[0]) || !std::isnan(m_cursors[1]);
-}
-
 QStringList SpectrumViewState::measurement() const
 {
     QStringList texts;
@@ -199,56 +182,30 @@ QStringList SpectrumViewState::measurement() const
     return texts;
 }
 
-void SpectrumViewState::placeCursor(int cursor, double frequency)
+/// The nearest bin.
+double SpectrumViewState::cursorPlace(double frequency) const
 {
-    if (cursor < 0 || cursor >= int(m_cursors.size()) || !m_bridge || !m_bridge->hasData() || std::isnan(frequency))
-        return;
-    m_cursors[size_t(cursor)] = m_bridge->queryCursor(frequency).value(QStringLiteral("frequency")).toDouble();
-    emit cursorsChanged();
+    return m_bridge && m_bridge->hasData()
+               ? m_bridge->queryCursor(frequency).value(QStringLiteral("frequency")).toDouble()
+               : kNone;
 }
 
-void SpectrumViewState::toggleCursors()
+/// A on the dominant peak and B on twice its frequency.
+double SpectrumViewState::firstPlace(int cursor) const
 {
-    if (hasCursors()) {
-        removeCursors();
-        return;
-    }
     const double peak = m_bridge ? m_bridge->dominantPeakFrequency() : 0;
-    placeCursor(0, peak > 0 ? peak : m_x.min + m_x.span() / 3);
-    placeCursor(1, peak > 0 ? 2 * peak : m_x.min + m_x.span() * 2 / 3);
+    return peak > 0 ? (cursor + 1) * peak : m_x.min + m_x.span() * (cursor + 1) / 3;
 }
 
-void SpectrumViewState::removeCursors()
+double SpectrumViewState::keyPlace(int) const
 {
-    if (!hasCursors())
-        return;
-    m_cursors = {kNone, kNone};
-    emit cursorsChanged();
-}
-
-void SpectrumViewState::zoomX(double factor, double anchor)
-{
-    setX(chart_range::zoomed(m_x, factor, anchor));
+    return m_x.min + m_x.span() / 2;
 }
 
 void SpectrumViewState::zoomY(double factor, double anchor)
 {
     m_fitted = false;
     setY(chart_range::zoomed(m_y, factor, anchor));
-}
-
-void SpectrumViewState::wheel(double angleDelta, double x, double y, bool frequencyAxis)
-{
-    const double factor = std::pow(kZoomPerNotch, std::clamp(angleDelta / kWheelNotch, -10.0, 10.0));
-    if (frequencyAxis)
-        zoomX(factor, x);
-    else
-        zoomY(factor, y);
-}
-
-void SpectrumViewState::panX(double fraction)
-{
-    setX(chart_range::moved(m_x, fraction));
 }
 
 void SpectrumViewState::panY(double fraction)
@@ -264,45 +221,6 @@ void SpectrumViewState::reset()
     m_y = fullY();
     emit viewChanged();
     emit pictureChanged();
-}
-
-bool SpectrumViewState::handleKey(int key, int modifiers)
-{
-    const bool frequencies = modifiers & Qt::ControlModifier;
-    const auto zoom = [this, frequencies](double factor) { frequencies ? zoomX(factor, 0.5) : zoomY(factor, 0); };
-    switch (key) {
-    case Qt::Key_Left:
-    case Qt::Key_Right:
-        panX(key == Qt::Key_Left ? -kPanPerKey : kPanPerKey);
-        return true;
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-        panY(key == Qt::Key_Up ? kPanPerKey : -kPanPerKey);
-        return true;
-    case Qt::Key_Plus:
-    case Qt::Key_Equal:
-        zoom(kZoomPerNotch);
-        return true;
-    case Qt::Key_Minus:
-        zoom(1 / kZoomPerNotch);
-        return true;
-    case Qt::Key_Home:
-        reset();
-        return true;
-    case Qt::Key_A:
-    case Qt::Key_B:
-        if (modifiers & ~Qt::ShiftModifier)
-            return false;
-        placeCursor(key == Qt::Key_A ? 0 : 1, std::isnan(m_hoverX) ? m_x.min + m_x.span() / 2 : m_hoverX);
-        return true;
-    case Qt::Key_Escape: {
-        const bool had = hasCursors();
-        removeCursors();
-        return had;
-    }
-    default:
-        return false;
-    }
 }
 
 void SpectrumViewState::fitLevels(double low, double high)

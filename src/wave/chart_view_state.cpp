@@ -9,17 +9,13 @@
 
 namespace {
 
-constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
-constexpr double kWheelNotch = 120;
-constexpr double kZoomPerNotch = 0.8;
-constexpr double kPanPerKey = 0.1;
 constexpr double kMaxValueSpan = 1e30;
 constexpr int kLiveTextMs = 100; ///< between two texts while samples pass
 constexpr int kLastTextMs = 150; ///< after the last samples, whose text may have been left out
 
 } // namespace
 
-ChartViewState::ChartViewState(QObject *parent) : QObject(parent), m_cursors{kNone, kNone}
+ChartViewState::ChartViewState(QObject *parent) : PlotViewState(MainAxis::X, {-10, 0}, {-1, 1}, parent)
 {
     m_liveTimer.setSingleShot(true);
     m_liveTimer.setInterval(kLastTextMs);
@@ -78,14 +74,6 @@ QStringList ChartViewState::measurement() const
     return chart_text::measurement(*m_bridge, m_cursors[0], m_cursors[1]);
 }
 
-void ChartViewState::setHoverX(double seconds)
-{
-    if (seconds == m_hoverX || (std::isnan(seconds) && std::isnan(m_hoverX)))
-        return;
-    m_hoverX = seconds;
-    emit hoverChanged();
-}
-
 QString ChartViewState::hoverTime() const
 {
     return std::isnan(m_hoverX) ? QString() : chart_text::time(m_hoverX);
@@ -111,29 +99,10 @@ void ChartViewState::setChannelVisible(int channel, bool visible)
     emit pictureChanged();
 }
 
-void ChartViewState::zoomX(double factor, double anchor)
-{
-    setX(chart_range::zoomed(m_x, factor, anchor));
-}
-
 void ChartViewState::zoomY(double factor, double anchor)
 {
     const double span = std::clamp(m_y.span() * factor, valueLimits().minSpan, kMaxValueSpan);
     setY(chart_range::zoomed(m_y, span / m_y.span(), anchor), false);
-}
-
-void ChartViewState::wheel(double angleDelta, double x, double y, bool valueAxis)
-{
-    const double factor = std::pow(kZoomPerNotch, std::clamp(angleDelta / kWheelNotch, -10.0, 10.0));
-    if (valueAxis)
-        zoomY(factor, y);
-    else
-        zoomX(factor, x);
-}
-
-void ChartViewState::panX(double fraction)
-{
-    setX(chart_range::moved(m_x, fraction));
 }
 
 void ChartViewState::panY(double fraction)
@@ -152,77 +121,17 @@ void ChartViewState::reset()
     emit pictureChanged();
 }
 
-void ChartViewState::placeCursor(int cursor, double seconds)
+/// It keeps to the history.
+double ChartViewState::cursorPlace(double seconds) const
 {
-    if (cursor < 0 || cursor >= int(m_cursors.size()) || !m_bridge || !m_bridge->hasData() || std::isnan(seconds))
-        return;
-    m_cursors[size_t(cursor)] = std::clamp(seconds, m_bridge->xHistoryMin(), 0.0);
-    emit cursorsChanged();
+    return m_bridge && m_bridge->hasData() ? std::clamp(seconds, m_bridge->xHistoryMin(), 0.0) : kNone;
 }
 
-void ChartViewState::toggleCursors()
+/// At a third and two thirds of what is seen.
+double ChartViewState::firstPlace(int cursor) const
 {
-    if (hasCursors()) {
-        removeCursors();
-        return;
-    }
-    placeCursor(0, keyTime(1.0 / 3));
-    placeCursor(1, keyTime(2.0 / 3));
-}
-
-void ChartViewState::removeCursors()
-{
-    if (!hasCursors())
-        return;
-    m_cursors = {kNone, kNone};
-    emit cursorsChanged();
-}
-
-bool ChartViewState::handleKey(int key, int modifiers)
-{
-    const bool valueAxis = modifiers & Qt::ControlModifier;
-    const auto zoom = [this, valueAxis](double factor) {
-        valueAxis ? zoomY(factor, 0.5) : zoomX(factor, isFollowing() ? 1 : 0.5);
-    };
-    switch (key) {
-    case Qt::Key_Left:
-        panX(-kPanPerKey);
-        return true;
-    case Qt::Key_Right:
-        panX(kPanPerKey);
-        return true;
-    case Qt::Key_Up:
-        panY(kPanPerKey);
-        return true;
-    case Qt::Key_Down:
-        panY(-kPanPerKey);
-        return true;
-    case Qt::Key_Plus:
-    case Qt::Key_Equal:
-        zoom(kZoomPerNotch);
-        return true;
-    case Qt::Key_Minus:
-        zoom(1 / kZoomPerNotch);
-        return true;
-    case Qt::Key_Home:
-        reset();
-        return true;
-    case Qt::Key_A:
-    case Qt::Key_B: {
-        if (modifiers & ~Qt::ShiftModifier)
-            return false;
-        const bool isA = key == Qt::Key_A;
-        placeCursor(isA ? 0 : 1, std::isnan(m_hoverX) ? keyTime(isA ? 1.0 / 3 : 2.0 / 3) : m_hoverX);
-        return true;
-    }
-    case Qt::Key_Escape: {
-        const bool had = hasCursors();
-        removeCursors();
-        return had;
-    }
-    default:
-        return false;
-    }
+    const double from = m_bridge ? std::max(m_x.min, m_bridge->xHistoryMin()) : m_x.min;
+    return from + (m_x.max - from) * (cursor + 1) / 3;
 }
 
 void ChartViewState::fitValues(double low, double high)
@@ -293,17 +202,6 @@ void ChartViewState::updateLiveTexts()
         return;
     m_liveTexts = texts;
     emit liveTextsChanged();
-}
-
-bool ChartViewState::hasCursors() const
-{
-    return !std::isnan(m_cursors[0]) || !std::isnan(m_cursors[1]);
-}
-
-double ChartViewState::keyTime(double fraction) const
-{
-    const double from = m_bridge ? std::max(m_x.min, m_bridge->xHistoryMin()) : m_x.min;
-    return from + (m_x.max - from) * fraction;
 }
 
 chart_range::TimeLimits ChartViewState::timeLimits() const

@@ -8,10 +8,7 @@
 #include <QTimer>
 #include <QtQml/qqml.h>
 
-#include <array>
-#include <limits>
-
-#include "wave/chart_range.h"
+#include "wave/plot_view_state.h"
 #include "wave/wave_chart_bridge.h"
 
 /// What one chart view shows of its bridge: the visible ranges of both axes, which channels, the measuring cursors, the
@@ -23,7 +20,7 @@
 ///
 /// The value axis fits itself to the visible values until the user zooms or pans it; reset() goes back to that.
 /// Main thread only; the bridge is not owned and may die first.
-class ChartViewState : public QObject
+class ChartViewState : public PlotViewState
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(ChartViewState)
@@ -31,10 +28,6 @@ class ChartViewState : public QObject
     Q_PROPERTY(WaveChartBridge *bridge READ bridge WRITE setBridge NOTIFY bridgeChanged)
     Q_PROPERTY(bool active READ isActive WRITE setActive NOTIFY activeChanged)
     Q_PROPERTY(bool hasData READ hasData NOTIFY hasDataChanged)
-    Q_PROPERTY(double xViewMin READ xViewMin NOTIFY viewChanged)
-    Q_PROPERTY(double xViewMax READ xViewMax NOTIFY viewChanged)
-    Q_PROPERTY(double yViewMin READ yViewMin NOTIFY viewChanged)
-    Q_PROPERTY(double yViewMax READ yViewMax NOTIFY viewChanged)
     Q_PROPERTY(bool following READ isFollowing NOTIFY viewChanged)
     Q_PROPERTY(bool yAutomatic READ isYAutomatic NOTIFY viewChanged)
     Q_PROPERTY(QString name READ name NOTIFY titleChanged)
@@ -42,10 +35,7 @@ class ChartViewState : public QObject
     Q_PROPERTY(QList<bool> visibleChannels READ visibleChannels NOTIFY channelsChanged)
     Q_PROPERTY(QStringList liveTexts READ liveTexts NOTIFY liveTextsChanged)
     Q_PROPERTY(QString rangeText READ rangeText NOTIFY rangeTextChanged)
-    Q_PROPERTY(QList<double> cursors READ cursors NOTIFY cursorsChanged)
-    Q_PROPERTY(bool hasCursors READ hasCursors NOTIFY cursorsChanged)
     Q_PROPERTY(QStringList measurement READ measurement NOTIFY cursorsChanged)
-    Q_PROPERTY(double hoverX READ hoverX WRITE setHoverX NOTIFY hoverChanged)
     Q_PROPERTY(QString hoverTime READ hoverTime NOTIFY hoverChanged)
     Q_PROPERTY(QStringList hoverTexts READ hoverTexts NOTIFY hoverChanged)
 
@@ -59,10 +49,6 @@ public:
     void setActive(bool active);
     bool hasData() const { return m_hasData; }
 
-    double xViewMin() const { return m_x.min; }
-    double xViewMax() const { return m_x.max; }
-    double yViewMin() const { return m_y.min; }
-    double yViewMax() const { return m_y.max; }
     /// The newest sample is at the right edge and stays there.
     bool isFollowing() const { return m_x.max >= 0; }
     bool isYAutomatic() const { return m_yAutomatic; }
@@ -78,41 +64,20 @@ public:
     /// The rate and the visible part of the history, "400 Hz · last 10 s of 60 s", for a status line.
     QString rangeText() const;
 
-    /// Times of the cursors A and B in seconds, NaN for one that is not placed.
-    QList<double> cursors() const { return {m_cursors.begin(), m_cursors.end()}; }
-    bool hasCursors() const;
     /// What the cursors measure, one text per quantity; empty unless both are placed.
     QStringList measurement() const;
 
-    /// Time under the pointer, NaN for none.
-    double hoverX() const { return m_hoverX; }
-    void setHoverX(double seconds);
+    /// Time under the pointer.
     QString hoverTime() const;
     /// The values of all channels at that time.
     QStringList hoverTexts() const;
 
     Q_INVOKABLE void setChannelVisible(int channel, bool visible);
-    /// Zooms the time axis; below 1 zooms in. `anchor` is the place that stays, 0 the left edge to 1 the right edge.
-    Q_INVOKABLE void zoomX(double factor, double anchor);
-    /// Zooms the value axis and makes it manual; `anchor` is 0 at the bottom to 1 at the top.
-    Q_INVOKABLE void zoomY(double factor, double anchor);
-    /// One notch or part of a notch of the wheel (120 units) at the fractions (x, y) of the plot, y from the bottom.
-    Q_INVOKABLE void wheel(double angleDelta, double x, double y, bool valueAxis);
-    /// Moves by a fraction of what is visible: a positive one towards newer samples and larger values.
-    Q_INVOKABLE void panX(double fraction);
-    Q_INVOKABLE void panY(double fraction);
+    /// Makes the value axis manual.
+    void zoomY(double factor, double anchor) override;
+    void panY(double fraction) override;
     /// The last ten seconds, following, values fitted.
-    Q_INVOKABLE void reset();
-
-    /// Places cursor 0 (A) or 1 (B) at a time in seconds; it keeps to the history.
-    Q_INVOKABLE void placeCursor(int cursor, double seconds);
-    /// Both cursors at a third and two thirds of the view, or none when there are some.
-    Q_INVOKABLE void toggleCursors();
-    Q_INVOKABLE void removeCursors();
-
-    /// The keys of a chart: arrows pan, + and - zoom (with Ctrl the value axis), Home resets, A and B place cursors at
-    /// the pointer, Esc removes them. True when it was one of them and had an effect.
-    Q_INVOKABLE bool handleKey(int key, int modifiers);
+    void reset() override;
 
     /// Told by the view which values are visible; fits the value axis while that is automatic. Nothing happens when
     /// `low` is above `high`.
@@ -122,40 +87,36 @@ signals:
     void bridgeChanged();
     void activeChanged();
     void hasDataChanged();
-    void viewChanged();
     void titleChanged();
     void channelsChanged();
     void liveTextsChanged();
     void rangeTextChanged();
-    void cursorsChanged();
-    void hoverChanged();
-    /// The picture is out of date: samples arrived, or what is visible changed.
-    void pictureChanged();
+
+protected:
+    void setX(chart_range::Range window) override;
+    double cursorPlace(double seconds) const override;
+    double firstPlace(int cursor) const override;
+    double keyPlace(int cursor) const override { return firstPlace(cursor); }
+    double keyAnchorX() const override { return isFollowing() ? 1 : 0.5; }
 
 private:
     void samplesChanged();
     void followTime();
     void startOver();
     void updateLiveTexts();
-    double keyTime(double fraction) const;
     chart_range::TimeLimits timeLimits() const;
     chart_range::ValueLimits valueLimits() const;
-    void setX(chart_range::Range window);
     void setY(chart_range::Range range, bool automatic);
 
     QPointer<WaveChartBridge> m_bridge;
     bool m_active = true;
     bool m_hasData = false;
-    chart_range::Range m_x{-10, 0};
-    chart_range::Range m_y{-1, 1};
     bool m_yAutomatic = true;
     double m_newest = 0; ///< stamp of the newest sample when time was last followed, seconds
     QList<bool> m_visibleChannels;
     QStringList m_liveTexts;
     QTimer m_liveTimer;
     QElapsedTimer m_sinceLiveTexts;
-    std::array<double, 2> m_cursors;
-    double m_hoverX = std::numeric_limits<double>::quiet_NaN();
 };
 
 /// Makes the bridge known to views, which get it from their window.

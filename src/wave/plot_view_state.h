@@ -1,0 +1,98 @@
+#pragma once
+
+#include <array>
+#include <limits>
+
+#include <QList>
+#include <QObject>
+#include <QtQml/qqml.h>
+
+#include "wave/chart_range.h"
+
+/// What every chart with two axes has in common: the visible ranges, the measuring cursors A and B, the crosshair, and
+/// the gestures and keys that move them. A chart adds its limits, where its cursors may stand and what is drawn.
+/// Positions on the horizontal axis are in its own unit. Main thread only.
+class PlotViewState : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(PlotViewState)
+    QML_ANONYMOUS
+    Q_PROPERTY(double xViewMin READ xViewMin NOTIFY viewChanged)
+    Q_PROPERTY(double xViewMax READ xViewMax NOTIFY viewChanged)
+    Q_PROPERTY(double yViewMin READ yViewMin NOTIFY viewChanged)
+    Q_PROPERTY(double yViewMax READ yViewMax NOTIFY viewChanged)
+    Q_PROPERTY(QList<double> cursors READ cursors NOTIFY cursorsChanged)
+    Q_PROPERTY(bool hasCursors READ hasCursors NOTIFY cursorsChanged)
+    Q_PROPERTY(double hoverX READ hoverX WRITE setHoverX NOTIFY hoverChanged)
+
+public:
+    double xViewMin() const { return m_x.min; }
+    double xViewMax() const { return m_x.max; }
+    double yViewMin() const { return m_y.min; }
+    double yViewMax() const { return m_y.max; }
+
+    /// Positions of A and B, NaN for one that is not placed.
+    QList<double> cursors() const { return {m_cursors.begin(), m_cursors.end()}; }
+    bool hasCursors() const;
+    /// Places cursor 0 (A) or 1 (B) where the chart lets it stand next to `position`.
+    Q_INVOKABLE void placeCursor(int cursor, double position);
+    /// Both cursors, or none when there are some.
+    Q_INVOKABLE void toggleCursors();
+    Q_INVOKABLE void removeCursors();
+
+    /// Position under the pointer, NaN when it is elsewhere.
+    double hoverX() const { return m_hoverX; }
+    void setHoverX(double position);
+
+    /// Scales an axis by `factor`, below 1 zooms in. `anchor` is the place that stays: 0 left or bottom, 1 right or
+    /// top.
+    Q_INVOKABLE void zoomX(double factor, double anchor);
+    Q_INVOKABLE virtual void zoomY(double factor, double anchor) = 0;
+    /// One notch or part of a notch of the wheel (120 units) at the fractions (x, y) of the plot, y from the bottom.
+    /// It zooms the chart's main axis, or the other one.
+    Q_INVOKABLE void wheel(double angleDelta, double x, double y, bool otherAxis);
+    /// Moves an axis by a fraction of its visible part: a positive one towards larger values.
+    Q_INVOKABLE void panX(double fraction);
+    Q_INVOKABLE virtual void panY(double fraction) = 0;
+    /// Back to what is shown at first.
+    Q_INVOKABLE virtual void reset() = 0;
+
+    /// The keys of a chart: arrows pan, + and - zoom (with Ctrl the other axis), Home resets, A and B place cursors at
+    /// the pointer, Esc removes them. True when it was one of them and had an effect.
+    Q_INVOKABLE bool handleKey(int key, int modifiers);
+
+signals:
+    void viewChanged();
+    void cursorsChanged();
+    void hoverChanged();
+    /// The picture is out of date: data arrived, or what is visible changed.
+    void pictureChanged();
+
+protected:
+    static constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
+
+    /// Which axis the wheel and the keys zoom without a modifier.
+    enum class MainAxis { X, Y };
+
+    PlotViewState(MainAxis mainAxis, chart_range::Range x, chart_range::Range y, QObject *parent);
+
+    /// Shows a range as far as the chart's limits let it.
+    virtual void setX(chart_range::Range range) = 0;
+    /// Where a cursor stands that is wanted at `position`; NaN: it cannot be placed.
+    virtual double cursorPlace(double position) const = 0;
+    /// Where toggleCursors() places A (0) and B (1).
+    virtual double firstPlace(int cursor) const = 0;
+    /// Where a key places them while the pointer is elsewhere.
+    virtual double keyPlace(int cursor) const = 0;
+    /// What keys leave in its place when they zoom, as in zoomX() and zoomY().
+    virtual double keyAnchorX() const { return 0.5; }
+    virtual double keyAnchorY() const { return 0.5; }
+
+    chart_range::Range m_x;
+    chart_range::Range m_y;
+    std::array<double, 2> m_cursors{kNone, kNone};
+    double m_hoverX = kNone;
+
+private:
+    const MainAxis m_mainAxis;
+};
