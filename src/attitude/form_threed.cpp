@@ -18,6 +18,7 @@
 #include <cmath>
 #include <optional>
 
+#include "app/frame_gate.h"
 #include "app/settings_keys.h"
 #include "app/theme.h"
 #include "attitude/qt6_model_asset.h"
@@ -75,6 +76,7 @@ void form_threed::initView()
     QSurfaceFormat surface = m_view->format();
     surface.setSamples(kSamplesPerPixel);
     m_view->setFormat(surface);
+    new FrameGate(m_view);
     m_view->setColor(theme::kSurface);
     m_view->setResizeMode(QQuickView::SizeRootObjectToView);
     if (m_view->rendererInterface()->graphicsApi() == QSGRendererInterface::Software) {

@@ -18,6 +18,7 @@
 
 #include <chrono>
 
+#include "app/frame_gate.h"
 #include "app/settings_keys.h"
 #include "app/theme.h"
 #include "fft/fft_files.h"
@@ -68,6 +69,7 @@ void form_fftchart::initChartParam()
     QSurfaceFormat surface = m_view->format();
     surface.setSamples(0);
     m_view->setFormat(surface);
+    new FrameGate(m_view);
     m_view->setColor(theme::kBackground);
     m_view->setResizeMode(QQuickView::SizeRootObjectToView);
     m_view->engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));

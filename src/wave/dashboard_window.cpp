@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "app/app_language_manager.h"
+#include "app/frame_gate.h"
 #include "app/settings_keys.h"
 #include "app/theme.h"
 #include "wave/chart_saver.h"
@@ -48,6 +49,7 @@ DashboardWindow::DashboardWindow(QLatin1String settingsGroup, QWindow *parent)
     QSurfaceFormat surface = format();
     surface.setSamples(0);
     setFormat(surface);
+    new FrameGate(this);
     setColor(theme::kBackground);
     setIcon(QGuiApplication::windowIcon());
     setResizeMode(SizeRootObjectToView);
