@@ -1,11 +1,10 @@
 #include <QCoreApplication>
 #include <QSocketNotifier>
 
-#include <cerrno>
 #include <csignal>
 #include <cstdio>
 
-#include <fcntl.h>
+#include <sys/signalfd.h>
 #include <unistd.h>
 
 #include "simulator/control_console.h"
@@ -17,33 +16,18 @@ namespace {
 constexpr int kExitPort = 1;
 constexpr int kExitUsage = 2;
 
-// A signal handler may do little more than write to a pipe; the event loop reads the other end.
-int signalPipe[2] = {-1, -1};
-
-void onSignal(int)
+/// Requests to end come as bytes, not by a handler that may do next to nothing.
+/// @return a descriptor that is readable when one has come, -1 when there can be none
+int watchRequestsToEnd()
 {
-    const int savedErrno = errno;
-    const char byte = 0;
-    [[maybe_unused]] const ssize_t written = ::write(signalPipe[1], &byte, 1);
-    errno = savedErrno;
-}
-
-bool watchSignals()
-{
-    if (::pipe(signalPipe) != 0)
-        return false;
-    for (const int end : signalPipe) {
-        ::fcntl(end, F_SETFD, FD_CLOEXEC);
-        ::fcntl(end, F_SETFL, O_NONBLOCK);
-    }
-    struct sigaction action
-    {};
-    action.sa_handler = onSignal;
-    ::sigaction(SIGINT, &action, nullptr);
-    ::sigaction(SIGTERM, &action, nullptr);
-    action.sa_handler = SIG_IGN;
-    ::sigaction(SIGPIPE, &action, nullptr);
-    return true;
+    std::signal(SIGPIPE, SIG_IGN);
+    sigset_t requests;
+    ::sigemptyset(&requests);
+    ::sigaddset(&requests, SIGINT);
+    ::sigaddset(&requests, SIGTERM);
+    if (::pthread_sigmask(SIG_BLOCK, &requests, nullptr) != 0)
+        return -1;
+    return ::signalfd(-1, &requests, SFD_NONBLOCK | SFD_CLOEXEC);
 }
 
 void printLine(const QString &line)
@@ -70,7 +54,8 @@ int main(int argc, char *argv[])
     const std::optional<kvsim::Options> options = kvsim::parseOptions(QCoreApplication::arguments(), &error);
     if (!options)
         return fail(error + QStringLiteral("; see kv_simulator --help"), kExitUsage);
-    if (!watchSignals())
+    const int requestsToEnd = watchRequestsToEnd();
+    if (requestsToEnd < 0)
         return fail(QStringLiteral("cannot watch for signals"), kExitPort);
 
     std::optional<kvsim::CsvRecording> recording;
@@ -98,8 +83,8 @@ int main(int argc, char *argv[])
     // Queued, so that a "quit" among the first lines finds a running event loop, and its answer comes first.
     QObject::connect(&console, &kvsim::ControlConsole::quitRequested, &application, &QCoreApplication::quit,
                      Qt::QueuedConnection);
-    const QSocketNotifier signalNotifier(signalPipe[0], QSocketNotifier::Read);
-    QObject::connect(&signalNotifier, &QSocketNotifier::activated, &application, &QCoreApplication::quit);
+    const QSocketNotifier endNotifier(requestsToEnd, QSocketNotifier::Read);
+    QObject::connect(&endNotifier, &QSocketNotifier::activated, &application, &QCoreApplication::quit);
 
     if (!simulator.start(&error))
         return fail(error, kExitPort);
