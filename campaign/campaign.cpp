@@ -108,7 +108,7 @@ void Campaign::openEverything()
     act(QStringLiteral("plain look"), scenario::setPlainLook);
     for (const scenario::Habit &opening : scenario::openings()) {
         const bool isFirst = m_report.rounds == 1;
-        act((isFirst ? CampaignReport::kFirstOpening : QLatin1String("open ")) + QLatin1String(opening.name),
+        act((isFirst ? QLatin1String("first opening of ") : QLatin1String("open ")) + QLatin1String(opening.name),
             opening.run);
         // Later all at once; for the first time one by one, so that the report tells what each takes.
         if (isFirst && !m_options.isQuick)

@@ -36,9 +36,6 @@ struct CampaignReport
         int threads = 0;
     };
 
-    /// How the label of an action begins that makes a window for the first time.
-    static constexpr QLatin1String kFirstOpening{"first opening of "};
-
     int rounds = 0;
     int warmUpRounds = 0;
     int actions = 0;
