@@ -79,7 +79,7 @@ class TestFrameGate : public QObject
 private slots:
     void oneAfterTheOther()
     {
-        constexpr int kFrames = 60;
+        constexpr int kFrames = 20;
         Windows windows;
         for (int i = 0; i < 3; ++i)
             QTRY_VERIFY(windows.frames(i) >= kFrames);
