@@ -52,8 +52,9 @@ private:
 
     void findRenderer()
     {
-        auto *gl = QOpenGLContext::currentContext()->functions();
-        m_hasNoGpu = QByteArray(reinterpret_cast<const char *>(gl->glGetString(GL_RENDERER))).contains("llvmpipe");
+        QOpenGLContext *context = QOpenGLContext::currentContext();
+        const auto *name = context ? context->functions()->glGetString(GL_RENDERER) : nullptr;
+        m_hasNoGpu = QByteArray(reinterpret_cast<const char *>(name)).contains("llvmpipe");
     }
 
     void begin()
