@@ -8,7 +8,7 @@
 namespace {
 
 constexpr int kSecondMs = 1000;
-constexpr unsigned long kCloseTimeoutMs = 5000;
+constexpr int kCloseTimeoutMs = 5000;
 constexpr int kLastBytesMs = 200;
 constexpr int kBootloaderWriteMs = 1000;
 
@@ -25,6 +25,9 @@ KvUartPort::KvUartPort(QObject *parent)
       m_workerThread(std::make_unique<QThread>())
 {
     connect(m_workerThread.get(), &QThread::started, this, &KvUartPort::threadStarted, Qt::QueuedConnection);
+    connect(
+        m_workerThread.get(), &QThread::finished, m_workerThread.get(), [this] { m_workerEnded = true; },
+        Qt::DirectConnection);
     connect(this, &QIODevice::readyRead, this, &KvUartPort::onReadyRead, Qt::QueuedConnection);
     connect(this, &QSerialPort::errorOccurred, this, &KvUartPort::onErrorOccurred, Qt::QueuedConnection);
     connect(m_kboot.get(), &KbootProtocol::kbootRecv, this, &KvUartPort::onKbootRecv);
@@ -43,12 +46,13 @@ void KvUartPort::openUART(const QString &portName, int baud)
 {
     if (m_workerThread->isRunning()) {
         stopInWorker();
-        m_workerThread->wait();
+        waitForWorker(QDeadlineTimer::Forever);
     }
     clear(); // nobody is to take the last connection's figures for those of this one
     m_portName = portName;
     m_baudRate = baud;
     m_startPending = true;
+    m_workerEnded = false;
     moveAllTo(m_workerThread.get());
     m_workerThread->start(QThread::InheritPriority);
 }
@@ -58,7 +62,7 @@ void KvUartPort::closeUART()
     if (!m_workerThread->isRunning())
         return;
     stopInWorker();
-    if (!m_workerThread->wait(kCloseTimeoutMs)) {
+    if (!waitForWorker(QDeadlineTimer(kCloseTimeoutMs))) {
         AppLog::logfile(QtWarningMsg, QStringLiteral("thread deadlock detected, force stopped uart-thread"));
         m_workerThread->terminate();
         m_workerThread->wait();
@@ -69,6 +73,11 @@ void KvUartPort::stopInWorker()
 {
     QMetaObject::invokeMethod(this, "threadStopped", Qt::BlockingQueuedConnection);
     m_workerThread->quit();
+}
+
+bool KvUartPort::waitForWorker(QDeadlineTimer deadline)
+{
+    return m_workerThread->wait(deadline) && m_workerEnded;
 }
 
 void KvUartPort::threadStarted()

@@ -106,6 +106,8 @@ private slots:
 
 private:
     void stopInWorker();
+    /// False when the worker thread has not ended in time.
+    bool waitForWorker(QDeadlineTimer deadline);
     void publishHealth();
     void moveAllTo(QThread *target);
     bool beginBootloader();
@@ -116,9 +118,10 @@ private:
     std::unique_ptr<QThread> m_workerThread;
     QString m_portName;
     int m_baudRate = 0;
-    bool m_startPending = false;                ///< openUART() has asked for a start that has not run yet
-    bool m_bootloaderMode = false;              ///< connected to a bootloader, or trying to
-    bool m_moveHomeAfterwards = false;          ///< the thread was stopped inside a wait of the bootloader client
+    bool m_startPending = false;             ///< openUART() has asked for a start that has not run yet
+    bool m_bootloaderMode = false;           ///< connected to a bootloader, or trying to
+    bool m_moveHomeAfterwards = false;       ///< the thread was stopped inside a wait of the bootloader client
+    std::atomic<bool> m_workerEnded = false; ///< orders all that the worker did before what follows a wait for its end
     std::atomic<bool> m_bootloaderBusy = false; ///< orders what the client has written before other threads' looks
 
     mutable QMutex m_statsMutex; ///< guards all below
