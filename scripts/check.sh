@@ -1,7 +1,12 @@
 #!/usr/bin/env bash
-# Checks of form: the folder graph, links of the documents, formatting, qmllint, clang-tidy. Needs a configured dev
-# build (./test makes one). Prints only what is wrong, and a line when all is well.
+# check.sh: checks of form: the folder graph, links of the documents, formatting, qmllint, clang-tidy. Needs a
+# configured dev build (./test makes one). Prints only what is wrong, and a line when all is well. Takes some minutes.
 set -euo pipefail
+if [ $# -gt 0 ]; then
+  sed -n '2,/^set /{/^set /d;s/^# \{0,1\}//;p}' "${BASH_SOURCE[0]}"
+  [ "$1" = --help ] || [ "$1" = -h ] || exit 2
+  exit 0
+fi
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 python3 scripts/check_folders.py

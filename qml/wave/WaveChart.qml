@@ -82,7 +82,7 @@ FocusScope {
             id: titleText
 
             anchors.verticalCenter: parent.verticalCenter
-            width: Math.max(0, Math.min(implicitWidth, parent.width - tools.width - unitText.width - 12))
+            width: Math.max(0, Math.min(implicitWidth, parent.width - tools.width - unitText.width - (view.stale ? staleText.implicitWidth : 0) - 12))
             elide: Text.ElideRight
             text: view.name
             textFormat: Text.PlainText
@@ -99,6 +99,19 @@ FocusScope {
             textFormat: Text.PlainText
             font: Theme.font
             color: Theme.textSecondary
+        }
+        Text {
+            id: staleText
+
+            objectName: "staleMark"
+            anchors.left: unitText.right
+            anchors.baseline: titleText.baseline
+            leftPadding: 12
+            visible: view.stale
+            text: qsTr("No new samples")
+            textFormat: Text.PlainText
+            font: Theme.strongFont
+            color: Theme.warning
         }
         Row {
             id: tools

@@ -1095,6 +1095,10 @@ Pa</translation>
 <context>
     <name>WaveChart</name>
     <message>
+        <source>No new samples</source>
+        <translation>没有新的采样数据</translation>
+    </message>
+    <message>
         <source>Waiting for samples</source>
         <translation>正在等待采样数据</translation>
     </message>

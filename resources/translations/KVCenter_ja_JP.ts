@@ -1095,6 +1095,10 @@ Pa</translation>
 <context>
     <name>WaveChart</name>
     <message>
+        <source>No new samples</source>
+        <translation>新しいサンプルがありません</translation>
+    </message>
+    <message>
         <source>Waiting for samples</source>
         <translation>サンプルを待っています</translation>
     </message>

@@ -1095,6 +1095,10 @@ Pa</translation>
 <context>
     <name>WaveChart</name>
     <message>
+        <source>No new samples</source>
+        <translation>새 샘플 없음</translation>
+    </message>
+    <message>
         <source>Waiting for samples</source>
         <translation>샘플을 기다리는 중</translation>
     </message>

@@ -1095,6 +1095,10 @@ Pa</translation>
 <context>
     <name>WaveChart</name>
     <message>
+        <source>No new samples</source>
+        <translation>沒有新的取樣資料</translation>
+    </message>
+    <message>
         <source>Waiting for samples</source>
         <translation>正在等待取樣資料</translation>
     </message>

@@ -12,6 +12,9 @@ namespace {
 constexpr double kMaxValueSpan = 1e30;
 constexpr int kLiveTextMs = 100; ///< between two texts while samples pass
 constexpr int kLastTextMs = 150; ///< after the last samples, whose text may have been left out
+constexpr double kMinStaleMs = 2000;
+constexpr double kMaxStaleMs = 10000; ///< the last period may have been a gap in the stream
+constexpr double kStalePeriods = 6;
 
 } // namespace
 
@@ -20,6 +23,10 @@ ChartViewState::ChartViewState(QObject *parent) : PlotViewState(MainAxis::X, {-1
     m_liveTimer.setSingleShot(true);
     m_liveTimer.setInterval(kLastTextMs);
     connect(&m_liveTimer, &QTimer::timeout, this, &ChartViewState::updateLiveTexts);
+    connect(&m_liveTimer, &QTimer::timeout, this, &ChartViewState::awaitSamples);
+    m_staleTimer.setSingleShot(true);
+    connect(&m_staleTimer, &QTimer::timeout, this,
+            [this] { setStale(m_bridge && m_bridge->hasData() && m_bridge->playing()); });
 }
 
 void ChartViewState::setBridge(WaveChartBridge *bridge)
@@ -33,6 +40,10 @@ void ChartViewState::setBridge(WaveChartBridge *bridge)
     if (bridge) {
         connect(bridge, &WaveChartBridge::dataChanged, this, &ChartViewState::samplesChanged);
         connect(bridge, &WaveChartBridge::chartTitleChanged, this, &ChartViewState::titleChanged);
+        connect(bridge, &WaveChartBridge::playingChanged, this, [this] {
+            setStale(false);
+            awaitSamples();
+        });
     }
     startOver();
     m_newest = bridge ? bridge->newestTimeSec() : 0;
@@ -154,6 +165,8 @@ void ChartViewState::samplesChanged()
     if (!m_sinceLiveTexts.isValid() || m_sinceLiveTexts.elapsed() >= kLiveTextMs)
         updateLiveTexts();
     m_liveTimer.start();
+    m_staleTimer.stop();
+    setStale(false);
     if (!std::isnan(m_hoverX))
         emit hoverChanged();
     emit pictureChanged();
@@ -202,6 +215,22 @@ void ChartViewState::updateLiveTexts()
         return;
     m_liveTexts = texts;
     emit liveTextsChanged();
+}
+
+void ChartViewState::setStale(bool stale)
+{
+    if (stale == m_stale)
+        return;
+    m_stale = stale;
+    emit staleChanged();
+}
+
+void ChartViewState::awaitSamples()
+{
+    if (!m_bridge)
+        return;
+    const double periodMs = 1000 * m_bridge->model().ageSecAtSampleOffset(1);
+    m_staleTimer.start(int(std::clamp(kStalePeriods * periodMs, kMinStaleMs, kMaxStaleMs)));
 }
 
 chart_range::TimeLimits ChartViewState::timeLimits() const

@@ -28,6 +28,7 @@ class ChartViewState : public PlotViewState
     Q_PROPERTY(WaveChartBridge *bridge READ bridge WRITE setBridge NOTIFY bridgeChanged)
     Q_PROPERTY(bool active READ isActive WRITE setActive NOTIFY activeChanged)
     Q_PROPERTY(bool hasData READ hasData NOTIFY hasDataChanged)
+    Q_PROPERTY(bool stale READ isStale NOTIFY staleChanged)
     Q_PROPERTY(bool following READ isFollowing NOTIFY viewChanged)
     Q_PROPERTY(bool yAutomatic READ isYAutomatic NOTIFY viewChanged)
     Q_PROPERTY(QString name READ name NOTIFY titleChanged)
@@ -48,6 +49,9 @@ public:
     bool isActive() const { return m_active; }
     void setActive(bool active);
     bool hasData() const { return m_hasData; }
+    /// The picture stands though nobody paused it: for at least two seconds, and six of the stream's periods if these
+    /// are longer (at most ten seconds), no sample has come.
+    bool isStale() const { return m_stale; }
 
     /// The newest sample is at the right edge and stays there.
     bool isFollowing() const { return m_x.max >= 0; }
@@ -87,6 +91,7 @@ signals:
     void bridgeChanged();
     void activeChanged();
     void hasDataChanged();
+    void staleChanged();
     void titleChanged();
     void channelsChanged();
     void liveTextsChanged();
@@ -104,6 +109,8 @@ private:
     void followTime();
     void startOver();
     void updateLiveTexts();
+    void setStale(bool stale);
+    void awaitSamples();
     chart_range::TimeLimits timeLimits() const;
     chart_range::ValueLimits valueLimits() const;
     void setY(chart_range::Range range, bool automatic);
@@ -111,11 +118,13 @@ private:
     QPointer<WaveChartBridge> m_bridge;
     bool m_active = true;
     bool m_hasData = false;
+    bool m_stale = false;
     bool m_yAutomatic = true;
     double m_newest = 0; ///< stamp of the newest sample when time was last followed, seconds
     QList<bool> m_visibleChannels;
     QStringList m_liveTexts;
     QTimer m_liveTimer;
+    QTimer m_staleTimer; ///< runs from the first lull after the last samples
     QElapsedTimer m_sinceLiveTexts;
 };
 

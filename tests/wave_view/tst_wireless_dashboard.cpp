@@ -63,12 +63,21 @@ private slots:
         QQuickItem *list = item(QStringLiteral("nodeList"));
         QVERIFY(list->property("contentHeight").toDouble() <= list->height());
         const double place = node(9)->y();
-        // One falls silent: its row stays and tells it, the others go on.
+        click(node(8));
+        click(node(9));
+        feed();
+        // One falls silent: its row stays and tells it, and so does its chart; the others go on.
         const auto state = [this](int id) { return node(id)->property("nodeState").toInt(); };
         const auto stateAfterFeeding = [this, state](int id) { return feed(9), state(id); };
         QTRY_COMPARE(stateAfterFeeding(9), int(NodeState::Gone));
+        const auto isStale = [this](int slot) {
+            QQuickItem *chart = item(QStringLiteral("chart_%1").arg(slot));
+            return findItem(chart, QStringLiteral("staleMark"))->isVisible();
+        };
+        QTRY_VERIFY((feed(9), isStale(kSensorTypeCount) && !isStale(0))); // the second node's first chart
         QTRY_COMPARE(stateAfterFeeding(8), int(NodeState::Live));
         QCOMPARE(node(9)->y(), place);
+        QTRY_VERIFY((feed(), !isStale(kSensorTypeCount)));
         m_window->clear();
         QTRY_VERIFY(isShown(QStringLiteral("noNode")));
     }
