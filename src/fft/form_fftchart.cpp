@@ -101,13 +101,13 @@ void form_fftchart::initFFTParam()
     qRegisterMetaType<QVector<double>>();
     m_thread = new QThread(this);
     m_thread->setObjectName(QStringLiteral("FftTrans"));
-    auto *engine = new FftTrans; // goes with its thread
-    engine->configure(m_pointCount, m_windowType);
-    connect(m_thread, &QThread::finished, engine, &QObject::deleteLater);
-    engine->moveToThread(m_thread);
-    connect(this, &form_fftchart::engineConfigured, engine, &FftTrans::configure);
-    connect(this, &form_fftchart::start_fft_cal, engine, &FftTrans::fftCalculate);
-    connect(engine, &FftTrans::fftResult, this, &form_fftchart::get_fft_result);
+    m_engine = new FftTrans;
+    m_engine->configure(m_pointCount, m_windowType);
+    connect(m_thread, &QThread::finished, m_engine, &QObject::deleteLater);
+    m_engine->moveToThread(m_thread);
+    connect(this, &form_fftchart::engineConfigured, m_engine, &FftTrans::configure);
+    connect(this, &form_fftchart::start_fft_cal, m_engine, &FftTrans::fftCalculate);
+    connect(m_engine, &FftTrans::fftResult, this, &form_fftchart::get_fft_result);
     m_thread->start();
 }
 
@@ -117,6 +117,10 @@ void form_fftchart::releaseResources()
     m_sampler.abandonBatch();
     if (!m_thread)
         return;
+    // An engine that ends still takes leave of all that it is connected with, in its own thread.
+    disconnect(m_engine);
+    m_engine->disconnect(this);
+    m_engine = nullptr;
     m_thread->quit();
     if (m_thread->wait(QDeadlineTimer(kThreadDeadline))) {
         delete m_thread;

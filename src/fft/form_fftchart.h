@@ -8,6 +8,7 @@
 #include "fft/fft_window.h"
 
 class FftFiles;
+class FftTrans;
 class QComboBox;
 class QDoubleSpinBox;
 class QHBoxLayout;
@@ -116,6 +117,7 @@ private:
     bool m_refitX = false;           ///< show all frequencies when the rate is known
 
     QThread *m_thread = nullptr;
+    FftTrans *m_engine = nullptr; ///< lives and dies in m_thread
     QQuickView *m_view = nullptr; ///< owned by its container
     FftFiles *m_files = nullptr;
 };
