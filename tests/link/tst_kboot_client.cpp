@@ -97,6 +97,14 @@ bool isCommand(const QByteArray &packet, int tag)
     return packet.size() > 6 && quint8(packet.at(1)) == 0xA4 && packet.at(6) == char(tag);
 }
 
+/// For a row that failed: how it went.
+QByteArray told(const char *name, const TestedPort &port, const BootloaderPeer &peer)
+{
+    const BootloaderOutcome outcome = port.outcome();
+    return QByteArray(name) + ": step " + QByteArray::number(int(outcome.step)) + ", fault "
+           + QByteArray::number(int(outcome.fault)) + ", packets " + QByteArray::number(peer.packets().size());
+}
+
 QByteArray command(const QByteArray &payload)
 {
     return frames::packet(payload, 0xA4);
@@ -174,9 +182,9 @@ private slots:
             });
             const auto owner = std::make_unique<TestedPort>(peer.path());
             TestedPort &port = *owner;
-            QVERIFY2(port.connects() == (fault == Fault::None), name);
-            QVERIFY2(port.outcome().fault == fault && port.outcome().step == Step::Properties, name);
-            QVERIFY2(peer.packets().size() == (fault == Fault::None ? 7 : at + 1), name);
+            QVERIFY2(port.connects() == (fault == Fault::None), told(name, port, peer));
+            QVERIFY2(port.outcome().fault == fault && port.outcome().step == Step::Properties, told(name, port, peer));
+            QVERIFY2(peer.packets().size() == (fault == Fault::None ? 7 : at + 1), told(name, port, peer));
             QVERIFY2(at != 5 || port.kboot()->facts().deviceId.isEmpty(), name);
         }
     }
@@ -212,11 +220,11 @@ private slots:
             });
             const auto owner = std::make_unique<TestedPort>(peer.path());
             TestedPort &port = *owner;
-            QVERIFY2(port.connects(), name);
+            QVERIFY2(port.connects(), told(name, port, peer));
             const bool complete = step == Step::Reset;
-            QVERIFY2(port.downloads(counting(100), attempts) == complete, name);
+            QVERIFY2(port.downloads(counting(100), attempts) == complete, told(name, port, peer));
             const BootloaderOutcome outcome = port.outcome();
-            QVERIFY2(outcome.step == step && outcome.fault == fault, name);
+            QVERIFY2(outcome.step == step && outcome.fault == fault, told(name, port, peer));
             QVERIFY2(outcome.isConfirmed == (tag == 0 && answer == badStatus), name); // the peer does so by script only
             QVERIFY2(outcome.targetStatus == (answer == badStatus ? 102U : 0U), name);
             QByteArray written; // a packet that is sent again carries the same bytes
