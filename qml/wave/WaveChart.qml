@@ -82,7 +82,7 @@ FocusScope {
             id: titleText
 
             anchors.verticalCenter: parent.verticalCenter
-            width: Math.max(0, Math.min(implicitWidth, parent.width - tools.width - unitText.width - (view.stale ? staleText.implicitWidth : 0) - 12))
+            width: Math.max(0, Math.min(implicitWidth, parent.width - tools.width - unitText.width - 12))
             elide: Text.ElideRight
             text: view.name
             textFormat: Text.PlainText
@@ -99,19 +99,6 @@ FocusScope {
             textFormat: Text.PlainText
             font: Theme.font
             color: Theme.textSecondary
-        }
-        Text {
-            id: staleText
-
-            objectName: "staleMark"
-            anchors.left: unitText.right
-            anchors.baseline: titleText.baseline
-            leftPadding: 12
-            visible: view.stale
-            text: qsTr("No new samples")
-            textFormat: Text.PlainText
-            font: Theme.strongFont
-            color: Theme.warning
         }
         Row {
             id: tools
@@ -260,6 +247,34 @@ FocusScope {
         }
         viewState: view
         onPressed: chart.forceActiveFocus()
+    }
+
+    // Over the lines that stand, so that the title keeps its room.
+    Rectangle {
+        objectName: "staleMark"
+        anchors {
+            top: rows.bottom
+            right: parent.right
+            topMargin: 14
+            rightMargin: 22
+        }
+        visible: view.stale
+        width: staleText.implicitWidth + 16
+        height: staleText.implicitHeight + 6
+        radius: height / 2
+        color: Theme.surface
+        border.width: 1
+        border.color: Theme.warning
+
+        Text {
+            id: staleText
+
+            anchors.centerIn: parent
+            text: qsTr("No new samples")
+            textFormat: Text.PlainText
+            font: Theme.strongFont
+            color: Theme.warning
+        }
     }
 
     EmptyState {
