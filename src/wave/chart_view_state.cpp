@@ -25,8 +25,12 @@ ChartViewState::ChartViewState(QObject *parent) : PlotViewState(MainAxis::X, {-1
     connect(&m_liveTimer, &QTimer::timeout, this, &ChartViewState::updateLiveTexts);
     connect(&m_liveTimer, &QTimer::timeout, this, &ChartViewState::awaitSamples);
     m_staleTimer.setSingleShot(true);
-    connect(&m_staleTimer, &QTimer::timeout, this,
-            [this] { setStale(m_bridge && m_bridge->hasData() && m_bridge->playing()); });
+    connect(&m_staleTimer, &QTimer::timeout, this, [this] {
+        if (m_bridge && m_bridge->newestTimeSec() != m_newest) // too few yet for the bridge to tell
+            samplesChanged();
+        else
+            setStale(m_bridge && m_bridge->hasData() && m_bridge->playing());
+    });
 }
 
 void ChartViewState::setBridge(WaveChartBridge *bridge)
