@@ -56,27 +56,43 @@ QByteArray CommandBroker::executeCommand(const QString &text, unsigned int windo
         return {};
     }
     QByteArray reply;
-    if (collect(text.toUtf8(), windowMs, &reply) != Window::BrokerGone)
+    const Window window = collect(text.toUtf8(), windowMs, &reply);
+    if (window != Window::BrokerGone) {
         m_lastResult = reply;
+        m_cutShort = window == Window::CutShort;
+    }
     return reply;
 }
 
 QByteArray CommandBroker::executeSequence(const QList<SettingsCommand> &commands)
 {
+    return executeSequence(commands, {});
+}
+
+QByteArray CommandBroker::executeSequence(const QList<SettingsCommand> &commands, const Observer &observer)
+{
+    const QPointer<CommandBroker> self(this);
+    const quint64 aborts = m_aborts;
     AppLog::logfile(QtInfoMsg, QStringLiteral("command sequence start count=%1").arg(commands.size()));
     // A local: an event inside a window may try a command of its own, which overwrites the last result.
     QByteArray result;
     m_lastResult.clear();
-    for (const SettingsCommand &command : commands) {
-        if (command.text.isEmpty())
+    bool cutShort = false;
+    for (qsizetype i = 0; i < commands.size() && !cutShort; ++i) {
+        if (commands[i].text.isEmpty())
             continue;
-        const Window window = collect(command.text.toUtf8(), command.waitMs, &result);
+        const Window window = collect(commands[i].text.toUtf8(), commands[i].waitMs, &result);
         if (window == Window::BrokerGone)
             return {};
-        if (window == Window::CutShort)
+        const bool goesOn = window == Window::CutShort || !observer || observer(i, result);
+        if (self == nullptr)
+            return {};
+        cutShort = window == Window::CutShort || aborts != m_aborts;
+        if (!goesOn)
             break;
     }
     m_lastResult = result;
+    m_cutShort = cutShort;
     AppLog::logfile(
         QtInfoMsg,
         QStringLiteral("command sequence finish count=%1 response_bytes=%2").arg(commands.size()).arg(result.size()));
@@ -91,6 +107,7 @@ CommandBroker::Window CommandBroker::collect(const QByteArray &bytes, unsigned i
         return Window::Complete;
     }
     m_collecting = true;
+    m_windowOpen = true;
     m_buffer.clear();
     m_truncationReported = false;
     AppLog::logfile(QtDebugMsg, QStringLiteral("command send window_ms=%1 bytes=%2 preview=\"%3\"")
@@ -108,6 +125,7 @@ CommandBroker::Window CommandBroker::collect(const QByteArray &bytes, unsigned i
                         : QStringLiteral("command complete response_bytes=%1 preview=\"%2\"")
                               .arg(m_buffer.size())
                               .arg(previewBytes(m_buffer)));
+    m_windowOpen = false;
     m_collecting = false;
     *reply = m_buffer;
     return window;
@@ -116,22 +134,35 @@ CommandBroker::Window CommandBroker::collect(const QByteArray &bytes, unsigned i
 CommandBroker::Window CommandBroker::runWindow(unsigned int windowMs)
 {
     const QPointer<CommandBroker> self(this);
+    const quint64 aborts = m_aborts;
     QEventLoop loop;
+    m_loop = &loop;
     QTimer timer;
     timer.setSingleShot(true);
     timer.setTimerType(Qt::PreciseTimer); // a coarse one may end a long window 5 % early
+    // A modal loop above this one may hold the return back for as long as it likes; the reply ends here.
+    connect(&timer, &QTimer::timeout, this, [this] { m_windowOpen = false; });
     connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);
     connect(this, &QObject::destroyed, &loop, &QEventLoop::quit);
     timer.start(int(qMin(windowMs, unsigned(std::numeric_limits<int>::max()))));
     loop.exec();
     if (self == nullptr)
         return Window::BrokerGone;
-    return timer.isActive() ? Window::CutShort : Window::Complete;
+    m_loop = nullptr;
+    return timer.isActive() || aborts != m_aborts ? Window::CutShort : Window::Complete;
+}
+
+void CommandBroker::abort()
+{
+    ++m_aborts;
+    m_windowOpen = false;
+    if (m_loop != nullptr)
+        m_loop->quit();
 }
 
 void CommandBroker::serialRecv(const QByteArray &data)
 {
-    if (!m_collecting || data.isEmpty())
+    if (!m_windowOpen || data.isEmpty())
         return;
     const qsizetype room = kMaxReplyBytes - m_buffer.size();
     m_buffer.append(data.constData(), qMin(room, data.size()));

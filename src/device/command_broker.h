@@ -5,17 +5,20 @@
 #include <QObject>
 #include <QPointer>
 
+#include <functional>
+
 #include "device/settings_command_adapter.h"
 
 class KvUartPort;
+class QEventLoop;
 
 /// Sends text commands to the device, one at a time, and collects whatever comes back during a fixed time window. It
 /// reads nothing into the bytes: an empty reply is the only sign of a silent device.
 ///
 /// Lives in the main thread. A call with a window returns when the window has passed; meanwhile a local event loop
 /// runs, so replies, timers and clicks are delivered. A command that such an event issues is rejected: callers that
-/// offer commands ask isCollecting() first. If the application quits, or the broker dies, inside a window, the call
-/// returns early and a sequence sends no further command.
+/// offer commands ask isCollecting() first. If abort() is called, the application quits, or the broker dies, inside a
+/// window, the call returns early and a sequence sends no further command.
 class CommandBroker : public QObject
 {
     Q_OBJECT
@@ -39,6 +42,19 @@ public:
     /// only, so a sequence ends with its informative command.
     QByteArray executeSequence(const QList<SettingsCommand> &commands);
 
+    /// Called after each command's window with the command's place in the list and its reply; false sends no more. Not
+    /// called for a window that was cut short.
+    using Observer = std::function<bool(qsizetype index, const QByteArray &reply)>;
+    /// The same with a look at every reply.
+    QByteArray executeSequence(const QList<SettingsCommand> &commands, const Observer &observer);
+
+    /// Ends the window that runs and lets a running sequence send nothing more. The call that waits returns what came
+    /// so far as soon as control is back in its event loop; isCollecting() until then. No effect when nothing runs.
+    void abort();
+
+    /// The last executeCommand() or executeSequence() ended before its time.
+    bool wasCutShort() const { return m_cutShort; }
+
     /// Reply of the last executeCommand() or executeSequence().
     const QByteArray &lastResult() const { return m_lastResult; }
 
@@ -60,8 +76,12 @@ private:
     Window runWindow(unsigned int windowMs);
 
     QPointer<KvUartPort> m_port;
-    QByteArray m_buffer; ///< bytes of the current window
+    QEventLoop *m_loop = nullptr; ///< of the window that runs
+    QByteArray m_buffer;          ///< bytes of the current window
     QByteArray m_lastResult;
+    quint64 m_aborts = 0; ///< number of aborts so far
     bool m_collecting = false;
+    bool m_windowOpen = false; ///< bytes are taken: the window's time has not passed yet
+    bool m_cutShort = false;
     bool m_truncationReported = false; ///< in the current window
 };

@@ -31,6 +31,7 @@ enum class BootloaderStep {
 enum class BootloaderFault {
     None,
     PortClosed,  ///< the port was closed, or its device vanished
+    Stopped,     ///< the user has stopped it
     NoAnswer,    ///< silence, or nothing that could be an answer
     WrongAnswer, ///< a property of another size than 4 bytes
     Refused,     ///< negative acknowledge

@@ -54,7 +54,7 @@ bool KbootProtocol::serial_send_and_wait_resp(const QByteArray &packet, int wait
 {
     forgetReply();
     emit serialSend(packet);
-    for (int step = 0; step < waits && !m_responseReceived && !m_cancelled; ++step)
+    for (int step = 0; step < waits && !m_responseReceived && !isCancelled(); ++step)
         delay(1);
     return m_responseReceived;
 }
@@ -123,7 +123,7 @@ bool KbootProtocol::cmd_send_data_packet(const QByteArray &payload)
     ++m_outcome.sentPackets;
     emit serialSend(packet);
     // An acknowledge is no packet to the decoder: its two bytes just stand at the start of the frame buffer.
-    for (int check = 0; check < kDataWaits && !m_cancelled; ++check) {
+    for (int check = 0; check < kDataWaits && !isCancelled(); ++check) {
         if (m_frameBuffer.size() >= 2 && quint8(m_frameBuffer.at(0)) == kStartByte) {
             switch (quint8(m_frameBuffer.at(1))) {
             case kTypeAck:
@@ -147,13 +147,13 @@ bool KbootProtocol::cmd_send_data_packet(const QByteArray &payload)
 
 bool KbootProtocol::connect()
 {
-    m_cancelled = false;
+    m_cancelReason = BootloaderFault::None;
     m_outcome = {};
     forgetReply();
     const bool connected = connectSteps();
-    if (m_cancelled)
-        m_outcome.fault = BootloaderFault::PortClosed;
-    return connected && !m_cancelled;
+    if (isCancelled())
+        m_outcome.fault = m_cancelReason;
+    return connected && !isCancelled();
 }
 
 bool KbootProtocol::connectSteps()
@@ -197,7 +197,7 @@ bool KbootProtocol::connectSteps()
 /// A property's value, which has to have 4 bytes; else the reason is noted and it is empty.
 QByteArray KbootProtocol::propertyValue(quint8 property)
 {
-    if (m_cancelled)
+    if (isCancelled())
         return {};
     QByteArray value = cmd_get_property(property);
     if (value.size() == kPropertySize)
@@ -208,14 +208,14 @@ QByteArray KbootProtocol::propertyValue(quint8 property)
 
 bool KbootProtocol::download(const QByteArray &image, int startAddress, int attempts)
 {
-    m_cancelled = false;
+    m_cancelReason = BootloaderFault::None;
     m_outcome.fault = BootloaderFault::None;
     m_outcome.acknowledgedBytes = 0;
     m_outcome.targetStatus = 0;
     m_outcome.isConfirmed = false;
     const bool complete = downloadSteps(image, startAddress, attempts);
-    if (!complete && m_cancelled)
-        m_outcome.fault = BootloaderFault::PortClosed;
+    if (!complete && isCancelled())
+        m_outcome.fault = m_cancelReason;
     return complete;
 }
 
@@ -254,13 +254,28 @@ bool KbootProtocol::downloadSteps(const QByteArray &image, int startAddress, int
 
 bool KbootProtocol::sendChunk(const QByteArray &chunk, int attempts)
 {
-    for (int attempt = 0; attempt < attempts && !m_cancelled; ++attempt) {
+    for (int attempt = 0; attempt < attempts && !isCancelled(); ++attempt) {
         if (attempt > 0)
             ++m_outcome.repeatedPackets;
         if (cmd_send_data_packet(chunk))
             return true;
     }
     return false;
+}
+
+void KbootProtocol::restart()
+{
+    m_cancelReason = BootloaderFault::None;
+    m_outcome = {};
+    begin(BootloaderStep::Reset);
+    cmd_reset();
+    m_outcome.fault = m_cancelReason;
+}
+
+void KbootProtocol::cancel(BootloaderFault reason)
+{
+    if (!isCancelled())
+        m_cancelReason = reason;
 }
 
 void KbootProtocol::portFailed(BootloaderStep step)

@@ -74,8 +74,12 @@ public:
     /// maximum size, each sent up to `attempts` times, and resets the target. False at the first step that fails.
     bool download(const QByteArray &image, int startAddress, int attempts);
 
-    /// Ends a connect() or download() that is waiting: it returns false at its next step. For a port that was closed.
-    void cancel() { m_cancelled = true; }
+    /// Lets the target start its firmware. Waits for the response, for at most 1500 ms.
+    void restart();
+
+    /// Ends a connect() or download() that is waiting: it returns false at its next step, with the fault `reason`, of
+    /// which the first one counts.
+    void cancel(BootloaderFault reason = BootloaderFault::PortClosed);
 
     /// Notes that the port failed before connect() or download() could run.
     void portFailed(BootloaderStep step);
@@ -133,6 +137,7 @@ private:
     bool sendChunk(const QByteArray &chunk, int attempts);
     void begin(BootloaderStep step);
     bool fail(BootloaderFault fault);
+    bool isCancelled() const { return m_cancelReason != BootloaderFault::None; }
     void forgetReply();
     bool noteStatus();
     QByteArray propertyValue(quint8 property);
@@ -147,5 +152,5 @@ private:
 
     BootloaderFacts m_facts;
     BootloaderOutcome m_outcome;
-    bool m_cancelled = false;
+    BootloaderFault m_cancelReason = BootloaderFault::None; ///< of the operation that runs, or ran last
 };

@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 
+#include <utility>
+
 #include "app/app_log.h"
 #include "link/kboot_protocol.h"
 
@@ -11,6 +13,10 @@ constexpr int kSecondMs = 1000;
 constexpr int kCloseTimeoutMs = 5000;
 constexpr int kLastBytesMs = 200;
 constexpr int kBootloaderWriteMs = 1000;
+
+constexpr char kRestartCommand[] = "AT+RST\r\n";
+constexpr int kRestartWriteMs = 1000;
+constexpr unsigned int kRestartMs = 80;
 
 void moveIfNeeded(QObject *object, QThread *target)
 {
@@ -95,7 +101,9 @@ void KvUartPort::threadStarted()
         close();
         AppLog::logfile(QtWarningMsg, QStringLiteral("found port is opened while uart-thread starting."));
     }
-    if (!open(QIODevice::ReadWrite))
+    if (open(QIODevice::ReadWrite))
+        emit opened();
+    else
         emit errorOpenPort();
     m_secondTimer->start();
     AppLog::logfile(
@@ -161,23 +169,32 @@ void KvUartPort::onKbootRecv(const QByteArray &payload)
     emit kbootRecv(payload);
 }
 
-void KvUartPort::serialSend(const QByteArray &data)
+void KvUartPort::writeCounted(const QByteArray &data)
 {
-    if (!isOpen())
-        return;
     const qint64 written = write(data);
     if (written > 0) {
         const QMutexLocker lock(&m_statsMutex);
         m_txBytes += quint64(written);
     }
+}
+
+void KvUartPort::serialSend(const QByteArray &data)
+{
+    if (!isOpen())
+        return;
+    writeCounted(data);
     if (m_bootloaderMode)
         waitForBytesWritten(kBootloaderWriteMs);
 }
 
 bool KvUartPort::serialSendBlocking(const QByteArray &data, int timeoutMs)
 {
-    serialSend(data);
-    return isOpen() && waitForBytesWritten(timeoutMs);
+    if (!isOpen())
+        return false;
+    // Not by serialSend(), which waits as well while a bootloader is connected: a wait for bytes that are already out
+    // fails, and counts as an error of the port.
+    writeCounted(data);
+    return waitForBytesWritten(timeoutMs);
 }
 
 void KvUartPort::clear()
@@ -190,6 +207,74 @@ void KvUartPort::clear()
     m_txBytes = 0;
     m_rxBytes = 0;
     m_framesCounter = 0;
+}
+
+bool KvUartPort::connectBootloader()
+{
+    if (!beginBootloader())
+        return false;
+    bool connected = false;
+    m_kboot->portFailed(BootloaderStep::Restart); // unless connect() is reached
+    if (isOpen() && serialSendBlocking(kRestartCommand, kRestartWriteMs)) {
+        m_bootloaderMode = true;
+        KbootProtocol::delay(kRestartMs);
+        connected = isOpen() && m_kboot->connect();
+    }
+    m_bootloaderMode = connected;
+    endBootloader();
+    return connected;
+}
+
+bool KvUartPort::restartFromBootloader()
+{
+    if (!m_bootloaderMode || !beginBootloader())
+        return false;
+    if (isOpen())
+        m_kboot->restart();
+    m_bootloaderMode = false;
+    const bool restarted = isOpen();
+    endBootloader();
+    return restarted;
+}
+
+bool KvUartPort::downloadBootloader(const QByteArray &image, int startAddr, int retry)
+{
+    if (!beginBootloader())
+        return false;
+    bool complete = false;
+    if (isOpen()) {
+        m_bootloaderMode = true;
+        complete = m_kboot->download(image, startAddr, retry);
+        m_bootloaderMode = false;
+    } else {
+        m_kboot->portFailed(BootloaderStep::Idle);
+    }
+    endBootloader();
+    return complete;
+}
+
+void KvUartPort::startDownloadBootloader(const QByteArray &image, int startAddr, int retry)
+{
+    if (!m_bootloaderBusy)
+        emit bootloaderDownloadFinished(downloadBootloader(image, startAddr, retry));
+}
+
+void KvUartPort::cancelBootloader()
+{
+    m_kboot->cancel(BootloaderFault::Stopped);
+}
+
+/// False while another operation waits below on the stack.
+bool KvUartPort::beginBootloader()
+{
+    return !m_bootloaderBusy.exchange(true);
+}
+
+void KvUartPort::endBootloader()
+{
+    m_bootloaderBusy = false;
+    if (std::exchange(m_moveHomeAfterwards, false))
+        moveAllTo(QCoreApplication::instance()->thread());
 }
 
 LinkStatistics KvUartPort::statistics() const

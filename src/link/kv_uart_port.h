@@ -79,14 +79,22 @@ public slots:
     /// Restarts the device into its bootloader and reads the bootloader's facts. Takes up to 4 s. For a blocking queued
     /// call. False when the port is closed, when nobody answers and while another operation runs.
     bool connectBootloader();
+    /// Lets the connected bootloader start the device's firmware. Takes up to 1.5 s. For a blocking queued call. False
+    /// when the port is closed, when no bootloader is connected and while another operation runs.
+    bool restartFromBootloader();
     /// Writes `image` to the connected bootloader's flash from `startAddr` on, each data packet up to `retry` times.
     /// False when the port is closed, when a step fails and while another operation runs.
     bool downloadBootloader(const QByteArray &image, int startAddr, int retry);
     /// The same for a queued call: the result comes by bootloaderDownloadFinished(). While another operation runs the
     /// call is dropped; that operation's end is what is told.
     void startDownloadBootloader(const QByteArray &image, int startAddr, int retry);
+    /// Ends the connect or download that runs, with the fault `Stopped`; nothing happens when none does. For a queued
+    /// call, which the operation's own event loop takes.
+    void cancelBootloader();
 
 signals:
+    /// The port has been opened.
+    void opened();
     /// Payload of one good data packet, without its framing header.
     void kbootRecv(QByteArray payload);
     /// Every chunk as it was read, after it has been through the deframer.
@@ -110,6 +118,7 @@ private:
     bool waitForWorker(QDeadlineTimer deadline);
     void publishHealth();
     void moveAllTo(QThread *target);
+    void writeCounted(const QByteArray &data);
     bool beginBootloader();
     void endBootloader();
 

@@ -94,11 +94,7 @@ form_settings::form_settings(QWidget *parent)
     connect(m_session, &CommandSession::stateChanged, this, &form_settings::finishClosing);
     connect(m_session, &CommandSession::deviceChanged, this, &form_settings::showDevice);
     connect(m_session, &CommandSession::logLine, m_ui->PTE_log, &QPlainTextEdit::appendPlainText);
-    connect(m_session, &CommandSession::outcome, this,
-            [this](CommandSession::Outcome outcome, const QString &commands) {
-                m_outcome = outcome;
-                m_refusedCommands = commands;
-            });
+    connect(m_session, &CommandSession::outcome, this, [this](const CommandOutcome &outcome) { m_outcome = outcome; });
     connect(m_ui->SB_id, &QSpinBox::valueChanged, this, &form_settings::storeChoice);
     connect(m_ui->CB_rate, &QComboBox::currentIndexChanged, this, &form_settings::storeChoice);
     connect(m_ui->CB_mode, &QComboBox::currentIndexChanged, this, &form_settings::storeChoice);
@@ -285,11 +281,16 @@ QString form_settings::blockedReason() const
 /// How the last operation ended; empty when there is nothing to say.
 QString form_settings::outcomeText() const
 {
-    switch (m_outcome) {
+    const QString commands = m_outcome.commands.join(QLatin1String(", "));
+    switch (m_outcome.kind) {
     case CommandSession::Outcome::NoReply:
         return tr("The device does not answer. Check the baud rate, then identify it again.");
+    case CommandSession::Outcome::Noise:
+        return tr("Bytes arrive that are no text. The baud rate may be wrong.");
     case CommandSession::Outcome::Refused:
-        return tr("The device refused %1.").arg(m_refusedCommands);
+        if (m_outcome.isOneOf)
+            return tr("The device refused one of %1.").arg(commands);
+        return tr("The device refused %1.").arg(commands);
     case CommandSession::Outcome::Saved:
         return tr("The settings were sent and the device has restarted.");
     case CommandSession::Outcome::Nothing:
@@ -315,7 +316,7 @@ void form_settings::updateState()
 {
     const QString blocked = blockedReason();
     const bool isProblem =
-        m_outcome == CommandSession::Outcome::NoReply || m_outcome == CommandSession::Outcome::Refused;
+        m_outcome.kind != CommandSession::Outcome::Nothing && m_outcome.kind != CommandSession::Outcome::Saved;
     const bool warn = !m_session->isConnected() || (blocked.isEmpty() && isProblem);
     m_ui->LBL_status->setText(blocked.isEmpty() ? outcomeText() : blocked);
     m_ui->LBL_status->setProperty("role", warn ? QStringLiteral("warning") : QStringLiteral("secondary"));

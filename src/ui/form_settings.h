@@ -7,9 +7,9 @@
 
 #include <memory>
 
+#include "device/command_session.h"
 #include "device/product_resolver.h"
 #include "device/settings_command_adapter.h"
-#include "ui/command_session.h"
 
 class CommandBroker;
 class QPushButton;
@@ -90,7 +90,6 @@ private:
     QHash<ProductKey, SettingsSaveRequest> m_choices; ///< what the user chose last, for as long as the program runs
     ProductKey m_shownKey = ProductKey::None;
     QPointer<QWidget> m_focusBefore; ///< had the focus when sending was last blocked
-    CommandSession::Outcome m_outcome = CommandSession::Outcome::Nothing; ///< of the last operation
-    QString m_refusedCommands;
-    bool m_closePending = false; ///< settingsClosed() is still to be told
+    CommandOutcome m_outcome;        ///< of the last operation
+    bool m_closePending = false;     ///< settingsClosed() is still to be told
 };

@@ -1,4 +1,4 @@
-#include "ui/command_session.h"
+#include "device/command_session.h"
 
 #include "device/command_broker.h"
 #include "device/info_reply.h"
@@ -38,8 +38,28 @@ void CommandSession::setConnected(bool connected)
     m_connected = connected;
     m_outputStopped = false;
     m_resumeTimer.stop();
-    emit outcome(Outcome::Nothing, {});
+    emit outcome({});
     emit stateChanged();
+}
+
+void CommandSession::suspend(bool suspended)
+{
+    if (suspended == m_suspended)
+        return;
+    m_suspended = suspended;
+    if (suspended) {
+        m_resumeTimer.stop();
+        m_operationEnded = m_busy;
+        if (m_broker != nullptr)
+            m_broker->abort();
+    }
+    emit stateChanged();
+}
+
+void CommandSession::noteData()
+{
+    m_dataSinceResume = true;
+    m_resumeTimer.stop();
 }
 
 bool CommandSession::isBusy() const
@@ -80,7 +100,7 @@ QStringList CommandSession::readInfoNow()
     emit stateChanged();
     logCommands(sequence);
     const QByteArray reply = m_broker->executeSequence(sequence);
-    if (self == nullptr)
+    if (self == nullptr || m_operationEnded)
         return {};
 
     QStringList lines;
@@ -92,12 +112,12 @@ QStringList CommandSession::readInfoNow()
     m_resumesLeft = lines.isEmpty() ? 0 : kResumesAgain; // nobody is there, or somebody whose output is stopped now
     if (m_connected && !sendResume(kResumeWindowMs))
         return {};
-    if (connection != m_connection)
+    if (connection != m_connection || m_operationEnded)
         return {};
     m_outputStopped = false;
     lines = info_reply::withoutLateAnswers(lines);
     m_device = product_resolver::resolve(lines);
-    emit outcome(m_device.valid ? Outcome::Nothing : Outcome::NoReply, {});
+    emit outcome({m_device.valid ? Outcome::Nothing : Outcome::NoReply, {}, false});
     emit deviceChanged();
     return lines;
 }
@@ -125,11 +145,11 @@ void CommandSession::save(const SettingsSaveRequest &request)
     readInfoNow();
     if (self == nullptr)
         return;
-    if (connection == m_connection) {
+    if (connection == m_connection && !m_operationEnded) {
         if (!refused.isEmpty())
-            emit outcome(Outcome::Refused, refused.join(QLatin1String(", ")));
+            emit outcome({Outcome::Refused, refused, false});
         else if (m_device.valid)
-            emit outcome(Outcome::Saved, {});
+            emit outcome({Outcome::Saved, {}, false});
     }
     end();
 }
@@ -139,7 +159,7 @@ void CommandSession::runHotkey(SettingsHotkeyAction action)
     const QString text = settings_command_adapter::hotkeyCommand(profile(), action);
     if (text.isEmpty() || !begin())
         return;
-    emit outcome(Outcome::Nothing, {});
+    emit outcome({});
     m_resumeTimer.stop();
     const QPointer<CommandSession> self(this);
     m_outputStopped =
@@ -154,7 +174,7 @@ void CommandSession::resumeOutput(bool waitForReply)
 {
     if (!begin())
         return;
-    emit outcome(Outcome::Nothing, {});
+    emit outcome({});
     m_outputStopped = false;
     m_resumesLeft = kResumesAgain;
     if (sendResume(waitForReply ? kResumeWindowMs : 0))
@@ -165,11 +185,13 @@ void CommandSession::resumeOutput(bool waitForReply)
 bool CommandSession::sendResume(quint32 waitMs)
 {
     m_resumeTimer.stop();
+    m_dataSinceResume = false;
     const QPointer<CommandSession> self(this);
     const bool isCurrent = execute(settings_command_adapter::buildResumeOutputCommand(), waitMs).has_value();
     if (self == nullptr)
         return false;
-    if (isCurrent && waitMs > 0 && m_broker != nullptr && m_broker->lastResult().isEmpty() && m_resumesLeft > 0)
+    if (isCurrent && waitMs > 0 && m_broker != nullptr && m_broker->lastResult().isEmpty() && !m_dataSinceResume
+        && m_resumesLeft > 0)
         m_resumeTimer.start();
     return true;
 }
@@ -177,7 +199,7 @@ bool CommandSession::sendResume(quint32 waitMs)
 void CommandSession::resumeAgain()
 {
     if (!begin()) { // a command of the user runs
-        if (m_connected)
+        if (m_connected && !m_suspended)
             m_resumeTimer.start();
         return;
     }
@@ -188,7 +210,7 @@ void CommandSession::resumeAgain()
 
 bool CommandSession::begin()
 {
-    if (isBusy() || !m_connected || m_broker == nullptr)
+    if (isBusy() || !m_connected || m_suspended || m_broker == nullptr)
         return false;
     m_busy = true;
     return true;
@@ -197,14 +219,15 @@ bool CommandSession::begin()
 void CommandSession::end()
 {
     m_busy = false;
+    m_operationEnded = false;
     m_currentCommand.clear();
     emit stateChanged();
 }
 
-/// Sends one command. No value when its connection, or this object, did not live to see the reply.
+/// Sends one command. No value when its connection, this object or the operation did not live to see the reply.
 std::optional<QStringList> CommandSession::execute(const QString &text, quint32 waitMs)
 {
-    if (m_broker == nullptr)
+    if (m_broker == nullptr || m_operationEnded)
         return std::nullopt;
     const QPointer<CommandSession> self(this);
     const quint64 connection = m_connection;
@@ -212,7 +235,7 @@ std::optional<QStringList> CommandSession::execute(const QString &text, quint32 
     emit stateChanged();
     logCommands({{text, waitMs}});
     const QByteArray reply = m_broker->executeCommand(text, waitMs);
-    if (self == nullptr || connection != m_connection)
+    if (self == nullptr || connection != m_connection || m_operationEnded)
         return std::nullopt;
     const QStringList lines = info_reply::lines(reply);
     if (waitMs > 0)
