@@ -5,7 +5,7 @@
 
 #include <memory>
 
-#include "ui/link_monitor.h"
+#include "session/link_monitor.h"
 
 class QLabel;
 

@@ -1,4 +1,4 @@
-#include "ui/link_monitor.h"
+#include "session/link_monitor.h"
 
 #include <QDateTime>
 

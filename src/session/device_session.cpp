@@ -1,0 +1,517 @@
+#include "session/device_session.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+#include <QSettings>
+
+#include <utility>
+
+#include "app/app_log.h"
+#include "app/settings_keys.h"
+#include "device/command_broker.h"
+#include "device/command_session.h"
+#include "device/orientation_override.h"
+#include "device/product_profile.h"
+#include "device/settings_command_adapter.h"
+#include "link/imu_parser.h"
+#include "link/kv_uart_port.h"
+#include "link/stream_dispatcher.h"
+#include "record/recorder.h"
+#include "session/link_monitor.h"
+#include "session/stream_router.h"
+
+namespace {
+
+constexpr int kRetryMs = 2000;
+constexpr int kSilenceCheckMs = 250;
+constexpr qint64 kStreamTimeoutMs = 2500; // longer than the pause between samples at the lowest output rate, 1 Hz
+constexpr double kNodeHeardMs = 5000;
+constexpr int kReadsAfterUpdate = 5;
+constexpr qint64 kNsPerMs = 1000000;
+constexpr int kUsualRates[] = {115200, 921600, 460800, 230400, 57600, 38400, 19200, 9600};
+
+} // namespace
+
+DeviceSession::DeviceSession(QObject *owner)
+    : m_port(std::make_unique<KvUartPort>()),
+      m_dispatcher(new StreamDispatcher(owner != nullptr ? owner : this)),
+      m_broker(new CommandBroker(owner != nullptr ? owner : this)), m_parser(new ImuParser(this)),
+      m_commands(new CommandSession(this)), m_recorder(new Recorder(this)),
+      m_monitor(new LinkMonitor(m_port.get(), m_recorder, this)), m_router(new StreamRouter(this))
+{
+    m_broker->attachPort(m_port.get());
+    m_commands->setBroker(m_broker);
+    m_retryTimer.setInterval(kRetryMs);
+    m_silenceTimer.setInterval(kSilenceCheckMs);
+    resolvePreset();
+
+    connect(m_port.get(), &KvUartPort::opened, this, &DeviceSession::onOpened);
+    connect(m_port.get(), &KvUartPort::kbootRecv, this, &DeviceSession::takePayload);
+    connect(m_port.get(), &QSerialPort::errorOccurred, this, &DeviceSession::onError);
+    connect(m_port.get(), &KvUartPort::bootloaderDownloadFinished, this, &DeviceSession::onDownloadFinished);
+    connect(m_dispatcher, &StreamDispatcher::singleNodeFrame, m_recorder, &Recorder::imuPackage0x91);
+    connect(m_dispatcher, &StreamDispatcher::gatewayBatch62, m_recorder, &Recorder::imuPackage0x62);
+    connect(m_dispatcher, &StreamDispatcher::gatewayBatch63, m_recorder, &Recorder::imuPackage0x63);
+    connect(m_commands, &CommandSession::stateChanged, this, &DeviceSession::onCommandState);
+    connect(m_commands, &CommandSession::deviceChanged, this, &DeviceSession::onCommandDevice);
+    connect(m_router, &StreamRouter::streamRestarted, this, &DeviceSession::streamRestarted);
+    connect(m_router, &StreamRouter::sampleReceived, this, &DeviceSession::sampleReceived);
+    connect(m_router, &StreamRouter::batchReceived, this, &DeviceSession::batchReceived);
+    connect(&m_retryTimer, &QTimer::timeout, this, &DeviceSession::identify);
+    connect(&m_silenceTimer, &QTimer::timeout, this, &DeviceSession::checkSilence);
+}
+
+DeviceSession::~DeviceSession()
+{
+    endConnection();
+}
+
+Refusal DeviceSession::refusal(SessionAction action) const
+{
+    const Refusal verdict = session_table::verdict(m_state, action);
+    if (verdict != Refusal::None)
+        return verdict;
+    switch (action) {
+    case SessionAction::Identify:
+    case SessionAction::SendCommand:
+    case SessionAction::TryBaudRates:
+        return m_commands->isBusy() || m_search ? Refusal::CommandRuns : Refusal::None;
+    case SessionAction::Download:
+        return m_bootloaderConnected ? Refusal::None : Refusal::NoBootloader;
+    default:
+        return Refusal::None;
+    }
+}
+
+bool DeviceSession::open(const QString &portName, int baudRate)
+{
+    if (!allows(SessionAction::OpenPort))
+        return false;
+    endSearch(false);
+    openPort(portName, baudRate);
+    return true;
+}
+
+void DeviceSession::openPort(const QString &portName, int baudRate)
+{
+    endConnection();
+    ++m_connection;
+    m_portName = portName;
+    m_baudRate = baudRate;
+    m_infoRequested = false;
+    m_infoDeferred = false;
+    m_lastFrameNs = -1;
+    m_lastReadNs = -1;
+    m_sinceOpened.start();
+    m_port->openUART(portName, baudRate);
+    m_commands->setBaud(baudRate);
+    m_commands->setConnected(true);
+    m_dispatcher->clear();
+    m_dispatcher->setLinkConnected(true);
+    m_recorder->setLinkOpen(true);
+    m_monitor->open(portName, baudRate);
+    m_router->start();
+    setState(SessionState::Opening);
+}
+
+void DeviceSession::onOpened()
+{
+    if (m_state != SessionState::Opening)
+        return;
+    // As identify() would from here on; the state before it is never seen.
+    m_state = SessionState::Silent;
+    readInfo();
+}
+
+bool DeviceSession::close()
+{
+    if (!allows(SessionAction::ClosePort))
+        return false;
+    endSearch(false);
+    endConnection();
+    return true;
+}
+
+void DeviceSession::endConnection()
+{
+    if (m_state == SessionState::Closed || m_state == SessionState::Closing)
+        return;
+    const bool hadBootloader = m_state == SessionState::Bootloader || m_state == SessionState::Updating;
+    ++m_connection;
+    setState(SessionState::Closing);
+    m_retryTimer.stop();
+    m_silenceTimer.stop();
+    if (!hadBootloader)
+        leaveDeviceStreaming();
+    m_port->closeUART();
+    m_dispatcher->setLinkConnected(false);
+    // What the worker had posted before it ended belongs to this connection: taken now, while the session is closing,
+    // it is ignored instead of turning up in the next connection.
+    QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
+    QCoreApplication::sendPostedEvents(m_broker, QEvent::MetaCall);
+    m_dispatcher->clear();
+    m_commands->suspend(false);
+    m_commands->setConnected(false);
+    m_recorder->setLinkOpen(false); // ends a recording: flushed and closed
+    m_monitor->close();
+    m_bootloaderConnected = false;
+    m_readsAfterUpdate = 0;
+    m_infoDeferred = false;
+    clearDevice();
+    setState(SessionState::Closed);
+}
+
+/// The next program must not find a device that a reading in progress, or the user, has made mute.
+void DeviceSession::leaveDeviceStreaming()
+{
+    if (!m_commands->isBusy() && !m_commands->isOutputStopped())
+        return;
+    QMetaObject::invokeMethod(m_port.get(), "serialSend", Qt::QueuedConnection,
+                              Q_ARG(QByteArray, settings_command_adapter::buildResumeOutputCommand().toUtf8()));
+}
+
+void DeviceSession::onError(QSerialPort::SerialPortError error)
+{
+    if (error == QSerialPort::NoError || error == QSerialPort::NotOpenError)
+        return;
+    if (m_state == SessionState::Closed || m_state == SessionState::Closing) // an echo of a failure that was reported
+        return;
+    endSearch(false);
+    endConnection();
+    AppLog::logfile(QtWarningMsg, QStringLiteral("failed to open serial port."));
+    emit portFailed(error, m_portName, m_baudRate);
+}
+
+bool DeviceSession::identify()
+{
+    if (!allows(SessionAction::Identify))
+        return false;
+    if (m_readsAfterUpdate > 0) {
+        --m_readsAfterUpdate; // the first ones may have met a device that was still starting
+    } else if (m_infoRequested && !m_device.valid && isStreamLive()) {
+        m_retryTimer.stop();
+        if (!m_infoDeferred)
+            AppLog::logfile(QtInfoMsg, QStringLiteral("product-info read skipped because live frame stream is active"));
+        m_infoDeferred = true;
+        emit stateChanged();
+        return false;
+    }
+    readInfo();
+    return true;
+}
+
+void DeviceSession::readInfo()
+{
+    m_infoRequested = true;
+    const QPointer<DeviceSession> self(this);
+    const quint64 connection = m_connection;
+    setState(SessionState::Identifying);
+    const bool answered = !m_commands->readInfo().isEmpty();
+    if (self != nullptr && connection == m_connection && m_state == SessionState::Identifying)
+        endReading(answered);
+}
+
+void DeviceSession::endReading(bool answered)
+{
+    m_lastReadNs = m_sinceOpened.nsecsElapsed();
+    if (!answered) {
+        clearDevice();
+        m_dispatcher->setProductInfoReady(false);
+        m_dispatcher->setProductProfileResolved(false);
+        m_dispatcher->setTransportRole(TransportRole::Unknown);
+    }
+    setState(m_dispatcher->snapshot().has_frame_items && isStreaming() ? SessionState::Live : SessionState::Silent);
+    if (m_search) {
+        if (answered || m_state == SessionState::Live)
+            endSearch(true);
+        else
+            QMetaObject::invokeMethod(this, &DeviceSession::tryNextRate, Qt::QueuedConnection);
+    } else if (!m_device.valid && !m_retryTimer.isActive()) {
+        m_retryTimer.start();
+    }
+}
+
+/// The device that somebody has read just now, here or in the settings window.
+void DeviceSession::onCommandDevice()
+{
+    if (m_commands->device().valid && isOpen())
+        takeDevice(m_commands->device());
+}
+
+void DeviceSession::takeDevice(const DetectedDevice &device)
+{
+    m_device = device;
+    const TransportRole role = product_profile::transportRole(profile());
+    const bool known = product_profile::isKnownProduct(profile().key);
+    m_retryTimer.stop();
+    m_readsAfterUpdate = 0;
+    m_infoDeferred = false;
+    m_dispatcher->setProductInfoReady(true);
+    m_dispatcher->setProductProfileResolved(known);
+    m_dispatcher->setTransportRole(role);
+    AppLog::logfile(QtInfoMsg, QStringLiteral("product-info resolved model=\"%1\" profile=%2 known=%3 transport=%4")
+                                   .arg(m_device.modelLine, product_profile::toString(profile().key),
+                                        known ? QStringLiteral("true") : QStringLiteral("false"),
+                                        product_profile::toString(role)));
+    resolvePreset();
+    emit deviceChanged();
+}
+
+void DeviceSession::clearDevice()
+{
+    m_device = {};
+    m_commands->clearDevice();
+    resolvePreset();
+    emit deviceChanged();
+}
+
+const ProductProfile &DeviceSession::profile() const
+{
+    return m_device.profile != nullptr ? *m_device.profile : product_profile::profile(ProductKey::None);
+}
+
+void DeviceSession::resolvePreset()
+{
+    QSettings settings(settings_keys::kFile, QSettings::IniFormat);
+    if (const OrientationPreset preset = orientation_override::resolve(m_device, settings);
+        std::exchange(m_preset, preset) != preset)
+        emit presetChanged(preset);
+}
+
+void DeviceSession::setPreset(OrientationPreset preset)
+{
+    QSettings settings(settings_keys::kFile, QSettings::IniFormat);
+    orientation_override::store(m_device.key, preset, settings);
+    if (std::exchange(m_preset, preset) != preset)
+        emit presetChanged(preset);
+}
+
+bool DeviceSession::tryBaudRates()
+{
+    if (!allows(SessionAction::TryBaudRates))
+        return false;
+    m_retryTimer.stop();
+    m_search = BaudSearch{{}, m_baudRate};
+    for (const int rate : kUsualRates) {
+        if (rate != m_baudRate)
+            m_search->rates.append(rate);
+    }
+    tryNextRate();
+    return true;
+}
+
+void DeviceSession::tryNextRate()
+{
+    if (!m_search)
+        return;
+    if (!m_search->rates.isEmpty()) {
+        openPort(m_portName, m_search->rates.takeFirst());
+        return;
+    }
+    const int original = m_search->originalRate;
+    endSearch(false);
+    openPort(m_portName, original);
+}
+
+void DeviceSession::endSearch(bool found)
+{
+    if (!std::exchange(m_search, std::nullopt))
+        return;
+    emit baudSearchEnded(found);
+    emit stateChanged();
+}
+
+bool DeviceSession::connectBootloader()
+{
+    if (!allows(SessionAction::ConnectBootloader))
+        return false;
+    endSearch(false);
+    const bool wasThere = m_state == SessionState::Bootloader;
+    m_retryTimer.stop();
+    m_bootloaderConnected = false;
+    setState(SessionState::Bootloader);
+    m_commands->suspend(true); // what runs is ended first
+    bool connected = false;
+    QMetaObject::invokeMethod(m_port.get(), "connectBootloader", Qt::BlockingQueuedConnection,
+                              Q_RETURN_ARG(bool, connected));
+    m_bootloaderConnected = connected;
+    // A bootloader that had answered before is most likely still there: it is sent no text.
+    if (!connected && !wasThere)
+        leaveBootloader();
+    emit stateChanged();
+    return connected;
+}
+
+bool DeviceSession::startDownload(const QByteArray &image, int startAddress, int attempts)
+{
+    if (!allows(SessionAction::Download))
+        return false;
+    setState(SessionState::Updating);
+    if (QMetaObject::invokeMethod(m_port.get(), "startDownloadBootloader", Qt::QueuedConnection,
+                                  Q_ARG(QByteArray, image), Q_ARG(int, startAddress), Q_ARG(int, attempts)))
+        return true;
+    setState(SessionState::Bootloader);
+    return false;
+}
+
+bool DeviceSession::stopDownload()
+{
+    return allows(SessionAction::StopDownload)
+           && QMetaObject::invokeMethod(m_port.get(), "cancelBootloader", Qt::QueuedConnection);
+}
+
+void DeviceSession::onDownloadFinished(bool success)
+{
+    if (m_state == SessionState::Updating) {
+        m_bootloaderConnected = false;
+        if (success)
+            leaveBootloader();
+        else
+            setState(SessionState::Bootloader); // it stays in the device, and is sent no text
+    }
+    emit downloadFinished(success);
+}
+
+bool DeviceSession::restartDevice()
+{
+    if (!allows(SessionAction::RestartDevice))
+        return false;
+    bool restarted = false;
+    QMetaObject::invokeMethod(m_port.get(), "restartFromBootloader", Qt::BlockingQueuedConnection,
+                              Q_RETURN_ARG(bool, restarted));
+    m_bootloaderConnected = false;
+    leaveBootloader();
+    return restarted;
+}
+
+/// The firmware runs again, or is about to; it may be another one.
+void DeviceSession::leaveBootloader()
+{
+    if (m_state != SessionState::Bootloader && m_state != SessionState::Updating)
+        return;
+    m_bootloaderConnected = false;
+    m_readsAfterUpdate = kReadsAfterUpdate;
+    m_commands->suspend(false);
+    clearDevice();
+    m_dispatcher->setProductInfoReady(false);
+    m_monitor->interrupt();
+    m_router->interrupt();
+    setState(SessionState::Silent);
+    m_retryTimer.start();
+}
+
+void DeviceSession::onCommandState()
+{
+    if (std::exchange(m_commandBusy, m_commands->isBusy()) != m_commandBusy) {
+        m_monitor->interrupt();
+        m_router->interrupt();
+    }
+    emit stateChanged();
+}
+
+void DeviceSession::takePayload(const QByteArray &payload)
+{
+    switch (m_state) {
+    case SessionState::Closed:
+    case SessionState::Opening:
+    case SessionState::Updating:
+    case SessionState::Closing:
+        return;
+    case SessionState::Bootloader:
+        if (m_bootloaderConnected)
+            return;
+        break;
+    default:
+        break;
+    }
+    const DecodedFrame frame = m_parser->parseFrame(payload);
+    if (m_state == SessionState::Bootloader) {
+        if (frame.nodes.isEmpty())
+            return;
+        leaveBootloader(); // the firmware lives after all
+    }
+    const quint64 connection = m_connection;
+    m_lastFrameNs = m_sinceOpened.nsecsElapsed();
+    const double hostMs = connectionMs();
+    m_commands->noteData();
+    m_dispatcher->setMeasuredFrameRate(m_port->statistics().framesLastSecond);
+    m_monitor->addFrame(frame);
+    m_dispatcher->publishFrame(frame);
+    if (connection != m_connection)
+        return;
+    if (m_state == SessionState::Silent && !frame.item_tags.isEmpty())
+        setState(SessionState::Live);
+    m_router->takeFrame(frame, hostMs, m_preset);
+}
+
+void DeviceSession::checkSilence()
+{
+    if (m_state == SessionState::Live && !isStreaming())
+        setState(SessionState::Silent);
+}
+
+bool DeviceSession::isStreaming() const
+{
+    return isOpen() && m_lastFrameNs >= 0
+           && m_sinceOpened.nsecsElapsed() - m_lastFrameNs < kStreamTimeoutMs * kNsPerMs;
+}
+
+/// Frames from before the last reading do not count: it has stopped the output.
+bool DeviceSession::isStreamLive() const
+{
+    return m_dispatcher->snapshot().has_frame_items && m_lastFrameNs > m_lastReadNs;
+}
+
+bool DeviceSession::hearsNoise() const
+{
+    return m_state != SessionState::Closed && m_commands->lastReadWasNoise() && !isStreaming();
+}
+
+qint64 DeviceSession::openMs() const
+{
+    return isOpen() ? m_sinceOpened.elapsed() : 0;
+}
+
+double DeviceSession::connectionMs() const
+{
+    return double(m_sinceOpened.nsecsElapsed()) / double(kNsPerMs);
+}
+
+std::optional<quint8> DeviceSession::followedNode() const
+{
+    return m_router->followed();
+}
+
+void DeviceSession::followNode(quint8 id)
+{
+    m_router->follow(id);
+    const qsizetype index = m_dispatcher->snapshot().node_ids.indexOf(id);
+    if (index >= 0)
+        m_dispatcher->setSelectedNodeIndex(int(index));
+}
+
+QList<quint8> DeviceSession::nodes() const
+{
+    if (!isOpen())
+        return {};
+    QList<quint8> ids = m_router->heardNodes(connectionMs(), kNodeHeardMs);
+    if (const std::optional<quint8> followed = followedNode(); followed && !ids.contains(*followed))
+        ids.insert(std::lower_bound(ids.cbegin(), ids.cend(), *followed), *followed);
+    return ids;
+}
+
+const std::optional<StreamSample> &DeviceSession::newestSample() const
+{
+    return m_router->newest();
+}
+
+void DeviceSession::setState(SessionState state)
+{
+    if (std::exchange(m_state, state) == state)
+        return;
+    if (state == SessionState::Live)
+        m_silenceTimer.start();
+    else
+        m_silenceTimer.stop();
+    emit stateChanged();
+}

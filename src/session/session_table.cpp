@@ -1,0 +1,43 @@
+#include "session/session_table.h"
+
+#include <array>
+
+namespace {
+
+constexpr Refusal kYes = Refusal::None;
+constexpr Refusal kNotOpen = Refusal::NotOpen;
+constexpr Refusal kOpening = Refusal::Opening;
+constexpr Refusal kRuns = Refusal::CommandRuns;
+constexpr Refusal kFlow = Refusal::DataFlow;
+constexpr Refusal kInBoot = Refusal::InBootloader;
+constexpr Refusal kNoBoot = Refusal::NoBootloader;
+constexpr Refusal kNoDown = Refusal::NoDownload;
+constexpr Refusal kUpdate = Refusal::Updating;
+constexpr Refusal kEnds = Refusal::Closing;
+
+using Row = std::array<Refusal, kSessionStateCount>;
+
+// A row per action, a column per state, both in the order of their types.
+// clang-format off
+constexpr std::array<Row, kSessionActionCount> kTable{{
+    //                      Closed    Opening   Identif.  Live     Silent   Bootload. Updating Closing
+    /* OpenPort          */ {kYes,     kYes,     kYes,     kYes,    kYes,    kYes,     kUpdate, kEnds},
+    /* ClosePort         */ {kNotOpen, kYes,     kYes,     kYes,    kYes,    kYes,     kUpdate, kEnds},
+    /* Identify          */ {kNotOpen, kOpening, kRuns,    kYes,    kYes,    kInBoot,  kUpdate, kEnds},
+    /* SendCommand       */ {kNotOpen, kOpening, kRuns,    kYes,    kYes,    kInBoot,  kUpdate, kEnds},
+    /* StartRecording    */ {kNotOpen, kOpening, kYes,     kYes,    kYes,    kInBoot,  kUpdate, kEnds},
+    /* TryBaudRates      */ {kNotOpen, kOpening, kRuns,    kFlow,   kYes,    kInBoot,  kUpdate, kEnds},
+    /* ConnectBootloader */ {kNotOpen, kOpening, kYes,     kYes,    kYes,    kYes,     kUpdate, kEnds},
+    /* Download          */ {kNoBoot,  kNoBoot,  kNoBoot,  kNoBoot, kNoBoot, kYes,     kUpdate, kEnds},
+    /* StopDownload      */ {kNoDown,  kNoDown,  kNoDown,  kNoDown, kNoDown, kNoDown,  kYes,    kEnds},
+    /* RestartDevice     */ {kNoBoot,  kNoBoot,  kNoBoot,  kNoBoot, kNoBoot, kYes,     kUpdate, kEnds},
+    /* Quit              */ {kYes,     kYes,     kYes,     kYes,    kYes,    kYes,     kUpdate, kYes},
+}};
+// clang-format on
+
+} // namespace
+
+Refusal session_table::verdict(SessionState state, SessionAction action)
+{
+    return kTable[size_t(action)][size_t(state)];
+}

@@ -1,0 +1,105 @@
+#include "ui/dialogs.h"
+
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "session/device_session.h"
+#include "ui/form_about.h"
+#include "ui/form_com_select.h"
+#include "ui/form_link_health.h"
+#include "ui/form_record.h"
+#include "ui/form_settings.h"
+#include "ui/serial_error_text.h"
+#include "updater/form_updater.h"
+
+namespace {
+
+void bringUp(QWidget *window)
+{
+    window->show();
+    window->raise();
+    window->activateWindow();
+}
+
+} // namespace
+
+Dialogs::Dialogs(DeviceSession *session, QWidget *window) : QObject(window), m_session(session), m_window(window) {}
+
+void Dialogs::openPortChoice()
+{
+    if (m_port == nullptr) {
+        m_port = new form_com_select(m_window);
+        connect(m_port, &QDialog::accepted, this, [this] { emit portChosen(m_port->portName(), m_port->baudRate()); });
+    }
+    m_port->open();
+    m_port->raise();
+}
+
+void Dialogs::openSettings()
+{
+    if (m_settings == nullptr)
+        m_settings = new form_settings(m_session, m_window);
+    bringUp(m_settings);
+}
+
+void Dialogs::openRecording()
+{
+    if (m_record == nullptr)
+        m_record = new form_record(&m_session->recorder(), m_window);
+    bringUp(m_record);
+}
+
+void Dialogs::openUpdate()
+{
+    if (m_updater == nullptr)
+        m_updater = new form_updater(m_session, m_window);
+    bringUp(m_updater);
+}
+
+void Dialogs::openLinkHealth()
+{
+    if (m_linkHealth == nullptr)
+        m_linkHealth = new form_link_health(&m_session->linkMonitor(), m_window);
+    bringUp(m_linkHealth);
+}
+
+void Dialogs::openAbout()
+{
+    if (m_about == nullptr)
+        m_about = new form_about(m_window);
+    m_about->open();
+}
+
+void Dialogs::showPortError(QSerialPort::SerialPortError error, const QString &portName, int baudRate)
+{
+    dropPortError();
+    m_error = new QMessageBox(QMessageBox::Information, m_window->windowTitle(), tr("Open Serial Port Error."),
+                              QMessageBox::Ok, m_window);
+    m_error->setAttribute(Qt::WA_DeleteOnClose);
+    m_error->button(QMessageBox::Ok)->setIcon({}); // the stock picture does not read on the accent colour
+    m_error->setTextFormat(Qt::PlainText);
+    m_error->setInformativeText(serial_error_text::describe(error, serial_error_text::facts(portName, baudRate)));
+    m_error->setTextInteractionFlags(Qt::TextSelectableByMouse); // so that a command in it can be copied
+    m_error->open();
+}
+
+void Dialogs::dropPortError()
+{
+    delete m_error;
+}
+
+void Dialogs::refuseQuit()
+{
+    openUpdate();
+    m_updater->sayDownloadRuns();
+}
+
+void Dialogs::closeAll()
+{
+    for (QDialog *dialog :
+         {static_cast<QDialog *>(m_port), static_cast<QDialog *>(m_settings), static_cast<QDialog *>(m_updater),
+          static_cast<QDialog *>(m_record), static_cast<QDialog *>(m_about), static_cast<QDialog *>(m_linkHealth)}) {
+        if (dialog != nullptr)
+            dialog->close();
+    }
+}

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QSerialPort>
+
+class DeviceSession;
+class QMessageBox;
+class QWidget;
+class form_about;
+class form_com_select;
+class form_link_health;
+class form_record;
+class form_settings;
+class form_updater;
+
+/// The dialogs of the main window. Each is created when first asked for, and shown without an event loop of its own: a
+/// command that waits for its reply meanwhile must not wait for the user as well.
+class Dialogs : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(Dialogs)
+
+public:
+    /// `window` becomes the dialogs' parent and outlives this object, as `session` does.
+    Dialogs(DeviceSession *session, QWidget *window);
+
+    /// Asks for a port; portChosen() follows when one is accepted.
+    void openPortChoice();
+    void openSettings();
+    void openRecording();
+    void openUpdate();
+    void openLinkHealth();
+    void openAbout();
+    /// Says that the port could not be opened, or was lost, and what to do. There is one such message at a time.
+    void showPortError(QSerialPort::SerialPortError error, const QString &portName, int baudRate);
+    void dropPortError();
+    /// Says why the program cannot end while a download runs.
+    void refuseQuit();
+    void closeAll();
+
+signals:
+    void portChosen(const QString &portName, int baudRate);
+
+private:
+    DeviceSession *m_session;
+    QWidget *m_window;
+    form_com_select *m_port = nullptr;
+    form_settings *m_settings = nullptr;
+    form_record *m_record = nullptr;
+    form_updater *m_updater = nullptr;
+    form_link_health *m_linkHealth = nullptr;
+    form_about *m_about = nullptr;
+    QPointer<QMessageBox> m_error;
+};

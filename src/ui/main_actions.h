@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QObject>
+
+class DeviceSession;
+class ActionRules;
+class QAction;
+class QMainWindow;
+class QToolButton;
+
+namespace Ui {
+class form_base;
+}
+
+/// Actions of the main window beyond what its layout holds: the dashboards' actions, the toolbar with the button that
+/// opens or closes the port, tooltips, and what the session allows.
+class MainActions : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(MainActions)
+
+public:
+    /// `window` is the main window that `ui` belongs to; both and `session` outlive this object.
+    MainActions(QMainWindow *window, Ui::form_base *ui, DeviceSession *session);
+
+    QAction *sensorDashboard() const { return m_dashboard; }
+    QAction *gatewayDashboard() const { return m_gateway; }
+    /// A connection is open, so that the button closes it, or none is, so that it opens one.
+    void setOpen(bool open);
+    /// Texts in the language of now.
+    void retranslate();
+
+private:
+    Ui::form_base *m_ui;
+    QAction *m_dashboard;
+    QAction *m_gateway;
+    QToolButton *m_connectButton;
+    ActionRules *m_rules;
+};

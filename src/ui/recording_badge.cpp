@@ -1,0 +1,35 @@
+#include "ui/recording_badge.h"
+
+#include <QEvent>
+
+#include "record/recorder.h"
+#include "record/recording_target.h"
+
+RecordingBadge::RecordingBadge(const Recorder *recorder, QWidget *parent) : QToolButton(parent), m_recorder(recorder)
+{
+    setObjectName(QStringLiteral("button_recording"));
+    setAutoRaise(true);
+    hide();
+    connect(recorder, &Recorder::recordingChanged, this, &RecordingBadge::refresh);
+    connect(recorder, &Recorder::troubleChanged, this, &RecordingBadge::refresh);
+}
+
+void RecordingBadge::refresh()
+{
+    const bool trouble = m_recorder->hasTrouble();
+    setVisible(m_recorder->isRecording() || trouble);
+    if (isHidden())
+        return;
+    const QString text = trouble
+                             ? tr("Recording: trouble")
+                             : tr("Recording %1").arg(recording_target::elapsedText(m_recorder->elapsedMs()));
+    if (QToolButton::text() != text)
+        setText(text);
+}
+
+void RecordingBadge::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        refresh();
+    QToolButton::changeEvent(event);
+}

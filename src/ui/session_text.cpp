@@ -1,0 +1,56 @@
+#include "ui/session_text.h"
+
+#include <QCoreApplication>
+
+#include "session/device_session.h"
+
+namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(session_text)
+};
+
+} // namespace
+
+QString session_text::refusal(Refusal refusal)
+{
+    switch (refusal) {
+    case Refusal::None:
+        return {};
+    case Refusal::NotOpen:
+        return Text::tr("Nothing is connected: open a serial port first.");
+    case Refusal::Opening:
+        return Text::tr("The port is being opened.");
+    case Refusal::CommandRuns:
+        return Text::tr("A command waits for the device's reply.");
+    case Refusal::DataFlow:
+        return Text::tr("Data arrive: the baud rate is right.");
+    case Refusal::InBootloader:
+        return Text::tr("The device runs its bootloader. Restart it in the firmware update window first.");
+    case Refusal::NoBootloader:
+        return Text::tr("Press Connect first.");
+    case Refusal::NoDownload:
+        return Text::tr("No download runs.");
+    case Refusal::Updating:
+        return Text::tr("A firmware download runs. It has to end first.");
+    case Refusal::Closing:
+        return Text::tr("The port is being closed.");
+    }
+    return {};
+}
+
+QString session_text::connection(const DeviceSession &session)
+{
+    switch (session.state()) {
+    case SessionState::Bootloader:
+        return Text::tr("The device runs its bootloader.\nIt sends no data until it restarts.");
+    case SessionState::Updating:
+        return Text::tr("Firmware is being written.\nDo not unplug the device.");
+    default:
+        break;
+    }
+    if (session.isSearchingBaudRate())
+        return Text::tr("Trying %1 baud...").arg(session.baudRate());
+    return {};
+}

@@ -1,0 +1,171 @@
+#include "ui/view_windows.h"
+
+#include "attitude/attitude_convention.h"
+#include "attitude/form_threed.h"
+#include "device/product_profile.h"
+#include "fft/form_fftchart.h"
+#include "link/stream_dispatcher.h"
+#include "session/device_session.h"
+#include "session/link_monitor.h"
+#include "wave/form_sensor_dashboard.h"
+#include "wave/form_wireless_dashboard.h"
+#include "wave/sample_feed.h"
+
+namespace {
+
+constexpr int kEstimateRate = 0; // the time stamps give the rate more exactly than a count per second
+
+void bringUp(QWidget *window)
+{
+    window->show();
+    window->raise();
+    window->activateWindow();
+}
+
+/// What a sample carries for the charts; angles can be had from its quaternion too.
+SampleFields chartFields(const StreamSample &sample, const NormalizedAttitude &attitude)
+{
+    return attitude.valid ? sample.fields | SampleField::Euler : sample.fields;
+}
+
+} // namespace
+
+ViewWindows::ViewWindows(DeviceSession *session, QObject *parent) : QObject(parent), m_session(session)
+{
+    connect(session, &DeviceSession::streamRestarted, this, &ViewWindows::onRestart);
+    connect(session, &DeviceSession::sampleReceived, this, &ViewWindows::onSample);
+    connect(session, &DeviceSession::batchReceived, this, &ViewWindows::onBatch);
+    connect(session, &DeviceSession::stateChanged, this, &ViewWindows::onState);
+    connect(session, &DeviceSession::presetChanged, this, &ViewWindows::showMounting);
+    connect(session, &DeviceSession::deviceChanged, this, &ViewWindows::showMounting);
+    connect(&session->dispatcher(), &StreamDispatcher::streamSnapshotChanged, this, &ViewWindows::onSnapshot);
+}
+
+ViewWindows::~ViewWindows() = default;
+
+void ViewWindows::openSensorDashboard()
+{
+    if (!m_sensorDashboard) {
+        m_sensorDashboard = std::make_unique<form_sensor_dashboard>();
+        if (m_frameRate > 0)
+            m_sensorDashboard->bridge().setFrameRate(m_frameRate);
+    }
+    m_sensorDashboard->open();
+}
+
+void ViewWindows::openGatewayDashboard()
+{
+    if (!m_wirelessDashboard) {
+        m_wirelessDashboard = std::make_unique<form_wireless_dashboard>();
+        if (m_frameRate > 0)
+            m_wirelessDashboard->setFrameRate(m_frameRate);
+    }
+    m_wirelessDashboard->open();
+}
+
+void ViewWindows::openSpectrum()
+{
+    if (!m_spectrum)
+        m_spectrum = std::make_unique<form_fftchart>();
+    bringUp(m_spectrum.get());
+}
+
+void ViewWindows::openThreeD()
+{
+    if (!m_threed) {
+        m_threed = std::make_unique<form_threed>();
+        showMounting();
+        connect(m_threed.get(), &form_threed::orientationPresetChanged, m_session, &DeviceSession::setPreset);
+    }
+    m_threed->open();
+}
+
+void ViewWindows::closeAll()
+{
+    m_threed.reset();
+    m_spectrum.reset();
+    m_sensorDashboard.reset();
+    m_wirelessDashboard.reset();
+}
+
+void ViewWindows::showAttitude(const NormalizedAttitude &attitude)
+{
+    if (m_threed)
+        m_threed->setAttitude(attitude);
+}
+
+void ViewWindows::showMounting()
+{
+    if (m_threed)
+        m_threed->setMounting(product_profile::toString(m_session->profile().key), m_session->preset());
+}
+
+void ViewWindows::onRestart(const StreamRestart &restart)
+{
+    if (m_spectrum)
+        m_spectrum->restartStream();
+    if (m_sensorDashboard)
+        m_sensorDashboard->bridge().restartStream(restart.kind, restart.timeMs);
+    if (m_wirelessDashboard && restart.kind == StreamBreak::NewConnection)
+        m_wirelessDashboard->clear();
+}
+
+void ViewWindows::onSample(const StreamSample &sample)
+{
+    if (m_spectrum)
+        m_spectrum->appendData(sample.snapshot.sample, kEstimateRate);
+    if (!m_sensorDashboard || !m_sensorDashboard->bridge().dashboardActive())
+        return;
+    const NormalizedAttitude attitude = attitude_convention::normalizeAttitude(sample.snapshot, sample.preset);
+    const std::array euler{attitude.euler.x(), attitude.euler.y(), attitude.euler.z()};
+    const node_data_t &node = sample.snapshot.sample;
+    m_sensorDashboard->bridge().pushSamples(ChartSamples(node, euler, chartFields(sample, attitude)), node.time_ms);
+}
+
+void ViewWindows::onBatch(const QList<StreamSample> &samples)
+{
+    if (m_wirelessDashboard && m_wirelessDashboard->isVisible())
+        m_wirelessDashboard->updateGatewaySamples(gatewaySamples(samples));
+}
+
+QList<GatewaySample> ViewWindows::gatewaySamples(const QList<StreamSample> &samples) const
+{
+    QList<GatewaySample> list;
+    list.reserve(samples.size());
+    for (const StreamSample &sample : samples) {
+        const NormalizedAttitude attitude = attitude_convention::normalizeAttitude(sample.snapshot, sample.preset);
+        GatewaySample entry;
+        entry.node = sample.snapshot.sample;
+        if (attitude.valid) {
+            entry.node.roll = attitude.euler.x();
+            entry.node.pitch = attitude.euler.y();
+            entry.node.yaw = attitude.euler.z();
+        }
+        entry.timestampMs = entry.node.time_ms;
+        entry.fields = chartFields(sample, attitude);
+        const NodeHealth &health = m_session->linkMonitor().node(entry.node.id);
+        entry.missing = health.missing;
+        entry.hasClock = health.hasClock;
+        entry.brokenBy = sample.brokenBy;
+        list.append(entry);
+    }
+    return list;
+}
+
+/// The rate that charts and filters count with is the last known one: none is known in the first second.
+void ViewWindows::onSnapshot(const StreamSnapshot &snapshot)
+{
+    if (snapshot.measured_frame_rate == 0 || snapshot.measured_frame_rate == m_frameRate)
+        return;
+    m_frameRate = snapshot.measured_frame_rate;
+    if (m_sensorDashboard)
+        m_sensorDashboard->bridge().setFrameRate(m_frameRate);
+    if (m_wirelessDashboard)
+        m_wirelessDashboard->setFrameRate(m_frameRate);
+}
+
+void ViewWindows::onState()
+{
+    if (m_wirelessDashboard)
+        m_wirelessDashboard->setEnded(!m_session->isOpen());
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QObject>
+
+#include <memory>
+
+#include "session/stream_event.h"
+
+class DeviceSession;
+class form_fftchart;
+class form_sensor_dashboard;
+class form_threed;
+class form_wireless_dashboard;
+struct GatewaySample;
+struct NormalizedAttitude;
+struct StreamSnapshot;
+
+/// The windows that show the stream: dashboards, spectrum, 3D view. Each is created when first asked for, and gets from
+/// the session what it shows, as long as it exists.
+class ViewWindows : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(ViewWindows)
+
+public:
+    /// `session` outlives this object.
+    explicit ViewWindows(DeviceSession *session, QObject *parent = nullptr);
+    ~ViewWindows() override;
+
+    void openSensorDashboard();
+    void openGatewayDashboard();
+    void openSpectrum();
+    void openThreeD();
+    /// The attitude that the 3D view shows next. Call at the pace of the display.
+    void showAttitude(const NormalizedAttitude &attitude);
+    /// Ends all windows.
+    void closeAll();
+
+private:
+    void onRestart(const StreamRestart &restart);
+    void onSample(const StreamSample &sample);
+    void onBatch(const QList<StreamSample> &samples);
+    void onSnapshot(const StreamSnapshot &snapshot);
+    void onState();
+    void showMounting();
+    QList<GatewaySample> gatewaySamples(const QList<StreamSample> &samples) const;
+
+    DeviceSession *m_session;
+    std::unique_ptr<form_threed> m_threed;
+    std::unique_ptr<form_fftchart> m_spectrum;
+    std::unique_ptr<form_sensor_dashboard> m_sensorDashboard;
+    std::unique_ptr<form_wireless_dashboard> m_wirelessDashboard;
+    unsigned int m_frameRate = 0; ///< last known one, 0: none yet
+};
