@@ -23,6 +23,7 @@
 #include "link/imu_parser.h"
 #include "link/kv_uart_port.h"
 #include "link/stream_dispatcher.h"
+#include "record/recorder.h"
 #include "ui/action_label.h"
 #include "ui/app_version.h"
 #include "ui/form_about.h"
@@ -87,8 +88,9 @@ form_base::form_base(QWidget *parent) : QMainWindow(parent), m_ui(std::make_uniq
                     QStringLiteral("ui-thread=%1 started").arg(reinterpret_cast<quintptr>(QThread::currentThreadId())));
 
     m_port = std::make_unique<KvUartPort>();
-    m_recordDialog = new form_record(this);
-    m_linkMonitor = new LinkMonitor(m_port.get(), m_recordDialog, this);
+    m_recorder = new Recorder(this);
+    m_recordDialog = new form_record(m_recorder, this);
+    m_linkMonitor = new LinkMonitor(m_port.get(), m_recorder, this);
     m_settingsDialog = new form_settings(this);
     setUpActions();
 
@@ -203,13 +205,13 @@ void form_base::setUpConnections()
     connect(m_port.get(), &KvUartPort::kbootRecv, this, &form_base::onKbootFrameRecv);
     connect(m_port.get(), &QSerialPort::errorOccurred, this, &form_base::onSerialError);
     connect(m_settingsDialog, &form_settings::settingsClosed, this, &form_base::on_form_settings_closed);
-    connect(m_dispatcher, &StreamDispatcher::singleNodeFrame, m_recordDialog, &form_record::imuPackage0x91);
-    connect(m_dispatcher, &StreamDispatcher::gatewayBatch62, m_recordDialog, &form_record::imuPackage0x62);
-    connect(m_dispatcher, &StreamDispatcher::gatewayBatch63, m_recordDialog, &form_record::imuPackage0x63);
+    connect(m_dispatcher, &StreamDispatcher::singleNodeFrame, m_recorder, &Recorder::imuPackage0x91);
+    connect(m_dispatcher, &StreamDispatcher::gatewayBatch62, m_recorder, &Recorder::imuPackage0x62);
+    connect(m_dispatcher, &StreamDispatcher::gatewayBatch63, m_recorder, &Recorder::imuPackage0x63);
     connect(m_dispatcher, &StreamDispatcher::gatewayBatch62, this, &form_base::handleGatewayBatch);
     connect(m_dispatcher, &StreamDispatcher::gatewayBatch63, this, &form_base::handleGatewayBatch);
-    connect(m_recordDialog, &form_record::recordingChanged, this, &form_base::showRecordingState);
-    connect(m_recordDialog, &form_record::troubleChanged, this, &form_base::showRecordingState);
+    connect(m_recorder, &Recorder::recordingChanged, this, &form_base::showRecordingState);
+    connect(m_recorder, &Recorder::troubleChanged, this, &form_base::showRecordingState);
     connect(m_dispatcher, &StreamDispatcher::selectedNodeChanged, this, &form_base::onSelectedNodeChanged);
     connect(m_dispatcher, &StreamDispatcher::streamSnapshotChanged, this, &form_base::onSnapshotChanged);
     connect(m_retryTimer, &QTimer::timeout, this, &form_base::try_read_prod_info);

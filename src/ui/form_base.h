@@ -24,6 +24,7 @@ class QLabel;
 class QMessageBox;
 class QScrollArea;
 class QToolButton;
+class Recorder;
 class SensorDataPanel;
 class StreamDispatcher;
 class ToolADI;
@@ -159,6 +160,7 @@ private:
     form_settings *m_settingsDialog = nullptr;
     form_about *m_aboutDialog = nullptr; ///< created when first asked for
     form_updater *m_updater = nullptr;   ///< created when first asked for
+    Recorder *m_recorder = nullptr;
     form_record *m_recordDialog = nullptr;
     QToolButton *m_recordButton = nullptr;
     LinkMonitor *m_linkMonitor = nullptr;

@@ -18,9 +18,9 @@
 #include "device/settings_command_adapter.h"
 #include "link/kv_uart_port.h"
 #include "link/stream_dispatcher.h"
+#include "record/recorder.h"
 #include "ui/device_text.h"
 #include "ui/form_com_select.h"
-#include "ui/form_record.h"
 #include "ui/form_settings.h"
 #include "ui/link_monitor.h"
 #include "ui/sensor_data_panel.h"
@@ -79,7 +79,7 @@ void form_base::open_port()
     m_dispatcher->clear();
     m_dispatcher->setLinkConnected(true);
     m_settingsDialog->set_connected(true);
-    m_recordDialog->setLinkOpen(true);
+    m_recorder->setLinkOpen(true);
     m_linkMonitor->open(portName, baudRate);
     if (m_updater != nullptr)
         m_updater->set_connection_open(true);
@@ -122,7 +122,7 @@ void form_base::closeConnection()
     m_settingsDialog->set_connected(false);
     if (m_updater != nullptr)
         m_updater->set_connection_open(false);
-    m_recordDialog->setLinkOpen(false); // ends a recording: flushed and closed
+    m_recorder->setLinkOpen(false); // ends a recording: flushed and closed
     m_linkMonitor->close();
     if (m_wirelessDashboard)
         m_wirelessDashboard->clear();

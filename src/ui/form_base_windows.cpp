@@ -15,6 +15,7 @@
 #include "fft/form_fftchart.h"
 #include "link/sample_fields.h"
 #include "link/stream_dispatcher.h"
+#include "record/recorder.h"
 #include "ui/form_link_health.h"
 #include "ui/form_record.h"
 #include "ui_form_base.h"
@@ -143,11 +144,11 @@ QList<GatewaySample> form_base::buildWirelessDashboardSamples(const DecodedFrame
 
 void form_base::showRecordingState()
 {
-    const bool trouble = m_recordDialog->hasTrouble();
-    m_recordButton->setVisible(m_recordDialog->isRecording() || trouble);
+    const bool trouble = m_recorder->hasTrouble();
+    m_recordButton->setVisible(m_recorder->isRecording() || trouble);
     if (!m_recordButton->isVisibleTo(m_ui->statusbar))
         return;
-    const qint64 seconds = m_recordDialog->elapsedMs() / 1000;
+    const qint64 seconds = m_recorder->elapsedMs() / 1000;
     const auto twoDigits = [](qint64 number) { return QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0')); };
     const QString time = QStringLiteral("%1:%2:%3")
                              .arg(twoDigits(seconds / 3600), twoDigits(seconds / 60 % 60), twoDigits(seconds % 60));
