@@ -22,9 +22,9 @@
 #include "latency.h"
 #include "link/stream_dispatcher.h"
 #include "process_figures.h"
+#include "record/recorder.h"
 #include "stream_probe.h"
 #include "support/simulator_process.h"
-#include "ui/form_record.h"
 #include "wave/form_sensor_dashboard.h"
 #include "wave/form_wireless_dashboard.h"
 
@@ -310,7 +310,7 @@ int run(ProbedApplication &application, const Plan &plan)
     StreamProbe probe(*desk.window);
     application.setProbe(&probe);
     auto *dispatcher = desk.window->findChild<StreamDispatcher *>();
-    auto *recorder = desk.window->findChild<form_record *>();
+    auto *recorder = desk.window->findChild<Recorder *>();
     const qsizetype baudAt = plan.simulatorOptions.indexOf(QStringLiteral("--baud"));
     const int baud = baudAt < 0 ? 0 : plan.simulatorOptions.value(baudAt + 1).toInt();
     desk.open(simulator->port(), baud > 0 ? baud : kFallbackBaud);
@@ -320,12 +320,14 @@ int run(ProbedApplication &application, const Plan &plan)
     }
     wait(kSettleMs);
     openViews(plan, desk, probe);
-    if (plan.record && !recorder->startRecording()) {
+    if (plan.record)
+        recorder->start(QDir::currentPath(), QStringLiteral("data"));
+    const quint64 decodedBefore = dispatcher->snapshot().seq;
+    wait(int(plan.warmUpSeconds * 1000));
+    if (plan.record && recorder->state() != Recorder::State::Recording) {
         out << "the recording did not start\n";
         return 1;
     }
-    const quint64 decodedBefore = dispatcher->snapshot().seq;
-    wait(int(plan.warmUpSeconds * 1000));
     const Costs costs = measure(plan, desk, simulator->process().processId(), out);
 
     Counts counts;
@@ -336,7 +338,7 @@ int run(ProbedApplication &application, const Plan &plan)
     simulator.reset(); // completes the file of write times
     counts.decoded = qint64(dispatcher->snapshot().seq);
     if (plan.record) {
-        recorder->stopRecording();
+        recorder->stop();
         recorder->waitForFile();
         counts.offered = counts.decoded - qint64(decodedBefore);
         counts.recorded = recordedLines();

@@ -10,7 +10,7 @@
 
 #include "e2e/desk.h"
 #include "process_figures.h"
-#include "ui/form_record.h"
+#include "record/recorder.h"
 
 namespace {
 
@@ -236,7 +236,7 @@ void Campaign::checkRecordings()
 {
     CampaignReport::Books &books = m_report.books;
     const LinkAccount::Recordings recordings = m_user.ask<LinkAccount::Recordings>([this](form_base &window) {
-        window.findChild<form_record *>()->waitForFile();
+        window.findChild<Recorder *>()->waitForFile();
         return m_account.recordings();
     });
     for (const QString &name : QDir::current().entryList({QStringLiteral("data_*.csv")}, QDir::Files)) {

@@ -5,8 +5,8 @@
 #include "link/framing_packet.h"
 #include "link/kv_uart_port.h"
 #include "link/stream_dispatcher.h"
+#include "record/recorder.h"
 #include "ui/form_base.h"
-#include "ui/form_record.h"
 
 namespace {
 
@@ -40,7 +40,7 @@ LinkAccount::Counts &LinkAccount::Counts::operator+=(const Counts &more)
 }
 
 LinkAccount::LinkAccount(form_base &window)
-    : m_port(window.port()), m_recorder(window.findChild<form_record *>()),
+    : m_port(window.port()), m_recorder(window.findChild<Recorder *>()),
       m_smallestPacket(framing_packet::kMaxPacketSize)
 {
     const auto countBytes = [this](const QByteArray &bytes) { m_bytesRead += quint64(bytes.size()); };
@@ -56,7 +56,7 @@ LinkAccount::LinkAccount(form_base &window)
     connect(dispatcher, &StreamDispatcher::gatewayBatch63, this, &LinkAccount::takeFrame);
     connect(dispatcher, &StreamDispatcher::streamSnapshotChanged, this,
             [this](const StreamSnapshot &snapshot) { takeLinkState(snapshot.link_connected); });
-    connect(m_recorder, &form_record::recordingChanged, this, &LinkAccount::takeRecording);
+    connect(m_recorder, &Recorder::recordingChanged, this, &LinkAccount::takeRecording);
 }
 
 LinkAccount::Counts LinkAccount::counts() const

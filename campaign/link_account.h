@@ -7,7 +7,7 @@
 class KvUartPort;
 class StreamDispatcher;
 class form_base;
-class form_record;
+class Recorder;
 
 /// What the running program takes from its link, counted at its own signals: bytes as the port's thread reads them,
 /// payloads as they leave the deframer, frames as the dispatcher hands them to views and recorder; beside them what the
@@ -58,7 +58,7 @@ private:
     void takeRecording(bool begins);
 
     const KvUartPort &m_port;
-    const form_record *m_recorder;
+    const Recorder *m_recorder;
     // counted in the port's thread
     std::atomic<quint64> m_bytesRead = 0;
     std::atomic<quint64> m_payloads = 0;

@@ -5,7 +5,8 @@
 
 #include "campaign/campaign.h"
 #include "campaign/user.h"
-#include "ui/form_record.h"
+#include "record/recorder.h"
+#include "record/recording_target.h"
 #include "wave/form_sensor_dashboard.h"
 
 namespace {
@@ -60,11 +61,11 @@ void toggleDashboard(form_base &)
 
 void toggleRecording(form_base &window)
 {
-    auto *recorder = window.findChild<form_record *>();
+    auto *recorder = window.findChild<Recorder *>();
     if (recorder->isRecording())
-        recorder->stopRecording();
+        recorder->stop();
     recorder->waitForFile();
-    recorder->startRecording();
+    scenario::startRecording(window);
 }
 
 void cancelPortDialog(form_base &window)
@@ -238,5 +239,6 @@ void scenario::setPlainLook(form_base &window)
 
 void scenario::startRecording(form_base &window)
 {
-    window.findChild<form_record *>()->startRecording();
+    const recording_target::Target target = recording_target::remembered();
+    window.findChild<Recorder *>()->start(target.folder, target.name);
 }

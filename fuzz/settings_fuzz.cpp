@@ -12,8 +12,8 @@
 #include "fuzz/support/fuzz_input.h"
 #include "fuzz/support/memory_file.h"
 #include "fuzz/support/require.h"
+#include "record/recording_target.h"
 #include "ui/port_choice.h"
-#include "ui/recording_target.h"
 
 namespace {
 

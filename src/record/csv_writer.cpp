@@ -8,7 +8,6 @@
 
 namespace {
 
-constexpr qsizetype kQueueLimit = 512;
 constexpr qint64 kSecondsPerFile = 3600;
 constexpr qint64 kFlushAbove = 65535;
 constexpr int kGroups = 16;

@@ -29,7 +29,7 @@
 /// silent its id stands there with empty values. The seventeenth node of a file is left out. UnixTimeStamp is the
 /// computer's clock when the line is written. Numbers have a decimal point in every locale, lines end with LF.
 ///
-/// Threads: made in the thread that records; then moved to its own thread, which runs both slots. Samples and questions
+/// Threads: made in the thread that runs both slots, or moved to it. Samples and questions
 /// come from any thread. The destructor writes nothing that is still queued: run flushPendingAndClose() first.
 ///
 /// Nothing fails loudly: records that find no open file are lost and counted, every later record tries a new file,
@@ -40,6 +40,9 @@ class CsvWriter : public QObject
     Q_DISABLE_COPY_MOVE(CsvWriter)
 
 public:
+    /// Records that wait at most.
+    static constexpr qsizetype kQueueLimit = 512;
+
     enum class PendingRecordType { Record91 = 0, Record62 = 1, Record63 = 2 };
 
     /// A record on its way to the writer's thread.
@@ -59,7 +62,7 @@ public:
     /// Path of the file that a writer made from `basePath` opens at `start`.
     static QString pathOf(const QString &basePath, const QDateTime &start);
 
-    /// Queues the sample of a single module. A full queue (512 records) drops it. Any thread.
+    /// Queues the sample of a single module. A full queue drops it. Any thread.
     void enqueue91(const node_data_t &node);
     /// Queues a batch of full gateway records, likewise.
     void enqueue62(const QList<node_data_t> &nodes);

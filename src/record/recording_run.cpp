@@ -1,35 +1,129 @@
 #include "record/recording_run.h"
 
-RecordingRun::RecordingRun(const QString &basePath) : m_writer(std::make_unique<CsvWriter>(basePath))
+#include <QDir>
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QThread>
+
+namespace {
+
+/// A CsvWriter's base path for recordings called `name`: with a running number behind the name when a file with the
+/// time `now`, or of the second after, is there already.
+QString basePath(const QString &folder, const QString &name, const QDateTime &now)
 {
-    if (!m_writer->fileError().isEmpty())
-        return;
-    m_thread.setObjectName(QStringLiteral("CsvWriter"));
-    m_writer->moveToThread(&m_thread);
-    // Behind the event loop's end but still in the thread: nothing can overtake the last records.
-    const auto finish = [this] {
-        m_writer->flushPendingAndClose();
-        emit ended();
-        m_isRunning = false;
-    };
-    QObject::connect(&m_thread, &QThread::finished, m_writer.get(), finish, Qt::DirectConnection);
-    m_isRunning = true;
-    m_thread.start();
+    QString path = QDir(folder).filePath(name + QLatin1String(".csv"));
+    const auto isTaken = [&](int seconds) { return QFileInfo::exists(CsvWriter::pathOf(path, now.addSecs(seconds))); };
+    for (int number = 2; isTaken(0) || isTaken(1); ++number)
+        path = QDir(folder).filePath(QStringLiteral("%1_%2.csv").arg(name).arg(number));
+    return path;
+}
+
+void enqueue(CsvWriter &writer, const CsvWriter::PendingRecord &record)
+{
+    switch (record.type) {
+    case CsvWriter::PendingRecordType::Record91:
+        writer.enqueue91(record.node);
+        break;
+    case CsvWriter::PendingRecordType::Record62:
+        writer.enqueue62(record.nodes);
+        break;
+    case CsvWriter::PendingRecordType::Record63:
+        writer.enqueue63(record.nodes, record.timestampMs);
+        break;
+    }
+}
+
+} // namespace
+
+RecordingRun::RecordingRun(const QString &folder, const QString &name) : m_folder(folder)
+{
+    m_thread.reset(QThread::create([this, name] { record(name); }));
+    m_thread->setObjectName(QStringLiteral("CsvWriter"));
+    m_thread->start();
 }
 
 RecordingRun::~RecordingRun()
 {
-    stop();
+    wait();
+}
+
+void RecordingRun::add(CsvWriter::PendingRecord &&record)
+{
+    QMutexLocker locker(&m_lock);
+    if (CsvWriter *writer = m_openWriter) {
+        locker.unlock();
+        enqueue(*writer, record);
+    } else if (m_waiting.size() < CsvWriter::kQueueLimit) {
+        m_waiting.append(std::move(record));
+    } else if (++m_droppedWaiting == 1) {
+        locker.unlock();
+        emit overflowed();
+    }
+}
+
+unsigned int RecordingRun::droppedRecords() const
+{
+    const CsvWriter *writer = m_openWriter;
+    return m_droppedWaiting + (writer != nullptr ? writer->droppedRecords() : 0);
+}
+
+void RecordingRun::askAboutDisk()
+{
+    if (CsvWriter *writer = m_openWriter)
+        writer->askAboutDisk();
 }
 
 void RecordingRun::requestStop()
 {
-    m_thread.quit();
+    m_thread->quit();
 }
 
-void RecordingRun::stop()
+bool RecordingRun::wait(QDeadlineTimer openDeadline)
 {
     requestStop();
-    while (m_isRunning)
-        m_thread.wait();
+    return m_thread->wait(openDeadline) || (!m_isOpening && m_thread->wait());
+}
+
+/// The thread's work.
+void RecordingRun::record(const QString &name)
+{
+    const bool isOpen = open(name);
+    m_isOpening = false;
+    if (isOpen) {
+        emit opened();
+        m_writer->askAboutDisk();
+        QEventLoop().exec(); // until requestStop()
+        // After the loop's end but still in the thread: nothing can overtake the last records.
+        m_writer->flushPendingAndClose();
+    }
+    emit ended();
+}
+
+bool RecordingRun::open(const QString &name)
+{
+    using Kind = RecordingProblem::Kind;
+    const QFileInfo info(m_folder);
+    if (info.exists() && !info.isDir()) {
+        m_problem = {Kind::FolderIsFile, m_folder, {}};
+        return false;
+    }
+    if (!info.exists()) {
+        if (!QDir().mkpath(m_folder)) {
+            m_problem = {Kind::CannotCreateFolder, m_folder, {}};
+            return false;
+        }
+        m_isFolderCreated = true;
+    }
+    m_writer = std::make_unique<CsvWriter>(basePath(m_folder, name, QDateTime::currentDateTime()));
+    if (!m_writer->fileError().isEmpty()) {
+        m_problem = {Kind::CannotOpenFile, m_writer->filePath(), m_writer->fileError()};
+        return false;
+    }
+    connect(m_writer.get(), &CsvWriter::queueOverflow, this, &RecordingRun::overflowed, Qt::DirectConnection);
+    const QMutexLocker locker(&m_lock);
+    for (const CsvWriter::PendingRecord &record : qAsConst(m_waiting))
+        enqueue(*m_writer, record);
+    m_waiting.clear();
+    m_openWriter = m_writer.get();
+    return true;
 }

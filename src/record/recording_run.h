@@ -1,42 +1,74 @@
 #pragma once
 
+#include <QDeadlineTimer>
+#include <QMutex>
 #include <QObject>
-#include <QThread>
 
 #include <atomic>
 #include <memory>
 
 #include "record/csv_writer.h"
+#include "record/recording_problem.h"
 
-/// One recording: a CsvWriter and the thread that it writes on. Samples go to writer() from any thread; what the writer
-/// tells can be asked before and after the end. Made, stopped and destroyed in one thread.
+class QThread;
+
+/// One recording: a thread on which the folder is made, the file opened and all records written, and the CsvWriter that
+/// is made there. Records may come from the start on: as many as the writer's queue holds are kept until the file is
+/// open. Made, stopped and destroyed in one thread, which never waits for the disk but in wait() and the destructor.
 class RecordingRun : public QObject
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(RecordingRun)
 
 public:
-    /// Opens the first file, as CsvWriter does, and starts the thread. When the file cannot be opened the thread is not
-    /// started and isRunning() stays false; writer().fileError() says why.
-    explicit RecordingRun(const QString &basePath);
+    /// Starts the thread: opened() and, after requestStop(), ended() follow, or ended() alone when problem() says why.
+    /// `folder` is absolute and made when it is missing; `name` is a good one, see recording_target. The file gets a
+    /// running number behind its name when one with that name and time is there.
+    RecordingRun(const QString &folder, const QString &name);
     /// Stops and waits.
     ~RecordingRun() override;
 
-    CsvWriter &writer() const { return *m_writer; }
-    bool isRunning() const { return m_isRunning; }
+    const QString &folder() const { return m_folder; }
+    /// Takes a record, in the order of the calls. Any thread.
+    void add(CsvWriter::PendingRecord &&record);
+    /// Null until the file is open. Any thread, as the next two.
+    const CsvWriter *writer() const { return m_openWriter; }
+    /// The folder had been missing and was made.
+    bool isFolderCreated() const { return m_isFolderCreated; }
+    /// Records that found a full queue, before the file was open and since.
+    unsigned int droppedRecords() const;
+    /// See CsvWriter::askAboutDisk(). Nothing while there is no file.
+    void askAboutDisk();
 
-    /// Has everything queued written, the file closed and the thread ended, without waiting for any of it: the disk may
-    /// hang. ended() follows. Nothing when it has ended.
+    /// Has everything taken in written, the file closed and the thread ended, without waiting for any of it: the disk
+    /// may hang. ended() follows.
     void requestStop();
-    /// The same, and waits for it.
-    void stop();
+    /// requestStop(), and waits for the end. False when the file was not even open after `openDeadline`: the disk
+    /// hangs. An open file is waited for as long as it takes.
+    bool wait(QDeadlineTimer openDeadline = QDeadlineTimer::Forever);
+    /// After the end: why no file was opened.
+    const RecordingProblem &problem() const { return m_problem; }
 
 signals:
-    /// All is written and the file closed. Emitted in the writer's thread.
+    /// The file is open. Emitted in the run's thread.
+    void opened();
+    /// A record found a full queue for the first time. Emitted in the thread that added it.
+    void overflowed();
+    /// All is written and the file closed, or there is none. Emitted in the run's thread, as the last thing there.
     void ended();
 
 private:
+    void record(const QString &name);
+    bool open(const QString &name);
+
+    QString m_folder;
+    RecordingProblem m_problem;
     std::unique_ptr<CsvWriter> m_writer;
-    std::atomic<bool> m_isRunning = false; ///< cleared in the writer's thread, after all that it does
-    QThread m_thread;
+    QMutex m_lock;                             ///< guards the next one, and the change of the one after
+    QList<CsvWriter::PendingRecord> m_waiting; ///< for the file to be opened
+    std::atomic<CsvWriter *> m_openWriter = nullptr;
+    std::atomic<unsigned int> m_droppedWaiting = 0;
+    std::atomic<bool> m_isFolderCreated = false;
+    std::atomic<bool> m_isOpening = true;
+    std::unique_ptr<QThread> m_thread;
 };

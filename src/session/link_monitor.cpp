@@ -4,7 +4,7 @@
 
 #include "app/app_log.h"
 #include "link/kv_uart_port.h"
-#include "ui/form_record.h"
+#include "record/recorder.h"
 
 namespace {
 
@@ -30,14 +30,14 @@ QString missingByNode(const LinkReport &report)
 
 } // namespace
 
-LinkMonitor::LinkMonitor(const KvUartPort *port, const form_record *recorder, QObject *parent)
+LinkMonitor::LinkMonitor(const KvUartPort *port, const Recorder *recorder, QObject *parent)
     : QObject(parent), m_port(port), m_recorder(recorder), m_logTimer(this)
 {
     m_clock.start();
     m_logTimer.setObjectName(QStringLiteral("timer_link_log"));
     m_logTimer.setInterval(kLogMs);
     connect(&m_logTimer, &QTimer::timeout, this, &LinkMonitor::log);
-    connect(recorder, &form_record::recordingChanged, this, [this](bool recording) {
+    connect(recorder, &Recorder::recordingChanged, this, [this](bool recording) {
         if (!recording && m_connection.wasOpened && !m_connection.isOpen)
             log(); // its last records were written, or not, after the port was closed
     });

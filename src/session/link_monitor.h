@@ -8,7 +8,7 @@
 #include "link/stream_health.h"
 
 class KvUartPort;
-class form_record;
+class Recorder;
 
 /// How well a connection carries its data, from the port to the file. A plain value.
 struct LinkReport
@@ -35,7 +35,7 @@ class LinkMonitor : public QObject
 
 public:
     /// `port` and `recorder` live as long as this object is used.
-    LinkMonitor(const KvUartPort *port, const form_record *recorder, QObject *parent = nullptr);
+    LinkMonitor(const KvUartPort *port, const Recorder *recorder, QObject *parent = nullptr);
 
     /// A connection begins: all figures begin anew.
     void open(const QString &portName, int baudRate);
@@ -57,7 +57,7 @@ private:
     void log();
 
     const KvUartPort *m_port;
-    const form_record *m_recorder;
+    const Recorder *m_recorder;
     StreamHealth m_stream;
     QElapsedTimer m_clock;
     QTimer m_logTimer;

@@ -5,193 +5,66 @@
 #include <QEvent>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QSettings>
+#include <QLayout>
 #include <QShowEvent>
 #include <QUrl>
 
-#include "app/app_log.h"
-#include "app/settings_keys.h"
-#include "record/recording_run.h"
-#include "ui/recording_target.h"
+#include <cmath>
+
+#include "app/theme.h"
+#include "app/value_format.h"
+#include "record/recorder.h"
+#include "record/recording_target.h"
+#include "ui/device_text.h"
+#include "ui/recording_text.h"
 #include "ui_form_record.h"
 
 namespace {
 
-constexpr int kTickMs = 250;
-constexpr int kMeasureMs = 1000;
-
-constexpr qint64 kLowBytes = 500LL * 1024 * 1024;
-constexpr double kLowSeconds = 600;
+constexpr int kPatienceMs = 300;
 
 } // namespace
 
-int form_record::Trouble::kinds() const
-{
-    return int(dropped > 0) | int(lost > 0) << 1 | int(!fileError.isEmpty()) << 2 | int(!vanishedFile.isEmpty()) << 3
-           | int(lowSpace) << 4;
-}
-
-form_record::form_record(QWidget *parent) : QDialog(parent), m_ui(std::make_unique<Ui::form_record>())
+form_record::form_record(Recorder *recorder, QWidget *parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::form_record>()), m_recorder(recorder), m_probe(this), m_patience(this)
 {
     m_ui->setupUi(this);
     m_ui->LE_folder->setMaxLength(recording_target::kMaxPathLength);
     m_ui->LE_name->setMaxLength(int(recording_target::kMaxNameBytes));
 
-    const auto [folder, name] = recording_target::remembered(QSettings(settings_keys::kFile, QSettings::IniFormat));
+    const auto [folder, name] = recording_target::remembered();
     m_ui->LE_folder->setText(QDir::toNativeSeparators(folder));
     m_ui->LE_name->setText(name);
 
-    m_timer.setInterval(kTickMs);
-    connect(&m_timer, &QTimer::timeout, this, &form_record::tick);
+    m_patience.setSingleShot(true);
+    m_patience.setInterval(kPatienceMs);
+    connect(&m_patience, &QTimer::timeout, this, [this] { takeFacts({}); });
+    connect(&m_probe, &FolderProbe::answered, this, &form_record::takeFacts);
     for (QLineEdit *field : {m_ui->LE_folder, m_ui->LE_name})
-        connect(field, &QLineEdit::textChanged, this, [this] {
-            m_problem = Problem::None;
-            m_folderCreated = false;
-            updateState();
-        });
+        connect(field, &QLineEdit::textChanged, this, &form_record::takeInput);
     connect(m_ui->BTN_close, &QPushButton::clicked, this, &form_record::close);
+    connect(m_recorder, &Recorder::stateChanged, this, &form_record::updateState);
+    connect(m_recorder, &Recorder::troubleChanged, this, &form_record::updateNotice);
+    connect(m_recorder, &Recorder::figuresChanged, this, [this] {
+        m_isWriting = m_recorder->state() == Recorder::State::Finishing; // for long
+        m_ui->LBL_state->setText(stateText());
+        updateFigures();
+        updateNotice();
+    });
+    connect(m_recorder, &Recorder::recordingChanged, this, &form_record::askDisk);
     updateState();
 }
 
 form_record::~form_record() = default;
 
-void form_record::setLinkOpen(bool open)
+QString form_record::typedFolder() const
 {
-    if (m_linkOpen == open)
-        return;
-    m_linkOpen = open;
-    m_endedByLink = !open && m_isRecording;
-    if (open) {
-        m_runIsOfLastLink = true;
-        m_droppedInEarlier = 0;
-        m_lostInEarlier = 0;
-    } else {
-        stopRecording();
-    }
-    updateState();
+    return recording_target::folder(m_ui->LE_folder->text());
 }
 
-bool form_record::startRecording()
+QString form_record::typedName() const
 {
-    if (m_isRecording)
-        return true;
-    if (m_isFinishing)
-        return fail(Problem::StillWriting, {});
-    m_problem = Problem::None;
-    if (!blockedReason().isEmpty()) {
-        updateState();
-        return false;
-    }
-    const QString folder = recording_target::folder(m_ui->LE_folder->text());
-    const QString name = recording_target::name(m_ui->LE_name->text());
-    const bool isMissing = !QFileInfo::exists(folder);
-    if (!isMissing && !QFileInfo(folder).isDir())
-        return fail(Problem::FolderIsFile, folder);
-    if (isMissing && !QDir().mkpath(folder))
-        return fail(Problem::CannotCreateFolder, folder);
-    const QString basePath = recording_target::basePath(folder, name, QDateTime::currentDateTime());
-    auto run = std::make_unique<RecordingRun>(basePath);
-    if (!run->isRunning())
-        return fail(Problem::CannotOpenFile, run->writer().filePath(), run->writer().fileError());
-
-    QSettings settings(settings_keys::kFile, QSettings::IniFormat);
-    settings.setValue(settings_keys::kRecordPath, folder + u'/' + name + QLatin1String(".csv"));
-    settings.sync();
-    if (settings.status() != QSettings::NoError)
-        AppLog::logfile(QtWarningMsg, QStringLiteral("failed to store the recording folder."));
-
-    m_droppedInEarlier = droppedRecords();
-    m_lostInEarlier = lostRecords();
-    m_run = std::move(run);
-    m_runIsOfLastLink = false;
-    connect(&m_run->writer(), &CsvWriter::queueOverflow, this, &form_record::updateTrouble);
-    connect(m_run.get(), &RecordingRun::ended, this, &form_record::finishStop);
-    m_folderCreated = isMissing;
-    m_isRecording = true;
-    m_endedByLink = false;
-    m_recordsPerSecond = -1;
-    m_bytesPerSecond = 0;
-    m_measuredCount = 0;
-    m_measuredSize = 0;
-    m_measuredFile.clear();
-    m_freeBytes = recording_target::freeBytes(folder);
-    m_clock.start();
-    m_sinceMeasured.start();
-    m_timer.start();
-    updateTrouble();
-    updateState();
-    emit recordingChanged(true);
-    return true;
-}
-
-void form_record::stopRecording()
-{
-    if (!m_isRecording)
-        return;
-    m_isRecording = false; // nothing more is taken in
-    m_elapsedMs = m_clock.elapsed();
-    m_isFinishing = true;
-    m_run->requestStop();
-    updateTrouble();
-    updateState();
-}
-
-void form_record::waitForFile()
-{
-    finishStop();
-}
-
-/// Ends a stop; when the run has not told that it ended, this waits for it.
-void form_record::finishStop()
-{
-    if (!m_isFinishing)
-        return;
-    m_run->stop();
-    m_isFinishing = false;
-    m_timer.stop();
-    if (m_problem == Problem::StillWriting)
-        m_problem = Problem::None;
-    updateTrouble();
-    updateState();
-    emit recordingChanged(false);
-}
-
-unsigned int form_record::recordCount() const
-{
-    if (!m_run)
-        return 0;
-    // A lost record is counted as such just before it counts as a record.
-    const unsigned int lost = m_run->writer().lostRecords();
-    const unsigned int count = m_run->writer().getFrameCtr();
-    return count > lost ? count - lost : 0;
-}
-
-unsigned int form_record::droppedRecords() const
-{
-    return m_droppedInEarlier + (countsRun() ? m_run->writer().droppedRecords() : 0);
-}
-
-unsigned int form_record::lostRecords() const
-{
-    return m_lostInEarlier + (countsRun() ? m_run->writer().lostRecords() : 0);
-}
-
-void form_record::imuPackage0x91(const node_data_t &node)
-{
-    if (m_isRecording)
-        m_run->writer().enqueue91(node);
-}
-
-void form_record::imuPackage0x62(const QList<node_data_t> &nodes)
-{
-    if (m_isRecording)
-        m_run->writer().enqueue62(nodes);
-}
-
-void form_record::imuPackage0x63(const QList<node_data_t> &nodes, unsigned int timestampMs)
-{
-    if (m_isRecording)
-        m_run->writer().enqueue63(nodes, timestampMs);
+    return recording_target::name(m_ui->LE_name->text());
 }
 
 bool form_record::event(QEvent *event)
@@ -204,6 +77,7 @@ bool form_record::event(QEvent *event)
 
 void form_record::showEvent(QShowEvent *event)
 {
+    askDisk();
     updateState();
     fitHeight();
     QDialog::showEvent(event);
@@ -222,10 +96,10 @@ void form_record::changeEvent(QEvent *event)
 
 void form_record::on_BTN_record_clicked()
 {
-    if (m_isRecording)
-        stopRecording();
+    if (m_recorder->isRecording())
+        m_recorder->stop();
     else
-        startRecording();
+        m_recorder->start(m_ui->LE_folder->text(), m_ui->LE_name->text());
 }
 
 void form_record::on_BTN_browse_clicked()
@@ -234,9 +108,10 @@ void form_record::on_BTN_browse_clicked()
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFileMode(QFileDialog::Directory);
     dialog->setOption(QFileDialog::ShowDirsOnly);
-    dialog->setDirectory(recording_target::folder(m_ui->LE_folder->text()));
+    if (m_facts.isFolder) // a dialog waits for the disk of the folder that it begins with
+        dialog->setDirectory(m_facts.folder);
     connect(dialog, &QFileDialog::fileSelected, this, [this](const QString &path) {
-        if (!m_isRecording) // it may have been started meanwhile
+        if (!m_recorder->isRecording()) // it may have been started meanwhile
             m_ui->LE_folder->setText(QDir::toNativeSeparators(path));
     });
     dialog->open();
@@ -244,58 +119,169 @@ void form_record::on_BTN_browse_clicked()
 
 void form_record::on_BTN_folder_clicked()
 {
-    const QString folder =
-        m_run ? QFileInfo(m_run->writer().filePath()).path() : recording_target::folder(m_ui->LE_folder->text());
-    if (!QFileInfo(folder).isDir() || !QDesktopServices::openUrl(QUrl::fromLocalFile(folder)))
-        fail(Problem::CannotShowFolder, folder);
+    const QString file = m_recorder->filePath();
+    m_folderToShow = file.isEmpty() ? typedFolder() : QFileInfo(file).path();
+    m_probe.ask(m_folderToShow);
 }
 
-void form_record::tick()
+void form_record::showFolder(const FolderFacts &facts)
 {
-    if (m_isFinishing) // for long
-        m_ui->LBL_state->setText(tr("Writing the last records…"));
-    else if (m_sinceMeasured.elapsed() >= kMeasureMs)
-        measure();
-    updateTrouble();
-    updateLive();
-}
-
-void form_record::measure()
-{
-    const CsvWriter &writer = m_run->writer();
-    const double seconds = double(m_sinceMeasured.restart()) / 1000;
-    const unsigned int count = recordCount();
-    const QString file = writer.filePath();
-    const qint64 size = writer.fileSize();
-    m_recordsPerSecond = (count > m_measuredCount ? count - m_measuredCount : 0) / seconds;
-    m_bytesPerSecond = double(file == m_measuredFile ? size - m_measuredSize : size) / seconds;
-    m_measuredCount = count;
-    m_measuredFile = file;
-    m_measuredSize = size;
-    m_freeBytes = writer.freeBytes();
-    m_run->writer().askAboutDisk(); // for the next time: a disk may hang, this must not
-}
-
-void form_record::updateTrouble()
-{
-    const CsvWriter &writer = m_run->writer();
-    const int before = m_trouble.kinds();
-    m_trouble.dropped = writer.droppedRecords();
-    m_trouble.lost = writer.lostRecords();
-    m_trouble.fileError = writer.fileError();
-    m_trouble.vanishedFile = writer.vanishedFile();
-    m_trouble.lowSpace = m_isRecording && m_freeBytes >= 0
-                         && (m_freeBytes < kLowBytes || double(m_freeBytes) < m_bytesPerSecond * kLowSeconds);
+    m_folderToShow.clear();
+    const bool isShown = facts.isFolder && QDesktopServices::openUrl(QUrl::fromLocalFile(facts.folder));
+    m_folderNotShown = isShown ? QString() : facts.folder;
     updateNotice();
-    if (m_trouble.kinds() != before)
-        emit troubleChanged();
 }
 
-bool form_record::fail(Problem problem, const QString &path, const QString &reason)
+/// The user has changed a field.
+void form_record::takeInput()
 {
-    m_problem = problem;
-    m_problemPath = path;
-    m_problemReason = reason;
+    m_folderNotShown.clear();
+    m_recorder->clearProblem();
+    askDisk();
     updateState();
-    return false;
+}
+
+void form_record::askDisk()
+{
+    if (!isVisible())
+        return;
+    m_probe.ask(typedFolder());
+    m_patience.start();
+}
+
+void form_record::takeFacts(const FolderFacts &facts)
+{
+    if (!facts.folder.isEmpty() && facts.folder == m_folderToShow)
+        showFolder(facts);
+    if (facts.folder == typedFolder()) {
+        m_patience.stop();
+        m_facts = facts;
+    } else if (m_facts.folder != typedFolder()) {
+        if (!m_patience.isActive())
+            m_facts = {};
+        if (!facts.folder.isEmpty()) // another question may have replaced ours
+            m_probe.ask(typedFolder());
+    }
+    updateFields();
+    updateFigures();
+}
+
+/// Why recording cannot be started now; empty when it can.
+QString form_record::blockedReason() const
+{
+    if (!m_recorder->isLinkOpen())
+        return tr("Nothing is connected: open a serial port first.");
+    if (typedFolder().isEmpty())
+        return tr("Choose a folder.");
+    return recording_text::nameProblem(typedName());
+}
+
+QString form_record::stateText() const
+{
+    switch (m_recorder->state()) {
+    case Recorder::State::Starting:
+        return tr("Starting…");
+    case Recorder::State::Recording:
+        return tr("Recording");
+    case Recorder::State::Finishing:
+        if (m_isWriting)
+            return tr("Writing the last records…");
+        break;
+    case Recorder::State::Idle:
+        break;
+    }
+    if (m_recorder->isEndedByLink())
+        return tr("Recording ended: the port was closed");
+    return m_recorder->hasRun() ? tr("Recording stopped") : tr("Not recording");
+}
+
+void form_record::updateState()
+{
+    const bool isRecording = m_recorder->isRecording();
+    updateFields();
+    const QString blocked = isRecording ? QString() : blockedReason();
+    m_ui->BTN_record->setText(isRecording ? tr("&Stop recording") : tr("&Start recording"));
+    m_ui->BTN_record->setEnabled(blocked.isEmpty());
+    const QString what = isRecording ? tr("Writes what has arrived and closes the file")
+                                     : tr("Writes every sample that arrives into a file");
+    m_ui->BTN_record->setToolTip(device_text::plainToolTip(blocked.isEmpty() ? what : blocked));
+    m_ui->BTN_record->setDefault(!isRecording); // a stray Enter must not end a recording
+
+    m_isWriting = false;
+    m_ui->LBL_dot->setEnabled(isRecording);
+    m_ui->LBL_state->setText(stateText());
+    if (isRecording)
+        m_ui->LBL_hint->setText(tr("Recording goes on when this window is closed."));
+    else // the state may say as much
+        m_ui->LBL_hint->setText(m_recorder->isLinkOpen() || m_recorder->isEndedByLink() ? QString() : blocked);
+
+    const QFont figures = theme::fixedPitchFont(font().pointSizeF());
+    for (QLabel *label : {m_ui->LBL_elapsed, m_ui->LBL_records, m_ui->LBL_rate, m_ui->LBL_size, m_ui->LBL_space})
+        label->setFont(figures);
+    updateFigures();
+    updateNotice();
+}
+
+void form_record::updateFields()
+{
+    const bool isRecording = m_recorder->isRecording();
+    const QString locked = isRecording ? tr("Stop the recording to change this") : QString();
+    for (QWidget *field : QList<QWidget *>{m_ui->LE_folder, m_ui->LE_name, m_ui->BTN_browse}) {
+        field->setEnabled(!isRecording);
+        field->setToolTip(locked);
+    }
+    const QString folder = typedFolder();
+    QString folderNote;
+    if (folder.isEmpty())
+        folderNote = tr("Choose a folder.");
+    else if (m_recorder->isFolderCreated() && m_recorder->folder() == folder)
+        folderNote = tr("This folder was created for the recording.");
+    else if (!m_facts.folder.isEmpty() && !m_facts.exists)
+        folderNote = tr("This folder does not exist yet: starting creates it.");
+    m_ui->LBL_folderNote->setText(folderNote);
+    m_ui->LBL_folderNote->setVisible(!folderNote.isEmpty());
+
+    const QString name = typedName();
+    const QString problem = recording_text::nameProblem(name);
+    m_ui->LBL_nameNote->setText(tr("Saved as %1; a new file begins every hour.")
+                                    .arg(device_text::breakable(name + QLatin1String("_YYYYMMDD_HHMMSS.csv"))));
+    m_ui->LBL_nameNote->setVisible(problem.isEmpty());
+    m_ui->LBL_nameProblem->setText(problem);
+    m_ui->LBL_nameProblem->setVisible(!problem.isEmpty());
+}
+
+/// Shows the figures of the running recording, or of the last one.
+void form_record::updateFigures()
+{
+    const QString none = value_format::absent();
+    const bool hasRun = m_recorder->hasRun();
+    const bool isRecording = m_recorder->isRecording();
+    const double rate = m_recorder->recordsPerSecond();
+    m_ui->LBL_elapsed->setText(hasRun ? recording_text::elapsed(m_recorder->elapsedMs()) : none);
+    m_ui->LBL_records->setText(hasRun ? QString::number(m_recorder->recordCount()) : none);
+    m_ui->LBL_rate->setText(isRecording && rate >= 0 ? tr("%1 records/s").arg(std::lround(rate)) : none);
+    m_ui->LBL_size->setText(hasRun ? recording_text::size(m_recorder->fileSize()) : none);
+    const qint64 measured = m_recorder->freeBytes();
+    m_ui->LBL_space->setText(recording_text::space(measured >= 0 ? measured : m_facts.freeBytes,
+                                                   isRecording ? m_recorder->bytesPerSecond() : 0));
+    const QString file = m_recorder->filePath();
+    m_ui->LBL_file->setText(file.isEmpty() ? none : recording_text::shownPath(file));
+    m_ui->LBL_file->setToolTip(device_text::plainToolTip(QDir::toNativeSeparators(file)));
+}
+
+void form_record::updateNotice()
+{
+    QStringList lines = recording_text::notices(m_recorder->problem(), m_recorder->trouble());
+    if (!m_folderNotShown.isEmpty())
+        lines.prepend(tr("The folder %1 cannot be shown.").arg(recording_text::shownPath(m_folderNotShown)));
+    const QString notice = lines.join(u'\n');
+    m_ui->LBL_notice->setText(notice);
+    m_ui->LBL_notice->setVisible(!notice.isEmpty());
+}
+
+void form_record::fitHeight()
+{
+    const int needed = layout()->totalHeightForWidth(width());
+    if (needed > height())
+        resize(width(), needed);
 }

@@ -1,6 +1,5 @@
 #include <QDir>
 #include <QFile>
-#include <QLineEdit>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -9,10 +8,10 @@
 #include "link/imu_parser.h"
 #include "link/kv_uart_port.h"
 #include "link/stream_dispatcher.h"
+#include "record/recorder.h"
 #include "simulator/csv_recording.h"
 #include "simulator/sample_source.h"
 #include "support/simulator_process.h"
-#include "ui/form_record.h"
 
 using kvsim::ImuSample;
 
@@ -31,11 +30,10 @@ public:
             ++frames;
             m_dispatcher.publishFrame(m_parser.parseFrame(payload));
         });
-        QObject::connect(&m_dispatcher, &StreamDispatcher::singleNodeFrame, &m_recorder, &form_record::imuPackage0x91);
-        QObject::connect(&m_dispatcher, &StreamDispatcher::gatewayBatch62, &m_recorder, &form_record::imuPackage0x62);
-        QObject::connect(&m_dispatcher, &StreamDispatcher::gatewayBatch63, &m_recorder, &form_record::imuPackage0x63);
+        QObject::connect(&m_dispatcher, &StreamDispatcher::singleNodeFrame, &m_recorder, &Recorder::imuPackage0x91);
+        QObject::connect(&m_dispatcher, &StreamDispatcher::gatewayBatch62, &m_recorder, &Recorder::imuPackage0x62);
+        QObject::connect(&m_dispatcher, &StreamDispatcher::gatewayBatch63, &m_recorder, &Recorder::imuPackage0x63);
         m_recorder.setLinkOpen(true);
-        m_recorder.findChild<QLineEdit *>(QStringLiteral("LE_folder"))->setText(m_folder.path());
     }
 
     /// Records `count` frames or some more, stops, and gives the file's lines.
@@ -43,7 +41,7 @@ public:
     {
         QByteArrayList lines;
         [&] {
-            QVERIFY(m_recorder.startRecording());
+            m_recorder.start(m_folder.path(), QStringLiteral("data"));
             m_port.openUART(m_simulator.port(), 921600);
             QTRY_VERIFY_WITH_TIMEOUT(frames >= count, kTimeoutMs);
             QVERIFY(m_simulator.control("silent on"));
@@ -72,7 +70,7 @@ private:
     KvUartPort m_port;
     ImuParser m_parser;
     StreamDispatcher m_dispatcher;
-    form_record m_recorder;
+    Recorder m_recorder;
 };
 
 struct Field
@@ -211,5 +209,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestRecording)
+QTEST_GUILESS_MAIN(TestRecording)
 #include "tst_recording.moc"

@@ -13,9 +13,9 @@
 #include "fft/form_fftchart.h"
 #include "fft/spectrum_view_state.h"
 #include "link/stream_dispatcher.h"
+#include "record/recorder.h"
 #include "support/hex_file.h"
 #include "support/simulator_process.h"
-#include "ui/form_record.h"
 #include "updater/form_updater.h"
 #include "wave/chart_saver.h"
 #include "wave/form_sensor_dashboard.h"
@@ -92,19 +92,18 @@ private slots:
         desk.find<QAction>("action_sensor_dashboard")->trigger();
         auto *dashboard = openWindow<form_sensor_dashboard>();
         QVERIFY(dashboard != nullptr);
-        auto *recorder = desk.window->findChild<form_record *>();
+        auto *recorder = desk.window->findChild<Recorder *>();
         auto *dispatcher = desk.window->findChild<StreamDispatcher *>();
         int received = 0;
-        QVERIFY(recorder->startRecording());
+        recorder->start(QDir::currentPath(), QStringLiteral("data"));
         connect(dispatcher, &StreamDispatcher::singleNodeFrame, this, [&received] { ++received; });
         QTRY_VERIFY(dashboard->bridge().bridge(QStringLiteral("acc"))->hasData());
         dashboard->bridge().togglePlaying(); // a paused picture does not touch the file
-        recorder->close();
         QTRY_VERIFY(received > 300);
         QVERIFY(desk.find<QWidget>("button_recording")->isVisible());
 
         if (end == QLatin1String("stopped"))
-            recorder->stopRecording();
+            recorder->stop();
         else if (end == QLatin1String("port closed"))
             desk.find<QAction>("action_serial_stop")->trigger();
         else if (end == QLatin1String("window closed"))

@@ -7,13 +7,9 @@
 #include <cmath>
 #include <csignal>
 #include <cstring>
-#include <fcntl.h>
 #include <limits>
 #include <random>
 #include <sys/mount.h>
-#include <sys/stat.h>
-#include <unistd.h>
-#include <vector>
 
 #include "record/number_text.h"
 #include "record/recording_run.h"
@@ -384,58 +380,23 @@ private slots:
             QCOMPARE(lines[i].count(','), 19);
     }
 
-    /// A pipe that nobody reads stands for a disk that hangs.
-    void stopsWithoutWaitingForTheDisk()
-    {
-        const QDateTime now = QDateTime::currentDateTime();
-        for (int second = 0; second < 3; ++second)
-            QCOMPARE(::mkfifo(qPrintable(CsvWriter::pathOf(path(), now.addSecs(second))), 0600), 0);
-        std::vector<int> readers;
-        for (int second = 0; second < 3; ++second)
-            readers.push_back(
-                ::open(qPrintable(CsvWriter::pathOf(path(), now.addSecs(second))), O_RDONLY | O_NONBLOCK));
-        const auto close = qScopeGuard([&] { std::for_each(readers.begin(), readers.end(), ::close); });
-        RecordingRun run(path());
-        QVERIFY2(run.isRunning(), qPrintable(run.writer().fileError()));
-        QSignalSpy ended(&run, &RecordingRun::ended);
-        for (int i = 0; i < 400; ++i) // far more than a pipe holds
-            run.writer().enqueue62(batch({3}));
-        run.writer().askAboutDisk();
-        run.requestStop();
-        QVERIFY(run.isRunning() && run.writer().freeBytes() == -1);
-        char bytes[65536];
-        const auto drain = [&] {
-            for (const int reader : readers) {
-                while (::read(reader, bytes, sizeof bytes) > 0) {
-                }
-            }
-            return !run.isRunning();
-        };
-        QVERIFY(QTest::qWaitFor(drain));
-        QTRY_COMPARE(ended.count(), 1);
-        QCOMPARE(run.writer().getFrameCtr(), 400U);
-    }
-
     void writesOnItsOwnThread()
     {
-        RecordingRun never(path("missing/data.csv"));
-        never.stop();
-        QVERIFY(!never.isRunning());
-        RecordingRun run(path());
-        const CsvWriter &writer = run.writer();
+        RecordingRun run(m_folder->path(), QStringLiteral("data"));
+        QSignalSpy ended(&run, &RecordingRun::ended);
         constexpr int kEach = 2000;
         const auto enqueue = [&run] {
             for (int i = 0; i < kEach; ++i)
-                run.writer().enqueue63(batch({3}), 5);
+                run.add({CsvWriter::PendingRecordType::Record63, {}, batch({3}), 5});
         };
         const std::unique_ptr<QThread> other(QThread::create(enqueue));
         other->start();
         enqueue();
         QVERIFY(other->wait());
-        run.stop();
-        run.stop();
-        QVERIFY(!run.isRunning());
-        QCOMPARE(writer.getFrameCtr() + writer.droppedRecords(), unsigned(2 * kEach));
+        QVERIFY(run.wait() && run.wait());
+        QTRY_COMPARE(ended.count(), 1);
+        const CsvWriter &writer = *run.writer();
+        QCOMPARE(writer.getFrameCtr() + run.droppedRecords(), unsigned(2 * kEach));
         QCOMPARE(linesOf(writer.filePath()).size(), qsizetype(writer.getFrameCtr()) + 1);
         QCOMPARE(QFileInfo(writer.filePath()).size(), writer.fileSize());
     }

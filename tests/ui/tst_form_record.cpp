@@ -14,21 +14,30 @@
 #include <sys/mount.h>
 
 #include "app/settings_keys.h"
+#include "record/recorder.h"
+#include "record/recording_target.h"
+#include "support/slow_disk.h"
 #include "ui/form_record.h"
-#include "ui/recording_target.h"
+#include "ui/recording_text.h"
 
 namespace {
 
 constexpr int kNoticeMs = 10000;
+constexpr int kSlowCallMs = 1500;
+constexpr int kSlowMs = 60000;
+constexpr int kLongestWaitMs = 500;
+
+using State = Recorder::State;
 
 /// The dialog on the screen, with an open link.
 struct Bench
 {
-    form_record dialog;
+    Recorder recorder;
+    form_record dialog{&recorder};
 
     Bench()
     {
-        dialog.setLinkOpen(true);
+        recorder.setLinkOpen(true);
         dialog.show();
         QVERIFY(QTest::qWaitForWindowExposed(&dialog));
         QApplication::setActiveWindow(&dialog); // there may be no window manager to do it
@@ -38,10 +47,22 @@ struct Bench
     QString text(const char *name) const { return child<QLabel>(name)->text().remove(QChar(0x200B)); }
     QString notice() const { return child<QLabel>("LBL_notice")->isHidden() ? QString() : text("LBL_notice"); }
     QString file() const { return text("LBL_file"); }
+    State state() const { return recorder.state(); }
     void type(const QString &folder, const QString &name)
     {
         child<QLineEdit>("LE_folder")->setText(folder);
         child<QLineEdit>("LE_name")->setText(name);
+    }
+    /// Starts with what the fields hold; true when the file is open.
+    bool start()
+    {
+        press();
+        return QTest::qWaitFor([this] { return state() != State::Starting; }) && state() == State::Recording;
+    }
+    void stop()
+    {
+        recorder.stop();
+        recorder.waitForFile();
     }
     /// Presses the button by the keyboard.
     void press(const char *name = "BTN_record")
@@ -100,42 +121,49 @@ private slots:
         QString file;
         {
             Bench bench;
-            QSignalSpy changed(&bench.dialog, &form_record::recordingChanged);
-            bench.dialog.setLinkOpen(false);
+            QSignalSpy changed(&bench.recorder, &Recorder::recordingChanged);
+            bench.recorder.setLinkOpen(false);
             QVERIFY(!bench.record()->isEnabled() && bench.record()->toolTip().contains(QLatin1String("serial port")));
-            QVERIFY(!bench.dialog.startRecording());
-            bench.dialog.imuPackage0x91({}); // nothing is recorded yet
-            bench.dialog.setLinkOpen(true);
+            bench.recorder.start(m_folder->path(), QStringLiteral("a"));
+            QCOMPARE(bench.recorder.problem().kind, RecordingProblem::Kind::NotConnected);
+            bench.recorder.imuPackage0x91({}); // nothing is recorded yet
+            bench.recorder.setLinkOpen(true);
             bench.type(m_folder->filePath(QStringLiteral("a/b")), QStringLiteral(" walk.v2.CSV "));
             bench.press();
-            QVERIFY(bench.dialog.isRecording() && bench.dialog.startRecording());
+            QVERIFY(bench.recorder.isRecording());
+            bench.recorder.start(m_folder->path(), QStringLiteral("b")); // changes nothing
+            QTRY_COMPARE(bench.text("LBL_state"), QLatin1String("Recording"));
             QVERIFY(bench.text("LBL_folderNote").contains(QLatin1String("created")));
             QVERIFY(!bench.child<QWidget>("LE_name")->isEnabled());
             QVERIFY(!bench.record()->isDefault()); // a stray Enter does not stop it
-            bench.dialog.imuPackage0x91({});
+            bench.recorder.imuPackage0x91({});
             bench.dialog.close();
-            bench.dialog.imuPackage0x62(batch());
+            bench.recorder.imuPackage0x62(batch());
             QTRY_COMPARE(bench.text("LBL_records"), QLatin1String("2"));
             QTRY_VERIFY(bench.text("LBL_rate").endsWith(QLatin1String(" records/s")));
             QTRY_VERIFY(bench.text("LBL_elapsed") >= QLatin1String("00:00:01"));
             for (int i = 0; i < 300; ++i)
-                bench.dialog.imuPackage0x63(batch(), 7);
-            bench.dialog.setLinkOpen(false);
-            bench.dialog.waitForFile();
-            QVERIFY(!bench.dialog.isRecording() && bench.text("LBL_state").contains(QLatin1String("port was closed")));
-            QCOMPARE(bench.dialog.recordCount(), 302U);
-            QVERIFY(bench.dialog.elapsedMs() >= 1000 && !bench.dialog.hasTrouble());
+                bench.recorder.imuPackage0x63(batch(), 7);
+            bench.recorder.setLinkOpen(false);
+            bench.recorder.waitForFile();
+            QVERIFY(!bench.recorder.isRecording()
+                    && bench.text("LBL_state").contains(QLatin1String("port was closed")));
+            QCOMPARE(bench.recorder.recordCount(), 302U);
+            QVERIFY(bench.recorder.elapsedMs() >= 1000 && !bench.recorder.hasTrouble());
             QCOMPARE(changed, (QList<QVariantList>{{true}, {false}}));
-            bench.dialog.imuPackage0x91({});
+            bench.recorder.imuPackage0x91({});
             bench.dialog.show();
             file = bench.file();
             QCOMPARE(linesOf(file), 302 + 3);
-            QCOMPARE(bench.text("LBL_size"), recording_target::sizeText(QFileInfo(file).size()));
+            QCOMPARE(bench.text("LBL_size"), recording_text::size(QFileInfo(file).size()));
 
             QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "openUrl");
             bench.press("BTN_folder");
+            QTRY_COMPARE(m_shown, QFileInfo(file).path());
+            QVERIFY(QDir(m_shown).removeRecursively());
+            bench.press("BTN_folder");
+            QTRY_VERIFY(bench.notice().contains(QLatin1String("cannot be shown")));
             QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
-            QCOMPARE(m_shown, QFileInfo(file).path());
         }
         const Bench again;
         QCOMPARE(again.child<QLineEdit>("LE_folder")->text(), QFileInfo(file).path());
@@ -167,14 +195,16 @@ private slots:
         for (const auto &row : rows) {
             bench.type(row.folder, row.name);
             QCOMPARE(bench.record()->isEnabled(), row.onlyAtStart);
-            QVERIFY2(!bench.dialog.startRecording() && !bench.dialog.isRecording(), row.message);
+            bench.recorder.start(row.folder, row.name);
+            QCOMPARE(bench.recorder.isRecording(), row.onlyAtStart);
+            QTRY_COMPARE(bench.state(), State::Idle);
+            QCOMPARE(bench.recorder.hasTrouble(), row.onlyAtStart);
             const QString told = row.onlyAtStart ? bench.notice() : bench.record()->toolTip();
             QVERIFY2(told.contains(QLatin1String(row.message)), qPrintable(told));
         }
         bench.type(here, QString(recording_target::kMaxNameBytes, QLatin1Char('n')));
-        QCOMPARE(bench.notice(), QString());
-        bench.press();
-        QVERIFY(bench.dialog.isRecording());
+        QVERIFY(bench.notice().isEmpty() && !bench.recorder.hasTrouble());
+        QVERIFY(bench.start());
     }
 
     void neverEmptiesAnEarlierFile()
@@ -182,9 +212,9 @@ private slots:
         QSet<QString> files;
         for (int i = 1; i <= 5; ++i) { // mostly in one second
             Bench bench;
-            QVERIFY(bench.dialog.startRecording());
-            bench.dialog.imuPackage0x91({});
-            files += bench.file();
+            QVERIFY(bench.start());
+            bench.recorder.imuPackage0x91({});
+            files += bench.recorder.filePath();
         } // ends the recording too
         QCOMPARE(files.size(), 5);
         for (const QString &file : files)
@@ -204,36 +234,43 @@ private slots:
         }
     }
 
+    /// Before the file is open, and while it is written.
     void tellsOfDroppedRecordsOnce()
     {
-        Bench bench;
-        QVERIFY(bench.dialog.startRecording());
-        QSignalSpy trouble(&bench.dialog, &form_record::troubleChanged);
-        unsigned int sent = 0;
-        for (; sent < 1'000'000 && !bench.dialog.hasTrouble(); ++sent) // far faster than they can be written
-            bench.dialog.imuPackage0x62(batch());
-        QVERIFY(bench.notice().contains(QLatin1String("dropped: 1")));
-        for (int i = 0; i < 2000; ++i, ++sent)
-            bench.dialog.imuPackage0x62(batch());
-        bench.dialog.stopRecording();
-        QVERIFY(!bench.dialog.startRecording() && bench.notice().contains(QLatin1String("still being written")));
-        QTRY_VERIFY(!bench.notice().contains(QLatin1String("still being written"))); // it ends by itself
-        QCOMPARE(trouble.count(), 1);
-        const unsigned int dropped = sent - bench.dialog.recordCount();
-        QVERIFY(bench.notice().endsWith(QLatin1String("dropped: ") + QString::number(dropped)));
-        QVERIFY(bench.dialog.startRecording());
-        QVERIFY(!bench.dialog.hasTrouble() && bench.notice().isEmpty() && trouble.count() == 2);
+        for (const bool isOpen : {false, true}) {
+            Bench bench;
+            if (isOpen)
+                QVERIFY(bench.start());
+            else
+                bench.press();
+            QSignalSpy trouble(&bench.recorder, &Recorder::troubleChanged);
+            unsigned int sent = 0;
+            for (; sent < 1'000'000 && !bench.recorder.hasTrouble(); ++sent) // far faster than they can be written
+                bench.recorder.imuPackage0x62(batch());
+            QVERIFY(bench.notice().contains(QLatin1String("dropped: 1")));
+            for (int i = 0; i < 2000; ++i, ++sent)
+                bench.recorder.imuPackage0x62(batch());
+            bench.recorder.stop();
+            bench.press();
+            QVERIFY(!bench.recorder.isRecording() && bench.notice().contains(QLatin1String("still being written")));
+            QTRY_COMPARE(bench.state(), State::Idle); // it ends by itself
+            QVERIFY(!bench.notice().contains(QLatin1String("still being written")) && trouble.count() == 1);
+            const unsigned int dropped = sent - bench.recorder.recordCount();
+            QVERIFY(bench.notice().endsWith(QLatin1String("dropped: ") + QString::number(dropped)));
+            QCOMPARE(bench.recorder.droppedRecords(), dropped);
+            QVERIFY(bench.start());
+            QVERIFY(!bench.recorder.hasTrouble() && bench.notice().isEmpty() && trouble.count() == 2);
+        }
     }
 
     void tellsOfFilesAndDisksThatAreGone()
     {
         Bench bench;
-        QVERIFY(bench.dialog.startRecording());
-        QVERIFY(QFile::remove(bench.file()));
+        QVERIFY(bench.start());
+        QVERIFY(QFile::remove(bench.recorder.filePath()));
         QTRY_VERIFY_WITH_TIMEOUT(bench.notice().contains(QLatin1String("deleted or moved")), kNoticeMs);
-        bench.dialog.stopRecording();
-        bench.dialog.waitForFile();
-        QVERIFY(bench.dialog.hasTrouble());
+        bench.stop();
+        QVERIFY(bench.recorder.hasTrouble());
 
         const QString disk = m_folder->filePath(QStringLiteral("disk"));
         QVERIFY(QDir().mkdir(disk));
@@ -241,16 +278,56 @@ private slots:
             QSKIP("mounting is not permitted here");
         const auto unmount = qScopeGuard([&] { ::umount2(qPrintable(disk), MNT_DETACH); });
         bench.type(disk, QStringLiteral("full"));
-        QVERIFY(bench.dialog.startRecording());
-        QVERIFY(bench.notice() == QLatin1String("The disk is nearly full.") && bench.dialog.hasTrouble());
+        QVERIFY(bench.start());
+        QTRY_VERIFY(bench.notice() == QLatin1String("The disk is nearly full.") && bench.recorder.hasTrouble());
         for (int i = 0; i < 400; ++i)
-            bench.dialog.imuPackage0x62(batch());
+            bench.recorder.imuPackage0x62(batch());
         QTRY_VERIFY_WITH_TIMEOUT(bench.notice().contains(QLatin1String("cannot be written: ")), kNoticeMs);
         QTRY_VERIFY_WITH_TIMEOUT(bench.notice().contains(QLatin1String("could not be written: ")), kNoticeMs);
-        bench.dialog.stopRecording();
-        bench.dialog.waitForFile();
+        bench.stop();
         QVERIFY(bench.notice().contains(QLatin1String("cannot be written: "))); // neither could the rest
-        QCOMPARE(linesOf(bench.file()), qsizetype(bench.dialog.recordCount()) + 1);
+        QCOMPARE(linesOf(bench.file()), qsizetype(bench.recorder.recordCount()) + 1);
+    }
+
+    /// While every call to the disk takes its time, no click and no key waits for one; what arrives is recorded.
+    void aSlowDiskHoldsNothingUp()
+    {
+        const QString folder = m_folder->filePath(QStringLiteral("slow/new"));
+        recording_target::remember({folder, QStringLiteral("x")});
+        slow_disk::begin(m_folder->filePath(QStringLiteral("slow")), kSlowCallMs);
+        const auto fast = qScopeGuard(slow_disk::end);
+        QByteArray step = "open";
+        std::pair<qint64, QByteArray> longest; // the longest wait of the event loop, and where
+        QElapsedTimer sinceTick;
+        QTimer ticks;
+        ticks.setTimerType(Qt::PreciseTimer);
+        connect(&ticks, &QTimer::timeout, this,
+                [&] { longest = std::max(longest, std::pair(sinceTick.restart(), step)); });
+        sinceTick.start();
+        ticks.start(10);
+        Bench bench;
+        QTRY_VERIFY_WITH_TIMEOUT(bench.text("LBL_folderNote").contains(QLatin1String("not exist yet")), kSlowMs);
+        step = "type";
+        bench.type(folder + QStringLiteral("er"), QStringLiteral("a"));
+        QTRY_VERIFY_WITH_TIMEOUT(!bench.text("LBL_space").contains(u'B'), kSlowMs); // unknown as yet
+        QTRY_VERIFY_WITH_TIMEOUT(bench.text("LBL_space").contains(u'B'), kSlowMs);
+        step = "start";
+        bench.press();
+        QCOMPARE(bench.text("LBL_state"), QStringLiteral("Starting…"));
+        for (int i = 0; i < 300; ++i)
+            bench.recorder.imuPackage0x91({});
+        QTRY_COMPARE_WITH_TIMEOUT(bench.text("LBL_state"), QStringLiteral("Recording"), kSlowMs);
+        step = "stop";
+        bench.press();
+        QTRY_COMPARE_WITH_TIMEOUT(bench.text("LBL_state"), QStringLiteral("Writing the last records…"), kSlowMs);
+        step = "close";
+        bench.dialog.close();
+        QTRY_COMPARE_WITH_TIMEOUT(bench.text("LBL_state"), QStringLiteral("Recording stopped"), kSlowMs);
+        QVERIFY2(longest.first < kLongestWaitMs, longest.second + ": " + QByteArray::number(longest.first));
+        QVERIFY(slow_disk::calls() > 10);
+        QCOMPARE(bench.recorder.recordCount(), 300U);
+        slow_disk::end();
+        QCOMPARE(linesOf(bench.recorder.filePath()), 301);
     }
 
     void speaksEveryLanguageAtEverySize()
@@ -262,8 +339,8 @@ private slots:
             font.setPointSize(points);
             QApplication::setFont(font);
             Bench bench;
-            QVERIFY(bench.dialog.startRecording());
-            QVERIFY(QFile::remove(bench.file()));
+            QVERIFY(bench.start());
+            QVERIFY(QFile::remove(bench.recorder.filePath()));
             QTRY_VERIFY_WITH_TIMEOUT(!bench.notice().isEmpty() && bench.text("LBL_rate").size() > 2, kNoticeMs);
             QApplication::installTranslator(&language);
             const auto remove = qScopeGuard([&] { QApplication::removeTranslator(&language); });

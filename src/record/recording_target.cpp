@@ -1,13 +1,12 @@
-#include "ui/recording_target.h"
+#include "record/recording_target.h"
 
 #include <QDir>
-#include <QLocale>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QSettings>
-#include <QStorageInfo>
 
+#include "app/app_log.h"
 #include "app/settings_keys.h"
-#include "record/csv_writer.h"
 
 namespace {
 
@@ -51,37 +50,16 @@ recording_target::Target recording_target::remembered(const QSettings &settings)
     return {target.path(), name(target.fileName())};
 }
 
-qint64 recording_target::freeBytes(const QString &folder)
+recording_target::Target recording_target::remembered()
 {
-    QString existing = folder;
-    while (!existing.isEmpty() && !QFileInfo::exists(existing)) {
-        const QString above = QFileInfo(existing).path();
-        if (above == existing)
-            return -1;
-        existing = above;
-    }
-    return existing.isEmpty() ? -1 : QStorageInfo(existing).bytesAvailable();
+    return remembered(QSettings(settings_keys::kFile, QSettings::IniFormat));
 }
 
-QString recording_target::basePath(const QString &folder, const QString &name, const QDateTime &now)
+void recording_target::remember(const Target &target)
 {
-    QString path = QDir(folder).filePath(name + kSuffix);
-    const auto isTaken = [&](int seconds) { return QFileInfo::exists(CsvWriter::pathOf(path, now.addSecs(seconds))); };
-    for (int number = 2; isTaken(0) || isTaken(1); ++number)
-        path = QDir(folder).filePath(QStringLiteral("%1_%2%3").arg(name).arg(number).arg(kSuffix));
-    return path;
-}
-
-QString recording_target::sizeText(qint64 bytes)
-{
-    return QLocale::c().formattedDataSize(bytes, 1, QLocale::DataSizeTraditionalFormat);
-}
-
-QString recording_target::elapsedText(qint64 milliseconds)
-{
-    const qint64 seconds = milliseconds / 1000;
-    return QStringLiteral("%1:%2:%3")
-        .arg(seconds / 3600, 2, 10, QLatin1Char('0'))
-        .arg(seconds / 60 % 60, 2, 10, QLatin1Char('0'))
-        .arg(seconds % 60, 2, 10, QLatin1Char('0'));
+    QSettings settings(settings_keys::kFile, QSettings::IniFormat);
+    settings.setValue(settings_keys::kRecordPath, target.folder + u'/' + target.name + kSuffix);
+    settings.sync();
+    if (settings.status() != QSettings::NoError)
+        AppLog::logfile(QtWarningMsg, QStringLiteral("failed to store the recording folder."));
 }

@@ -1,11 +1,10 @@
 #pragma once
 
-#include <QDateTime>
 #include <QString>
 
 class QSettings;
 
-/// Where recordings go: what the user types, checked and completed. File systems are asked, nothing is changed.
+/// Where recordings go: what the user types, checked and completed. No disk is asked.
 namespace recording_target {
 
 /// Longest name in UTF-8 bytes: with the time and a running number behind it, file systems still hold it.
@@ -36,19 +35,12 @@ struct Target
     QString name;   ///< a good one
 };
 
-/// Where the last recording went; "data" in the working folder when nothing usable is remembered.
+/// Where the last recording went, from the settings file; "data" in the working folder when nothing usable is
+/// remembered.
+Target remembered();
 Target remembered(const QSettings &settings);
 
-/// Bytes that the user may still write on the disk of a folder that may not exist yet; -1: not known.
-qint64 freeBytes(const QString &folder);
-
-/// A CsvWriter's base path for recordings called `name`: with a running number behind the name when a file with the
-/// time `now`, or of the second after, is there already.
-QString basePath(const QString &folder, const QString &name, const QDateTime &now);
-
-/// "1.5 MB", in units of 1024.
-QString sizeText(qint64 bytes);
-/// "01:02:03"; hours may have more than two digits.
-QString elapsedText(qint64 milliseconds);
+/// Keeps where a recording went. Writes the settings file.
+void remember(const Target &target);
 
 } // namespace recording_target

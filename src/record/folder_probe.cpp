@@ -1,0 +1,97 @@
+#include "record/folder_probe.h"
+
+#include <QDeadlineTimer>
+#include <QFileInfo>
+#include <QMutex>
+#include <QStorageInfo>
+#include <QThread>
+#include <QWaitCondition>
+
+#include <chrono>
+
+namespace {
+
+constexpr std::chrono::seconds kThreadDeadline{3};
+
+qint64 freeBytes(const QFileInfo &folder)
+{
+    QFileInfo existing = folder;
+    while (!existing.exists()) {
+        const QString above = existing.path();
+        if (above == existing.filePath())
+            return -1;
+        existing.setFile(above);
+    }
+    return QStorageInfo(existing.filePath()).bytesAvailable();
+}
+
+FolderFacts look(const QString &folder)
+{
+    const QFileInfo info(folder);
+    return {folder, info.exists(), info.isDir(), freeBytes(info)};
+}
+
+} // namespace
+
+/// Where questions are left and answers fetched; `lock` guards all.
+struct FolderProbe::Desk
+{
+    QMutex lock;
+    QWaitCondition rung;
+    FolderProbe *owner = nullptr; ///< null when it is gone
+    QString question;             ///< empty: none
+};
+
+FolderProbe::FolderProbe(QObject *parent) : QObject(parent), m_desk(std::make_shared<Desk>())
+{
+    m_desk->owner = this;
+}
+
+FolderProbe::~FolderProbe()
+{
+    {
+        const QMutexLocker locker(&m_desk->lock);
+        m_desk->owner = nullptr;
+        m_desk->rung.wakeAll();
+    }
+    if (!m_thread || m_thread->wait(QDeadlineTimer(kThreadDeadline)))
+        return;
+    qWarning("A disk does not answer; the thread that asks it is left to itself.");
+    QThread *thread = m_thread.release();
+    connect(thread, &QThread::finished, thread, &QObject::deleteLater);
+}
+
+void FolderProbe::ask(const QString &folder)
+{
+    if (folder.isEmpty())
+        return;
+    {
+        const QMutexLocker locker(&m_desk->lock);
+        m_desk->question = folder;
+        m_desk->rung.wakeAll();
+    }
+    if (m_thread)
+        return;
+    m_thread.reset(QThread::create([desk = m_desk] { answerQuestions(desk); }));
+    m_thread->setObjectName(QStringLiteral("FolderProbe"));
+    m_thread->start();
+}
+
+/// The thread's work.
+void FolderProbe::answerQuestions(const std::shared_ptr<Desk> &desk)
+{
+    QMutexLocker locker(&desk->lock);
+    while (desk->owner != nullptr) {
+        if (desk->question.isEmpty()) {
+            desk->rung.wait(&desk->lock);
+            continue;
+        }
+        const QString folder = std::exchange(desk->question, {});
+        locker.unlock();
+        const FolderFacts facts = look(folder);
+        locker.relock();
+        if (FolderProbe *owner = desk->owner) // which cannot end before the lock is free
+            QMetaObject::invokeMethod(
+                owner, [owner, facts] { emit owner->answered(facts); }, Qt::QueuedConnection);
+    }
+}

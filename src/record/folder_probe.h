@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QMetaType>
+#include <QObject>
+#include <QString>
+
+#include <memory>
+
+class QThread;
+
+/// What a disk said about a folder. A plain value.
+struct FolderFacts
+{
+    QString folder; ///< the one that was asked about; empty: nothing is known
+    bool exists = false;
+    bool isFolder = false;
+    qint64 freeBytes =
+        -1; ///< what the user may still write on its disk, or on the one where it would be; -1: not known
+};
+Q_DECLARE_METATYPE(FolderFacts)
+
+/// Asks about folders on a thread of its own, because a disk may take seconds for an answer. Main thread only.
+///
+/// The thread begins with the first question. The destructor waits at most three seconds for an answer that is still
+/// out; a disk that hangs longer keeps its thread until the program has ended.
+class FolderProbe : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(FolderProbe)
+
+public:
+    explicit FolderProbe(QObject *parent = nullptr);
+    ~FolderProbe() override;
+
+    /// answered() follows. A question that nobody has begun to answer gives way to this one.
+    void ask(const QString &folder);
+
+signals:
+    void answered(const FolderFacts &facts);
+
+private:
+    struct Desk;
+    static void answerQuestions(const std::shared_ptr<Desk> &desk);
+
+    std::shared_ptr<Desk> m_desk; ///< shared with the thread, which may outlive this object
+    std::unique_ptr<QThread> m_thread;
+};

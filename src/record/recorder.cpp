@@ -1,0 +1,268 @@
+#include "record/recorder.h"
+
+#include <chrono>
+
+#include "record/recording_run.h"
+#include "record/recording_target.h"
+
+namespace {
+
+constexpr int kTickMs = 250;
+constexpr int kMeasureMs = 1000;
+constexpr std::chrono::seconds kOpenDeadline{10};
+
+constexpr qint64 kLowBytes = 500LL * 1024 * 1024;
+constexpr double kLowSeconds = 600;
+
+} // namespace
+
+int Recorder::Trouble::kinds() const
+{
+    return int(dropped > 0) | int(lost > 0) << 1 | int(!fileError.isEmpty()) << 2 | int(!vanishedFile.isEmpty()) << 3
+           | int(lowSpace) << 4 | int(notStarted) << 5;
+}
+
+Recorder::Recorder(QObject *parent) : QObject(parent), m_timer(this)
+{
+    m_timer.setInterval(kTickMs);
+    connect(&m_timer, &QTimer::timeout, this, &Recorder::tick);
+}
+
+Recorder::~Recorder()
+{
+    if (!m_run || m_run->wait(QDeadlineTimer(kOpenDeadline)))
+        return;
+    qWarning("The disk does not answer; a recording that is being started is left to itself.");
+    RecordingRun *run = m_run.release();
+    connect(run, &RecordingRun::ended, run, &QObject::deleteLater);
+}
+
+void Recorder::setLinkOpen(bool open)
+{
+    if (m_isLinkOpen == open)
+        return;
+    m_isLinkOpen = open;
+    m_isEndedByLink = !open && isRecording();
+    if (open) {
+        m_isRunOfLastLink = true;
+        m_droppedInEarlier = 0;
+        m_lostInEarlier = 0;
+        if (m_problem.kind == RecordingProblem::Kind::NotConnected)
+            m_problem = {};
+    } else {
+        stop();
+    }
+    emit stateChanged();
+}
+
+void Recorder::start(const QString &folder, const QString &name)
+{
+    using Kind = RecordingProblem::Kind;
+    if (isRecording())
+        return;
+    const recording_target::Target target{recording_target::folder(folder), recording_target::name(name)};
+    if (m_state == State::Finishing)
+        return fail(Kind::StillWriting);
+    if (!m_isLinkOpen)
+        return fail(Kind::NotConnected);
+    if (target.folder.isEmpty() || recording_target::nameState(target.name) != recording_target::NameState::Good)
+        return fail(Kind::BadTarget);
+
+    m_droppedInEarlier = droppedRecords();
+    m_lostInEarlier = lostRecords();
+    m_problem = {};
+    m_isRunOfLastLink = false;
+    m_isEndedByLink = false;
+    m_recordsPerSecond = -1;
+    m_bytesPerSecond = 0;
+    m_measuredCount = 0;
+    m_measuredSize = 0;
+    m_measuredFile.clear();
+    m_name = target.name;
+    m_run = std::make_unique<RecordingRun>(target.folder, target.name);
+    const auto whenCurrent = [this, number = ++m_runNumber](auto what) {
+        return [this, number, what] {
+            if (number == m_runNumber)
+                (this->*what)();
+        };
+    };
+    connect(m_run.get(), &RecordingRun::opened, this, whenCurrent(&Recorder::goOn), Qt::QueuedConnection);
+    connect(m_run.get(), &RecordingRun::ended, this, whenCurrent(&Recorder::finish), Qt::QueuedConnection);
+    connect(m_run.get(), &RecordingRun::overflowed, this, &Recorder::updateTrouble);
+    m_state = State::Starting;
+    m_clock.start();
+    m_sinceMeasured.start();
+    m_timer.start();
+    updateTrouble();
+    emit stateChanged();
+    emit recordingChanged(true);
+}
+
+/// The file is open.
+void Recorder::goOn()
+{
+    recording_target::remember({m_run->folder(), m_name});
+    if (m_state != State::Starting) // stopped meanwhile
+        return;
+    m_state = State::Recording;
+    emit stateChanged();
+}
+
+void Recorder::stop()
+{
+    if (!isRecording())
+        return;
+    m_elapsedMs = m_clock.elapsed();
+    m_state = State::Finishing;
+    m_run->requestStop();
+    updateTrouble();
+    emit stateChanged();
+}
+
+void Recorder::waitForFile()
+{
+    if (m_state == State::Finishing)
+        finish();
+}
+
+/// The run has ended, or is waited for.
+void Recorder::finish()
+{
+    if (m_state == State::Idle)
+        return;
+    m_run->wait();
+    m_state = State::Idle;
+    m_timer.stop();
+    m_problem = m_run->problem();
+    if (m_problem.kind != RecordingProblem::Kind::None)
+        m_run.reset();
+    updateTrouble();
+    emit stateChanged();
+    emit recordingChanged(false);
+}
+
+void Recorder::fail(RecordingProblem::Kind problem)
+{
+    m_problem = {problem, {}, {}};
+    updateTrouble();
+    emit stateChanged();
+}
+
+void Recorder::clearProblem()
+{
+    if (m_problem.kind != RecordingProblem::Kind::None)
+        fail(RecordingProblem::Kind::None);
+}
+
+const CsvWriter *Recorder::writer() const
+{
+    return m_run ? m_run->writer() : nullptr;
+}
+
+unsigned int Recorder::recordCount() const
+{
+    const CsvWriter *file = writer();
+    if (file == nullptr)
+        return 0;
+    // A lost record is counted as such just before it counts as a record.
+    const unsigned int lost = file->lostRecords();
+    const unsigned int count = file->getFrameCtr();
+    return count > lost ? count - lost : 0;
+}
+
+QString Recorder::folder() const
+{
+    return m_run ? m_run->folder() : QString();
+}
+
+bool Recorder::isFolderCreated() const
+{
+    return m_run && m_run->isFolderCreated();
+}
+
+QString Recorder::filePath() const
+{
+    const CsvWriter *file = writer();
+    return file != nullptr ? file->filePath() : QString();
+}
+
+qint64 Recorder::fileSize() const
+{
+    const CsvWriter *file = writer();
+    return file != nullptr ? file->fileSize() : 0;
+}
+
+qint64 Recorder::freeBytes() const
+{
+    const CsvWriter *file = writer();
+    return file != nullptr && m_state == State::Recording ? file->freeBytes() : -1;
+}
+
+unsigned int Recorder::droppedRecords() const
+{
+    return m_droppedInEarlier + (countsRun() ? m_run->droppedRecords() : 0);
+}
+
+unsigned int Recorder::lostRecords() const
+{
+    const CsvWriter *file = countsRun() ? writer() : nullptr;
+    return m_lostInEarlier + (file != nullptr ? file->lostRecords() : 0);
+}
+
+void Recorder::imuPackage0x91(const node_data_t &node)
+{
+    if (isRecording())
+        m_run->add({CsvWriter::PendingRecordType::Record91, node, {}, 0});
+}
+
+void Recorder::imuPackage0x62(const QList<node_data_t> &nodes)
+{
+    if (isRecording())
+        m_run->add({CsvWriter::PendingRecordType::Record62, {}, nodes, 0});
+}
+
+void Recorder::imuPackage0x63(const QList<node_data_t> &nodes, unsigned int timestampMs)
+{
+    if (isRecording())
+        m_run->add({CsvWriter::PendingRecordType::Record63, {}, nodes, timestampMs});
+}
+
+void Recorder::tick()
+{
+    if (m_state == State::Recording && m_sinceMeasured.elapsed() >= kMeasureMs)
+        measure();
+    updateTrouble();
+    emit figuresChanged();
+}
+
+void Recorder::measure()
+{
+    const double seconds = double(m_sinceMeasured.restart()) / 1000;
+    const unsigned int count = recordCount();
+    const QString file = filePath();
+    const qint64 size = fileSize();
+    m_recordsPerSecond = (count > m_measuredCount ? count - m_measuredCount : 0) / seconds;
+    m_bytesPerSecond = double(file == m_measuredFile ? size - m_measuredSize : size) / seconds;
+    m_measuredCount = count;
+    m_measuredFile = file;
+    m_measuredSize = size;
+    m_run->askAboutDisk(); // for the next time: a disk may hang, this must not
+}
+
+void Recorder::updateTrouble()
+{
+    const int before = m_trouble.kinds();
+    m_trouble = {};
+    m_trouble.notStarted = m_problem.isOfDisk();
+    if (m_run)
+        m_trouble.dropped = m_run->droppedRecords();
+    if (const CsvWriter *file = writer()) {
+        m_trouble.lost = file->lostRecords();
+        m_trouble.fileError = file->fileError();
+        m_trouble.vanishedFile = file->vanishedFile();
+    }
+    const qint64 bytes = freeBytes();
+    m_trouble.lowSpace = bytes >= 0 && (bytes < kLowBytes || double(bytes) < m_bytesPerSecond * kLowSeconds);
+    if (m_trouble.kinds() != before)
+        emit troubleChanged();
+}

@@ -1,0 +1,158 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QTimer>
+
+#include <memory>
+
+#include "link/node_data.h"
+#include "record/recording_problem.h"
+
+class CsvWriter;
+class RecordingRun;
+
+/// Records the samples of a connection into files, one recording after the other.
+///
+/// A recording takes samples in from start() on, while its file is still being opened, until stop(), until the link
+/// closes, or until it turns out that there can be no file. What was taken in is written, also at the end of this
+/// object. Folder, file and disk are the matter of a thread of its own: nothing here waits for them but waitForFile()
+/// and the destructor, which waits for an open file as long as it takes, for a file to be opened at most ten seconds.
+///
+/// Where a recording went is kept in the settings file. Main thread only.
+class Recorder : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(Recorder)
+
+public:
+    enum class State {
+        Idle,
+        Starting,  ///< samples are taken in, the file is being opened
+        Recording, ///< samples are taken in, the file is open
+        Finishing  ///< what was taken in is written, and the file closed
+    };
+
+    /// What goes wrong, or went wrong, in the running recording or in the last one.
+    struct Trouble
+    {
+        unsigned int dropped = 0; ///< records that found a full queue: the disk is too slow
+        unsigned int lost = 0;    ///< records that no file took
+        QString fileError;        ///< the system's words, while the file cannot be written
+        QString vanishedFile;     ///< deleted or moved while it was written
+        bool lowSpace = false;    ///< while recording
+        bool notStarted = false;  ///< there is no file: see problem()
+
+        bool any() const { return kinds() != 0; }
+        /// One bit per kind.
+        int kinds() const;
+    };
+
+    explicit Recorder(QObject *parent = nullptr);
+    ~Recorder() override;
+
+    /// A port was opened or closed. A recording can only be started with an open one; closing it stops. The counters of
+    /// the connection begin anew when it opens.
+    void setLinkOpen(bool open);
+    bool isLinkOpen() const { return m_isLinkOpen; }
+
+    /// Starts a recording in a folder, which is made when it is missing, with a name for its files; both as they are
+    /// typed. stateChanged() follows, and problem() says why when nothing is recorded. Nothing when one is running.
+    void start(const QString &folder, const QString &name);
+    /// Takes in nothing more. Another recording can be started after recordingChanged(false). Nothing when nothing is
+    /// recorded.
+    void stop();
+    /// Waits until a stopped recording's file is closed. Nothing when nothing was stopped.
+    void waitForFile();
+
+    State state() const { return m_state; }
+    /// Samples are taken in.
+    bool isRecording() const { return m_state == State::Starting || m_state == State::Recording; }
+    /// Why the last start() led to nothing.
+    const RecordingProblem &problem() const { return m_problem; }
+    /// The problem has been seen to, or no longer matters.
+    void clearProblem();
+
+    // Of the running recording, or of the last one.
+    /// There is, or was, one.
+    bool hasRun() const { return m_run != nullptr; }
+    unsigned int recordCount() const;
+    /// Length in milliseconds, from start() to stop().
+    qint64 elapsedMs() const { return isRecording() ? m_clock.elapsed() : m_elapsedMs; }
+    /// Absolute; empty when there is none.
+    QString folder() const;
+    /// The folder had been missing and was made.
+    bool isFolderCreated() const;
+    /// The file that is written, or was written last. Empty until it is open.
+    QString filePath() const;
+    /// Of that file, bytes.
+    qint64 fileSize() const;
+    /// It was ended by the link, not by stop().
+    bool isEndedByLink() const { return m_isEndedByLink; }
+    const Trouble &trouble() const { return m_trouble; }
+    bool hasTrouble() const { return m_trouble.any(); }
+
+    // Of the running recording; measured once a second.
+    /// -1: not known yet.
+    double recordsPerSecond() const { return m_recordsPerSecond; }
+    double bytesPerSecond() const { return m_bytesPerSecond; }
+    /// Bytes that the user may still write on the disk; -1: not known yet.
+    qint64 freeBytes() const;
+
+    // Of all recordings of the connection.
+    /// Records that found a full queue.
+    unsigned int droppedRecords() const;
+    /// Records that no file took.
+    unsigned int lostRecords() const;
+
+public slots:
+    /// Takes a single module's sample. These return at once when nothing is recorded.
+    void imuPackage0x91(const node_data_t &node);
+    /// Takes a gateway's batch of full records.
+    void imuPackage0x62(const QList<node_data_t> &nodes);
+    /// Takes a gateway's batch of compact records with its time stamp in milliseconds.
+    void imuPackage0x63(const QList<node_data_t> &nodes, unsigned int timestampMs);
+
+signals:
+    /// A recording has begun to take samples in, or it has ended and its file is closed.
+    void recordingChanged(bool recording);
+    /// The state, the problem or the link has changed.
+    void stateChanged();
+    /// A kind of trouble has come or gone.
+    void troubleChanged();
+    /// Four times a second from start() until the file is closed: counts, sizes and rates may have changed.
+    void figuresChanged();
+
+private:
+    const CsvWriter *writer() const;
+    bool countsRun() const { return m_run && !m_isRunOfLastLink; }
+    void fail(RecordingProblem::Kind problem);
+    void goOn();
+    void finish();
+    void tick();
+    void measure();
+    void updateTrouble();
+
+    std::unique_ptr<RecordingRun> m_run; ///< the running recording, or the last one
+    unsigned int m_runNumber = 0;        ///< what an earlier run had posted is not for this one
+    State m_state = State::Idle;
+    RecordingProblem m_problem;
+    Trouble m_trouble;
+    QTimer m_timer;        ///< runs while there is a recording, until its file is closed
+    QElapsedTimer m_clock; ///< since the start
+    qint64 m_elapsedMs = 0;
+
+    QElapsedTimer m_sinceMeasured;
+    unsigned int m_measuredCount = 0;
+    qint64 m_measuredSize = 0;
+    QString m_measuredFile;
+    double m_recordsPerSecond = -1;
+    double m_bytesPerSecond = 0;
+
+    bool m_isLinkOpen = false;
+    bool m_isEndedByLink = false;
+    bool m_isRunOfLastLink = false;      ///< m_run was made in an earlier connection
+    unsigned int m_droppedInEarlier = 0; ///< in earlier recordings of this connection
+    unsigned int m_lostInEarlier = 0;
+    QString m_name; ///< of the running recording's files
+};
