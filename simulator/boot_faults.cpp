@@ -2,6 +2,8 @@
 
 #include <QStringList>
 
+#include <iterator>
+
 namespace kvsim {
 
 QString BootFaults::plan(Verdict verdict, const QString &text)
@@ -23,7 +25,7 @@ BootFaults::Verdict BootFaults::judge()
     // The generator's own bits, because the distributions of the standard library differ between its makers.
     const bool byChance = refusedPercent > 0.0 && double(m_random() >> 11) * 0x1.0p-53 * 100.0 < refusedPercent;
     Verdict verdict = byChance ? Verdict::Refuse : Verdict::Take;
-    for (int i = 0; i < 3; ++i) {
+    for (int i = 0; i < int(std::size(m_plans)); ++i) {
         Plan &plan = m_plans[i];
         if (plan.first == 0)
             continue;

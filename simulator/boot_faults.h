@@ -16,6 +16,7 @@ public:
         Refuse, ///< negative acknowledge; the host may send it again
         Abort,  ///< acknowledge-abort; the data phase is over
         Ignore, ///< nothing programmed and no answer
+        Late,   ///< programmed, and acknowledged too late
     };
 
     static constexpr int kNormalPropertyBytes = 4;
@@ -28,6 +29,7 @@ public:
     int propertyBytes = kNormalPropertyBytes; ///< length of every property's value
     int eraseMs = 0;                          ///< from the acknowledge of an erase to its response
     int trickleMs = 0;                        ///< from each byte of an answer to the next
+    int lateMs = 250;                         ///< how late an acknowledge of the verdict Late is
     int staleMs = 0;                          ///< after each answer an acknowledge too many; 0: none
     double refusedPercent = 0.0;              ///< share of the data packets, by chance
 
@@ -46,7 +48,7 @@ private:
     };
 
     std::mt19937_64 m_random;
-    Plan m_plans[3]; // of Refuse, Abort, Ignore
+    Plan m_plans[4]; // of Refuse, Abort, Ignore, Late
 };
 
 } // namespace kvsim

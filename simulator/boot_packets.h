@@ -61,6 +61,8 @@ public:
     std::optional<Packet> take(char byte);
     /// Forgets the packet begun.
     void reset() { m_packet.clear(); }
+    /// No packet is begun.
+    bool isIdle() const { return m_packet.isEmpty(); }
 
 private:
     QByteArray m_packet;

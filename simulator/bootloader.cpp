@@ -62,8 +62,14 @@ void Bootloader::receive(QByteArrayView bytes, qint64 nowNs)
     for (const char byte : bytes) {
         if (m_exit != Exit::None)
             return;
-        if (const auto packet = m_reader.take(byte))
+        const bool wasIdle = m_reader.isIdle();
+        const auto packet = m_reader.take(byte);
+        if (packet) {
+            m_texts.packet(packet->kind == PacketReader::Kind::Ping);
             handle(*packet);
+        } else if (wasIdle && m_reader.isIdle()) {
+            m_texts.take(byte, m_writing);
+        }
     }
 }
 
@@ -182,9 +188,12 @@ void Bootloader::handleData(const QByteArray &payload)
     ++m_packets;
     ++m_refusedPackets;
     BootFaults::Verdict verdict = m_faults.judge();
-    if (verdict == BootFaults::Verdict::Take && payload.size() > m_settings.packetBytes)
+    const auto isTaken = [&verdict] {
+        return verdict == BootFaults::Verdict::Take || verdict == BootFaults::Verdict::Late;
+    };
+    if (isTaken() && payload.size() > m_settings.packetBytes)
         verdict = BootFaults::Verdict::Refuse;
-    if (verdict == BootFaults::Verdict::Take && quint32(payload.size()) > m_writeLeft)
+    if (isTaken() && quint32(payload.size()) > m_writeLeft)
         verdict = BootFaults::Verdict::Abort;
     switch (verdict) {
     case BootFaults::Verdict::Ignore:
@@ -197,13 +206,14 @@ void Bootloader::handleData(const QByteArray &payload)
         answer(encodeShortPacket(PacketType::AckAbort));
         return;
     case BootFaults::Verdict::Take:
+    case BootFaults::Verdict::Late:
         break;
     }
     --m_refusedPackets;
     m_flash.program(m_writeAddress, payload);
     m_writeAddress += quint32(payload.size());
     m_writeLeft -= quint32(payload.size());
-    answer(encodeShortPacket(PacketType::Ack));
+    answer(encodeShortPacket(PacketType::Ack), verdict == BootFaults::Verdict::Late ? m_faults.lateMs : 0);
     if (m_writeLeft == 0) {
         m_writing = false;
         m_firmwareWhole = true;

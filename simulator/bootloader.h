@@ -6,6 +6,7 @@
 
 #include "simulator/boot_faults.h"
 #include "simulator/boot_packets.h"
+#include "simulator/boot_texts.h"
 #include "simulator/flash_memory.h"
 
 namespace kvsim {
@@ -52,6 +53,8 @@ public:
     quint64 packets() const { return m_packets; }
     /// Those of them that were not programmed.
     quint64 refusedPackets() const { return m_refusedPackets; }
+    /// Text that came instead of packets.
+    const BootTexts &texts() const { return m_texts; }
     BootFaults &faults() { return m_faults; }
     const FlashMemory &flash() const { return m_flash; }
 
@@ -68,6 +71,7 @@ private:
     Settings m_settings;
     FlashMemory m_flash;
     BootFaults m_faults;
+    BootTexts m_texts;
     PacketReader m_reader;
     std::multimap<qint64, QByteArray> m_answers; // by the time they are due
     qint64 m_nowNs = 0;

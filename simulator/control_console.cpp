@@ -13,10 +13,13 @@ namespace kvsim {
 
 namespace {
 
-QString statisticsLine(const Simulator::Statistics &s)
+QString statisticsLine(const Simulator &simulator)
 {
+    const Simulator::Statistics s = simulator.statistics();
+    const BootTexts &texts = simulator.device().bootloader().texts();
     return QStringLiteral("stats: frames=%1 frames_sent=%2 frames_intact=%3 dropped=%4 unheard=%5 bytes=%6 "
-                          "bootloader=%7 packets=%8 refused=%9")
+                          "bootloader=%7 packets=%8 refused=%9 records_missing=%10 boot_text_commands=%11 "
+                          "boot_text_in_data=%12 boot_restarts=%13 boot_texts=%14")
         .arg(s.frames)
         .arg(s.sent)
         .arg(s.intact)
@@ -25,7 +28,12 @@ QString statisticsLine(const Simulator::Statistics &s)
         .arg(s.bytes)
         .arg(s.inBootloader ? 1 : 0)
         .arg(s.packets)
-        .arg(s.refused);
+        .arg(s.refused)
+        .arg(s.missing)
+        .arg(texts.commands())
+        .arg(texts.betweenData())
+        .arg(texts.restarts())
+        .arg(QString::fromLatin1(texts.last().join('|').replace(' ', '_')));
 }
 
 QString errorLine(const QString &reason)
@@ -43,7 +51,7 @@ QStringList ControlConsole::execute(const QString &line)
 {
     const QString ok = QStringLiteral("ok");
     if (line.trimmed() == u"stats")
-        return {statisticsLine(m_simulator.statistics()), ok};
+        return {statisticsLine(m_simulator), ok};
     if (line.trimmed() == u"quit") {
         emit quitRequested();
         return {ok};

@@ -1,6 +1,7 @@
 #include "simulator/controls.h"
 
 #include <array>
+#include <limits>
 #include <optional>
 
 #include "simulator/simulator.h"
@@ -8,6 +9,8 @@
 namespace kvsim {
 
 namespace {
+
+constexpr int kMaxClockMs = std::numeric_limits<int>::max();
 
 // What kind of value stands behind a control's name.
 enum class Argument { None, Switch, Rate, Integer, Values, Packets, Text };
@@ -32,6 +35,16 @@ struct Control
     // Returns an empty text, or why it does not work.
     QString (*run)(Simulator &simulator, const Value &value);
 };
+
+QString noGateway()
+{
+    return QStringLiteral("the device is no gateway");
+}
+
+template <typename Set> QString onNodes(Simulator &simulator, Set set)
+{
+    return simulator.radioNodes() != nullptr ? set(*simulator.radioNodes()) : noGateway();
+}
 
 BootFaults &bootFaults(Simulator &simulator)
 {
@@ -60,13 +73,50 @@ constexpr std::array kControls{
             [](Simulator &s, const Value &v) { s.setSilent(v.on); return QString(); }},
     Control{"deaf", Argument::Switch, 0, 0, "stream, but hear no commands",
             [](Simulator &s, const Value &v) { s.setDeaf(v.on); return QString(); }},
+    Control{"garbage", Argument::Integer, 0, GarbageSource::kMaxBytesPerSecond,
+            "random bytes per second for data, no answers (0: off)",
+            [](Simulator &s, const Value &v) { s.setGarbage(v.integer); return QString(); }},
     Control{"unplug", Argument::None, 0, 0, "close the port, remove the link",
             [](Simulator &s, const Value &) { s.unplug(); return QString(); }},
     Control{"replug", Argument::None, 0, 0, "open a new port, print its \"port: ...\" line",
             [](Simulator &s, const Value &) { QString error; s.replug(&error); return error; }},
     Control{"nodes", Argument::Integer, 1, kMaxNodes, "nodes behind the gateway",
             [](Simulator &s, const Value &v) {
-                return s.setNodes(v.integer) ? QString() : QStringLiteral("the device is no gateway");
+                return s.setNodes(v.integer) ? QString() : noGateway();
+            }},
+    Control{"node miss", Argument::Text, 0, 0, "N|all:PERCENT of its records missing, by chance",
+            [](Simulator &s, const Value &v) {
+                return onNodes(s, [&v](RadioNodes &nodes) { return nodes.setMissing(v.text); });
+            }},
+    Control{"node skip", Argument::Text, 0, 0, "N|lowest:K, missing in every K-th batch (0: off)",
+            [](Simulator &s, const Value &v) {
+                return onNodes(s, [&v](RadioNodes &nodes) { return nodes.setSkipping(v.text); });
+            }},
+    Control{"node leave", Argument::Text, 0, 0, "N leaves all batches",
+            [](Simulator &s, const Value &v) {
+                return onNodes(s, [&v](RadioNodes &nodes) { return nodes.setPresent(v.text, false); });
+            }},
+    Control{"node return", Argument::Text, 0, 0, "N comes back",
+            [](Simulator &s, const Value &v) {
+                return onNodes(s, [&v](RadioNodes &nodes) { return nodes.setPresent(v.text, true); });
+            }},
+    Control{"node clock-restart", Argument::Text, 0, 0, "N's own clock begins at 0",
+            [](Simulator &s, const Value &v) {
+                return onNodes(s, [&](RadioNodes &nodes) { return nodes.restartClock(v.text, s.deviceTimeNs()); });
+            }},
+    Control{"node clock", Argument::Text, 0, 0, "N:OFFSET_MS[:PPM], a clock of its own (62)",
+            [](Simulator &s, const Value &v) {
+                return onNodes(s, [&v](RadioNodes &nodes) { return nodes.setClock(v.text); });
+            }},
+    Control{"node attitude", Argument::Text, 0, 0, "N:ROLL:PITCH:YAW keeps still so; N:off",
+            [](Simulator &s, const Value &v) {
+                return onNodes(s, [&v](RadioNodes &nodes) { return nodes.setAttitude(v.text); });
+            }},
+    Control{"clock set", Argument::Integer, 0, kMaxClockMs, "device time is so many ms now; 0: it restarts",
+            [](Simulator &s, const Value &v) { s.setClock(v.integer); return QString(); }},
+    Control{"clock distance", Argument::Integer, 0, kMaxClockMs, "batches 63 are so many ms ahead of batches 62",
+            [](Simulator &s, const Value &v) {
+                return s.setClockDistance(v.integer) ? QString() : noGateway();
             }},
     Control{"rotate-ids", Argument::Switch, 0, 0, "new node ids in each batch, 1 to 250 in turn",
             [](Simulator &s, const Value &v) { s.setRotateIds(v.on); return QString(); }},
@@ -83,6 +133,13 @@ constexpr std::array kControls{
     Control{"reply", Argument::Integer, 0, DeviceModel::kMaxReplyMegabytes,
             "information reply of so many megabytes (0: off)",
             [](Simulator &s, const Value &v) { return infoReply(s, InfoReply::Huge, v.integer > 0, v.integer); }},
+    Control{"reply-delay", Argument::Integer, 0, 60'000, "text replies come so many ms later",
+            [](Simulator &s, const Value &v) { s.setReplyDelay(v.integer); return QString(); }},
+    Control{"refuse", Argument::Text, 0, 0, "ERROR to commands that begin so; none: off",
+            [](Simulator &s, const Value &v) {
+                s.device().setRefused(v.text == u"none" ? QByteArray() : v.text.toUpper().toUtf8());
+                return QString();
+            }},
     Control{"reply-binary", Argument::Switch, 0, 0, "information reply that is not valid UTF-8",
             [](Simulator &s, const Value &v) { return infoReply(s, InfoReply::Binary, v.on); }},
     Control{"wrong-device", Argument::Switch, 0, 0, "information reply of an unknown model",
@@ -104,6 +161,10 @@ constexpr std::array kControls{
             [](Simulator &s, const Value &v) { return bootFaults(s).plan(BootFaults::Verdict::Abort, v.text); }},
     Control{"bootloader ignore", Argument::Packets, 0, 0, "leave it unanswered",
             [](Simulator &s, const Value &v) { return bootFaults(s).plan(BootFaults::Verdict::Ignore, v.text); }},
+    Control{"bootloader late", Argument::Packets, 0, 0, "take it, but acknowledge it late",
+            [](Simulator &s, const Value &v) { return bootFaults(s).plan(BootFaults::Verdict::Late, v.text); }},
+    Control{"bootloader late-ms", Argument::Integer, 0, BootFaults::kMaxDelayMs, "how late that is (250)",
+            [](Simulator &s, const Value &v) { bootFaults(s).lateMs = v.integer; return QString(); }},
     Control{"bootloader erase-ms", Argument::Integer, 0, BootFaults::kMaxDelayMs, "time that an erase takes",
             [](Simulator &s, const Value &v) { bootFaults(s).eraseMs = v.integer; return QString(); }},
     Control{"bootloader trickle-ms", Argument::Integer, 0, 1000, "pause before each byte of an answer",
@@ -178,7 +239,9 @@ QString controlsTable()
     table += row(QStringLiteral("stats"), "print \"stats: frames=... frames_sent=...");
     table += row(QString(), "frames_intact=... dropped=... unheard=...");
     table += row(QString(), "bytes=... bootloader=0|1");
-    table += row(QString(), "packets=... refused=...\"");
+    table += row(QString(), "packets=... refused=... records_missing=...");
+    table += row(QString(), "boot_text_commands=... boot_text_in_data=...");
+    table += row(QString(), "boot_restarts=... boot_texts=A|B...\"");
     table += row(QStringLiteral("quit"), "end the program");
     return table;
 }

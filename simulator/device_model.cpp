@@ -89,6 +89,8 @@ void DeviceModel::setInfoReply(InfoReply reply, int megabytes)
 QByteArray DeviceModel::execute(const QByteArray &line, qint64 nowNs)
 {
     const bool text = m_type.dialect == Dialect::Text;
+    if (!m_refused.isEmpty() && line.startsWith(m_refused))
+        return kError;
     if (line == "AT+INFO")
         return infoReply();
     if (line == "AT+RST" || (text && line == "REBOOT")) {

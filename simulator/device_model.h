@@ -66,6 +66,8 @@ public:
 
     /// @param megabytes size for InfoReply::Huge, 1..kMaxReplyMegabytes
     void setInfoReply(InfoReply reply, int megabytes = 0);
+    /// Commands that begin so are answered "ERROR"; an empty text ends it.
+    void setRefused(const QByteArray &begin) { m_refused = begin; }
 
 private:
     enum class State { Running, Restarting, InBootloader };
@@ -85,6 +87,7 @@ private:
     State m_state = State::Running;
     qint64 m_resetEndNs = 0;
     Bootloader m_bootloader;
+    QByteArray m_refused;
     InfoReply m_infoReply = InfoReply::Normal;
     int m_replyMegabytes = 0;
 };

@@ -8,11 +8,12 @@
 #include "simulator/bootloader.h"
 #include "simulator/device_type.h"
 #include "simulator/motion_model.h"
+#include "simulator/radio_nodes.h"
 
 namespace kvsim {
 
 constexpr int kMaxRateHz = 2000;
-constexpr int kMaxNodes = 16;
+constexpr int kMaxNodes = RadioNodes::kMaxNodes;
 
 /// What the command line asks for, checked: layout and device fit together, numbers are in range.
 struct Options

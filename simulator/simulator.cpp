@@ -23,7 +23,7 @@ Simulator::Simulator(const Options &options, std::optional<CsvRecording> recordi
     : m_options(options), m_source(options.motion, options.device->convention(), std::move(recording), options.seed),
       m_device(*options.device, {startRate(options, m_source), options.id, 0}, options.baudRate, options.bootloader),
       m_faults(options.seed), m_line(options.baudRate), m_hostLine(options.baudRate), m_link(options.linkPath),
-      m_nodes(options.nodes)
+      m_radioNodes(options.seed), m_garbage(options.seed), m_nodes(options.nodes)
 {
     m_timer.setTimerType(Qt::PreciseTimer);
     connect(&m_timer, &QTimer::timeout, this, &Simulator::tick);
@@ -76,6 +76,7 @@ Simulator::Statistics Simulator::statistics() const
     result.inBootloader = m_device.isInBootloader();
     result.packets = m_device.bootloader().packets();
     result.refused = m_device.bootloader().refusedPackets();
+    result.missing = m_radioNodes.missing();
     return result;
 }
 
@@ -89,6 +90,20 @@ bool Simulator::setNodes(int nodes)
     if (!m_options.device->isGateway())
         return false;
     m_nodes = nodes;
+    return true;
+}
+
+void Simulator::setClock(int milliseconds)
+{
+    m_clockZeroNs = now() - qint64(milliseconds) * 1'000'000;
+    m_radioNodes.restartClocks();
+}
+
+bool Simulator::setClockDistance(int milliseconds)
+{
+    if (!m_options.device->isGateway())
+        return false;
+    m_clockDistanceMs = milliseconds;
     return true;
 }
 
@@ -129,6 +144,9 @@ void Simulator::tick()
             ++m_statistics.unheard;
         ++m_frame;
     }
+    sendDelayedReplies(nowNs);
+    if (hasHost && !isMute(nowNs))
+        m_line.pushReply(m_garbage.take(nowNs));
     m_line.advance(nowNs);
     flush();
 }
@@ -149,9 +167,13 @@ void Simulator::hear(qint64 nowNs)
     if (bytes.isEmpty())
         return;
     m_hostLine.take(bytes.size());
-    if (m_deaf || isMute(nowNs))
+    if (m_deaf || m_garbage.isOn() || isMute(nowNs))
         return;
-    sendReplies(m_device.receive(bytes, nowNs));
+    const QByteArray replies = m_device.receive(bytes, nowNs);
+    if (m_replyDelayMs == 0 && m_delayedReplies.empty())
+        sendReplies(replies);
+    else if (!replies.isEmpty())
+        m_delayedReplies.emplace_back(nowNs + qint64(m_replyDelayMs) * 1'000'000, replies);
     advanceDevice(nowNs);
     takeRate();
     if (m_clockRateHz == 0)
@@ -165,9 +187,19 @@ void Simulator::advanceDevice(qint64 nowNs)
     sendReplies(progress.answers);
     if (progress.booted) {
         m_bootNs = nowNs;
+        m_clockZeroNs = nowNs;
+        m_radioNodes.restartClocks();
         m_frame = 0;
     }
     takeRate();
+}
+
+void Simulator::sendDelayedReplies(qint64 nowNs)
+{
+    while (!m_delayedReplies.empty() && m_delayedReplies.front().first <= nowNs) {
+        sendReplies(m_delayedReplies.front().second);
+        m_delayedReplies.pop_front();
+    }
 }
 
 void Simulator::sendReplies(const QByteArray &replies)
@@ -182,7 +214,7 @@ void Simulator::sendReplies(const QByteArray &replies)
 void Simulator::produceFrame(qint64 momentNs)
 {
     ++m_statistics.frames;
-    if (isMute(momentNs)) {
+    if (isMute(momentNs) || m_garbage.isOn()) {
         ++m_statistics.dropped;
         return;
     }
@@ -202,44 +234,57 @@ void Simulator::releaseHeldFrames()
     m_held.clear();
 }
 
+/// The sample of one node, from 1; a module is node 1.
+ImuSample Simulator::nodeSample(int node, qint64 momentNs)
+{
+    const bool isGateway = m_options.device->isGateway();
+    const double seconds = double(std::max<qint64>(0, momentNs - m_bootNs)) * 1e-9;
+    ImuSample sample = m_source.sampleAt(m_frame, seconds, node - 1, m_nodes);
+    const std::optional<EulerAngles> attitude = isGateway ? m_radioNodes.attitude(node) : std::nullopt;
+    if (attitude) {
+        const AxisConvention convention = m_options.device->convention();
+        setAttitude(sample, quaternionOf(*attitude, convention), convention);
+        sample.gyr = {};
+    }
+    const qint64 deviceNs = std::max<qint64>(0, momentNs - m_clockZeroNs);
+    sample.timeMs = isGateway ? m_radioNodes.timeMs(node, deviceNs) : quint32(deviceNs / 1'000'000);
+    sample.id = quint8(isGateway ? node : m_device.settings().id);
+    if (m_rotateIds)
+        sample.id = quint8(1 + (m_frame * quint64(m_nodes) + quint64(node - 1)) % kRotatingIds);
+    return sample;
+}
+
 QByteArray Simulator::nextPayload(qint64 momentNs)
 {
-    const qint64 timeNs = std::max<qint64>(0, momentNs - m_bootNs);
-    const double seconds = double(timeNs) * 1e-9;
-    const auto timeMs = quint32(timeNs / 1'000'000);
-    const int id = m_device.settings().id;
-
-    QList<ImuSample> nodes;
-    nodes.reserve(m_nodes);
-    for (int node = 0; node < m_nodes; ++node) {
-        ImuSample sample = m_source.sampleAt(m_frame, seconds, node, m_nodes);
-        sample.timeMs = timeMs;
-        sample.id = quint8(m_options.device->isGateway() ? node + 1 : id);
-        if (m_rotateIds)
-            sample.id = quint8(1 + (m_frame * quint64(m_nodes) + quint64(node)) % kRotatingIds);
-        nodes += sample;
-    }
-    const auto gatewayId = quint8(id);
+    PayloadLayout batch = PayloadLayout::Batch62;
     switch (m_options.layout) {
     case LayoutChoice::Full91:
-        return encodeSinglePayload(PayloadLayout::FullRecord91, nodes.constFirst());
+        return encodeSinglePayload(PayloadLayout::FullRecord91, nodeSample(1, momentNs));
     case LayoutChoice::Compact93:
-        return encodeSinglePayload(PayloadLayout::CompactRecord93, nodes.constFirst());
+        return encodeSinglePayload(PayloadLayout::CompactRecord93, nodeSample(1, momentNs));
     case LayoutChoice::Items:
-        return encodeSinglePayload(PayloadLayout::Items, nodes.constFirst());
+        return encodeSinglePayload(PayloadLayout::Items, nodeSample(1, momentNs));
     case LayoutChoice::Batch62:
-        return encodeBatchPayload(PayloadLayout::Batch62, gatewayId, timeMs, nodes);
+        break;
     case LayoutChoice::Batch63:
-        return encodeBatchPayload(PayloadLayout::Batch63, gatewayId, timeMs, nodes);
+        batch = PayloadLayout::Batch63;
+        break;
     case LayoutChoice::Dynamic:
+        batch = m_frame % 2 == 0 ? PayloadLayout::Batch62 : PayloadLayout::Batch63;
         break;
     }
-    return encodeBatchPayload(m_frame % 2 == 0 ? PayloadLayout::Batch62 : PayloadLayout::Batch63, gatewayId, timeMs,
-                              nodes);
+    QList<ImuSample> samples;
+    samples.reserve(m_nodes);
+    for (const int node : m_radioNodes.nextBatch(m_nodes))
+        samples += nodeSample(node, momentNs);
+    const qint64 deviceMs = std::max<qint64>(0, momentNs - m_clockZeroNs) / 1'000'000;
+    const qint64 timeMs = deviceMs + (batch == PayloadLayout::Batch63 ? m_clockDistanceMs : 0);
+    return encodeBatchPayload(batch, quint8(m_device.settings().id), quint32(timeMs), samples);
 }
 
 void Simulator::discardUnsent()
 {
+    m_delayedReplies.clear();
     m_statistics.dropped += quint64(m_held.size() + m_line.clear());
     m_held.clear();
 }

@@ -4,12 +4,17 @@
 #include <QObject>
 #include <QTimer>
 
+#include <deque>
+#include <utility>
+
 #include "simulator/device_model.h"
 #include "simulator/fault_injector.h"
 #include "simulator/frame_clock.h"
+#include "simulator/garbage_source.h"
 #include "simulator/options.h"
 #include "simulator/port_link.h"
 #include "simulator/pty_port.h"
+#include "simulator/radio_nodes.h"
 #include "simulator/sample_source.h"
 #include "simulator/transmit_line.h"
 #include "simulator/wake_timer.h"
@@ -40,6 +45,7 @@ public:
         bool inBootloader = false;
         quint64 packets = 0; ///< data packets that the bootloader got in a data phase
         quint64 refused = 0; ///< those of them that it did not program
+        quint64 missing = 0; ///< records that were left out of batches
     };
 
     /// @param recording played instead of the motion model when given
@@ -51,7 +57,10 @@ public:
     Statistics statistics() const;
     FaultInjector &faults() { return m_faults; }
     DeviceModel &device() { return m_device; }
+    const DeviceModel &device() const { return m_device; }
     SampleSource &source() { return m_source; }
+    /// Null when the device is no gateway.
+    RadioNodes *radioNodes() { return m_options.device->isGateway() ? &m_radioNodes : nullptr; }
 
     /// Sends nothing and hears nothing for a while, once.
     void silenceFor(int milliseconds);
@@ -59,6 +68,16 @@ public:
     void setSilent(bool silent) { m_silent = silent; }
     /// Streams on, but commands are lost.
     void setDeaf(bool deaf) { m_deaf = deaf; }
+    /// Sends random bytes instead of frames, and hears nothing; 0 ends it.
+    void setGarbage(int bytesPerSecond) { m_garbage.setRate(bytesPerSecond, now()); }
+    /// Text replies come so much later. Those under way keep their time.
+    void setReplyDelay(int milliseconds) { m_replyDelayMs = milliseconds; }
+    /// Device time reads so many milliseconds now; nothing else changes.
+    void setClock(int milliseconds);
+    /// Batches 63 have a clock that is so far ahead of that of batches 62. @return false when the device is no gateway
+    bool setClockDistance(int milliseconds);
+    /// Nanoseconds of device time.
+    qint64 deviceTimeNs() const { return now() - m_clockZeroNs; }
     /// Holds frames back and sends `frames` of them at once, over and over; 1 sends each by itself.
     void setBurst(int frames) { m_burst = frames; }
     /// @return false when the device is no gateway
@@ -79,13 +98,15 @@ signals:
     void portOpened(const QString &path);
 
 private:
-    qint64 now() const { return m_elapsed.nsecsElapsed(); }
+    qint64 now() const { return m_elapsed.isValid() ? m_elapsed.nsecsElapsed() : 0; } // 0 before the start
     bool isMute(qint64 nowNs) const { return m_silent || nowNs < m_muteUntilNs; }
     void tick();
     void receive(const QByteArray &bytes);
     void hear(qint64 nowNs);
     void advanceDevice(qint64 nowNs);
     void sendReplies(const QByteArray &replies);
+    void sendDelayedReplies(qint64 nowNs);
+    ImuSample nodeSample(int node, qint64 momentNs);
     void takeRate();
     void produceFrame(qint64 momentNs);
     QByteArray nextPayload(qint64 momentNs);
@@ -105,15 +126,21 @@ private:
     PtyPort m_port;
     QTimer m_timer;
     WakeTimer m_wake;
+    RadioNodes m_radioNodes;
+    GarbageSource m_garbage;
+    std::deque<std::pair<qint64, QByteArray>> m_delayedReplies; // with the time when they are due
     QElapsedTimer m_elapsed;
     Statistics m_statistics;
     QList<TransmitLine::Frame> m_held; // frames of a burst not yet complete
-    qint64 m_bootNs = 0;               // when device time was 0
-    quint64 m_frame = 0;               // frames since then
+    qint64 m_bootNs = 0;               // when the firmware started, and with it the motion
+    qint64 m_clockZeroNs = 0;          // when device time was 0
+    quint64 m_frame = 0;               // frames since the start
     qint64 m_muteUntilNs = 0;
     int m_clockRateHz = 0; // the rate that m_clock runs at; 0: it does not run
     int m_nodes;
     int m_burst = 1;
+    int m_replyDelayMs = 0;
+    int m_clockDistanceMs = 0;
     bool m_silent = false;
     bool m_deaf = false;
     bool m_rotateIds = false;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QByteArray>
+#include <QList>
 #include <QStringList>
 
 /// How an operation on the device ended, as far as people want to know.
@@ -20,4 +22,9 @@ struct CommandOutcome
     bool isOneOf = false;
 
     bool operator==(const CommandOutcome &) const = default;
+
+    /// What the device answered to commands that were written one after the other: Refused, or Nothing when it refused
+    /// none. `replies` holds what came in each command's window, in the same order. A device answers commands in their
+    /// order, each with OK or ERROR, but an answer may be later than its window, or get lost.
+    static CommandOutcome ofWrites(const QStringList &commands, const QList<QByteArray> &replies);
 };

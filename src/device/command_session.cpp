@@ -37,6 +37,7 @@ void CommandSession::setConnected(bool connected)
     ++m_connection;
     m_connected = connected;
     m_outputStopped = false;
+    m_lastReadWasNoise = false;
     m_resumeTimer.stop();
     emit outcome({});
     emit stateChanged();
@@ -104,9 +105,14 @@ QStringList CommandSession::readInfoNow()
         return {};
 
     QStringList lines;
+    const info_reply::Kind kind = info_reply::kindOf(reply);
     if (connection == m_connection) {
-        lines = info_reply::lines(reply);
-        logReply(lines);
+        if (kind == info_reply::Kind::Text)
+            lines = info_reply::lines(reply);
+        if (kind == info_reply::Kind::Noise)
+            emit logLine(QLatin1String("< ") + tr("(noise)"));
+        else
+            logReply(lines);
     }
     // Also on a connection that began meanwhile: the rest of the sequence has quieted its device.
     m_resumesLeft = lines.isEmpty() ? 0 : kResumesAgain; // nobody is there, or somebody whose output is stopped now
@@ -117,7 +123,9 @@ QStringList CommandSession::readInfoNow()
     m_outputStopped = false;
     lines = info_reply::withoutLateAnswers(lines);
     m_device = product_resolver::resolve(lines);
-    emit outcome({m_device.valid ? Outcome::Nothing : Outcome::NoReply, {}, false});
+    m_lastReadWasNoise = kind == info_reply::Kind::Noise;
+    const Outcome failure = m_lastReadWasNoise ? Outcome::Noise : Outcome::NoReply;
+    emit outcome({m_device.valid ? Outcome::Nothing : failure, {}, false});
     emit deviceChanged();
     return lines;
 }
@@ -127,27 +135,45 @@ void CommandSession::save(const SettingsSaveRequest &request)
     const QList<SettingsCommand> sequence = settings_command_adapter::buildSaveSequence(profile(), request);
     if (sequence.isEmpty() || !begin())
         return;
-    // One by one instead of as the broker's sequence: settings must not reach a device that is plugged in meanwhile.
-    const QPointer<CommandSession> self(this);
-    QStringList refused;
+    QStringList commands;
     for (const SettingsCommand &command : sequence) {
-        const std::optional<QStringList> reply = execute(command.text, command.waitMs);
-        if (self == nullptr)
-            return;
-        if (!reply.has_value()) {
-            end();
-            return;
-        }
-        if (reply->contains(QLatin1String("ERROR"), Qt::CaseInsensitive))
-            refused.append(command.text.trimmed());
+        if (command.waitMs > 0)
+            commands.append(command.text.trimmed());
     }
+    QList<QByteArray> replies;
+    const QPointer<CommandSession> self(this);
     const quint64 connection = m_connection;
+    const auto announce = [this, &sequence](qsizetype i) {
+        m_currentCommand = sequence[i].text.trimmed();
+        emit stateChanged();
+        logCommands({sequence[i]});
+    };
+    announce(0);
+    m_broker->executeSequence(sequence, [&](qsizetype i, const QByteArray &reply) {
+        // Settings must not reach a device that is plugged in meanwhile.
+        if (self == nullptr || connection != m_connection || m_operationEnded)
+            return false;
+        if (sequence[i].waitMs > 0) {
+            replies.append(reply);
+            logReply(info_reply::lines(reply));
+        }
+        if (i + 1 < sequence.size())
+            announce(i + 1);
+        return true;
+    });
+    if (self == nullptr)
+        return;
+    if (m_broker == nullptr || connection != m_connection || m_operationEnded) {
+        end();
+        return;
+    }
     readInfoNow();
     if (self == nullptr)
         return;
     if (connection == m_connection && !m_operationEnded) {
-        if (!refused.isEmpty())
-            emit outcome({Outcome::Refused, refused, false});
+        const CommandOutcome answered = CommandOutcome::ofWrites(commands, replies);
+        if (answered.kind == Outcome::Refused)
+            emit outcome(answered);
         else if (m_device.valid)
             emit outcome({Outcome::Saved, {}, false});
     }

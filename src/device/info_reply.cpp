@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "device/product_resolver.h"
 #include "link/framing_packet.h"
 #include "link/kboot_protocol.h"
 
@@ -29,7 +30,8 @@ qsizetype announcedSize(const QByteArray &bytes, qsizetype offset)
     return size <= kMaxPacketSize ? size : 0;
 }
 
-QByteArray withoutPackets(const QByteArray &reply)
+/// @param packets takes the number of well formed packets, unless it is null
+QByteArray withoutPackets(const QByteArray &reply, qsizetype *packets = nullptr)
 {
     QByteArray rest;
     rest.reserve(reply.size());
@@ -46,6 +48,8 @@ QByteArray withoutPackets(const QByteArray &reply)
             const QByteArray packet = QByteArray::fromRawData(reply.constData() + offset, size);
             if (KbootProtocol::do_crc_check(packet) == qFromLittleEndian<quint16>(packet.constData() + kCrcOffset)) {
                 offset += size;
+                if (packets != nullptr)
+                    ++*packets;
                 continue;
             }
             vainBudget -= size;
@@ -85,14 +89,66 @@ bool isLineEnd(char byte)
     return byte == '\r' || byte == '\n';
 }
 
-/// The answer to a command before the question, come late.
-bool isAcknowledge(const QString &line)
+bool isMostlyBad(const QByteArray &text)
 {
-    const QString word = line.trimmed();
-    return word == QLatin1String("OK") || word == QLatin1String("ERROR");
+    const QString characters = QString::fromUtf8(text);
+    qsizetype bad = 0;
+    qsizetype ends = 0;
+    for (const QChar character : characters) {
+        if (character == u'\r' || character == u'\n')
+            ++ends;
+        else if (isBad(character))
+            ++bad;
+    }
+    return bad * 4 > characters.size() - ends;
+}
+
+/// A whole line that chance does not make: between line ends nothing but text, an acknowledge or so many characters.
+/// The pair CR LF is as rare as two more characters are.
+bool hasWholeLine(const QByteArray &text)
+{
+    constexpr qsizetype kMinLine = 8;
+    constexpr qsizetype kMinLineBeforePair = 4;
+    auto begin = text.cbegin();
+    while (begin != text.cend()) {
+        const auto end = std::find_if(begin, text.cend(), isLineEnd);
+        if (end == text.cend())
+            return false;
+        const QString line = QString::fromUtf8(begin, end - begin).trimmed();
+        const bool isPair = *end == '\r' && end + 1 != text.cend() && end[1] == '\n';
+        const bool isLong = line.size() >= (isPair ? kMinLineBeforePair : kMinLine);
+        if ((isLong || (isPair && info_reply::isAcknowledge(line))) && std::none_of(line.cbegin(), line.cend(), isBad))
+            return true;
+        begin = end + 1;
+    }
+    return false;
+}
+
+/// Names and words that are too long to come about by chance.
+bool hasKnownWord(const QList<QString> &lines)
+{
+    const DetectedDevice device = product_resolver::resolve(lines);
+    return !device.matchedAlias.isEmpty() || !device.uuidLine.isEmpty() || !device.buildLine.isEmpty()
+           || device.modelLine.contains(u"GATEWAY", Qt::CaseInsensitive);
 }
 
 } // namespace
+
+info_reply::Kind info_reply::kindOf(const QByteArray &reply)
+{
+    qsizetype packets = 0;
+    const QByteArray text = withoutPackets(reply, &packets);
+    if (!isMostlyBad(text) || hasWholeLine(text) || hasKnownWord(lines(reply)))
+        return Kind::Text;
+    return packets > 0 ? Kind::Packets : Kind::Noise;
+}
+
+bool info_reply::isAcknowledge(const QString &line)
+{
+    const QString word = line.trimmed();
+    return word.compare(QLatin1String("OK"), Qt::CaseInsensitive) == 0
+           || word.compare(QLatin1String("ERROR"), Qt::CaseInsensitive) == 0;
+}
 
 QList<QString> info_reply::lines(const QByteArray &reply)
 {

@@ -15,6 +15,21 @@ namespace info_reply {
 /// At most 64 lines of at most 256 characters. Time is linear in the size of the reply. Pure, any thread.
 QList<QString> lines(const QByteArray &reply);
 
+/// What a reply is, all in all.
+enum class Kind {
+    Text,    ///< lines; or nothing at all
+    Packets, ///< no text, but well formed data packets: the line works, and nobody answers
+    Noise    ///< neither: bytes as a wrong baud rate gives them
+};
+
+/// A reply of which more than a quarter of the characters are no text has to show that a device speaks in it: by a
+/// product's name or a word of the information, or by a whole line. Else what is readable in it is chance. Pure, any
+/// thread.
+Kind kindOf(const QByteArray &reply);
+
+/// "OK" or "ERROR", which ends every reply. Pure, any thread.
+bool isAcknowledge(const QString &line);
+
 /// The lines without "OK" and "ERROR" in front of everything else: late answers to the commands before, which are no
 /// model's name. Pure, any thread.
 QList<QString> withoutLateAnswers(const QList<QString> &lines);

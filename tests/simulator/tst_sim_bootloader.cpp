@@ -149,6 +149,32 @@ private slots:
         QVERIFY(!flash.dump(folder.filePath(QStringLiteral("no/flash.bin"))).isEmpty());
     }
 
+    // Text is skipped, and told apart: what begins a connect, what falls between data packets, the rest.
+    void textIsRecorded()
+    {
+        const QByteArray write = words(4, {kBase, 40});
+        const QByteArray data = frames::packet(pattern(20));
+        const QByteArray restart = "AT+RST\r\n";
+        const std::tuple<const char *, QByteArray, int, int, int, QByteArray> rows[] = {
+            {"packets only", kPing + write + data + data, 0, 0, 0, ""},
+            {"three connects", restart + kPing + restart + kPing + restart + kPing, 0, 0, 3, "AT+RST|AT+RST|AT+RST"},
+            {"restart without a ping", restart + write, 1, 0, 0, "AT+RST"},
+            {"restart and no more", kPing + restart, 1, 0, 0, "AT+RST"},
+            {"text before the restart", "AT+EOUT=1\r\n" + restart + kPing, 1, 0, 1, "AT+EOUT=1|AT+RST"},
+            {"text after the restart", restart + "AT+INFO\r\n" + kPing, 2, 0, 0, "AT+RST|AT+INFO"},
+            {"between data", write + data + "AT+EOUT=1\r\n" + restart + data, 2, 2, 0, "AT+EOUT=1|AT+RST"},
+            {"stopped, and connected again", write + data + restart + kPing, 0, 0, 1, "AT+RST"},
+            {"the last five", "a\nb\nc\nd\ne\nf\n", 6, 0, 0, "b|c|d|e|f"},
+            {"no text", QByteArray("ab\xFF\n\n\x01\r", 7) + QByteArray(1000, 'x'), 0, 0, 0, ""}};
+        for (const auto &[name, bytes, commands, inData, restarts, last] : rows) {
+            Target target;
+            target.ask(bytes);
+            const BootTexts &texts = target.boot.texts();
+            QVERIFY2(texts.commands() == quint64(commands) && texts.betweenData() == quint64(inData), name);
+            QVERIFY2(texts.restarts() == quint64(restarts) && texts.last().join('|') == last, name);
+        }
+    }
+
     void staysWithoutFirmware()
     {
         const QByteArray erase = words(2, {kBase, 8});
@@ -196,6 +222,15 @@ private slots:
                     && trickling.exit() == Bootloader::Exit::None);
             QCOMPARE(trickling.boot.takeAnswers(3 * i * kMs).size(), 1);
         }
+        Target late; // programmed, but a host that waits 200 ms does not know
+        late.boot.faults().lateMs = 230;
+        QVERIFY(late.boot.faults().plan(Verdict::Late, QStringLiteral("1")).isEmpty());
+        late.ask(words(2, {kBase, 8}) + words(4, {kBase, 8}));
+        QCOMPARE(late.ask(frames::packet("abcd"), 229), QByteArray());
+        QCOMPARE(late.ask({}, 1), kAck);
+        QCOMPARE(late.ask(frames::packet("efgh")), kAck + response(0, 4));
+        QVERIFY(late.boot.flash().contents().startsWith("abcdefgh"));
+
         Target stale;
         stale.boot.faults().staleMs = 2;
         QCOMPARE(stale.ask(frames::packet("x")), kAbort);

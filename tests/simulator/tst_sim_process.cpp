@@ -71,6 +71,23 @@ public:
         });
     }
     quint32 timeOf(qsizetype i) const { return qFromLittleEndian<quint32>(payloads.at(i).constData() + 8); }
+    // Of gateway batches 62: the header's time; ids, times and floats of their records.
+    quint32 batchTime(qsizetype i) const { return qFromLittleEndian<quint32>(payloads.at(i).constData() + 4); }
+    quint32 recordTime(qsizetype i, int record) const
+    {
+        return qFromLittleEndian<quint32>(payloads.at(i).constData() + 8 + record * 76 + 8);
+    }
+    float recordFloat(qsizetype i, int record, int offset) const
+    {
+        return qFromLittleEndian<float>(payloads.at(i).constData() + 8 + record * 76 + offset);
+    }
+    QByteArray idsOf(qsizetype i) const
+    {
+        QByteArray ids;
+        for (int record = 0; record < payloads.at(i).at(2); ++record)
+            ids += char('0' + payloads.at(i).at(8 + record * 76 + 1));
+        return ids;
+    }
 
 private:
     int m_fd;
@@ -105,6 +122,103 @@ private slots:
             QCOMPARE(qFromLittleEndian<float>(full.constData() + 8 + 12), 0.25F);
             QCOMPARE(qFromLittleEndian<float>(full.constData() + 8 + 76 + 12), 0.375F);
         }
+    }
+
+    void recordsAreMissing()
+    {
+        SimulatorProcess simulator(words("--device gateway --nodes 4 --rate 200"));
+        for (const char *control : {"node skip 3:4", "node skip lowest:5", "node leave 2"})
+            QVERIFY2(simulator.control(control), control);
+        {
+            Host host(simulator.port());
+            QVERIFY(host.readFrames(40));
+            for (int batch = 1; batch <= 40; ++batch) {
+                const QByteArray ids = QByteArray(batch % 5 ? "1" : "") + (batch % 4 ? "3" : "") + "4";
+                QCOMPARE(host.idsOf(batch - 1), ids);
+            }
+            QVERIFY(simulator.stat("records_missing") >= 18);
+        }
+        for (const char *control : {"node skip 3:0", "node skip lowest:0", "node return 2", "node miss 4:50"})
+            QVERIFY2(simulator.control(control), control);
+        Host host(simulator.port());
+        QVERIFY(host.readFrames(200));
+        int missing = 0;
+        for (int i = 0; i < 200; ++i) {
+            QVERIFY(host.idsOf(i).startsWith("123"));
+            missing += host.idsOf(i).endsWith('4') ? 0 : 1;
+        }
+        QVERIFY2(missing > 60 && missing < 140, QByteArray::number(missing));
+        QVERIFY(simulator.control("node miss all:100"));
+        QVERIFY(host.readUntil([&host] { return host.bytes.endsWith(frames::packet(host.bytes.last(8))); }));
+    }
+
+    void clocksOfTheirOwn()
+    {
+        const QStringList distance{QStringLiteral("--clock"), QStringLiteral("distance 5000")};
+        SimulatorProcess both(words("--device gateway --layout dynamic --nodes 2 --rate 200") + distance);
+        Host host(both.port());
+        QVERIFY(host.readFrames(20));
+        for (int i = 0; i + 1 < 20; ++i) {
+            const int ahead = host.payloads.at(i + 1).startsWith('\x63') ? 5000 : -5000;
+            QVERIFY(qAbs(int(host.batchTime(i + 1) - host.batchTime(i)) - ahead - 5) <= 1);
+        }
+
+        SimulatorProcess simulator(words("--device gateway --nodes 2 --rate 200"));
+        QVERIFY(simulator.control("clock set 100000") && simulator.control("node clock 2:1500:100000"));
+        Host gateway(simulator.port());
+        const auto isOff = [&gateway](qsizetype i, double wanted) {
+            return std::abs(double(gateway.recordTime(i, 1)) - wanted) > 2.0;
+        };
+        QVERIFY(gateway.readFrames(5));
+        QVERIFY(gateway.batchTime(0) > 99'900 && gateway.batchTime(0) < 105'000);
+        QVERIFY(!isOff(0, gateway.batchTime(0) * 1.1 + 1500));
+        QCOMPARE(gateway.recordTime(0, 0), gateway.batchTime(0));
+        QVERIFY(simulator.control("node clock-restart 2") && gateway.readFrames(5));
+        QVERIFY(gateway.recordTime(4, 1) < 5000 && gateway.batchTime(4) > 100'000);
+        QVERIFY(simulator.control("clock set 0") && gateway.readFrames(5));
+        QVERIFY(gateway.batchTime(4) < 5000 && !isOff(4, gateway.batchTime(4) * 1.1));
+    }
+
+    void nodesAreTurned()
+    {
+        SimulatorProcess simulator(words("--device gateway --nodes 3 --motion swing --rate 200 --vibration 20:1:z"));
+        QVERIFY(simulator.control("node attitude 2:0:0:0") && simulator.control("node attitude 3:30:0:0"));
+        Host host(simulator.port());
+        QVERIFY(host.readFrames(10));
+        for (int i = 0; i < 10; ++i) {
+            QVERIFY(host.recordFloat(i, 0, 24) != 0.0F); // the first one turns
+            QCOMPARE(host.recordFloat(i, 1, 20), 1.0F);
+            QCOMPARE(host.recordFloat(i, 1, 24), 0.0F);
+            QVERIFY(std::abs(host.recordFloat(i, 2, 48) - 30.0F) < 1e-3F);
+            QVERIFY(std::abs(host.recordFloat(i, 2, 20) - 0.8660F) < 1e-3F);
+        }
+    }
+
+    void garbageIsNoDevice()
+    {
+        SimulatorProcess simulator(words("--garbage 11000"));
+        Host host(simulator.port());
+        QElapsedTimer time;
+        time.start();
+        QVERIFY(host.write("AT+INFO\r\n") && host.readUntil([&host] { return host.bytes.size() > 8000; }));
+        QVERIFY2(time.elapsed() > 500 && time.elapsed() < 3000, QByteArray::number(time.elapsed()));
+        QVERIFY(!host.bytes.contains("MZ221"));
+        const auto high = std::count_if(host.bytes.cbegin(), host.bytes.cend(), [](char byte) { return byte < 0; });
+        QVERIFY(high > 3500 && high < host.bytes.size() - 3500);
+        QVERIFY(simulator.control("garbage 0") && host.readFrames(3));
+    }
+
+    void repliesComeLate()
+    {
+        SimulatorProcess simulator({});
+        Host host(simulator.port());
+        QVERIFY(host.write("AT+EOUT=0\r\n") && host.readUntil([&host] { return host.bytes.endsWith("OK\r\n"); }));
+        QVERIFY(simulator.control("reply-delay 120") && simulator.control("refuse AT+ID"));
+        QElapsedTimer time;
+        time.start();
+        QVERIFY(host.write("AT+ID=5\r\nAT+ODR=100\r\n"));
+        QVERIFY(host.readUntil([&host] { return host.bytes == "ERROR\r\nOK\r\n"; }));
+        QVERIFY2(time.elapsed() >= 120, QByteArray::number(time.elapsed()));
     }
 
     void vibrationKeepsTime()
@@ -271,9 +385,19 @@ private slots:
         SimulatorProcess simulator({});
         const QByteArray rows = "|bogus|noise|noise x|noise -1|noise nan|rate 0|rate 2001|silent yes|vibration|nodes 2|"
                                 "vibration add 5|bootloader|bootloader nak 0x|bootloader nak-share 101|flash|"
-                                "flash dump /nonexistent/flash|values odd|quit now|gap 1 2";
+                                "flash dump /nonexistent/flash|values odd|quit now|gap 1 2|node leave 1|clock distance "
+                                "5|clock set -1|garbage|"
+                                "reply-delay 60001";
         for (const QByteArray &bad : rows.split('|'))
             QVERIFY2(!simulator.control(bad), bad);
+        SimulatorProcess gateway(words("--device gateway"));
+        const QByteArray nodeRows =
+            "node|node miss 3|node miss 0:1|node miss 3:101|node miss 3:nan|node skip all:2|"
+            "node skip 3:-1|node leave 17|node return|node clock 2|node clock 2:x|"
+            "node clock 2:1:1:1|node clock-restart 0|node attitude 2:0:91:0|node attitude 2:0:0|"
+            "node attitude all:off";
+        for (const QByteArray &bad : nodeRows.split('|'))
+            QVERIFY2(!gateway.control(bad), bad);
         QVERIFY(!simulator.control(QByteArray(100'000, 'x').constData()));
         for (const char *good : {"noise 0.5", " drop  1 ", "insert 0", "burst 4", "rate 2000", "values nan", "reply 1",
                                  "vibration add 50:0.2:gz:1", "vibration off", "bootloader ignore 5:2", "restart"})
