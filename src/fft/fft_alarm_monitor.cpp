@@ -57,21 +57,15 @@ FftAlarmRule FftAlarmMonitor::ruleFrom(const QVariantMap &values, QString &probl
     const auto number = [&values](const char *key) { return values.value(QLatin1String(key)).toDouble(); };
     // A bound also for what is not a number.
     const auto frames = [&number](const char *key) { return int(std::fmin(std::fmax(number(key), 1.0), kMaxFrames)); };
-    FftAlarmRule rule{tr("Custom rule"),
-                      number("minimumHz"),
-                      number("maximumHz"),
-                      number("alarmThreshold"),
-                      number("watchThreshold"),
-                      frames("triggerFrames"),
-                      frames("clearFrames")};
+    FftAlarmRule rule{tr("Custom rule"),        number("minimumHz"),     number("maximumHz"),  number("alarmThreshold"),
+                      number("watchThreshold"), frames("triggerFrames"), frames("clearFrames")};
     // Written so that what is not a number is refused too.
     if (rule.maximumHz > 0 && rule.maximumHz <= rule.minimumHz)
         problem = tr("The upper frequency must be above the lower one, or 0 for no limit.");
     else if (!(rule.watchThreshold > 0 && rule.alarmThreshold >= rule.watchThreshold
                && rule.alarmThreshold < kBeyondAnySensor))
         problem = tr("The alarm threshold must not be below the watch threshold, and both must be above 0.");
-    else if (!(rule.minimumHz >= 0 && rule.minimumHz < kBeyondAnySensor
-               && std::abs(rule.maximumHz) < kBeyondAnySensor))
+    else if (!(rule.minimumHz >= 0 && rule.minimumHz < kBeyondAnySensor && std::abs(rule.maximumHz) < kBeyondAnySensor))
         problem = tr("The frequencies are out of range.");
     else
         problem.clear();
@@ -80,12 +74,8 @@ FftAlarmRule FftAlarmMonitor::ruleFrom(const QVariantMap &values, QString &probl
 
 QStringList FftAlarmMonitor::profile() const
 {
-    return {fftAlarmPresetKey(m_preset),
-            fixed(rule().minimumHz),
-            fixed(rule().maximumHz),
-            fixed(rule().alarmThreshold),
-            fixed(rule().watchThreshold),
-            QString::number(rule().triggerFrames),
+    return {fftAlarmPresetKey(m_preset),        fixed(rule().minimumHz),      fixed(rule().maximumHz),
+            fixed(rule().alarmThreshold),       fixed(rule().watchThreshold), QString::number(rule().triggerFrames),
             QString::number(rule().clearFrames)};
 }
 

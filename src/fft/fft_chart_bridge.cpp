@@ -359,7 +359,8 @@ void FftChartBridge::updateProfileHash()
                        m_meta.windowName, m_meta.unit};
     fields += m_alarm.profile();
     fields += m_bands.profile();
-    fields += QStringLiteral("%1%2%3").arg(int(m_showResultant)).arg(int(m_coherenceEnabled)).arg(int(ignoresSteadyValue()));
+    fields +=
+        QStringLiteral("%1%2%3").arg(int(m_showResultant)).arg(int(m_coherenceEnabled)).arg(int(ignoresSteadyValue()));
     const QByteArray profile = fields.join(QLatin1Char('|')).toUtf8();
     const QByteArray digest = QCryptographicHash::hash(profile, QCryptographicHash::Sha256).toHex();
     if (assign(m_profileHash, QString::fromLatin1(digest.left(kHashDigits))))

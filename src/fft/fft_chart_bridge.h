@@ -31,8 +31,7 @@ class FftChartBridge : public QObject
     Q_PROPERTY(double yAxisMax READ yAxisMax NOTIFY viewConfigChanged)
     Q_PROPERTY(bool showResultant READ showResultant WRITE setShowResultant NOTIFY viewConfigChanged)
     Q_PROPERTY(bool coherenceEnabled READ coherenceEnabled WRITE setCoherenceEnabled NOTIFY viewConfigChanged)
-    Q_PROPERTY(
-        bool ignoreSteadyValue READ ignoresSteadyValue WRITE setIgnoreSteadyValue NOTIFY viewConfigChanged)
+    Q_PROPERTY(bool ignoreSteadyValue READ ignoresSteadyValue WRITE setIgnoreSteadyValue NOTIFY viewConfigChanged)
     Q_PROPERTY(QString profileHash READ profileHash NOTIFY viewConfigChanged)
     Q_PROPERTY(bool hasData READ hasData NOTIFY exportStateChanged)
     Q_PROPERTY(double maxFreq READ maxFreq NOTIFY frameMetaChanged)
@@ -101,7 +100,8 @@ public:
     bool coherenceEnabled() const { return m_coherenceEnabled; }
     void setCoherenceEnabled(bool enabled);
     /// Leaves a steady value such as gravity, and what the window spreads of it, out of peak and harmonics, see
-    /// peak_analysis::beyondLeakage(). Off by default. A change judges the current spectra again; no frame of the alarm.
+    /// peak_analysis::beyondLeakage(). Off by default. A change judges the current spectra again; no frame of the
+    /// alarm.
     bool ignoresSteadyValue() const { return m_peaks.ignoresSteadyValue(); }
     void setIgnoreSteadyValue(bool ignore);
     /// Asks the view to show all frequencies.

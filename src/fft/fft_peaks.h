@@ -19,7 +19,8 @@ public:
     /// does. False when nothing changed.
     bool setIgnoreSteadyValue(bool ignore);
     bool ignoresSteadyValue() const { return m_ignoreSteady; }
-    /// End of what belongs to 0 Hz: the main lobe of the window with a steady value that is ignored, else the bin alone.
+    /// End of what belongs to 0 Hz: the main lobe of the window with a steady value that is ignored, else the bin
+    /// alone.
     double steadyEndHz() const;
 
     void update(const std::array<peak_analysis::Spectrum, 3> &axes, peak_analysis::Spectrum resultant);

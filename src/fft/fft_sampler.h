@@ -78,8 +78,8 @@ public:
     /// Each of these takes effect with a reset(). Another type also forgets the samples: they have another unit.
     void setSpectrumType(FftSpectrumType type);
     void setHoldMode(FftHoldMode mode) { m_hold = mode; }
-    /// Starts again with rings of `points` samples, at least 1: abandons the batch in flight, forgets held spectra, time
-    /// stamps, rate and telemetry. The newest samples that fit stay.
+    /// Starts again with rings of `points` samples, at least 1: abandons the batch in flight, forgets held spectra,
+    /// time stamps, rate and telemetry. The newest samples that fit stay.
     void reset(int points);
     /// The stream begins again: a reset() that forgets the samples too.
     void restart();

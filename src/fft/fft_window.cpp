@@ -27,7 +27,8 @@ constexpr std::array kRows{
 
 const Row *rowOf(const QString &name)
 {
-    const auto *row = std::find_if(kRows.begin(), kRows.end(), [&name](const Row &r) { return name == QLatin1String(r.name); });
+    const auto *row =
+        std::find_if(kRows.begin(), kRows.end(), [&name](const Row &r) { return name == QLatin1String(r.name); });
     return row == kRows.end() ? nullptr : row;
 }
 

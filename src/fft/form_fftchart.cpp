@@ -29,8 +29,7 @@ constexpr QSize kDefaultSize{1280, 690};
 
 } // namespace
 
-form_fftchart::form_fftchart(QWidget *parent)
-    : QWidget(parent, Qt::Window), m_controls(new SpectrumControls(this))
+form_fftchart::form_fftchart(QWidget *parent) : QWidget(parent, Qt::Window), m_controls(new SpectrumControls(this))
 {
     setObjectName(QStringLiteral("form_fftchart"));
     setStyleSheet(QStringLiteral("background-color:white; color:black;"));

@@ -29,13 +29,13 @@ QPointF refinePeak(Spectrum spectrum, int bin);
 inline constexpr double kAbsent = -1.0;
 
 /// The spectrum without the steady value, such as gravity, and what the window spreads of it. 0 Hz is absent, and so is
-/// each bin that holds its leakage, give or take a tenth. Every other bin keeps the difference between the two. `leakage`
-/// is fftWindowLeakage() for the block that the spectrum was made of.
+/// each bin that holds its leakage, give or take a tenth. Every other bin keeps the difference between the two.
+/// `leakage` is fftWindowLeakage() for the block that the spectrum was made of.
 ///
 /// Amplitudes alone cannot part a motion from what leaks into the same bin: the difference is the least that the motion
-/// has there. A motion remains unseen as far as it lies inside the main lobe of 0 Hz and changes no bin by a tenth of its
-/// leakage, which depends on its phase too. Beside 1 G that is up to about 0.4 G in bin 1 under Blackman and 0.4 G in
-/// bins 1 to 3 under Flat Top; what of it is seen there may be the flank of its lobe, up to 3 bins beside it. Other
+/// has there. A motion remains unseen as far as it lies inside the main lobe of 0 Hz and changes no bin by a tenth of
+/// its leakage, which depends on its phase too. Beside 1 G that is up to about 0.4 G in bin 1 under Blackman and 0.4 G
+/// in bins 1 to 3 under Flat Top; what of it is seen there may be the flank of its lobe, up to 3 bins beside it. Other
 /// windows show it in the next bin, and a longer block takes it out of the lobe.
 QList<QPointF> beyondLeakage(Spectrum spectrum, const QList<double> &leakage);
 
