@@ -5,13 +5,17 @@ import KVCenter.Controls
 import KVCenter.Fft
 import KVCenter.Wave
 
-/// The spectrum view: the chart, and beside it the panels of the analysis. `running` and `guide` are set by the window.
+/// The spectrum view: the chart, and beside it the panels of the analysis. The window sets what is
+/// not bound: whether it is `running`, how much of a block has come, from 0 to 1, whether the stream is `stale`, and the
+/// `guide`.
 Item {
     id: view
 
     required property FftChartBridge bridge
     required property FftFiles files
     property bool running: false
+    property real blockFill: 1
+    property bool stale: false
     property string guide
 
     readonly property int gap: 8
@@ -30,6 +34,8 @@ Item {
         bridge: view.bridge
         files: view.files
         guide: view.guide
+        blockFill: view.blockFill
+        stale: view.stale
         emptyText: view.running ? qsTr("Waiting for samples") : qsTr("No spectrum yet")
         emptyDetail: view.running ? qsTr("The selected node sends none at the moment.") : qsTr("Press Start above.")
         focus: true

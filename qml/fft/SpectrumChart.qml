@@ -12,6 +12,8 @@ FocusScope {
     required property FftChartBridge bridge
     required property FftFiles files
     property string guide
+    property real blockFill: 1
+    property bool stale: false
     property string emptyText
     property string emptyDetail
     readonly property alias viewState: view
@@ -221,6 +223,8 @@ FocusScope {
     }
 
     SpectrumPlot {
+        id: plot
+
         anchors {
             left: parent.left
             right: parent.right
@@ -234,6 +238,32 @@ FocusScope {
         viewState: view
         bridge: chart.bridge
         onPressed: chart.forceActiveFocus()
+    }
+
+    // Over the curves, below the names of the bands.
+    Column {
+        anchors {
+            top: plot.top
+            right: plot.right
+            topMargin: Math.round(Theme.font.pointSize * 2.6)
+            rightMargin: 30
+        }
+        spacing: 4
+
+        PlotMark {
+            objectName: "staleMark"
+            anchors.right: parent.right
+            visible: chart.stale && chart.bridge.hasData
+            text: qsTranslate("WaveChart", "No new samples")
+            ink: Theme.warning
+        }
+        PlotMark {
+            objectName: "fillMark"
+            anchors.right: parent.right
+            visible: chart.blockFill < 1 && chart.bridge.hasData
+            text: qsTr("Block %1 %").arg(Math.floor(100 * chart.blockFill))
+            progress: chart.blockFill
+        }
     }
 
     EmptyState {

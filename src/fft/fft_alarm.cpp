@@ -68,9 +68,10 @@ bool FftAlarm::update(const FftPeakSummary &peak)
     return true;
 }
 
-void FftAlarm::reset()
+void FftAlarm::restartCounters()
 {
-    *this = FftAlarm(m_rule);
+    m_triggerCount = 0;
+    m_clearCount = 0;
 }
 
 void FftAlarm::addEvent(const FftAlarmEvent &event)

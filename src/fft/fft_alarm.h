@@ -37,8 +37,8 @@ public:
 
     /// Takes the peak of the next spectrum; true when the state changed.
     bool update(const FftPeakSummary &peak);
-    /// Back to normal with no events.
-    void reset();
+    /// Counts frames from the beginning; state and events stay.
+    void restartCounters();
 
 private:
     void addEvent(const FftAlarmEvent &event);

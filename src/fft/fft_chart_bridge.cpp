@@ -1,5 +1,7 @@
 #include "fft/fft_chart_bridge.h"
 
+#include <QCryptographicHash>
+
 #include <algorithm>
 #include <cmath>
 
@@ -13,6 +15,7 @@ namespace {
 
 constexpr int kVersion[] = {1, 0, 0};
 constexpr double kUnknownMaxHz = 50;
+constexpr int kHashDigits = 16;
 
 QString fixed(double value)
 {
@@ -42,7 +45,7 @@ const QPointF *nearestBin(Spectrum spectrum, double frequency)
 
 } // namespace
 
-FftChartBridge::FftChartBridge(QObject *parent) : QObject(parent), m_alarm(fftAlarmRule(FftAlarmPreset::General))
+FftChartBridge::FftChartBridge(QObject *parent) : QObject(parent)
 {
     connect(&AppLanguageManager::instance(), &AppLanguageManager::languageChanged, this, &FftChartBridge::retranslate);
     updateAnalysisSummaries();
@@ -70,14 +73,18 @@ void FftChartBridge::setFftResult(int axis, const QList<QPointF> &points, double
 
 void FftChartBridge::commitResults()
 {
-    const bool hadData = m_resultantPeak >= 0;
+    publish(true);
+}
+
+void FftChartBridge::publish(bool isAlarmFrame)
+{
+    const bool hadData = m_peaks.resultantAmplitude() >= 0;
     band_power::resultant(spectra(), m_resultant);
-    m_resultantPeak = hasData() ? 0.0 : -1.0;
-    for (int i = 1; i < int(m_resultant.size()); ++i) {
-        if (!peak_analysis::isLeakage(m_resultant, i, m_leakage))
-            m_resultantPeak = std::max(m_resultantPeak, m_resultant.at(i).y());
-    }
     updatePeakAnalysis();
+    if (isAlarmFrame)
+        updateAlarmState(m_peaks.dominant());
+    else
+        updatePresentation();
     updateAnalysisSummaries();
     emit fftDataChanged();
     if (hasData() != hadData)
@@ -89,9 +96,8 @@ void FftChartBridge::clearResults()
     for (QList<QPointF> &points : m_points)
         points.clear();
     m_nyquistHz = 0;
-    m_bandPowers.clear();
-    m_alarm.reset();
-    commitResults();
+    m_bands.clearPowers();
+    publish(false);
 }
 
 QList<QPointF> FftChartBridge::getPoints(int axis) const
@@ -156,13 +162,25 @@ void FftChartBridge::setFrameMeta(const FftFrameMeta &meta)
 {
     if (!assign(m_meta, meta))
         return;
-    m_leakage = fftWindowLeakage(meta.windowName);
+    m_peaks.setFrameMeta(meta);
     if (!hasData()) {
-        updateBands(); // empty ones, that tell their edges
+        m_bands.update(m_resultant, nyquistInUse()); // empty ones, that tell their edges
         emit analysisSummaryChanged();
     }
     updateProfileHash();
     emit frameMetaChanged();
+}
+
+void FftChartBridge::setIgnoreSteadyValue(bool ignore)
+{
+    if (!m_peaks.setIgnoreSteadyValue(ignore))
+        return;
+    updatePeakAnalysis();
+    updatePresentation();
+    updateProfileHash();
+    emit viewConfigChanged();
+    emit analysisSummaryChanged();
+    emit fftDataChanged();
 }
 
 QString FftChartBridge::windowName() const
@@ -177,48 +195,68 @@ bool FftChartBridge::hasData() const
 
 double FftChartBridge::maxFreq() const
 {
-    return m_nyquistHz > 0 ? m_nyquistHz : m_meta.nyquistFrequency > 0 ? m_meta.nyquistFrequency : kUnknownMaxHz;
+    return nyquistInUse() > 0 ? nyquistInUse() : kUnknownMaxHz;
 }
 
-double FftChartBridge::resultantPeakAmplitude() const
+void FftChartBridge::setCustomBand(const QString &name, double lowHz, double highHz)
 {
-    return std::max(m_resultantPeak, 0.0);
+    if (m_bands.set(name, lowHz, highHz))
+        bandsSet();
 }
 
-QVariantList FftChartBridge::harmonicsToVariantList() const
+QString FftChartBridge::tryCustomBand(const QString &name, double lowHz, double highHz)
 {
-    QVariantList list;
-    for (const FftHarmonicPeak &harmonic : m_harmonics)
-        list += QVariantMap{{QStringLiteral("order"), harmonic.order},
-                            {QStringLiteral("frequency"), harmonic.frequency},
-                            {QStringLiteral("amplitude"), harmonic.amplitude}};
-    return list;
+    const QString refusal = m_bands.refusal(name, lowHz, highHz);
+    if (refusal.isEmpty())
+        setCustomBand(name, lowHz, highHz);
+    return refusal;
 }
 
-QVariantList FftChartBridge::bandPowersToVariantList() const
+void FftChartBridge::resetBandDefinitions()
 {
-    QVariantList list = fft_snapshot::toVariantList(m_bandPowers);
-    for (qsizetype i = 0; i < list.size(); ++i) {
-        QVariantMap band = list.at(i).toMap();
-        band.insert(QStringLiteral("lowHz"), m_bandsInUse.at(i).lowHz);
-        band.insert(QStringLiteral("highHz"), m_bandsInUse.at(i).highHz);
-        list[i] = band;
-    }
-    return list;
+    if (m_bands.reset())
+        bandsSet();
 }
 
-QVariantList FftChartBridge::alarmEventsToVariantList() const
+void FftChartBridge::bandsSet()
 {
-    QVariantList list;
-    for (const FftAlarmEvent &event : m_alarm.events()) {
-        const QString text =
-            event.isTrigger() ? tr("Raised at %1 Hz, amplitude %2").arg(fixed(event.frequency), fixed(event.amplitude))
-                              : tr("Cleared");
-        list += QVariantMap{{QStringLiteral("label"), event.label},
-                            {QStringLiteral("active"), event.isTrigger()},
-                            {QStringLiteral("text"), text}};
-    }
-    return list;
+    updateAnalysisSummaries();
+    updateProfileHash();
+}
+
+void FftChartBridge::setAlarmPresetIndex(int index)
+{
+    if (m_alarm.setPreset(index))
+        alarmInstalled();
+}
+
+void FftChartBridge::setAlarmRule(const FftAlarmRule &rule)
+{
+    if (m_alarm.setRule(rule))
+        alarmInstalled();
+}
+
+QString FftChartBridge::tryAlarmRule(const QVariantMap &values)
+{
+    QString problem;
+    const FftAlarmRule rule = FftAlarmMonitor::ruleFrom(values, problem);
+    if (problem.isEmpty())
+        setAlarmRule(rule);
+    return problem;
+}
+
+void FftChartBridge::alarmInstalled()
+{
+    updateProfileHash();
+    emit alarmPresetChanged();
+    m_alarm.present(m_peaks.dominant(), m_peaks.resultantAmplitude());
+    emit alarmStateChanged();
+}
+
+void FftChartBridge::setAlarmSuspended(bool suspended)
+{
+    m_alarm.setSuspended(suspended);
+    updatePresentation();
 }
 
 void FftChartBridge::setRuntimeTelemetry(int droppedBatches, int clippedSamples, double lastLatencyMs,
@@ -260,15 +298,9 @@ QString FftChartBridge::exportSnapshotCsv() const
 
 void FftChartBridge::retranslate()
 {
-    if (m_bandDefinitions.isEmpty()) {
-        // Names only: the powers were not evaluated anew, so none of them rises or falls.
-        m_bandsInUse = band_power::automaticBands(m_nyquistHz > 0 ? m_nyquistHz : m_meta.nyquistFrequency);
-        for (qsizetype i = 0; i < std::min(m_bandPowers.size(), m_bandsInUse.size()); ++i)
-            m_bandPowers[i].name = m_bandsInUse.at(i).name;
-    }
-    tellBands();
+    m_bands.retranslate(nyquistInUse());
     updateCoherence();
-    updatePresentation();
+    m_alarm.present(m_peaks.dominant(), m_peaks.resultantAmplitude());
     updateHealthSummary();
     emit analysisSummaryChanged();
     emit alarmPresetChanged();
@@ -277,7 +309,7 @@ void FftChartBridge::retranslate()
     emit frameMetaChanged();
 }
 
-std::array<Spectrum, 3> FftChartBridge::spectra() const
+FftChartBridge::Spectra FftChartBridge::spectra() const
 {
     return {peak_analysis::withoutAnchor(m_points[0]), peak_analysis::withoutAnchor(m_points[1]),
             peak_analysis::withoutAnchor(m_points[2])};
@@ -285,52 +317,21 @@ std::array<Spectrum, 3> FftChartBridge::spectra() const
 
 void FftChartBridge::updatePeakAnalysis()
 {
-    const std::array<Spectrum, 3> axes = spectra();
-    m_peak = peak_analysis::dominantPeak(axes, m_leakage);
-    m_harmonics.clear();
-    if (m_peak.valid)
-        m_harmonics = peak_analysis::findHarmonics(axes[size_t(m_peak.axisIndex)], m_peak);
-    QStringList told;
-    for (const FftHarmonicPeak &harmonic : std::as_const(m_harmonics))
-        told += QStringLiteral("H%1 %2Hz / %3")
-                    .arg(QString::number(harmonic.order), fixed(harmonic.frequency), fixed(harmonic.amplitude));
-    m_harmonicSummary = told.join(QLatin1String(", "));
-    updateAlarmState(m_peak);
+    m_peaks.update(spectra(), m_resultant);
     emit peakAnalysisChanged();
 }
 
 void FftChartBridge::updateAlarmState(const FftPeakSummary &peak)
 {
-    const bool changed = m_alarm.update(peak);
-    const FftAlarmPresentation before = m_presentation;
-    updatePresentation();
-    if (changed || !(m_presentation == before))
+    if (m_alarm.update(peak, m_peaks.resultantAmplitude()))
         emit alarmStateChanged();
 }
 
 void FftChartBridge::updateAnalysisSummaries()
 {
-    updateBands();
+    m_bands.update(m_resultant, nyquistInUse());
     updateCoherence();
     emit analysisSummaryChanged();
-}
-
-void FftChartBridge::updateBands()
-{
-    m_bandsInUse = m_bandDefinitions.isEmpty()
-                       ? band_power::automaticBands(m_nyquistHz > 0 ? m_nyquistHz : m_meta.nyquistFrequency)
-                       : m_bandDefinitions;
-    m_bandPowers = band_power::powers(m_resultant, m_bandsInUse, m_bandPowers);
-    tellBands();
-}
-
-void FftChartBridge::tellBands()
-{
-    QStringList told;
-    for (const FftBandPower &band : std::as_const(m_bandPowers))
-        told += QStringLiteral("%1 %2 (%3)")
-                    .arg(band.name, fixed(band.rmsEquivalent), band.rising ? tr("up") : tr("steady"));
-    m_bandSummary = told.join(QLatin1String(" | "));
 }
 
 void FftChartBridge::updateCoherence()
@@ -339,7 +340,7 @@ void FftChartBridge::updateCoherence()
         m_coherenceSummary = tr("Coherence disabled");
         return;
     }
-    const std::array<Spectrum, 3> axes = spectra();
+    const Spectra axes = spectra();
     m_coherenceSummary =
         QStringLiteral("XY %1 | XZ %2 | YZ %3")
             .arg(fixed(band_power::coherence(axes[0], axes[1])), fixed(band_power::coherence(axes[0], axes[2])),
@@ -348,7 +349,22 @@ void FftChartBridge::updateCoherence()
 
 void FftChartBridge::updatePresentation()
 {
-    m_presentation = buildAlarmPresentation(m_preset, m_alarm.rule(), m_alarm.state(), m_peak, m_resultantPeak);
+    if (m_alarm.present(m_peaks.dominant(), m_peaks.resultantAmplitude()))
+        emit alarmStateChanged();
+}
+
+void FftChartBridge::updateProfileHash()
+{
+    QStringList fields{versionString(), QString::number(m_meta.fftSize), QString::number(m_meta.sampleRate),
+                       m_meta.windowName, m_meta.unit};
+    fields += m_alarm.profile();
+    fields += m_bands.profile();
+    fields +=
+        QStringLiteral("%1%2%3").arg(int(m_showResultant)).arg(int(m_coherenceEnabled)).arg(int(ignoresSteadyValue()));
+    const QByteArray profile = fields.join(QLatin1Char('|')).toUtf8();
+    const QByteArray digest = QCryptographicHash::hash(profile, QCryptographicHash::Sha256).toHex();
+    if (assign(m_profileHash, QString::fromLatin1(digest.left(kHashDigits))))
+        emit viewConfigChanged();
 }
 
 void FftChartBridge::updateHealthSummary()
@@ -361,26 +377,23 @@ void FftChartBridge::updateHealthSummary()
 
 FftSnapshot FftChartBridge::snapshot() const
 {
-    QStringList timeline;
-    for (const FftAlarmEvent &event : m_alarm.events())
-        timeline += event.label;
     return {.version = versionString(),
             .profileHash = m_profileHash,
             .chartTitle = m_chartTitle,
             .meta = m_meta,
-            .dominantPeak = m_peak,
-            .harmonicSummary = m_harmonicSummary,
-            .bandSummary = m_bandSummary,
+            .dominantPeak = m_peaks.dominant(),
+            .harmonicSummary = harmonicSummary(),
+            .bandSummary = bandSummary(),
             .coherenceSummary = m_coherenceSummary,
             .alarmPreset = alarmPresetName(),
-            .alarm = m_presentation,
+            .alarm = m_alarm.presentation(),
             .alarmActive = alarmState() == FftAlarmState::Active,
-            .alarmTimeline = timeline,
+            .alarmTimeline = m_alarm.eventLabels(),
             .telemetry = m_telemetry,
             .healthSummary = m_healthSummary,
             .axes = spectra(),
             .resultant = m_resultant,
             .showResultant = m_showResultant,
             .coherenceEnabled = m_coherenceEnabled,
-            .bands = m_bandPowers};
+            .bands = bandPowers()};
 }

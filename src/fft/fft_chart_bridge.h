@@ -8,8 +8,9 @@
 #include <QStringList>
 #include <QVariantList>
 
-#include "fft/fft_alarm.h"
-#include "fft/fft_alarm_text.h"
+#include "fft/fft_alarm_monitor.h"
+#include "fft/fft_bands.h"
+#include "fft/fft_peaks.h"
 #include "fft/fft_records.h"
 #include "fft/fft_snapshot.h"
 
@@ -30,6 +31,7 @@ class FftChartBridge : public QObject
     Q_PROPERTY(double yAxisMax READ yAxisMax NOTIFY viewConfigChanged)
     Q_PROPERTY(bool showResultant READ showResultant WRITE setShowResultant NOTIFY viewConfigChanged)
     Q_PROPERTY(bool coherenceEnabled READ coherenceEnabled WRITE setCoherenceEnabled NOTIFY viewConfigChanged)
+    Q_PROPERTY(bool ignoreSteadyValue READ ignoresSteadyValue WRITE setIgnoreSteadyValue NOTIFY viewConfigChanged)
     Q_PROPERTY(QString profileHash READ profileHash NOTIFY viewConfigChanged)
     Q_PROPERTY(bool hasData READ hasData NOTIFY exportStateChanged)
     Q_PROPERTY(double maxFreq READ maxFreq NOTIFY frameMetaChanged)
@@ -70,9 +72,6 @@ class FftChartBridge : public QObject
     Q_PROPERTY(QString healthSummary READ healthSummary NOTIFY telemetryChanged)
 
 public:
-    static constexpr int kMaxBands = 16;
-    static constexpr int kMaxBandNameLength = 40;
-
     explicit FftChartBridge(QObject *parent = nullptr);
 
     /// Keeps the spectrum of an axis (0 X, 1 Y, 2 Z) until commitResults(); another axis is ignored. `nyquistHz` is
@@ -80,7 +79,7 @@ public:
     void setFftResult(int axis, const QList<QPointF> &points, double nyquistHz);
     /// Publishes and analyses what came; one frame of the alarm.
     void commitResults();
-    /// Forgets spectra, analysis and alarm; settings stay.
+    /// Forgets spectra and analysis. Settings stay, and so does the alarm with its events: that is no frame of it.
     void clearResults();
 
     /// The list of an axis as it came, and the resultant; without anchor for the resultant.
@@ -100,6 +99,11 @@ public:
     void setShowResultant(bool show);
     bool coherenceEnabled() const { return m_coherenceEnabled; }
     void setCoherenceEnabled(bool enabled);
+    /// Leaves a steady value such as gravity, and what the window spreads of it, out of peak and harmonics, see
+    /// peak_analysis::beyondLeakage(). Off by default. A change judges the current spectra again; no frame of the
+    /// alarm.
+    bool ignoresSteadyValue() const { return m_peaks.ignoresSteadyValue(); }
+    void setIgnoreSteadyValue(bool ignore);
     /// Asks the view to show all frequencies.
     void requestXAxisReset() { emit xAxisResetRequested(); }
 
@@ -114,61 +118,65 @@ public:
     /// End of the frequency axis: that of the last spectra, else of the frame meta, else 50.
     double maxFreq() const;
     bool hasData() const;
-    /// End of the bins in which a steady value such as gravity shows through the window.
-    double steadyEndHz() const { return (double(m_leakage.size()) + 0.5) * m_meta.frequencyResolution; }
+    /// End of what belongs to 0 Hz, see FftPeaks.
+    double steadyEndHz() const { return m_peaks.steadyEndHz(); }
 
-    QString dominantPeakAxis() const { return fft_snapshot::axisName(m_peak.axisIndex); }
-    double dominantPeakFrequency() const { return m_peak.frequency; }
-    double dominantPeakAmplitude() const { return m_peak.amplitude; }
-    FftPeakSummary currentAlarmPeak() const { return m_peak; }
-    const QList<FftHarmonicPeak> &harmonics() const { return m_harmonics; }
+    QString dominantPeakAxis() const { return fft_snapshot::axisName(currentAlarmPeak().axisIndex); }
+    double dominantPeakFrequency() const { return currentAlarmPeak().frequency; }
+    double dominantPeakAmplitude() const { return currentAlarmPeak().amplitude; }
+    FftPeakSummary currentAlarmPeak() const { return m_peaks.dominant(); }
+    const QList<FftHarmonicPeak> &harmonics() const { return m_peaks.harmonics(); }
     /// Maps of "order", "frequency" and "amplitude".
-    QVariantList harmonicsToVariantList() const;
-    const QString &harmonicSummary() const { return m_harmonicSummary; }
+    QVariantList harmonicsToVariantList() const { return m_peaks.harmonicsToVariantList(); }
+    const QString &harmonicSummary() const { return m_peaks.harmonicSummary(); }
     /// Highest amplitude of the resultant beyond 0 Hz and what leaks from there.
-    double resultantPeakAmplitude() const;
+    double resultantPeakAmplitude() const { return qMax(m_peaks.resultantAmplitude(), 0.0); }
 
-    const QList<FftBandPower> &bandPowers() const { return m_bandPowers; }
+    const QList<FftBandPower> &bandPowers() const { return m_bands.powers(); }
     /// The maps of fft_snapshot::toVariantList() with "lowHz" and "highHz".
-    QVariantList bandPowersToVariantList() const;
-    const QString &bandSummary() const { return m_bandSummary; }
+    QVariantList bandPowersToVariantList() const { return m_bands.toVariantList(); }
+    const QString &bandSummary() const { return m_bands.summary(); }
     const QString &coherenceSummary() const { return m_coherenceSummary; }
-    bool hasCustomBands() const { return !m_bandDefinitions.isEmpty(); }
+    bool hasCustomBands() const { return m_bands.isCustom(); }
     /// Adds a band, or changes the edges of the one with this name; the first one replaces the automatic bands. Ignored
-    /// without a name, with edges that are not finite or not in order, and beyond kMaxBands.
+    /// without a name and with edges that are not finite or not in order.
     Q_INVOKABLE void setCustomBand(const QString &name, double lowHz, double highHz);
-    /// The same for users: returns an empty text, or a sentence that says why there is no such band.
+    /// The same for users, up to FftBands::kMaxTyped: returns an empty text, or a sentence that says why there is no
+    /// such band.
     Q_INVOKABLE QString tryCustomBand(const QString &name, double lowHz, double highHz);
     /// Back to the automatic bands.
     Q_INVOKABLE void resetBandDefinitions();
 
-    int alarmPresetIndex() const { return int(m_preset); }
-    /// 1 Industrial, 2 Human, any other General. Takes the preset's rule and starts the alarm anew, unless both are in
+    int alarmPresetIndex() const { return int(m_alarm.preset()); }
+    /// 1 Industrial, 2 Human, any other General. Takes the preset's rule and starts the alarm again, unless both are in
     /// use already.
     void setAlarmPresetIndex(int index);
     QStringList alarmPresetNames() const { return fftAlarmPresetNames(); }
     /// English, as snapshots hold it.
-    QString alarmPresetName() const { return fftAlarmPresetKey(m_preset); }
+    QString alarmPresetName() const { return fftAlarmPresetKey(m_alarm.preset()); }
     const FftAlarmRule &alarmRule() const { return m_alarm.rule(); }
-    bool hasCustomAlarmRule() const { return !(alarmRule() == fftAlarmRule(m_preset)); }
+    bool hasCustomAlarmRule() const { return m_alarm.hasCustomRule(); }
     /// "minimumHz", "maximumHz", "watchThreshold", "alarmThreshold", "triggerFrames" and "clearFrames".
-    QVariantMap alarmRuleToVariantMap() const;
-    /// Installs a rule of the user's and starts the alarm anew. Ignored when a number of it is not finite; fewer than
+    QVariantMap alarmRuleToVariantMap() const { return m_alarm.ruleToVariantMap(); }
+    /// Installs a rule of the user's and starts the alarm again. Ignored when a number of it is not finite; fewer than
     /// one frame are taken as one.
     void setAlarmRule(const FftAlarmRule &rule);
     /// The same for users, by the keys of alarmRuleToVariantMap(): returns an empty text, or a sentence that says what
     /// is wrong.
     Q_INVOKABLE QString tryAlarmRule(const QVariantMap &values);
+    /// Whether commitResults() is no frame of the alarm, for spectra that say nothing yet; off by default. State and
+    /// events stay meanwhile, and afterwards frames are counted from the beginning.
+    void setAlarmSuspended(bool suspended);
     FftAlarmState alarmState() const { return m_alarm.state(); }
-    int alarmSeverityLevel() const { return m_presentation.severityLevel; }
-    const QString &alarmStatusLabel() const { return m_presentation.statusLabel; }
-    const QString &alarmHeadline() const { return m_presentation.headline; }
-    const QString &alarmMeaning() const { return m_presentation.meaning; }
-    const QString &alarmRecommendedAction() const { return m_presentation.recommendedAction; }
-    const QString &alarmThresholdSummary() const { return m_presentation.thresholdSummary; }
-    const QString &alarmSummary() const { return m_presentation.summary; }
+    int alarmSeverityLevel() const { return m_alarm.presentation().severityLevel; }
+    const QString &alarmStatusLabel() const { return m_alarm.presentation().statusLabel; }
+    const QString &alarmHeadline() const { return m_alarm.presentation().headline; }
+    const QString &alarmMeaning() const { return m_alarm.presentation().meaning; }
+    const QString &alarmRecommendedAction() const { return m_alarm.presentation().recommendedAction; }
+    const QString &alarmThresholdSummary() const { return m_alarm.presentation().thresholdSummary; }
+    const QString &alarmSummary() const { return m_alarm.presentation().summary; }
     /// Newest first; maps of "label" (as in files), "active" (it raised the alarm) and "text" (for people).
-    QVariantList alarmEventsToVariantList() const;
+    QVariantList alarmEventsToVariantList() const { return m_alarm.eventsToVariantList(); }
 
     void setRuntimeTelemetry(int droppedBatches, int clippedSamples, double lastLatencyMs, double meanLatencyMs,
                              double maxLatencyMs, double health);
@@ -190,7 +198,7 @@ public:
     /// What a snapshot holds, see fft_snapshot::summary(); nothing changes.
     Q_INVOKABLE QVariantMap importSnapshotJson(const QString &text) const { return fft_snapshot::summary(text); }
 
-    /// Tells everything anew in the current language.
+    /// Tells everything again in the current language.
     void retranslate();
 
 signals:
@@ -207,38 +215,30 @@ signals:
     void exportStateChanged();
 
 private:
-    std::array<peak_analysis::Spectrum, 3> spectra() const;
+    using Spectra = std::array<peak_analysis::Spectrum, 3>;
+
+    Spectra spectra() const;
+    double nyquistInUse() const { return m_nyquistHz > 0 ? m_nyquistHz : m_meta.nyquistFrequency; }
+    void publish(bool isAlarmFrame);
     void updatePeakAnalysis();
     void updateAlarmState(const FftPeakSummary &peak);
     void updateAnalysisSummaries();
-    void updateBands();
-    void tellBands();
     void updateCoherence();
     void updatePresentation();
     void updateHealthSummary();
     void updateProfileHash();
-    void installAlarm(FftAlarmPreset preset, const FftAlarmRule &rule);
+    void alarmInstalled();
+    void bandsSet();
     FftSnapshot snapshot() const;
 
     std::array<QList<QPointF>, 3> m_points;
     QList<QPointF> m_resultant;
     double m_nyquistHz = 0; ///< handed with the last result
     FftFrameMeta m_meta;
-    QList<double> m_leakage; ///< of the window in use
-
-    FftPeakSummary m_peak;
-    QList<FftHarmonicPeak> m_harmonics;
-    QString m_harmonicSummary;
-    double m_resultantPeak = -1; ///< negative without a spectrum
-    QList<FftBandDefinition> m_bandDefinitions;
-    QList<FftBandDefinition> m_bandsInUse;
-    QList<FftBandPower> m_bandPowers;
-    QString m_bandSummary;
+    FftPeaks m_peaks;
+    FftBands m_bands;
     QString m_coherenceSummary;
-
-    FftAlarmPreset m_preset = FftAlarmPreset::General;
-    FftAlarm m_alarm;
-    FftAlarmPresentation m_presentation;
+    FftAlarmMonitor m_alarm;
     FftRuntimeTelemetry m_telemetry;
     QString m_healthSummary;
 

@@ -13,6 +13,10 @@ constexpr double kAccelerationLimit = 16000.0;   ///< mG
 constexpr double kAngularVelocityLimit = 2000.0; ///< deg/s
 constexpr double kUnknownNyquistHz = 50.0;
 constexpr int kChannels = 3;
+// A stream counts as dead as a chart over time does.
+constexpr double kMinStaleMs = 2000;
+constexpr double kMaxStaleMs = 10000; ///< the last period may have been a gap in the stream
+constexpr double kStalePeriods = 6;
 
 qint64 steadyMs()
 {
@@ -50,10 +54,18 @@ void FftSampler::setSpectrumType(FftSpectrumType type)
         axis.clear();
 }
 
+void FftSampler::restart()
+{
+    for (CircularSampleBuffer &axis : m_axes)
+        axis.clear();
+    reset(pointCount());
+}
+
 void FftSampler::reset(int points)
 {
     abandonBatch();
     m_held = {};
+    m_heldIsFull = false;
     m_telemetry = {};
     m_rateHz = 0;
     m_completedRateHz = 0;
@@ -77,6 +89,7 @@ void FftSampler::abandonBatch()
 
 bool FftSampler::append(const node_data_t &sample, int sampleRateHz)
 {
+    m_newestHostMs = m_clock();
     qint64 stamp = sample.time_ms == 0 ? fallbackSampleTimestampMs() : resolveSampleTimestampMs(sample.time_ms);
     if (m_stamps.count() > 0)
         stamp = std::max(stamp, newestStampMs() + 1);
@@ -101,18 +114,28 @@ double FftSampler::normDeviation() const
     return m_normSquares > 0 ? std::sqrt(m_normSquares / m_norms.count()) : 0.0;
 }
 
+bool FftSampler::isStale() const
+{
+    const int count = m_stamps.count();
+    if (count == 0)
+        return false; // nothing that could go on
+    const double periodMs = count > 1 ? m_stamps.at(count - 1) - m_stamps.at(count - 2) : 0;
+    return double(m_clock() - m_newestHostMs) >= std::clamp(kStalePeriods * periodMs, kMinStaleMs, kMaxStaleMs);
+}
+
 std::optional<FftBatch> FftSampler::nextBatch()
 {
     if (m_batchId != 0) {
         countUp(m_telemetry.droppedBatches);
         return std::nullopt;
     }
-    if (m_axes[0].count() == 0 || m_rateHz < 1)
+    if (m_axes[0].count() == 0 || m_rateHz < 1 || isStale())
         return std::nullopt;
     m_batchRateHz = m_rateHz;
     m_expectedResults = kChannels;
     m_batchId = m_nextBatchId++;
     m_batchStartMs = m_clock();
+    m_batchIsFull = m_axes[0].isFull();
     return FftBatch{m_batchId, m_batchRateHz, {m_axes[0].toList(), m_axes[1].toList(), m_axes[2].toList()}};
 }
 
@@ -122,6 +145,11 @@ FftResultOutcome FftSampler::takeResult(quint64 batchId, int channel, const QLis
     if (batchId == 0 || batchId != m_batchId)
         return outcome;
     outcome.accepted = true;
+    outcome.fullBlock = m_batchIsFull;
+    if (m_batchIsFull && !m_heldIsFull) {
+        m_held = {};
+        m_heldIsFull = true;
+    }
     if (!points.isEmpty() && channel >= 0 && channel < kChannels) {
         // The drawn curve starts at the origin.
         outcome.points.reserve(points.size() + 1);

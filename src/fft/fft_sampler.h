@@ -18,7 +18,7 @@ struct FftBatch
 {
     quint64 id = 0;
     int rateHz = 0;
-    std::array<QList<double>, 3> samples; ///< X, Y, Z, oldest first
+    std::array<QList<double>, 3> samples; ///< X, Y, Z, oldest first; fewer than the size until the rings are full
 };
 
 /// What became of a result that came back.
@@ -26,6 +26,7 @@ struct FftResultOutcome
 {
     bool accepted = false;    ///< it belongs to the batch in flight
     bool batchClosed = false; ///< it was the last one of its batch
+    bool fullBlock = false;   ///< the batch was cut from full rings: its spectra show no padding
     QList<QPointF> points;    ///< the spectrum to show behind an anchor at (0, 0); empty if there is none
     double nyquistHz = 0;
 };
@@ -55,7 +56,11 @@ struct FftTelemetry
 /// contain a value that is not finite.
 ///
 /// Time stamps that stand still or run back are stored as 1 ms after the newest one. They serve only to estimate the
-/// rate, for callers that do not know it: after a clock that jumped far back it reads 1000 Hz until reset().
+/// rate, for callers that do not know it: after a clock that jumped far back it reads 1000 Hz. So whoever knows that a
+/// stream begins again calls restart().
+///
+/// A block that is not full is padded with zeros, which spreads a steady value over the spectrum. So holds and averages
+/// begin again with the first full one.
 class FftSampler
 {
 public:
@@ -73,9 +78,11 @@ public:
     /// Each of these takes effect with a reset(). Another type also forgets the samples: they have another unit.
     void setSpectrumType(FftSpectrumType type);
     void setHoldMode(FftHoldMode mode) { m_hold = mode; }
-    /// Starts anew with rings of `points` samples, at least 1: abandons the batch in flight, forgets held spectra, time
-    /// stamps, rate and telemetry. The newest samples that fit stay.
+    /// Starts again with rings of `points` samples, at least 1: abandons the batch in flight, forgets held spectra,
+    /// time stamps, rate and telemetry. The newest samples that fit stay.
     void reset(int points);
+    /// The stream begins again: a reset() that forgets the samples too.
+    void restart();
     /// Ignores what the batch in flight still brings.
     void abandonBatch();
 
@@ -89,8 +96,13 @@ public:
     /// Standard deviation of the norm over the last pointCount() samples, in the unit of the spectrum.
     double normDeviation() const;
 
-    /// The samples for the next three spectra. Nothing without samples or rate, or while a batch is in flight: that
-    /// counts as a dropped one.
+    /// How much of a block the rings hold, 0 to 1.
+    double blockFill() const { return double(m_axes[0].count()) / pointCount(); }
+    /// No sample came for 2 s on the host's clock; for six periods of a slow stream, but for 10 s at most.
+    bool isStale() const;
+
+    /// The samples for the next three spectra. Nothing without samples or rate, from a stream that is stale, or while a
+    /// batch is in flight: that counts as a dropped one.
     std::optional<FftBatch> nextBatch();
     /// Takes the spectrum of a channel (0 to 2) and gives what to show for it.
     FftResultOutcome takeResult(quint64 batchId, int channel, const QList<QPointF> &points);
@@ -129,6 +141,7 @@ private:
     double m_normSquares = 0; ///< sum of squared deviations from the mean
     int m_normUpdates = 0;    ///< since the statistics were computed from the ring
 
+    qint64 m_newestHostMs = 0; ///< when the newest sample came
     std::optional<qint64> m_hostStartMs;
     std::optional<qint64> m_deviceOffsetMs; ///< device time less host time
 
@@ -140,6 +153,8 @@ private:
     int m_expectedResults = 0;
     int m_batchRateHz = 0;
     qint64 m_batchStartMs = 0;
+    bool m_batchIsFull = false;
+    bool m_heldIsFull = false; ///< what is held comes from full blocks
 
     std::array<Held, 3> m_held;
     FftTelemetry m_telemetry;

@@ -25,6 +25,13 @@ constexpr std::array kRows{
     Row{QT_TRANSLATE_NOOP("FftWindow", "Flat Top"), {0.21557895, 0.41663158, 0.277263158, 0.083578947, 0.006947368}},
 };
 
+const Row *rowOf(const QString &name)
+{
+    const auto *row =
+        std::find_if(kRows.begin(), kRows.end(), [&name](const Row &r) { return name == QLatin1String(r.name); });
+    return row == kRows.end() ? nullptr : row;
+}
+
 } // namespace
 
 FftWindow makeFftWindow(FftWindowType type, int points)
@@ -65,16 +72,36 @@ const QStringList &fftWindowNames()
     return names;
 }
 
-QList<double> fftWindowLeakage(const QString &name)
+QList<double> fftWindowLeakage(const QString &name, int points)
 {
     QList<double> shares;
-    const qsizetype type = fftWindowNames().indexOf(name);
-    if (type < 0)
+    const Row *row = rowOf(name);
+    if (!row || points < 2)
         return shares;
-    const std::array<double, 5> &a = kRows[size_t(type)].a;
-    for (size_t k = 1; k < a.size() && a[k] != 0.0; ++k)
-        shares += a[k] / a[0];
+    // About its middle the window is a sum of cosines, and the transform of each a pair of Dirichlet kernels. The
+    // period of the cosines is one sample shorter than the block, so they do not end on bins.
+    const auto kernel = [points](double x) {
+        const double below = std::sin(x / 2);
+        return std::abs(below) < 1e-12 ? points : std::sin(points * x / 2) / below;
+    };
+    const auto transform = [&](double angle) {
+        double sum = 0;
+        for (size_t j = 0; j < row->a.size(); ++j) {
+            const double cosine = kTwoPi * double(j) / (points - 1);
+            sum += row->a[j] / 2 * (kernel(angle - cosine) + kernel(angle + cosine));
+        }
+        return std::abs(sum);
+    };
+    const double steady = transform(0);
+    for (int k = 1; k < points / 2; ++k) // bin 0 counts half
+        shares += steady > 0 ? 2 * transform(kTwoPi * k / points) / steady : 0.0;
     return shares;
+}
+
+int fftWindowLobeBins(const QString &name)
+{
+    const Row *row = rowOf(name);
+    return row ? int(std::count_if(row->a.begin() + 1, row->a.end(), [](double a) { return a != 0.0; })) : 0;
 }
 
 QString fftWindowLabel(const QString &name)

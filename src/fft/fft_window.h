@@ -22,8 +22,11 @@ FftWindow makeFftWindow(FftWindowType type, int points);
 
 /// Names in the order of FftWindowType, in English as snapshots hold them. fftWindowLabel() gives them to people.
 const QStringList &fftWindowNames();
-/// What of an amplitude at 0 Hz the window of this name shows in the bins 1, 2, ... as shares of it: its main lobe.
-/// Empty for the rectangular window, which shows nothing there, and for a name that is none of ours.
-QList<double> fftWindowLeakage(const QString &name);
+/// What of a steady value the window of this name, laid over `points` samples, shows in the bins 1, 2, ... up to
+/// points / 2 - 1, as shares of the amplitude at 0 Hz: its main lobe, and beyond it the little that comes from a window
+/// that is symmetric over its samples. All but 0 for the rectangular window. Empty for a name that is none of ours.
+QList<double> fftWindowLeakage(const QString &name, int points);
+/// Bins on either side of a tone that the main lobe of the window covers; 0 for the rectangular one and unknown names.
+int fftWindowLobeBins(const QString &name);
 /// The name in the language of the interface; a name that is none of ours stays as it is.
 QString fftWindowLabel(const QString &name);

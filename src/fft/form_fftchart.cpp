@@ -1,13 +1,8 @@
 #include "fft/form_fftchart.h"
 
 #include <QCloseEvent>
-#include <QComboBox>
 #include <QDeadlineTimer>
 #include <QDebug>
-#include <QDoubleSpinBox>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QPushButton>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
@@ -23,6 +18,7 @@
 #include "app/theme.h"
 #include "fft/fft_files.h"
 #include "fft/fft_trans.h"
+#include "fft/spectrum_controls.h"
 
 namespace {
 
@@ -33,12 +29,7 @@ constexpr QSize kDefaultSize{1280, 690};
 
 } // namespace
 
-form_fftchart::form_fftchart(QWidget *parent)
-    : QWidget(parent, Qt::Window), m_type(new QComboBox(this)), m_points(new QComboBox(this)),
-      m_window(new QComboBox(this)), m_hold(new QComboBox(this)), m_yAxisMax(new QDoubleSpinBox(this)),
-      m_start(new QPushButton(this)), m_pointsLabel(new QLabel(this)), m_windowLabel(new QLabel(this)),
-      m_holdLabel(new QLabel(this)), m_yAxisLabel(new QLabel(this)), m_status(new QLabel(this)),
-      m_controls(new QHBoxLayout), m_statusRow(new QHBoxLayout)
+form_fftchart::form_fftchart(QWidget *parent) : QWidget(parent, Qt::Window), m_controls(new SpectrumControls(this))
 {
     setObjectName(QStringLiteral("form_fftchart"));
     setStyleSheet(QStringLiteral("background-color:white; color:black;"));
@@ -60,6 +51,22 @@ form_fftchart::~form_fftchart()
     // The view goes before the bridge that it is bound to.
     if (m_view)
         m_view->setSource({});
+}
+
+void form_fftchart::configureControls()
+{
+    auto *rows = new QVBoxLayout(this);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(0);
+    rows->addWidget(m_controls);
+    connect(m_controls, &SpectrumControls::startClicked, this, &form_fftchart::on_BTN_start_clicked);
+    connect(m_controls, &SpectrumControls::typeChosen, this, &form_fftchart::on_CB_type_currentIndexChanged);
+    connect(m_controls, &SpectrumControls::pointsChosen, this, &form_fftchart::onFftCalPointTextChanged);
+    connect(m_controls, &SpectrumControls::windowChosen, this, &form_fftchart::on_CB_window_currentIndexChanged);
+    connect(m_controls, &SpectrumControls::holdChosen, this, &form_fftchart::on_CB_hold_currentIndexChanged);
+    connect(m_controls, &SpectrumControls::yAxisMaxChosen, this, &form_fftchart::on_SB_y_axis_max_valueChanged);
+    connect(m_controls, &SpectrumControls::ignoreSteadyValueChosen, this, &form_fftchart::onIgnoreSteadyValueChosen);
+    m_bridge.setIgnoreSteadyValue(m_controls->ignoresSteadyValue());
 }
 
 void form_fftchart::initChartParam()
@@ -165,6 +172,7 @@ void form_fftchart::get_fft_result(unsigned long long batchId, signed char chann
         m_bridge.setFftResult(channel, outcome.points, outcome.nyquistHz);
     if (!outcome.batchClosed)
         return;
+    m_bridge.setAlarmSuspended(!outcome.fullBlock); // padding raises no alarm
     m_bridge.commitResults();
     syncBridgeMeta();
     syncBridgeRuntimeTelemetry();
@@ -183,12 +191,53 @@ void form_fftchart::setRunning(bool running)
         m_timer.start();
     else
         m_timer.stop();
-    m_start->setText(running ? tr("Pause") : tr("Start"));
+    m_controls->setRunning(running);
     setViewProperty("running", running);
+    updateMarks();
     if (!running)
         return;
     m_bridge.requestXAxisReset();
     onTimer50ms();
+}
+
+void form_fftchart::on_CB_type_currentIndexChanged(int index)
+{
+    m_sampler.setSpectrumType(FftSpectrumType(index));
+    refreshChartState();
+    applyYAxisRangeToChart();
+}
+
+void form_fftchart::on_CB_window_currentIndexChanged(int index)
+{
+    m_windowType = FftWindowType(index);
+    refreshChartState();
+}
+
+void form_fftchart::on_CB_hold_currentIndexChanged(int index)
+{
+    m_sampler.setHoldMode(FftHoldMode(index));
+    refreshChartState();
+}
+
+void form_fftchart::onFftCalPointTextChanged(const QString &text)
+{
+    m_pointCount = text.toInt();
+    refreshChartState();
+}
+
+void form_fftchart::on_SB_y_axis_max_valueChanged(double)
+{
+    applyYAxisRangeToChart();
+}
+
+void form_fftchart::onIgnoreSteadyValueChosen(bool ignore)
+{
+    m_bridge.setIgnoreSteadyValue(ignore);
+}
+
+void form_fftchart::applyYAxisRangeToChart()
+{
+    m_bridge.setYAxisMax(m_controls->currentYAxisMax());
 }
 
 void form_fftchart::refreshChartState()
@@ -200,11 +249,25 @@ void form_fftchart::refreshChartState()
 void form_fftchart::resetFftBuffers()
 {
     m_sampler.reset(m_pointCount);
+    startAgain();
+    emit engineConfigured(m_pointCount, m_windowType);
+}
+
+void form_fftchart::restartStream()
+{
+    m_sampler.restart();
+    startAgain();
+}
+
+/// What the sampler's new beginning means for all that shows it.
+void form_fftchart::startAgain()
+{
     m_refitX = true;
+    m_bridge.setAlarmSuspended(true);
     clearRenderedFftData();
     syncBridgeMeta();
     syncBridgeRuntimeTelemetry();
-    emit engineConfigured(m_pointCount, m_windowType);
+    updateStatus();
 }
 
 void form_fftchart::clearRenderedFftData()
@@ -227,7 +290,7 @@ void form_fftchart::syncBridgeMeta()
 {
     const int rate = m_sampler.presentationRateHz();
     m_bridge.setFrameMeta({m_pointCount, rate, m_pointCount > 0 && rate > 0 ? double(rate) / m_pointCount : 0.0,
-                           rate > 0 ? rate * 0.5 : 0.0, currentWindowName(), currentUnit()});
+                           rate > 0 ? rate * 0.5 : 0.0, currentWindowName(), m_controls->unit()});
 }
 
 void form_fftchart::syncBridgeViewConfig()
@@ -249,6 +312,8 @@ void form_fftchart::showEvent(QShowEvent *event)
         initChartParam();
     if (!m_thread)
         initFFTParam();
+    if (!event->spontaneous())
+        restartStream(); // what was taken before is no part of the stream that is live now
     QWidget::showEvent(event);
 }
 
@@ -259,15 +324,58 @@ void form_fftchart::closeEvent(QCloseEvent *event)
     QWidget::closeEvent(event);
 }
 
-void form_fftchart::resizeEvent(QResizeEvent *event)
-{
-    QWidget::resizeEvent(event);
-    placeStatus();
-}
-
 void form_fftchart::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange)
         retranslateDynamicUi();
+}
+
+void form_fftchart::retranslateDynamicUi()
+{
+    setWindowTitle(tr("FFT Analysis"));
+    m_controls->retranslate();
+    if (m_view)
+        m_view->engine()->retranslate();
+    setViewProperty("guide", currentChartInteractionGuide());
+    updateStatus();
+    syncBridgeViewConfig();
+}
+
+void form_fftchart::updateStatus()
+{
+    m_controls->setStatus(
+        tr("Sample Frequency:%1Hz, RMSE of Norm:%2")
+            .arg(QString::number(m_sampler.currentRateHz()), QString::number(m_sampler.normDeviation(), 'f', 2)));
+    updateMarks();
+}
+
+/// What the chart says about the samples while it runs.
+void form_fftchart::updateMarks()
+{
+    const bool stale = m_timer.isActive() && m_sampler.isStale();
+    setViewProperty("stale", stale);
+    setViewProperty("blockFill", m_timer.isActive() ? m_sampler.blockFill() : 1.0);
+}
+
+QString form_fftchart::currentChartTitle() const
+{
+    return tr("FFT %1").arg(m_controls->typeName());
+}
+
+QString form_fftchart::currentWindowName() const
+{
+    return fftWindowNames().value(int(m_windowType));
+}
+
+QString form_fftchart::currentValueAxisTitle() const
+{
+    return m_controls->valueAxisTitle();
+}
+
+QString form_fftchart::currentChartInteractionGuide() const
+{
+    return tr(
+        "Hover to inspect frequency and amplitude. Mouse wheel zooms Y, Ctrl + wheel zooms X, left drag pans, and "
+        "right or middle double-click resets the view.");
 }

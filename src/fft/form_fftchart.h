@@ -9,20 +9,19 @@
 
 class FftFiles;
 class FftTrans;
-class QComboBox;
-class QDoubleSpinBox;
-class QHBoxLayout;
-class QLabel;
-class QPushButton;
 class QQuickView;
 class QThread;
+class SpectrumControls;
 
 /// The spectrum window: a row of controls above the declarative view "qrc:/qml/FFTChartView.qml". It owns the parts and
 /// connects them: samples go through the FftSampler to the FftTrans on its own thread, and what comes back to the
 /// FftChartBridge. Main thread only.
 ///
 /// View and engine come with the first showing. Closing ends the engine's thread, pauses, and abandons a batch that is
-/// out; showing again starts anew. Samples are taken while the window is visible only.
+/// out; showing again restarts the stream. Samples are taken while the window is visible only.
+///
+/// The alarm judges full blocks of a living stream: it waits while the rings fill, and without new samples nothing is
+/// analysed at all. Both are said over the chart. Settings other than the alarm's own leave its state and events alone.
 class form_fftchart : public QWidget
 {
     Q_OBJECT
@@ -34,6 +33,11 @@ public:
 
     /// Takes a sample of the selected node. A rate in Hz of 0 or less is estimated from the time stamps.
     void appendData(node_data_t sample, int sampleRateHz);
+
+    /// The stream of samples begins again: another connection or node, a clock that restarted, output that was stopped
+    /// on purpose, a gap. Samples, rate, time stamps, statistics, held spectra and the batch that is out are forgotten,
+    /// and what is drawn is cleared. The alarm keeps its state and events; running or paused stays too.
+    void restartStream();
 
     bool isChartInitialized() const { return m_view != nullptr; }
     /// Rate of the spectra that are shown, 0 while there are none.
@@ -50,7 +54,6 @@ protected:
     void showEvent(QShowEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void changeEvent(QEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
 
 private slots:
     void on_BTN_start_clicked();
@@ -59,13 +62,13 @@ private slots:
     void on_CB_hold_currentIndexChanged(int index);
     void onFftCalPointTextChanged(const QString &text);
     void on_SB_y_axis_max_valueChanged(double value);
+    void onIgnoreSteadyValueChosen(bool ignore);
     void get_fft_result(unsigned long long batchId, signed char channel, const QList<QPointF> &points,
                         int maxAmplitude);
     void onTimer50ms();
 
 private:
     void configureControls();
-    void placeStatus();
     void retranslateDynamicUi();
     void initChartParam();
     void setViewProperty(const char *name, const QVariant &value);
@@ -73,48 +76,29 @@ private:
     void releaseResources();
     void refreshChartState();
     void resetFftBuffers();
+    void startAgain();
     void clearRenderedFftData();
     void startFFTCal();
     void setRunning(bool running);
-    void updateYAxisControl();
     void applyYAxisRangeToChart();
     void syncFrequencyAxisState();
     void syncBridgeMeta();
     void syncBridgeViewConfig();
     void syncBridgeRuntimeTelemetry();
     void updateStatus();
+    void updateMarks();
     QString currentChartTitle() const;
     QString currentWindowName() const;
     QString currentValueAxisTitle() const;
-    QString currentUnit() const;
     QString currentChartInteractionGuide() const;
-    double &storedYAxisMax();
-    double currentYAxisMax();
-    double currentYAxisHardLimit() const;
-    bool isAcceleration() const { return m_sampler.spectrumType() == FftSpectrumType::Acceleration; }
 
-    QComboBox *m_type;
-    QComboBox *m_points;
-    QComboBox *m_window;
-    QComboBox *m_hold;
-    QDoubleSpinBox *m_yAxisMax;
-    QPushButton *m_start;
-    QLabel *m_pointsLabel;
-    QLabel *m_windowLabel;
-    QLabel *m_holdLabel;
-    QLabel *m_yAxisLabel;
-    QLabel *m_status;
-    QHBoxLayout *m_controls;  ///< first row
-    QHBoxLayout *m_statusRow; ///< second row, for a status that has no room in the first
-
+    SpectrumControls *m_controls;
     FftChartBridge m_bridge;
     FftSampler m_sampler;
     QTimer m_timer;
     FftWindowType m_windowType = FftWindowType::Rectangular;
     int m_pointCount = FftSampler::kDefaultPoints;
-    double m_accelerationMax = 0;    ///< mG; 0 for the default, as below
-    double m_angularVelocityMax = 0; ///< deg/s
-    bool m_refitX = false;           ///< show all frequencies when the rate is known
+    bool m_refitX = false; ///< show all frequencies when the rate is known
 
     QThread *m_thread = nullptr;
     FftTrans *m_engine = nullptr; ///< lives and dies in m_thread

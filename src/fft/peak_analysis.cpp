@@ -12,24 +12,36 @@ constexpr int kMaxOrder = 4;
 constexpr int kSearchBins = 2;
 constexpr double kToleranceBins = 1.5;
 constexpr double kMinHarmonicShare = 0.08;
-constexpr double kLeakageTolerance = 1.25; ///< for the ends of short windows, and for noise
+constexpr double kLeakageTolerance = 0.1; ///< share of it, for noise, and for a steady value that is not quite steady
 
 struct Found
 {
     int bin = -1;
-    QPointF peak{0.0, -1.0};
+    QPointF peak{0.0, kAbsent};
 };
 
+bool isAbsent(QPointF bin)
+{
+    return bin.y() < 0;
+}
+
+/// The peak about a bin as far as its neighbours are there to tell.
+QPointF refineIfPossible(Spectrum spectrum, int bin)
+{
+    const auto i = size_t(bin);
+    return isAbsent(spectrum[i - 1]) || isAbsent(spectrum[i + 1]) ? spectrum[i] : refinePeak(spectrum, bin);
+}
+
 /// The highest of the refined local maxima in the bins `first` to `last`.
-Found highestMaximum(Spectrum spectrum, int first, int last, const QList<double> &leakage = {})
+Found highestMaximum(Spectrum spectrum, int first, int last)
 {
     Found best;
     for (int i = first; i <= last; ++i) {
         const double amplitude = spectrum[size_t(i)].y();
-        if (amplitude < spectrum[size_t(i) - 1].y() || amplitude < spectrum[size_t(i) + 1].y()
-            || isLeakage(spectrum, i, leakage))
+        if (isAbsent(spectrum[size_t(i)]) || amplitude < spectrum[size_t(i) - 1].y()
+            || amplitude < spectrum[size_t(i) + 1].y())
             continue;
-        const QPointF peak = refinePeak(spectrum, i);
+        const QPointF peak = refineIfPossible(spectrum, i);
         if (peak.y() > best.peak.y())
             best = {i, peak};
     }
@@ -57,36 +69,43 @@ QPointF refinePeak(Spectrum spectrum, int bin)
     return {spectrum[i].x() + shift * (spectrum[i + 1].x() - spectrum[i].x()), b - 0.25 * (a - c) * shift};
 }
 
-bool isLeakage(Spectrum spectrum, int bin, const QList<double> &leakage)
+QList<QPointF> beyondLeakage(Spectrum spectrum, const QList<double> &leakage)
 {
-    return bin >= 1 && bin <= leakage.size()
-           && spectrum[size_t(bin)].y() <= kLeakageTolerance * leakage.at(bin - 1) * spectrum[0].y();
+    QList<QPointF> rest(spectrum.begin(), spectrum.end());
+    if (!rest.isEmpty())
+        rest[0].setY(kAbsent);
+    for (qsizetype bin = 1; bin < rest.size(); ++bin) {
+        const double leaked = leakage.value(bin - 1) * spectrum[0].y();
+        const double difference = std::abs(rest.at(bin).y() - leaked);
+        rest[bin].setY(leaked > 0 && difference <= kLeakageTolerance * leaked ? kAbsent : difference);
+    }
+    return rest;
 }
 
-FftPeakSummary findPeak(Spectrum spectrum, int axisIndex, const QList<double> &leakage)
+FftPeakSummary findPeak(Spectrum spectrum, int axisIndex)
 {
     const int count = int(spectrum.size());
     if (count < 2)
         return {};
-    Found found = highestMaximum(spectrum, 1, count - 2, leakage);
+    Found found = highestMaximum(spectrum, 1, count - 2);
     if (found.bin < 0) {
         for (int i = 1; i < count; ++i) {
-            if (spectrum[size_t(i)].y() > found.peak.y() && !isLeakage(spectrum, i, leakage))
+            if (spectrum[size_t(i)].y() > found.peak.y())
                 found = {i, spectrum[size_t(i)]};
         }
         if (found.bin < 0)
             return {};
         if (found.bin < count - 1)
-            found.peak = refinePeak(spectrum, found.bin);
+            found.peak = refineIfPossible(spectrum, found.bin);
     }
     return {found.peak.y() > 0, axisIndex, found.bin, found.peak.x(), found.peak.y()};
 }
 
-FftPeakSummary dominantPeak(const std::array<Spectrum, 3> &axes, const QList<double> &leakage)
+FftPeakSummary dominantPeak(const std::array<Spectrum, 3> &axes)
 {
     FftPeakSummary best;
     for (int axis = 0; axis < 3; ++axis) {
-        const FftPeakSummary peak = findPeak(axes[size_t(axis)], axis, leakage);
+        const FftPeakSummary peak = findPeak(axes[size_t(axis)], axis);
         if (peak.valid && peak.amplitude > best.amplitude)
             best = peak;
     }

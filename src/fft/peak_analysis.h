@@ -25,15 +25,25 @@ Spectrum withoutAnchor(const QList<QPointF> &points);
 /// true one by up to 0.053 bin, a quarter of a bin away from the bins, and the refined amplitude by up to 6.6 %.
 QPointF refinePeak(Spectrum spectrum, int bin);
 
-/// Whether a bin beyond 0 Hz holds no more than what the window spreads there of the amplitude at 0 Hz. `leakage` is
-/// fftWindowLeakage(). Without it gravity, seen through any but the rectangular window, would be the highest peak of
-/// every acceleration spectrum.
-bool isLeakage(Spectrum spectrum, int bin, const QList<double> &leakage);
+/// The amplitude of a bin that holds nothing to search in.
+inline constexpr double kAbsent = -1.0;
 
-/// The highest of the refined local maxima beyond 0 Hz, else the highest bin beyond 0 Hz; leakage is no peak.
-FftPeakSummary findPeak(Spectrum spectrum, int axisIndex, const QList<double> &leakage = {});
+/// The spectrum without the steady value, such as gravity, and what the window spreads of it. 0 Hz is absent, and so is
+/// each bin that holds its leakage, give or take a tenth. Every other bin keeps the difference between the two.
+/// `leakage` is fftWindowLeakage() for the block that the spectrum was made of.
+///
+/// Amplitudes alone cannot part a motion from what leaks into the same bin: the difference is the least that the motion
+/// has there. A motion remains unseen as far as it lies inside the main lobe of 0 Hz and changes no bin by a tenth of
+/// its leakage, which depends on its phase too. Beside 1 G that is up to about 0.4 G in bin 1 under Blackman and 0.4 G
+/// in bins 1 to 3 under Flat Top; what of it is seen there may be the flank of its lobe, up to 3 bins beside it. Other
+/// windows show it in the next bin, and a longer block takes it out of the lobe.
+QList<QPointF> beyondLeakage(Spectrum spectrum, const QList<double> &leakage);
+
+/// The highest of the refined local maxima beyond 0 Hz, else the highest bin beyond 0 Hz. An absent bin is no peak and
+/// stops no neighbour from being one; beside it peaks are not refined.
+FftPeakSummary findPeak(Spectrum spectrum, int axisIndex);
 /// The highest peak of the three axes.
-FftPeakSummary dominantPeak(const std::array<Spectrum, 3> &axes, const QList<double> &leakage = {});
+FftPeakSummary dominantPeak(const std::array<Spectrum, 3> &axes);
 /// Peaks within 1.5 bins of 2, 3 and 4 times the fundamental's frequency that reach 8 % of its amplitude. `spectrum` is
 /// the one that the fundamental was found in.
 QList<FftHarmonicPeak> findHarmonics(Spectrum spectrum, const FftPeakSummary &fundamental);

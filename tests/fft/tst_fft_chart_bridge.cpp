@@ -8,6 +8,7 @@
 #include <limits>
 
 #include "fft/fft_chart_bridge.h"
+#include "fft/fft_window.h"
 #include "support/files.h"
 
 using namespace Qt::StringLiterals;
@@ -77,11 +78,55 @@ private slots:
         const auto events = alarm.size();
         commit(bridge, 50);
         QCOMPARE(alarm.size(), events); // nothing new to tell
-        bridge.clearResults();
+        for (int i = 0; i < 3; ++i)     // no frames of the alarm, which stays
+            bridge.clearResults();
         QVERIFY(!bridge.hasData());
         QCOMPARE(exports.size(), 2);
-        QCOMPARE(bridge.alarmSeverityLevel(), 0);
-        QVERIFY(bridge.alarmEventsToVariantList().isEmpty());
+        QCOMPARE(bridge.alarmSeverityLevel(), 2);
+        QCOMPARE(bridge.alarmEventsToVariantList().size(), 1);
+    }
+
+    void suspendedAlarm()
+    {
+        FftChartBridge bridge;
+        commit(bridge, 40); // one of two frames
+        bridge.setAlarmSuspended(true);
+        for (int i = 0; i < 4; ++i)
+            commit(bridge, 40);
+        QCOMPARE(bridge.alarmSeverityLevel(), 0); // what it sees says nothing
+        QCOMPARE(bridge.alarmHeadline(), u"General monitoring: waiting for data"_s);
+        QCOMPARE(bridge.dominantPeakFrequency(), 10.0);
+        bridge.setAlarmSuspended(false);
+        commit(bridge, 40);
+        QCOMPARE(bridge.alarmState(), FftAlarmState::Normal);
+        commit(bridge, 40);
+        QCOMPARE(bridge.alarmState(), FftAlarmState::Active);
+        bridge.setAlarmSuspended(true);
+        for (int i = 0; i < 4; ++i)
+            commit(bridge, 0);
+        QCOMPARE(bridge.alarmState(), FftAlarmState::Active);
+    }
+
+    void steadyValue()
+    {
+        for (const QString &window : fftWindowNames()) {
+            FftChartBridge bridge;
+            bridge.setFrameMeta({128, 128, 1, 64, window, u"mG"_s});
+            QList<QPointF> points = spectrum(40);
+            const QList<double> leakage = fftWindowLeakage(window, 128);
+            for (int bin = 1; bin < 64; ++bin)
+                points[bin + 1].ry() += 1000 * leakage.at(bin - 1);
+            bridge.setFftResult(2, points, 64);
+            bridge.commitResults();
+            const FftPeakSummary plain = peak_analysis::findPeak(peak_analysis::withoutAnchor(points), 2);
+            QCOMPARE(bridge.dominantPeakAmplitude(), plain.amplitude); // as it is for every window
+            bridge.setIgnoreSteadyValue(true);
+            QVERIFY2(std::abs(bridge.dominantPeakFrequency() - 10) < 0.1, qPrintable(window));
+            QVERIFY2(std::abs(bridge.dominantPeakAmplitude() - 40) < 1, qPrintable(window));
+            QVERIFY2(std::abs(bridge.resultantPeakAmplitude()) < 1e-9, qPrintable(window)); // one axis makes none
+            QVERIFY(bridge.harmonicSummary().startsWith("H2 20.0"_L1));
+            QCOMPARE(bridge.alarmState(), FftAlarmState::Normal); // judged again, but no frame
+        }
     }
 
     void oneAxisIsEnough()
@@ -142,10 +187,12 @@ private slots:
         QCOMPARE(bridge.bandPowers().size(), 1);
         QCOMPARE(bridge.bandPowers().at(0).name, u"shaft"_s);
         QVERIFY(std::abs(bridge.bandPowers().at(0).power - 0.5 * (20 * 20 + 2 * 2)) < 1e-9);
-        for (int i = 0; i < 2 * FftChartBridge::kMaxBands; ++i)
-            bridge.setCustomBand(QString::number(i), 1, 2);
-        QCOMPARE(bridge.bandPowers().size(), FftChartBridge::kMaxBands);
+        for (int i = 0; i < 40; ++i) // a person is refused from some number on, programs are not
+            bridge.setCustomBand(QString::number(i).rightJustified(100, u'0'), 1, 2);
+        QCOMPARE(bridge.bandPowers().size(), 41);
+        QCOMPARE(bridge.bandPowers().last().name.size(), 100);
         QVERIFY(!bridge.tryCustomBand(u"one more"_s, 1, 2).isEmpty());
+        QVERIFY(bridge.tryCustomBand(u"shaft"_s, 1, 2).isEmpty()); // is there already
         bridge.resetBandDefinitions();
         QCOMPARE(bridge.bandPowers().size(), 3);
     }
@@ -208,6 +255,7 @@ private slots:
         step([&] { bridge.setCustomBand(u"A"_s, 1, 2); });
         step([&] { bridge.setShowResultant(false); });
         step([&] { bridge.setCoherenceEnabled(false); });
+        step([&] { bridge.setIgnoreSteadyValue(true); });
         QCOMPARE(hashes.removeDuplicates(), 0);
         QCOMPARE(bridge.coherenceSummary(), u"Coherence disabled"_s);
         commit(bridge, 4); // measuring changes nothing

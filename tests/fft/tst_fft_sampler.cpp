@@ -91,6 +91,79 @@ private slots:
         }
     }
 
+    void restartsKnowTheNewStreamAlone()
+    {
+        // Each stream begins again where its clock then stands, after `lullMs` on the host's clock.
+        struct Row
+        {
+            const char *name;
+            quint32 firstMs;
+            qint64 lullMs;
+        };
+        for (const Row &row : {Row{"clock back to its beginning", 5, 0}, Row{"another node, ahead", 900'000'000, 0},
+                               Row{"a gap", 3'610'000, 5000}, Row{"reopened after an hour", 7'200'000, 3'600'000}}) {
+            qint64 hostMs = 100;
+            FftSampler sampler([&hostMs] { return hostMs; });
+            sampler.setHoldMode(FftHoldMode::MaxHold);
+            for (quint32 i = 0; i < 600; ++i, hostMs += 5)
+                sampler.append(sample(3'600'000 + 5 * i, 9), 0);
+            QCOMPARE(shown(sampler, {flat(7)}), QList<double>{7});
+            const quint64 abandoned = sampler.nextBatch()->id;
+            hostMs += row.lullMs;
+            sampler.restart();
+            QVERIFY2(!sampler.takeResult(abandoned, 0, flat(9)).accepted, row.name);
+            QVERIFY2(!sampler.nextBatch() && sampler.presentationRateHz() == 0, row.name);
+            for (quint32 i = 0; i < 300; ++i, hostMs += 10) // 3 s at 100 Hz
+                sampler.append(sample(row.firstMs + 10 * i, float(i)), 0);
+            QVERIFY2(sampler.currentRateHz() == 100, row.name);
+            QVERIFY2(sampler.normDeviation() < 90'000 && sampler.blockFill() == 300.0 / 512, row.name);
+            QVERIFY2(shown(sampler, {flat(2)}) == QList<double>{2}, row.name);
+            QVERIFY2(sampler.nextBatch()->samples[0].first() == 0, row.name);
+        }
+    }
+
+    void staleStreams()
+    {
+        // Period of the stream, and after how long without a sample it is one that died.
+        const std::pair<quint32, int> rows[] = {{1, 2000}, {100, 2000}, {1000, 6000}, {5000, 10000}};
+        for (const auto &[periodMs, afterMs] : rows) {
+            qint64 hostMs = 0;
+            FftSampler sampler([&hostMs] { return hostMs; });
+            QVERIFY(!sampler.isStale()); // none came yet
+            for (quint32 i = 1; i <= 3; ++i)
+                sampler.append(sample(i * periodMs, 1), 100);
+            hostMs = afterMs - 1;
+            QVERIFY(!sampler.isStale());
+            hostMs = afterMs;
+            QVERIFY(sampler.isStale() && !sampler.nextBatch());
+            QCOMPARE(sampler.telemetry().droppedBatches, 0);
+            sampler.append(sample(4 * periodMs, 1), 100);
+            QVERIFY(!sampler.isStale() && sampler.nextBatch());
+        }
+    }
+
+    void firstFullBlockBeginsAgain()
+    {
+        for (int mode = 1; mode < 3; ++mode) {
+            FftSampler sampler;
+            sampler.reset(4);
+            sampler.setHoldMode(FftHoldMode(mode));
+            const auto batch = [&](double amplitude) {
+                sampler.append(sample(1, 1), 100);
+                const quint64 id = sampler.nextBatch()->id;
+                const FftResultOutcome outcome = sampler.takeResult(id, 0, flat(amplitude));
+                sampler.takeResult(id, 1, {});
+                return std::pair(sampler.takeResult(id, 2, {}).fullBlock, outcome.points.value(1).y());
+            };
+            for (int i = 1; i < 4; ++i) {
+                QCOMPARE(batch(600), std::pair(false, 600.0));
+                QCOMPARE(sampler.blockFill(), i / 4.0);
+            }
+            QCOMPARE(batch(4), std::pair(true, 4.0));
+            QCOMPARE(batch(2), std::pair(true, mode == 1 ? 4.0 : 3.0));
+        }
+    }
+
     void resetForgetsTheClock()
     {
         qint64 hostMs = 100;
