@@ -21,6 +21,7 @@
 #include "app/frame_gate.h"
 #include "app/settings_keys.h"
 #include "app/theme.h"
+#include "app/window_place.h"
 #include "attitude/qt6_model_asset.h"
 #include "ui_form_threed.h"
 
@@ -57,7 +58,7 @@ form_threed::form_threed(QWidget *parent) : QWidget(parent, Qt::Window), m_ui(st
     setOrientationPreset(loadRotationPreset());
     updateRotationPresetUi();
     fitPanel();
-    if (!restoreGeometry(settingsFile().value(settings_keys::kThreeDGeometry).toByteArray()))
+    if (!window_place::restore(this, settings_keys::kThreeDGeometry))
         resize(size().boundedTo(screen()->availableSize()));
 }
 
@@ -358,7 +359,7 @@ void form_threed::hideEvent(QHideEvent *event)
 {
     QWidget::hideEvent(event);
     stopThreeDPlot();
-    settingsFile().setValue(settings_keys::kThreeDGeometry, saveGeometry());
+    window_place::store(this, settings_keys::kThreeDGeometry);
 }
 
 void form_threed::changeEvent(QEvent *event)

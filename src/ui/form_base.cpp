@@ -14,6 +14,7 @@
 
 #include "app/app_language_manager.h"
 #include "app/app_log.h"
+#include "app/menu_font.h"
 #include "app/settings_keys.h"
 #include "app/theme.h"
 #include "attitude/form_threed.h"
@@ -77,7 +78,7 @@ form_base::form_base(QWidget *parent) : QMainWindow(parent), m_ui(std::make_uniq
     const int fontSize = storedFontSize();
     // Before any widget, so that all start with it: a change would have every one of them worked out again.
     AppLanguageManager::instance().applyCurrentFont(fontSize);
-    styleMenus(fontSize);
+    menu_font::follow(this);
 
     m_ui->setupUi(this);
     setUpPanels();
@@ -226,21 +227,11 @@ void form_base::setUpConnections()
 void form_base::applyFontSize(int points)
 {
     AppLanguageManager::instance().applyCurrentFont(points);
-    styleMenus(points);
     m_trafficLabel->setFont(theme::fixedPitchFont(points));
     m_ui->scroll_left->setFixedWidth(points * kLeftWidthPerPoint);
     m_ui->actionFontSmall->setChecked(points == kFontSmall);
     m_ui->actionFontMedium->setChecked(points == kFontMedium);
     m_ui->actionFontBig->setChecked(points == kFontBig);
-}
-
-void form_base::styleMenus(int points)
-{
-    const QString sheet =
-        QStringLiteral("QMenu {font: %1pt '%2';}")
-            .arg(QString::number(points), QApplication::font().families().join(QStringLiteral("','")));
-    if (styleSheet() != sheet)
-        setStyleSheet(sheet);
 }
 
 void form_base::storeFontSize(int points)

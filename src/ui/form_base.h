@@ -96,7 +96,6 @@ private:
     void setUpActions();
     void setUpConnections();
     void applyFontSize(int points);
-    void styleMenus(int points);
     void storeFontSize(int points);
     void retranslate();
     void setUpLanguages();

@@ -161,7 +161,6 @@ void form_base::setUpLanguages()
     auto *button = new QToolButton(this);
     button->setObjectName(QStringLiteral("button_language"));
     button->setAutoRaise(true);
-    button->setPopupMode(QToolButton::InstantPopup);
     auto *menu = new QMenu(this);
     menu->setObjectName(QStringLiteral("menu_language"));
     auto *group = new QActionGroup(menu);
@@ -187,7 +186,11 @@ void form_base::setUpLanguages()
         chooseLanguage(action->data().toString());
         showCurrent();
     });
-    button->setMenu(menu);
+    // Not the button's own menu: its nested event loop would hold a command's window open as long as the menu is.
+    connect(button, &QToolButton::pressed, menu, [button, menu] {
+        menu->popup(button->mapToGlobal(QPoint(button->width() - menu->sizeHint().width(), button->height())));
+    });
+    connect(menu, &QMenu::aboutToHide, button, [button] { button->setDown(false); });
     button->setVisible(!menu->isEmpty());
     m_ui->menubar->setCornerWidget(button);
     m_ui->menuView->addMenu(menu);
@@ -196,9 +199,12 @@ void form_base::setUpLanguages()
 void form_base::chooseLanguage(const QString &setting)
 {
     AppLanguageManager &manager = AppLanguageManager::instance();
-    if (setting == manager.currentLanguage() || manager.setLanguage(setting))
+    if (manager.setLanguage(setting))
         return;
-    QMessageBox::warning(this, appWindowTitle(),
-                         tr("The translation for %1 cannot be loaded. The language stays as it is.")
-                             .arg(manager.languageForSetting(setting)->displayName));
+    auto *box = new QMessageBox(QMessageBox::Warning, appWindowTitle(),
+                                tr("The translation for %1 cannot be loaded. The language stays as it is.")
+                                    .arg(manager.languageForSetting(setting)->displayName),
+                                QMessageBox::Ok, this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
 }
