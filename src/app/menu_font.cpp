@@ -10,9 +10,8 @@ namespace {
 void apply(QWidget *window)
 {
     const QFont font = QApplication::font();
-    const QString sheet =
-        QStringLiteral("QMenu {font: %1pt '%2';}")
-            .arg(QString::number(font.pointSize()), font.families().join(QStringLiteral("','")));
+    const QString sheet = QStringLiteral("QMenu {font: %1pt '%2';}")
+                              .arg(QString::number(font.pointSize()), font.families().join(QStringLiteral("','")));
     if (window->styleSheet() != sheet)
         window->setStyleSheet(sheet);
 }

@@ -17,6 +17,7 @@
 #include "link/stream_dispatcher.h"
 #include "ui/form_link_health.h"
 #include "ui/form_record.h"
+#include "ui/link_monitor.h"
 #include "ui_form_base.h"
 #include "updater/form_updater.h"
 #include "wave/form_sensor_dashboard.h"
@@ -130,6 +131,11 @@ QList<GatewaySample> form_base::buildWirelessDashboardSamples(const DecodedFrame
 {
     QList<GatewaySample> samples = gatewaySamples(frame);
     for (qsizetype i = 0; i < samples.size(); ++i) {
+        const node_data_t &node = frame.nodes.at(i).sample;
+        const NodeHealth &health = m_linkMonitor->node(node.id);
+        samples[i].timestampMs = frame.family == frame_family::GatewayBatch63 ? frame.gw_ts_ms : node.time_ms;
+        samples[i].missing = health.missing;
+        samples[i].hasClock = health.hasClock;
         const NormalizedAttitude attitude = attitude_convention::normalizeAttitude(frame.nodes.at(i), m_preset);
         if (!attitude.valid)
             continue;
