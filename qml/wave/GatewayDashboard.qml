@@ -90,7 +90,7 @@ Item {
             anchors.right: parent.right
             anchors.rightMargin: 16
             anchors.verticalCenter: parent.verticalCenter
-            text: dashboard.bridge.nodeCount > 0 ? qsTr("%1 · %2 Hz").arg(dashboard.bridge.summary).arg(dashboard.bridge.frameRate) : ""
+            text: dashboard.bridge.nodeCount === 0 ? "" : dashboard.bridge.ended ? dashboard.bridge.summary : qsTr("%1 · %2 Hz").arg(dashboard.bridge.summary).arg(dashboard.bridge.frameRate)
             textFormat: Text.PlainText
             font: Theme.fixedSmallFont
             color: Theme.textSecondary

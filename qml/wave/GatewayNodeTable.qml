@@ -156,7 +156,7 @@ FocusScope {
             required property string missingText
             required property string temperatureText
             required property string pressureText
-            readonly property color ink: nodeState === 2 ? Theme.textSecondary : Theme.text
+            readonly property color ink: nodeState >= 2 ? Theme.textSecondary : Theme.text
 
             objectName: "node_" + nodeId
             width: list.width

@@ -1,11 +1,12 @@
 import QtQuick
 import KVCenter.Controls
 
-/// How a radio node does, by shape, colour and word: a green disc is live, an amber diamond late, a red ring gone.
+/// How a radio node does, by shape, colour and word: a green disc is live, an amber diamond late, a red ring gone, a grey bar
+/// ended.
 Row {
     id: mark
 
-    /// 0 live, 1 late, 2 gone.
+    /// 0 live, 1 late, 2 gone, 3 ended.
     required property int nodeState
     required property string text
     readonly property color ink: ["#0D8B4D", "#B45309", "#B91C1C"][nodeState] ?? Theme.textSecondary
@@ -20,8 +21,8 @@ Row {
         Rectangle {
             anchors.centerIn: parent
             width: mark.nodeState === 1 ? 9 : 11
-            height: width
-            radius: mark.nodeState === 1 ? 0 : width / 2
+            height: mark.nodeState === 3 ? 3 : width
+            radius: mark.nodeState === 1 ? 0 : height / 2
             rotation: mark.nodeState === 1 ? 45 : 0
             antialiasing: true
             color: mark.nodeState === 2 ? "transparent" : mark.ink
@@ -33,7 +34,7 @@ Row {
         anchors.verticalCenter: parent.verticalCenter
         text: mark.text
         textFormat: Text.PlainText
-        font: mark.nodeState === 0 ? Theme.font : Theme.strongFont
+        font: mark.nodeState === 0 || mark.nodeState === 3 ? Theme.font : Theme.strongFont
         color: mark.nodeState === 0 ? Theme.textSecondary : mark.ink
     }
 }

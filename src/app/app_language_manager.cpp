@@ -88,10 +88,18 @@ bool AppLanguageManager::initialize()
 bool AppLanguageManager::setLanguage(const QString &setting)
 {
     const std::optional<AppLanguageSpec> language = languageForSetting(setting);
-    return language && applyLanguage(*language, true);
+    if (!language || language->setting != m_current.setting)
+        return language && applyLanguage(*language, true);
+    store(*language);
+    return true;
 }
 
-bool AppLanguageManager::applyLanguage(const AppLanguageSpec &language, bool store)
+void AppLanguageManager::store(const AppLanguageSpec &language) const
+{
+    QSettings(settingsPath(), QSettings::IniFormat).setValue(settings_keys::kLanguage, language.setting);
+}
+
+bool AppLanguageManager::applyLanguage(const AppLanguageSpec &language, bool keep)
 {
     // Tried beside the one in use, which stays when the new one is broken.
     if (QTranslator trial; !trial.load(language.qmResourcePath())) {
@@ -106,8 +114,8 @@ bool AppLanguageManager::applyLanguage(const AppLanguageSpec &language, bool sto
         QCoreApplication::installTranslator(&m_translator);
 
     m_current = language;
-    if (store)
-        QSettings(settingsPath(), QSettings::IniFormat).setValue(settings_keys::kLanguage, language.setting);
+    if (keep)
+        store(language);
     applyCurrentFont(0);
     emit languageChanged(language.setting);
     return true;
@@ -140,4 +148,5 @@ void AppLanguageManager::applyCurrentFont(int pointSize)
         widget->setFont(font);
         widget->update();
     }
+    emit fontChanged();
 }

@@ -41,12 +41,12 @@ public:
     /// The entry of a code, compared in normalised form; nothing when there is none.
     std::optional<AppLanguageSpec> languageForSetting(const QString &setting) const;
 
-    /// Changes the language at run time and stores it. False when the code is unknown or its translation cannot be
-    /// loaded; nothing has changed then.
+    /// Changes the language at run time and stores it. The current one is only stored: it may have been a guess so far.
+    /// False when the code is unknown or its translation cannot be loaded; nothing has changed then.
     bool setLanguage(const QString &setting);
-    /// Installs the translation in place of the previous one, stores the code when `store` is set, applies the font and
+    /// Installs the translation in place of the previous one, stores the code when `keep` is set, applies the font and
     /// emits languageChanged(). False, with a warning, when the translation cannot be loaded; nothing has changed then.
-    bool applyLanguage(const AppLanguageSpec &language, bool store);
+    bool applyLanguage(const AppLanguageSpec &language, bool keep);
     /// Gives the application and every widget the font of the current language, at `pointSize` points when that is
     /// above 0, else at the size in use. A widget that set a font of its own (figures, headings) keeps it.
     void applyCurrentFont(int pointSize);
@@ -61,9 +61,13 @@ public:
 signals:
     /// After a language was applied: its code. Texts of declarative views and of windows follow this.
     void languageChanged(const QString &setting);
+    /// The application's font was set, by a language or by another size; before languageChanged().
+    void fontChanged();
 
 private:
     AppLanguageManager() = default;
+
+    void store(const AppLanguageSpec &language) const;
 
     LanguageManifest m_manifest;
     AppLanguageSpec m_current;

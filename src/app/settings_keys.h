@@ -17,9 +17,12 @@ constexpr QLatin1String kBaudRate("SERIAL/BAUDRATE");    ///< last baud rate
 constexpr QLatin1String kPortVendor("SERIAL/VENDOR_ID"); ///< USB identity of the last port, decimal
 constexpr QLatin1String kPortProduct("SERIAL/PRODUCT_ID");
 constexpr QLatin1String kPortSerial("SERIAL/SERIAL_NUMBER");
+constexpr QLatin1String kPortGeometry("SERIAL/GEOMETRY");       ///< size and place of the dialog that asks for it
+constexpr QLatin1String kSettingsGeometry("SETTINGS/GEOMETRY"); ///< of the device settings
 constexpr QLatin1String kRecordPath("RECORD/PATH"); ///< folder and name of the last recording, "<folder>/data.csv"
 constexpr QLatin1String kLinkHealthGeometry("LINK_HEALTH/GEOMETRY"); ///< that window's size and place
 constexpr QLatin1String kUpdaterPath("UPDATER/PATH");                ///< last firmware image
+constexpr QLatin1String kUpdaterGeometry("UPDATER/GEOMETRY");        ///< that window's size and place
 
 constexpr QLatin1String kSpectrum("SPECTRUM"); ///< group of the spectrum window; kDashboardFolder below it
 constexpr QLatin1String kSpectrumGeometry("SPECTRUM/GEOMETRY"); ///< its size and place

@@ -21,6 +21,7 @@
 #include "app/frame_gate.h"
 #include "app/settings_keys.h"
 #include "app/theme.h"
+#include "app/window_place.h"
 #include "attitude/qt6_model_asset.h"
 #include "ui_form_threed.h"
 
@@ -57,7 +58,7 @@ form_threed::form_threed(QWidget *parent) : QWidget(parent, Qt::Window), m_ui(st
     setOrientationPreset(loadRotationPreset());
     updateRotationPresetUi();
     fitPanel();
-    if (!restoreGeometry(settingsFile().value(settings_keys::kThreeDGeometry).toByteArray()))
+    if (!window_place::restore(this, settings_keys::kThreeDGeometry))
         resize(size().boundedTo(screen()->availableSize()));
 }
 
@@ -173,8 +174,8 @@ void form_threed::objectReplot()
         captureHome();
     m_backend.setAttitude(m_attitude.quaternion, m_attitude.euler);
     std::optional<QVector3D> relative;
-    if (m_hasHome && m_attitude.valid) {
-        relative = attitude_convention::relativeDisplayEuler(m_attitude.quaternion, m_home);
+    if (const std::optional<QQuaternion> home = m_homes.current(); home && m_attitude.valid) {
+        relative = attitude_convention::relativeDisplayEuler(m_attitude.quaternion, *home);
         m_backend.setRelativeEuler(*relative);
     }
     m_ui->figures->show(m_attitude, relative);
@@ -183,29 +184,35 @@ void form_threed::objectReplot()
 
 void form_threed::setOrientationPreset(OrientationPreset preset)
 {
+    setMounting(m_homes.product(), preset);
+}
+
+void form_threed::setMounting(const QString &product, OrientationPreset preset)
+{
     const QSignalBlocker blocker(m_ui->CBRotationPreset);
     m_ui->CBRotationPreset->setCurrentIndex(preset == OrientationPreset::RfuEnu312   ? 0
                                             : preset == OrientationPreset::FluNwuZyx ? 1
                                                                                      : -1);
-    applyPreset(preset);
+    applyMounting(product, preset);
 }
 
-void form_threed::applyPreset(OrientationPreset preset)
+void form_threed::applyMounting(const QString &product, OrientationPreset preset)
 {
-    if (preset != m_preset)
-        clearHomeReference();
+    if (preset != m_preset || product != m_homes.product())
+        m_isAwaitingHome = false;
     m_preset = preset;
+    m_homes.setMounting(product, preset);
     m_backend.setBodyAxes(
         BodyAxesBasis::fromAxisMatrix(attitude_convention::toDisplayAttitude(0, 0, 0, preset).axisMatrix));
     updateRotationPresetUi();
-    objectReplot();
+    showHome();
 }
 
 void form_threed::on_CBRotationPreset_currentIndexChanged(int index)
 {
     if (index != 0 && index != 1)
         return;
-    applyPreset(index == 0 ? OrientationPreset::RfuEnu312 : OrientationPreset::FluNwuZyx);
+    applyMounting(m_homes.product(), index == 0 ? OrientationPreset::RfuEnu312 : OrientationPreset::FluNwuZyx);
     saveRotationPreset();
     emit orientationPresetChanged(m_preset);
 }
@@ -247,10 +254,9 @@ void form_threed::on_BTNSetHome_clicked()
 
 void form_threed::captureHome()
 {
-    m_home = m_attitude.quaternion;
-    m_hasHome = true;
+    m_homes.capture(m_attitude.quaternion);
     m_isAwaitingHome = false;
-    m_backend.setHomeReference(m_home, true);
+    m_backend.setHomeReference(m_attitude.quaternion, true);
 }
 
 void form_threed::on_BTNClearHome_clicked()
@@ -260,10 +266,15 @@ void form_threed::on_BTNClearHome_clicked()
 
 void form_threed::clearHomeReference()
 {
-    m_home = {};
-    m_hasHome = false;
+    m_homes.clear();
     m_isAwaitingHome = false;
-    m_backend.setHomeReference(m_home, false);
+    showHome();
+}
+
+void form_threed::showHome()
+{
+    const std::optional<QQuaternion> home = m_homes.current();
+    m_backend.setHomeReference(home.value_or(QQuaternion()), home.has_value());
     m_backend.setRelativeEuler({});
     objectReplot();
 }
@@ -271,12 +282,13 @@ void form_threed::clearHomeReference()
 void form_threed::updateHomeReferenceUi()
 {
     QString text = tr("Capture the current live pose as Home to compare mounting bias and installation offsets.");
-    if (m_hasHome)
+    const bool hasHome = m_homes.current().has_value();
+    if (hasHome)
         text = tr("Home pose captured. Delta shows the live attitude relative to the stored home reference.");
     else if (m_isAwaitingHome)
         text = tr("Waiting for live attitude data to capture home pose.");
     setIfChanged(m_ui->LBL_home, text);
-    m_ui->BTNClearHome->setEnabled(m_hasHome || m_isAwaitingHome);
+    m_ui->BTNClearHome->setEnabled(hasHome || m_isAwaitingHome);
     setIfChanged(m_ui->LBL_source, !m_attitude.valid           ? tr("No attitude")
                                    : m_attitude.fromQuaternion ? tr("From quaternion")
                                                                : tr("From Euler angles"));
@@ -292,10 +304,15 @@ void form_threed::on_BNTLoad_clicked()
     QString folder = settingsFile().value(settings_keys::kThreeDFolder).toString();
     if (folder.isEmpty())
         folder = QFileInfo(Qt6ModelAsset::defaultBundledObjFilePath(kDefaultModel)).path();
-    const QString path =
-        QFileDialog::getOpenFileName(this, tr("Open 3D asset"), folder, tr("3D Assets (*.obj *.mesh)"));
-    if (path.isEmpty())
-        return;
+    auto *dialog = new QFileDialog(this, tr("Open 3D asset"), folder, tr("3D Assets (*.obj *.mesh)"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    connect(dialog, &QFileDialog::fileSelected, this, &form_threed::chooseFile);
+    dialog->open();
+}
+
+void form_threed::chooseFile(const QString &path)
+{
     settingsFile().setValue(settings_keys::kThreeDFolder, QFileInfo(path).path());
     chooseModel(path);
 }
@@ -358,7 +375,7 @@ void form_threed::hideEvent(QHideEvent *event)
 {
     QWidget::hideEvent(event);
     stopThreeDPlot();
-    settingsFile().setValue(settings_keys::kThreeDGeometry, saveGeometry());
+    window_place::store(this, settings_keys::kThreeDGeometry);
 }
 
 void form_threed::changeEvent(QEvent *event)

@@ -7,6 +7,7 @@
 
 #include "attitude/attitude_backend.h"
 #include "attitude/attitude_convention.h"
+#include "attitude/home_references.h"
 
 class QQuickView;
 
@@ -36,8 +37,11 @@ public:
     /// The newest attitude of the selected node; one that is not valid, or not finite, when there is none.
     void setAttitude(const NormalizedAttitude &attitude);
 
-    /// Shows another mounting without storing or reporting it. A real change drops the home reference: it was captured
-    /// in the other axes.
+    /// Shows another mounting, or another product's (its key; empty: none is known), without storing or reporting it.
+    /// Each mounting has a home reference of its own, see HomeReferences. The attitude that is shown stays as it was
+    /// given: give it again as it is in the new axes.
+    void setMounting(const QString &product, OrientationPreset preset);
+    /// Another mounting of the same product.
     void setOrientationPreset(OrientationPreset preset);
     OrientationPreset orientationPreset() const { return m_preset; }
 
@@ -45,7 +49,7 @@ public:
     void stopThreeDPlot();
     bool isPlotting() const { return m_replotTimer.isActive(); }
 
-    /// Forgets the home reference, and that one was to be captured.
+    /// Forgets the home reference of this mounting, and that one was to be captured.
     void clearHomeReference();
 
     /// Shows another model. On failure the model stays, with a sentence for the user in `error` (may be null).
@@ -83,8 +87,10 @@ private:
     /// Puts a sentence, not yet translated, in place of the picture.
     void showNoPicture(const char *reason);
     void updateNoPictureUi();
-    void applyPreset(OrientationPreset preset);
+    void applyMounting(const QString &product, OrientationPreset preset);
     void captureHome();
+    void showHome();
+    void chooseFile(const QString &path);
     /// loadobj() for the user: a failure is told in the window.
     void chooseModel(const QString &path);
     OrientationPreset loadRotationPreset() const;
@@ -101,8 +107,7 @@ private:
     const char *m_noPicture = nullptr; ///< why there is none
     QTimer m_replotTimer;
     NormalizedAttitude m_attitude;
-    QQuaternion m_home;
+    HomeReferences m_homes;
     OrientationPreset m_preset = OrientationPreset::RfuEnu312;
-    bool m_hasHome = false;
     bool m_isAwaitingHome = false;
 };

@@ -72,18 +72,52 @@ bool isUsable(const QVector3D &position)
            && std::abs(position.z()) <= kMaxCoordinate;
 }
 
+/// The text in the one form that the parser reads: without a byte order mark and comments, with line feeds, and with
+/// lines that "\" continues in one piece. Empty lines after these keep the numbers of the others. A comment ends with its
+/// line, even behind a "\": it may be a folder's name.
+std::string plainText(QByteArrayView text)
+{
+    static constexpr QByteArrayView kByteOrderMark("\xEF\xBB\xBF");
+    if (text.startsWith(kByteOrderMark))
+        text = text.sliced(kByteOrderMark.size());
+    std::string plain;
+    plain.reserve(size_t(text.size()) + 1);
+    size_t continued = 0;
+    bool isComment = false;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const char c = text[i];
+        if (c == '\r' && i + 1 < text.size() && text[i + 1] == '\n')
+            continue;
+        if (c == '\n' || c == '\r') {
+            if (!isComment && !plain.empty() && plain.back() == '\\') {
+                plain.back() = ' ';
+                ++continued;
+                continue;
+            }
+            plain.append(continued + 1, '\n');
+            continued = 0;
+            isComment = false;
+        } else if (c == '#') {
+            isComment = true;
+        } else if (!isComment) {
+            plain += c;
+        }
+    }
+    return plain;
+}
+
 /// The parser takes a word that is no number for 0. Returns the number of the first such line, 0 when there is none.
-qsizetype badCoordinateLine(const QByteArray &text)
+qsizetype badCoordinateLine(QByteArrayView text)
 {
     qsizetype number = 0;
     for (qsizetype start = 0; start < text.size(); ++number) {
         qsizetype end = text.indexOf('\n', start);
         if (end < 0)
             end = text.size();
-        const QByteArrayView line = QByteArrayView(text).sliced(start, end - start);
+        const QByteArrayView line = text.sliced(start, end - start);
         const bool isVertex = line.startsWith("v ") || line.startsWith("v\t");
         const QByteArrayView figures = isVertex ? line.sliced(1) : QByteArrayView();
-        if (std::any_of(figures.begin(), figures.end(), [](char c) { return !std::strchr("0123456789+-.eE \t\r", c); }))
+        if (std::any_of(figures.begin(), figures.end(), [](char c) { return !std::strchr("0123456789+-.eE \t", c); }))
             return number + 1;
         start = end + 1;
     }
@@ -112,9 +146,10 @@ std::optional<TriangleMesh> ObjReader::read(const QString &path, QString *error)
     const qint64 size = file.size();
     if (size > kMaxFileBytes)
         return failed(tr("The OBJ file is larger than %1 MiB.").arg(kMaxFileBytes >> 20));
-    const QByteArray text = file.read(size);
-    if (text.contains('\0'))
+    const QByteArray bytes = file.read(size);
+    if (bytes.contains('\0'))
         return failed(tr("The file is not an OBJ model: it holds no text."));
+    const std::string text = plainText(bytes);
     if (const qsizetype line = badCoordinateLine(text))
         return failed(tr("Line %1 of the OBJ file holds a coordinate that is not a number.").arg(line));
 
@@ -123,7 +158,7 @@ std::optional<TriangleMesh> ObjReader::read(const QString &path, QString *error)
     take.vertex_cb = takePosition;
     take.normal_cb = takeNormal;
     take.index_cb = takeFace;
-    std::istringstream stream(text.toStdString());
+    std::istringstream stream(text);
     std::string details;
     if (!tinyobj::LoadObjWithCallback(stream, take, &all, nullptr, &details, &details))
         return failed(tr("The file is not an OBJ model."));

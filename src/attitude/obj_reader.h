@@ -19,7 +19,8 @@ struct TriangleMesh
 };
 
 /// Reads model files in the text format OBJ: positions, normals and polygons; materials and textures are left out. A
-/// polygon becomes a fan of triangles. Corners without a usable normal get that of their triangle.
+/// polygon becomes a fan of triangles. Corners without a usable normal get that of their triangle. Lines may end in LF,
+/// CR LF or CR, carry comments, and be continued by a "\" at their end; a byte order mark is passed over.
 ///
 /// The file may hold anything. It is refused with a sentence for the user when it is no text, names a corner that does
 /// not exist, has coordinates that are no finite numbers up to a thousand million, holds no triangle, or is larger than

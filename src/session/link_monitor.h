@@ -47,6 +47,8 @@ public:
     void close();
 
     LinkReport report() const;
+    /// What is known of the samples of one node.
+    const NodeHealth &node(quint8 id) const { return m_stream.node(id); }
 
     /// The line for the log: "link health" and key=value pairs.
     static QString logLine(const LinkReport &report);

@@ -84,6 +84,8 @@ void form_base::open_port()
     if (m_updater != nullptr)
         m_updater->set_connection_open(true);
     forgetChartHistory();
+    if (m_wirelessDashboard)
+        m_wirelessDashboard->clear();
     m_panel->clear();
 
     disconnect(&m_uiTimer, &QTimer::timeout, this, &form_base::run_uart_UItmr);
@@ -125,7 +127,7 @@ void form_base::closeConnection()
     m_recorder->setLinkOpen(false); // ends a recording: flushed and closed
     m_linkMonitor->close();
     if (m_wirelessDashboard)
-        m_wirelessDashboard->clear();
+        m_wirelessDashboard->setEnded(true);
     clearDetectedDevice();
     m_chosenNodeId.reset();
     m_readsAfterUpdate = 0;

@@ -18,6 +18,7 @@
 #include "record/recorder.h"
 #include "ui/form_link_health.h"
 #include "ui/form_record.h"
+#include "ui/link_monitor.h"
 #include "ui_form_base.h"
 #include "updater/form_updater.h"
 #include "wave/form_sensor_dashboard.h"
@@ -131,6 +132,11 @@ QList<GatewaySample> form_base::buildWirelessDashboardSamples(const DecodedFrame
 {
     QList<GatewaySample> samples = gatewaySamples(frame);
     for (qsizetype i = 0; i < samples.size(); ++i) {
+        const node_data_t &node = frame.nodes.at(i).sample;
+        const NodeHealth &health = m_linkMonitor->node(node.id);
+        samples[i].timestampMs = frame.family == frame_family::GatewayBatch63 ? frame.gw_ts_ms : node.time_ms;
+        samples[i].missing = health.missing;
+        samples[i].hasClock = health.hasClock;
         const NormalizedAttitude attitude = attitude_convention::normalizeAttitude(frame.nodes.at(i), m_preset);
         if (!attitude.valid)
             continue;
@@ -162,7 +168,6 @@ void form_base::setUpLanguages()
     auto *button = new QToolButton(this);
     button->setObjectName(QStringLiteral("button_language"));
     button->setAutoRaise(true);
-    button->setPopupMode(QToolButton::InstantPopup);
     auto *menu = new QMenu(this);
     menu->setObjectName(QStringLiteral("menu_language"));
     auto *group = new QActionGroup(menu);
@@ -188,7 +193,11 @@ void form_base::setUpLanguages()
         chooseLanguage(action->data().toString());
         showCurrent();
     });
-    button->setMenu(menu);
+    // Not the button's own menu: its nested event loop would hold a command's window open as long as the menu is.
+    connect(button, &QToolButton::pressed, menu, [button, menu] {
+        menu->popup(button->mapToGlobal(QPoint(button->width() - menu->sizeHint().width(), button->height())));
+    });
+    connect(menu, &QMenu::aboutToHide, button, [button] { button->setDown(false); });
     button->setVisible(!menu->isEmpty());
     m_ui->menubar->setCornerWidget(button);
     m_ui->menuView->addMenu(menu);
@@ -197,9 +206,12 @@ void form_base::setUpLanguages()
 void form_base::chooseLanguage(const QString &setting)
 {
     AppLanguageManager &manager = AppLanguageManager::instance();
-    if (setting == manager.currentLanguage() || manager.setLanguage(setting))
+    if (manager.setLanguage(setting))
         return;
-    QMessageBox::warning(this, appWindowTitle(),
-                         tr("The translation for %1 cannot be loaded. The language stays as it is.")
-                             .arg(manager.languageForSetting(setting)->displayName));
+    auto *box = new QMessageBox(QMessageBox::Warning, appWindowTitle(),
+                                tr("The translation for %1 cannot be loaded. The language stays as it is.")
+                                    .arg(manager.languageForSetting(setting)->displayName),
+                                QMessageBox::Ok, this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
 }

@@ -11,6 +11,7 @@
 
 #include "app/settings_keys.h"
 #include "app/theme.h"
+#include "app/window_place.h"
 #include "app/value_format.h"
 #include "ui/device_text.h"
 #include "ui_form_link_health.h"
@@ -128,8 +129,7 @@ form_link_health::form_link_health(const LinkMonitor *monitor, QWidget *parent)
     connect(m_ui->BTN_copy, &QPushButton::clicked, this, [this] { QGuiApplication::clipboard()->setText(text()); });
     connect(m_ui->BTN_close, &QPushButton::clicked, this, &form_link_health::close);
     m_ui->CARD_nodes->hide(); // until there are some
-    m_hasPlace = restoreGeometry(
-        QSettings(settings_keys::kFile, QSettings::IniFormat).value(settings_keys::kLinkHealthGeometry).toByteArray());
+    m_hasPlace = window_place::restore(this, settings_keys::kLinkHealthGeometry);
 }
 
 form_link_health::~form_link_health() = default;
@@ -256,7 +256,7 @@ void form_link_health::showEvent(QShowEvent *event)
 void form_link_health::hideEvent(QHideEvent *event)
 {
     m_timer.stop();
-    QSettings(settings_keys::kFile, QSettings::IniFormat).setValue(settings_keys::kLinkHealthGeometry, saveGeometry());
+    window_place::store(this, settings_keys::kLinkHealthGeometry);
     QDialog::hideEvent(event);
 }
 

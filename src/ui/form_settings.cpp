@@ -10,7 +10,9 @@
 #include <QSignalBlocker>
 #include <QStyle>
 
+#include "app/settings_keys.h"
 #include "app/theme.h"
+#include "app/window_place.h"
 #include "ui/device_text.h"
 #include "ui_form_settings.h"
 
@@ -99,6 +101,7 @@ form_settings::form_settings(QWidget *parent)
     connect(m_ui->CB_rate, &QComboBox::currentIndexChanged, this, &form_settings::storeChoice);
     connect(m_ui->CB_mode, &QComboBox::currentIndexChanged, this, &form_settings::storeChoice);
     showDevice();
+    window_place::restore(this, settings_keys::kSettingsGeometry);
 }
 
 form_settings::~form_settings() = default;
@@ -149,6 +152,7 @@ void form_settings::hideEvent(QHideEvent *event)
 {
     QDialog::hideEvent(event);
     if (!event->spontaneous()) {
+        window_place::store(this, settings_keys::kSettingsGeometry);
         m_closePending = true;
         finishClosing();
     }

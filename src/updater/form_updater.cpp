@@ -3,16 +3,17 @@
 #include <QClipboard>
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QScrollBar>
 #include <QSettings>
 #include <QShowEvent>
 #include <QStyle>
-#include <QThread>
 
 #include "app/settings_keys.h"
 #include "app/theme.h"
+#include "app/window_place.h"
 #include "link/kboot_protocol.h"
 #include "link/kv_uart_port.h"
 #include "ui_form_updater.h"
@@ -21,7 +22,6 @@
 
 namespace {
 
-constexpr int kAttemptsPerPacket = 2;
 constexpr int kLogLines = 10000;
 constexpr qint64 kTransferIntervalMs = 100;
 constexpr char kConnectedStyle[] = "background-color: #90EE90;";
@@ -36,6 +36,7 @@ form_updater::form_updater(QWidget *parent) : QDialog(parent), m_ui(std::make_un
     QScrollBar *bar = m_ui->PTE_log->verticalScrollBar();
     connect(bar, &QScrollBar::rangeChanged, bar, [bar](int, int maximum) { bar->setValue(maximum); });
     retranslateDynamicUi();
+    window_place::restore(this, settings_keys::kUpdaterGeometry);
 }
 
 form_updater::~form_updater() = default;
@@ -44,7 +45,7 @@ void form_updater::set_serial_instance(KvUartPort *port)
 {
     if (port == nullptr)
         return;
-    m_port = port;
+    m_line.setPort(port);
     connect(port->kboot(), &KbootProtocol::downloadProgress, this, &form_updater::onUpdateProgressBar);
     connect(port->kboot(), &KbootProtocol::downloadAdvanced, this, &form_updater::onDownloadAdvanced);
     connect(port, &KvUartPort::bootloaderDownloadFinished, this, &form_updater::onBootloaderDownloadFinished);
@@ -58,23 +59,40 @@ void form_updater::set_connection_open(bool open)
     update_button_states();
 }
 
+void form_updater::setBootloaderLeft()
+{
+    if (m_downloading)
+        return;
+    setConnected(false);
+    showStatus(tr("The device restarts with the firmware that it has."), false);
+    update_button_states();
+}
+
 void form_updater::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
     if (event->spontaneous() || m_downloading)
         return;
+    m_question.withdraw();
     reset_ui_state();
-    const QString before = m_imagePath;
-    m_imagePath = QDir::currentPath() + QLatin1String("/firmware.hex");
+    QString path = QDir::currentPath() + QLatin1String("/firmware.hex");
     QSettings settings(settings_keys::kFile, QSettings::IniFormat);
     const QString stored = settings.value(settings_keys::kUpdaterPath).toString();
     if (QFileInfo(stored).isFile())
-        m_imagePath = stored;
+        path = stored;
     else
-        settings.setValue(settings_keys::kUpdaterPath, m_imagePath);
-    m_imageLoaded = m_imageLoaded && m_imagePath == before;
-    log(m_imagePath.isEmpty() ? tr("Please select image\n") : tr("PATH: %1\n").arg(m_imagePath));
+        settings.setValue(settings_keys::kUpdaterPath, path);
+    if (path != m_image.path())
+        m_image.choose(path);
+    log(path.isEmpty() ? tr("Please select image\n") : tr("PATH: %1\n").arg(path));
     lookAtImage();
+}
+
+void form_updater::hideEvent(QHideEvent *event)
+{
+    QDialog::hideEvent(event);
+    if (!event->spontaneous())
+        window_place::store(this, settings_keys::kUpdaterGeometry);
 }
 
 void form_updater::changeEvent(QEvent *event)
@@ -92,10 +110,61 @@ void form_updater::changeEvent(QEvent *event)
 
 void form_updater::reject()
 {
-    if (m_downloading)
+    if (m_downloading) {
         showStatus(tr("The download has to end first: without it the device has no complete firmware."), true);
-    else
-        QDialog::reject();
+        return;
+    }
+    QDialog::reject();
+    if (m_connected)
+        m_question.ask(parentWidget() != nullptr ? parentWidget() : this,
+                       tr("The device is still in its bootloader: it sends no data until it restarts."),
+                       tr("Restart device"), tr("Leave it so"), [this] { on_BTN_restart_clicked(); });
+}
+
+void form_updater::on_BTN_restart_clicked()
+{
+    if (m_connected && !m_downloading)
+        emit restartRequested();
+}
+
+void form_updater::on_BTN_stop_clicked()
+{
+    if (m_downloading && !m_stopping)
+        m_question.ask(this,
+                       tr("Stop the download? The device has no complete firmware then. Its bootloader stays: press "
+                          "Connect, then Download."),
+                       tr("Stop the download"), tr("Go on"), [this] {
+                           m_stopping = true;
+                           update_button_states();
+                           emit stopRequested();
+                       });
+}
+
+void form_updater::on_BTN_open_file_clicked()
+{
+    auto *dialog = new QFileDialog(this, tr("Open File"), QFileInfo(m_image.path()).path(), tr("Text Files(*.hex)"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    connect(dialog, &QFileDialog::fileSelected, this, &form_updater::chooseImage);
+    dialog->open();
+}
+
+void form_updater::chooseImage(const QString &path)
+{
+    if (m_downloading) // it began while the user was still choosing
+        return;
+    m_image.choose(path);
+    log(tr("FILE:%1\n").arg(path));
+    QSettings(settings_keys::kFile, QSettings::IniFormat).setValue(settings_keys::kUpdaterPath, path);
+    showStatus({}, false);
+    lookAtImage();
+}
+
+bool form_updater::load_hex_file()
+{
+    const FirmwareImage::Problem problem = m_image.load();
+    log(updater_text::loadLog(problem, m_image));
+    return problem == FirmwareImage::Problem::None;
 }
 
 void form_updater::on_BTN_connect_clicked()
@@ -114,17 +183,15 @@ void form_updater::on_BTN_connect_clicked()
     m_ui->LBL_bootloader->setText(updater_text::step(BootloaderStep::Restart));
     repaint(); // the last chance before the wait
 
-    const bool connected = runConnect();
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    const bool connected = m_line.connectBootloader();
+    QGuiApplication::restoreOverrideCursor();
     if (connected) {
-        m_facts = facts();
-        logFacts();
+        m_facts = m_line.facts();
+        log(updater_text::factsLog(m_facts));
     } else {
-        log(tr("CONNECT ERR\r\n"));
-        log(tr("Please check:\n"));
-        log(tr("  - Device is powered on\n"));
-        log(tr("  - Serial port is correct\n"));
-        log(tr("  - Bootloader is installed\n"));
-        showStatus(updater_text::connectFailure(outcome()), true);
+        log(updater_text::connectFailureLog());
+        showStatus(updater_text::connectFailure(m_line.outcome()), true);
     }
     setConnected(connected);
     // Clicks of an impatient user during the wait: the buttons are still disabled.
@@ -135,31 +202,6 @@ void form_updater::on_BTN_connect_clicked()
         m_ui->BTN_download->setFocus();
 }
 
-bool form_updater::runConnect()
-{
-    if (m_port == nullptr)
-        return false;
-    // While the port is closed it lives in this thread, which must not wait for itself.
-    const bool isHere = m_port->thread() == QThread::currentThread();
-    bool connected = false;
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    QMetaObject::invokeMethod(m_port, "connectBootloader", isHere ? Qt::DirectConnection : Qt::BlockingQueuedConnection,
-                              Q_RETURN_ARG(bool, connected));
-    QGuiApplication::restoreOverrideCursor();
-    return connected;
-}
-
-void form_updater::logFacts()
-{
-    log(tr("Connect OK\n"));
-    log(tr("PKT SIZE:%1\n").arg(m_facts.maxPacketSize));
-    log(tr("FLASH SIZE:%1KB\n").arg(m_facts.flashSizeKb));
-    log(tr("SDID:") + m_facts.deviceId + u'\n');
-    log(tr("KBOOT:%1.%2.%3\n").arg(m_facts.versionMajor).arg(m_facts.versionMinor).arg(m_facts.versionBugfix));
-    log(tr("SECTOR:%1\n").arg(m_facts.sectorSize));
-    log(tr("\nReady to download firmware.\n"));
-}
-
 void form_updater::on_BTN_download_clicked()
 {
     if (m_downloading)
@@ -168,7 +210,7 @@ void form_updater::on_BTN_download_clicked()
     m_ui->BTN_download->setEnabled(false);
     m_ui->BTN_connect->setEnabled(false);
     showStatus({}, false);
-    bool hasImage = m_imageLoaded && !m_image.isEmpty();
+    bool hasImage = m_image.isLoaded();
     if (!hasImage) {
         log(tr("\n--- Loading HEX file ---\n"));
         hasImage = load_hex_file();
@@ -176,16 +218,13 @@ void form_updater::on_BTN_download_clicked()
             log(tr("NO IMAGE\r\n"));
             showStatus(tr("The image could not be loaded; the device is as it was. Choose another file."), true);
         }
-        showImage();
+        lookAtImage();
     }
     if (hasImage && m_connected) {
         log(tr("\n--- Starting download ---\n"));
         m_downloadClock.start();
         m_dataBeganMs = 0;
-        const bool isQueued = m_port != nullptr
-                              && QMetaObject::invokeMethod(
-                                  m_port, "startDownloadBootloader", Qt::QueuedConnection, Q_ARG(QByteArray, m_image),
-                                  Q_ARG(int, int(hex2bin::start_addr())), Q_ARG(int, kAttemptsPerPacket));
+        const bool isQueued = m_line.startDownload(m_image.bytes(), int(hex2bin::start_addr()));
         setDownloading(isQueued);
         if (!isQueued) {
             log(tr("Download failed\n"));
@@ -213,26 +252,29 @@ void form_updater::onDownloadAdvanced(BootloaderStep step, qint64 acknowledgedBy
         showStep();
         if (step == BootloaderStep::Data)
             m_dataBeganMs = now;
-    } else if (now < m_transferShownMs + kTransferIntervalMs && acknowledgedBytes < m_image.size()) {
+    } else if (now < m_transferShownMs + kTransferIntervalMs && acknowledgedBytes < m_image.bytes().size()) {
         return;
     }
     m_transferShownMs = now;
     const qint64 elapsedMs = step == BootloaderStep::Data ? now - m_dataBeganMs : 0;
-    m_ui->LBL_transfer->setText(updater_text::transfer(acknowledgedBytes, m_image.size(), elapsedMs));
+    m_ui->LBL_transfer->setText(updater_text::transfer(acknowledgedBytes, m_image.bytes().size(), elapsedMs));
 }
 
 void form_updater::onBootloaderDownloadFinished(bool ok)
 {
     log(ok ? tr("Update complete, image running...\n") : tr("Download failed\n"));
-    const BootloaderOutcome end = outcome();
-    if (ok)
+    const BootloaderOutcome end = m_line.outcome();
+    if (!ok && m_stopping)
+        showStatus(updater_text::stopped(end, m_image.bytes().size()), true);
+    else if (ok)
         showStatus(updater_text::downloadSuccess(end, m_downloadClock.isValid() ? m_downloadClock.elapsed() : 0),
                    updater_text::isDoubtful(end));
     else
-        showStatus(updater_text::downloadFailure(end, m_image.size(), m_facts.maxPacketSize), true);
+        showStatus(updater_text::downloadFailure(end, m_image.bytes().size(), m_facts.maxPacketSize), true);
     m_step = BootloaderStep::Idle;
     m_result = ok;
-    m_ui->LBL_transfer->setText(updater_text::transfer(end.acknowledgedBytes, m_image.size(), 0));
+    m_stopping = false;
+    m_ui->LBL_transfer->setText(updater_text::transfer(end.acknowledgedBytes, m_image.bytes().size(), 0));
     setConnected(false);
     setDownloading(false);
     update_button_states();
@@ -246,6 +288,8 @@ void form_updater::update_button_states()
     m_ui->BTN_connect->setEnabled(!m_downloading);
     m_ui->BTN_download->setEnabled(m_connected && !m_downloading);
     m_ui->BTN_close->setEnabled(!m_downloading);
+    m_ui->BTN_restart->setEnabled(m_connected && !m_downloading);
+    m_ui->BTN_stop->setEnabled(m_downloading && !m_stopping);
     m_ui->BTN_connect->setText(m_connected ? tr("Connected") : tr("Connect"));
     m_ui->BTN_connect->setProperty("connected", m_connected);
     m_ui->BTN_connect->setStyleSheet(m_connected ? QLatin1String(kConnectedStyle) : QString());
@@ -256,6 +300,12 @@ void form_updater::update_button_states()
     m_ui->BTN_download->setToolTip(m_downloading ? busy
                                    : m_connected ? tr("Erases the device's firmware and writes the image")
                                                  : tr("Press Connect first."));
+    m_ui->BTN_restart->setToolTip(m_downloading ? busy
+                                  : m_connected ? tr("Ends the bootloader: the device starts the firmware that it has")
+                                                : tr("No bootloader is connected."));
+    m_ui->BTN_stop->setToolTip(m_stopping      ? tr("The download is being stopped.")
+                               : m_downloading ? tr("Stops the download; asks first")
+                                               : tr("No download is running."));
     m_ui->LBL_bootloader->setText(m_connected || m_downloading
                                       ? updater_text::facts(m_facts)
                                       : tr("Not connected. Connect restarts the device; this takes up to 4 s."));
@@ -295,6 +345,7 @@ void form_updater::setConnected(bool connected)
     if (m_connected == connected)
         return;
     m_connected = connected;
+    m_question.withdraw();
     emit bootloaderConnectedChanged(connected);
 }
 
@@ -303,6 +354,7 @@ void form_updater::setDownloading(bool downloading)
     if (m_downloading == downloading)
         return;
     m_downloading = downloading;
+    m_question.withdraw();
     emit downloadRunningChanged(downloading);
 }
 
@@ -318,7 +370,7 @@ void form_updater::showStatus(const QString &text, bool isProblem)
 void form_updater::on_BTN_copy_clicked()
 {
     QStringList lines{windowTitle() + QLatin1String(", ") + QDateTime::currentDateTime().toString(Qt::ISODate),
-                      QDir::toNativeSeparators(m_imagePath)};
+                      QDir::toNativeSeparators(m_image.path())};
     for (const QLabel *label :
          {m_ui->LBL_image, m_ui->LBL_doubts, m_ui->LBL_bootloader, m_ui->LBL_transfer, m_ui->LBL_status}) {
         if (!label->text().isEmpty())
@@ -328,14 +380,18 @@ void form_updater::on_BTN_copy_clicked()
     QGuiApplication::clipboard()->setText(lines.join(u'\n'));
 }
 
-// The flag is looked at first: it orders what the client has written before what is read here.
-
-BootloaderOutcome form_updater::outcome() const
+void form_updater::lookAtImage()
 {
-    return m_port == nullptr || m_port->isBootloaderBusy() ? BootloaderOutcome() : m_port->kboot()->outcome();
+    m_image.look();
+    showImage();
 }
 
-BootloaderFacts form_updater::facts() const
+void form_updater::showImage()
 {
-    return m_port == nullptr || m_port->isBootloaderBusy() ? BootloaderFacts() : m_port->kboot()->facts();
+    const QString doubts = updater_text::doubts(m_image, m_connected ? m_facts.flashSizeKb : 0);
+    m_ui->LE_path->setText(QDir::toNativeSeparators(m_image.path()));
+    m_ui->LE_path->setToolTip(m_image.path().toHtmlEscaped());
+    m_ui->LBL_image->setText(updater_text::image(m_image));
+    m_ui->LBL_doubts->setText(doubts);
+    m_ui->LBL_doubts->setVisible(!doubts.isEmpty());
 }

@@ -1,14 +1,14 @@
 #pragma once
 
-#include <QDateTime>
 #include <QDialog>
 #include <QElapsedTimer>
-#include <QPointer>
 
 #include <memory>
 #include <optional>
 
-#include "link/bootloader_state.h"
+#include "app/question_box.h"
+#include "updater/bootloader_line.h"
+#include "updater/firmware_image.h"
 
 class KvUartPort;
 
@@ -19,6 +19,9 @@ class form_updater;
 /// Firmware update: the user picks an Intel HEX image, has the device restart into its bootloader, and downloads. What
 /// could be wrong with the image is shown before anything is erased, but nothing is refused. Failures end in the log
 /// and in a sentence that says what state the device is in and what to do next, never in a message box.
+///
+/// A download can be stopped, and a device that waits in its bootloader be restarted: both are only asked for here, by
+/// stopRequested() and restartRequested(); who has the line does it.
 ///
 /// All that touches the port runs in the port worker's thread. Connecting blocks for up to 4 s; a download is told by
 /// downloadRunningChanged(), and until it has ended the window stays open and the port has to be left alone. The image
@@ -36,6 +39,8 @@ public:
 
     /// The port worker, once, before anything is pressed; not owned, may die first.
     void set_serial_instance(KvUartPort *port);
+    /// The device was told to leave its bootloader.
+    void setBootloaderLeft();
     /// Tells that a port was opened or closed: a bootloader that was connected before no longer is.
     void set_connection_open(bool open);
 
@@ -52,61 +57,52 @@ signals:
     void downloadRunningChanged(bool running);
     /// A bootloader answers, or no longer does. In between, send the device nothing.
     void bootloaderConnectedChanged(bool connected);
+    /// The user wants the connected bootloader to be left: reset the device, then call setBootloaderLeft().
+    void restartRequested();
+    /// The user wants the running download to be stopped, and was asked whether it is meant. The download's end comes
+    /// as always, by onBootloaderDownloadFinished().
+    void stopRequested();
 
 public slots:
     void on_BTN_open_file_clicked();
     void on_BTN_connect_clicked();
     void on_BTN_download_clicked();
+    void on_BTN_restart_clicked();
+    void on_BTN_stop_clicked();
     void on_BTN_copy_clicked();
     void onUpdateProgressBar(int percent);
     void onBootloaderDownloadFinished(bool ok);
-    /// Closes the window, unless a download runs.
+    /// Closes the window, unless a download runs; says so when the device is left in its bootloader.
     void reject() override;
 
 protected:
     void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:
-    /// The image file as it was when it was last looked at.
-    struct ImageFile
-    {
-        QString path;
-        QDateTime modified;
-        qint64 size = -1;
-        bool operator==(const ImageFile &) const = default;
-    };
-
-    static ImageFile fileAt(const QString &path);
     void update_button_states();
     void reset_ui_state();
     void retranslateDynamicUi();
     void onDownloadAdvanced(BootloaderStep step, qint64 acknowledgedBytes);
     void log(const QString &text);
-    void logFacts();
+    void chooseImage(const QString &path);
     void lookAtImage();
     void showImage();
     void setConnected(bool connected);
     void setDownloading(bool downloading);
     void showStep();
     void showStatus(const QString &text, bool isProblem);
-    bool runConnect();
-    BootloaderOutcome outcome() const;
-    BootloaderFacts facts() const;
 
     std::unique_ptr<Ui::form_updater> m_ui;
-    QPointer<KvUartPort> m_port;
-    QString m_imagePath;
-    QByteArray m_image;        ///< of the last successful load
-    quint32 m_loadAddress = 0; ///< of the last successful load
+    BootloaderLine m_line;
+    FirmwareImage m_image;
+    QuestionBox m_question;
     bool m_connected = false;
-    bool m_imageLoaded = false;
     bool m_downloading = false;
+    bool m_stopping = false; ///< the running download is to be stopped
 
     // what the window shows beside the log
-    ImageFile m_shownFile;
-    QByteArray m_shownImage; ///< the loaded image, or a look at the file that would be loaded; empty: none
-    quint32 m_shownFileAddress = 0;
     BootloaderFacts m_facts;
     BootloaderStep m_step = BootloaderStep::Idle; ///< of the running download
     std::optional<bool> m_result;                 ///< of the last download, until the next is prepared

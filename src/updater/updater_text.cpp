@@ -84,7 +84,62 @@ QString nextStep(const BootloaderOutcome &outcome)
     return Text::tr("The bootloader stays in the device: press Connect, then Download.");
 }
 
+QString doubt(image_check::Doubt doubt, const FirmwareImage &image, int flashSizeKb)
+{
+    switch (doubt) {
+    case image_check::Doubt::OtherAddress:
+        return Text::tr("The file begins at %1, but it will be written to %2, where the first file of this run began. "
+                        "Restart the program to write it to its own address.")
+            .arg(updater_text::address(image.fileAddress()), updater_text::address(image.targetAddress()));
+    case image_check::Doubt::TooLarge:
+        return Text::tr("The image does not fit the %1 KB of flash from this address on.").arg(grouped(flashSizeKb));
+    case image_check::Doubt::StackPointer:
+        return Text::tr("The stack pointer is no word address in RAM.");
+    case image_check::Doubt::ResetVector:
+        return Text::tr("The reset vector is no Thumb address inside the image.");
+    case image_check::Doubt::TooSmall:
+        return Text::tr("The image is very small for a firmware.");
+    }
+    return {};
+}
+
+QString hex8(quint32 value)
+{
+    return QStringLiteral("%1").arg(value, 8, 16, QLatin1Char('0'));
+}
+
 } // namespace
+
+QString updater_text::factsLog(const BootloaderFacts &facts)
+{
+    return Text::tr("Connect OK\n") + Text::tr("PKT SIZE:%1\n").arg(facts.maxPacketSize)
+           + Text::tr("FLASH SIZE:%1KB\n").arg(facts.flashSizeKb) + Text::tr("SDID:") + facts.deviceId + u'\n'
+           + Text::tr("KBOOT:%1.%2.%3\n").arg(facts.versionMajor).arg(facts.versionMinor).arg(facts.versionBugfix)
+           + Text::tr("SECTOR:%1\n").arg(facts.sectorSize) + Text::tr("\nReady to download firmware.\n");
+}
+
+QString updater_text::connectFailureLog()
+{
+    return Text::tr("CONNECT ERR\r\n") + Text::tr("Please check:\n") + Text::tr("  - Device is powered on\n")
+           + Text::tr("  - Serial port is correct\n") + Text::tr("  - Bootloader is installed\n");
+}
+
+QString updater_text::loadLog(FirmwareImage::Problem problem, const FirmwareImage &image)
+{
+    switch (problem) {
+    case FirmwareImage::Problem::NoPath:
+        return Text::tr("No file selected\n");
+    case FirmwareImage::Problem::NoFile:
+        return Text::tr("Failed to open file\n");
+    case FirmwareImage::Problem::NoHex:
+        return Text::tr("Failed to parse HEX file\n");
+    case FirmwareImage::Problem::None:
+        break;
+    }
+    const auto [stackPointer, resetVector] = image_check::vectors(image.bytes());
+    return Text::tr("SIZE:%1 bytes\n").arg(image.bytes().size()) + Text::tr("SP:0x%1\n").arg(hex8(stackPointer))
+           + Text::tr("PC:0x%1\n").arg(hex8(resetVector)) + Text::tr("ADDR:0x%1\n").arg(hex8(image.loadAddress()));
+}
 
 QString updater_text::step(BootloaderStep step)
 {
@@ -120,6 +175,11 @@ QString updater_text::downloadFailure(const BootloaderOutcome &outcome, qint64 t
     if (outcome.targetStatus != 0)
         sentences.insert(1, Text::tr("It had reported status %1 before.").arg(outcome.targetStatus));
     return joinSentences(sentences);
+}
+
+QString updater_text::stopped(const BootloaderOutcome &outcome, qint64 total)
+{
+    return joinSentences({Text::tr("The download was stopped."), deviceState(outcome, total), nextStep(outcome)});
 }
 
 bool updater_text::isDoubtful(const BootloaderOutcome &outcome)
@@ -158,33 +218,30 @@ QString updater_text::facts(const BootloaderFacts &facts)
              grouped(facts.flashSizeKb), grouped(facts.sectorSize), grouped(facts.maxPacketSize), facts.deviceId);
 }
 
-QString updater_text::image(const QByteArray &image, quint32 loadAddress)
+QString updater_text::image(const FirmwareImage &image)
 {
-    const auto [stackPointer, resetVector] = image_check::vectors(image);
+    if (!image.exists())
+        return Text::tr("There is no file at this place: choose an image.");
+    if (image.shown().isEmpty())
+        return Text::tr("This is no Intel HEX file that can be loaded; the log file debug.log says why. Choose another "
+                        "one.");
+    const auto [stackPointer, resetVector] = image_check::vectors(image.shown());
     return Text::tr("%1 bytes from %2, stack pointer %3, reset vector %4")
-        .arg(grouped(image.size()), address(loadAddress), address(stackPointer), address(resetVector));
+        .arg(grouped(image.shown().size()), address(image.targetAddress()), address(stackPointer),
+             address(resetVector));
 }
 
-QString updater_text::doubt(image_check::Doubt doubt, quint32 fileAddress, quint32 loadAddress, int flashSizeKb)
+QString updater_text::doubts(const FirmwareImage &image, int flashSizeKb)
 {
-    switch (doubt) {
-    case image_check::Doubt::OtherAddress:
-        return Text::tr("The file begins at %1, but it will be written to %2, where the first file of this run began. "
-                        "Restart the program to write it to its own address.")
-            .arg(address(fileAddress), address(loadAddress));
-    case image_check::Doubt::TooLarge:
-        return Text::tr("The image does not fit the %1 KB of flash from this address on.").arg(grouped(flashSizeKb));
-    case image_check::Doubt::StackPointer:
-        return Text::tr("The stack pointer is no word address in RAM.");
-    case image_check::Doubt::ResetVector:
-        return Text::tr("The reset vector is no Thumb address inside the image.");
-    case image_check::Doubt::TooSmall:
-        return Text::tr("The image is very small for a firmware.");
-    }
-    return {};
+    QStringList lines;
+    for (const image_check::Doubt found : image.doubts(flashSizeKb))
+        lines.append(doubt(found, image, flashSizeKb));
+    if (image.hasChanged())
+        lines.append(Text::tr("The file has changed since it was loaded. Choose it again to load it anew."));
+    return lines.join(u'\n');
 }
 
 QString updater_text::address(quint32 address)
 {
-    return QStringLiteral("0x%1").arg(address, 8, 16, QLatin1Char('0'));
+    return QStringLiteral("0x") + hex8(address);
 }

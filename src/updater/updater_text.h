@@ -3,7 +3,7 @@
 #include <QString>
 
 #include "link/bootloader_state.h"
-#include "updater/image_check.h"
+#include "updater/firmware_image.h"
 
 /// Sentences of the firmware update for people.
 namespace updater_text {
@@ -11,11 +11,19 @@ namespace updater_text {
 /// "Erasing the flash…"
 QString step(BootloaderStep step);
 
+/// Lines of the log: the end of a connect, and of loading the image.
+QString factsLog(const BootloaderFacts &facts);
+QString connectFailureLog();
+QString loadLog(FirmwareImage::Problem problem, const FirmwareImage &image);
+
 /// Why a connect failed, what state the device is in and what to do next.
 QString connectFailure(const BootloaderOutcome &outcome);
 
 /// The same of a download of `total` bytes to a target with packets of `packetSize` bytes.
 QString downloadFailure(const BootloaderOutcome &outcome, qint64 total, int packetSize);
+
+/// The user has stopped the download: what state the device is in and what to do next.
+QString stopped(const BootloaderOutcome &outcome, qint64 total);
 
 /// Something speaks against a download that went through to its end.
 bool isDoubtful(const BootloaderOutcome &outcome);
@@ -29,10 +37,11 @@ QString transfer(qint64 done, qint64 total, qint64 elapsedMs);
 /// "Bootloader 2.1.3, 128 KB of flash in sectors of 1,024 bytes, packets of up to 32 bytes, chip 0ab1c2d3"
 QString facts(const BootloaderFacts &facts);
 
-/// "65,536 bytes from 0x08000000, stack pointer 0x20004000, reset vector 0x080000c1"
-QString image(const QByteArray &image, quint32 loadAddress);
+/// "65,536 bytes from 0x08000000, stack pointer 0x20004000, reset vector 0x080000c1", or why there is no image.
+QString image(const FirmwareImage &image);
 
-QString doubt(image_check::Doubt doubt, quint32 fileAddress, quint32 loadAddress, int flashSizeKb);
+/// One line for each doubt about an image for a target with `flashSizeKb` of flash (below 1: not known); empty: none.
+QString doubts(const FirmwareImage &image, int flashSizeKb);
 
 /// "0x0800a000"
 QString address(quint32 address);

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "app/app_language_manager.h"
 #include "wave/chart_text.h"
 
 namespace {
@@ -31,6 +32,8 @@ ChartViewState::ChartViewState(QObject *parent) : PlotViewState(MainAxis::X, {-1
         else
             setStale(m_bridge && m_bridge->hasData() && m_bridge->playing());
     });
+    connect(&AppLanguageManager::instance(), &AppLanguageManager::languageChanged, this,
+            &ChartViewState::rangeTextChanged);
 }
 
 void ChartViewState::setBridge(WaveChartBridge *bridge)

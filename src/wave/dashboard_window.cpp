@@ -6,38 +6,21 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QScreen>
-#include <QSettings>
 #include <QSurfaceFormat>
 
 #include <utility>
 
 #include "app/app_language_manager.h"
 #include "app/frame_gate.h"
-#include "app/settings_keys.h"
 #include "app/theme.h"
+#include "app/window_place.h"
 #include "wave/chart_saver.h"
 
 namespace {
 
 constexpr QSize kMinimumSize{720, 480};
 constexpr QSize kDefaultSize{1280, 680};
-constexpr int kFrame = 48;    ///< room for the window's frame and a task bar
-constexpr int kTitleBar = 32; ///< by which a window is moved, so it has to be on the screen
-
-/// `wanted` made to fit its screen; centred on the first screen when it lies on none.
-QRect onScreen(QRect wanted)
-{
-    const QScreen *screen = QGuiApplication::screenAt(wanted.center());
-    const QRect available =
-        (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry().adjusted(0, kTitleBar, 0, 0);
-    wanted.setSize(wanted.size().boundedTo(available.size()).expandedTo(kMinimumSize));
-    if (!screen)
-        wanted.moveCenter(available.center());
-    wanted.moveLeft(
-        qBound(available.left(), wanted.left(), qMax(available.left(), available.right() - wanted.width())));
-    wanted.moveTop(qBound(available.top(), wanted.top(), qMax(available.top(), available.bottom() - wanted.height())));
-    return wanted;
-}
+constexpr int kFrame = 48; ///< room for the window's frame and a task bar
 
 } // namespace
 
@@ -96,33 +79,18 @@ void DashboardWindow::hideEvent(QHideEvent *event)
     QQuickView::hideEvent(event);
     if (!std::exchange(m_isOpen, false))
         return;
-    savePlace();
+    window_place::store(this, m_settingsGroup);
     setOpen(false);
 }
 
 void DashboardWindow::restorePlace()
 {
-    QSettings settings(settings_keys::kFile, QSettings::IniFormat);
-    settings.beginGroup(m_settingsGroup);
-    QRect place = settings.value(settings_keys::kDashboardPlace).toRect();
-    if (place.isEmpty()) {
-        const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
-        place.setSize(kDefaultSize.boundedTo(available.size() - QSize(kFrame, kFrame)));
-        place.moveCenter(available.center());
-    }
-    setGeometry(onScreen(place));
-    if (settings.value(settings_keys::kDashboardMaximized).toBool())
-        setWindowStates(Qt::WindowMaximized);
-}
-
-void DashboardWindow::savePlace() const
-{
-    QSettings settings(settings_keys::kFile, QSettings::IniFormat);
-    settings.beginGroup(m_settingsGroup);
-    const bool isMaximized = windowStates() & Qt::WindowMaximized;
-    settings.setValue(settings_keys::kDashboardMaximized, isMaximized);
-    if (!isMaximized)
-        settings.setValue(settings_keys::kDashboardPlace, geometry());
+    if (window_place::restore(this, m_settingsGroup))
+        return;
+    const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
+    QRect place({}, kDefaultSize.boundedTo(available.size() - QSize(kFrame, kFrame)).expandedTo(minimumSize()));
+    place.moveCenter(available.center());
+    setGeometry(place);
 }
 
 void DashboardWindow::showLoadFailure()

@@ -45,7 +45,6 @@ protected:
 
 private:
     void restorePlace();
-    void savePlace() const;
     void showLoadFailure();
 
     QLatin1String m_settingsGroup;

@@ -22,6 +22,8 @@ public:
     void updateGatewaySamples(const QList<GatewaySample> &samples) { m_bridge.updateGatewaySamples(samples); }
     /// Batches per second.
     void setFrameRate(unsigned int batchesPerSecond) { m_bridge.setFrameRate(batchesPerSecond); }
+    /// The connection has ended: everything stays, marked as ended, until clear() at the next opening.
+    void setEnded(bool ended) { m_bridge.setEnded(ended); }
     /// Forgets the gateway: nodes, charts and choices.
     void clear() { m_bridge.clear(); }
 

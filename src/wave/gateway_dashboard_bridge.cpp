@@ -24,6 +24,8 @@ GatewayDashboardBridge::GatewayDashboardBridge(QObject *parent) : QObject(parent
 
 QString GatewayDashboardBridge::summary() const
 {
+    if (m_ended)
+        return tr("Nodes %1 · connection ended").arg(nodeCount());
     int late = 0;
     int gone = 0;
     for (const GatewayNodeStatus &node : m_nodeModel.nodes()) {
@@ -135,17 +137,16 @@ qint64 GatewayDashboardBridge::hostNowMs()
 
 void GatewayDashboardBridge::updateGatewaySamples(const QList<GatewaySample> &samples, qint64 hostMs)
 {
-    if (!m_active)
+    if (!m_active || m_ended)
         return;
     m_tracker.addSamples(samples, hostMs);
     for (const GatewaySample &sample : samples) {
         const auto node = findCharts(sample.node.id);
         if (node == m_charts.end())
             continue;
-        const quint32 stamp = node->clock.next(sample.timestampMs, std::max(1U, 1000U / std::max(m_frameRate, 1U)));
         const std::array euler{sample.node.roll, sample.node.pitch, sample.node.yaw};
         for (const ChartSample &values : ChartSamples(sample.node, euler, sample.fields))
-            node->charts[size_t(values.type)]->pushSample(values.values.data(), values.count, stamp);
+            node->charts[size_t(values.type)]->pushSample(values.values.data(), values.count, sample.timestampMs);
     }
 }
 
@@ -171,16 +172,35 @@ void GatewayDashboardBridge::setDashboardActive(bool active)
         // A chosen node that does not come back is shown as gone, and can be dropped.
         for (const NodeCharts &node : m_charts)
             m_tracker.expect(node.id);
-        m_refreshTimer.start();
+        updateRefreshing();
         refresh();
     } else {
-        m_refreshTimer.stop();
+        updateRefreshing();
         forgetSamples();
     }
 }
 
+void GatewayDashboardBridge::setEnded(bool ended)
+{
+    if (ended == m_ended)
+        return;
+    m_ended = ended;
+    m_tracker.setEnded(ended);
+    updateRefreshing();
+    refresh();
+}
+
+void GatewayDashboardBridge::updateRefreshing()
+{
+    if (m_active && !m_ended)
+        m_refreshTimer.start();
+    else
+        m_refreshTimer.stop();
+}
+
 void GatewayDashboardBridge::clear()
 {
+    setEnded(false);
     const std::vector<NodeCharts> dropped = std::exchange(m_charts, {});
     forgetSamples();
     notifyChosen();
@@ -256,7 +276,6 @@ void GatewayDashboardBridge::forgetSamples()
     m_tracker.clear();
     m_nodeModel.clear();
     for (NodeCharts &node : m_charts) {
-        node.clock.reset();
         for (WaveChartBridge *chart : node.charts)
             chart->reset();
     }

@@ -9,7 +9,6 @@
 
 #include "wave/gateway_node_model.h"
 #include "wave/gateway_node_tracker.h"
-#include "wave/sample_clock.h"
 #include "wave/sample_feed.h"
 #include "wave/wave_chart_bridge.h"
 
@@ -34,6 +33,7 @@ class GatewayDashboardBridge : public QObject
     Q_PROPERTY(QVariantList typeStates READ typeStates NOTIFY panesChanged)
     Q_PROPERTY(QVariantList panes READ panes NOTIFY panesChanged)
     Q_PROPERTY(int paneColumns READ paneColumns NOTIFY panesChanged)
+    Q_PROPERTY(bool ended READ isEnded NOTIFY nodesRefreshed)
     Q_PROPERTY(bool playing READ playing NOTIFY playingChanged)
     Q_PROPERTY(int frameRate READ frameRate NOTIFY frameRateChanged)
 
@@ -44,7 +44,7 @@ public:
 
     QString windowTitle() const { return tr("Wireless Gateway Dashboard"); }
     GatewayNodeModel *nodeModel() { return &m_nodeModel; }
-    /// How many nodes there are and how many of them are late or gone.
+    /// How many nodes there are and how many of them are late or gone, or that the connection has ended.
     QString summary() const;
     int nodeCount() const { return m_nodeModel.rowCount(); }
     /// Ids by ascending value.
@@ -58,6 +58,8 @@ public:
     QVariantList panes() const;
     /// Columns of the grid: up to three panes are stacked, so that their time axes compare; more stand in two columns.
     int paneColumns() const;
+    /// What is shown is of a connection that has ended.
+    bool isEnded() const { return m_ended; }
     bool playing() const { return m_playing; }
     int frameRate() const { return int(m_frameRate); }
     bool dashboardActive() const { return m_active; }
@@ -76,6 +78,9 @@ public:
     void setFrameRate(unsigned int samplesPerSecond);
     /// Active while the dashboard is open. Becoming inactive forgets nodes and samples; the choices stay.
     void setDashboardActive(bool active);
+    /// The connection has ended: nodes, curves and choices stay as they are, marked as ended, and samples are ignored.
+    /// clear() at the next opening ends that too.
+    void setEnded(bool ended);
     /// Forgets nodes, samples and the chosen nodes: another gateway may come.
     void clear();
     /// Brings the table up to date as of `hostMs`; runs by itself while active.
@@ -95,7 +100,6 @@ private:
     {
         quint8 id = 0;
         int slot = 0; ///< 0 to kMaxChosenNodes - 1, free again when the node is dropped
-        SampleClock clock;
         std::array<WaveChartBridge *, kSensorTypeCount> charts{}; ///< owned as children of the dashboard
     };
 
@@ -105,6 +109,7 @@ private:
     static void dropCharts(const NodeCharts &node);
     std::vector<NodeCharts>::iterator findCharts(int nodeId);
     void notifyChosen();
+    void updateRefreshing();
     void forgetSamples();
     void syncObserved();
     int selectedTypeCount() const;
@@ -115,6 +120,7 @@ private:
     std::array<bool, kSensorTypeCount> m_selectedTypes;
     bool m_playing = true;
     bool m_active = false;
+    bool m_ended = false;
     unsigned int m_frameRate = 100; ///< samples per second
     QTimer m_refreshTimer;
 };

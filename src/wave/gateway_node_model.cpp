@@ -19,6 +19,21 @@ QString quantity(const GatewayNodeStatus &node, SampleField field, double value,
 
 } // namespace
 
+QString GatewayNodeModel::stateText(NodeState state)
+{
+    switch (state) {
+    case NodeState::Live:
+        return tr("Live");
+    case NodeState::Late:
+        return tr("Late");
+    case NodeState::Gone:
+        return tr("Gone");
+    case NodeState::Ended:
+        return tr("Ended");
+    }
+    return {};
+}
+
 GatewayNodeModel::GatewayNodeModel(QObject *parent) : QAbstractListModel(parent) {}
 
 int GatewayNodeModel::rowCount(const QModelIndex &parent) const
@@ -37,7 +52,7 @@ QVariant GatewayNodeModel::data(const QModelIndex &index, int role) const
     case StateRole:
         return int(node.state);
     case StateTextRole:
-        return node.state == NodeState::Live ? tr("Live") : node.state == NodeState::Late ? tr("Late") : tr("Gone");
+        return stateText(node.state);
     case ChosenRole:
         return m_chosen.contains(int(node.id));
     case RateHzRole:
@@ -51,7 +66,7 @@ QVariant GatewayNodeModel::data(const QModelIndex &index, int role) const
     case PressureRole:
         return node.pressure;
     case RateTextRole:
-        return number(node.rateHz, 1);
+        return node.state == NodeState::Ended ? kAbsent : number(node.rateHz, 1);
     case AgeTextRole:
         if (node.ageMs < 0)
             return kAbsent;

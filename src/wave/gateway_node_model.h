@@ -15,7 +15,7 @@ class GatewayNodeModel : public QAbstractListModel
 public:
     enum Role {
         NodeIdRole = Qt::UserRole, ///< int
-        StateRole,                 ///< int, a NodeState: 0 live, 1 late, 2 gone
+        StateRole,                 ///< int, a NodeState: 0 live, 1 late, 2 gone, 3 ended
         StateTextRole,             ///< translated
         ChosenRole,                ///< bool: the node's charts are shown
         RateHzRole,                ///< double, samples per second
@@ -46,6 +46,7 @@ public:
     void retranslate() { notifyRows(0, rowCount() - 1); }
 
 private:
+    static QString stateText(NodeState state);
     void notifyRows(int first, int last);
 
     QList<GatewayNodeStatus> m_nodes;

@@ -17,7 +17,7 @@ void GatewayNodeTracker::addSamples(const QList<GatewaySample> &samples, qint64 
         addSample(m_nodes[sample.node.id], sample, hostMs);
 }
 
-void GatewayNodeTracker::addSample(Node &node, const GatewaySample &sample, qint64 hostMs)
+void GatewayNodeTracker::addSample(Node &node, const GatewaySample &sample, qint64 hostMs) const
 {
     if (!node.heard || state(node, hostMs) == NodeState::Gone) {
         node.sinceMs = hostMs;
@@ -27,10 +27,9 @@ void GatewayNodeTracker::addSample(Node &node, const GatewaySample &sample, qint
     }
     ++node.counts[size_t(hostMs / kBucketMs) % node.counts.size()];
 
-    if (node.heard && node.hasNodeTime != sample.hasNodeTime)
-        node.gaps.changeClock();
-    node.missing += node.gaps.add(sample.timestampMs, hostMs).missing;
-    node.hasNodeTime = sample.hasNodeTime;
+    node.pace.add(sample.timestampMs, hostMs);
+    node.missing = sample.missing;
+    node.hasClock = sample.hasClock;
     node.heard = true;
     node.heardMs = hostMs;
     node.sample = sample.node;
@@ -59,10 +58,12 @@ double GatewayNodeTracker::rateHz(const Node &node, qint64 hostMs)
     return double(sum) * 1000.0 / double((end - begin) * kBucketMs);
 }
 
-NodeState GatewayNodeTracker::state(const Node &node, qint64 hostMs)
+NodeState GatewayNodeTracker::state(const Node &node, qint64 hostMs) const
 {
+    if (m_isEnded)
+        return NodeState::Ended;
     const auto age = double(hostMs - node.heardMs);
-    const double late = std::max(kLatePeriods * node.gaps.periodMs(), kLateMs);
+    const double late = std::max(kLatePeriods * node.pace.periodMs(), kLateMs);
     if (!node.heard || age > std::max(2 * late, kGoneMs))
         return NodeState::Gone;
     return age > late ? NodeState::Late : NodeState::Live;
@@ -76,9 +77,9 @@ QList<GatewayNodeStatus> GatewayNodeTracker::nodes(qint64 hostMs) const
         list.append({.id = id,
                      .state = state(node, hostMs),
                      .rateHz = rateHz(node, hostMs),
-                     .ageMs = node.heard ? std::max<qint64>(hostMs - node.heardMs, 0) : -1,
+                     .ageMs = node.heard && !m_isEnded ? std::max<qint64>(hostMs - node.heardMs, 0) : -1,
                      .missing = node.missing,
-                     .hasClock = node.gaps.hasClock(),
+                     .hasClock = node.hasClock,
                      .temperature = node.sample.temperature,
                      .pressure = node.sample.pressure,
                      .fields = node.fields});

@@ -10,7 +10,12 @@
 
 /// How recently a radio node was heard. Three periods of silence, but at least half a second, are late; twice that, but
 /// at least two seconds, are gone: a single lost packet is neither, and a slow node is not gone between two samples.
-enum class NodeState { Live, Late, Gone };
+enum class NodeState {
+    Live,
+    Late,
+    Gone,
+    Ended ///< the connection ended: silence means nothing
+};
 
 /// What is known about one radio node.
 struct GatewayNodeStatus
@@ -18,9 +23,9 @@ struct GatewayNodeStatus
     quint8 id = 0;
     NodeState state = NodeState::Gone;
     double rateHz = 0;     ///< samples per second over the last two seconds
-    qint64 ageMs = -1;     ///< age of the newest sample; -1 when none was seen
-    quint64 missing = 0;   ///< samples that the gaps between the time stamps tell of
-    bool hasClock = false; ///< the samples carry time stamps, so that `missing` means something
+    qint64 ageMs = -1;     ///< age of the newest sample; -1 when none was seen, or when the connection has ended
+    quint64 missing = 0;   ///< as its newest sample says
+    bool hasClock = false; ///< `missing` means something
     float temperature = 0; ///< degrees Celsius, if `fields` has it
     float pressure = 0;    ///< Pa, if `fields` has it
     SampleFields fields{}; ///< what the newest sample carries
@@ -28,7 +33,9 @@ struct GatewayNodeStatus
     bool operator==(const GatewayNodeStatus &) const = default;
 };
 
-/// Watches which radio nodes a gateway hears and how well. A node that fell silent stays listed with its last values.
+/// Watches which radio nodes a gateway hears: how often, and how long ago. A node that fell silent stays listed with its
+/// last values. What is missing is counted elsewhere, and comes with the samples.
+///
 /// Host times are milliseconds of a clock that does not run backwards. Bounded: ids have 8 bits, so at most 256 nodes
 /// of fixed size.
 class GatewayNodeTracker
@@ -38,6 +45,8 @@ public:
     /// Lists a node before it is heard, as gone.
     void expect(quint8 id) { m_nodes[id]; }
     void clear() { m_nodes.clear(); }
+    /// The connection has ended, or another one has begun.
+    void setEnded(bool ended) { m_isEnded = ended; }
 
     /// All nodes by ascending id, as of `hostMs`.
     QList<GatewayNodeStatus> nodes(qint64 hostMs) const;
@@ -53,16 +62,17 @@ private:
         SampleFields fields;
         qint64 heardMs = 0; ///< host time of the newest sample
         qint64 sinceMs = 0; ///< host time from which it was heard without a break
-        bool hasNodeTime = false;
-        SampleGaps gaps;
+        bool hasClock = false;
         quint64 missing = 0;
+        SampleGaps pace; ///< for the period alone
         std::array<quint32, kBuckets + 1> counts{}; ///< samples per bucket of host time, a ring
     };
 
-    static void addSample(Node &node, const GatewaySample &sample, qint64 hostMs);
+    void addSample(Node &node, const GatewaySample &sample, qint64 hostMs) const;
     static void emptyBuckets(Node &node, qint64 fromMs, qint64 toMs);
     static double rateHz(const Node &node, qint64 hostMs);
-    static NodeState state(const Node &node, qint64 hostMs);
+    NodeState state(const Node &node, qint64 hostMs) const;
 
     std::map<quint8, Node> m_nodes;
+    bool m_isEnded = false;
 };

@@ -9,11 +9,11 @@
 struct GatewaySample
 {
     node_data_t node{};           ///< roll, pitch and yaw are shown as they stand here
-    unsigned int timestampMs = 0; ///< of the node's own clock or of the gateway's, 0 without
-    bool hasNodeTime = false;     ///< the stamp is of the node's own clock; false: one stamp of the gateway for all
+    unsigned int timestampMs = 0; ///< of the stream's time of this node: from 1 on, never backwards
     SampleFields fields{};        ///< what the sample carries
+    quint64 missing = 0;          ///< samples of this node that are missing in this connection so far
+    bool hasClock = false;        ///< the node's samples carry time stamps, so that `missing` means something
 };
 
-/// The samples of a gateway batch in order; empty for any other frame. Full records carry their node's own time stamp,
-/// compact records share the gateway's.
+/// The samples of a gateway batch in order; empty for any other frame. Stamps and counts are the session's to fill in.
 QList<GatewaySample> gatewaySamples(const DecodedFrame &frame);
