@@ -5,7 +5,8 @@ import pathlib
 import re
 import sys
 
-FLOORS = {"app": 1, "link": 2, "attitude": 3, "wave": 3, "fft": 3, "record": 3, "updater": 3, "device": 4, "ui": 5}
+FLOORS = {"app": 1, "link": 2, "attitude": 3, "record": 3, "device": 4, "session": 5, "wave": 6, "fft": 6, "updater": 6,
+          "ui": 7}
 # fft/ takes its ring of samples from wave/.
 ALLOWED = {("fft", "wave")}
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([a-z_]+)/')

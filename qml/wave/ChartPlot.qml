@@ -116,6 +116,34 @@ Item {
             viewState: plot.viewState
         }
 
+        // Where the stream started again.
+        Repeater {
+            model: plot.viewState.breakSeconds.length
+
+            Rectangle {
+                id: breakMark
+
+                required property int index
+                readonly property real seconds: plot.viewState.breakSeconds[index] ?? NaN
+
+                objectName: "breakMark"
+                visible: seconds >= plot.viewState.xViewMin && seconds <= plot.viewState.xViewMax
+                x: Math.round(plot.toX(seconds))
+                width: 1
+                height: area.height
+                color: Theme.warning
+
+                Text {
+                    // Left of the line: the silence is there, not the samples.
+                    x: Math.max(-breakMark.x, -width - 3)
+                    text: plot.viewState.breakTexts[breakMark.index] ?? ""
+                    textFormat: Text.PlainText
+                    font: Theme.smallFont
+                    color: Theme.warning
+                }
+            }
+        }
+
         MouseArea {
             id: mouse
 

@@ -14,6 +14,7 @@
 #include "device/product_profile.h"
 #include "device/settings_command_adapter.h"
 #include "link/imu_parser.h"
+#include "link/kboot_protocol.h"
 #include "link/kv_uart_port.h"
 #include "link/stream_dispatcher.h"
 #include "record/recorder.h"
@@ -323,6 +324,8 @@ void DeviceSession::endSearch(bool found)
 
 bool DeviceSession::connectBootloader()
 {
+    if (m_state == SessionState::Closed)
+        return m_port->connectBootloader(); // notes that the port is closed
     if (!allows(SessionAction::ConnectBootloader))
         return false;
     endSearch(false);
@@ -470,6 +473,18 @@ bool DeviceSession::hearsNoise() const
 qint64 DeviceSession::openMs() const
 {
     return isOpen() ? m_sinceOpened.elapsed() : 0;
+}
+
+// The flag is looked at first: it orders what the client has written before what is read here.
+
+BootloaderFacts DeviceSession::bootloaderFacts() const
+{
+    return m_port->isBootloaderBusy() ? BootloaderFacts() : m_port->kboot()->facts();
+}
+
+BootloaderOutcome DeviceSession::bootloaderOutcome() const
+{
+    return m_port->isBootloaderBusy() ? BootloaderOutcome() : m_port->kboot()->outcome();
 }
 
 double DeviceSession::connectionMs() const

@@ -9,6 +9,7 @@
 #include <optional>
 
 #include "device/product_resolver.h"
+#include "link/bootloader_state.h"
 #include "session/session_table.h"
 #include "session/stream_event.h"
 
@@ -82,6 +83,10 @@ public:
     bool hearsNoise() const;
     /// A bootloader has answered and takes a download.
     bool isBootloaderConnected() const { return m_bootloaderConnected; }
+
+    /// What the bootloader has reported, and how the last connect or download went; nothing while one runs.
+    BootloaderFacts bootloaderFacts() const;
+    BootloaderOutcome bootloaderOutcome() const;
 
     /// The identified device; not valid when none is.
     const DetectedDevice &device() const { return m_device; }

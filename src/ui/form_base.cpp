@@ -16,6 +16,7 @@
 #include "app/settings_keys.h"
 #include "app/window_place.h"
 #include "device/orientation_override.h"
+#include "link/kv_uart_port.h"
 #include "link/stream_dispatcher.h"
 #include "session/device_session.h"
 #include "ui/app_version.h"

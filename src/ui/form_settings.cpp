@@ -13,7 +13,10 @@
 #include "app/settings_keys.h"
 #include "app/theme.h"
 #include "app/window_place.h"
+#include "device/command_session.h"
+#include "session/device_session.h"
 #include "ui/device_text.h"
+#include "ui/session_text.h"
 #include "ui_form_settings.h"
 
 namespace {
@@ -76,8 +79,9 @@ bool writesOutputRate(const ProductProfile &profile)
 
 } // namespace
 
-form_settings::form_settings(QWidget *parent)
-    : QDialog(parent), m_ui(std::make_unique<Ui::form_settings>()), m_session(new CommandSession(this))
+form_settings::form_settings(DeviceSession *session, QWidget *parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::form_settings>()), m_session(session),
+      m_commands(&session->commands())
 {
     m_ui->setupUi(this);
     for (QLabel *label : {m_ui->LBL_product, m_ui->LBL_model, m_ui->LBL_build, m_ui->LBL_uuid}) {
@@ -92,11 +96,11 @@ form_settings::form_settings(QWidget *parent)
     // The log shows its end, also when its window shrinks.
     QScrollBar *bar = m_ui->PTE_log->verticalScrollBar();
     connect(bar, &QScrollBar::rangeChanged, bar, [bar](int, int maximum) { bar->setValue(maximum); });
-    connect(m_session, &CommandSession::stateChanged, this, &form_settings::updateState);
-    connect(m_session, &CommandSession::stateChanged, this, &form_settings::finishClosing);
-    connect(m_session, &CommandSession::deviceChanged, this, &form_settings::showDevice);
-    connect(m_session, &CommandSession::logLine, m_ui->PTE_log, &QPlainTextEdit::appendPlainText);
-    connect(m_session, &CommandSession::outcome, this, [this](const CommandOutcome &outcome) { m_outcome = outcome; });
+    connect(m_session, &DeviceSession::stateChanged, this, &form_settings::updateState);
+    connect(m_session, &DeviceSession::stateChanged, this, &form_settings::finishClosing);
+    connect(m_commands, &CommandSession::deviceChanged, this, &form_settings::showDevice);
+    connect(m_commands, &CommandSession::logLine, m_ui->PTE_log, &QPlainTextEdit::appendPlainText);
+    connect(m_commands, &CommandSession::outcome, this, [this](const CommandOutcome &outcome) { m_outcome = outcome; });
     connect(m_ui->SB_id, &QSpinBox::valueChanged, this, &form_settings::storeChoice);
     connect(m_ui->CB_rate, &QComboBox::currentIndexChanged, this, &form_settings::storeChoice);
     connect(m_ui->CB_mode, &QComboBox::currentIndexChanged, this, &form_settings::storeChoice);
@@ -106,39 +110,9 @@ form_settings::form_settings(QWidget *parent)
 
 form_settings::~form_settings() = default;
 
-void form_settings::set_broker(CommandBroker *broker)
-{
-    m_session->setBroker(broker);
-}
-
-void form_settings::set_baud(int baud)
-{
-    m_session->setBaud(baud);
-}
-
-void form_settings::set_connected(bool connected)
-{
-    m_session->setConnected(connected);
-}
-
 QStringList form_settings::get_prod_info()
 {
-    return m_session->readInfo();
-}
-
-bool form_settings::is_output_stopped() const
-{
-    return m_session->isOutputStopped();
-}
-
-const DetectedDevice &form_settings::detectedDevice() const
-{
-    return m_session->device();
-}
-
-void form_settings::clear_device()
-{
-    m_session->clearDevice();
+    return m_session->allows(SessionAction::Identify) ? m_commands->readInfo() : QStringList();
 }
 
 void form_settings::showEvent(QShowEvent *event)
@@ -173,13 +147,13 @@ void form_settings::changeEvent(QEvent *event)
 
 void form_settings::on_BTN_identify_clicked()
 {
-    m_session->readInfo();
+    get_prod_info();
 }
 
 void form_settings::on_BTN_save_clicked()
 {
     if (saveProblem().isEmpty())
-        m_session->save(request());
+        m_commands->save(request());
 }
 
 void form_settings::on_BTN_copy_clicked()
@@ -199,9 +173,9 @@ void form_settings::createHotkeys()
         m_hotkeyButtons.append(button);
         connect(button, &QPushButton::clicked, this, [this, &hotkey] {
             if (hotkey.action)
-                m_session->runHotkey(*hotkey.action);
+                m_commands->runHotkey(*hotkey.action);
             else
-                m_session->resumeOutput(true);
+                m_commands->resumeOutput(true);
         });
     }
     for (int column = 0; column < kHotkeysPerRow; ++column)
@@ -210,8 +184,8 @@ void form_settings::createHotkeys()
 
 void form_settings::showDevice()
 {
-    const DetectedDevice &device = m_session->device();
-    const ProductProfile &profile = m_session->profile();
+    const DetectedDevice &device = m_commands->device();
+    const ProductProfile &profile = m_commands->profile();
     showText(m_ui->LBL_product, device.valid ? device_text::productName(profile) : tr("No device identified"));
     showText(m_ui->LBL_model, device.modelLine);
     showText(m_ui->LBL_build, device_text::withoutKeyword(device.buildLine, QLatin1String("build")));
@@ -259,7 +233,7 @@ void form_settings::showEditors(const ProductProfile &profile)
 
 void form_settings::storeChoice()
 {
-    m_choices.insert(m_session->profile().key, request());
+    m_choices.insert(m_commands->profile().key, request());
     updateState();
 }
 
@@ -275,11 +249,10 @@ SettingsSaveRequest form_settings::request() const
 /// Why nothing can be sent now; empty when it can.
 QString form_settings::blockedReason() const
 {
-    if (!m_session->isConnected())
-        return tr("Nothing is connected: open a serial port first.");
-    if (m_session->isBusy())
-        return tr("Waiting for the device: %1").arg(m_session->currentCommand());
-    return {};
+    const Refusal refusal = m_session->refusal(SessionAction::SendCommand);
+    if (refusal == Refusal::CommandRuns && !m_commands->currentCommand().isEmpty())
+        return tr("Waiting for the device: %1").arg(m_commands->currentCommand());
+    return session_text::refusal(refusal);
 }
 
 /// How the last operation ended; empty when there is nothing to say.
@@ -306,7 +279,7 @@ QString form_settings::outcomeText() const
 /// What the user still has to do before the settings can be saved; empty when nothing.
 QString form_settings::saveProblem() const
 {
-    const ProductProfile &profile = m_session->profile();
+    const ProductProfile &profile = m_commands->profile();
     if (profile.protocolFamily == ProtocolFamily::Unknown)
         return tr("Identify the device first.");
     if (profile.supportsNodeId && m_ui->SB_id->value() < 0)
@@ -321,7 +294,7 @@ void form_settings::updateState()
     const QString blocked = blockedReason();
     const bool isProblem =
         m_outcome.kind != CommandSession::Outcome::Nothing && m_outcome.kind != CommandSession::Outcome::Saved;
-    const bool warn = !m_session->isConnected() || (blocked.isEmpty() && isProblem);
+    const bool warn = !m_session->isOpen() || (blocked.isEmpty() && isProblem);
     m_ui->LBL_status->setText(blocked.isEmpty() ? outcomeText() : blocked);
     m_ui->LBL_status->setProperty("role", warn ? QStringLiteral("warning") : QStringLiteral("secondary"));
     m_ui->LBL_status->style()->unpolish(m_ui->LBL_status);
@@ -331,7 +304,7 @@ void form_settings::updateState()
     if (!blocked.isEmpty() && m_focusBefore == nullptr)
         m_focusBefore = focusWidget();
 
-    const ProductProfile &profile = m_session->profile();
+    const ProductProfile &profile = m_commands->profile();
     for (qsizetype i = 0; i < m_hotkeyButtons.size(); ++i)
         enableSender(m_hotkeyButtons[i], blocked, tr("Sends %1").arg(commandText(kHotkeys[i], profile)));
     enableSender(m_ui->BTN_identify, blocked, tr("Stops the output, reads what the device is and resumes the output"));
@@ -358,10 +331,10 @@ void form_settings::enableSender(QPushButton *button, const QString &blocked, co
 
 void form_settings::finishClosing()
 {
-    if (!m_closePending || m_session->isBusy())
+    if (!m_closePending || m_commands->isBusy())
         return;
     m_closePending = false;
-    if (m_session->isOutputStopped())
-        m_session->resumeOutput(false);
+    if (m_commands->isOutputStopped())
+        m_commands->resumeOutput(false);
     emit settingsClosed();
 }

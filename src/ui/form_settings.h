@@ -11,7 +11,8 @@
 #include "device/product_resolver.h"
 #include "device/settings_command_adapter.h"
 
-class CommandBroker;
+class CommandSession;
+class DeviceSession;
 class QPushButton;
 
 namespace Ui {
@@ -32,30 +33,14 @@ class form_settings : public QDialog
     Q_DISABLE_COPY_MOVE(form_settings)
 
 public:
-    explicit form_settings(QWidget *parent = nullptr);
+    /// `session` outlives this window.
+    explicit form_settings(DeviceSession *session, QWidget *parent = nullptr);
     ~form_settings() override;
 
-    /// The broker that carries the commands; not owned, may be null and may die first.
-    void set_broker(CommandBroker *broker);
-    /// Baud rate of the open port: the time that a reply needs depends on it. Values below 1 are ignored.
-    void set_baud(int baud);
-    /// Tells that a port was opened or closed. Every call starts a new connection: replies to commands sent before it
-    /// are thrown away.
-    void set_connected(bool connected);
-
     /// Identifies the device: stops its output, reads its information, resolves it and resumes the output. Takes some
-    /// 0.5 s at 115200 baud, in a nested event loop. Returns the lines of the reply; detectedDevice() is what they
-    /// resolve to. A silent device gives no lines and an invalid device. Empty too, leaving detectedDevice() alone,
-    /// when nothing is connected, while another command runs, and when the connection ended meanwhile.
+    /// 0.5 s at 115200 baud, in a nested event loop. Returns the lines of the reply. A silent device gives none; none
+    /// come either when the session refuses, and when the connection ended meanwhile.
     QStringList get_prod_info();
-
-    /// The device's output was stopped by a command of this dialog and not resumed since.
-    bool is_output_stopped() const;
-
-    /// The device as it was identified last; `valid` is false and `profile` may be null when none was.
-    const DetectedDevice &detectedDevice() const;
-    /// Forgets the device. What was chosen for its settings is kept until the program ends.
-    void clear_device();
 
 signals:
     /// The window was closed and no command runs any more. Output that was stopped here has been told to resume.
@@ -85,7 +70,8 @@ private:
     SettingsSaveRequest request() const;
 
     std::unique_ptr<Ui::form_settings> m_ui;
-    CommandSession *m_session;
+    DeviceSession *m_session;
+    CommandSession *m_commands; ///< the session's
     QList<QPushButton *> m_hotkeyButtons;             ///< one per row of the hotkey table
     QHash<ProductKey, SettingsSaveRequest> m_choices; ///< what the user chose last, for as long as the program runs
     ProductKey m_shownKey = ProductKey::None;

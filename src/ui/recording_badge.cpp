@@ -3,7 +3,7 @@
 #include <QEvent>
 
 #include "record/recorder.h"
-#include "record/recording_target.h"
+#include "ui/recording_text.h"
 
 RecordingBadge::RecordingBadge(const Recorder *recorder, QWidget *parent) : QToolButton(parent), m_recorder(recorder)
 {
@@ -22,7 +22,7 @@ void RecordingBadge::refresh()
         return;
     const QString text = trouble
                              ? tr("Recording: trouble")
-                             : tr("Recording %1").arg(recording_target::elapsedText(m_recorder->elapsedMs()));
+                             : tr("Recording %1").arg(recording_text::elapsed(m_recorder->elapsedMs()));
     if (QToolButton::text() != text)
         setText(text);
 }

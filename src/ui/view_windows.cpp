@@ -105,7 +105,7 @@ void ViewWindows::onRestart(const StreamRestart &restart)
     if (m_spectrum)
         m_spectrum->restartStream();
     if (m_sensorDashboard)
-        m_sensorDashboard->bridge().restartStream(restart.kind, restart.timeMs);
+        m_sensorDashboard->bridge().restartStream(restart.kind);
     if (m_wirelessDashboard && restart.kind == StreamBreak::NewConnection)
         m_wirelessDashboard->clear();
 }

@@ -16,25 +16,30 @@
 #include "app/window_place.h"
 #include "link/kboot_protocol.h"
 #include "link/kv_uart_port.h"
+#include "session/device_session.h"
 #include "ui_form_updater.h"
 #include "updater/hex2bin.h"
 #include "updater/updater_text.h"
 
 namespace {
 
+constexpr int kAttemptsPerPacket = 2;
 constexpr int kLogLines = 10000;
 constexpr qint64 kTransferIntervalMs = 100;
 constexpr char kConnectedStyle[] = "background-color: #90EE90;";
 
 } // namespace
 
-form_updater::form_updater(QWidget *parent) : QDialog(parent), m_ui(std::make_unique<Ui::form_updater>())
+form_updater::form_updater(DeviceSession *session, QWidget *parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::form_updater>()), m_session(session)
 {
     m_ui->setupUi(this);
     m_ui->PTE_log->setMaximumBlockCount(kLogLines);
     m_ui->PTE_log->setFont(theme::fixedPitchFont(font().pointSizeF()));
     QScrollBar *bar = m_ui->PTE_log->verticalScrollBar();
     connect(bar, &QScrollBar::rangeChanged, bar, [bar](int, int maximum) { bar->setValue(maximum); });
+    set_serial_instance(&session->port());
+    connect(session, &DeviceSession::stateChanged, this, &form_updater::onSessionState);
     retranslateDynamicUi();
     window_place::restore(this, settings_keys::kUpdaterGeometry);
 }
@@ -45,33 +50,43 @@ void form_updater::set_serial_instance(KvUartPort *port)
 {
     if (port == nullptr)
         return;
-    m_line.setPort(port);
     connect(port->kboot(), &KbootProtocol::downloadProgress, this, &form_updater::onUpdateProgressBar);
     connect(port->kboot(), &KbootProtocol::downloadAdvanced, this, &form_updater::onDownloadAdvanced);
     connect(port, &KvUartPort::bootloaderDownloadFinished, this, &form_updater::onBootloaderDownloadFinished);
 }
 
-void form_updater::set_connection_open(bool open)
+/// Connected, downloading, closed: what the session is in has changed, or something else of it.
+void form_updater::onSessionState()
 {
-    if (m_connected && !m_downloading)
-        showStatus(open ? QString() : tr("The port was closed: connect again before the download."), !open);
-    setConnected(false);
+    if (isConnected() == m_wasConnected && isDownloading() == m_wasDownloading)
+        return;
+    if (m_wasConnected && !m_session->isOpen())
+        showStatus(tr("The port was closed: connect again before the download."), true);
+    m_wasConnected = isConnected();
+    m_wasDownloading = isDownloading();
+    m_question.withdraw();
     update_button_states();
 }
 
-void form_updater::setBootloaderLeft()
+bool form_updater::isConnected() const
 {
-    if (m_downloading)
-        return;
-    setConnected(false);
-    showStatus(tr("The device restarts with the firmware that it has."), false);
-    update_button_states();
+    return m_session->isBootloaderConnected() && !isDownloading();
+}
+
+bool form_updater::isDownloading() const
+{
+    return m_session->state() == SessionState::Updating;
+}
+
+void form_updater::sayDownloadRuns()
+{
+    showStatus(tr("The download has to end first: without it the device has no complete firmware."), true);
 }
 
 void form_updater::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
-    if (event->spontaneous() || m_downloading)
+    if (event->spontaneous() || isDownloading())
         return;
     m_question.withdraw();
     reset_ui_state();
@@ -102,7 +117,7 @@ void form_updater::changeEvent(QEvent *event)
         retranslateDynamicUi();
     } else if (event->type() == QEvent::FontChange) {
         m_ui->PTE_log->setFont(theme::fixedPitchFont(font().pointSizeF()));
-    } else if (event->type() == QEvent::ActivationChange && isActiveWindow() && !m_downloading) {
+    } else if (event->type() == QEvent::ActivationChange && isActiveWindow() && !isDownloading()) {
         lookAtImage(); // it may have been built anew meanwhile
     }
     QDialog::changeEvent(event);
@@ -110,12 +125,12 @@ void form_updater::changeEvent(QEvent *event)
 
 void form_updater::reject()
 {
-    if (m_downloading) {
-        showStatus(tr("The download has to end first: without it the device has no complete firmware."), true);
+    if (isDownloading()) {
+        sayDownloadRuns();
         return;
     }
     QDialog::reject();
-    if (m_connected)
+    if (isConnected())
         m_question.ask(parentWidget() != nullptr ? parentWidget() : this,
                        tr("The device is still in its bootloader: it sends no data until it restarts."),
                        tr("Restart device"), tr("Leave it so"), [this] { on_BTN_restart_clicked(); });
@@ -123,20 +138,27 @@ void form_updater::reject()
 
 void form_updater::on_BTN_restart_clicked()
 {
-    if (m_connected && !m_downloading)
-        emit restartRequested();
+    if (!m_session->allows(SessionAction::RestartDevice))
+        return;
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    const bool restarted = m_session->restartDevice();
+    QGuiApplication::restoreOverrideCursor();
+    showStatus(restarted ? tr("The device restarts with the firmware that it has.")
+                         : tr("The bootloader did not confirm the restart. Unplug the device and plug it in again if no "
+                              "data come."),
+               !restarted);
 }
 
 void form_updater::on_BTN_stop_clicked()
 {
-    if (m_downloading && !m_stopping)
+    if (isDownloading() && !m_stopping)
         m_question.ask(this,
                        tr("Stop the download? The device has no complete firmware then. Its bootloader stays: press "
                           "Connect, then Download."),
                        tr("Stop the download"), tr("Go on"), [this] {
                            m_stopping = true;
                            update_button_states();
-                           emit stopRequested();
+                           m_session->stopDownload();
                        });
 }
 
@@ -151,7 +173,7 @@ void form_updater::on_BTN_open_file_clicked()
 
 void form_updater::chooseImage(const QString &path)
 {
-    if (m_downloading) // it began while the user was still choosing
+    if (isDownloading()) // it began while the user was still choosing
         return;
     m_image.choose(path);
     log(tr("FILE:%1\n").arg(path));
@@ -169,7 +191,7 @@ bool form_updater::load_hex_file()
 
 void form_updater::on_BTN_connect_clicked()
 {
-    if (m_downloading)
+    if (isDownloading())
         return;
     m_ui->BTN_open_file->setEnabled(false);
     m_ui->BTN_connect->setEnabled(false);
@@ -184,16 +206,15 @@ void form_updater::on_BTN_connect_clicked()
     repaint(); // the last chance before the wait
 
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    const bool connected = m_line.connectBootloader();
+    const bool connected = m_session->connectBootloader();
     QGuiApplication::restoreOverrideCursor();
     if (connected) {
-        m_facts = m_line.facts();
+        m_facts = m_session->bootloaderFacts();
         log(updater_text::factsLog(m_facts));
     } else {
         log(updater_text::connectFailureLog());
-        showStatus(updater_text::connectFailure(m_line.outcome()), true);
+        showStatus(updater_text::connectFailure(m_session->bootloaderOutcome()), true);
     }
-    setConnected(connected);
     // Clicks of an impatient user during the wait: the buttons are still disabled.
     QCoreApplication::processEvents();
     lookAtImage();
@@ -204,7 +225,7 @@ void form_updater::on_BTN_connect_clicked()
 
 void form_updater::on_BTN_download_clicked()
 {
-    if (m_downloading)
+    if (isDownloading())
         return;
     m_ui->PB_progress->setValue(0);
     m_ui->BTN_download->setEnabled(false);
@@ -220,16 +241,12 @@ void form_updater::on_BTN_download_clicked()
         }
         lookAtImage();
     }
-    if (hasImage && m_connected) {
+    if (hasImage && isConnected()) {
         log(tr("\n--- Starting download ---\n"));
         m_downloadClock.start();
         m_dataBeganMs = 0;
-        const bool isQueued = m_line.startDownload(m_image.bytes(), int(hex2bin::start_addr()));
-        setDownloading(isQueued);
-        if (!isQueued) {
+        if (!m_session->startDownload(m_image.bytes(), int(hex2bin::start_addr()), kAttemptsPerPacket))
             log(tr("Download failed\n"));
-            setConnected(false);
-        }
     } else if (hasImage) {
         log(tr("Not connected to bootloader\r\n"));
         showStatus(tr("Press Connect first: the device has to run its bootloader."), true);
@@ -244,7 +261,7 @@ void form_updater::onUpdateProgressBar(int percent)
 
 void form_updater::onDownloadAdvanced(BootloaderStep step, qint64 acknowledgedBytes)
 {
-    if (!m_downloading)
+    if (!isDownloading())
         return;
     const qint64 now = m_downloadClock.elapsed();
     if (step != m_step) {
@@ -263,7 +280,7 @@ void form_updater::onDownloadAdvanced(BootloaderStep step, qint64 acknowledgedBy
 void form_updater::onBootloaderDownloadFinished(bool ok)
 {
     log(ok ? tr("Update complete, image running...\n") : tr("Download failed\n"));
-    const BootloaderOutcome end = m_line.outcome();
+    const BootloaderOutcome end = m_session->bootloaderOutcome();
     if (!ok && m_stopping)
         showStatus(updater_text::stopped(end, m_image.bytes().size()), true);
     else if (ok)
@@ -275,38 +292,36 @@ void form_updater::onBootloaderDownloadFinished(bool ok)
     m_result = ok;
     m_stopping = false;
     m_ui->LBL_transfer->setText(updater_text::transfer(end.acknowledgedBytes, m_image.bytes().size(), 0));
-    setConnected(false);
-    setDownloading(false);
     update_button_states();
     m_ui->BTN_connect->setFocus();
 }
 
 void form_updater::update_button_states()
 {
-    const QString busy = m_downloading ? tr("A download is running.") : QString();
-    m_ui->BTN_open_file->setEnabled(!m_downloading);
-    m_ui->BTN_connect->setEnabled(!m_downloading);
-    m_ui->BTN_download->setEnabled(m_connected && !m_downloading);
-    m_ui->BTN_close->setEnabled(!m_downloading);
-    m_ui->BTN_restart->setEnabled(m_connected && !m_downloading);
-    m_ui->BTN_stop->setEnabled(m_downloading && !m_stopping);
-    m_ui->BTN_connect->setText(m_connected ? tr("Connected") : tr("Connect"));
-    m_ui->BTN_connect->setProperty("connected", m_connected);
-    m_ui->BTN_connect->setStyleSheet(m_connected ? QLatin1String(kConnectedStyle) : QString());
+    const QString busy = isDownloading() ? tr("A download is running.") : QString();
+    m_ui->BTN_open_file->setEnabled(!isDownloading());
+    m_ui->BTN_connect->setEnabled(!isDownloading());
+    m_ui->BTN_download->setEnabled(isConnected() && !isDownloading());
+    m_ui->BTN_close->setEnabled(!isDownloading());
+    m_ui->BTN_restart->setEnabled(isConnected() && !isDownloading());
+    m_ui->BTN_stop->setEnabled(isDownloading() && !m_stopping);
+    m_ui->BTN_connect->setText(isConnected() ? tr("Connected") : tr("Connect"));
+    m_ui->BTN_connect->setProperty("connected", isConnected());
+    m_ui->BTN_connect->setStyleSheet(isConnected() ? QLatin1String(kConnectedStyle) : QString());
 
-    m_ui->BTN_open_file->setToolTip(m_downloading ? busy : tr("Chooses the image, an Intel HEX file"));
-    m_ui->BTN_connect->setToolTip(m_downloading ? busy : tr("Restarts the device into its bootloader"));
+    m_ui->BTN_open_file->setToolTip(isDownloading() ? busy : tr("Chooses the image, an Intel HEX file"));
+    m_ui->BTN_connect->setToolTip(isDownloading() ? busy : tr("Restarts the device into its bootloader"));
     m_ui->BTN_close->setToolTip(busy);
-    m_ui->BTN_download->setToolTip(m_downloading ? busy
-                                   : m_connected ? tr("Erases the device's firmware and writes the image")
+    m_ui->BTN_download->setToolTip(isDownloading() ? busy
+                                   : isConnected() ? tr("Erases the device's firmware and writes the image")
                                                  : tr("Press Connect first."));
-    m_ui->BTN_restart->setToolTip(m_downloading ? busy
-                                  : m_connected ? tr("Ends the bootloader: the device starts the firmware that it has")
+    m_ui->BTN_restart->setToolTip(isDownloading() ? busy
+                                  : isConnected() ? tr("Ends the bootloader: the device starts the firmware that it has")
                                                 : tr("No bootloader is connected."));
     m_ui->BTN_stop->setToolTip(m_stopping      ? tr("The download is being stopped.")
-                               : m_downloading ? tr("Stops the download; asks first")
+                               : isDownloading() ? tr("Stops the download; asks first")
                                                : tr("No download is running."));
-    m_ui->LBL_bootloader->setText(m_connected || m_downloading
+    m_ui->LBL_bootloader->setText(isConnected() || isDownloading()
                                       ? updater_text::facts(m_facts)
                                       : tr("Not connected. Connect restarts the device; this takes up to 4 s."));
     showStep();
@@ -314,9 +329,9 @@ void form_updater::update_button_states()
 
 void form_updater::showStep()
 {
-    const QString waiting = m_connected ? tr("Ready to download") : tr("Waiting for the bootloader");
+    const QString waiting = isConnected() ? tr("Ready to download") : tr("Waiting for the bootloader");
     const QString ended = m_result.value_or(false) ? tr("Complete") : tr("Failed");
-    m_ui->LBL_step->setText(m_downloading ? updater_text::step(m_step) : m_result.has_value() ? ended : waiting);
+    m_ui->LBL_step->setText(isDownloading() ? updater_text::step(m_step) : m_result.has_value() ? ended : waiting);
 }
 
 void form_updater::reset_ui_state()
@@ -338,24 +353,6 @@ void form_updater::log(const QString &text)
 {
     m_ui->PTE_log->moveCursor(QTextCursor::End);
     m_ui->PTE_log->insertPlainText(text);
-}
-
-void form_updater::setConnected(bool connected)
-{
-    if (m_connected == connected)
-        return;
-    m_connected = connected;
-    m_question.withdraw();
-    emit bootloaderConnectedChanged(connected);
-}
-
-void form_updater::setDownloading(bool downloading)
-{
-    if (m_downloading == downloading)
-        return;
-    m_downloading = downloading;
-    m_question.withdraw();
-    emit downloadRunningChanged(downloading);
 }
 
 void form_updater::showStatus(const QString &text, bool isProblem)
@@ -388,7 +385,7 @@ void form_updater::lookAtImage()
 
 void form_updater::showImage()
 {
-    const QString doubts = updater_text::doubts(m_image, m_connected ? m_facts.flashSizeKb : 0);
+    const QString doubts = updater_text::doubts(m_image, isConnected() ? m_facts.flashSizeKb : 0);
     m_ui->LE_path->setText(QDir::toNativeSeparators(m_image.path()));
     m_ui->LE_path->setToolTip(m_image.path().toHtmlEscaped());
     m_ui->LBL_image->setText(updater_text::image(m_image));

@@ -87,6 +87,20 @@ QString chart_text::time(double seconds)
     return value_format::number(seconds, 3) + QStringLiteral(" s");
 }
 
+QString chart_text::streamBreak(StreamBreak kind)
+{
+    switch (kind) {
+    case StreamBreak::ClockRestarted:
+        return QCoreApplication::translate("chart_text", "Restart");
+    case StreamBreak::OutputStopped:
+        return QCoreApplication::translate("chart_text", "Stopped");
+    case StreamBreak::Gap:
+        return QCoreApplication::translate("chart_text", "Gap");
+    default:
+        return {};
+    }
+}
+
 QString chart_text::range(const WaveChartBridge &bridge, double xMin, double xMax)
 {
     const auto seconds = [](double value) {

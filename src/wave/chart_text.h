@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringList>
 
+#include "session/stream_event.h"
+
 class WaveChartBridge;
 
 /// Texts beside a chart: pure functions of what the bridge describes.
@@ -27,6 +29,9 @@ QString paddedValue(const WaveChartBridge &bridge, int channel, double value);
 
 /// "−2.900 s"
 QString time(double seconds);
+
+/// Why a stream started again, in a word or two.
+QString streamBreak(StreamBreak kind);
 
 /// The rate, and which seconds of the kept history a view from `xMin` to `xMax` shows: "400 Hz · last 10 s of 60 s".
 QString range(const WaveChartBridge &bridge, double xMin, double xMax);

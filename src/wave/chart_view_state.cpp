@@ -108,6 +108,26 @@ QStringList ChartViewState::hoverTexts() const
     return texts;
 }
 
+QList<double> ChartViewState::breakSeconds() const
+{
+    QList<double> seconds;
+    if (m_bridge) {
+        for (const WaveChartBridge::BreakMark &mark : m_bridge->breakMarks())
+            seconds += mark.timeSec - m_bridge->newestTimeSec();
+    }
+    return seconds;
+}
+
+QStringList ChartViewState::breakTexts() const
+{
+    QStringList texts;
+    if (m_bridge) {
+        for (const WaveChartBridge::BreakMark &mark : m_bridge->breakMarks())
+            texts += chart_text::streamBreak(mark.kind);
+    }
+    return texts;
+}
+
 void ChartViewState::setChannelVisible(int channel, bool visible)
 {
     if (channel < 0 || channel >= m_visibleChannels.size() || m_visibleChannels.at(channel) == visible)
@@ -176,6 +196,10 @@ void ChartViewState::samplesChanged()
     setStale(false);
     if (!std::isnan(m_hoverX))
         emit hoverChanged();
+    const bool hasBreaks = m_bridge && !m_bridge->breakMarks().isEmpty();
+    if (hasBreaks || m_hasBreaks)
+        emit breaksChanged();
+    m_hasBreaks = hasBreaks;
     emit pictureChanged();
 }
 

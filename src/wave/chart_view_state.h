@@ -39,6 +39,8 @@ class ChartViewState : public PlotViewState
     Q_PROPERTY(QStringList measurement READ measurement NOTIFY cursorsChanged)
     Q_PROPERTY(QString hoverTime READ hoverTime NOTIFY hoverChanged)
     Q_PROPERTY(QStringList hoverTexts READ hoverTexts NOTIFY hoverChanged)
+    Q_PROPERTY(QList<double> breakSeconds READ breakSeconds NOTIFY breaksChanged)
+    Q_PROPERTY(QStringList breakTexts READ breakTexts NOTIFY breaksChanged)
 
 public:
     explicit ChartViewState(QObject *parent = nullptr);
@@ -71,6 +73,10 @@ public:
     /// What the cursors measure, one text per quantity; empty unless both are placed.
     QStringList measurement() const;
 
+    /// Where the stream started again, and why, one of each per place.
+    QList<double> breakSeconds() const;
+    QStringList breakTexts() const;
+
     /// Time under the pointer.
     QString hoverTime() const;
     /// The values of all channels at that time.
@@ -96,6 +102,7 @@ signals:
     void channelsChanged();
     void liveTextsChanged();
     void rangeTextChanged();
+    void breaksChanged();
 
 protected:
     void setX(chart_range::Range window) override;
@@ -119,6 +126,7 @@ private:
     bool m_active = true;
     bool m_hasData = false;
     bool m_stale = false;
+    bool m_hasBreaks = false;
     bool m_yAutomatic = true;
     double m_newest = 0; ///< stamp of the newest sample when time was last followed, seconds
     QList<bool> m_visibleChannels;

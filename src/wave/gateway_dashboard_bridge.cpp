@@ -145,6 +145,10 @@ void GatewayDashboardBridge::updateGatewaySamples(const QList<GatewaySample> &sa
         if (node == m_charts.end())
             continue;
         const std::array euler{sample.node.roll, sample.node.pitch, sample.node.yaw};
+        if (sample.brokenBy != StreamBreak::None) {
+            for (WaveChartBridge *chart : node->charts)
+                chart->markBreak(sample.brokenBy);
+        }
         for (const ChartSample &values : ChartSamples(sample.node, euler, sample.fields))
             node->charts[size_t(values.type)]->pushSample(values.values.data(), values.count, sample.timestampMs);
     }

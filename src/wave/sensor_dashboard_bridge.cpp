@@ -130,6 +130,16 @@ void SensorDashboardBridge::resetBackends()
         chart->reset();
 }
 
+void SensorDashboardBridge::restartStream(StreamBreak kind)
+{
+    for (WaveChartBridge *chart : std::as_const(m_bridges)) {
+        if (emptiesViews(kind))
+            chart->restart();
+        else
+            chart->markBreak(kind);
+    }
+}
+
 void SensorDashboardBridge::syncObservedStates()
 {
     for (const QString &type : std::as_const(m_sensorTypes))

@@ -79,6 +79,8 @@ public:
     /// Active while the dashboard is open. Becoming inactive empties the charts.
     void setDashboardActive(bool active);
     void resetBackends();
+    /// The stream starts again: empties the charts, or has them mark the place. Filters stay as the user set them.
+    void restartStream(StreamBreak kind);
     /// Tells every chart whether it is on the screen; runs by itself after each change.
     void syncObservedStates();
 

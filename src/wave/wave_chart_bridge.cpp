@@ -7,6 +7,12 @@
 #include "app/app_language_manager.h"
 #include "wave/sensor_types.h"
 
+namespace {
+
+constexpr qsizetype kMaxBreakMarks = 64;
+
+} // namespace
+
 WaveChartBridge::WaveChartBridge(const QString &sensorType, QObject *parent)
     : QObject(parent), m_sensorType(sensorType), m_type(findSensorType(sensorType)),
       m_model(m_type ? int(m_type->channels.size()) : 0)
@@ -80,6 +86,8 @@ void WaveChartBridge::pushSample(const float *values, int n, unsigned int timest
     if (!m_playing)
         return;
     m_model.pushSample(values, std::min(n, channelCount()), timestampMs);
+    if (m_pendingBreak)
+        placePendingBreak();
     if (!m_model.shouldRedraw())
         return;
     if (m_observed && !m_updatePosted) {
@@ -138,11 +146,42 @@ void WaveChartBridge::reset()
     const bool hadData = m_model.hasData();
     const bool wasFiltered = filterOn();
     m_model.reset();
+    m_breakMarks.clear();
+    m_pendingBreak.reset();
     m_updatePosted = false;
     if (wasFiltered)
         emit filterChanged();
     if (hadData && m_observed)
         notifyView();
+}
+
+void WaveChartBridge::restart()
+{
+    const bool wasFiltered = filterOn();
+    const double cutoffHz = filterCutoffHz();
+    reset();
+    if (wasFiltered)
+        trySetFilter(true, cutoffHz);
+}
+
+void WaveChartBridge::markBreak(StreamBreak kind)
+{
+    for (int channel = 0; channel < channelCount(); ++channel) {
+        if (m_model.filterEnabled(channel))
+            m_model.rebuildFilter(channel);
+    }
+    if (m_model.hasData())
+        m_pendingBreak = kind;
+}
+
+void WaveChartBridge::placePendingBreak()
+{
+    const double oldestSec = newestTimeSec() - m_model.historyDurationSec();
+    m_breakMarks.removeIf([oldestSec](const BreakMark &mark) { return mark.timeSec < oldestSec; });
+    if (m_breakMarks.size() >= kMaxBreakMarks)
+        m_breakMarks.removeFirst();
+    m_breakMarks.append({newestTimeSec(), *m_pendingBreak});
+    m_pendingBreak.reset();
 }
 
 void WaveChartBridge::setFilterEnabled(int channel, bool enabled)

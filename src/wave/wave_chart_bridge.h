@@ -7,6 +7,9 @@
 #include <QStringList>
 #include <QVariantList>
 
+#include <optional>
+
+#include "session/stream_event.h"
 #include "wave/waveform_data_model.h"
 
 struct SensorType;
@@ -92,6 +95,19 @@ public:
     void applyFrameRate(unsigned int samplesPerSecond);
     /// Forgets the samples, and on purpose the filter settings with them.
     void reset();
+    /// Forgets the samples and keeps the filter settings: another stream begins.
+    void restart();
+    /// The stream starts again at the sample that comes next: keeps the picture, remembers the place, and has the
+    /// filters start again.
+    void markBreak(StreamBreak kind);
+    /// A place where the stream started again, on the clock of newestTimeSec().
+    struct BreakMark
+    {
+        double timeSec;
+        StreamBreak kind;
+    };
+    /// Those within the history, oldest first.
+    const QList<BreakMark> &breakMarks() const { return m_breakMarks; }
 
     /// Filter of one channel; both may throw, see WaveformDataModel.
     void setFilterEnabled(int channel, bool enabled);
@@ -122,6 +138,7 @@ signals:
 private:
     void notifyView();
     void switchFilters(bool on);
+    void placePendingBreak();
 
     QString m_sensorType;
     const SensorType *m_type; ///< null for an unknown key
@@ -131,6 +148,8 @@ private:
     bool m_playing = true;
     unsigned int m_appliedFrameRate = 100;
     unsigned int m_requestedFrameRate = 100;
+    QList<BreakMark> m_breakMarks;
+    std::optional<StreamBreak> m_pendingBreak; ///< waits for the first sample after it
     bool m_observed = false;
     bool m_updatePosted = false;
 };
