@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QMetaType>
 #include <QObject>
 #include <QString>
 
@@ -17,7 +16,6 @@ struct FolderFacts
     qint64 freeBytes =
         -1; ///< what the user may still write on its disk, or on the one where it would be; -1: not known
 };
-Q_DECLARE_METATYPE(FolderFacts)
 
 /// Asks about folders on a thread of its own, because a disk may take seconds for an answer. Main thread only.
 ///

@@ -62,11 +62,11 @@ void Recorder::start(const QString &folder, const QString &name)
         return;
     const recording_target::Target target{recording_target::folder(folder), recording_target::name(name)};
     if (m_state == State::Finishing)
-        return fail(Kind::StillWriting);
+        return setProblem(Kind::StillWriting);
     if (!m_isLinkOpen)
-        return fail(Kind::NotConnected);
+        return setProblem(Kind::NotConnected);
     if (target.folder.isEmpty() || recording_target::nameState(target.name) != recording_target::NameState::Good)
-        return fail(Kind::BadTarget);
+        return setProblem(Kind::BadTarget);
 
     m_droppedInEarlier = droppedRecords();
     m_lostInEarlier = lostRecords();
@@ -141,7 +141,7 @@ void Recorder::finish()
     emit recordingChanged(false);
 }
 
-void Recorder::fail(RecordingProblem::Kind problem)
+void Recorder::setProblem(RecordingProblem::Kind problem)
 {
     m_problem = {problem, {}, {}};
     updateTrouble();
@@ -151,7 +151,7 @@ void Recorder::fail(RecordingProblem::Kind problem)
 void Recorder::clearProblem()
 {
     if (m_problem.kind != RecordingProblem::Kind::None)
-        fail(RecordingProblem::Kind::None);
+        setProblem(RecordingProblem::Kind::None);
 }
 
 const CsvWriter *Recorder::writer() const

@@ -126,7 +126,7 @@ signals:
 private:
     const CsvWriter *writer() const;
     bool countsRun() const { return m_run && !m_isRunOfLastLink; }
-    void fail(RecordingProblem::Kind problem);
+    void setProblem(RecordingProblem::Kind problem);
     void goOn();
     void finish();
     void tick();

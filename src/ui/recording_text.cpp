@@ -94,7 +94,7 @@ QString recording_text::space(qint64 freeBytes, double bytesPerSecond)
 {
     if (freeBytes < 0)
         return value_format::absent();
-    const QString space = size(freeBytes);
+    QString space = size(freeBytes);
     if (bytesPerSecond < 1)
         return space;
     const double minutes = double(freeBytes) / bytesPerSecond / 60;

@@ -23,7 +23,7 @@
 namespace {
 
 constexpr int kNoticeMs = 10000;
-constexpr int kSlowCallMs = 1500;
+constexpr int kSlowCallMs = 1000;
 constexpr int kSlowMs = 60000;
 constexpr int kLongestWaitMs = 500;
 
