@@ -48,7 +48,7 @@ struct FftTelemetry
 /// The sampling side of the spectrum: keeps the newest samples of the three axes and of their norm, knows their rate,
 /// cuts batches of three requests from them, and holds or averages what comes back. At most one batch is in flight;
 /// a result of any other is ignored. A plain class of the main thread: every call takes constant time, but for the
-/// statistics of the norm, which are computed anew every kRecomputeEvery samples, and nextBatch(), which copies the
+/// statistics of the norm, which are computed again every kRecomputeEvery samples, and nextBatch(), which copies the
 /// rings.
 ///
 /// Bad samples: a component that is not finite is replaced by the newest good one of its axis (0 before there is one)

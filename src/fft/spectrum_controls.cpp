@@ -129,6 +129,7 @@ void SpectrumControls::layOut()
         m_firstRow->addWidget(label);
         m_firstRow->addWidget(control);
     }
+    m_firstRow->addStretch(0); // takes the room while the tail, which asks for it, is not here
     auto *tail = new QHBoxLayout(m_tail);
     tail->setContentsMargins(0, 0, 0, 0);
     tail->setSpacing(2 * theme::kGrid);

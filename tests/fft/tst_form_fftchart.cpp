@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QFileDialog>
@@ -48,7 +49,7 @@ struct Bench
     void start() { control<QPushButton>("BTN_start")->click(); }
     void choose(const char *combo, int index) { control<QComboBox>(combo)->setCurrentIndex(index); }
 
-    /// Samples at 1000 Hz with a tone of 125 Hz, on a bin of every size, on Y.
+    /// Samples at 1000 Hz with a tone of 125 Hz, on a bin of every size, on Y, and with gravity on Z.
     void feed(int count, float amplitude)
     {
         for (int i = 0; i < count; ++i, ++m_ms) {
@@ -60,11 +61,23 @@ struct Bench
             window.appendData(node, 1000);
         }
     }
-    /// Waits for the spectra of a batch that is sent from now on.
-    bool nextFrame()
+    /// One tick without its timer, and the spectra that it asks for.
+    bool tick()
     {
         QSignalSpy frames(&bridge(), &FftChartBridge::fftDataChanged);
-        return QTest::qWaitFor([&frames] { return frames.size() >= 2; });
+        QMetaObject::invokeMethod(&window, "onTimer50ms");
+        return QTest::qWaitFor([&frames] { return !frames.isEmpty(); });
+    }
+    /// What the window says over the plot, empty for a mark that is not there.
+    QString mark(const char *name)
+    {
+        QQuickItem *mark = item(name);
+        return mark->isVisible() ? mark->property("text").toString() : QString();
+    }
+    bool raiseAlarm()
+    {
+        feed(512, 0.25F);
+        return tick() && tick() && bridge().alarmState() == FftAlarmState::Active;
     }
     QPoint at(double x, double y)
     {
@@ -160,7 +173,7 @@ private slots:
             QTRY_VERIFY(std::abs(bench.bridge().dominantPeakAmplitude() - 250) < 2);
             QCOMPARE(bench.bridge().windowName(), fftWindowNames().at(window));
             // The bin beside the tone shows which window the engine took.
-            const QList<double> leakage = fftWindowLeakage(fftWindowNames().at(window));
+            const QList<double> leakage = fftWindowLeakage(fftWindowNames().at(window), 512);
             const double beside = bench.bridge().getPoints(1).at(1 + 64 + 1).y(); // behind the anchor
             QVERIFY2(std::abs(beside - 250 * leakage.value(0) / 2) < 5, qPrintable(QString::number(beside)));
         }
@@ -180,8 +193,117 @@ private slots:
         bench.feed(4, 5.0F); // not taken
         bench.window.show();
         bench.start();
-        QTRY_VERIFY(std::abs(bench.bridge().dominantPeakAmplitude() - 250) < 0.01);
-        QCOMPARE(bench.bridge().droppedBatches(), 0);
+        QCOMPARE(requests.size(), 3); // nothing of what came before the closing
+        bench.feed(512, 0.125F);
+        QTRY_VERIFY(std::abs(bench.bridge().dominantPeakAmplitude() - 125) < 0.01);
+    }
+
+    void restRaisesNoAlarm()
+    {
+        for (const int hold : {1, 2}) {
+            for (const int pointsIndex : {0, 3, 6, 10}) {
+                Bench bench;
+                bench.choose("CB_hold", hold);
+                bench.choose("CB_points", pointsIndex);
+                const int points = 8 << pointsIndex;
+                for (int window = 0; window < 5; ++window) {
+                    bench.window.restartStream();
+                    bench.choose("CB_window", window);
+                    double highest = 0;
+                    for (int part = 0; part < 4; ++part) { // while the rings fill
+                        bench.feed(points / 4 - (part == 3), 0);
+                        QVERIFY(bench.tick());
+                        highest = std::max(highest, bench.bridge().dominantPeakAmplitude());
+                        QCOMPARE(bench.bridge().alarmSeverityLevel(), 0);
+                    }
+                    QVERIFY(highest > 10); // padding spreads gravity
+                    bench.feed(1, 0);
+                    for (int frame = 0; frame < 3; ++frame) {
+                        QVERIFY(bench.tick());
+                        QCOMPARE(bench.bridge().alarmSeverityLevel(), 0);
+                        QVERIFY2(bench.bridge().dominantPeakAmplitude() < 0.1, // nor is it held
+                                 qPrintable(QString::number(bench.bridge().dominantPeakAmplitude())));
+                    }
+                    QVERIFY(bench.bridge().alarmEventsToVariantList().isEmpty());
+                }
+            }
+        }
+    }
+
+    void blockIsToldWhileItFills()
+    {
+        Bench bench;
+        QCOMPARE(bench.mark("fillMark"), QString());
+        bench.feed(192, 0);
+        bench.start();
+        QTRY_COMPARE(bench.mark("fillMark"), u"Block 37 %"_s);
+        bench.feed(320, 0);
+        QTRY_COMPARE(bench.mark("fillMark"), QString());
+    }
+
+    void steadyValueIsTheUsersChoice()
+    {
+        Bench bench;
+        bench.choose("CB_window", 1);
+        bench.feed(512, 0.25F);
+        QVERIFY(bench.tick());
+        QCOMPARE(bench.bridge().dominantPeakAxis(), u"Y"_s);
+        auto *ignore = bench.control<QCheckBox>("CK_ignore_steady");
+        QVERIFY(ignore->isChecked() && ignore->isVisible());
+        ignore->click(); // gravity under Hann
+        QCOMPARE(bench.bridge().dominantPeakAxis(), u"Z"_s);
+        QVERIFY(bench.bridge().dominantPeakAmplitude() > 990);
+        ignore->click();
+        QCOMPARE(bench.bridge().dominantPeakAxis(), u"Y"_s);
+    }
+
+    void deadStreamsAreToldAndNotAnalysed()
+    {
+        Bench bench;
+        bench.feed(512, 0.25F);
+        bench.start();
+        QTRY_VERIFY(bench.bridge().hasData());
+        QCOMPARE(bench.mark("staleMark"), QString());
+        QTRY_COMPARE(bench.mark("staleMark"), u"No new samples"_s);
+        QSignalSpy requests(&bench.window, &form_fftchart::start_fft_cal);
+        QTest::qWait(200); // four ticks
+        QCOMPARE(requests.size(), 0);
+        bench.feed(1, 0.25F);
+        QTRY_VERIFY(requests.size() >= 3 && bench.mark("staleMark").isEmpty());
+    }
+
+    void restartedStreams()
+    {
+        Bench bench;
+        bench.choose("CB_hold", 1);
+        bench.start();
+        QVERIFY(bench.raiseAlarm());
+        bench.window.restartStream();
+        QVERIFY(!bench.bridge().hasData());
+        QCOMPARE(bench.window.presentationSampleRate(), 0);
+        QCOMPARE(bench.control<QPushButton>("BTN_start")->text(), u"Pause"_s);
+        QCOMPARE(bench.bridge().alarmSeverityLevel(), 2);
+        QCOMPARE(bench.bridge().alarmEventsToVariantList().size(), 1);
+        bench.feed(512, 0.125F);
+        QTRY_VERIFY(std::abs(bench.bridge().dominantPeakAmplitude() - 125) < 0.01); // the held 250 are gone
+    }
+
+    void settingsLeaveTheAlarmAlone()
+    {
+        Bench bench;
+        QVERIFY(bench.raiseAlarm());
+        const QVariantList timeline = bench.bridge().alarmEventsToVariantList();
+        QCOMPARE(timeline.size(), 1);
+        const std::pair<const char *, int> settings[] = {
+            {"CB_window", 2}, {"CB_hold", 1}, {"CB_points", 4}, {"CB_points", 8}, {"CB_type", 1}};
+        for (const auto &[combo, index] : settings) {
+            bench.choose(combo, index);
+            QVERIFY2(bench.bridge().alarmSeverityLevel() == 2 && bench.bridge().alarmEventsToVariantList() == timeline,
+                     combo);
+        }
+        bench.bridge().setAlarmPresetIndex(1);
+        QCOMPARE(bench.bridge().alarmSeverityLevel(), 0);
+        QVERIFY(bench.bridge().alarmEventsToVariantList().isEmpty());
     }
 
     void gestures()
