@@ -273,6 +273,8 @@ QString form_settings::blockedReason() const
 {
     if (!m_session->isConnected())
         return tr("Nothing is connected: open a serial port first.");
+    if (m_session->isSuspended())
+        return tr("The bootloader is running: it takes no commands.");
     if (m_session->isBusy())
         return tr("Waiting for the device: %1").arg(m_session->currentCommand());
     return {};
@@ -286,10 +288,10 @@ QString form_settings::outcomeText() const
     case CommandSession::Outcome::NoReply:
         return tr("The device does not answer. Check the baud rate, then identify it again.");
     case CommandSession::Outcome::Noise:
-        return tr("Bytes arrive that are no text. The baud rate may be wrong.");
+        return tr("What the device sends is no text. The baud rate may be wrong.");
     case CommandSession::Outcome::Refused:
         if (m_outcome.isOneOf)
-            return tr("The device refused one of %1.").arg(commands);
+            return tr("The device refused at least one of %1.").arg(commands);
         return tr("The device refused %1.").arg(commands);
     case CommandSession::Outcome::Saved:
         return tr("The settings were sent and the device has restarted.");
