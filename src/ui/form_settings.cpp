@@ -263,10 +263,10 @@ QString form_settings::outcomeText() const
     case CommandSession::Outcome::NoReply:
         return tr("The device does not answer. Check the baud rate, then identify it again.");
     case CommandSession::Outcome::Noise:
-        return tr("Bytes arrive that are no text. The baud rate may be wrong.");
+        return tr("What the device sends is no text. The baud rate may be wrong.");
     case CommandSession::Outcome::Refused:
         if (m_outcome.isOneOf)
-            return tr("The device refused one of %1.").arg(commands);
+            return tr("The device refused at least one of %1.").arg(commands);
         return tr("The device refused %1.").arg(commands);
     case CommandSession::Outcome::Saved:
         return tr("The settings were sent and the device has restarted.");

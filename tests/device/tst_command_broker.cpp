@@ -3,6 +3,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include <utility>
+
 #include "device/command_broker.h"
 #include "link/kv_uart_port.h"
 
@@ -147,6 +149,70 @@ private slots:
         broker.attachPort(nullptr); // of a port that has gone
         QCOMPARE(log().count(u"[I]: command-broker attached to uart-port\n"_s), 3);
         QCOMPARE(log().count(u"[I]: command-broker detached from uart-port\n"_s), 1);
+    }
+
+    void abortEndsAWindowAndItsSequence()
+    {
+        CommandBroker broker;
+        Peer peer(broker);
+        peer.replies = {{"A", {"half"}}, {"B", {"more"}}};
+        const QList<SettingsCommand> commands = {{u"A"_s, 600000}, {u"B"_s, 600000}}; // longer than the test's limit
+        bool isStillHeld = false;
+        broker.abort(); // nothing runs
+        QTimer::singleShot(20, &broker, [&] {
+            broker.abort();
+            broker.serialRecv("later");
+            isStillHeld = broker.isCollecting() && broker.executeCommand(u"C"_s, 0).isEmpty();
+        });
+        QCOMPARE(broker.executeSequence(commands), QByteArray("half"));
+        QVERIFY(isStillHeld && broker.wasCutShort() && !broker.isCollecting());
+        QCOMPARE(peer.sent, QList<QByteArray>({"A"}));
+        QVERIFY(log().endsWith(u"command sequence finish count=2 response_bytes=4\n"_s));
+        QCOMPARE(broker.executeCommand(u"B"_s, 20), QByteArray("more"));
+        QVERIFY(!broker.wasCutShort());
+    }
+
+    void observerSeesEachReply()
+    {
+        CommandBroker broker;
+        Peer peer(broker);
+        peer.replies = {{"A", {"1"}}, {"B", {"2"}}, {"C", {"3"}}};
+        const QList<SettingsCommand> commands = {{u"A"_s, 10}, {QString(), 10}, {u"B"_s, 10}, {u"C"_s, 10}};
+        for (const int action : {0, 1, 2}) { // goes on, says no, aborts
+            peer.sent.clear();
+            QByteArray seen;
+            broker.executeSequence(commands, [&](qsizetype i, const QByteArray &reply) {
+                seen += QByteArray::number(i) + reply + ' ';
+                if (action == 2 && i == 2)
+                    broker.abort();
+                return action != 1 || i < 2;
+            });
+            QCOMPARE(seen, QByteArray(action == 0 ? "01 22 33 " : "01 22 "));
+            QCOMPARE(peer.sent.size(), action == 0 ? 3 : 2);
+            QCOMPARE(broker.wasCutShort(), action == 2);
+        }
+        auto *dying = new CommandBroker;
+        dying->executeSequence(commands, [&dying](qsizetype, const QByteArray &) {
+            delete std::exchange(dying, nullptr);
+            return true;
+        });
+        QCOMPARE(dying, nullptr);
+    }
+
+    // A loop above the window's, as that of a modal dialog is, holds the return back, not the window open.
+    void windowClosesUnderAModalLoop()
+    {
+        CommandBroker broker;
+        Peer peer(broker);
+        peer.replies.insert("A", {"in time"});
+        QTimer::singleShot(5, &broker, [&broker] {
+            QEventLoop modal;
+            QTimer::singleShot(60, &broker, [&broker] { broker.serialRecv("too late"); });
+            QTimer::singleShot(80, &modal, &QEventLoop::quit);
+            modal.exec();
+        });
+        QCOMPARE(broker.executeCommand(u"A"_s, 20), QByteArray("in time"));
+        QVERIFY(!broker.wasCutShort());
     }
 
     void brokerMayDieInItsWindow()

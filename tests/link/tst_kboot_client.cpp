@@ -10,6 +10,7 @@
 #include "link/kboot_protocol.h"
 #include "link/kv_uart_port.h"
 #include "support/bootloader_peer.h"
+#include "support/simulator_process.h"
 
 namespace {
 
@@ -46,6 +47,7 @@ public:
     }
 
     bool connects() { return ask("runConnect"); }
+    bool restarts() { return ask("runRestart"); }
     bool downloads(const QByteArray &image, int attempts = 2)
     {
         finished.clear();
@@ -66,6 +68,7 @@ public:
 
 public slots:
     void runConnect() { m_answer = connectBootloader(); }
+    void runRestart() { m_answer = restartFromBootloader(); }
     void lookWhetherOpen() { m_answer = isOpen(); }
 
 private:
@@ -319,6 +322,47 @@ private slots:
         QVERIFY(port.downloads(counting(64)));
         QCOMPARE(peer.packets().size(), 7 + 2 + 2 + 1);
         QCOMPARE(port.finished, QList<bool>{true});
+    }
+
+    // Each connect begins with its own restart command, which a bootloader that is there already passes over.
+    void connectsAgainAndRestartsTheDevice()
+    {
+        SimulatorProcess simulator({});
+        TestedPort port(simulator.port());
+        QVERIFY(!port.restarts()); // no bootloader is connected
+        for (int count = 0; count < 3; ++count) {
+            QVERIFY2(port.connects(), QByteArray::number(count));
+            QCOMPARE(simulator.stat("boot_restarts"), count);
+        }
+        QCOMPARE(simulator.stat("boot_text_commands"), 0);
+        QVERIFY(port.restarts());
+        QVERIFY(!port.restarts());
+        QTRY_COMPARE(simulator.stat("bootloader"), 0);
+        QVERIFY(port.connects() && port.downloads(counting(200)));
+        QCOMPARE(simulator.stat("boot_restarts"), 2);
+    }
+
+    void stopsWhenTheUserSaysSo()
+    {
+        SimulatorProcess simulator({});
+        TestedPort port(simulator.port());
+        const auto stop = [&port] { QMetaObject::invokeMethod(&port, "cancelBootloader", Qt::QueuedConnection); };
+        stop(); // nothing runs
+        for (const bool erasing : {true, false}) {
+            QVERIFY(simulator.control(erasing ? "bootloader erase-ms 1000" : "bootloader erase-ms 0"));
+            QVERIFY(port.connects());
+            port.steps.clear();
+            port.progress.clear();
+            port.finished.clear();
+            port.start(counting(60000));
+            QTRY_VERIFY(erasing ? port.steps.contains(Step::Erase) : port.progress.size() > 3);
+            stop();
+            QTRY_COMPARE(port.finished, QList<bool>{false});
+            QVERIFY(port.outcome().fault == Fault::Stopped
+                    && port.outcome().step == (erasing ? Step::Erase : Step::Data));
+        }
+        QVERIFY(port.connects() && port.downloads(counting(200)));
+        QCOMPARE(simulator.stat("boot_text_in_data"), 0);
     }
 
 private:

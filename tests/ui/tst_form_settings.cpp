@@ -219,6 +219,10 @@ private slots:
         QCOMPARE(bench.status(), QString());
         QTRY_VERIFY(bench.peer.received.endsWith("AT+EOUT=1\r\n"));
         QCOMPARE(bench.peer.received.count("AT+INFO"), 1);
+        bench.peer.infoReply = QByteArray(500, '\xF8');
+        bench.press("BTN_identify");
+        QVERIFY(bench.status().contains(QLatin1String("baud rate may be wrong")));
+        QVERIFY(!bench.dialog->detectedDevice().valid);
     }
 
     void resumesAgainWhenTheCommandGotLost()
