@@ -5,7 +5,11 @@
 
 void QuestionBox::withdraw()
 {
-    delete m_box;
+    if (m_box == nullptr)
+        return;
+    m_box->hide();
+    m_box->deleteLater(); // it may be its own answer that takes it back
+    m_box.clear();
 }
 
 void QuestionBox::ask(QWidget *parent, const QString &question, const QString &yes, const QString &no,
@@ -21,7 +25,6 @@ void QuestionBox::ask(QWidget *parent, const QString &question, const QString &y
     QPushButton *leave = m_box->addButton(no, QMessageBox::RejectRole);
     m_box->setDefaultButton(leave);
     m_box->setEscapeButton(leave);
-    // Later: the answer may take the question back, which is still closing.
-    QObject::connect(agree, &QPushButton::clicked, m_box, then, Qt::QueuedConnection);
+    QObject::connect(agree, &QPushButton::clicked, m_box, then);
     m_box->show();
 }

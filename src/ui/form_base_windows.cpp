@@ -194,6 +194,7 @@ void form_base::setUpLanguages()
     });
     // Not the button's own menu: its nested event loop would hold a command's window open as long as the menu is.
     connect(button, &QToolButton::pressed, menu, [button, menu] {
+        menu->setAttribute(Qt::WA_NoMouseReplay); // a click on the button closes it, and does not open it again
         menu->popup(button->mapToGlobal(QPoint(button->width() - menu->sizeHint().width(), button->height())));
     });
     connect(menu, &QMenu::aboutToHide, button, [button] { button->setDown(false); });
