@@ -16,7 +16,7 @@ void QuestionBox::ask(QWidget *parent, const QString &question, const QString &y
                       const std::function<void()> &then)
 {
     withdraw();
-    m_box = new QMessageBox(QMessageBox::Question, parent->windowTitle(), question, QMessageBox::NoButton, parent);
+    m_box = new QMessageBox(QMessageBox::NoIcon, parent->windowTitle(), question, QMessageBox::NoButton, parent);
     m_box->setObjectName(QStringLiteral("BOX_question"));
     m_box->setAttribute(Qt::WA_DeleteOnClose);
     m_box->setTextFormat(Qt::PlainText);

@@ -6,6 +6,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSettings>
 #include <QShowEvent>
@@ -23,6 +24,7 @@
 namespace {
 
 constexpr int kLogLines = 10000;
+constexpr QSize kMinimumText{64, 25}; ///< characters and lines
 constexpr qint64 kTransferIntervalMs = 100;
 constexpr char kConnectedStyle[] = "background-color: #90EE90;";
 
@@ -32,7 +34,7 @@ form_updater::form_updater(QWidget *parent) : QDialog(parent), m_ui(std::make_un
 {
     m_ui->setupUi(this);
     m_ui->PTE_log->setMaximumBlockCount(kLogLines);
-    m_ui->PTE_log->setFont(theme::fixedPitchFont(font().pointSizeF()));
+    fitFont();
     QScrollBar *bar = m_ui->PTE_log->verticalScrollBar();
     connect(bar, &QScrollBar::rangeChanged, bar, [bar](int, int maximum) { bar->setValue(maximum); });
     retranslateDynamicUi();
@@ -61,8 +63,6 @@ void form_updater::set_connection_open(bool open)
 
 void form_updater::setBootloaderLeft()
 {
-    if (m_downloading)
-        return;
     setConnected(false);
     showStatus(tr("The device restarts with the firmware that it has."), false);
     update_button_states();
@@ -75,13 +75,12 @@ void form_updater::showEvent(QShowEvent *event)
         return;
     m_question.withdraw();
     reset_ui_state();
-    QString path = QDir::currentPath() + QLatin1String("/firmware.hex");
     QSettings settings(settings_keys::kFile, QSettings::IniFormat);
-    const QString stored = settings.value(settings_keys::kUpdaterPath).toString();
-    if (QFileInfo(stored).isFile())
-        path = stored;
-    else
+    QString path = settings.value(settings_keys::kUpdaterPath).toString();
+    if (!QFileInfo(path).isFile()) {
+        path = QDir::currentPath() + QLatin1String("/firmware.hex");
         settings.setValue(settings_keys::kUpdaterPath, path);
+    }
     if (path != m_image.path())
         m_image.choose(path);
     log(path.isEmpty() ? tr("Please select image\n") : tr("PATH: %1\n").arg(path));
@@ -91,8 +90,7 @@ void form_updater::showEvent(QShowEvent *event)
 void form_updater::hideEvent(QHideEvent *event)
 {
     QDialog::hideEvent(event);
-    if (!event->spontaneous())
-        window_place::store(this, settings_keys::kUpdaterGeometry);
+    window_place::store(this, settings_keys::kUpdaterGeometry);
 }
 
 void form_updater::changeEvent(QEvent *event)
@@ -101,11 +99,20 @@ void form_updater::changeEvent(QEvent *event)
         m_ui->retranslateUi(this);
         retranslateDynamicUi();
     } else if (event->type() == QEvent::FontChange) {
-        m_ui->PTE_log->setFont(theme::fixedPitchFont(font().pointSizeF()));
+        fitFont();
     } else if (event->type() == QEvent::ActivationChange && isActiveWindow() && !m_downloading) {
         lookAtImage(); // it may have been built anew meanwhile
     }
     QDialog::changeEvent(event);
+}
+
+/// Sentences wrap, and would be cut off in a window of any size.
+void form_updater::fitFont()
+{
+    m_ui->PTE_log->setFont(theme::fixedPitchFont(font().pointSizeF()));
+    const QFontMetrics metrics = fontMetrics();
+    setMinimumSize(QSize(kMinimumText.width() * metrics.averageCharWidth(), kMinimumText.height() * metrics.height())
+                       .boundedTo(screen()->availableSize()));
 }
 
 void form_updater::reject()
@@ -171,15 +178,10 @@ void form_updater::on_BTN_connect_clicked()
 {
     if (m_downloading)
         return;
-    m_ui->BTN_open_file->setEnabled(false);
-    m_ui->BTN_connect->setEnabled(false);
-    m_ui->BTN_download->setEnabled(false);
+    reset_ui_state();
+    for (QPushButton *button : {m_ui->BTN_open_file, m_ui->BTN_connect, m_ui->BTN_download, m_ui->BTN_restart})
+        button->setEnabled(false);
     log(tr("\n--- Connecting to bootloader ---\n"));
-    m_ui->PB_progress->setValue(0);
-    m_ui->LBL_transfer->clear();
-    m_result.reset();
-    showStep();
-    showStatus({}, false);
     m_ui->LBL_bootloader->setText(updater_text::step(BootloaderStep::Restart));
     repaint(); // the last chance before the wait
 
@@ -284,11 +286,10 @@ void form_updater::onBootloaderDownloadFinished(bool ok)
 void form_updater::update_button_states()
 {
     const QString busy = m_downloading ? tr("A download is running.") : QString();
-    m_ui->BTN_open_file->setEnabled(!m_downloading);
-    m_ui->BTN_connect->setEnabled(!m_downloading);
-    m_ui->BTN_download->setEnabled(m_connected && !m_downloading);
-    m_ui->BTN_close->setEnabled(!m_downloading);
-    m_ui->BTN_restart->setEnabled(m_connected && !m_downloading);
+    for (QPushButton *button : {m_ui->BTN_open_file, m_ui->BTN_connect, m_ui->BTN_close})
+        button->setEnabled(!m_downloading);
+    for (QPushButton *button : {m_ui->BTN_download, m_ui->BTN_restart})
+        button->setEnabled(m_connected && !m_downloading);
     m_ui->BTN_stop->setEnabled(m_downloading && !m_stopping);
     m_ui->BTN_connect->setText(m_connected ? tr("Connected") : tr("Connect"));
     m_ui->BTN_connect->setProperty("connected", m_connected);

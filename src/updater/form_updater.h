@@ -39,7 +39,7 @@ public:
 
     /// The port worker, once, before anything is pressed; not owned, may die first.
     void set_serial_instance(KvUartPort *port);
-    /// The device was told to leave its bootloader.
+    /// The device was told to leave its bootloader; not during a download.
     void setBootloaderLeft();
     /// Tells that a port was opened or closed: a bootloader that was connected before no longer is.
     void set_connection_open(bool open);
@@ -85,6 +85,7 @@ private:
     void reset_ui_state();
     void retranslateDynamicUi();
     void onDownloadAdvanced(BootloaderStep step, qint64 acknowledgedBytes);
+    void fitFont();
     void log(const QString &text);
     void chooseImage(const QString &path);
     void lookAtImage();
