@@ -112,6 +112,8 @@ QList<seeds::Seed> seeds::models()
          "o a\ng b\nusemtl c\ns off\nv 0 0 0 1\nv 1 0 0\nv 1 1 0\nv 0 1 0\nv 0.5 2 1e0\nvt 0 0\nvn 0 0 -1\n"
          "f 1/1/1 2/1/1 3/1/1 4/1/1\nf 1 2 3 4 5\n"},
         {"models", "from_the_end.obj", "v 0 0 0\r\nv 1 0 0\r\nv 0 1 0\r\nvn 1 0 0\r\nf -3//-1 -2//-1 -1//-1\r\n"},
+        {"models", "line_forms.obj",
+         "\xEF\xBB\xBF# C:\\\nv 0 \\\n0 0 # one\rv 1 0 \\\r\n0\r\nv 0 1 0#\nf 1 \\\r2 3 \\"},
         {"models", "missing_corner.obj", "v 0 0 0\nv 1 0 0\nf 1 2 3\n"},
         {"models", "zero_corner.obj", "v 0 0 0\nv 1 0 0\nv 0 1 0\nf 0 1 2\n"},
         {"models", "large_numbers.obj", "v 1e9 -1e9 1e-30\nv 1e400 0 0\nv .5 -.5 +5.\nf 1 2 3\nf 1 3 2\n"},

@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Checks that no folder of src/ includes one on its own floor or above, and that the simulator stands alone."""
+"""Checks that no folder of src/ includes one on its own floor or above, that the simulator stands alone, and that no
+window starts an event loop of its own: a command that waits for its reply meanwhile would wait for the user as well."""
 
 import pathlib
 import re
@@ -10,6 +11,18 @@ FLOORS = {"app": 1, "link": 2, "attitude": 3, "record": 3, "device": 4, "session
 # fft/ takes its ring of samples from wave/.
 ALLOWED = {("fft", "wave")}
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([a-z_]+)/')
+
+# What runs a nested event loop. Use open(), show() or popup() and signals.
+NESTED = re.compile(
+    r"(->|\.|::)exec\(|QFileDialog::get|QMessageBox::(information|warning|critical|question|about|aboutQt)\("
+    r"|Q(Input|Color|Font)Dialog::get|InstantPopup|MenuButtonPopup|->setMenu\("
+)
+LOOPS = {
+    "src/main.cpp",  # the program's own loop
+    "src/app/initial_language_picker.cpp",  # before there is a window
+    "src/device/command_broker.cpp",
+    "src/link/kboot_client.cpp",
+}
 
 root = pathlib.Path(__file__).resolve().parent.parent
 faults = []
@@ -22,6 +35,8 @@ for path in sorted([*root.glob("src/*/**/*"), *root.glob("simulator/**/*")]):
         faults.append(f"{path.relative_to(root)}: folder {own} has no floor")
         continue
     for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
+        if own != "simulator" and str(path.relative_to(root)) not in LOOPS and NESTED.search(line.split("//")[0]):
+            faults.append(f"{path.relative_to(root)}:{number}: starts a nested event loop")
         match = INCLUDE.match(line)
         other = match.group(1) if match else own
         if other == own or (own, other) in ALLOWED:

@@ -5,14 +5,18 @@
 
 void QuestionBox::withdraw()
 {
-    delete m_box;
+    if (m_box == nullptr)
+        return;
+    m_box->hide();
+    m_box->deleteLater(); // it may be its own answer that takes it back
+    m_box.clear();
 }
 
 void QuestionBox::ask(QWidget *parent, const QString &question, const QString &yes, const QString &no,
                       const std::function<void()> &then)
 {
     withdraw();
-    m_box = new QMessageBox(QMessageBox::Question, parent->windowTitle(), question, QMessageBox::NoButton, parent);
+    m_box = new QMessageBox(QMessageBox::NoIcon, parent->windowTitle(), question, QMessageBox::NoButton, parent);
     m_box->setObjectName(QStringLiteral("BOX_question"));
     m_box->setAttribute(Qt::WA_DeleteOnClose);
     m_box->setTextFormat(Qt::PlainText);
@@ -21,7 +25,6 @@ void QuestionBox::ask(QWidget *parent, const QString &question, const QString &y
     QPushButton *leave = m_box->addButton(no, QMessageBox::RejectRole);
     m_box->setDefaultButton(leave);
     m_box->setEscapeButton(leave);
-    // Later: the answer may take the question back, which is still closing.
-    QObject::connect(agree, &QPushButton::clicked, m_box, then, Qt::QueuedConnection);
+    QObject::connect(agree, &QPushButton::clicked, m_box, then);
     m_box->show();
 }

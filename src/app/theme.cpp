@@ -59,10 +59,10 @@ QPushButton:default:focus, QPushButton[primary="true"]:focus, QToolBar QToolButt
 QPushButton:default:disabled, QPushButton[primary="true"]:disabled {
     background: #BFDBFE; border-color: #BFDBFE; color: #FFFFFF; }
 QPushButton[connected="true"]:disabled { color: #1F2937; }
-QToolButton#button_language { border: none; border-radius: 4px; padding: 4px 22px 4px 10px; }
-QToolButton#button_language:hover { background: #EFF6FF; }
-QToolButton#button_language::menu-indicator {
-    image: url(:/images/chevron-down.png); subcontrol-origin: padding; subcontrol-position: right center; right: 6px; }
+QToolButton#button_language { border: 0 solid transparent; border-right-width: 6px; border-radius: 4px;
+    padding: 4px 16px 4px 10px; background-image: url(:/images/chevron-down.png); background-repeat: no-repeat;
+    background-position: right center; background-origin: padding; }
+QToolButton#button_language:hover, QToolButton#button_language:pressed { background-color: #EFF6FF; }
 QToolButton#button_recording { border: none; border-radius: 4px; padding: 2px 10px; color: #B91C1C; font-weight: bold; }
 QToolButton#button_recording:hover { background: #FEF2F2; }
 QToolBar QToolButton#qt_toolbar_ext_button { padding: 0; min-width: 16px; image: url(:/images/chevron-down.png); }

@@ -6,6 +6,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSettings>
 #include <QShowEvent>
@@ -25,6 +26,7 @@ namespace {
 
 constexpr int kAttemptsPerPacket = 2;
 constexpr int kLogLines = 10000;
+constexpr QSize kMinimumText{64, 25}; ///< characters and lines
 constexpr qint64 kTransferIntervalMs = 100;
 constexpr char kConnectedStyle[] = "background-color: #90EE90;";
 
@@ -35,7 +37,7 @@ form_updater::form_updater(DeviceSession *session, QWidget *parent)
 {
     m_ui->setupUi(this);
     m_ui->PTE_log->setMaximumBlockCount(kLogLines);
-    m_ui->PTE_log->setFont(theme::fixedPitchFont(font().pointSizeF()));
+    fitFont();
     QScrollBar *bar = m_ui->PTE_log->verticalScrollBar();
     connect(bar, &QScrollBar::rangeChanged, bar, [bar](int, int maximum) { bar->setValue(maximum); });
     set_serial_instance(&session->port());
@@ -90,13 +92,12 @@ void form_updater::showEvent(QShowEvent *event)
         return;
     m_question.withdraw();
     reset_ui_state();
-    QString path = QDir::currentPath() + QLatin1String("/firmware.hex");
     QSettings settings(settings_keys::kFile, QSettings::IniFormat);
-    const QString stored = settings.value(settings_keys::kUpdaterPath).toString();
-    if (QFileInfo(stored).isFile())
-        path = stored;
-    else
+    QString path = settings.value(settings_keys::kUpdaterPath).toString();
+    if (!QFileInfo(path).isFile()) {
+        path = QDir::currentPath() + QLatin1String("/firmware.hex");
         settings.setValue(settings_keys::kUpdaterPath, path);
+    }
     if (path != m_image.path())
         m_image.choose(path);
     log(path.isEmpty() ? tr("Please select image\n") : tr("PATH: %1\n").arg(path));
@@ -106,8 +107,7 @@ void form_updater::showEvent(QShowEvent *event)
 void form_updater::hideEvent(QHideEvent *event)
 {
     QDialog::hideEvent(event);
-    if (!event->spontaneous())
-        window_place::store(this, settings_keys::kUpdaterGeometry);
+    window_place::store(this, settings_keys::kUpdaterGeometry);
 }
 
 void form_updater::changeEvent(QEvent *event)
@@ -116,11 +116,20 @@ void form_updater::changeEvent(QEvent *event)
         m_ui->retranslateUi(this);
         retranslateDynamicUi();
     } else if (event->type() == QEvent::FontChange) {
-        m_ui->PTE_log->setFont(theme::fixedPitchFont(font().pointSizeF()));
+        fitFont();
     } else if (event->type() == QEvent::ActivationChange && isActiveWindow() && !isDownloading()) {
         lookAtImage(); // it may have been built anew meanwhile
     }
     QDialog::changeEvent(event);
+}
+
+/// Sentences wrap, and would be cut off in a window of any size.
+void form_updater::fitFont()
+{
+    m_ui->PTE_log->setFont(theme::fixedPitchFont(font().pointSizeF()));
+    const QFontMetrics metrics = fontMetrics();
+    setMinimumSize(QSize(kMinimumText.width() * metrics.averageCharWidth(), kMinimumText.height() * metrics.height())
+                       .boundedTo(screen()->availableSize()));
 }
 
 void form_updater::reject()
@@ -193,15 +202,10 @@ void form_updater::on_BTN_connect_clicked()
 {
     if (isDownloading())
         return;
-    m_ui->BTN_open_file->setEnabled(false);
-    m_ui->BTN_connect->setEnabled(false);
-    m_ui->BTN_download->setEnabled(false);
+    reset_ui_state();
+    for (QPushButton *button : {m_ui->BTN_open_file, m_ui->BTN_connect, m_ui->BTN_download, m_ui->BTN_restart})
+        button->setEnabled(false);
     log(tr("\n--- Connecting to bootloader ---\n"));
-    m_ui->PB_progress->setValue(0);
-    m_ui->LBL_transfer->clear();
-    m_result.reset();
-    showStep();
-    showStatus({}, false);
     m_ui->LBL_bootloader->setText(updater_text::step(BootloaderStep::Restart));
     repaint(); // the last chance before the wait
 
@@ -299,11 +303,10 @@ void form_updater::onBootloaderDownloadFinished(bool ok)
 void form_updater::update_button_states()
 {
     const QString busy = isDownloading() ? tr("A download is running.") : QString();
-    m_ui->BTN_open_file->setEnabled(!isDownloading());
-    m_ui->BTN_connect->setEnabled(!isDownloading());
-    m_ui->BTN_download->setEnabled(isConnected() && !isDownloading());
-    m_ui->BTN_close->setEnabled(!isDownloading());
-    m_ui->BTN_restart->setEnabled(isConnected() && !isDownloading());
+    for (QPushButton *button : {m_ui->BTN_open_file, m_ui->BTN_connect, m_ui->BTN_close})
+        button->setEnabled(!isDownloading());
+    for (QPushButton *button : {m_ui->BTN_download, m_ui->BTN_restart})
+        button->setEnabled(isConnected() && !isDownloading());
     m_ui->BTN_stop->setEnabled(isDownloading() && !m_stopping);
     m_ui->BTN_connect->setText(isConnected() ? tr("Connected") : tr("Connect"));
     m_ui->BTN_connect->setProperty("connected", isConnected());

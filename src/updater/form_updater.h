@@ -66,6 +66,7 @@ private:
     void reset_ui_state();
     void retranslateDynamicUi();
     void onDownloadAdvanced(BootloaderStep step, qint64 acknowledgedBytes);
+    void fitFont();
     void log(const QString &text);
     void chooseImage(const QString &path);
     void lookAtImage();

@@ -33,8 +33,8 @@ struct GatewayNodeStatus
     bool operator==(const GatewayNodeStatus &) const = default;
 };
 
-/// Watches which radio nodes a gateway hears: how often, and how long ago. A node that fell silent stays listed with its
-/// last values. What is missing is counted elsewhere, and comes with the samples.
+/// Watches which radio nodes a gateway hears: how often, and how long ago. A node that fell silent stays listed with
+/// its last values. What is missing is counted elsewhere, and comes with the samples.
 ///
 /// Host times are milliseconds of a clock that does not run backwards. Bounded: ids have 8 bits, so at most 256 nodes
 /// of fixed size.
@@ -64,7 +64,7 @@ private:
         qint64 sinceMs = 0; ///< host time from which it was heard without a break
         bool hasClock = false;
         quint64 missing = 0;
-        SampleGaps pace; ///< for the period alone
+        SampleGaps pace;                            ///< for the period alone
         std::array<quint32, kBuckets + 1> counts{}; ///< samples per bucket of host time, a ring
     };
 

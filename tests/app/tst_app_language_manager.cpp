@@ -80,6 +80,9 @@ private slots:
         const QString taken =
             offered.at(answer >= 0 && answer < 5 ? answer : preferred).toMap().value(QStringLiteral("code")).toString();
         QCOMPARE(m_manager.currentLanguage(), taken);
+        // What was only taken for this run is kept when the user chooses it.
+        QVERIFY(m_manager.setLanguage(taken));
+        QCOMPARE(stored(), taken);
     }
 
     void changesAtRunTime()

@@ -235,6 +235,55 @@ private slots:
         QCOMPARE(window.text("VAL_dpitch"), QStringLiteral("0.00°"));
     }
 
+    /// A home belongs to a product's mounting: it is there again when that is, and only its own is cleared.
+    void homeBelongsToTheMounting()
+    {
+        const auto rfu = OrientationPreset::RfuEnu312;
+        const auto flu = OrientationPreset::FluNwuZyx;
+        Window window;
+        const QString one = QStringLiteral("MZ221");
+        const QString two = QStringLiteral("MZ14");
+        enum Does { Nothing, Capture, Clear, Await };
+        const std::tuple<QString, OrientationPreset, Does, float> rows[] = {
+            {one, rfu, Capture, 10}, {one, flu, Nothing, 0},  {one, rfu, Nothing, 10}, // picked and picked back
+            {{}, rfu, Nothing, 0},   {one, rfu, Nothing, 10},                          // closed and opened
+            {two, rfu, Capture, 20}, {two, flu, Capture, 30}, {{}, flu, Nothing, 0},   {two, flu, Nothing, 30},
+            {two, flu, Clear, 0},    {two, rfu, Nothing, 20}, {one, rfu, Nothing, 10}};
+        for (const auto &[product, preset, does, home] : rows) {
+            window.setMounting(product, preset);
+            if (does == Capture) {
+                window.show(attitude(QQuaternion::fromAxisAndAngle(1, 0, 0, home), preset));
+                window.click("BTNSetHome");
+            } else if (does == Clear) {
+                window.click("BTNClearHome");
+            }
+            window.show(attitude({}, preset));
+            QCOMPARE(window.backend().homeReferenceActive(), home != 0);
+            QCOMPARE(window.findChild<QPushButton *>(QStringLiteral("BTNClearHome"))->isEnabled(), home != 0);
+            if (home != 0 && preset == rfu)
+                QCOMPARE(window.backend().relativeEuler().y(), -home);
+        }
+        window.show({});
+        window.setMounting(one, flu);
+        window.click("BTNSetHome"); // awaits a pose of this mounting, not of the next
+        window.setMounting(two, flu);
+        window.show(attitude({}, flu));
+        QVERIFY(!window.backend().homeReferenceActive());
+    }
+
+    /// No samples come: the last pose is shown in the new axes as soon as it is given in them.
+    void mountingChangesWithoutSamples()
+    {
+        Window window;
+        const QQuaternion pose = QQuaternion::fromAxisAndAngle(1, 0, 0, 30);
+        window.show(attitude(pose));
+        window.setMounting(QStringLiteral("MZ221"), OrientationPreset::FluNwuZyx);
+        const NormalizedAttitude anew = attitude(pose, OrientationPreset::FluNwuZyx);
+        window.setAttitude(anew);
+        QTRY_COMPARE(window.backend().quaternion(), anew.quaternion);
+        QTRY_COMPARE(window.text("VAL_roll"), QStringLiteral("+30.00°"));
+    }
+
     void everyBuiltInModelIsDrawn()
     {
         Window window;

@@ -1,5 +1,6 @@
 #include <QAbstractButton>
 #include <QAction>
+#include <QMenu>
 #include <QRegularExpression>
 #include <QSettings>
 #include <QStyleOptionComboBox>
@@ -117,6 +118,8 @@ private slots:
         desk.find<QAction>(qPrintable(QStringLiteral("action_language_") + code))->trigger();
         QCOMPARE(AppLanguageManager::instance().currentLanguage(), code);
         const auto *openAction = desk.find<QAction>("action_serial_open");
+        QTRY_COMPARE(desk.find<QMenu>("menuView")->fontInfo().family(), QFontInfo(QApplication::font()).family());
+        QVERIFY(desk.window->styleSheet().contains(QApplication::font().families().join(QStringLiteral("','"))));
         QTRY_VERIFY2(openAction->text().remove(u'&').contains(someText), qPrintable(openAction->text()));
         QCOMPARE(visibleTexts(desk.window.get()).join(u'\n') == welcome, code == QLatin1String("EN"));
 

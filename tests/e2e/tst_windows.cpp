@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolButton>
 
 #include "app/app_language_manager.h"
 #include "attitude/form_threed.h"
@@ -146,9 +147,23 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(stateOf(15), 2, 20000);
         QCOMPARE(model->rowCount(), 16);
         QTRY_COMPARE(stateOf(14), 0);
-        desk.find<QAction>("action_serial_stop")->trigger();
-        QCOMPARE(model->rowCount(), 0);
+        // The link breaks: the window keeps what it shows, marked as ended, until the next opening.
+        GatewayDashboardBridge &bridge = dashboard->bridge();
+        bridge.setNodeChosen(1, true);
+        const auto *chart = qobject_cast<WaveChartBridge *>(
+            bridge.panes().constFirst().toMap().value(QStringLiteral("backend")).value<QObject *>());
+        QTRY_VERIFY(chart->hasData());
+        QVERIFY(simulator.control("unplug"));
+        QTRY_VERIFY(!desk.isOpen());
         QVERIFY(!action->isEnabled());
+        QCOMPARE(model->rowCount(), 16);
+        QVERIFY(chart->hasData() && bridge.chosenNodes() == QList<int>{1});
+        QTRY_COMPARE(stateOf(1), int(NodeState::Ended));
+        QVERIFY(simulator.control("replug"));
+        desk.open(simulator.port());
+        QVERIFY(bridge.chosenNodes().isEmpty());
+        QTRY_COMPARE(model->rowCount(), 15);
+        QCOMPARE(stateOf(1), int(NodeState::Live));
     }
 
     void spectrumAndThreeDShowTheSelectedNode()
@@ -209,6 +224,51 @@ private slots:
             QTRY_VERIFY2(texts().at(i) != english.at(i), qPrintable(english.at(i)));
         QVERIFY(AppLanguageManager::instance().setLanguage(QStringLiteral("EN")));
         QTRY_COMPARE(texts(), english);
+        // Nor does the line with rate and range wait for a sample to change.
+        static const QRegularExpression asian(QStringLiteral("[\\p{Han}\\p{Hiragana}\\p{Katakana}\\p{Hangul}]"));
+        QVERIFY(shownTexts(dashboard->rootObject()).filter(QStringLiteral(" Hz · ")).size() == 1);
+        QTRY_COMPARE(shownTexts(dashboard->rootObject()).filter(asian), QStringList());
+    }
+
+    /// A window that is opened while a reply is awaited does not hold the broker's window open.
+    void nothingHoldsTheBrokersWindow()
+    {
+        SimulatorProcess simulator({});
+        Desk desk;
+        QVERIFY(AppLanguageManager::instance().initialize());
+        desk.restart();
+        desk.open(simulator.port());
+        QTRY_VERIFY(desk.isOpen());
+        desk.find<QAction>("action_firmware_update")->trigger();
+        desk.find<QAction>("action3D_view")->trigger();
+        auto *updater = desk.window->findChild<form_updater *>();
+        auto *threed = openDialog<form_threed>();
+        auto *language = desk.find<QToolButton>("button_language");
+        QVERIFY(updater != nullptr && threed != nullptr && language != nullptr);
+        const auto closeAll = [] {
+            while (QWidget *popup = QApplication::activePopupWidget())
+                popup->close();
+            for (auto *dialog = openDialog<QFileDialog>(); dialog != nullptr; dialog = openDialog<QFileDialog>())
+                dialog->close();
+        };
+        const std::pair<const char *, std::function<void()>> rows[] = {
+            {"firmware file", [&] { updater->findChild<QPushButton *>(QStringLiteral("BTN_open_file"))->click(); }},
+            {"model file", [&] { threed->findChild<QPushButton *>(QStringLiteral("BNTLoad"))->click(); }},
+            {"language menu", [&] { QTest::mousePress(language, Qt::LeftButton); }}};
+        for (const auto &[name, openIt] : rows) {
+            bool isOpen = false;
+            QTimer::singleShot(20, desk.window.get(), openIt);
+            QTimer::singleShot(100, desk.window.get(), [&isOpen] {
+                isOpen = QApplication::activePopupWidget() != nullptr || openDialog<QFileDialog>() != nullptr;
+            });
+            QTimer::singleShot(3000, desk.window.get(), closeAll);
+            QElapsedTimer clock;
+            clock.start();
+            QVERIFY2(!desk.settings()->get_prod_info().isEmpty(), name);
+            QVERIFY2(clock.elapsed() < 2500, name);
+            QVERIFY2(isOpen, name);
+            closeAll();
+        }
     }
 
     /// Batches go on arriving while the language changes; no word of the other one stays.

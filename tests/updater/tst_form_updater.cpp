@@ -1,7 +1,9 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDir>
+#include <QFileDialog>
 #include <QLabel>
+#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
@@ -16,6 +18,7 @@
 #include "link/kv_uart_port.h"
 #include "support/files.h"
 #include "support/hex_file.h"
+#include "support/open_dialog.h"
 #include "support/pixels.h"
 #include "support/real_firmware.h"
 #include "support/simulator_process.h"
@@ -229,6 +232,100 @@ private slots:
         QVERIFY(bench.label("LBL_doubts").contains(QStringLiteral("changed since it was loaded")));
         bench.dialog.close();
         QVERIFY(!bench.dialog.isVisible());
+    }
+
+    /// Restart and Stop: when they are offered, what they ask, and what they ask for.
+    void restartAndStop()
+    {
+        const auto box = [] { return openDialog<QMessageBox>(); };
+        const auto answer = [&](int button) { QTest::mouseClick(box()->buttons().at(button), Qt::LeftButton); };
+        const auto buttonWith = [&](QMessageBox::ButtonRole role) {
+            for (QAbstractButton *button : box()->buttons()) {
+                if (box()->buttonRole(button) == role)
+                    return int(box()->buttons().indexOf(button));
+            }
+            return -1;
+        };
+        Bench bench(hex_file::file(goodImage(20000), 0));
+        QSignalSpy restarts(&bench.dialog, &form_updater::restartRequested);
+        QSignalSpy stops(&bench.dialog, &form_updater::stopRequested);
+        const auto offered = [&] {
+            return std::pair(bench.button("BTN_restart")->isEnabled(), bench.button("BTN_stop")->isEnabled());
+        };
+        QCOMPARE(offered(), std::pair(false, false));
+        bench.dialog.close();
+        QVERIFY(box() == nullptr); // nothing is connected
+        bench.dialog.show();
+        bench.press("BTN_connect");
+        QCOMPARE(offered(), std::pair(true, false));
+        // The window is closed over a connected bootloader.
+        for (const bool agreed : {false, true}) {
+            bench.dialog.close();
+            QVERIFY(!bench.dialog.isVisible() && box() != nullptr && !box()->isModal());
+            QCOMPARE(box()->text(),
+                     QStringLiteral("The device is still in its bootloader: it sends no data until it restarts."));
+            answer(buttonWith(agreed ? QMessageBox::AcceptRole : QMessageBox::RejectRole));
+            QTRY_COMPARE(restarts.count(), agreed ? 1 : 0);
+            QTRY_VERIFY(box() == nullptr);
+            bench.dialog.show();
+        }
+        bench.dialog.close();
+        bench.dialog.show();
+        QVERIFY(box() == nullptr); // it is answered by coming back
+        bench.press("BTN_restart");
+        QCOMPARE(restarts.count(), 2);
+
+        QVERIFY(bench.device.control("bootloader abort 600:2")); // the download ends with a failure, stopped or not
+        bench.press("BTN_download");
+        QCOMPARE(offered(), std::pair(false, true));
+        for (const bool agreed : {false, true}) {
+            bench.press("BTN_stop");
+            QVERIFY(box() != nullptr && !box()->isModal());
+            QCOMPARE(box()->text(),
+                     QStringLiteral("Stop the download? The device has no complete firmware then. Its bootloader "
+                                    "stays: press Connect, then Download."));
+            if (agreed)
+                answer(buttonWith(QMessageBox::AcceptRole));
+            else
+                QTest::keyClick(box(), Qt::Key_Return); // the harmless answer is the default
+            QTRY_COMPARE(stops.count(), agreed ? 1 : 0);
+        }
+        QCOMPARE(offered(), std::pair(false, false));
+        QTRY_VERIFY_WITH_TIMEOUT(!bench.dialog.isDownloadRunning(), kDownloadMs);
+        QVERIFY(bench.label("LBL_status").startsWith(QStringLiteral("The download was stopped. ")));
+        QVERIFY(bench.label("LBL_status").endsWith(QStringLiteral("press Connect, then Download.")));
+        bench.press("BTN_connect");
+        bench.press("BTN_download");
+        bench.press("BTN_stop");
+        QTRY_VERIFY_WITH_TIMEOUT(!bench.dialog.isDownloadRunning(), kDownloadMs);
+        QVERIFY(box() == nullptr); // there is nothing left to stop
+        bench.press("BTN_connect");
+        bench.dialog.setBootloaderLeft();
+        QCOMPARE(offered(), std::pair(false, false));
+        QVERIFY(!bench.dialog.isBootloaderConnected());
+    }
+
+    /// The dialog for the file stands beside the window: the call returns at once.
+    void choosesAFile()
+    {
+        const QString other = QDir::current().filePath(QStringLiteral("other.hex"));
+        QVERIFY(writeFile(other, hex_file::file(goodImage(3000), 0)));
+        Bench bench(hex_file::file(goodImage(2000), 0));
+        QTimer::singleShot(2000, &bench.dialog, [] { // a nested loop would wait for ever
+            if (QWidget *modal = QApplication::activeModalWidget())
+                modal->close();
+        });
+        bench.press("BTN_open_file");
+        auto *dialog = openDialog<QFileDialog>();
+        QVERIFY(dialog != nullptr);
+        QCOMPARE(dialog->windowTitle(), QStringLiteral("Open File"));
+        QCOMPARE(dialog->nameFilters(), QStringList(QStringLiteral("Text Files(*.hex)")));
+        emit dialog->fileSelected(other);
+        dialog->close();
+        QVERIFY(bench.log().endsWith(QStringLiteral("FILE:%1\n").arg(other)));
+        QVERIFY(bench.label("LBL_image").startsWith(QStringLiteral("3,000 bytes")));
+        QCOMPARE(QSettings(settings_keys::kFile, QSettings::IniFormat).value(settings_keys::kUpdaterPath).toString(),
+                 other);
     }
 
     // What is pressed while the window waits for the connect is dropped.

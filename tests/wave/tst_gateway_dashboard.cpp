@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "wave/gateway_dashboard_bridge.h"
+#include "wave/sample_clock.h"
 
 namespace {
 
@@ -14,7 +15,7 @@ constexpr SampleFields kFull = SampleField::Acceleration | SampleField::Temperat
 
 GatewaySample sampleOf(int id, unsigned int stampMs = 0)
 {
-    GatewaySample sample{.timestampMs = stampMs, .hasNodeTime = true, .fields = kFull};
+    GatewaySample sample{.timestampMs = stampMs, .fields = kFull};
     sample.node.id = quint8(id);
     sample.node.acc[0] = 3;
     sample.node.acc[1] = 4;
@@ -72,23 +73,19 @@ private slots:
     void takesBatchesApart()
     {
         DecodedFrame frame;
-        frame.gw_ts_ms = 77;
         frame.nodes.resize(2);
-        frame.nodes[1].sample.time_ms = 9;
         frame.nodes[1].sample.id = 3;
-        // Family, tag, samples, stamp and its kind, temperature carried.
-        const std::tuple<int, QByteArray, int, unsigned int, bool, bool> rows[] = {
-            {frame_family::GatewayBatch62, "\x62", 2, 9, true, true},
-            {frame_family::GatewayBatch63, "\x63", 2, 77, false, false},
-            {frame_family::SingleNode, "\x91", 0, 0, false, false}};
-        for (const auto &[family, tags, count, stamp, own, temperature] : rows) {
+        // Family, tag, samples, temperature carried.
+        const std::tuple<int, QByteArray, int, bool> rows[] = {{frame_family::GatewayBatch62, "\x62", 2, true},
+                                                               {frame_family::GatewayBatch63, "\x63", 2, false},
+                                                               {frame_family::SingleNode, "\x91", 0, false}};
+        for (const auto &[family, tags, count, temperature] : rows) {
             frame.family = family;
             frame.item_tags = tags;
             const QList<GatewaySample> samples = gatewaySamples(frame);
             QCOMPARE(samples.size(), count);
-            const GatewaySample last = samples.value(1);
-            QCOMPARE(std::tuple(last.timestampMs, last.hasNodeTime), std::tuple(stamp, own));
-            QCOMPARE(bool(last.fields & SampleField::Temperature), temperature);
+            QCOMPARE(samples.value(1).node.id, quint8(count > 0 ? 3 : 0));
+            QCOMPARE(bool(samples.value(1).fields & SampleField::Temperature), temperature);
         }
     }
 
@@ -127,16 +124,19 @@ private slots:
         QCOMPARE(run(50), 50.0); // since it came back
     }
 
-    void countsMissingSamples()
+    /// What is missing is counted in one place only: whatever the stamps here say, the table shows that count.
+    void showsTheCountThatItIsGiven()
     {
-        GatewayNodeTracker fast; // 400 Hz in whole milliseconds: one at 17.5 is missing
-        for (const unsigned int stamp : {2, 5, 7, 10, 12, 15, 20, 22})
-            fast.addSamples({sampleOf(1, stamp), sampleOf(2)}, 0);
-        GatewaySample other = sampleOf(1, 5000);
-        other.hasNodeTime = false; // another clock, no gap
-        fast.addSamples({other}, 0);
-        QCOMPARE(fast.nodes(0).first().missing, 1U);
-        QCOMPARE(fast.nodes(0).last().missing, 0U);
+        GatewayNodeTracker tracker;
+        for (const unsigned int stamp : {10U, 20U, 30U, 40U, 50U, 60U, 70U, 9000U}) {
+            GatewaySample sample = sampleOf(1, stamp);
+            sample.missing = stamp / 10;
+            sample.hasClock = true;
+            tracker.addSamples({sample, sampleOf(2, stamp)}, stamp);
+        }
+        const QList<GatewayNodeStatus> nodes = tracker.nodes(9000);
+        QCOMPARE(std::pair(nodes.first().missing, nodes.first().hasClock), std::pair(quint64(900), true));
+        QCOMPARE(std::pair(nodes.last().missing, nodes.last().hasClock), std::pair(quint64(0), false));
     }
 
     void listsNodesById()
@@ -261,22 +261,31 @@ private slots:
         QCOMPARE(bridge.nodeCount(), 0);
         bridge.setDashboardActive(true);
         QCOMPARE(bridge.summary(), QStringLiteral("Nodes 1 · late 0 · gone 1")); // the chosen one is awaited
-        for (const unsigned int stamp : {100U, 117U, 0U})
+        for (const unsigned int stamp : {100U, 117U, 138U})
             bridge.updateGatewaySamples({sampleOf(1, stamp), sampleOf(2, stamp)});
         QTRY_COMPARE(bridge.summary(), QStringLiteral("Nodes 2 · late 0 · gone 0"));
-        QCOMPARE(chart->newestTimeSec(), 0.038); // 1, 18, and 20 more by the rate
+        QCOMPARE(chart->newestTimeSec(), 0.138); // the stamps are the stream's time
         QCOMPARE(chart->getValuesAtTime(0), (QVariantList{3.0, 4.0, 0.0, 5.0}));
         QCOMPARE(chart->framerate(), 50U);
         QCOMPARE(chart->chartTitle(), QStringLiteral("Node 1 · Acceleration (G)"));
         bridge.setPlaying(false);
         bridge.updateGatewaySamples({sampleOf(1, 200)});
-        QCOMPARE(chart->newestTimeSec(), 0.038);
+        QCOMPARE(chart->newestTimeSec(), 0.138);
+        // The connection ends: everything stays, however much time passes, and nothing is added.
+        bridge.setPlaying(true);
+        bridge.setEnded(true);
+        bridge.updateGatewaySamples({sampleOf(1, 300), sampleOf(7, 300)});
+        bridge.refresh(GatewayDashboardBridge::hostNowMs() + 60000);
+        QCOMPARE(bridge.summary(), QStringLiteral("Nodes 2 · connection ended"));
+        QCOMPARE(text(*bridge.nodeModel(), 0, GatewayNodeModel::StateTextRole), QStringLiteral("Ended"));
+        QCOMPARE(text(*bridge.nodeModel(), 0, GatewayNodeModel::AgeTextRole), QStringLiteral("–"));
+        QCOMPARE(chart->newestTimeSec(), 0.138);
         bridge.setDashboardActive(false);
         QVERIFY(!chart->hasData());
         QCOMPARE(bridge.nodeCount(), 0);
         QCOMPARE(bridge.chosenNodes(), QList<int>{1});
         bridge.clear();
-        QVERIFY(bridge.chosenNodes().isEmpty());
+        QVERIFY(bridge.chosenNodes().isEmpty() && !bridge.isEnded());
     }
 };
 
