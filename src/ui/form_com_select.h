@@ -20,7 +20,7 @@ class form_com_select;
 ///
 /// The path field is what counts: choosing a row fills it, and the row whose path it holds is the selected one.
 ///
-/// Run it with exec(). portName() and baudRate() give what was accepted last, so a cancelled run changes nothing.
+/// Open it with open(). portName() and baudRate() give what was accepted last, so a cancelled run changes nothing.
 class form_com_select : public QDialog
 {
     Q_OBJECT

@@ -6,13 +6,12 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QScreen>
-#include <QSettings>
 #include <QStyle>
 
 #include "app/settings_keys.h"
 #include "app/theme.h"
-#include "app/window_place.h"
 #include "app/value_format.h"
+#include "app/window_place.h"
 #include "ui/device_text.h"
 #include "ui_form_link_health.h"
 
