@@ -206,7 +206,7 @@ void FftChartBridge::setCustomBand(const QString &name, double lowHz, double hig
 
 QString FftChartBridge::tryCustomBand(const QString &name, double lowHz, double highHz)
 {
-    const QString refusal = m_bands.refusal(name, lowHz, highHz);
+    QString refusal = m_bands.refusal(name, lowHz, highHz);
     if (refusal.isEmpty())
         setCustomBand(name, lowHz, highHz);
     return refusal;
