@@ -2,12 +2,13 @@
 
 #include <QDeadlineTimer>
 #include <QFileInfo>
-#include <QMutex>
 #include <QStorageInfo>
 #include <QThread>
-#include <QWaitCondition>
 
 #include <chrono>
+#include <condition_variable>
+#include <mutex>
+#include <utility>
 
 namespace {
 
@@ -36,8 +37,8 @@ FolderFacts look(const QString &folder)
 /// Where questions are left and answers fetched; `lock` guards all.
 struct FolderProbe::Desk
 {
-    QMutex lock;
-    QWaitCondition rung;
+    std::mutex lock;
+    std::condition_variable rung;
     FolderProbe *owner = nullptr; ///< null when it is gone
     QString question;             ///< empty: none
 };
@@ -50,9 +51,9 @@ FolderProbe::FolderProbe(QObject *parent) : QObject(parent), m_desk(std::make_sh
 FolderProbe::~FolderProbe()
 {
     {
-        const QMutexLocker locker(&m_desk->lock);
+        const std::lock_guard locker(m_desk->lock);
         m_desk->owner = nullptr;
-        m_desk->rung.wakeAll();
+        m_desk->rung.notify_all();
     }
     if (!m_thread || m_thread->wait(QDeadlineTimer(kThreadDeadline)))
         return;
@@ -66,9 +67,9 @@ void FolderProbe::ask(const QString &folder)
     if (folder.isEmpty())
         return;
     {
-        const QMutexLocker locker(&m_desk->lock);
+        const std::lock_guard locker(m_desk->lock);
         m_desk->question = folder;
-        m_desk->rung.wakeAll();
+        m_desk->rung.notify_all();
     }
     if (m_thread)
         return;
@@ -80,16 +81,16 @@ void FolderProbe::ask(const QString &folder)
 /// The thread's work.
 void FolderProbe::answerQuestions(const std::shared_ptr<Desk> &desk)
 {
-    QMutexLocker locker(&desk->lock);
+    std::unique_lock locker(desk->lock);
     while (desk->owner != nullptr) {
         if (desk->question.isEmpty()) {
-            desk->rung.wait(&desk->lock);
+            desk->rung.wait(locker);
             continue;
         }
         const QString folder = std::exchange(desk->question, {});
         locker.unlock();
         const FolderFacts facts = look(folder);
-        locker.relock();
+        locker.lock();
         if (FolderProbe *owner = desk->owner) // which cannot end before the lock is free
             QMetaObject::invokeMethod(
                 owner, [owner, facts] { emit owner->answered(facts); }, Qt::QueuedConnection);

@@ -89,6 +89,7 @@ void Recorder::start(const QString &folder, const QString &name)
     connect(m_run.get(), &RecordingRun::opened, this, whenCurrent(&Recorder::goOn), Qt::QueuedConnection);
     connect(m_run.get(), &RecordingRun::ended, this, whenCurrent(&Recorder::finish), Qt::QueuedConnection);
     connect(m_run.get(), &RecordingRun::overflowed, this, &Recorder::updateTrouble);
+    m_run->start();
     m_state = State::Starting;
     m_clock.start();
     m_sinceMeasured.start();

@@ -39,12 +39,16 @@ RecordingRun::RecordingRun(const QString &folder, const QString &name) : m_folde
 {
     m_thread.reset(QThread::create([this, name] { record(name); }));
     m_thread->setObjectName(QStringLiteral("CsvWriter"));
-    m_thread->start();
 }
 
 RecordingRun::~RecordingRun()
 {
     wait();
+}
+
+void RecordingRun::start()
+{
+    m_thread->start();
 }
 
 void RecordingRun::add(CsvWriter::PendingRecord &&record)

@@ -21,12 +21,15 @@ class RecordingRun : public QObject
     Q_DISABLE_COPY_MOVE(RecordingRun)
 
 public:
-    /// Starts the thread: opened() and, after requestStop(), ended() follow, or ended() alone when problem() says why.
     /// `folder` is absolute and made when it is missing; `name` is a good one, see recording_target. The file gets a
     /// running number behind its name when one with that name and time is there.
     RecordingRun(const QString &folder, const QString &name);
     /// Stops and waits.
     ~RecordingRun() override;
+
+    /// Starts the thread, once the signals are connected: opened() and, after requestStop(), ended() follow, or ended()
+    /// alone when problem() says why.
+    void start();
 
     const QString &folder() const { return m_folder; }
     /// Takes a record, in the order of the calls. Any thread.

@@ -384,6 +384,7 @@ private slots:
     {
         RecordingRun run(m_folder->path(), QStringLiteral("data"));
         QSignalSpy ended(&run, &RecordingRun::ended);
+        run.start();
         constexpr int kEach = 2000;
         const auto enqueue = [&run] {
             for (int i = 0; i < kEach; ++i)
