@@ -10,8 +10,8 @@
 #include <QPushButton>
 #include <QPointer>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
+#include <qtestsupport_core.h> // qWaitFor() for programs that are no tests
 
 #include "session/device_session.h"
 #include "ui/form_base.h"
