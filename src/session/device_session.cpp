@@ -34,7 +34,7 @@ constexpr int kUsualRates[] = {115200, 921600, 460800, 230400, 57600, 38400, 192
 } // namespace
 
 DeviceSession::DeviceSession(QObject *owner)
-    : m_port(std::make_unique<KvUartPort>()),
+    : QObject(owner), m_port(std::make_unique<KvUartPort>()),
       m_dispatcher(new StreamDispatcher(owner != nullptr ? owner : this)),
       m_broker(new CommandBroker(owner != nullptr ? owner : this)), m_parser(new ImuParser(this)),
       m_commands(new CommandSession(this)), m_recorder(new Recorder(this)),
