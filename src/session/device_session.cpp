@@ -106,7 +106,6 @@ void DeviceSession::openPort(const QString &portName, int baudRate)
     m_sinceOpened.start();
     m_port->openUART(portName, baudRate);
     m_commands->setBaud(baudRate);
-    m_commands->setConnected(true);
     m_dispatcher->clear();
     m_dispatcher->setLinkConnected(true);
     m_recorder->setLinkOpen(true);
@@ -119,8 +118,7 @@ void DeviceSession::onOpened()
 {
     if (m_state != SessionState::Opening)
         return;
-    // As identify() would from here on; the state before it is never seen.
-    m_state = SessionState::Silent;
+    m_commands->setConnected(true);
     readInfo();
 }
 
@@ -455,8 +453,7 @@ void DeviceSession::checkSilence()
 
 bool DeviceSession::isStreaming() const
 {
-    return isOpen() && m_lastFrameNs >= 0
-           && m_sinceOpened.nsecsElapsed() - m_lastFrameNs < kStreamTimeoutMs * kNsPerMs;
+    return isOpen() && m_lastFrameNs >= 0 && m_sinceOpened.nsecsElapsed() - m_lastFrameNs < kStreamTimeoutMs * kNsPerMs;
 }
 
 /// Frames from before the last reading do not count: it has stopped the output.
