@@ -68,7 +68,7 @@ form_base::~form_base()
 {
     m_views->closeAll();
     m_session->disconnect(this);
-    m_session->dispatcher().disconnect(this); // it says goodbye while the session ends
+    m_session->dispatcher().disconnect(this);
     m_session.reset();
 }
 
