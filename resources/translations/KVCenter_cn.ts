@@ -3028,7 +3028,7 @@ Ready to download firmware.
     </message>
     <message>
         <source>Stop the download? The device has no complete firmware then. Its bootloader stays: press Connect, then Download.</source>
-        <translation>要停止烧录吗？停止后设备中没有完整的固件，但引导程序仍在：请点击“连接”，然后点击“下载”。</translation>
+        <translation>要停止烧录吗？停止后设备中没有完整的固件，但引导程序仍在：请点击“连接”，然后点击“烧录”。</translation>
     </message>
     <message>
         <source>Stop the download</source>

@@ -3028,7 +3028,7 @@ Ready to download firmware.
     </message>
     <message>
         <source>Stop the download? The device has no complete firmware then. Its bootloader stays: press Connect, then Download.</source>
-        <translation>書き込みを停止しますか？停止するとデバイスのファームウェアは不完全になります。ブートローダーは残るので、「接続」、「ダウンロード」の順に押してください。</translation>
+        <translation>書き込みを停止しますか？停止するとデバイスのファームウェアは不完全になります。ブートローダーは残るので、「接続」、「書き込み」の順に押してください。</translation>
     </message>
     <message>
         <source>Stop the download</source>

@@ -3028,7 +3028,7 @@ Ready to download firmware.
     </message>
     <message>
         <source>Stop the download? The device has no complete firmware then. Its bootloader stays: press Connect, then Download.</source>
-        <translation>要停止燒錄嗎？停止後裝置中沒有完整的韌體，但啟動載入程式仍在：請按一下「連線」，然後按一下「下載」。</translation>
+        <translation>要停止燒錄嗎？停止後裝置中沒有完整的韌體，但啟動載入程式仍在：請按一下「連線」，然後按一下「燒錄」。</translation>
     </message>
     <message>
         <source>Stop the download</source>

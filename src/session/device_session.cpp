@@ -403,7 +403,8 @@ void DeviceSession::leaveBootloader()
 
 void DeviceSession::onCommandState()
 {
-    if (std::exchange(m_commandBusy, m_commands->isBusy()) != m_commandBusy) {
+    const bool isBusy = m_commands->isBusy();
+    if (std::exchange(m_commandBusy, isBusy) != isBusy) {
         m_monitor->interrupt();
         m_router->interrupt();
     }

@@ -7,7 +7,6 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QThread>
-#include <QToolButton>
 
 #include "app/app_language_manager.h"
 #include "app/app_log.h"
