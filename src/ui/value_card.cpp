@@ -259,7 +259,7 @@ void ValueCard::paintTrace(QPainter &painter, const QRect &area, double range) c
             continue;
         QPolygonF line;
         line.reserve(2 * TraceBuffer::kBuckets);
-        painter.setPen(QPen(m_channels.at(channel).color, 1.25));
+        painter.setPen(QPen(m_channels.at(channel).color, 1)); // a wider one would be outlined, at many times the cost
         for (int age = TraceBuffer::kBuckets - 1; age >= 0; --age) {
             const TraceBuffer::Extent &extent = m_trace.at(channel, age);
             if (extent.isEmpty())
