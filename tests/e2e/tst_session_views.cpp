@@ -76,8 +76,7 @@ private slots:
         QVERIFY(simulator.control("wrong-device off"));
         click(desk.settings(), "BTN_identify");
         QVERIFY(desk.settings()->isVisible());
-        QTRY_VERIFY2(desk.label("label_product") == QLatin1String("MZ221"),
-                     qPrintable(desk.settings()->findChild<QPlainTextEdit *>()->toPlainText()));
+        QTRY_VERIFY2(desk.label("label_product") == QLatin1String("MZ221"), qPrintable(desk.settings()->findChild<QPlainTextEdit*>()->toPlainText()));
         QVERIFY(desk.settings()->isVisible());
     }
 
