@@ -117,7 +117,9 @@ void form_base::setUpWidgets()
 
 void form_base::setUpConnections()
 {
-    connect(m_ui->action_copy_values, &QAction::triggered, this, &form_base::copyValues);
+    connect(m_ui->action_copy_values, &QAction::triggered, this, [this] {
+        QGuiApplication::clipboard()->setText(m_panel->text() + u'\n' + m_attitudeCard->lines().join(u'\n'));
+    });
     connect(m_ui->action_link_health, &QAction::triggered, m_dialogs, &Dialogs::openLinkHealth);
     connect(m_dialogs, &Dialogs::portChosen, this, &form_base::open_port);
     connect(m_ui->action_quit, &QAction::triggered, this, &form_base::close);
@@ -213,7 +215,9 @@ void form_base::run_uart_UItmr()
     m_connectionCard->refresh();
     m_recordingBadge->refresh();
     m_nodeCard->refresh();
-    refresh_selected_node_views();
+    m_isNumbersTurn = !m_isNumbersTurn; // 25 times a second is more than anybody reads
+    if (m_isNumbersTurn)
+        refresh_selected_node_views();
 }
 
 void form_base::refresh_selected_node_views()
@@ -279,11 +283,6 @@ void form_base::on_action_wireless_gateway_dashboard_triggered()
 void form_base::on_actionAbout_triggered()
 {
     m_dialogs->openAbout();
-}
-
-void form_base::copyValues()
-{
-    QGuiApplication::clipboard()->setText(m_panel->text() + u'\n' + m_attitudeCard->lines().join(u'\n'));
 }
 
 void form_base::on_actionFontSmall_triggered()

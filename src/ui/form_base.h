@@ -84,7 +84,6 @@ private:
     void applyFontSize(int points);
     void storeFontSize(int points);
     void retranslate();
-    void copyValues();
 
     void enable_all_page(bool enabled);
     void onSessionState();
@@ -99,6 +98,7 @@ private:
     std::unique_ptr<DeviceSession> m_session;
     QTimer m_uiTimer;
     bool m_isShowingConnection = false;
+    bool m_isNumbersTurn = false; ///< numbers and attitude are refreshed by every second tick
 
     SensorDataPanel *m_panel = nullptr;
     ConnectionCard *m_connectionCard = nullptr;
