@@ -201,9 +201,10 @@ bool form_updater::load_hex_file()
 
 void form_updater::on_BTN_connect_clicked()
 {
-    if (isDownloading())
+    if (isDownloading() || m_connecting)
         return;
     reset_ui_state();
+    m_connecting = true;
     for (QPushButton *button : {m_ui->BTN_open_file, m_ui->BTN_connect, m_ui->BTN_download, m_ui->BTN_restart})
         button->setEnabled(false);
     log(tr("\n--- Connecting to bootloader ---\n"));
@@ -222,6 +223,7 @@ void form_updater::on_BTN_connect_clicked()
     }
     // Clicks of an impatient user during the wait: the buttons are still disabled.
     QCoreApplication::processEvents();
+    m_connecting = false;
     lookAtImage();
     update_button_states();
     if (connected)
@@ -303,15 +305,18 @@ void form_updater::onBootloaderDownloadFinished(bool ok)
 
 void form_updater::update_button_states()
 {
+    if (m_connecting)
+        return;
+    const bool hasBootloader = m_session->isBootloaderConnected(); // also while it takes a download
     const QString busy = isDownloading() ? tr("A download is running.") : QString();
     for (QPushButton *button : {m_ui->BTN_open_file, m_ui->BTN_connect, m_ui->BTN_close})
         button->setEnabled(!isDownloading());
     for (QPushButton *button : {m_ui->BTN_download, m_ui->BTN_restart})
         button->setEnabled(isConnected() && !isDownloading());
     m_ui->BTN_stop->setEnabled(isDownloading() && !m_stopping);
-    m_ui->BTN_connect->setText(isConnected() ? tr("Connected") : tr("Connect"));
-    m_ui->BTN_connect->setProperty("connected", isConnected());
-    m_ui->BTN_connect->setStyleSheet(isConnected() ? QLatin1String(kConnectedStyle) : QString());
+    m_ui->BTN_connect->setText(hasBootloader ? tr("Connected") : tr("Connect"));
+    m_ui->BTN_connect->setProperty("connected", hasBootloader);
+    m_ui->BTN_connect->setStyleSheet(hasBootloader ? QLatin1String(kConnectedStyle) : QString());
 
     m_ui->BTN_open_file->setToolTip(isDownloading() ? busy : tr("Chooses the image, an Intel HEX file"));
     m_ui->BTN_connect->setToolTip(isDownloading() ? busy : tr("Restarts the device into its bootloader"));

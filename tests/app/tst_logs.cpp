@@ -115,8 +115,7 @@ private slots:
         QTEST(child.readAllStandardError(), "said");
         static const QRegularExpression stamp(QStringLiteral("\\(.{19}\\) "));
         const bool isKept = before == 'n' || before == 'l';
-        QCOMPARE(textOf(kAppLog).remove(stamp),
-                 isKept ? QStringLiteral("[I]: first\r\n[I]: second\r\n") : QString());
+        QCOMPARE(textOf(kAppLog).remove(stamp), isKept ? QStringLiteral("[I]: first\r\n[I]: second\r\n") : QString());
     }
 
     void messageLines()

@@ -145,12 +145,11 @@ private slots:
                 texts += QStringLiteral("%1:%2").arg(mark.timeSec).arg(int(mark.kind));
             return texts.join(u' ');
         };
-        const std::tuple<StreamBreak, int, QString> rows[] = {
-            {StreamBreak::Gap, 4, QStringLiteral("10:5")},
-            {StreamBreak::ClockRestarted, 4, QStringLiteral("10:3")},
-            {StreamBreak::OutputStopped, 4, QStringLiteral("10:4")},
-            {StreamBreak::NewConnection, 1, QString()},
-            {StreamBreak::OtherNode, 1, QString()}};
+        const std::tuple<StreamBreak, int, QString> rows[] = {{StreamBreak::Gap, 4, QStringLiteral("10:5")},
+                                                              {StreamBreak::ClockRestarted, 4, QStringLiteral("10:3")},
+                                                              {StreamBreak::OutputStopped, 4, QStringLiteral("10:4")},
+                                                              {StreamBreak::NewConnection, 1, QString()},
+                                                              {StreamBreak::OtherNode, 1, QString()}};
         for (const auto &[kind, samples, expected] : rows) {
             chart.reset();
             QCOMPARE(chart.trySetFilter(true, 5), QString());
