@@ -71,7 +71,6 @@ form_base::~form_base()
 {
     m_views->closeAll();
     m_session->disconnect(this);
-    m_session->dispatcher().disconnect(this); // it says goodbye while the session ends
     m_session.reset();
 }
 
