@@ -34,7 +34,7 @@ constexpr int kUsualRates[] = {115200, 921600, 460800, 230400, 57600, 38400, 192
 } // namespace
 
 DeviceSession::DeviceSession(QObject *owner)
-    : m_port(std::make_unique<KvUartPort>()),
+    : QObject(owner), m_port(std::make_unique<KvUartPort>()),
       m_dispatcher(new StreamDispatcher(owner != nullptr ? owner : this)),
       m_broker(new CommandBroker(owner != nullptr ? owner : this)), m_parser(new ImuParser(this)),
       m_commands(new CommandSession(this)), m_recorder(new Recorder(this)),
@@ -106,7 +106,6 @@ void DeviceSession::openPort(const QString &portName, int baudRate)
     m_sinceOpened.start();
     m_port->openUART(portName, baudRate);
     m_commands->setBaud(baudRate);
-    m_commands->setConnected(true);
     m_dispatcher->clear();
     m_dispatcher->setLinkConnected(true);
     m_recorder->setLinkOpen(true);
@@ -119,8 +118,7 @@ void DeviceSession::onOpened()
 {
     if (m_state != SessionState::Opening)
         return;
-    // As identify() would from here on; the state before it is never seen.
-    m_state = SessionState::Silent;
+    m_commands->setConnected(true);
     readInfo();
 }
 
@@ -405,7 +403,8 @@ void DeviceSession::leaveBootloader()
 
 void DeviceSession::onCommandState()
 {
-    if (std::exchange(m_commandBusy, m_commands->isBusy()) != m_commandBusy) {
+    const bool isBusy = m_commands->isBusy();
+    if (std::exchange(m_commandBusy, isBusy) != isBusy) {
         m_monitor->interrupt();
         m_router->interrupt();
     }
@@ -455,8 +454,7 @@ void DeviceSession::checkSilence()
 
 bool DeviceSession::isStreaming() const
 {
-    return isOpen() && m_lastFrameNs >= 0
-           && m_sinceOpened.nsecsElapsed() - m_lastFrameNs < kStreamTimeoutMs * kNsPerMs;
+    return isOpen() && m_lastFrameNs >= 0 && m_sinceOpened.nsecsElapsed() - m_lastFrameNs < kStreamTimeoutMs * kNsPerMs;
 }
 
 /// Frames from before the last reading do not count: it has stopped the output.

@@ -152,9 +152,10 @@ void form_updater::on_BTN_restart_clicked()
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     const bool restarted = m_session->restartDevice();
     QGuiApplication::restoreOverrideCursor();
-    showStatus(restarted ? tr("The device restarts with the firmware that it has.")
-                         : tr("The bootloader did not confirm the restart. Unplug the device and plug it in again if no "
-                              "data come."),
+    showStatus(restarted
+                   ? tr("The device restarts with the firmware that it has.")
+                   : tr("The bootloader did not confirm the restart. Unplug the device and plug it in again if no "
+                        "data come."),
                !restarted);
 }
 
@@ -317,13 +318,14 @@ void form_updater::update_button_states()
     m_ui->BTN_close->setToolTip(busy);
     m_ui->BTN_download->setToolTip(isDownloading() ? busy
                                    : isConnected() ? tr("Erases the device's firmware and writes the image")
-                                                 : tr("Press Connect first."));
+                                                   : tr("Press Connect first."));
     m_ui->BTN_restart->setToolTip(isDownloading() ? busy
-                                  : isConnected() ? tr("Ends the bootloader: the device starts the firmware that it has")
-                                                : tr("No bootloader is connected."));
-    m_ui->BTN_stop->setToolTip(m_stopping      ? tr("The download is being stopped.")
+                                  : isConnected()
+                                      ? tr("Ends the bootloader: the device starts the firmware that it has")
+                                      : tr("No bootloader is connected."));
+    m_ui->BTN_stop->setToolTip(m_stopping        ? tr("The download is being stopped.")
                                : isDownloading() ? tr("Stops the download; asks first")
-                                               : tr("No download is running."));
+                                                 : tr("No download is running."));
     m_ui->LBL_bootloader->setText(isConnected() || isDownloading()
                                       ? updater_text::facts(m_facts)
                                       : tr("Not connected. Connect restarts the device; this takes up to 4 s."));
