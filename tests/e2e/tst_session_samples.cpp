@@ -235,13 +235,15 @@ private slots:
                 [&] { worst = qMax(worst, spectrum.bridge().alarmSeverityLevel()); });
         click(spectrum.window, "BTN_start");
         const qint64 frames = simulator.stat("frames_sent");
-        QTRY_VERIFY(spectrum.bridge().hasData() && spectrum.says("Block"));
+        QTRY_VERIFY(spectrum.bridge().hasData());
+        const bool saysHowFull = spectrum.says("Block");
         QTRY_VERIFY(simulator.stat("frames_sent") > frames + 300);
         QTRY_VERIFY(!spectrum.says("Block"));
+        QCOMPARE(worst, 0);
         QTRY_VERIFY2(spectrum.bridge().dominantPeakAmplitude() < 20,
                      qPrintable(QStringLiteral("%1 mG at %2 Hz").arg(spectrum.bridge().dominantPeakAmplitude()).arg(spectrum.bridge().dominantPeakFrequency())));
-        QCOMPARE(worst, 0);
         QVERIFY(spectrum.bridge().alarmEventsToVariantList().isEmpty());
+        QVERIFY(saysHowFull);
     }
 
     void settingsKeepTheAlarm()
@@ -276,7 +278,7 @@ private slots:
         click(spectrum.window, "BTN_start");
         QTRY_VERIFY(spectrum.bridge().hasData() && !spectrum.says("Block"));
         const FftChartBridge &bridge = spectrum.bridge();
-        QTRY_VERIFY2(bridge.dominantPeakFrequency() < 20 && bridge.dominantPeakAmplitude() > 20,
+        QTRY_VERIFY2(bridge.dominantPeakFrequency() > 0 && bridge.dominantPeakFrequency() < 20 && bridge.dominantPeakAmplitude() > 20,
                      qPrintable(QStringLiteral("%1 Hz %2 mG").arg(bridge.dominantPeakFrequency()).arg(bridge.dominantPeakAmplitude())));
         auto *ignore = spectrum.window->findChild<QCheckBox *>(QStringLiteral("CK_ignore_steady"));
         QVERIFY(ignore != nullptr && ignore->isVisible() && ignore->isChecked());

@@ -53,11 +53,13 @@ template <class Child> QQuickView *viewWith()
 inline bool connectTo(Desk &desk, const SimulatorProcess &simulator)
 {
     desk.open(simulator.port());
-    return QTest::qWaitFor(
-        [&desk] {
-            return desk.label("label_product") != QString(QChar(0x2013)) && desk.find<QListWidget>("list_nodes")->count() > 0;
-        },
-        8000);
+    const auto isThere = [&desk] {
+        return desk.label("label_product") != QString(QChar(0x2013)) && desk.find<QListWidget>("list_nodes")->count() > 0;
+    };
+    const bool connected = QTest::qWaitFor(isThere, 8000);
+    if (!connected)
+        qWarning().noquote() << desk.log();
+    return connected;
 }
 
 /// Does what a user does at a button of a window.
