@@ -41,8 +41,7 @@ LinkAccount::Counts &LinkAccount::Counts::operator+=(const Counts &more)
 }
 
 LinkAccount::LinkAccount(form_base &window)
-    : m_port(window.port()), m_recorder(&window.session().recorder()),
-      m_smallestPacket(framing_packet::kMaxPacketSize)
+    : m_port(window.port()), m_recorder(&window.session().recorder()), m_smallestPacket(framing_packet::kMaxPacketSize)
 {
     const auto countBytes = [this](const QByteArray &bytes) { m_bytesRead += quint64(bytes.size()); };
     const auto countPayload = [this](const QByteArray &payload) {
