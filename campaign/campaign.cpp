@@ -274,9 +274,8 @@ void Campaign::settleViews()
 {
     m_report.views = m_user.ask<ViewBooks::Findings>([this](form_base &) { return m_views.findings(); });
     if (m_report.views.strangers + m_report.views.wrongSpans > 0)
-        fail(QStringLiteral(
-                 "of %1 values that were looked at %2 were not the followed node's, of %3 stretches of an axis "
-                 "%4 were more than 5 % off: %5")
+        fail(QStringLiteral("of %1 values that were looked at %2 were another node's, of %3 stretches of an axis "
+                            "%4 were more than 5 % off: %5")
                  .arg(m_report.views.looks)
                  .arg(m_report.views.strangers)
                  .arg(m_report.views.spans)

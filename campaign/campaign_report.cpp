@@ -135,7 +135,7 @@ void CampaignReport::print(QTextStream &out) const
         << "Records: " << books.recordings.cameIn << " came in, " << books.recordings.written << " written in "
         << books.recordings.count << " recordings, " << books.linesInFiles << " lines in the files\n\n";
 
-    out << "Views: " << views.looks << " values looked at, " << views.strangers << " of them not the followed node's; "
+    out << "Views: " << views.looks << " values looked at, " << views.strangers << " of them another node's; "
         << views.spans << " stretches of an axis, " << views.wrongSpans << " of them off by more than 5 %\n"
         << "Table of states: " << cells << " cells\n\n";
 

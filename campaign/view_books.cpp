@@ -51,9 +51,8 @@ ViewBooks::ViewBooks(form_base &window) : m_window(window), m_session(window.ses
     connect(dispatcher, &StreamDispatcher::gatewayBatch63, this, rememberAll);
     connect(&m_session, &DeviceSession::sampleReceived, this, [this](const StreamSample &sample) {
         const node_data_t &node = sample.snapshot.sample;
-        const Vector acc{node.acc[0], node.acc[1], node.acc[2]};
-        if (m_sent.size() > 1 && isFinite(acc))
-            judge(node.id == m_session.followedNode() && wasSent(acc, kExact), "stream");
+        if (m_sent.size() > 1)
+            judge({node.acc[0], node.acc[1], node.acc[2]}, kExact, "stream");
     });
     connect(&m_session, &DeviceSession::streamRestarted, this, [this](const StreamRestart &restart) {
         if (restart.kind == StreamBreak::NewConnection)
@@ -74,17 +73,38 @@ void ViewBooks::remember(const node_data_t &node)
         sent.pop_front();
 }
 
-bool ViewBooks::wasSent(const Vector &acc, double tolerance) const
+/// A window may be late and show what was sent long ago. What another node has sent just now, and the followed one has
+/// not, is a stranger.
+void ViewBooks::judge(const Test &isOf, const char *where)
 {
-    const auto sent = m_sent.constFind(m_session.followedNode().value_or(0));
-    return sent != m_sent.constEnd() && std::any_of(sent->begin(), sent->end(), [&](const Sent &one) {
-               for (size_t i = 0; i < acc.size(); ++i) {
-                   // What is no number says nothing of its node.
-                   if (std::isfinite(one.node.acc[i]) && std::abs(double(one.node.acc[i]) - acc[i]) > tolerance)
-                       return false;
-               }
-               return true;
-           });
+    ++m_findings.looks;
+    const quint8 followed = m_session.followedNode().value_or(0);
+    bool isStranger = false;
+    for (auto node = m_sent.cbegin(); node != m_sent.cend(); ++node) {
+        if (!std::any_of(node->begin(), node->end(), [&isOf](const Sent &one) { return isOf(one.node); }))
+            continue;
+        if (node.key() == followed)
+            return;
+        isStranger = true;
+    }
+    if (!isStranger)
+        return;
+    ++m_findings.strangers;
+    note(QStringLiteral("%1: not of node %2").arg(QLatin1String(where)).arg(followed));
+}
+
+void ViewBooks::judge(const Vector &acc, double tolerance, const char *where)
+{
+    if (!isFinite(acc)) // says nothing of its node
+        return;
+    judge(
+        [&](const node_data_t &node) {
+            // Written so that what is no number is nobody's.
+            return std::abs(double(node.acc[0]) - acc[0]) <= tolerance
+                   && std::abs(double(node.acc[1]) - acc[1]) <= tolerance
+                   && std::abs(double(node.acc[2]) - acc[2]) <= tolerance;
+        },
+        where);
 }
 
 /// The acceleration that the main window shows; nothing when it shows none, or what is no number.
@@ -123,12 +143,11 @@ void ViewBooks::look()
         return;
     if (chart != nullptr && chart->hasData()) {
         const QVariantList values = chart->getValuesAtTime(0);
-        const Vector acc{values.value(0).toDouble(), values.value(1).toDouble(), values.value(2).toDouble()};
-        if (isFinite(acc))
-            judge(wasSent(acc, kExact), "sensor dashboard");
+        judge({values.value(0).toDouble(), values.value(1).toDouble(), values.value(2).toDouble()}, kExact,
+              "sensor dashboard");
     }
     if (const std::optional<Vector> acc = numbersOfPanel())
-        judge(wasSent(*acc, kShown), "numbers");
+        judge(*acc, kShown, "numbers");
     if (++m_looks % kLooksPerPose == 0)
         lookAtPose();
 }
@@ -136,26 +155,24 @@ void ViewBooks::look()
 void ViewBooks::lookAtPose()
 {
     auto *threed = opened<form_threed>("form_threed");
-    const auto sent = m_sent.constFind(m_session.followedNode().value_or(0));
-    if (threed == nullptr || !threed->isPlotting() || sent == m_sent.constEnd())
+    if (threed == nullptr || !threed->isPlotting())
         return;
     const QQuaternion shown = threed->backend().quaternion();
     if (shown.isIdentity()) // no attitude, or none yet
         return;
-    judge(std::any_of(sent->begin(), sent->end(),
-                      [&shown](const Sent &one) {
-                          for (const bool hasQuat : {true, false}) {
-                              for (const OrientationPreset preset :
-                                   {OrientationPreset::RfuEnu312, OrientationPreset::FluNwuZyx}) {
-                                  const NormalizedAttitude attitude =
-                                      attitude_convention::normalizeAttitude({one.node, hasQuat, true}, preset);
-                                  if (std::abs(QQuaternion::dotProduct(attitude.quaternion, shown)) > float(kSamePose))
-                                      return true;
-                              }
-                          }
-                          return false;
-                      }),
-          "3D view");
+    judge(
+        [&shown](const node_data_t &node) {
+            for (const bool hasQuat : {true, false}) {
+                for (const OrientationPreset preset : {OrientationPreset::RfuEnu312, OrientationPreset::FluNwuZyx}) {
+                    const NormalizedAttitude attitude =
+                        attitude_convention::normalizeAttitude({node, hasQuat, true}, preset);
+                    if (std::abs(QQuaternion::dotProduct(attitude.quaternion, shown)) > float(kSamePose))
+                        return true;
+                }
+            }
+            return false;
+        },
+        "3D view");
 }
 
 void ViewBooks::measure(Span &span, const WaveChartBridge *chart, const char *name)
@@ -183,15 +200,6 @@ void ViewBooks::measure(Span &span, const WaveChartBridge *chart, const char *na
         note(QStringLiteral("%1: %2 s became %3 s").arg(QLatin1String(name)).arg(wall).arg(axis));
     }
     span = {true, now, newest, newest};
-}
-
-void ViewBooks::judge(bool isRight, const char *where)
-{
-    ++m_findings.looks;
-    if (isRight)
-        return;
-    ++m_findings.strangers;
-    note(QStringLiteral("%1: not of node %2").arg(QLatin1String(where)).arg(m_session.followedNode().value_or(0)));
 }
 
 void ViewBooks::note(const QString &example)

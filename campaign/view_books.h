@@ -8,6 +8,7 @@
 
 #include <array>
 #include <deque>
+#include <functional>
 #include <optional>
 
 #include "link/node_data.h"
@@ -28,7 +29,7 @@ public:
     struct Findings
     {
         quint64 looks = 0;      ///< at a value in a window, while several nodes were heard
-        quint64 strangers = 0;  ///< of them, not the followed node's
+        quint64 strangers = 0;  ///< of them, another node's
         quint64 spans = 0;      ///< stretches of an axis that were measured
         quint64 wrongSpans = 0; ///< of them, more than 5 % off
         QStringList examples;   ///< of what is wrong
@@ -53,13 +54,14 @@ private:
         node_data_t node;
     };
     using Vector = std::array<double, 3>;
+    using Test = std::function<bool(const node_data_t &)>;
 
     void remember(const node_data_t &node);
     void look();
     void lookAtPose();
     void measure(Span &span, const WaveChartBridge *chart, const char *name);
-    void judge(bool isRight, const char *where);
-    bool wasSent(const Vector &acc, double tolerance) const;
+    void judge(const Test &isOf, const char *where);
+    void judge(const Vector &acc, double tolerance, const char *where);
     std::optional<Vector> numbersOfPanel() const;
     double wallSec() const { return double(m_clock.nsecsElapsed()) / 1e9; }
     void note(const QString &example);
