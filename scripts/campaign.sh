@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# campaign.sh [--minutes M] [--seed N] ...: the fault campaign on the release build, on a display of its own; further
-# words go to kv_campaign. docs/fault-campaign.md tells what it does. Ends with 1 when a goal was not met, or with the
-# program's signal when it crashed. Its log of actions is campaign.log in the folder that the first line names.
+# campaign.sh [--minutes M | --quick | --table] [--seed N] ...: the fault campaign on the release build, on a display of
+# its own; further words go to kv_campaign. docs/fault-campaign.md tells what it does. Ends with 1 when a goal was not
+# met, or with the program's signal when it crashed. Its log of actions is campaign.log in the folder that the first line
+# names.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
