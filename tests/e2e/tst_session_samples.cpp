@@ -272,13 +272,16 @@ private slots:
     /// Gravity is left out of the peaks by a switch that can be seen, and hides no motion.
     void steadyValueIsAChoice()
     {
-        SimulatorProcess simulator(words("--rate 200 --vibration 6.25:0.3:z")); // in the second bin
+        SimulatorProcess simulator(
+            words("--rate 200 --vibration 0.78125:0.3:z --vibration-noise 0.0005")); // the first bin
         Desk desk;
         QVERIFY(connectTo(desk, simulator));
         const Spectrum spectrum(desk);
-        spectrum.choose("CB_points", "64");
+        spectrum.choose("CB_points", "256");
         spectrum.choose("CB_window", "Flat");
         click(spectrum.window, "BTN_start");
+        const qint64 frames = simulator.stat("frames_sent");
+        QTRY_VERIFY(simulator.stat("frames_sent") > frames + 300); // a full block
         QTRY_VERIFY(spectrum.bridge().hasData() && !spectrum.says("Block"));
         const FftChartBridge &bridge = spectrum.bridge();
         QTRY_VERIFY2(
