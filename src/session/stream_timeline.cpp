@@ -14,6 +14,7 @@ constexpr double kPauseMs = 100;
 
 // Clocks that disagree by more than this have not just drifted. Buffers on the way hold a few seconds at most.
 constexpr double kClocksDifferMs = 5000;
+constexpr double kAfterGapMs = 2000; ///< the same for the first sample after a silence, which waits in no buffer
 constexpr double kClocksDifferShare = 0.05; ///< more than any quartz
 
 // Samples without stamps follow the computer's clock slowly, so that bursts of arrivals are spread evenly.
@@ -26,9 +27,10 @@ constexpr double kLostPeriods = 3;
 constexpr double kClockGain = 0.05; ///< how fast two clocks of a node are kept together
 constexpr double kMinPeriodMs = 0.05;
 
-bool differs(double oneMs, double otherMs)
+bool differs(double deviceMs, double hostMs)
 {
-    return std::abs(oneMs - otherMs) > std::max(kClocksDifferMs, otherMs * kClocksDifferShare);
+    const double toleranceMs = deviceMs > kGapMs ? kAfterGapMs : kClocksDifferMs;
+    return std::abs(deviceMs - hostMs) > std::max(toleranceMs, hostMs * kClocksDifferShare);
 }
 
 } // namespace
@@ -87,7 +89,7 @@ double StreamTimeline::byStamp(Clock clock, quint32 stampMs, double hostStepMs, 
         return m_timeMs;
     const double forwardMs = step.kind == ClockStep::Forward ? step.ms : quint32(stampMs - anchor.stampMs);
     const double candidateMs = anchor.timeMs + forwardMs;
-    if (step.kind == ClockStep::Forward && clock == m_lastClock && forwardMs <= kClocksDifferMs)
+    if (step.kind == ClockStep::Forward && clock == m_lastClock && forwardMs <= kGapMs)
         return candidateMs;
     *jumped = differs(candidateMs - m_timeMs, hostStepMs);
     if (*jumped)
