@@ -55,6 +55,7 @@ void KbootProtocol::decode(const QByteArray &data)
     m_health.receivedBytes += quint64(data.size());
     for (const char byte : data)
         decodeByte(byte);
+    wakeWait();
     if (m_errorNoted) { // the clock is asked once for a chunk, and for a damaged one only
         m_errorNoted = false;
         m_health.lastErrorMs = QDateTime::currentMSecsSinceEpoch();
@@ -158,7 +159,10 @@ void KbootProtocol::finishPacket()
     m_decodeState = Hunting;
     const quint8 type = quint8(m_frameBuffer.at(1));
     const bool fits = do_crc_check(m_frameBuffer) == u16At(m_frameBuffer, kCrcOffset);
-    if (fits && type == kTypeData) {
+    if (fits && m_read != nullptr && type == kTypeData) {
+        m_health.controlPackets++;
+        m_health.controlBytes += quint64(m_frameBuffer.size());
+    } else if (fits && type == kTypeData) {
         countData();
         m_frameBuffer.remove(0, kHeaderSize);
         emit kbootRecv(m_frameBuffer);
@@ -170,6 +174,8 @@ void KbootProtocol::finishPacket()
         m_health.crcErrorBytes += quint64(m_frameBuffer.size());
         noteError(LinkError::Checksum);
     }
+    if (m_read != nullptr && takeForRead(type, fits))
+        return;
     if (fits)
         m_responseReceived = true;
 }

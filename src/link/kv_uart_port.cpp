@@ -213,6 +213,13 @@ bool KvUartPort::connectBootloader()
 {
     if (!beginBootloader())
         return false;
+    const bool connected = connectBusy();
+    endBootloader();
+    return connected;
+}
+
+bool KvUartPort::connectBusy()
+{
     bool connected = false;
     m_kboot->portFailed(BootloaderStep::Restart); // unless connect() is reached
     if (isOpen() && serialSendBlocking(kRestartCommand, kRestartWriteMs)) {
@@ -221,7 +228,6 @@ bool KvUartPort::connectBootloader()
         connected = isOpen() && m_kboot->connect();
     }
     m_bootloaderMode = connected;
-    endBootloader();
     return connected;
 }
 
@@ -257,6 +263,49 @@ void KvUartPort::startDownloadBootloader(const QByteArray &image, int startAddr,
 {
     if (!m_bootloaderBusy)
         emit bootloaderDownloadFinished(downloadBootloader(image, startAddr, retry));
+}
+
+void KvUartPort::runBootloaderTask(const BootloaderTask &task)
+{
+    BootloaderResult result;
+    result.kind = task.kind;
+    if (beginBootloader()) {
+        if (isOpen())
+            result.success = doTask(task, result);
+        else
+            m_kboot->portFailed(BootloaderStep::Idle);
+        result.facts = m_kboot->facts();
+        result.outcome = m_kboot->outcome();
+        endBootloader();
+    }
+    emit bootloaderTaskFinished(result);
+}
+
+bool KvUartPort::doTask(const BootloaderTask &task, BootloaderResult &result)
+{
+    switch (task.kind) {
+    case BootloaderTask::Kind::Ping:
+        return m_kboot->ping();
+    case BootloaderTask::Kind::Connect:
+        return connectBusy();
+    case BootloaderTask::Kind::Inquire:
+        result.offer = m_kboot->inquire();
+        return isOpen();
+    case BootloaderTask::Kind::Write:
+        m_bootloaderMode = true;
+        return m_kboot->writeImage(task.image, task.address, task.attempts, task.packetSize);
+    case BootloaderTask::Kind::Read: {
+        m_bootloaderMode = true;
+        const bool complete = m_kboot->readMemory(task.address, task.byteCount);
+        result.memory = m_kboot->memory();
+        return complete;
+    }
+    case BootloaderTask::Kind::Restart:
+        m_kboot->restart();
+        m_bootloaderMode = false;
+        return isOpen();
+    }
+    return false;
 }
 
 void KvUartPort::cancelBootloader()

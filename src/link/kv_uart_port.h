@@ -8,6 +8,7 @@
 #include <atomic>
 #include <memory>
 
+#include "link/bootloader_task.h"
 #include "link/link_health.h"
 
 class KbootProtocol;
@@ -88,7 +89,10 @@ public slots:
     /// The same for a queued call: the result comes by bootloaderDownloadFinished(). While another operation runs the
     /// call is dropped; that operation's end is what is told.
     void startDownloadBootloader(const QByteArray &image, int startAddr, int retry);
-    /// Ends the connect or download that runs, with the fault `Stopped`; nothing happens when none does. For a queued
+    /// Does one part of an update, for a queued call; bootloaderTaskFinished() follows in any case. It fails at once
+    /// when the port is closed and while another operation runs.
+    void runBootloaderTask(const BootloaderTask &task);
+    /// Ends the connect, download or task that runs, with the fault `Stopped`; nothing happens when none does. For a queued
     /// call, which the operation's own event loop takes.
     void cancelBootloader();
 
@@ -103,6 +107,8 @@ signals:
     void errorOpenPort();
     /// How startDownloadBootloader() ended.
     void bootloaderDownloadFinished(bool success);
+    /// How a task ended.
+    void bootloaderTaskFinished(const BootloaderResult &result);
 
 private slots:
     void threadStarted();
@@ -119,6 +125,8 @@ private:
     void publishHealth();
     void moveAllTo(QThread *target);
     void writeCounted(const QByteArray &data);
+    bool connectBusy();
+    bool doTask(const BootloaderTask &task, BootloaderResult &result);
     bool beginBootloader();
     void endBootloader();
 
