@@ -63,8 +63,8 @@ struct BootloaderOutcome
     /// A download goes on regardless; when it fails later, this is the likely reason.
     quint32 targetStatus = 0;
     bool isEndedByTarget = false; ///< the target has ended the data phase before the image's end, by that status
-    bool isConfirmed = false; ///< the target has answered the whole write behind the last packet
-    int sentPackets = 0;      ///< data packets since the last connect, repeated ones included
-    int repeatedPackets = 0;  ///< those that were sent again
-    int silentRepeats = 0;    ///< those of them that had no answer: they may have been written twice
+    bool isConfirmed = false;     ///< the target has answered the whole write behind the last packet
+    int sentPackets = 0;          ///< data packets since the last connect, repeated ones included
+    int repeatedPackets = 0;      ///< those that were sent again
+    int silentRepeats = 0;        ///< those of them that had no answer: they may have been written twice
 };

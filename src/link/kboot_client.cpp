@@ -41,7 +41,7 @@ constexpr int kPropertySize = 4;
 
 constexpr int kCommandWaits = 1500;
 constexpr int kDataWaits = 200;
-constexpr int kStatusWaits = 50;  // for a response that follows an abort, or has begun
+constexpr int kStatusWaits = 50; // for a response that follows an abort, or has begun
 constexpr int kConfirmWaits = 1500;
 constexpr qint64 kStepNs = 1'000'000;
 constexpr int kReadAttempts = 50;

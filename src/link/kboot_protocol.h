@@ -200,7 +200,7 @@ private:
     BootloaderFacts m_facts;
     BootloaderOutcome m_outcome;
     QByteArray m_memory;
-    MemoryRead *m_read = nullptr; ///< while readMemory() runs
-    const Wait *m_wait = nullptr; ///< the innermost
+    MemoryRead *m_read = nullptr;                           ///< while readMemory() runs
+    const Wait *m_wait = nullptr;                           ///< the innermost
     BootloaderFault m_cancelReason = BootloaderFault::None; ///< of the operation that runs, or ran last
 };

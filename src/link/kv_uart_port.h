@@ -92,8 +92,8 @@ public slots:
     /// Does one part of an update, for a queued call; bootloaderTaskFinished() follows in any case. It fails at once
     /// when the port is closed and while another operation runs.
     void runBootloaderTask(const BootloaderTask &task);
-    /// Ends the connect, download or task that runs, with the fault `Stopped`; nothing happens when none does. For a queued
-    /// call, which the operation's own event loop takes.
+    /// Ends the connect, download or task that runs, with the fault `Stopped`; nothing happens when none does. For a
+    /// queued call, which the operation's own event loop takes.
     void cancelBootloader();
 
 signals:
