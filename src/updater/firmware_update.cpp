@@ -86,6 +86,27 @@ bool FirmwareUpdate::prepare(const Order &order)
     return true;
 }
 
+UpdateReport FirmwareUpdate::report() const
+{
+    UpdateReport report;
+    report.ended = QDateTime::currentDateTimeUtc();
+    report.device = m_note.device;
+    report.chip = m_facts.deviceId;
+    report.port = m_note.port;
+    report.baudRate = m_note.baudRate;
+    report.file = m_note.file;
+    report.sha256 = m_note.sha256;
+    report.address = m_note.address;
+    report.size = m_note.size;
+    report.setResult(m_result);
+    return report;
+}
+
+void FirmwareUpdate::storeReport(const UpdateReport &report)
+{
+    m_disk.start([report, folder = m_folder] { report.store(folder); });
+}
+
 void FirmwareUpdate::changePacketSize(int packetSize)
 {
     if (m_step != UpdateStep::Ready)

@@ -12,6 +12,7 @@
 #include "link/bootloader_task.h"
 #include "updater/update_note.h"
 #include "updater/update_plan.h"
+#include "updater/update_report.h"
 #include "updater/update_result.h"
 
 class KvUartPort;
@@ -54,6 +55,10 @@ public:
     /// The note of an update before that is not proved, as of the last prepare().
     const std::optional<UpdateNote> &noteBefore() const { return m_noteBefore; }
     const UpdateResult &result() const { return m_result; }
+    /// What is to be kept of the update that has ended; its owner adds the log. It can be stored where the note is.
+    UpdateReport report() const;
+    /// Stores a report in the update's folder, off this thread.
+    void storeReport(const UpdateReport &report);
 
     /// Connects to the bootloader and checks the order; nothing is erased. prepared() follows, or finished() when there
     /// is no bootloader. False while an update runs.

@@ -6,14 +6,14 @@
 #include <QJsonObject>
 #include <QSaveFile>
 
-#include <cmath>
 #include <limits>
+
+#include "updater/json_fields.h"
 
 namespace {
 
 constexpr int kFormat = 1;
 constexpr qint64 kMaxFileBytes = 64 * 1024;
-constexpr qsizetype kMaxText = 4096;
 constexpr qsizetype kHashDigits = 64;
 constexpr double kMaxSize = 4294967296.0;
 
@@ -21,39 +21,6 @@ QString path(const QString &folder)
 {
     return QDir(folder).filePath(QStringLiteral("update-note.json"));
 }
-
-/// Reads the fields of an object that may hold anything; one that does not fit makes the whole unfit.
-class Fields
-{
-public:
-    explicit Fields(const QJsonObject &object) : m_object(object) {}
-
-    QString text(const char *name)
-    {
-        const QJsonValue value = m_object.value(QLatin1String(name));
-        const QString text = value.toString();
-        m_fits = m_fits && value.isString() && text.size() <= kMaxText;
-        return text;
-    }
-    qint64 number(const char *name, double highest)
-    {
-        const double value = m_object.value(QLatin1String(name)).toDouble(-1.0);
-        const bool fits = value >= 0.0 && value <= highest && value == std::floor(value);
-        m_fits = m_fits && fits;
-        return fits ? qint64(value) : 0;
-    }
-    bool flag(const char *name)
-    {
-        const QJsonValue value = m_object.value(QLatin1String(name));
-        m_fits = m_fits && value.isBool();
-        return value.toBool();
-    }
-    bool fit() const { return m_fits; }
-
-private:
-    QJsonObject m_object;
-    bool m_fits = true;
-};
 
 bool isHash(const QString &text)
 {
@@ -68,7 +35,7 @@ std::optional<UpdateNote> UpdateNote::read(const QString &folder)
     if (!file.open(QIODevice::ReadOnly) || file.size() > kMaxFileBytes)
         return {};
     const QJsonDocument document = QJsonDocument::fromJson(file.read(kMaxFileBytes));
-    Fields fields(document.object());
+    JsonFields fields(document.object());
     UpdateNote note;
     const bool isOurs = fields.number("format", kFormat) == kFormat;
     note.file = fields.text("file");
@@ -91,11 +58,11 @@ bool UpdateNote::write(const QString &folder) const
 {
     const QJsonObject object{
         {QStringLiteral("format"), kFormat},
-        {QStringLiteral("file"), file.left(kMaxText)},
+        {QStringLiteral("file"), file.left(JsonFields::kMaxText)},
         {QStringLiteral("sha256"), sha256},
-        {QStringLiteral("device"), device.left(kMaxText)},
-        {QStringLiteral("chip"), chip.left(kMaxText)},
-        {QStringLiteral("port"), port.left(kMaxText)},
+        {QStringLiteral("device"), device.left(JsonFields::kMaxText)},
+        {QStringLiteral("chip"), chip.left(JsonFields::kMaxText)},
+        {QStringLiteral("port"), port.left(JsonFields::kMaxText)},
         {QStringLiteral("baud"), baudRate},
         {QStringLiteral("address"), double(address)},
         {QStringLiteral("size"), size},

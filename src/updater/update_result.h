@@ -69,4 +69,9 @@ struct UpdateResult
     bool isNoted = true; ///< the note of the running update could be written
 };
 
+/// The words that files keep: the enumerators' names.
+QString keyword(UpdateVerdict verdict);
+QString keyword(UpdateReason reason);
+QString keyword(FlashState state);
+
 Q_DECLARE_METATYPE(UpdateResult)

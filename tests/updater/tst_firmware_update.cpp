@@ -38,6 +38,9 @@ private slots:
         QCOMPARE(result.newBuild, QStringLiteral("build 2026-05-17"));
         QVERIFY(device.isFlashRight(image));
         QVERIFY(!UpdateNote::read(m_folder.path()));
+        const UpdateReport report = device.update().report();
+        QCOMPARE(report.verdict, QStringLiteral("Verified"));
+        QVERIFY(report.sha256.size() == 64 && report.chip == QLatin1String("4d3c2b1a") && report.writtenBytes == 256);
     }
 
     // One fault each, with and without reading back; then the attempt that the result asks for.
@@ -211,6 +214,37 @@ private slots:
         QVERIFY(writeFile(path, QByteArray(100000, '[')));
         QVERIFY(!UpdateNote::read(m_folder.path()));
         QVERIFY(UpdateNote::remove(m_folder.path()) && UpdateNote::remove(m_folder.path()));
+    }
+
+    void reports()
+    {
+        const QTemporaryDir folder;
+        UpdateReport report;
+        UpdateResult result;
+        result.verdict = Verdict::Doubtful;
+        result.reason = Reason::RepeatedAfterSilence;
+        result.outcome.targetStatus = 0xFFFFFFFF;
+        result.newBuild = QStringLiteral("build 2026-05-17");
+        report.setResult(result);
+        report.file = QStringLiteral("/a/ü.hex");
+        report.log = {QStringLiteral("one"), QStringLiteral("zwei\n")};
+        const QDateTime begin(QDate(2026, 5, 17), QTime(10, 0), Qt::UTC);
+        for (int i = 0; i < UpdateReport::kKept + 5; ++i) {
+            report.ended = begin.addMSecs(i);
+            QVERIFY(!report.store(folder.path()).isEmpty());
+        }
+        const QStringList files = UpdateReport::files(folder.path());
+        QCOMPARE(files.size(), UpdateReport::kKept);
+        QCOMPARE(UpdateReport::read(files.constFirst()), report);
+        QVERIFY(report.toText().contains(QStringLiteral("RepeatedAfterSilence")));
+        QVERIFY(report.toText().contains(QStringLiteral("one\nzwei")));
+
+        const QByteArray good = readFile(files.constFirst());
+        for (const auto &[text, instead] :
+             {std::pair("4294967295", "4294967296"), {"\"one\"", "1"}, {"Doubtful\"", "\\ud800"}, {"10:00", "99:00"}}) {
+            QVERIFY(good.contains(text) && writeFile(files.constLast(), QByteArray(good).replace(text, instead)));
+            QVERIFY2(!UpdateReport::read(files.constLast()), instead);
+        }
     }
 
 private:
