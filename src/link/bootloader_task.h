@@ -9,7 +9,6 @@
 struct BootloaderTask
 {
     enum class Kind {
-        Ping,    ///< look whether a bootloader answers, and send nothing else
         Connect, ///< restart the device into its bootloader and read its facts
         Inquire, ///< read what it offers
         Write,   ///< erase and write `image`
@@ -17,7 +16,7 @@ struct BootloaderTask
         Restart, ///< let it start the firmware
     };
 
-    Kind kind = Kind::Ping;
+    Kind kind = Kind::Connect;
     quint32 address = 0;
     QByteArray image;
     quint32 byteCount = 0;
@@ -28,7 +27,7 @@ struct BootloaderTask
 /// How it went, with all that the bootloader has told.
 struct BootloaderResult
 {
-    BootloaderTask::Kind kind = BootloaderTask::Kind::Ping;
+    BootloaderTask::Kind kind = BootloaderTask::Kind::Connect;
     bool success = false;
     BootloaderFacts facts;
     BootloaderOffer offer; ///< of Inquire

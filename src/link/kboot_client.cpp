@@ -69,6 +69,12 @@ int i32(const QByteArray &value)
 
 } // namespace
 
+QByteArray KbootProtocol::pingPacket()
+{
+    const char ping[] = {char(kStartByte), char(kTypePing)};
+    return {ping, sizeof ping};
+}
+
 bool KbootProtocol::serial_send_and_wait_resp(const QByteArray &packet, int waits)
 {
     forgetReply();
@@ -236,41 +242,17 @@ bool KbootProtocol::connect()
     return connected && !isCancelled();
 }
 
-void KbootProtocol::sendPing()
-{
-    begin(BootloaderStep::Ping);
-    const char ping[] = {char(kStartByte), char(kTypePing)};
-    serial_send_and_wait_resp(QByteArray(ping, sizeof ping), kCommandWaits);
-}
-
-bool KbootProtocol::isPingResponse() const
-{
-    return m_frameBuffer.size() >= 2 && quint8(m_frameBuffer.at(0)) == kStartByte
-           && quint8(m_frameBuffer.at(1)) == kTypePingResponse;
-}
-
-bool KbootProtocol::ping()
-{
-    m_cancelReason = BootloaderFault::None;
-    m_outcome = {};
-    sendPing();
-    // A ping's response counts as one from its second byte on; what follows tells it from chance.
-    QElapsedTimer now;
-    now.start();
-    if (isPingResponse())
-        waitFor(now, kStatusWaits, [this] { return m_decodeState == Hunting; });
-    return isPingResponse() && m_frameBuffer.size() >= kPingResponseSize && m_frameBuffer.at(5) == 'P';
-}
-
 bool KbootProtocol::connectSteps()
 {
-    sendPing();
+    begin(BootloaderStep::Ping);
+    serial_send_and_wait_resp(pingPacket(), kCommandWaits);
     const auto takeVersion = [this](const char *bytes) {
         m_facts.versionBugfix = quint8(bytes[0]);
         m_facts.versionMinor = quint8(bytes[1]);
         m_facts.versionMajor = quint8(bytes[2]);
     };
-    if (m_frameBuffer.size() > 4 && isPingResponse())
+    if (m_frameBuffer.size() > 4 && quint8(m_frameBuffer.at(0)) == kStartByte
+        && quint8(m_frameBuffer.at(1)) == kTypePingResponse)
         takeVersion(m_frameBuffer.constData() + 2);
 
     begin(BootloaderStep::Properties);

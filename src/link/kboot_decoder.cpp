@@ -13,6 +13,9 @@ using namespace framing_packet;
 // first two. Noise without a single start byte must not fill the memory, so beyond this size they are let go.
 constexpr qsizetype kMaxDiscardedBytes = 4096;
 
+/// A letter in every response to a ping.
+constexpr int kPingLetterOffset = 5;
+
 quint16 u16At(const QByteArray &bytes, int offset)
 {
     return qFromLittleEndian<quint16>(bytes.constData() + offset);
@@ -178,6 +181,8 @@ void KbootProtocol::finishPacket()
         return;
     if (fits)
         m_responseReceived = true;
+    if (type == kTypePingResponse && m_frameBuffer.at(kPingLetterOffset) == 'P')
+        emit pingAnswered();
 }
 
 LinkHealth KbootProtocol::health() const

@@ -86,8 +86,8 @@ public:
     /// the first status other than 0, and awaits the target's answer to the whole write for up to 1.5 s.
     bool writeImage(const QByteArray &image, quint32 address, int attempts, int packetSize);
 
-    /// A bootloader answers a ping, which is all that is sent. Takes up to 1.5 s.
-    bool ping();
+    /// The two bytes that a bootloader answers, and a firmware passes over.
+    static QByteArray pingPacket();
 
     /// Asks what the bootloader offers beyond its facts. Takes up to 4.5 s when it does not answer.
     BootloaderOffer inquire();
@@ -137,6 +137,9 @@ signals:
     /// Payload of one good data packet (type 0xA5) without its header. Emitted from inside decode(), in stream order.
     void kbootRecv(QByteArray payload);
 
+    /// A whole response to a ping has come, asked for or not.
+    void pingAnswered();
+
     /// Bytes that this object wants written to the port.
     void serialSend(QByteArray data);
 
@@ -172,8 +175,6 @@ private:
     QByteArray commandPacket(quint8 tag, const QList<quint32> &parameters) const;
     void beginDownload();
     bool connectSteps();
-    void sendPing();
-    bool isPingResponse() const;
     bool writeSteps(const QByteArray &image, quint32 address, int attempts, int packetSize, OnStatus onStatus);
     bool sendChunk(const QByteArray &chunk, int attempts);
     quint8 dataAnswer() const;

@@ -38,6 +38,7 @@ KvUartPort::KvUartPort(QObject *parent)
     connect(this, &QSerialPort::errorOccurred, this, &KvUartPort::onErrorOccurred, Qt::QueuedConnection);
     connect(m_kboot.get(), &KbootProtocol::kbootRecv, this, &KvUartPort::onKbootRecv);
     connect(m_kboot.get(), &KbootProtocol::serialSend, this, &KvUartPort::serialSend);
+    connect(m_kboot.get(), &KbootProtocol::pingAnswered, this, &KvUartPort::onPingAnswered);
     connect(m_secondTimer.get(), &QTimer::timeout, this, &KvUartPort::onTimer1000ms);
     m_secondTimer->setInterval(kSecondMs);
     m_workerThread->setObjectName(QStringLiteral("KvUartPort")); // as debuggers and process lists show it
@@ -201,6 +202,7 @@ void KvUartPort::clear()
 {
     m_kboot->clear();
     m_bootloaderMode = false;
+    m_hasAskedForBootloader = false;
     const QMutexLocker lock(&m_statsMutex);
     m_health = {};
     m_lastSecond = {};
@@ -265,6 +267,22 @@ void KvUartPort::startDownloadBootloader(const QByteArray &image, int startAddr,
         emit bootloaderDownloadFinished(downloadBootloader(image, startAddr, retry));
 }
 
+void KvUartPort::askForBootloader()
+{
+    if (!isOpen() || m_bootloaderBusy)
+        return;
+    m_hasAskedForBootloader = true;
+    serialSend(KbootProtocol::pingPacket());
+}
+
+void KvUartPort::onPingAnswered()
+{
+    if (!std::exchange(m_hasAskedForBootloader, false) || m_bootloaderBusy)
+        return;
+    m_bootloaderMode = true;
+    emit bootloaderHeard();
+}
+
 void KvUartPort::runBootloaderTask(const BootloaderTask &task)
 {
     BootloaderResult result;
@@ -284,8 +302,6 @@ void KvUartPort::runBootloaderTask(const BootloaderTask &task)
 bool KvUartPort::doTask(const BootloaderTask &task, BootloaderResult &result)
 {
     switch (task.kind) {
-    case BootloaderTask::Kind::Ping:
-        return m_kboot->ping();
     case BootloaderTask::Kind::Connect:
         return connectBusy();
     case BootloaderTask::Kind::Inquire:

@@ -174,8 +174,6 @@ void FirmwareUpdate::onTaskFinished(const BootloaderResult &result)
         return; // somebody else's
     m_task.reset();
     switch (result.kind) {
-    case BootloaderTask::Kind::Ping:
-        break;
     case BootloaderTask::Kind::Connect:
         if (!result.success) {
             fail(UpdateReason::Bootloader, FlashState::Untouched, result.outcome);
