@@ -309,8 +309,8 @@ int run(ProbedApplication &application, const Plan &plan)
     Desk desk;
     StreamProbe probe(*desk.window);
     application.setProbe(&probe);
-    auto *dispatcher = desk.window->findChild<StreamDispatcher *>();
-    auto *recorder = desk.window->findChild<Recorder *>();
+    const StreamDispatcher *dispatcher = &desk.window->session().dispatcher();
+    Recorder *recorder = &desk.window->session().recorder();
     const qsizetype baudAt = plan.simulatorOptions.indexOf(QStringLiteral("--baud"));
     const int baud = baudAt < 0 ? 0 : plan.simulatorOptions.value(baudAt + 1).toInt();
     desk.open(simulator->port(), baud > 0 ? baud : kFallbackBaud);

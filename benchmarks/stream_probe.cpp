@@ -7,6 +7,7 @@
 
 #include "link/stream_dispatcher.h"
 #include "process_figures.h"
+#include "session/device_session.h"
 #include "ui/form_base.h"
 #include "ui/sensor_data_panel.h"
 #include "ui/value_card.h"
@@ -50,7 +51,7 @@ int polishesOf(const QList<SeriesItem *> &charts)
 } // namespace
 
 StreamProbe::StreamProbe(form_base &window)
-    : m_dispatcher(window.findChild<StreamDispatcher *>()),
+    : m_dispatcher(&window.session().dispatcher()),
       m_strip(window.findChild<SensorDataPanel *>()->findChild<ValueStrip *>())
 {
     connect(m_dispatcher, &StreamDispatcher::streamSnapshotChanged, this, &StreamProbe::onSnapshot);

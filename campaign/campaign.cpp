@@ -236,7 +236,7 @@ void Campaign::checkRecordings()
 {
     CampaignReport::Books &books = m_report.books;
     const LinkAccount::Recordings recordings = m_user.ask<LinkAccount::Recordings>([this](form_base &window) {
-        window.findChild<Recorder *>()->waitForFile();
+        window.session().recorder().waitForFile();
         return m_account.recordings();
     });
     for (const QString &name : QDir::current().entryList({QStringLiteral("data_*.csv")}, QDir::Files)) {

@@ -6,6 +6,7 @@
 #include "link/kv_uart_port.h"
 #include "link/stream_dispatcher.h"
 #include "record/recorder.h"
+#include "session/device_session.h"
 #include "ui/form_base.h"
 
 namespace {
@@ -40,8 +41,7 @@ LinkAccount::Counts &LinkAccount::Counts::operator+=(const Counts &more)
 }
 
 LinkAccount::LinkAccount(form_base &window)
-    : m_port(window.port()), m_recorder(window.findChild<Recorder *>()),
-      m_smallestPacket(framing_packet::kMaxPacketSize)
+    : m_port(window.port()), m_recorder(&window.session().recorder()), m_smallestPacket(framing_packet::kMaxPacketSize)
 {
     const auto countBytes = [this](const QByteArray &bytes) { m_bytesRead += quint64(bytes.size()); };
     const auto countPayload = [this](const QByteArray &payload) {
@@ -50,7 +50,7 @@ LinkAccount::LinkAccount(form_base &window)
     };
     connect(&m_port, &KvUartPort::serialRecv, this, countBytes, Qt::DirectConnection);
     connect(&m_port, &KvUartPort::kbootRecv, this, countPayload, Qt::DirectConnection);
-    const auto *dispatcher = window.findChild<StreamDispatcher *>();
+    const StreamDispatcher *dispatcher = &window.session().dispatcher();
     connect(dispatcher, &StreamDispatcher::singleNodeFrame, this, &LinkAccount::takeFrame);
     connect(dispatcher, &StreamDispatcher::gatewayBatch62, this, &LinkAccount::takeFrame);
     connect(dispatcher, &StreamDispatcher::gatewayBatch63, this, &LinkAccount::takeFrame);

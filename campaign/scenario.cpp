@@ -7,6 +7,7 @@
 #include "campaign/user.h"
 #include "record/recorder.h"
 #include "record/recording_target.h"
+#include "session/device_session.h"
 #include "wave/form_sensor_dashboard.h"
 
 namespace {
@@ -61,7 +62,7 @@ void toggleDashboard(form_base &)
 
 void toggleRecording(form_base &window)
 {
-    auto *recorder = window.findChild<Recorder *>();
+    Recorder *recorder = &window.session().recorder();
     if (recorder->isRecording())
         recorder->stop();
     recorder->waitForFile();
@@ -240,5 +241,5 @@ void scenario::setPlainLook(form_base &window)
 void scenario::startRecording(form_base &window)
 {
     const recording_target::Target target = recording_target::remembered();
-    window.findChild<Recorder *>()->start(target.folder, target.name);
+    window.session().recorder().start(target.folder, target.name);
 }

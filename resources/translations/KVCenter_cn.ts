@@ -59,6 +59,25 @@
     </message>
 </context>
 <context>
+    <name>AttitudeCard</name>
+    <message>
+        <source>Attitude</source>
+        <translation>姿态</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>横滚</translation>
+    </message>
+    <message>
+        <source>Pitch</source>
+        <translation>俯仰</translation>
+    </message>
+    <message>
+        <source>Yaw</source>
+        <translation>航向</translation>
+    </message>
+</context>
+<context>
     <name>AttitudeFigures</name>
     <message>
         <source>Live</source>
@@ -212,12 +231,81 @@
         <source>(no reply)</source>
         <translation>（无应答）</translation>
     </message>
+    <message>
+        <source>(noise)</source>
+        <translation>（噪声）</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionCard</name>
+    <message>
+        <source>Connection</source>
+        <translation>连接</translation>
+    </message>
+    <message>
+        <source>What arrives is noise. The baud rate may be wrong.</source>
+        <translation>收到的是噪声。波特率可能不正确。</translation>
+    </message>
+    <message>
+        <source>&amp;Try the usual baud rates</source>
+        <translation>尝试常用波特率(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Opens this port at one rate after the other until the device answers</source>
+        <translation>依次以各波特率打开此串口，直到设备应答</translation>
+    </message>
 </context>
 <context>
     <name>DashboardWindow</name>
     <message>
         <source>This window could not be loaded. The log of the program tells why.</source>
         <translation>无法加载此窗口。原因请查看程序日志。</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceCard</name>
+    <message>
+        <source>Device</source>
+        <translation>设备</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <translation>产品</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>型号</translation>
+    </message>
+    <message>
+        <source>Build</source>
+        <translation>构建</translation>
+    </message>
+    <message>
+        <source>UUID</source>
+        <translation>UUID</translation>
+    </message>
+    <message>
+        <source>&amp;Mounting</source>
+        <translation>安装(&amp;M)</translation>
+    </message>
+    <message>
+        <source>How the device is mounted; remembered for each product</source>
+        <translation>设备的安装方向，按产品分别记住</translation>
+    </message>
+    <message>
+        <source>RFU / ENU (3-1-2)</source>
+        <translation>RFU / ENU (3-1-2)</translation>
+    </message>
+    <message>
+        <source>FLU / NWU (Z-Y-X)</source>
+        <translation>FLU / NWU (Z-Y-X)</translation>
+    </message>
+</context>
+<context>
+    <name>Dialogs</name>
+    <message>
+        <source>Open Serial Port Error.</source>
+        <translation>打开串口失败。</translation>
     </message>
 </context>
 <context>
@@ -675,6 +763,10 @@
         <source>Node %1</source>
         <translation>节点 %1</translation>
     </message>
+    <message>
+        <source>Nodes %1 · connection ended</source>
+        <translation>节点 %1 · 连接已结束</translation>
+    </message>
 </context>
 <context>
     <name>GatewayNodeModel</name>
@@ -701,6 +793,10 @@
     <message>
         <source>%1 min</source>
         <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>已结束</translation>
     </message>
 </context>
 <context>
@@ -757,6 +853,88 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>The translation for %1 cannot be loaded. The language stays as it is.</source>
+        <translation>无法加载“%1”的翻译。界面语言保持不变。</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>Language of the interface</source>
+        <translation>界面语言</translation>
+    </message>
+</context>
+<context>
+    <name>MainActions</name>
+    <message>
+        <source>Sensor Dashboard</source>
+        <translation>传感器仪表板</translation>
+    </message>
+    <message>
+        <source>Waveforms of the selected node</source>
+        <translation>所选节点的波形</translation>
+    </message>
+    <message>
+        <source>Wireless Gateway Dashboard</source>
+        <translation>无线网关仪表板</translation>
+    </message>
+    <message>
+        <source>All radio nodes of a connected wireless gateway</source>
+        <translation>已连接的无线网关的全部无线节点</translation>
+    </message>
+    <message>
+        <source>Spectrum of the selected node, with alarms</source>
+        <translation>所选节点的频谱，带报警功能</translation>
+    </message>
+    <message>
+        <source>Attitude of the selected node in three dimensions</source>
+        <translation>所选节点的三维姿态</translation>
+    </message>
+    <message>
+        <source>Record the stream to CSV files (%1)</source>
+        <translation>将数据流记录到 CSV 文件 (%1)</translation>
+    </message>
+    <message>
+        <source>How completely the data arrive: errors, gaps, losses (%1)</source>
+        <translation>数据接收的完整程度：错误、间隔、丢失 (%1)</translation>
+    </message>
+    <message>
+        <source>Load new firmware into the device</source>
+        <translation>将新固件写入设备</translation>
+    </message>
+    <message>
+        <source>Choose a serial port and connect (%1)</source>
+        <translation>选择串口并连接 (%1)</translation>
+    </message>
+    <message>
+        <source>Close the serial port (%1)</source>
+        <translation>关闭串口 (%1)</translation>
+    </message>
+    <message>
+        <source>End the program</source>
+        <translation>退出程序</translation>
+    </message>
+    <message>
+        <source>Waves</source>
+        <translation>波形</translation>
+    </message>
+    <message>
+        <source>Gateway</source>
+        <translation>网关</translation>
+    </message>
+    <message>
+        <source>Plug in a module or a gateway, press &lt;b&gt;Open port&lt;/b&gt; (%1) and choose its serial port.</source>
+        <translation>请接入模块或网关，点击&lt;b&gt;打开串口&lt;/b&gt; (%1)，然后选择对应的串口。</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be written: settings and logs of this run are not kept.</source>
+        <translation>文件夹 %1 不可写：本次运行的设置和日志不会保留。</translation>
+    </message>
+</context>
+<context>
     <name>MeshFile</name>
     <message>
         <source>The mesh file cannot be read: %1</source>
@@ -776,6 +954,21 @@ Pa</translation>
     <message>
         <source>Dismiss</source>
         <translation>关闭提示</translation>
+    </message>
+</context>
+<context>
+    <name>NodeCard</name>
+    <message>
+        <source>Nodes</source>
+        <translation>节点</translation>
+    </message>
+    <message>
+        <source>The node whose values are shown</source>
+        <translation>选择要显示数值的节点</translation>
+    </message>
+    <message>
+        <source>Node ID:%1</source>
+        <translation>节点 ID: %1</translation>
     </message>
 </context>
 <context>
@@ -834,6 +1027,17 @@ Pa</translation>
     <message>
         <source>Unsupported 3D asset. Choose a bundled .obj model, an external .obj file, or a preconverted .mesh file.</source>
         <translation>不支持此三维模型。请选择内置的 .obj 模型、外部 .obj 文件或预先转换的 .mesh 文件。</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingBadge</name>
+    <message>
+        <source>Recording: trouble</source>
+        <translation>记录出现问题</translation>
+    </message>
+    <message>
+        <source>Recording %1</source>
+        <translation>正在记录 %1</translation>
     </message>
 </context>
 <context>
@@ -1042,6 +1246,10 @@ Pa</translation>
         <source>Level (dB, 0 dB = 1 %1)</source>
         <translation>电平 (dB，0 dB = 1 %1)</translation>
     </message>
+    <message>
+        <source>Block %1 %</source>
+        <translation>数据块 %1 %</translation>
+    </message>
 </context>
 <context>
     <name>SpectrumViewState</name>
@@ -1052,6 +1260,25 @@ Pa</translation>
     <message>
         <source>%1 Hz</source>
         <translation>%1 Hz</translation>
+    </message>
+</context>
+<context>
+    <name>StatusLine</name>
+    <message>
+        <source>Connecting...</source>
+        <translation>正在连接...</translation>
+    </message>
+    <message>
+        <source>Connected... %1, %2 baud</source>
+        <translation>已连接：%1，波特率 %2</translation>
+    </message>
+    <message>
+        <source>Node ID:%1</source>
+        <translation>节点 ID: %1</translation>
+    </message>
+    <message>
+        <source>Unconnected...</source>
+        <translation>未连接</translation>
     </message>
 </context>
 <context>
@@ -1204,6 +1431,18 @@ Pa</translation>
         <source>%1 Hz · %2 s to %3 s of %4 s</source>
         <translation>%1 Hz · %2 s 至 %3 s / 共 %4 s</translation>
     </message>
+    <message>
+        <source>Restart</source>
+        <translation>重启</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>Gap</source>
+        <translation>中断</translation>
+    </message>
 </context>
 <context>
     <name>form_about</name>
@@ -1249,58 +1488,6 @@ Pa</translation>
     <message>
         <source>No hardware at hand? The simulator kv_simulator behaves like a device and prints the path of the port to open.</source>
         <translation>手边没有硬件？模拟器 kv_simulator 的行为与真实设备相同，启动后会显示要打开的串口路径。</translation>
-    </message>
-    <message>
-        <source>Connection</source>
-        <translation>连接</translation>
-    </message>
-    <message>
-        <source>Device</source>
-        <translation>设备</translation>
-    </message>
-    <message>
-        <source>Product</source>
-        <translation>产品</translation>
-    </message>
-    <message>
-        <source>Model</source>
-        <translation>型号</translation>
-    </message>
-    <message>
-        <source>Build</source>
-        <translation>构建</translation>
-    </message>
-    <message>
-        <source>UUID</source>
-        <translation>UUID</translation>
-    </message>
-    <message>
-        <source>&amp;Mounting</source>
-        <translation>安装(&amp;M)</translation>
-    </message>
-    <message>
-        <source>How the device is mounted; remembered for each product</source>
-        <translation>设备的安装方向，按产品分别记住</translation>
-    </message>
-    <message>
-        <source>RFU / ENU (3-1-2)</source>
-        <translation>RFU / ENU (3-1-2)</translation>
-    </message>
-    <message>
-        <source>FLU / NWU (Z-Y-X)</source>
-        <translation>FLU / NWU (Z-Y-X)</translation>
-    </message>
-    <message>
-        <source>Nodes</source>
-        <translation>节点</translation>
-    </message>
-    <message>
-        <source>The node whose values are shown</source>
-        <translation>选择要显示数值的节点</translation>
-    </message>
-    <message>
-        <source>Attitude</source>
-        <translation>姿态</translation>
     </message>
     <message>
         <source>&amp;Serial</source>
@@ -1407,124 +1594,16 @@ Pa</translation>
         <translation>关于(&amp;A)</translation>
     </message>
     <message>
-        <source>Unconnected...</source>
-        <translation>未连接</translation>
-    </message>
-    <message>
-        <source>Roll</source>
-        <translation>横滚</translation>
-    </message>
-    <message>
-        <source>Pitch</source>
-        <translation>俯仰</translation>
-    </message>
-    <message>
-        <source>Yaw</source>
-        <translation>航向</translation>
-    </message>
-    <message>
-        <source>Sensor Dashboard</source>
-        <translation>传感器仪表板</translation>
-    </message>
-    <message>
-        <source>Wireless Gateway Dashboard</source>
-        <translation>无线网关仪表板</translation>
-    </message>
-    <message>
-        <source>Waves</source>
-        <translation>波形</translation>
-    </message>
-    <message>
-        <source>Gateway</source>
-        <translation>网关</translation>
-    </message>
-    <message>
-        <source>Choose a serial port and connect (%1)</source>
-        <translation>选择串口并连接 (%1)</translation>
-    </message>
-    <message>
-        <source>Close the serial port (%1)</source>
-        <translation>关闭串口 (%1)</translation>
-    </message>
-    <message>
-        <source>Plug in a module or a gateway, press &lt;b&gt;Open port&lt;/b&gt; (%1) and choose its serial port.</source>
-        <translation>请接入模块或网关，点击&lt;b&gt;打开串口&lt;/b&gt; (%1)，然后选择对应的串口。</translation>
-    </message>
-    <message>
-        <source>The folder %1 cannot be written: settings and logs of this run are not kept.</source>
-        <translation>文件夹 %1 不可写：本次运行的设置和日志不会保留。</translation>
-    </message>
-    <message>
-        <source>Connecting...</source>
-        <translation>正在连接...</translation>
-    </message>
-    <message>
-        <source>Connected... %1, %2 baud</source>
-        <translation>已连接：%1，波特率 %2</translation>
-    </message>
-    <message>
-        <source>Open Serial Port Error.</source>
-        <translation>打开串口失败。</translation>
-    </message>
-    <message>
-        <source>Node ID:%1</source>
-        <translation>节点 ID: %1</translation>
-    </message>
-    <message>
-        <source>Waveforms of the selected node</source>
-        <translation>所选节点的波形</translation>
-    </message>
-    <message>
-        <source>All radio nodes of a connected wireless gateway</source>
-        <translation>已连接的无线网关的全部无线节点</translation>
-    </message>
-    <message>
-        <source>Language of the interface</source>
-        <translation>界面语言</translation>
-    </message>
-    <message>
-        <source>Language</source>
-        <translation>语言</translation>
-    </message>
-    <message>
-        <source>Recording: trouble</source>
-        <translation>记录出现问题</translation>
-    </message>
-    <message>
-        <source>Recording %1</source>
-        <translation>正在记录 %1</translation>
-    </message>
-    <message>
-        <source>The translation for %1 cannot be loaded. The language stays as it is.</source>
-        <translation>无法加载“%1”的翻译。界面语言保持不变。</translation>
-    </message>
-    <message>
         <source>Ctrl+R</source>
         <translation>Ctrl+R</translation>
-    </message>
-    <message>
-        <source>Record the stream to CSV files (%1)</source>
-        <translation>将数据流记录到 CSV 文件 (%1)</translation>
-    </message>
-    <message>
-        <source>Load new firmware into the device</source>
-        <translation>将新固件写入设备</translation>
     </message>
     <message>
         <source>Ctrl+F</source>
         <translation>Ctrl+F</translation>
     </message>
     <message>
-        <source>Spectrum of the selected node, with alarms</source>
-        <translation>所选节点的频谱，带报警功能</translation>
-    </message>
-    <message>
         <source>Ctrl+3</source>
         <translation>Ctrl+3</translation>
-    </message>
-    <message>
-        <source>Attitude of the selected node in three dimensions</source>
-        <translation>所选节点的三维姿态</translation>
     </message>
     <message>
         <source>&amp;Link health</source>
@@ -1533,10 +1612,6 @@ Pa</translation>
     <message>
         <source>Ctrl+L</source>
         <translation>Ctrl+L</translation>
-    </message>
-    <message>
-        <source>How completely the data arrive: errors, gaps, losses (%1)</source>
-        <translation>数据接收的完整程度：错误、间隔、丢失 (%1)</translation>
     </message>
 </context>
 <context>
@@ -1715,6 +1790,14 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>Hover to inspect frequency and amplitude. Mouse wheel zooms Y, Ctrl + wheel zooms X, left drag pans, and right or middle double-click resets the view.</source>
         <translation>悬停可查看频率和幅值。滚轮缩放 Y 轴，Ctrl + 滚轮缩放 X 轴，按住左键拖动可平移，右键或中键双击可重置视图。</translation>
+    </message>
+    <message>
+        <source>Ignore the steady value</source>
+        <translation>忽略稳态值</translation>
+    </message>
+    <message>
+        <source>Leaves 0 Hz, and what the window spreads of it into the bins beside it, out of peak and alarm. Otherwise gravity would be the highest peak of every acceleration spectrum.</source>
+        <translation>峰值和报警不考虑 0 Hz 以及窗函数使其泄漏到相邻谱线的部分。否则重力会成为每个加速度频谱的最高峰。</translation>
     </message>
 </context>
 <context>
@@ -2146,6 +2229,10 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <source>The last recording is still being written. Try again when that has ended.</source>
         <translation>上一次记录仍在写入，请待其结束后重试。</translation>
     </message>
+    <message>
+        <source>Starting…</source>
+        <translation>正在开始…</translation>
+    </message>
 </context>
 <context>
     <name>form_settings</name>
@@ -2278,10 +2365,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <translation>保存不会更改此设备的输出频率。</translation>
     </message>
     <message>
-        <source>Nothing is connected: open a serial port first.</source>
-        <translation>尚未连接：请先打开串口。</translation>
-    </message>
-    <message>
         <source>Waiting for the device: %1</source>
         <translation>正在等待设备：%1</translation>
     </message>
@@ -2324,6 +2407,14 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>The settings were sent and the device has restarted.</source>
         <translation>设置已发送，设备已重启。</translation>
+    </message>
+    <message>
+        <source>What the device sends is no text. The baud rate may be wrong.</source>
+        <translation>设备发送的不是文本。波特率可能不正确。</translation>
+    </message>
+    <message>
+        <source>The device refused at least one of %1.</source>
+        <translation>设备至少拒绝了以下命令之一：%1。</translation>
     </message>
 </context>
 <context>
@@ -2911,6 +3002,66 @@ Ready to download firmware.
         <source>If the firmware does not start, press Connect and download again.</source>
         <translation>如果固件无法启动，请点击“连接”并重新烧录。</translation>
     </message>
+    <message>
+        <source>Restart device</source>
+        <translation>重启设备</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>The device is still in its bootloader: it sends no data until it restarts.</source>
+        <translation>设备仍处于引导程序中：重启之前不会发送数据。</translation>
+    </message>
+    <message>
+        <source>Leave it so</source>
+        <translation>保持不变</translation>
+    </message>
+    <message>
+        <source>The device restarts with the firmware that it has.</source>
+        <translation>设备以现有固件重新启动。</translation>
+    </message>
+    <message>
+        <source>The bootloader did not confirm the restart. Unplug the device and plug it in again if no data come.</source>
+        <translation>引导程序未确认重启。如果没有数据，请拔下设备后重新插入。</translation>
+    </message>
+    <message>
+        <source>Stop the download? The device has no complete firmware then. Its bootloader stays: press Connect, then Download.</source>
+        <translation>要停止烧录吗？停止后设备中没有完整的固件，但引导程序仍在：请点击“连接”，然后点击“烧录”。</translation>
+    </message>
+    <message>
+        <source>Stop the download</source>
+        <translation>停止烧录</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>继续</translation>
+    </message>
+    <message>
+        <source>Ends the bootloader: the device starts the firmware that it has</source>
+        <translation>结束引导程序：设备启动现有固件</translation>
+    </message>
+    <message>
+        <source>No bootloader is connected.</source>
+        <translation>未连接引导程序。</translation>
+    </message>
+    <message>
+        <source>The download is being stopped.</source>
+        <translation>正在停止烧录。</translation>
+    </message>
+    <message>
+        <source>Stops the download; asks first</source>
+        <translation>停止烧录（会先询问）</translation>
+    </message>
+    <message>
+        <source>No download is running.</source>
+        <translation>没有正在进行的烧录。</translation>
+    </message>
+    <message>
+        <source>The download was stopped.</source>
+        <translation>烧录已停止。</translation>
+    </message>
 </context>
 <context>
     <name>port_choice</name>
@@ -2991,6 +3142,61 @@ Ready to download firmware.
     <message>
         <source>%1 cannot be used (error %2). Unplug the device, plug it in again and retry.</source>
         <translation>无法使用 %1（错误 %2）。请拔下设备，重新接入后再试。</translation>
+    </message>
+</context>
+<context>
+    <name>session_text</name>
+    <message>
+        <source>Nothing is connected: open a serial port first.</source>
+        <translation>尚未连接：请先打开串口。</translation>
+    </message>
+    <message>
+        <source>The port is being opened.</source>
+        <translation>正在打开串口。</translation>
+    </message>
+    <message>
+        <source>A command waits for the device&apos;s reply.</source>
+        <translation>有命令正在等待设备应答。</translation>
+    </message>
+    <message>
+        <source>Data arrive: the baud rate is right.</source>
+        <translation>正在接收数据：波特率正确。</translation>
+    </message>
+    <message>
+        <source>The device runs its bootloader. Restart it in the firmware update window first.</source>
+        <translation>设备处于引导程序中。请先在固件升级窗口中重启设备。</translation>
+    </message>
+    <message>
+        <source>Press Connect first.</source>
+        <translation>请先点击“连接”。</translation>
+    </message>
+    <message>
+        <source>No download runs.</source>
+        <translation>没有正在进行的烧录。</translation>
+    </message>
+    <message>
+        <source>A firmware download runs. It has to end first.</source>
+        <translation>正在烧录固件，须等待其结束。</translation>
+    </message>
+    <message>
+        <source>The port is being closed.</source>
+        <translation>正在关闭串口。</translation>
+    </message>
+    <message>
+        <source>The device runs its bootloader.
+It sends no data until it restarts.</source>
+        <translation>设备处于引导程序中。
+重启之前不会发送数据。</translation>
+    </message>
+    <message>
+        <source>Firmware is being written.
+Do not unplug the device.</source>
+        <translation>正在写入固件。
+请勿拔下设备。</translation>
+    </message>
+    <message>
+        <source>Trying %1 baud...</source>
+        <translation>正在尝试 %1 波特...</translation>
     </message>
 </context>
 <context>

@@ -59,6 +59,25 @@
     </message>
 </context>
 <context>
+    <name>AttitudeCard</name>
+    <message>
+        <source>Attitude</source>
+        <translation>姿勢</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>ロール</translation>
+    </message>
+    <message>
+        <source>Pitch</source>
+        <translation>ピッチ</translation>
+    </message>
+    <message>
+        <source>Yaw</source>
+        <translation>ヨー</translation>
+    </message>
+</context>
+<context>
     <name>AttitudeFigures</name>
     <message>
         <source>Live</source>
@@ -212,12 +231,81 @@
         <source>(no reply)</source>
         <translation>（応答なし）</translation>
     </message>
+    <message>
+        <source>(noise)</source>
+        <translation>（ノイズ）</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionCard</name>
+    <message>
+        <source>Connection</source>
+        <translation>接続</translation>
+    </message>
+    <message>
+        <source>What arrives is noise. The baud rate may be wrong.</source>
+        <translation>受信しているのはノイズです。ボーレートが違う可能性があります。</translation>
+    </message>
+    <message>
+        <source>&amp;Try the usual baud rates</source>
+        <translation>一般的なボーレートを試す(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Opens this port at one rate after the other until the device answers</source>
+        <translation>デバイスが応答するまで、このポートをボーレートを変えながら開きます</translation>
+    </message>
 </context>
 <context>
     <name>DashboardWindow</name>
     <message>
         <source>This window could not be loaded. The log of the program tells why.</source>
         <translation>このウィンドウを読み込めませんでした。原因はプログラムのログを確認してください。</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceCard</name>
+    <message>
+        <source>Device</source>
+        <translation>デバイス</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <translation>製品</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>モデル</translation>
+    </message>
+    <message>
+        <source>Build</source>
+        <translation>ビルド</translation>
+    </message>
+    <message>
+        <source>UUID</source>
+        <translation>UUID</translation>
+    </message>
+    <message>
+        <source>&amp;Mounting</source>
+        <translation>取付(&amp;M)</translation>
+    </message>
+    <message>
+        <source>How the device is mounted; remembered for each product</source>
+        <translation>デバイスの取り付け方向（製品ごとに記憶されます）</translation>
+    </message>
+    <message>
+        <source>RFU / ENU (3-1-2)</source>
+        <translation>RFU / ENU (3-1-2)</translation>
+    </message>
+    <message>
+        <source>FLU / NWU (Z-Y-X)</source>
+        <translation>FLU / NWU (Z-Y-X)</translation>
+    </message>
+</context>
+<context>
+    <name>Dialogs</name>
+    <message>
+        <source>Open Serial Port Error.</source>
+        <translation>シリアルポートを開けませんでした。</translation>
     </message>
 </context>
 <context>
@@ -675,6 +763,10 @@
         <source>Node %1</source>
         <translation>ノード %1</translation>
     </message>
+    <message>
+        <source>Nodes %1 · connection ended</source>
+        <translation>ノード %1 · 接続終了</translation>
+    </message>
 </context>
 <context>
     <name>GatewayNodeModel</name>
@@ -701,6 +793,10 @@
     <message>
         <source>%1 min</source>
         <translation>%1 分</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>終了</translation>
     </message>
 </context>
 <context>
@@ -757,6 +853,88 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>The translation for %1 cannot be loaded. The language stays as it is.</source>
+        <translation>%1 の翻訳を読み込めません。表示言語は変更されません。</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>Language of the interface</source>
+        <translation>表示言語</translation>
+    </message>
+</context>
+<context>
+    <name>MainActions</name>
+    <message>
+        <source>Sensor Dashboard</source>
+        <translation>センサーダッシュボード</translation>
+    </message>
+    <message>
+        <source>Waveforms of the selected node</source>
+        <translation>選択したノードの波形を表示します</translation>
+    </message>
+    <message>
+        <source>Wireless Gateway Dashboard</source>
+        <translation>無線ゲートウェイダッシュボード</translation>
+    </message>
+    <message>
+        <source>All radio nodes of a connected wireless gateway</source>
+        <translation>接続中の無線ゲートウェイの全無線ノードを表示します</translation>
+    </message>
+    <message>
+        <source>Spectrum of the selected node, with alarms</source>
+        <translation>選択したノードのスペクトルと警報を表示します</translation>
+    </message>
+    <message>
+        <source>Attitude of the selected node in three dimensions</source>
+        <translation>選択したノードの姿勢を 3D で表示します</translation>
+    </message>
+    <message>
+        <source>Record the stream to CSV files (%1)</source>
+        <translation>受信データを CSV ファイルに記録します (%1)</translation>
+    </message>
+    <message>
+        <source>How completely the data arrive: errors, gaps, losses (%1)</source>
+        <translation>データの受信状況（エラー、途切れ、欠落）を表示します (%1)</translation>
+    </message>
+    <message>
+        <source>Load new firmware into the device</source>
+        <translation>デバイスに新しいファームウェアを書き込みます</translation>
+    </message>
+    <message>
+        <source>Choose a serial port and connect (%1)</source>
+        <translation>シリアルポートを選択して接続します (%1)</translation>
+    </message>
+    <message>
+        <source>Close the serial port (%1)</source>
+        <translation>シリアルポートを閉じます (%1)</translation>
+    </message>
+    <message>
+        <source>End the program</source>
+        <translation>プログラムを終了します</translation>
+    </message>
+    <message>
+        <source>Waves</source>
+        <translation>波形</translation>
+    </message>
+    <message>
+        <source>Gateway</source>
+        <translation>ゲートウェイ</translation>
+    </message>
+    <message>
+        <source>Plug in a module or a gateway, press &lt;b&gt;Open port&lt;/b&gt; (%1) and choose its serial port.</source>
+        <translation>モジュールまたはゲートウェイを接続し、&lt;b&gt;ポートを開く&lt;/b&gt; (%1) を押して、そのシリアルポートを選択してください。</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be written: settings and logs of this run are not kept.</source>
+        <translation>フォルダー %1 に書き込めないため、今回の設定とログは保存されません。</translation>
+    </message>
+</context>
+<context>
     <name>MeshFile</name>
     <message>
         <source>The mesh file cannot be read: %1</source>
@@ -776,6 +954,21 @@ Pa</translation>
     <message>
         <source>Dismiss</source>
         <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>NodeCard</name>
+    <message>
+        <source>Nodes</source>
+        <translation>ノード</translation>
+    </message>
+    <message>
+        <source>The node whose values are shown</source>
+        <translation>値を表示するノード</translation>
+    </message>
+    <message>
+        <source>Node ID:%1</source>
+        <translation>ノード ID:%1</translation>
     </message>
 </context>
 <context>
@@ -834,6 +1027,17 @@ Pa</translation>
     <message>
         <source>Unsupported 3D asset. Choose a bundled .obj model, an external .obj file, or a preconverted .mesh file.</source>
         <translation>対応していない 3D モデルです。付属の .obj モデル、外部の .obj ファイル、または変換済みの .mesh ファイルを選択してください。</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingBadge</name>
+    <message>
+        <source>Recording: trouble</source>
+        <translation>記録: 問題あり</translation>
+    </message>
+    <message>
+        <source>Recording %1</source>
+        <translation>記録中 %1</translation>
     </message>
 </context>
 <context>
@@ -1042,6 +1246,10 @@ Pa</translation>
         <source>Level (dB, 0 dB = 1 %1)</source>
         <translation>レベル (dB、0 dB = 1 %1)</translation>
     </message>
+    <message>
+        <source>Block %1 %</source>
+        <translation>ブロック %1 %</translation>
+    </message>
 </context>
 <context>
     <name>SpectrumViewState</name>
@@ -1052,6 +1260,25 @@ Pa</translation>
     <message>
         <source>%1 Hz</source>
         <translation>%1 Hz</translation>
+    </message>
+</context>
+<context>
+    <name>StatusLine</name>
+    <message>
+        <source>Connecting...</source>
+        <translation>接続中...</translation>
+    </message>
+    <message>
+        <source>Connected... %1, %2 baud</source>
+        <translation>接続済み... %1、%2 baud</translation>
+    </message>
+    <message>
+        <source>Node ID:%1</source>
+        <translation>ノード ID:%1</translation>
+    </message>
+    <message>
+        <source>Unconnected...</source>
+        <translation>未接続...</translation>
     </message>
 </context>
 <context>
@@ -1204,6 +1431,18 @@ Pa</translation>
         <source>%1 Hz · %2 s to %3 s of %4 s</source>
         <translation>%1 Hz · %2～%3 s / 全 %4 s</translation>
     </message>
+    <message>
+        <source>Restart</source>
+        <translation>再起動</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Gap</source>
+        <translation>欠落</translation>
+    </message>
 </context>
 <context>
     <name>form_about</name>
@@ -1249,58 +1488,6 @@ Pa</translation>
     <message>
         <source>No hardware at hand? The simulator kv_simulator behaves like a device and prints the path of the port to open.</source>
         <translation>実機がない場合は、シミュレーター kv_simulator を使用できます。デバイスと同じように動作し、開くべきポートのパスを表示します。</translation>
-    </message>
-    <message>
-        <source>Connection</source>
-        <translation>接続</translation>
-    </message>
-    <message>
-        <source>Device</source>
-        <translation>デバイス</translation>
-    </message>
-    <message>
-        <source>Product</source>
-        <translation>製品</translation>
-    </message>
-    <message>
-        <source>Model</source>
-        <translation>モデル</translation>
-    </message>
-    <message>
-        <source>Build</source>
-        <translation>ビルド</translation>
-    </message>
-    <message>
-        <source>UUID</source>
-        <translation>UUID</translation>
-    </message>
-    <message>
-        <source>&amp;Mounting</source>
-        <translation>取付(&amp;M)</translation>
-    </message>
-    <message>
-        <source>How the device is mounted; remembered for each product</source>
-        <translation>デバイスの取り付け方向（製品ごとに記憶されます）</translation>
-    </message>
-    <message>
-        <source>RFU / ENU (3-1-2)</source>
-        <translation>RFU / ENU (3-1-2)</translation>
-    </message>
-    <message>
-        <source>FLU / NWU (Z-Y-X)</source>
-        <translation>FLU / NWU (Z-Y-X)</translation>
-    </message>
-    <message>
-        <source>Nodes</source>
-        <translation>ノード</translation>
-    </message>
-    <message>
-        <source>The node whose values are shown</source>
-        <translation>値を表示するノード</translation>
-    </message>
-    <message>
-        <source>Attitude</source>
-        <translation>姿勢</translation>
     </message>
     <message>
         <source>&amp;Serial</source>
@@ -1407,124 +1594,16 @@ Pa</translation>
         <translation>バージョン情報(&amp;A)</translation>
     </message>
     <message>
-        <source>Unconnected...</source>
-        <translation>未接続...</translation>
-    </message>
-    <message>
-        <source>Roll</source>
-        <translation>ロール</translation>
-    </message>
-    <message>
-        <source>Pitch</source>
-        <translation>ピッチ</translation>
-    </message>
-    <message>
-        <source>Yaw</source>
-        <translation>ヨー</translation>
-    </message>
-    <message>
-        <source>Sensor Dashboard</source>
-        <translation>センサーダッシュボード</translation>
-    </message>
-    <message>
-        <source>Wireless Gateway Dashboard</source>
-        <translation>無線ゲートウェイダッシュボード</translation>
-    </message>
-    <message>
-        <source>Waves</source>
-        <translation>波形</translation>
-    </message>
-    <message>
-        <source>Gateway</source>
-        <translation>ゲートウェイ</translation>
-    </message>
-    <message>
-        <source>Choose a serial port and connect (%1)</source>
-        <translation>シリアルポートを選択して接続します (%1)</translation>
-    </message>
-    <message>
-        <source>Close the serial port (%1)</source>
-        <translation>シリアルポートを閉じます (%1)</translation>
-    </message>
-    <message>
-        <source>Plug in a module or a gateway, press &lt;b&gt;Open port&lt;/b&gt; (%1) and choose its serial port.</source>
-        <translation>モジュールまたはゲートウェイを接続し、&lt;b&gt;ポートを開く&lt;/b&gt; (%1) を押して、そのシリアルポートを選択してください。</translation>
-    </message>
-    <message>
-        <source>The folder %1 cannot be written: settings and logs of this run are not kept.</source>
-        <translation>フォルダー %1 に書き込めないため、今回の設定とログは保存されません。</translation>
-    </message>
-    <message>
-        <source>Connecting...</source>
-        <translation>接続中...</translation>
-    </message>
-    <message>
-        <source>Connected... %1, %2 baud</source>
-        <translation>接続済み... %1、%2 baud</translation>
-    </message>
-    <message>
-        <source>Open Serial Port Error.</source>
-        <translation>シリアルポートを開けませんでした。</translation>
-    </message>
-    <message>
-        <source>Node ID:%1</source>
-        <translation>ノード ID:%1</translation>
-    </message>
-    <message>
-        <source>Waveforms of the selected node</source>
-        <translation>選択したノードの波形を表示します</translation>
-    </message>
-    <message>
-        <source>All radio nodes of a connected wireless gateway</source>
-        <translation>接続中の無線ゲートウェイの全無線ノードを表示します</translation>
-    </message>
-    <message>
-        <source>Language of the interface</source>
-        <translation>表示言語</translation>
-    </message>
-    <message>
-        <source>Language</source>
-        <translation>言語</translation>
-    </message>
-    <message>
         <source>Ctrl+R</source>
         <translation>Ctrl+R</translation>
-    </message>
-    <message>
-        <source>Record the stream to CSV files (%1)</source>
-        <translation>受信データを CSV ファイルに記録します (%1)</translation>
-    </message>
-    <message>
-        <source>Recording: trouble</source>
-        <translation>記録: 問題あり</translation>
-    </message>
-    <message>
-        <source>Recording %1</source>
-        <translation>記録中 %1</translation>
-    </message>
-    <message>
-        <source>The translation for %1 cannot be loaded. The language stays as it is.</source>
-        <translation>%1 の翻訳を読み込めません。表示言語は変更されません。</translation>
-    </message>
-    <message>
-        <source>Load new firmware into the device</source>
-        <translation>デバイスに新しいファームウェアを書き込みます</translation>
     </message>
     <message>
         <source>Ctrl+F</source>
         <translation>Ctrl+F</translation>
     </message>
     <message>
-        <source>Spectrum of the selected node, with alarms</source>
-        <translation>選択したノードのスペクトルと警報を表示します</translation>
-    </message>
-    <message>
         <source>Ctrl+3</source>
         <translation>Ctrl+3</translation>
-    </message>
-    <message>
-        <source>Attitude of the selected node in three dimensions</source>
-        <translation>選択したノードの姿勢を 3D で表示します</translation>
     </message>
     <message>
         <source>&amp;Link health</source>
@@ -1533,10 +1612,6 @@ Pa</translation>
     <message>
         <source>Ctrl+L</source>
         <translation>Ctrl+L</translation>
-    </message>
-    <message>
-        <source>How completely the data arrive: errors, gaps, losses (%1)</source>
-        <translation>データの受信状況（エラー、途切れ、欠落）を表示します (%1)</translation>
     </message>
 </context>
 <context>
@@ -1715,6 +1790,14 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>Hover to inspect frequency and amplitude. Mouse wheel zooms Y, Ctrl + wheel zooms X, left drag pans, and right or middle double-click resets the view.</source>
         <translation>マウスポインターを合わせると周波数と振幅を確認できます。ホイールで Y 軸、Ctrl + ホイールで X 軸を拡大・縮小し、左ドラッグで移動、右または中ボタンのダブルクリックで表示範囲をリセットします。</translation>
+    </message>
+    <message>
+        <source>Ignore the steady value</source>
+        <translation>定常値を無視</translation>
+    </message>
+    <message>
+        <source>Leaves 0 Hz, and what the window spreads of it into the bins beside it, out of peak and alarm. Otherwise gravity would be the highest peak of every acceleration spectrum.</source>
+        <translation>0 Hz と、窓関数によって隣のビンに漏れた分を、ピークとアラームから除きます。除かないと、加速度スペクトルでは常に重力が最大のピークになります。</translation>
     </message>
 </context>
 <context>
@@ -2146,6 +2229,10 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <source>The last recording is still being written. Try again when that has ended.</source>
         <translation>前回の記録をまだ書き込んでいます。終わってからもう一度お試しください。</translation>
     </message>
+    <message>
+        <source>Starting…</source>
+        <translation>開始しています…</translation>
+    </message>
 </context>
 <context>
     <name>form_settings</name>
@@ -2278,10 +2365,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <translation>このデバイスの出力レートは、保存しても変わりません。</translation>
     </message>
     <message>
-        <source>Nothing is connected: open a serial port first.</source>
-        <translation>何も接続されていません。先にシリアルポートを開いてください。</translation>
-    </message>
-    <message>
         <source>Waiting for the device: %1</source>
         <translation>デバイスの応答待ち: %1</translation>
     </message>
@@ -2324,6 +2407,14 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>The settings were sent and the device has restarted.</source>
         <translation>設定を送信し、デバイスが再起動しました。</translation>
+    </message>
+    <message>
+        <source>What the device sends is no text. The baud rate may be wrong.</source>
+        <translation>デバイスから届くのはテキストではありません。ボーレートが違う可能性があります。</translation>
+    </message>
+    <message>
+        <source>The device refused at least one of %1.</source>
+        <translation>デバイスが次のうち少なくとも 1 つを受け付けませんでした：%1</translation>
     </message>
 </context>
 <context>
@@ -2911,6 +3002,66 @@ Ready to download firmware.
         <source>If the firmware does not start, press Connect and download again.</source>
         <translation>ファームウェアが起動しない場合は、「接続」を押してもう一度書き込んでください。</translation>
     </message>
+    <message>
+        <source>Restart device</source>
+        <translation>デバイスを再起動</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>The device is still in its bootloader: it sends no data until it restarts.</source>
+        <translation>デバイスはまだブートローダーの状態です。再起動するまでデータを送りません。</translation>
+    </message>
+    <message>
+        <source>Leave it so</source>
+        <translation>そのままにする</translation>
+    </message>
+    <message>
+        <source>The device restarts with the firmware that it has.</source>
+        <translation>デバイスは現在のファームウェアで再起動します。</translation>
+    </message>
+    <message>
+        <source>The bootloader did not confirm the restart. Unplug the device and plug it in again if no data come.</source>
+        <translation>ブートローダーが再起動を確認しませんでした。データが届かない場合は、デバイスを抜いて差し直してください。</translation>
+    </message>
+    <message>
+        <source>Stop the download? The device has no complete firmware then. Its bootloader stays: press Connect, then Download.</source>
+        <translation>書き込みを停止しますか？停止するとデバイスのファームウェアは不完全になります。ブートローダーは残るので、「接続」、「書き込み」の順に押してください。</translation>
+    </message>
+    <message>
+        <source>Stop the download</source>
+        <translation>書き込みを停止</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>続ける</translation>
+    </message>
+    <message>
+        <source>Ends the bootloader: the device starts the firmware that it has</source>
+        <translation>ブートローダーを終了し、現在のファームウェアを起動します</translation>
+    </message>
+    <message>
+        <source>No bootloader is connected.</source>
+        <translation>ブートローダーに接続していません。</translation>
+    </message>
+    <message>
+        <source>The download is being stopped.</source>
+        <translation>書き込みを停止しています。</translation>
+    </message>
+    <message>
+        <source>Stops the download; asks first</source>
+        <translation>書き込みを停止します（確認あり）</translation>
+    </message>
+    <message>
+        <source>No download is running.</source>
+        <translation>書き込みは行われていません。</translation>
+    </message>
+    <message>
+        <source>The download was stopped.</source>
+        <translation>書き込みを停止しました。</translation>
+    </message>
 </context>
 <context>
     <name>port_choice</name>
@@ -2991,6 +3142,61 @@ Ready to download firmware.
     <message>
         <source>%1 cannot be used (error %2). Unplug the device, plug it in again and retry.</source>
         <translation>%1 を使用できません（エラー %2）。デバイスをいったん取り外し、接続し直してから、もう一度お試しください。</translation>
+    </message>
+</context>
+<context>
+    <name>session_text</name>
+    <message>
+        <source>Nothing is connected: open a serial port first.</source>
+        <translation>何も接続されていません。先にシリアルポートを開いてください。</translation>
+    </message>
+    <message>
+        <source>The port is being opened.</source>
+        <translation>ポートを開いています。</translation>
+    </message>
+    <message>
+        <source>A command waits for the device&apos;s reply.</source>
+        <translation>コマンドがデバイスの応答を待っています。</translation>
+    </message>
+    <message>
+        <source>Data arrive: the baud rate is right.</source>
+        <translation>データを受信中です。ボーレートは正しい値です。</translation>
+    </message>
+    <message>
+        <source>The device runs its bootloader. Restart it in the firmware update window first.</source>
+        <translation>デバイスはブートローダーを実行中です。先にファームウェア更新ウィンドウで再起動してください。</translation>
+    </message>
+    <message>
+        <source>Press Connect first.</source>
+        <translation>先に「接続」を押してください。</translation>
+    </message>
+    <message>
+        <source>No download runs.</source>
+        <translation>書き込みは行われていません。</translation>
+    </message>
+    <message>
+        <source>A firmware download runs. It has to end first.</source>
+        <translation>ファームウェアを書き込み中です。終わるまでお待ちください。</translation>
+    </message>
+    <message>
+        <source>The port is being closed.</source>
+        <translation>ポートを閉じています。</translation>
+    </message>
+    <message>
+        <source>The device runs its bootloader.
+It sends no data until it restarts.</source>
+        <translation>デバイスはブートローダーを実行中です。
+再起動するまでデータを送りません。</translation>
+    </message>
+    <message>
+        <source>Firmware is being written.
+Do not unplug the device.</source>
+        <translation>ファームウェアを書き込み中です。
+デバイスを抜かないでください。</translation>
+    </message>
+    <message>
+        <source>Trying %1 baud...</source>
+        <translation>%1 ボーを試しています...</translation>
     </message>
 </context>
 <context>

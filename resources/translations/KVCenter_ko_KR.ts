@@ -59,6 +59,25 @@
     </message>
 </context>
 <context>
+    <name>AttitudeCard</name>
+    <message>
+        <source>Attitude</source>
+        <translation>자세</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>롤</translation>
+    </message>
+    <message>
+        <source>Pitch</source>
+        <translation>피치</translation>
+    </message>
+    <message>
+        <source>Yaw</source>
+        <translation>요</translation>
+    </message>
+</context>
+<context>
     <name>AttitudeFigures</name>
     <message>
         <source>Live</source>
@@ -212,12 +231,81 @@
         <source>(no reply)</source>
         <translation>(응답 없음)</translation>
     </message>
+    <message>
+        <source>(noise)</source>
+        <translation>(노이즈)</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionCard</name>
+    <message>
+        <source>Connection</source>
+        <translation>연결</translation>
+    </message>
+    <message>
+        <source>What arrives is noise. The baud rate may be wrong.</source>
+        <translation>수신되는 것은 노이즈입니다. 보드 레이트가 잘못되었을 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>&amp;Try the usual baud rates</source>
+        <translation>일반적인 보드 레이트 시도(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Opens this port at one rate after the other until the device answers</source>
+        <translation>장치가 응답할 때까지 이 포트를 여러 보드 레이트로 차례로 엽니다</translation>
+    </message>
 </context>
 <context>
     <name>DashboardWindow</name>
     <message>
         <source>This window could not be loaded. The log of the program tells why.</source>
         <translation>이 창을 불러올 수 없습니다. 원인은 프로그램 로그를 확인하십시오.</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceCard</name>
+    <message>
+        <source>Device</source>
+        <translation>장치</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <translation>제품</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>모델</translation>
+    </message>
+    <message>
+        <source>Build</source>
+        <translation>빌드</translation>
+    </message>
+    <message>
+        <source>UUID</source>
+        <translation>UUID</translation>
+    </message>
+    <message>
+        <source>&amp;Mounting</source>
+        <translation>장착(&amp;M)</translation>
+    </message>
+    <message>
+        <source>How the device is mounted; remembered for each product</source>
+        <translation>장치의 장착 방향(제품별로 기억됨)</translation>
+    </message>
+    <message>
+        <source>RFU / ENU (3-1-2)</source>
+        <translation>RFU / ENU (3-1-2)</translation>
+    </message>
+    <message>
+        <source>FLU / NWU (Z-Y-X)</source>
+        <translation>FLU / NWU (Z-Y-X)</translation>
+    </message>
+</context>
+<context>
+    <name>Dialogs</name>
+    <message>
+        <source>Open Serial Port Error.</source>
+        <translation>시리얼 포트를 열 수 없습니다.</translation>
     </message>
 </context>
 <context>
@@ -675,6 +763,10 @@
         <source>Node %1</source>
         <translation>노드 %1</translation>
     </message>
+    <message>
+        <source>Nodes %1 · connection ended</source>
+        <translation>노드 %1 · 연결 종료</translation>
+    </message>
 </context>
 <context>
     <name>GatewayNodeModel</name>
@@ -701,6 +793,10 @@
     <message>
         <source>%1 min</source>
         <translation>%1분</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>종료</translation>
     </message>
 </context>
 <context>
@@ -757,6 +853,88 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>The translation for %1 cannot be loaded. The language stays as it is.</source>
+        <translation>번역을 불러올 수 없습니다: %1. 표시 언어는 변경되지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>언어</translation>
+    </message>
+    <message>
+        <source>Language of the interface</source>
+        <translation>표시 언어</translation>
+    </message>
+</context>
+<context>
+    <name>MainActions</name>
+    <message>
+        <source>Sensor Dashboard</source>
+        <translation>센서 대시보드</translation>
+    </message>
+    <message>
+        <source>Waveforms of the selected node</source>
+        <translation>선택한 노드의 파형을 표시합니다</translation>
+    </message>
+    <message>
+        <source>Wireless Gateway Dashboard</source>
+        <translation>무선 게이트웨이 대시보드</translation>
+    </message>
+    <message>
+        <source>All radio nodes of a connected wireless gateway</source>
+        <translation>연결된 무선 게이트웨이의 모든 무선 노드를 표시합니다</translation>
+    </message>
+    <message>
+        <source>Spectrum of the selected node, with alarms</source>
+        <translation>선택한 노드의 스펙트럼과 경보를 표시합니다</translation>
+    </message>
+    <message>
+        <source>Attitude of the selected node in three dimensions</source>
+        <translation>선택한 노드의 자세를 3D로 표시합니다</translation>
+    </message>
+    <message>
+        <source>Record the stream to CSV files (%1)</source>
+        <translation>수신 데이터를 CSV 파일로 기록합니다 (%1)</translation>
+    </message>
+    <message>
+        <source>How completely the data arrive: errors, gaps, losses (%1)</source>
+        <translation>데이터 수신 상태(오류, 끊김, 누락)를 표시합니다 (%1)</translation>
+    </message>
+    <message>
+        <source>Load new firmware into the device</source>
+        <translation>장치에 새 펌웨어를 다운로드합니다</translation>
+    </message>
+    <message>
+        <source>Choose a serial port and connect (%1)</source>
+        <translation>시리얼 포트를 선택하여 연결합니다 (%1)</translation>
+    </message>
+    <message>
+        <source>Close the serial port (%1)</source>
+        <translation>시리얼 포트를 닫습니다 (%1)</translation>
+    </message>
+    <message>
+        <source>End the program</source>
+        <translation>프로그램을 종료합니다</translation>
+    </message>
+    <message>
+        <source>Waves</source>
+        <translation>파형</translation>
+    </message>
+    <message>
+        <source>Gateway</source>
+        <translation>게이트웨이</translation>
+    </message>
+    <message>
+        <source>Plug in a module or a gateway, press &lt;b&gt;Open port&lt;/b&gt; (%1) and choose its serial port.</source>
+        <translation>모듈 또는 게이트웨이를 연결하고 &lt;b&gt;포트 열기&lt;/b&gt;(%1)를 누른 다음 해당 시리얼 포트를 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be written: settings and logs of this run are not kept.</source>
+        <translation>%1 폴더에 쓸 수 없어 이번 실행의 설정과 로그가 저장되지 않습니다.</translation>
+    </message>
+</context>
+<context>
     <name>MeshFile</name>
     <message>
         <source>The mesh file cannot be read: %1</source>
@@ -776,6 +954,21 @@ Pa</translation>
     <message>
         <source>Dismiss</source>
         <translation>닫기</translation>
+    </message>
+</context>
+<context>
+    <name>NodeCard</name>
+    <message>
+        <source>Nodes</source>
+        <translation>노드</translation>
+    </message>
+    <message>
+        <source>The node whose values are shown</source>
+        <translation>값을 표시할 노드</translation>
+    </message>
+    <message>
+        <source>Node ID:%1</source>
+        <translation>노드 ID:%1</translation>
     </message>
 </context>
 <context>
@@ -834,6 +1027,17 @@ Pa</translation>
     <message>
         <source>Unsupported 3D asset. Choose a bundled .obj model, an external .obj file, or a preconverted .mesh file.</source>
         <translation>지원되지 않는 3D 모델입니다. 기본 제공 .obj 모델, 외부 .obj 파일 또는 미리 변환된 .mesh 파일을 선택하십시오.</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingBadge</name>
+    <message>
+        <source>Recording: trouble</source>
+        <translation>기록: 문제 발생</translation>
+    </message>
+    <message>
+        <source>Recording %1</source>
+        <translation>기록 중 %1</translation>
     </message>
 </context>
 <context>
@@ -1042,6 +1246,10 @@ Pa</translation>
         <source>Level (dB, 0 dB = 1 %1)</source>
         <translation>레벨 (dB, 0 dB = 1 %1)</translation>
     </message>
+    <message>
+        <source>Block %1 %</source>
+        <translation>블록 %1 %</translation>
+    </message>
 </context>
 <context>
     <name>SpectrumViewState</name>
@@ -1052,6 +1260,25 @@ Pa</translation>
     <message>
         <source>%1 Hz</source>
         <translation>%1 Hz</translation>
+    </message>
+</context>
+<context>
+    <name>StatusLine</name>
+    <message>
+        <source>Connecting...</source>
+        <translation>연결 중...</translation>
+    </message>
+    <message>
+        <source>Connected... %1, %2 baud</source>
+        <translation>연결됨... %1, %2 baud</translation>
+    </message>
+    <message>
+        <source>Node ID:%1</source>
+        <translation>노드 ID:%1</translation>
+    </message>
+    <message>
+        <source>Unconnected...</source>
+        <translation>연결 안 됨...</translation>
     </message>
 </context>
 <context>
@@ -1204,6 +1431,18 @@ Pa</translation>
         <source>%1 Hz · %2 s to %3 s of %4 s</source>
         <translation>%1 Hz · %2 ~ %3 s / 전체 %4 s</translation>
     </message>
+    <message>
+        <source>Restart</source>
+        <translation>재시작</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>정지</translation>
+    </message>
+    <message>
+        <source>Gap</source>
+        <translation>공백</translation>
+    </message>
 </context>
 <context>
     <name>form_about</name>
@@ -1249,58 +1488,6 @@ Pa</translation>
     <message>
         <source>No hardware at hand? The simulator kv_simulator behaves like a device and prints the path of the port to open.</source>
         <translation>실제 장치가 없으면 시뮬레이터 kv_simulator를 사용할 수 있습니다. 시뮬레이터는 장치처럼 동작하며 열어야 할 포트의 경로를 출력합니다.</translation>
-    </message>
-    <message>
-        <source>Connection</source>
-        <translation>연결</translation>
-    </message>
-    <message>
-        <source>Device</source>
-        <translation>장치</translation>
-    </message>
-    <message>
-        <source>Product</source>
-        <translation>제품</translation>
-    </message>
-    <message>
-        <source>Model</source>
-        <translation>모델</translation>
-    </message>
-    <message>
-        <source>Build</source>
-        <translation>빌드</translation>
-    </message>
-    <message>
-        <source>UUID</source>
-        <translation>UUID</translation>
-    </message>
-    <message>
-        <source>&amp;Mounting</source>
-        <translation>장착(&amp;M)</translation>
-    </message>
-    <message>
-        <source>How the device is mounted; remembered for each product</source>
-        <translation>장치의 장착 방향(제품별로 기억됨)</translation>
-    </message>
-    <message>
-        <source>RFU / ENU (3-1-2)</source>
-        <translation>RFU / ENU (3-1-2)</translation>
-    </message>
-    <message>
-        <source>FLU / NWU (Z-Y-X)</source>
-        <translation>FLU / NWU (Z-Y-X)</translation>
-    </message>
-    <message>
-        <source>Nodes</source>
-        <translation>노드</translation>
-    </message>
-    <message>
-        <source>The node whose values are shown</source>
-        <translation>값을 표시할 노드</translation>
-    </message>
-    <message>
-        <source>Attitude</source>
-        <translation>자세</translation>
     </message>
     <message>
         <source>&amp;Serial</source>
@@ -1407,124 +1594,16 @@ Pa</translation>
         <translation>정보(&amp;A)</translation>
     </message>
     <message>
-        <source>Unconnected...</source>
-        <translation>연결 안 됨...</translation>
-    </message>
-    <message>
-        <source>Roll</source>
-        <translation>롤</translation>
-    </message>
-    <message>
-        <source>Pitch</source>
-        <translation>피치</translation>
-    </message>
-    <message>
-        <source>Yaw</source>
-        <translation>요</translation>
-    </message>
-    <message>
-        <source>Sensor Dashboard</source>
-        <translation>센서 대시보드</translation>
-    </message>
-    <message>
-        <source>Wireless Gateway Dashboard</source>
-        <translation>무선 게이트웨이 대시보드</translation>
-    </message>
-    <message>
-        <source>Waves</source>
-        <translation>파형</translation>
-    </message>
-    <message>
-        <source>Gateway</source>
-        <translation>게이트웨이</translation>
-    </message>
-    <message>
-        <source>Choose a serial port and connect (%1)</source>
-        <translation>시리얼 포트를 선택하여 연결합니다 (%1)</translation>
-    </message>
-    <message>
-        <source>Close the serial port (%1)</source>
-        <translation>시리얼 포트를 닫습니다 (%1)</translation>
-    </message>
-    <message>
-        <source>Plug in a module or a gateway, press &lt;b&gt;Open port&lt;/b&gt; (%1) and choose its serial port.</source>
-        <translation>모듈 또는 게이트웨이를 연결하고 &lt;b&gt;포트 열기&lt;/b&gt;(%1)를 누른 다음 해당 시리얼 포트를 선택하십시오.</translation>
-    </message>
-    <message>
-        <source>The folder %1 cannot be written: settings and logs of this run are not kept.</source>
-        <translation>%1 폴더에 쓸 수 없어 이번 실행의 설정과 로그가 저장되지 않습니다.</translation>
-    </message>
-    <message>
-        <source>Connecting...</source>
-        <translation>연결 중...</translation>
-    </message>
-    <message>
-        <source>Connected... %1, %2 baud</source>
-        <translation>연결됨... %1, %2 baud</translation>
-    </message>
-    <message>
-        <source>Open Serial Port Error.</source>
-        <translation>시리얼 포트를 열 수 없습니다.</translation>
-    </message>
-    <message>
-        <source>Node ID:%1</source>
-        <translation>노드 ID:%1</translation>
-    </message>
-    <message>
-        <source>Waveforms of the selected node</source>
-        <translation>선택한 노드의 파형을 표시합니다</translation>
-    </message>
-    <message>
-        <source>All radio nodes of a connected wireless gateway</source>
-        <translation>연결된 무선 게이트웨이의 모든 무선 노드를 표시합니다</translation>
-    </message>
-    <message>
-        <source>Language of the interface</source>
-        <translation>표시 언어</translation>
-    </message>
-    <message>
-        <source>Language</source>
-        <translation>언어</translation>
-    </message>
-    <message>
         <source>Ctrl+R</source>
         <translation>Ctrl+R</translation>
-    </message>
-    <message>
-        <source>Record the stream to CSV files (%1)</source>
-        <translation>수신 데이터를 CSV 파일로 기록합니다 (%1)</translation>
-    </message>
-    <message>
-        <source>Recording: trouble</source>
-        <translation>기록: 문제 발생</translation>
-    </message>
-    <message>
-        <source>Recording %1</source>
-        <translation>기록 중 %1</translation>
-    </message>
-    <message>
-        <source>The translation for %1 cannot be loaded. The language stays as it is.</source>
-        <translation>번역을 불러올 수 없습니다: %1. 표시 언어는 변경되지 않습니다.</translation>
-    </message>
-    <message>
-        <source>Load new firmware into the device</source>
-        <translation>장치에 새 펌웨어를 다운로드합니다</translation>
     </message>
     <message>
         <source>Ctrl+F</source>
         <translation>Ctrl+F</translation>
     </message>
     <message>
-        <source>Spectrum of the selected node, with alarms</source>
-        <translation>선택한 노드의 스펙트럼과 경보를 표시합니다</translation>
-    </message>
-    <message>
         <source>Ctrl+3</source>
         <translation>Ctrl+3</translation>
-    </message>
-    <message>
-        <source>Attitude of the selected node in three dimensions</source>
-        <translation>선택한 노드의 자세를 3D로 표시합니다</translation>
     </message>
     <message>
         <source>&amp;Link health</source>
@@ -1533,10 +1612,6 @@ Pa</translation>
     <message>
         <source>Ctrl+L</source>
         <translation>Ctrl+L</translation>
-    </message>
-    <message>
-        <source>How completely the data arrive: errors, gaps, losses (%1)</source>
-        <translation>데이터 수신 상태(오류, 끊김, 누락)를 표시합니다 (%1)</translation>
     </message>
 </context>
 <context>
@@ -1715,6 +1790,14 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>Hover to inspect frequency and amplitude. Mouse wheel zooms Y, Ctrl + wheel zooms X, left drag pans, and right or middle double-click resets the view.</source>
         <translation>마우스 포인터를 올리면 주파수와 진폭을 확인할 수 있습니다. 휠로 Y축, Ctrl + 휠로 X축을 확대/축소하고, 왼쪽 버튼으로 끌어 이동하며, 오른쪽 또는 가운데 버튼을 두 번 클릭하면 보기가 초기화됩니다.</translation>
+    </message>
+    <message>
+        <source>Ignore the steady value</source>
+        <translation>정상 상태 값 무시</translation>
+    </message>
+    <message>
+        <source>Leaves 0 Hz, and what the window spreads of it into the bins beside it, out of peak and alarm. Otherwise gravity would be the highest peak of every acceleration spectrum.</source>
+        <translation>0 Hz와 창 함수로 인해 옆 빈으로 누설된 성분을 피크와 알람에서 제외합니다. 제외하지 않으면 모든 가속도 스펙트럼에서 중력이 가장 높은 피크가 됩니다.</translation>
     </message>
 </context>
 <context>
@@ -2146,6 +2229,10 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <source>The last recording is still being written. Try again when that has ended.</source>
         <translation>이전 기록을 아직 쓰고 있습니다. 끝난 뒤 다시 시도하십시오.</translation>
     </message>
+    <message>
+        <source>Starting…</source>
+        <translation>시작하는 중…</translation>
+    </message>
 </context>
 <context>
     <name>form_settings</name>
@@ -2278,10 +2365,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <translation>이 장치의 출력 속도는 저장해도 바뀌지 않습니다.</translation>
     </message>
     <message>
-        <source>Nothing is connected: open a serial port first.</source>
-        <translation>연결된 장치가 없습니다. 먼저 시리얼 포트를 여십시오.</translation>
-    </message>
-    <message>
         <source>Waiting for the device: %1</source>
         <translation>장치 응답 대기 중: %1</translation>
     </message>
@@ -2324,6 +2407,14 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>The settings were sent and the device has restarted.</source>
         <translation>설정을 전송했으며 장치가 다시 시작되었습니다.</translation>
+    </message>
+    <message>
+        <source>What the device sends is no text. The baud rate may be wrong.</source>
+        <translation>장치가 보내는 것은 텍스트가 아닙니다. 보드 레이트가 잘못되었을 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>The device refused at least one of %1.</source>
+        <translation>장치가 다음 명령 중 하나 이상을 거부했습니다: %1.</translation>
     </message>
 </context>
 <context>
@@ -2911,6 +3002,66 @@ Ready to download firmware.
         <source>If the firmware does not start, press Connect and download again.</source>
         <translation>펌웨어가 시작되지 않으면 &apos;연결&apos;을 누르고 다시 다운로드하십시오.</translation>
     </message>
+    <message>
+        <source>Restart device</source>
+        <translation>장치 다시 시작</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>중지</translation>
+    </message>
+    <message>
+        <source>The device is still in its bootloader: it sends no data until it restarts.</source>
+        <translation>장치가 아직 부트로더 상태입니다. 다시 시작할 때까지 데이터를 보내지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Leave it so</source>
+        <translation>그대로 두기</translation>
+    </message>
+    <message>
+        <source>The device restarts with the firmware that it has.</source>
+        <translation>장치가 현재 펌웨어로 다시 시작합니다.</translation>
+    </message>
+    <message>
+        <source>The bootloader did not confirm the restart. Unplug the device and plug it in again if no data come.</source>
+        <translation>부트로더가 다시 시작을 확인하지 않았습니다. 데이터가 오지 않으면 장치를 뽑았다가 다시 연결하십시오.</translation>
+    </message>
+    <message>
+        <source>Stop the download? The device has no complete firmware then. Its bootloader stays: press Connect, then Download.</source>
+        <translation>다운로드를 중지하시겠습니까? 중지하면 장치의 펌웨어가 불완전해집니다. 부트로더는 남아 있으므로 &apos;연결&apos;, &apos;다운로드&apos;를 차례로 누르십시오.</translation>
+    </message>
+    <message>
+        <source>Stop the download</source>
+        <translation>다운로드 중지</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>계속</translation>
+    </message>
+    <message>
+        <source>Ends the bootloader: the device starts the firmware that it has</source>
+        <translation>부트로더를 끝내고 현재 펌웨어를 시작합니다</translation>
+    </message>
+    <message>
+        <source>No bootloader is connected.</source>
+        <translation>연결된 부트로더가 없습니다.</translation>
+    </message>
+    <message>
+        <source>The download is being stopped.</source>
+        <translation>다운로드를 중지하는 중입니다.</translation>
+    </message>
+    <message>
+        <source>Stops the download; asks first</source>
+        <translation>다운로드를 중지합니다(먼저 확인)</translation>
+    </message>
+    <message>
+        <source>No download is running.</source>
+        <translation>진행 중인 다운로드가 없습니다.</translation>
+    </message>
+    <message>
+        <source>The download was stopped.</source>
+        <translation>다운로드가 중지되었습니다.</translation>
+    </message>
 </context>
 <context>
     <name>port_choice</name>
@@ -2991,6 +3142,61 @@ Ready to download firmware.
     <message>
         <source>%1 cannot be used (error %2). Unplug the device, plug it in again and retry.</source>
         <translation>%1 포트를 사용할 수 없습니다(오류 %2). 장치를 분리했다가 다시 연결한 다음 재시도하십시오.</translation>
+    </message>
+</context>
+<context>
+    <name>session_text</name>
+    <message>
+        <source>Nothing is connected: open a serial port first.</source>
+        <translation>연결된 장치가 없습니다. 먼저 시리얼 포트를 여십시오.</translation>
+    </message>
+    <message>
+        <source>The port is being opened.</source>
+        <translation>포트를 여는 중입니다.</translation>
+    </message>
+    <message>
+        <source>A command waits for the device&apos;s reply.</source>
+        <translation>명령이 장치의 응답을 기다리고 있습니다.</translation>
+    </message>
+    <message>
+        <source>Data arrive: the baud rate is right.</source>
+        <translation>데이터가 수신되고 있습니다. 보드 레이트가 올바릅니다.</translation>
+    </message>
+    <message>
+        <source>The device runs its bootloader. Restart it in the firmware update window first.</source>
+        <translation>장치가 부트로더를 실행 중입니다. 먼저 펌웨어 업데이트 창에서 다시 시작하십시오.</translation>
+    </message>
+    <message>
+        <source>Press Connect first.</source>
+        <translation>먼저 &apos;연결&apos;을 누르십시오.</translation>
+    </message>
+    <message>
+        <source>No download runs.</source>
+        <translation>진행 중인 다운로드가 없습니다.</translation>
+    </message>
+    <message>
+        <source>A firmware download runs. It has to end first.</source>
+        <translation>펌웨어 다운로드가 진행 중입니다. 끝날 때까지 기다리십시오.</translation>
+    </message>
+    <message>
+        <source>The port is being closed.</source>
+        <translation>포트를 닫는 중입니다.</translation>
+    </message>
+    <message>
+        <source>The device runs its bootloader.
+It sends no data until it restarts.</source>
+        <translation>장치가 부트로더를 실행 중입니다.
+다시 시작할 때까지 데이터를 보내지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Firmware is being written.
+Do not unplug the device.</source>
+        <translation>펌웨어를 쓰는 중입니다.
+장치를 뽑지 마십시오.</translation>
+    </message>
+    <message>
+        <source>Trying %1 baud...</source>
+        <translation>%1 보드를 시도하는 중...</translation>
     </message>
 </context>
 <context>

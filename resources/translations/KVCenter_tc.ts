@@ -59,6 +59,25 @@
     </message>
 </context>
 <context>
+    <name>AttitudeCard</name>
+    <message>
+        <source>Attitude</source>
+        <translation>姿態</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>橫滾</translation>
+    </message>
+    <message>
+        <source>Pitch</source>
+        <translation>俯仰</translation>
+    </message>
+    <message>
+        <source>Yaw</source>
+        <translation>偏航</translation>
+    </message>
+</context>
+<context>
     <name>AttitudeFigures</name>
     <message>
         <source>Live</source>
@@ -212,12 +231,81 @@
         <source>(no reply)</source>
         <translation>（無回應）</translation>
     </message>
+    <message>
+        <source>(noise)</source>
+        <translation>（雜訊）</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionCard</name>
+    <message>
+        <source>Connection</source>
+        <translation>連線</translation>
+    </message>
+    <message>
+        <source>What arrives is noise. The baud rate may be wrong.</source>
+        <translation>收到的是雜訊。鮑率可能不正確。</translation>
+    </message>
+    <message>
+        <source>&amp;Try the usual baud rates</source>
+        <translation>嘗試常用鮑率(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Opens this port at one rate after the other until the device answers</source>
+        <translation>依序以各鮑率開啟此序列埠，直到裝置回應</translation>
+    </message>
 </context>
 <context>
     <name>DashboardWindow</name>
     <message>
         <source>This window could not be loaded. The log of the program tells why.</source>
         <translation>無法載入此視窗。原因請查看程式日誌。</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceCard</name>
+    <message>
+        <source>Device</source>
+        <translation>裝置</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <translation>產品</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>型號</translation>
+    </message>
+    <message>
+        <source>Build</source>
+        <translation>組建</translation>
+    </message>
+    <message>
+        <source>UUID</source>
+        <translation>UUID</translation>
+    </message>
+    <message>
+        <source>&amp;Mounting</source>
+        <translation>安裝(&amp;M)</translation>
+    </message>
+    <message>
+        <source>How the device is mounted; remembered for each product</source>
+        <translation>裝置的安裝方向，依產品分別記住</translation>
+    </message>
+    <message>
+        <source>RFU / ENU (3-1-2)</source>
+        <translation>RFU / ENU (3-1-2)</translation>
+    </message>
+    <message>
+        <source>FLU / NWU (Z-Y-X)</source>
+        <translation>FLU / NWU (Z-Y-X)</translation>
+    </message>
+</context>
+<context>
+    <name>Dialogs</name>
+    <message>
+        <source>Open Serial Port Error.</source>
+        <translation>無法開啟序列埠。</translation>
     </message>
 </context>
 <context>
@@ -675,6 +763,10 @@
         <source>Node %1</source>
         <translation>節點 %1</translation>
     </message>
+    <message>
+        <source>Nodes %1 · connection ended</source>
+        <translation>節點 %1 · 連線已結束</translation>
+    </message>
 </context>
 <context>
     <name>GatewayNodeModel</name>
@@ -701,6 +793,10 @@
     <message>
         <source>%1 min</source>
         <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>已結束</translation>
     </message>
 </context>
 <context>
@@ -757,6 +853,88 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>The translation for %1 cannot be loaded. The language stays as it is.</source>
+        <translation>無法載入「%1」的翻譯。介面語言維持不變。</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>語言</translation>
+    </message>
+    <message>
+        <source>Language of the interface</source>
+        <translation>介面語言</translation>
+    </message>
+</context>
+<context>
+    <name>MainActions</name>
+    <message>
+        <source>Sensor Dashboard</source>
+        <translation>感測器儀表板</translation>
+    </message>
+    <message>
+        <source>Waveforms of the selected node</source>
+        <translation>所選節點的波形</translation>
+    </message>
+    <message>
+        <source>Wireless Gateway Dashboard</source>
+        <translation>無線閘道器儀表板</translation>
+    </message>
+    <message>
+        <source>All radio nodes of a connected wireless gateway</source>
+        <translation>已連線無線閘道器的所有無線節點</translation>
+    </message>
+    <message>
+        <source>Spectrum of the selected node, with alarms</source>
+        <translation>所選節點的頻譜，附警報功能</translation>
+    </message>
+    <message>
+        <source>Attitude of the selected node in three dimensions</source>
+        <translation>所選節點的 3D 姿態</translation>
+    </message>
+    <message>
+        <source>Record the stream to CSV files (%1)</source>
+        <translation>將資料串流記錄至 CSV 檔案 (%1)</translation>
+    </message>
+    <message>
+        <source>How completely the data arrive: errors, gaps, losses (%1)</source>
+        <translation>資料接收的完整程度：錯誤、間隔、遺失 (%1)</translation>
+    </message>
+    <message>
+        <source>Load new firmware into the device</source>
+        <translation>將新韌體寫入裝置</translation>
+    </message>
+    <message>
+        <source>Choose a serial port and connect (%1)</source>
+        <translation>選擇序列埠並連線 (%1)</translation>
+    </message>
+    <message>
+        <source>Close the serial port (%1)</source>
+        <translation>關閉序列埠 (%1)</translation>
+    </message>
+    <message>
+        <source>End the program</source>
+        <translation>結束程式</translation>
+    </message>
+    <message>
+        <source>Waves</source>
+        <translation>波形</translation>
+    </message>
+    <message>
+        <source>Gateway</source>
+        <translation>閘道器</translation>
+    </message>
+    <message>
+        <source>Plug in a module or a gateway, press &lt;b&gt;Open port&lt;/b&gt; (%1) and choose its serial port.</source>
+        <translation>請接上模組或閘道器，按一下&lt;b&gt;開啟序列埠&lt;/b&gt; (%1)，然後選擇對應的序列埠。</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be written: settings and logs of this run are not kept.</source>
+        <translation>資料夾 %1 無法寫入：本次執行的設定與日誌將不會保留。</translation>
+    </message>
+</context>
+<context>
     <name>MeshFile</name>
     <message>
         <source>The mesh file cannot be read: %1</source>
@@ -776,6 +954,21 @@ Pa</translation>
     <message>
         <source>Dismiss</source>
         <translation>關閉提示</translation>
+    </message>
+</context>
+<context>
+    <name>NodeCard</name>
+    <message>
+        <source>Nodes</source>
+        <translation>節點</translation>
+    </message>
+    <message>
+        <source>The node whose values are shown</source>
+        <translation>選擇要顯示數值的節點</translation>
+    </message>
+    <message>
+        <source>Node ID:%1</source>
+        <translation>節點 ID: %1</translation>
     </message>
 </context>
 <context>
@@ -834,6 +1027,17 @@ Pa</translation>
     <message>
         <source>Unsupported 3D asset. Choose a bundled .obj model, an external .obj file, or a preconverted .mesh file.</source>
         <translation>不支援此 3D 模型。請選擇內建的 .obj 模型、外部的 .obj 檔案或預先轉換的 .mesh 檔案。</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingBadge</name>
+    <message>
+        <source>Recording: trouble</source>
+        <translation>記錄發生問題</translation>
+    </message>
+    <message>
+        <source>Recording %1</source>
+        <translation>記錄中 %1</translation>
     </message>
 </context>
 <context>
@@ -1042,6 +1246,10 @@ Pa</translation>
         <source>Level (dB, 0 dB = 1 %1)</source>
         <translation>位準 (dB，0 dB = 1 %1)</translation>
     </message>
+    <message>
+        <source>Block %1 %</source>
+        <translation>資料塊 %1 %</translation>
+    </message>
 </context>
 <context>
     <name>SpectrumViewState</name>
@@ -1052,6 +1260,25 @@ Pa</translation>
     <message>
         <source>%1 Hz</source>
         <translation>%1 Hz</translation>
+    </message>
+</context>
+<context>
+    <name>StatusLine</name>
+    <message>
+        <source>Connecting...</source>
+        <translation>正在連線...</translation>
+    </message>
+    <message>
+        <source>Connected... %1, %2 baud</source>
+        <translation>已連線：%1，鮑率 %2</translation>
+    </message>
+    <message>
+        <source>Node ID:%1</source>
+        <translation>節點 ID: %1</translation>
+    </message>
+    <message>
+        <source>Unconnected...</source>
+        <translation>未連線</translation>
     </message>
 </context>
 <context>
@@ -1204,6 +1431,18 @@ Pa</translation>
         <source>%1 Hz · %2 s to %3 s of %4 s</source>
         <translation>%1 Hz · %2 s 至 %3 s / 共 %4 s</translation>
     </message>
+    <message>
+        <source>Restart</source>
+        <translation>重新啟動</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>Gap</source>
+        <translation>中斷</translation>
+    </message>
 </context>
 <context>
     <name>form_about</name>
@@ -1249,58 +1488,6 @@ Pa</translation>
     <message>
         <source>No hardware at hand? The simulator kv_simulator behaves like a device and prints the path of the port to open.</source>
         <translation>手邊沒有硬體？模擬器 kv_simulator 的行為與真實裝置相同，啟動後會顯示要開啟的序列埠路徑。</translation>
-    </message>
-    <message>
-        <source>Connection</source>
-        <translation>連線</translation>
-    </message>
-    <message>
-        <source>Device</source>
-        <translation>裝置</translation>
-    </message>
-    <message>
-        <source>Product</source>
-        <translation>產品</translation>
-    </message>
-    <message>
-        <source>Model</source>
-        <translation>型號</translation>
-    </message>
-    <message>
-        <source>Build</source>
-        <translation>組建</translation>
-    </message>
-    <message>
-        <source>UUID</source>
-        <translation>UUID</translation>
-    </message>
-    <message>
-        <source>&amp;Mounting</source>
-        <translation>安裝(&amp;M)</translation>
-    </message>
-    <message>
-        <source>How the device is mounted; remembered for each product</source>
-        <translation>裝置的安裝方向，依產品分別記住</translation>
-    </message>
-    <message>
-        <source>RFU / ENU (3-1-2)</source>
-        <translation>RFU / ENU (3-1-2)</translation>
-    </message>
-    <message>
-        <source>FLU / NWU (Z-Y-X)</source>
-        <translation>FLU / NWU (Z-Y-X)</translation>
-    </message>
-    <message>
-        <source>Nodes</source>
-        <translation>節點</translation>
-    </message>
-    <message>
-        <source>The node whose values are shown</source>
-        <translation>選擇要顯示數值的節點</translation>
-    </message>
-    <message>
-        <source>Attitude</source>
-        <translation>姿態</translation>
     </message>
     <message>
         <source>&amp;Serial</source>
@@ -1407,124 +1594,16 @@ Pa</translation>
         <translation>關於(&amp;A)</translation>
     </message>
     <message>
-        <source>Unconnected...</source>
-        <translation>未連線</translation>
-    </message>
-    <message>
-        <source>Roll</source>
-        <translation>橫滾</translation>
-    </message>
-    <message>
-        <source>Pitch</source>
-        <translation>俯仰</translation>
-    </message>
-    <message>
-        <source>Yaw</source>
-        <translation>偏航</translation>
-    </message>
-    <message>
-        <source>Sensor Dashboard</source>
-        <translation>感測器儀表板</translation>
-    </message>
-    <message>
-        <source>Wireless Gateway Dashboard</source>
-        <translation>無線閘道器儀表板</translation>
-    </message>
-    <message>
-        <source>Waves</source>
-        <translation>波形</translation>
-    </message>
-    <message>
-        <source>Gateway</source>
-        <translation>閘道器</translation>
-    </message>
-    <message>
-        <source>Choose a serial port and connect (%1)</source>
-        <translation>選擇序列埠並連線 (%1)</translation>
-    </message>
-    <message>
-        <source>Close the serial port (%1)</source>
-        <translation>關閉序列埠 (%1)</translation>
-    </message>
-    <message>
-        <source>Plug in a module or a gateway, press &lt;b&gt;Open port&lt;/b&gt; (%1) and choose its serial port.</source>
-        <translation>請接上模組或閘道器，按一下&lt;b&gt;開啟序列埠&lt;/b&gt; (%1)，然後選擇對應的序列埠。</translation>
-    </message>
-    <message>
-        <source>The folder %1 cannot be written: settings and logs of this run are not kept.</source>
-        <translation>資料夾 %1 無法寫入：本次執行的設定與日誌將不會保留。</translation>
-    </message>
-    <message>
-        <source>Connecting...</source>
-        <translation>正在連線...</translation>
-    </message>
-    <message>
-        <source>Connected... %1, %2 baud</source>
-        <translation>已連線：%1，鮑率 %2</translation>
-    </message>
-    <message>
-        <source>Open Serial Port Error.</source>
-        <translation>無法開啟序列埠。</translation>
-    </message>
-    <message>
-        <source>Node ID:%1</source>
-        <translation>節點 ID: %1</translation>
-    </message>
-    <message>
-        <source>Waveforms of the selected node</source>
-        <translation>所選節點的波形</translation>
-    </message>
-    <message>
-        <source>All radio nodes of a connected wireless gateway</source>
-        <translation>已連線無線閘道器的所有無線節點</translation>
-    </message>
-    <message>
-        <source>Language of the interface</source>
-        <translation>介面語言</translation>
-    </message>
-    <message>
-        <source>Language</source>
-        <translation>語言</translation>
-    </message>
-    <message>
-        <source>Recording: trouble</source>
-        <translation>記錄發生問題</translation>
-    </message>
-    <message>
-        <source>Recording %1</source>
-        <translation>記錄中 %1</translation>
-    </message>
-    <message>
-        <source>The translation for %1 cannot be loaded. The language stays as it is.</source>
-        <translation>無法載入「%1」的翻譯。介面語言維持不變。</translation>
-    </message>
-    <message>
         <source>Ctrl+R</source>
         <translation>Ctrl+R</translation>
-    </message>
-    <message>
-        <source>Record the stream to CSV files (%1)</source>
-        <translation>將資料串流記錄至 CSV 檔案 (%1)</translation>
-    </message>
-    <message>
-        <source>Load new firmware into the device</source>
-        <translation>將新韌體寫入裝置</translation>
     </message>
     <message>
         <source>Ctrl+F</source>
         <translation>Ctrl+F</translation>
     </message>
     <message>
-        <source>Spectrum of the selected node, with alarms</source>
-        <translation>所選節點的頻譜，附警報功能</translation>
-    </message>
-    <message>
         <source>Ctrl+3</source>
         <translation>Ctrl+3</translation>
-    </message>
-    <message>
-        <source>Attitude of the selected node in three dimensions</source>
-        <translation>所選節點的 3D 姿態</translation>
     </message>
     <message>
         <source>&amp;Link health</source>
@@ -1533,10 +1612,6 @@ Pa</translation>
     <message>
         <source>Ctrl+L</source>
         <translation>Ctrl+L</translation>
-    </message>
-    <message>
-        <source>How completely the data arrive: errors, gaps, losses (%1)</source>
-        <translation>資料接收的完整程度：錯誤、間隔、遺失 (%1)</translation>
     </message>
 </context>
 <context>
@@ -1715,6 +1790,14 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>Hover to inspect frequency and amplitude. Mouse wheel zooms Y, Ctrl + wheel zooms X, left drag pans, and right or middle double-click resets the view.</source>
         <translation>將滑鼠移到圖上可檢視頻率與振幅。滾輪縮放 Y 軸，Ctrl + 滾輪縮放 X 軸，按住左鍵拖曳可平移，按兩下右鍵或中鍵可重設檢視。</translation>
+    </message>
+    <message>
+        <source>Ignore the steady value</source>
+        <translation>忽略穩態值</translation>
+    </message>
+    <message>
+        <source>Leaves 0 Hz, and what the window spreads of it into the bins beside it, out of peak and alarm. Otherwise gravity would be the highest peak of every acceleration spectrum.</source>
+        <translation>峰值和警報不考慮 0 Hz 以及窗函數使其洩漏到相鄰譜線的部分。否則重力會成為每個加速度頻譜的最高峰。</translation>
     </message>
 </context>
 <context>
@@ -2146,6 +2229,10 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <source>The last recording is still being written. Try again when that has ended.</source>
         <translation>上一次記錄仍在寫入，請待其結束後再試。</translation>
     </message>
+    <message>
+        <source>Starting…</source>
+        <translation>正在開始…</translation>
+    </message>
 </context>
 <context>
     <name>form_settings</name>
@@ -2278,10 +2365,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <translation>儲存不會變更此裝置的輸出頻率。</translation>
     </message>
     <message>
-        <source>Nothing is connected: open a serial port first.</source>
-        <translation>尚未連線：請先開啟序列埠。</translation>
-    </message>
-    <message>
         <source>Waiting for the device: %1</source>
         <translation>正在等待裝置：%1</translation>
     </message>
@@ -2324,6 +2407,14 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>The settings were sent and the device has restarted.</source>
         <translation>設定已傳送，裝置已重新啟動。</translation>
+    </message>
+    <message>
+        <source>What the device sends is no text. The baud rate may be wrong.</source>
+        <translation>裝置傳送的不是文字。鮑率可能不正確。</translation>
+    </message>
+    <message>
+        <source>The device refused at least one of %1.</source>
+        <translation>裝置至少拒絕了以下命令之一：%1。</translation>
     </message>
 </context>
 <context>
@@ -2911,6 +3002,66 @@ Ready to download firmware.
         <source>If the firmware does not start, press Connect and download again.</source>
         <translation>如果韌體無法啟動，請按一下「連線」並重新燒錄。</translation>
     </message>
+    <message>
+        <source>Restart device</source>
+        <translation>重新啟動裝置</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>The device is still in its bootloader: it sends no data until it restarts.</source>
+        <translation>裝置仍處於啟動載入程式中：重新啟動之前不會傳送資料。</translation>
+    </message>
+    <message>
+        <source>Leave it so</source>
+        <translation>保持不變</translation>
+    </message>
+    <message>
+        <source>The device restarts with the firmware that it has.</source>
+        <translation>裝置以現有韌體重新啟動。</translation>
+    </message>
+    <message>
+        <source>The bootloader did not confirm the restart. Unplug the device and plug it in again if no data come.</source>
+        <translation>啟動載入程式未確認重新啟動。如果沒有資料，請拔下裝置後重新插入。</translation>
+    </message>
+    <message>
+        <source>Stop the download? The device has no complete firmware then. Its bootloader stays: press Connect, then Download.</source>
+        <translation>要停止燒錄嗎？停止後裝置中沒有完整的韌體，但啟動載入程式仍在：請按一下「連線」，然後按一下「燒錄」。</translation>
+    </message>
+    <message>
+        <source>Stop the download</source>
+        <translation>停止燒錄</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>繼續</translation>
+    </message>
+    <message>
+        <source>Ends the bootloader: the device starts the firmware that it has</source>
+        <translation>結束啟動載入程式：裝置啟動現有韌體</translation>
+    </message>
+    <message>
+        <source>No bootloader is connected.</source>
+        <translation>未連線啟動載入程式。</translation>
+    </message>
+    <message>
+        <source>The download is being stopped.</source>
+        <translation>正在停止燒錄。</translation>
+    </message>
+    <message>
+        <source>Stops the download; asks first</source>
+        <translation>停止燒錄（會先詢問）</translation>
+    </message>
+    <message>
+        <source>No download is running.</source>
+        <translation>沒有正在進行的燒錄。</translation>
+    </message>
+    <message>
+        <source>The download was stopped.</source>
+        <translation>燒錄已停止。</translation>
+    </message>
 </context>
 <context>
     <name>port_choice</name>
@@ -2991,6 +3142,61 @@ Ready to download firmware.
     <message>
         <source>%1 cannot be used (error %2). Unplug the device, plug it in again and retry.</source>
         <translation>無法使用 %1（錯誤 %2）。請拔下裝置，重新接上後再試一次。</translation>
+    </message>
+</context>
+<context>
+    <name>session_text</name>
+    <message>
+        <source>Nothing is connected: open a serial port first.</source>
+        <translation>尚未連線：請先開啟序列埠。</translation>
+    </message>
+    <message>
+        <source>The port is being opened.</source>
+        <translation>正在開啟序列埠。</translation>
+    </message>
+    <message>
+        <source>A command waits for the device&apos;s reply.</source>
+        <translation>有命令正在等待裝置回應。</translation>
+    </message>
+    <message>
+        <source>Data arrive: the baud rate is right.</source>
+        <translation>正在接收資料：鮑率正確。</translation>
+    </message>
+    <message>
+        <source>The device runs its bootloader. Restart it in the firmware update window first.</source>
+        <translation>裝置處於啟動載入程式中。請先在韌體更新視窗中重新啟動裝置。</translation>
+    </message>
+    <message>
+        <source>Press Connect first.</source>
+        <translation>請先按一下「連線」。</translation>
+    </message>
+    <message>
+        <source>No download runs.</source>
+        <translation>沒有正在進行的燒錄。</translation>
+    </message>
+    <message>
+        <source>A firmware download runs. It has to end first.</source>
+        <translation>正在燒錄韌體，須等待其結束。</translation>
+    </message>
+    <message>
+        <source>The port is being closed.</source>
+        <translation>正在關閉序列埠。</translation>
+    </message>
+    <message>
+        <source>The device runs its bootloader.
+It sends no data until it restarts.</source>
+        <translation>裝置處於啟動載入程式中。
+重新啟動之前不會傳送資料。</translation>
+    </message>
+    <message>
+        <source>Firmware is being written.
+Do not unplug the device.</source>
+        <translation>正在寫入韌體。
+請勿拔下裝置。</translation>
+    </message>
+    <message>
+        <source>Trying %1 baud...</source>
+        <translation>正在嘗試 %1 鮑...</translation>
     </message>
 </context>
 <context>

@@ -6,6 +6,8 @@
 #include <QMutex>
 #include <QTextStream>
 
+#include <atomic>
+
 namespace {
 
 constexpr QLatin1String kLogFile("debug.log");
@@ -33,7 +35,8 @@ QLatin1String levelTag(QtMsgType type)
 
 void AppLog::init()
 {
-    if (!QFile::exists(kLogFile))
+    static std::atomic_flag isDone;
+    if (isDone.test_and_set() || !QFile::exists(kLogFile))
         return;
     if (QFile::resize(kLogFile, 0))
         print(QStringLiteral("Old log file was removed."));

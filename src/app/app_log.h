@@ -8,7 +8,8 @@
 class AppLog
 {
 public:
-    /// Empties the log of the run before. Call once, before the first line.
+    /// Empties the log of the run before. Call before the first line. Only the first call in a process does anything:
+    /// what a second window finds is of this run.
     static void init();
 
     /// Appends "(yyyy-MM-dd hh:mm:ss) [level]: message" and CR LF. Any thread. A file that cannot be opened is skipped.

@@ -106,6 +106,7 @@ int wrappedHeading(int degrees)
 ToolADI::ToolADI(QWidget *parent) : QWidget(parent)
 {
     setAccessibleName(tr("Attitude indicator"));
+    setAttribute(Qt::WA_OpaquePaintEvent); // else everything beneath is painted too, each time
 }
 
 void ToolADI::setAttitude(const NormalizedAttitude &attitude)
@@ -140,10 +141,11 @@ void ToolADI::changeEvent(QEvent *event)
 
 void ToolADI::paintEvent(QPaintEvent *)
 {
+    QPainter painter(this);
+    painter.fillRect(rect(), theme::kSurface);
     const AdiLayout layout = AdiLayout::forSize(size());
     if (layout.radius <= 0)
         return;
-    QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(layout.center);
     drawBall(painter, layout);

@@ -36,6 +36,7 @@ void CommandSession::setConnected(bool connected)
 {
     ++m_connection;
     m_connected = connected;
+    endOperation();
     m_outputStopped = false;
     m_lastReadWasNoise = false;
     m_resumeTimer.stop();
@@ -50,11 +51,17 @@ void CommandSession::suspend(bool suspended)
     m_suspended = suspended;
     if (suspended) {
         m_resumeTimer.stop();
-        m_operationEnded = m_busy;
-        if (m_broker != nullptr)
-            m_broker->abort();
+        endOperation();
     }
     emit stateChanged();
+}
+
+/// What runs waits below on the stack: it comes back at once and sends nothing more.
+void CommandSession::endOperation()
+{
+    m_operationEnded = m_busy;
+    if (m_busy && m_broker != nullptr)
+        m_broker->abort();
 }
 
 void CommandSession::noteData()
@@ -106,15 +113,12 @@ QStringList CommandSession::readInfoNow()
 
     QStringList lines;
     const info_reply::Kind kind = info_reply::kindOf(reply);
-    if (connection == m_connection) {
-        if (kind == info_reply::Kind::Text)
-            lines = info_reply::lines(reply);
-        if (kind == info_reply::Kind::Noise)
-            emit logLine(QLatin1String("< ") + tr("(noise)"));
-        else
-            logReply(lines);
-    }
-    // Also on a connection that began meanwhile: the rest of the sequence has quieted its device.
+    if (kind == info_reply::Kind::Text)
+        lines = info_reply::lines(reply);
+    if (kind == info_reply::Kind::Noise)
+        emit logLine(QLatin1String("< ") + tr("(noise)"));
+    else
+        logReply(lines);
     m_resumesLeft = lines.isEmpty() ? 0 : kResumesAgain; // nobody is there, or somebody whose output is stopped now
     if (m_connected && !sendResume(kResumeWindowMs))
         return {};

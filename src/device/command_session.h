@@ -87,6 +87,7 @@ signals:
 private:
     bool begin();
     void end();
+    void endOperation();
     std::optional<QStringList> execute(const QString &text, quint32 waitMs);
     QStringList readInfoNow();
     void logCommands(const QList<SettingsCommand> &commands);

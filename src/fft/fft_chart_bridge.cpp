@@ -256,7 +256,8 @@ void FftChartBridge::alarmInstalled()
 void FftChartBridge::setAlarmSuspended(bool suspended)
 {
     m_alarm.setSuspended(suspended);
-    updatePresentation();
+    if (suspended) // else the next spectra are the first that say something
+        updatePresentation();
 }
 
 void FftChartBridge::setRuntimeTelemetry(int droppedBatches, int clippedSamples, double lastLatencyMs,

@@ -6,7 +6,6 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
-#include <QSettings>
 #include <QSurfaceFormat>
 #include <QThread>
 #include <QVBoxLayout>
@@ -16,6 +15,7 @@
 #include "app/frame_gate.h"
 #include "app/settings_keys.h"
 #include "app/theme.h"
+#include "app/window_place.h"
 #include "fft/fft_files.h"
 #include "fft/fft_trans.h"
 #include "fft/spectrum_controls.h"
@@ -39,9 +39,7 @@ form_fftchart::form_fftchart(QWidget *parent) : QWidget(parent, Qt::Window), m_c
     connect(&m_timer, &QTimer::timeout, this, &form_fftchart::onTimer50ms);
     retranslateDynamicUi();
     resetFftBuffers();
-    if (!restoreGeometry(QSettings(settings_keys::kFile, QSettings::IniFormat)
-                             .value(settings_keys::kSpectrumGeometry)
-                             .toByteArray()))
+    if (!window_place::restore(this, settings_keys::kSpectrumGeometry))
         resize(kDefaultSize);
 }
 
@@ -320,7 +318,7 @@ void form_fftchart::showEvent(QShowEvent *event)
 void form_fftchart::closeEvent(QCloseEvent *event)
 {
     releaseResources();
-    QSettings(settings_keys::kFile, QSettings::IniFormat).setValue(settings_keys::kSpectrumGeometry, saveGeometry());
+    window_place::store(this, settings_keys::kSpectrumGeometry);
     QWidget::closeEvent(event);
 }
 

@@ -34,7 +34,8 @@ constexpr int kUsualRates[] = {115200, 921600, 460800, 230400, 57600, 38400, 192
 } // namespace
 
 DeviceSession::DeviceSession(QObject *owner)
-    : m_port(std::make_unique<KvUartPort>()), m_dispatcher(new StreamDispatcher(owner != nullptr ? owner : this)),
+    : QObject(owner), m_port(std::make_unique<KvUartPort>()),
+      m_dispatcher(new StreamDispatcher(owner != nullptr ? owner : this)),
       m_broker(new CommandBroker(owner != nullptr ? owner : this)), m_parser(new ImuParser(this)),
       m_commands(new CommandSession(this)), m_recorder(new Recorder(this)),
       m_monitor(new LinkMonitor(m_port.get(), m_recorder, this)), m_router(new StreamRouter(this))
@@ -109,7 +110,6 @@ void DeviceSession::openPort(const QString &portName, int baudRate)
     m_sinceOpened.start();
     m_port->openUART(portName, baudRate);
     m_commands->setBaud(baudRate);
-    m_commands->setConnected(true);
     m_dispatcher->clear();
     m_dispatcher->setLinkConnected(true);
     m_recorder->setLinkOpen(true);
@@ -122,8 +122,7 @@ void DeviceSession::onOpened()
 {
     if (m_state != SessionState::Opening)
         return;
-    // As identify() would from here on; the state before it is never seen.
-    m_state = SessionState::Silent;
+    m_commands->setConnected(true);
     readInfo();
 }
 
@@ -461,7 +460,8 @@ void DeviceSession::leaveBootloader()
 
 void DeviceSession::onCommandState()
 {
-    if (std::exchange(m_commandBusy, m_commands->isBusy()) != m_commandBusy) {
+    const bool isBusy = m_commands->isBusy();
+    if (std::exchange(m_commandBusy, isBusy) != isBusy) {
         m_monitor->interrupt();
         m_router->interrupt();
     }

@@ -40,7 +40,7 @@ class DeviceSession : public QObject
     Q_DISABLE_COPY_MOVE(DeviceSession)
 
 public:
-    /// `owner` becomes the parent of dispatcher and broker and outlives this session; null: the session itself.
+    /// `owner` becomes the parent, also of dispatcher and broker; without one these are the session's.
     explicit DeviceSession(QObject *owner = nullptr);
     ~DeviceSession() override;
 

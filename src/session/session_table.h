@@ -17,16 +17,16 @@ constexpr int kSessionStateCount = 8;
 
 /// What a user or a script may ask a session for.
 enum class SessionAction : quint8 {
-    OpenPort,       ///< another one, when one is open
+    OpenPort, ///< another one, when one is open
     ClosePort,
-    Identify,       ///< ask the device what it is
-    SendCommand,    ///< settings and one-click commands
+    Identify,    ///< ask the device what it is
+    SendCommand, ///< settings and one-click commands
     StartRecording,
-    TryBaudRates,   ///< open the port at one usual rate after the other
+    TryBaudRates, ///< open the port at one usual rate after the other
     ConnectBootloader,
-    Download,       ///< write firmware
+    Download, ///< write firmware
     StopDownload,
-    RestartDevice,  ///< out of its bootloader
+    RestartDevice, ///< out of its bootloader
     Quit,
 };
 constexpr int kSessionActionCount = 11;

@@ -36,12 +36,12 @@ struct StreamRestart
 /// One sample of one node, placed on the stream's time.
 struct StreamSample
 {
-    NodeSnapshot snapshot;     ///< `time_ms` is the stream's time, see StreamTimeline
-    SampleFields fields;       ///< what the stream carries
+    NodeSnapshot snapshot;                                   ///< `time_ms` is the stream's time, see StreamTimeline
+    SampleFields fields;                                     ///< what the stream carries
     OrientationPreset preset = OrientationPreset::RfuEnu312; ///< mounting that angles are shown for
-    quint32 deviceMs = 0;      ///< the device's stamp as it came; 0: none
-    qint64 hostMs = 0;         ///< arrival on the session's clock
-    quint32 restart = 0;       ///< number of the restart that it belongs to; followed node only
+    quint32 deviceMs = 0;                                    ///< the device's stamp as it came; 0: none
+    qint64 hostMs = 0;                                       ///< arrival on the session's clock
+    quint32 restart = 0;                      ///< number of the restart that it belongs to; followed node only
     StreamBreak brokenBy = StreamBreak::None; ///< between this sample and the one before of this node
 };
 

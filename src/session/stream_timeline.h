@@ -11,8 +11,9 @@
 /// nothing.
 ///
 /// A node may have two clocks: its own (single records and full batches) and its gateway's (compact batches). Each has
-/// its place on the one time line. Stamps are 32-bit milliseconds that wrap; 0 means that the sample carries none: it is
-/// placed by the measured pace of arrival. A stamp that repeats, or is up to a second late, gets the newest time again.
+/// its place on the one time line. Stamps are 32-bit milliseconds that wrap; 0 means that the sample carries none: it
+/// is placed by the measured pace of arrival. A stamp that repeats, or is up to a second late, gets the newest time
+/// again.
 ///
 /// A plain value of fixed size; nothing is allocated.
 class StreamTimeline
@@ -58,7 +59,7 @@ private:
     std::array<Anchor, 2> m_anchors;
 
     // samples without a stamp
-    double m_offsetMs = 0;       ///< stream time less host time
+    double m_offsetMs = 0;        ///< stream time less host time
     double m_arrivalPeriodMs = 0; ///< 0: not measured yet
     double m_firstArrivalMs = 0;
     int m_arrivals = 0; ///< while the pace is measured

@@ -14,8 +14,8 @@ ActionRules::ActionRules(DeviceSession *session, QObject *parent) : QObject(pare
 
 void ActionRules::bind(QAction *action, SessionAction what, const QString &toolTip)
 {
-    const auto at = std::find_if(m_rules.begin(), m_rules.end(),
-                                 [action](const Rule &rule) { return rule.action == action; });
+    const auto at =
+        std::find_if(m_rules.begin(), m_rules.end(), [action](const Rule &rule) { return rule.action == action; });
     if (at == m_rules.end())
         m_rules.append({action, what, toolTip});
     else

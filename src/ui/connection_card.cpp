@@ -33,13 +33,11 @@ void ConnectionCard::refresh()
     const StreamDispatcher &dispatcher = m_session->dispatcher();
     m_ui->label_connection->setToolTip(device_text::plainToolTip(m_session->portName()));
     const QString state = session_text::connection(*m_session);
-    setTextIfChanged(m_ui->label_connection,
-                     state.isEmpty()
-                         ? status_text::connectionPanel(device_text::breakable(m_session->portName()),
-                                                        m_session->baudRate(), dispatcher.currentFrame(),
-                                                        dispatcher.snapshot().measured_frame_rate,
-                                                        m_session->isStreaming(), m_session->openMs() > kSettledMs)
-                         : state);
+    setTextIfChanged(m_ui->label_connection, state.isEmpty() ? status_text::connectionPanel(
+                                                 device_text::breakable(m_session->portName()), m_session->baudRate(),
+                                                 dispatcher.currentFrame(), dispatcher.snapshot().measured_frame_rate,
+                                                 m_session->isStreaming(), m_session->openMs() > kSettledMs)
+                                                             : state);
 }
 
 void ConnectionCard::clear()
@@ -54,9 +52,9 @@ void ConnectionCard::showNoise()
     m_ui->button_try_rates->setVisible(isOffered);
     const Refusal refusal = m_session->refusal(SessionAction::TryBaudRates);
     m_ui->button_try_rates->setEnabled(refusal == Refusal::None);
-    m_ui->button_try_rates->setToolTip(
-        refusal == Refusal::None ? tr("Opens this port at one rate after the other until the device answers")
-                                 : session_text::refusal(refusal));
+    m_ui->button_try_rates->setToolTip(refusal == Refusal::None
+                                           ? tr("Opens this port at one rate after the other until the device answers")
+                                           : session_text::refusal(refusal));
 }
 
 void ConnectionCard::changeEvent(QEvent *event)

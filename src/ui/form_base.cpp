@@ -5,10 +5,8 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QSettings>
 #include <QThread>
-#include <QToolButton>
 
 #include "app/app_language_manager.h"
 #include "app/app_log.h"
@@ -38,7 +36,6 @@ namespace {
 
 constexpr int kUiTickMs = 20;
 constexpr int kLeftWidthPerPoint = 29;
-constexpr int kIconSize = 72;
 
 } // namespace
 
@@ -62,7 +59,6 @@ form_base::form_base(QWidget *parent) : QMainWindow(parent), m_ui(std::make_uniq
     applyFontSize(fontSize);
     if (!window_place::restore(this, settings_keys::kGeometry))
         resize(size().boundedTo(screen()->availableSize()));
-    m_ui->label_folder->setVisible(!QFileInfo(QDir::currentPath()).isWritable());
     retranslate();
     enable_all_page(false);
 }
@@ -71,6 +67,7 @@ form_base::~form_base()
 {
     m_views->closeAll();
     m_session->disconnect(this);
+    m_session->dispatcher().disconnect(this);
     m_session.reset();
 }
 
@@ -93,14 +90,9 @@ const KvUartPort &form_base::port() const
 void form_base::setUpWidgets()
 {
     m_panel = new SensorDataPanel;
-    auto *area = new QScrollArea(this);
-    area->setObjectName(QStringLiteral("sensorDataScrollArea"));
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
-    area->setWidget(m_panel);
-    area->viewport()->setAutoFillBackground(false);
+    m_ui->sensorDataScrollArea->setWidget(m_panel);
+    m_ui->sensorDataScrollArea->viewport()->setAutoFillBackground(false);
     m_panel->setAutoFillBackground(false);
-    m_ui->layout_panel->addWidget(area);
 
     DeviceSession *session = m_session.get();
     m_connectionCard = new ConnectionCard(session, this);
@@ -114,7 +106,6 @@ void form_base::setUpWidgets()
     m_statusLine = new StatusLine(session, m_ui->statusbar, m_ui->action_link_health, this);
     m_recordingBadge = new RecordingBadge(&session->recorder(), this);
     m_ui->statusbar->insertPermanentWidget(1, m_recordingBadge);
-    m_ui->label_icon->setPixmap(QApplication::windowIcon().pixmap(kIconSize, kIconSize));
 
     m_languageMenu = new LanguageMenu(this);
     m_ui->menubar->setCornerWidget(m_languageMenu->button());
@@ -126,13 +117,16 @@ void form_base::setUpWidgets()
 
 void form_base::setUpConnections()
 {
-    connect(m_ui->action_copy_values, &QAction::triggered, this, &form_base::copyValues);
+    connect(m_ui->action_copy_values, &QAction::triggered, this, [this] {
+        QGuiApplication::clipboard()->setText(m_panel->text() + u'\n' + m_attitudeCard->lines().join(u'\n'));
+    });
     connect(m_ui->action_link_health, &QAction::triggered, m_dialogs, &Dialogs::openLinkHealth);
     connect(m_dialogs, &Dialogs::portChosen, this, &form_base::open_port);
     connect(m_ui->action_quit, &QAction::triggered, this, &form_base::close);
     connect(m_ui->button_open, &QPushButton::clicked, m_ui->action_serial_open, &QAction::trigger);
     connect(m_actions->sensorDashboard(), &QAction::triggered, this, &form_base::on_action_sensor_dashboard_triggered);
-    connect(m_actions->gatewayDashboard(), &QAction::triggered, this, &form_base::on_action_wireless_gateway_dashboard_triggered);
+    connect(m_actions->gatewayDashboard(), &QAction::triggered, this,
+            &form_base::on_action_wireless_gateway_dashboard_triggered);
     connect(m_recordingBadge, &QToolButton::clicked, m_ui->action_export_data, &QAction::trigger);
     connect(m_session.get(), &DeviceSession::stateChanged, this, &form_base::onSessionState);
     connect(m_session.get(), &DeviceSession::portFailed, this, &form_base::onSerialError);
@@ -221,7 +215,9 @@ void form_base::run_uart_UItmr()
     m_connectionCard->refresh();
     m_recordingBadge->refresh();
     m_nodeCard->refresh();
-    refresh_selected_node_views();
+    m_isNumbersTurn = !m_isNumbersTurn; // 25 times a second is more than anybody reads
+    if (m_isNumbersTurn)
+        refresh_selected_node_views();
 }
 
 void form_base::refresh_selected_node_views()
@@ -289,11 +285,6 @@ void form_base::on_actionAbout_triggered()
     m_dialogs->openAbout();
 }
 
-void form_base::copyValues()
-{
-    QGuiApplication::clipboard()->setText(m_panel->text() + u'\n' + m_attitudeCard->lines().join(u'\n'));
-}
-
 void form_base::on_actionFontSmall_triggered()
 {
     storeFontSize(font_size::kSmall);
@@ -331,10 +322,6 @@ void form_base::retranslate()
     m_panel->retranslate();
     m_statusLine->retranslate();
     m_actions->retranslate();
-    m_ui->label_welcome->setText(
-        tr("Plug in a module or a gateway, press <b>Open port</b> (%1) and choose its serial port.").arg(m_ui->action_serial_open->shortcut().toString(QKeySequence::NativeText)));
-    m_ui->label_folder->setText(
-        tr("The folder %1 cannot be written: settings and logs of this run are not kept.").arg(QDir::currentPath()));
 }
 
 void form_base::changeEvent(QEvent *event)

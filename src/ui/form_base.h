@@ -49,6 +49,12 @@ public:
     /// The link, for those who count what passes through the program.
     const KvUartPort &port() const;
 
+    // What the session does for whoever calls the window.
+    void open_port(const QString &portName, int baudRate);
+    void try_read_prod_info();
+    void onKbootFrameRecv(const QByteArray &payload);
+    void on_orientation_preset_changed(OrientationPreset preset);
+
     // Not slots: their actions are not in the generated layout, and would be looked for by name.
     void on_action_sensor_dashboard_triggered();
     void on_action_wireless_gateway_dashboard_triggered();
@@ -68,12 +74,6 @@ public slots:
     void on_actionFontMedium_triggered();
     void on_actionFontBig_triggered();
 
-    // What the session does for whoever calls the window.
-    void open_port(const QString &portName, int baudRate);
-    void try_read_prod_info();
-    void onKbootFrameRecv(const QByteArray &payload);
-    void on_orientation_preset_changed(OrientationPreset preset);
-
 protected:
     void closeEvent(QCloseEvent *event) override;
     void changeEvent(QEvent *event) override;
@@ -84,7 +84,6 @@ private:
     void applyFontSize(int points);
     void storeFontSize(int points);
     void retranslate();
-    void copyValues();
 
     void enable_all_page(bool enabled);
     void onSessionState();
@@ -99,6 +98,7 @@ private:
     std::unique_ptr<DeviceSession> m_session;
     QTimer m_uiTimer;
     bool m_isShowingConnection = false;
+    bool m_isNumbersTurn = false; ///< numbers and attitude are refreshed by every second tick
 
     SensorDataPanel *m_panel = nullptr;
     ConnectionCard *m_connectionCard = nullptr;

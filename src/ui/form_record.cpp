@@ -11,8 +11,10 @@
 
 #include <cmath>
 
+#include "app/settings_keys.h"
 #include "app/theme.h"
 #include "app/value_format.h"
+#include "app/window_place.h"
 #include "record/recorder.h"
 #include "record/recording_target.h"
 #include "ui/device_text.h"
@@ -53,6 +55,7 @@ form_record::form_record(Recorder *recorder, QWidget *parent)
     });
     connect(m_recorder, &Recorder::recordingChanged, this, &form_record::askDisk);
     updateState();
+    window_place::restore(this, settings_keys::kRecordGeometry);
 }
 
 form_record::~form_record() = default;
@@ -81,6 +84,13 @@ void form_record::showEvent(QShowEvent *event)
     updateState();
     fitHeight();
     QDialog::showEvent(event);
+}
+
+void form_record::hideEvent(QHideEvent *event)
+{
+    QDialog::hideEvent(event);
+    if (!event->spontaneous())
+        window_place::store(this, settings_keys::kRecordGeometry);
 }
 
 void form_record::changeEvent(QEvent *event)

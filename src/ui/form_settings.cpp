@@ -80,8 +80,7 @@ bool writesOutputRate(const ProductProfile &profile)
 } // namespace
 
 form_settings::form_settings(DeviceSession *session, QWidget *parent)
-    : QDialog(parent), m_ui(std::make_unique<Ui::form_settings>()), m_session(session),
-      m_commands(&session->commands())
+    : QDialog(parent), m_ui(std::make_unique<Ui::form_settings>()), m_session(session), m_commands(&session->commands())
 {
     m_ui->setupUi(this);
     for (QLabel *label : {m_ui->LBL_product, m_ui->LBL_model, m_ui->LBL_build, m_ui->LBL_uuid}) {

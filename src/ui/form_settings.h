@@ -71,7 +71,7 @@ private:
 
     std::unique_ptr<Ui::form_settings> m_ui;
     DeviceSession *m_session;
-    CommandSession *m_commands; ///< the session's
+    CommandSession *m_commands;                       ///< the session's
     QList<QPushButton *> m_hotkeyButtons;             ///< one per row of the hotkey table
     QHash<ProductKey, SettingsSaveRequest> m_choices; ///< what the user chose last, for as long as the program runs
     ProductKey m_shownKey = ProductKey::None;

@@ -1,6 +1,9 @@
 #include "ui/main_actions.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QMainWindow>
 #include <QRegularExpression>
 #include <QToolButton>
@@ -11,6 +14,8 @@
 #include "ui_form_base.h"
 
 namespace {
+
+constexpr int kIconSize = 72;
 
 /// A menu's text as a button shows it: without mnemonic, which some languages put at the end in brackets, and dots.
 QString toolbarText(QString text)
@@ -42,10 +47,11 @@ MainActions::MainActions(QMainWindow *window, Ui::form_base *ui, DeviceSession *
     m_connectButton->setFocusPolicy(Qt::StrongFocus);
     ui->toolbar->addWidget(m_connectButton);
     ui->toolbar->addSeparator();
-    ui->toolbar->addActions(
-        {ui->action_export_data, m_dashboard, ui->actionFFT_Chart, ui->action3D_view, m_gateway});
+    ui->toolbar->addActions({ui->action_export_data, m_dashboard, ui->actionFFT_Chart, ui->action3D_view, m_gateway});
     ui->toolbar->addSeparator();
     ui->toolbar->addActions({ui->actionDevice_Settiing, ui->action_firmware_update});
+    ui->label_icon->setPixmap(QApplication::windowIcon().pixmap(kIconSize, kIconSize));
+    ui->label_folder->setVisible(!QFileInfo(QDir::currentPath()).isWritable());
     connect(&session->dispatcher(), &StreamDispatcher::streamSnapshotChanged, this,
             [this](const StreamSnapshot &snapshot) {
                 m_gateway->setEnabled(snapshot.transport_role == TransportRole::WirelessGateway);
@@ -87,4 +93,9 @@ void MainActions::retranslate()
     }
     m_dashboard->setIconText(tr("Waves")); // short ones for the toolbar
     m_gateway->setIconText(tr("Gateway"));
+    m_ui->label_welcome->setText(
+        tr("Plug in a module or a gateway, press <b>Open port</b> (%1) and choose its serial port.")
+            .arg(shortcutText(m_ui->action_serial_open)));
+    m_ui->label_folder->setText(
+        tr("The folder %1 cannot be written: settings and logs of this run are not kept.").arg(QDir::currentPath()));
 }

@@ -13,7 +13,7 @@ class form_base;
 }
 
 /// Actions of the main window beyond what its layout holds: the dashboards' actions, the toolbar with the button that
-/// opens or closes the port, tooltips, and what the session allows.
+/// opens or closes the port, tooltips, what the session allows, and the first page's texts about them.
 class MainActions : public QObject
 {
     Q_OBJECT

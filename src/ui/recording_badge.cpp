@@ -20,9 +20,8 @@ void RecordingBadge::refresh()
     setVisible(m_recorder->isRecording() || trouble);
     if (isHidden())
         return;
-    const QString text = trouble
-                             ? tr("Recording: trouble")
-                             : tr("Recording %1").arg(recording_text::elapsed(m_recorder->elapsedMs()));
+    const QString text =
+        trouble ? tr("Recording: trouble") : tr("Recording %1").arg(recording_text::elapsed(m_recorder->elapsedMs()));
     if (QToolButton::text() != text)
         setText(text);
 }

@@ -29,6 +29,7 @@ void TraceBuffer::advance(qint64 nowMs)
 void TraceBuffer::clear()
 {
     m_buckets = {};
+    m_newest = 0; // the next sample may come on another clock
 }
 
 const TraceBuffer::Extent &TraceBuffer::at(int channel, int age) const

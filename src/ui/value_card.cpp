@@ -28,6 +28,7 @@ ValueCard::ValueCard(QList<Channel> channels, Format format, QWidget *parent)
     : QWidget(parent), m_channels(std::move(channels)), m_format(format)
 {
     Q_ASSERT(m_channels.size() <= TraceBuffer::kChannels);
+    setAttribute(Qt::WA_OpaquePaintEvent); // else everything beneath is painted too, each time
     updateMetrics();
     setAbsent();
 }
@@ -171,13 +172,19 @@ QSize ValueCard::sizeHint() const
 
 void ValueCard::paintEvent(QPaintEvent *event)
 {
-    // The values change fifty times a second, the trace twenty times: only what changed is drawn.
+    // Values and trace change many times a second: only what changed is drawn.
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(theme::kLine);
-    painter.setBrush(theme::kSurface);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), theme::kGrid, theme::kGrid);
-    paintHeader(painter);
+    const QRect header(0, 0, width(), rowsArea().top());
+    if (event->rect().intersects(header) || !rect().adjusted(1, 1, -1, -1).contains(event->rect())) {
+        painter.fillRect(rect(), theme::kBackground);
+        painter.setPen(theme::kLine);
+        painter.setBrush(theme::kSurface);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), theme::kGrid, theme::kGrid);
+        paintHeader(painter);
+    } else {
+        painter.fillRect(event->rect(), theme::kSurface);
+    }
 
     const double fullScale = range();
     if (event->region().intersects(rowsArea())) {
@@ -252,7 +259,7 @@ void ValueCard::paintTrace(QPainter &painter, const QRect &area, double range) c
             continue;
         QPolygonF line;
         line.reserve(2 * TraceBuffer::kBuckets);
-        painter.setPen(QPen(m_channels.at(channel).color, 1.25));
+        painter.setPen(QPen(m_channels.at(channel).color, 1)); // a wider one would be outlined, at many times the cost
         for (int age = TraceBuffer::kBuckets - 1; age >= 0; --age) {
             const TraceBuffer::Extent &extent = m_trace.at(channel, age);
             if (extent.isEmpty())

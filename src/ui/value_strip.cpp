@@ -22,6 +22,7 @@ QString captionText(const ValueStrip::Cell &cell)
 ValueStrip::ValueStrip(QWidget *parent) : QWidget(parent)
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setAttribute(Qt::WA_OpaquePaintEvent); // else everything beneath is painted too, each time
 }
 
 void ValueStrip::setCells(const QList<Cell> &cells)
@@ -77,9 +78,10 @@ void ValueStrip::changeEvent(QEvent *event)
 
 void ValueStrip::paintEvent(QPaintEvent *)
 {
+    QPainter painter(this);
+    painter.fillRect(rect(), theme::kSurface);
     if (m_cells.isEmpty())
         return;
-    QPainter painter(this);
     const QFont valueFont = theme::fixedPitchFont(font().pointSizeF() + 2);
     const int captionHeight = fontMetrics().height();
     const double spare = double(width() - sizeHint().width()) / double(m_cells.size());

@@ -4,7 +4,8 @@
 #include <QList>
 #include <QWidget>
 
-/// A row of captions with a value under each: the summary row and the angles. Cells share spare width equally.
+/// A row of captions with a value under each, on a card: the summary row and the angles. Cells share spare width
+/// equally.
 class ValueStrip : public QWidget
 {
     Q_OBJECT

@@ -152,9 +152,10 @@ void form_updater::on_BTN_restart_clicked()
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     const bool restarted = m_session->restartDevice();
     QGuiApplication::restoreOverrideCursor();
-    showStatus(restarted ? tr("The device restarts with the firmware that it has.")
-                         : tr("The bootloader did not confirm the restart. Unplug the device and plug it in again if no "
-                              "data come."),
+    showStatus(restarted
+                   ? tr("The device restarts with the firmware that it has.")
+                   : tr("The bootloader did not confirm the restart. Unplug the device and plug it in again if no "
+                        "data come."),
                !restarted);
 }
 
@@ -200,9 +201,10 @@ bool form_updater::load_hex_file()
 
 void form_updater::on_BTN_connect_clicked()
 {
-    if (isDownloading())
+    if (isDownloading() || m_connecting)
         return;
     reset_ui_state();
+    m_connecting = true;
     for (QPushButton *button : {m_ui->BTN_open_file, m_ui->BTN_connect, m_ui->BTN_download, m_ui->BTN_restart})
         button->setEnabled(false);
     log(tr("\n--- Connecting to bootloader ---\n"));
@@ -221,6 +223,7 @@ void form_updater::on_BTN_connect_clicked()
     }
     // Clicks of an impatient user during the wait: the buttons are still disabled.
     QCoreApplication::processEvents();
+    m_connecting = false;
     lookAtImage();
     update_button_states();
     if (connected)
@@ -302,28 +305,32 @@ void form_updater::onBootloaderDownloadFinished(bool ok)
 
 void form_updater::update_button_states()
 {
+    if (m_connecting)
+        return;
+    const bool hasBootloader = m_session->isBootloaderConnected(); // also while it takes a download
     const QString busy = isDownloading() ? tr("A download is running.") : QString();
     for (QPushButton *button : {m_ui->BTN_open_file, m_ui->BTN_connect, m_ui->BTN_close})
         button->setEnabled(!isDownloading());
     for (QPushButton *button : {m_ui->BTN_download, m_ui->BTN_restart})
         button->setEnabled(isConnected() && !isDownloading());
     m_ui->BTN_stop->setEnabled(isDownloading() && !m_stopping);
-    m_ui->BTN_connect->setText(isConnected() ? tr("Connected") : tr("Connect"));
-    m_ui->BTN_connect->setProperty("connected", isConnected());
-    m_ui->BTN_connect->setStyleSheet(isConnected() ? QLatin1String(kConnectedStyle) : QString());
+    m_ui->BTN_connect->setText(hasBootloader ? tr("Connected") : tr("Connect"));
+    m_ui->BTN_connect->setProperty("connected", hasBootloader);
+    m_ui->BTN_connect->setStyleSheet(hasBootloader ? QLatin1String(kConnectedStyle) : QString());
 
     m_ui->BTN_open_file->setToolTip(isDownloading() ? busy : tr("Chooses the image, an Intel HEX file"));
     m_ui->BTN_connect->setToolTip(isDownloading() ? busy : tr("Restarts the device into its bootloader"));
     m_ui->BTN_close->setToolTip(busy);
     m_ui->BTN_download->setToolTip(isDownloading() ? busy
                                    : isConnected() ? tr("Erases the device's firmware and writes the image")
-                                                 : tr("Press Connect first."));
+                                                   : tr("Press Connect first."));
     m_ui->BTN_restart->setToolTip(isDownloading() ? busy
-                                  : isConnected() ? tr("Ends the bootloader: the device starts the firmware that it has")
-                                                : tr("No bootloader is connected."));
-    m_ui->BTN_stop->setToolTip(m_stopping      ? tr("The download is being stopped.")
+                                  : isConnected()
+                                      ? tr("Ends the bootloader: the device starts the firmware that it has")
+                                      : tr("No bootloader is connected."));
+    m_ui->BTN_stop->setToolTip(m_stopping        ? tr("The download is being stopped.")
                                : isDownloading() ? tr("Stops the download; asks first")
-                                               : tr("No download is running."));
+                                                 : tr("No download is running."));
     m_ui->LBL_bootloader->setText(isConnected() || isDownloading()
                                       ? updater_text::facts(m_facts)
                                       : tr("Not connected. Connect restarts the device; this takes up to 4 s."));

@@ -81,6 +81,7 @@ private:
     DeviceSession *m_session;
     FirmwareImage m_image;
     QuestionBox m_question;
+    bool m_connecting = false; ///< the session connects; all that could be pressed is disabled
     bool m_wasConnected = false;
     bool m_wasDownloading = false;
     bool m_stopping = false; ///< the running download is to be stopped

@@ -14,6 +14,8 @@ public:
     /// Takes the next sample. A value that is not finite would stay in the output for ever; callers leave it out.
     void update(double x) { m_output = (m_output - x) * m_coefficient + x; }
     double getOutput() const { return m_output; }
+    /// Back to 0, with the same cutoff.
+    void restart() { m_output = 0; }
 
 private:
     double m_coefficient;

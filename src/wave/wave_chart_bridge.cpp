@@ -88,6 +88,8 @@ void WaveChartBridge::pushSample(const float *values, int n, unsigned int timest
     m_model.pushSample(values, std::min(n, channelCount()), timestampMs);
     if (m_pendingBreak)
         placePendingBreak();
+    while (!m_breakMarks.isEmpty() && m_breakMarks.constFirst().timeSec < newestTimeSec() + xHistoryMin())
+        m_breakMarks.removeFirst();
     if (!m_model.shouldRedraw())
         return;
     if (m_observed && !m_updatePosted) {
@@ -166,18 +168,13 @@ void WaveChartBridge::restart()
 
 void WaveChartBridge::markBreak(StreamBreak kind)
 {
-    for (int channel = 0; channel < channelCount(); ++channel) {
-        if (m_model.filterEnabled(channel))
-            m_model.rebuildFilter(channel);
-    }
+    m_model.restartFilters();
     if (m_model.hasData())
         m_pendingBreak = kind;
 }
 
 void WaveChartBridge::placePendingBreak()
 {
-    const double oldestSec = newestTimeSec() - m_model.historyDurationSec();
-    m_breakMarks.removeIf([oldestSec](const BreakMark &mark) { return mark.timeSec < oldestSec; });
     if (m_breakMarks.size() >= kMaxBreakMarks)
         m_breakMarks.removeFirst();
     m_breakMarks.append({newestTimeSec(), *m_pendingBreak});

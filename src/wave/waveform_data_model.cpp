@@ -141,6 +141,14 @@ void WaveformDataModel::rebuildFilter(int channel)
                                                  1.0 / double(m_frameRate));
 }
 
+void WaveformDataModel::restartFilters()
+{
+    for (const auto &filter : m_filters) {
+        if (filter)
+            filter->restart();
+    }
+}
+
 bool WaveformDataModel::shouldRedraw() const
 {
     return m_samplesSinceRedraw >= (m_frameRate < kThrottledRate ? 1 : m_frameRate / kRedrawsPerSecond);

@@ -54,6 +54,8 @@ public:
     double filterCutoff(int channel) const;
     /// Builds the channel's filter from cutoff and frame rate, its output at 0; none when either is 0.
     void rebuildFilter(int channel);
+    /// Sets the output of all filters back to 0; their coefficients stay.
+    void restartFilters();
 
     /// Enough samples arrived since markRedrawn(): one below 60 samples/s, else a thirtieth of a second's worth.
     bool shouldRedraw() const;

@@ -71,5 +71,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestAppLanguageSpec)
+QTEST_GUILESS_MAIN(TestAppLanguageSpec)
 #include "tst_app_language_spec.moc"

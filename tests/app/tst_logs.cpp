@@ -38,6 +38,16 @@ private:
     QtMessageHandler m_before;
 };
 
+/// A program that makes its main window twice.
+int startTwice()
+{
+    for (const char *message : {"first", "second"}) {
+        AppLog::init();
+        AppLog::logfile(QtInfoMsg, QLatin1String(message));
+    }
+    return 0;
+}
+
 /// A program that ends with a fatal message, with the log in the working folder or without one.
 int dieOfAFatalMessage(bool withFile)
 {
@@ -80,27 +90,32 @@ private slots:
         QCOMPARE(text.remove(stamp), lines.arg(message));
     }
 
-    void initEmptiesTheAppLog()
+    void firstInitEmptiesTheAppLog_data()
     {
-        AppLog::init(); // without a file nothing is reported and none is made
-        QVERIFY(!QFile::exists(kAppLog));
-        AppLog::logfile(QtInfoMsg, QStringLiteral("run before"));
-        QTest::ignoreMessage(QtDebugMsg, "Old log file was removed.");
-        AppLog::init();
-        QCOMPARE(textOf(kAppLog), QString());
+        QTest::addColumn<char>("before"); // what the program finds: nothing, a log, a folder of that name
+        QTest::addColumn<QByteArray>("said");
+        QTest::newRow("nothing") << 'n' << QByteArray();
+        QTest::newRow("log") << 'l' << QByteArray("Old log file was removed.\n");
+        QTest::newRow("folder of that name") << 'f' << QByteArray();
+        QTest::newRow("no working folder") << 'x' << QByteArray();
     }
 
-    void unwritableAppLog()
+    /// Permissions would not stop a test that runs as root.
+    void firstInitEmptiesTheAppLog()
     {
-        // A folder of that name, then no working folder at all: permissions would not stop a test that runs as root.
-        QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
-        QVERIFY(QDir().mkdir(kAppLog));
-        for (int round = 0; round < 2; ++round) {
-            AppLog::init();
-            AppLog::logfile(QtInfoMsg, QStringLiteral("lost"));
-            QCOMPARE(textOf(kAppLog), QString());
-            QVERIFY(round == 1 || m_folder->remove());
-        }
+        QFETCH(char, before);
+        if (before == 'l')
+            AppLog::logfile(QtInfoMsg, QStringLiteral("run before"));
+        QVERIFY(before != 'f' || QDir().mkdir(kAppLog));
+        QVERIFY(before != 'x' || m_folder->remove());
+        QProcess child;
+        child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--start-twice")});
+        QVERIFY(child.waitForFinished());
+        QVERIFY(child.exitStatus() == QProcess::NormalExit && child.exitCode() == 0);
+        QTEST(child.readAllStandardError(), "said");
+        static const QRegularExpression stamp(QStringLiteral("\\(.{19}\\) "));
+        const bool isKept = before == 'n' || before == 'l';
+        QCOMPARE(textOf(kAppLog).remove(stamp), isKept ? QStringLiteral("[I]: first\r\n[I]: second\r\n") : QString());
     }
 
     void messageLines()
@@ -196,6 +211,8 @@ int main(int argc, char *argv[])
     const QByteArray option(argc > 1 ? argv[1] : "");
     if (option.startsWith("--fatal"))
         return dieOfAFatalMessage(option == "--fatal-with-file");
+    if (option == "--start-twice")
+        return startTwice();
     QCoreApplication application(argc, argv);
     TestLogs test;
     return QTest::qExec(&test, argc, argv);

@@ -7,17 +7,20 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <qtestsupport_core.h> // qWaitFor() for programs that are no tests
 
+#include "session/device_session.h"
 #include "ui/form_base.h"
 #include "ui/form_com_select.h"
 #include "ui/form_settings.h"
 #include "ui/sensor_data_panel.h"
 
-/// Opens a port as a user does: the action, the path typed into the dialog, the button. Returns when identification has
-/// ended.
+/// Opens a port as a user does: the action, the path typed into the dialog, the button. Returns when the connection is
+/// identified, silent or gone; after 15 s in any case.
 inline void openPort(const form_base &window, const QString &path, int baud = 921600)
 {
     window.findChild<QAction *>(QStringLiteral("action_serial_open"))->trigger();
@@ -29,6 +32,12 @@ inline void openPort(const form_base &window, const QString &path, int baud = 92
         button->click();
     else
         dialog->reject();
+    const QPointer<DeviceSession> session(&window.session());
+    const auto isSettled = [&session] {
+        return session == nullptr
+               || (session->state() != SessionState::Opening && session->state() != SessionState::Identifying);
+    };
+    (void)QTest::qWaitFor(isSettled, 15000);
 }
 
 /// A user's desk: the real main window in a working folder of its own, and what the user does and sees there.
@@ -47,7 +56,7 @@ public:
     }
     Q_DISABLE_COPY_MOVE(Desk)
 
-    /// Ends the program and starts it anew in the working folder.
+    /// Closes the main window and makes a new one, in the working folder. The log goes on.
     void restart()
     {
         window.reset();
@@ -60,6 +69,7 @@ public:
     QString label(const char *name) const { return find<QLabel>(name)->text().remove(QChar(0x200B)); }
     QString panel() const { return window->findChild<SensorDataPanel *>()->text(); }
     QMessageBox *errorBox() const { return window->findChild<QMessageBox *>(); }
+    /// The settings window; null before it was first asked for.
     form_settings *settings() const { return window->findChild<form_settings *>(); }
     bool isOpen() const { return find<QWidget>("page_live")->isVisible(); }
 

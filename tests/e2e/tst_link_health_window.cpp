@@ -6,6 +6,7 @@
 #include "app/app_language_manager.h"
 #include "app/settings_keys.h"
 #include "e2e/desk.h"
+#include "session/link_monitor.h"
 #include "support/simulator_process.h"
 #include "ui/form_link_health.h"
 
@@ -99,7 +100,7 @@ private slots:
             QVERIFY2(panel.isWarning(name), name);
 
         QVERIFY(loggedHealth(desk).isEmpty());
-        auto *timer = desk.window->findChild<QTimer *>(QStringLiteral("timer_link_log"));
+        auto *timer = desk.window->session().linkMonitor().findChild<QTimer *>(QStringLiteral("timer_link_log"));
         QCOMPARE(timer->interval(), 60000);
         timer->setInterval(10); // the same minute after minute, while the port tells news each second
         QTRY_VERIFY(!loggedHealth(desk).isEmpty());

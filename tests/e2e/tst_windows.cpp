@@ -93,8 +93,8 @@ private slots:
         desk.find<QAction>("action_sensor_dashboard")->trigger();
         auto *dashboard = openWindow<form_sensor_dashboard>();
         QVERIFY(dashboard != nullptr);
-        auto *recorder = desk.window->findChild<Recorder *>();
-        auto *dispatcher = desk.window->findChild<StreamDispatcher *>();
+        Recorder *recorder = &desk.window->session().recorder();
+        const StreamDispatcher *dispatcher = &desk.window->session().dispatcher();
         int received = 0;
         recorder->start(QDir::currentPath(), QStringLiteral("data"));
         connect(dispatcher, &StreamDispatcher::singleNodeFrame, this, [&received] { ++received; });
@@ -262,7 +262,7 @@ private slots:
             QTimer::singleShot(3000, desk.window.get(), closeAll);
             QElapsedTimer clock;
             clock.start();
-            QVERIFY2(!desk.settings()->get_prod_info().isEmpty(), name);
+            QVERIFY2(desk.window->session().identify() && desk.window->session().device().valid, name);
             QVERIFY2(clock.elapsed() < 2500, name);
             QVERIFY2(isOpen, name);
             closeAll();
@@ -302,7 +302,7 @@ private slots:
                 .filter(script);
         };
         QTRY_VERIFY(strangers(english).size() > 10);
-        auto *dispatcher = desk.window->findChild<StreamDispatcher *>();
+        const StreamDispatcher *dispatcher = &desk.window->session().dispatcher();
         for (const char *code : {"JA", "KO", "CN", "TC"}) {
             const quint64 before = dispatcher->snapshot().seq;
             QVERIFY(AppLanguageManager::instance().setLanguage(QLatin1String(code)));
@@ -334,17 +334,20 @@ private slots:
             QTest::mouseClick(updater->findChild<QPushButton *>(QLatin1String(name)), Qt::LeftButton);
         };
         press("BTN_connect");
-        QTRY_VERIFY(updater->isBootloaderConnected());
-        QVERIFY(!desk.find<QAction>("actionDevice_Settiing")->isEnabled());
+        const DeviceSession &session = desk.window->session();
+        QVERIFY(session.isBootloaderConnected());
+        desk.find<QAction>("actionDevice_Settiing")->trigger();
+        const auto *identify = desk.settings()->findChild<QPushButton *>(QStringLiteral("BTN_identify"));
+        QVERIFY(!identify->isEnabled() && identify->toolTip().contains(QLatin1String("bootloader")));
         press("BTN_download");
-        QTRY_VERIFY(updater->isDownloadRunning());
+        QVERIFY(session.state() == SessionState::Updating);
         QVERIFY(!desk.find<QAction>("action_serial_stop")->isEnabled());
         QVERIFY(!desk.window->close());
         QVERIFY(desk.isOpen());
-        QTRY_VERIFY_WITH_TIMEOUT(!updater->isDownloadRunning(), 30000);
+        QTRY_VERIFY_WITH_TIMEOUT(session.state() != SessionState::Updating, 30000);
         QVERIFY(desk.find<QAction>("action_serial_stop")->isEnabled());
         QTRY_COMPARE_WITH_TIMEOUT(desk.label("label_product"), QStringLiteral("MZ221"), 40000);
-        QVERIFY(desk.find<QAction>("actionDevice_Settiing")->isEnabled());
+        QTRY_VERIFY(identify->isEnabled());
     }
 };
 

@@ -329,5 +329,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestFftChartBridge)
+QTEST_GUILESS_MAIN(TestFftChartBridge)
 #include "tst_fft_chart_bridge.moc"

@@ -71,6 +71,19 @@ public:
         }
     }
 
+    /// Size of the command or packet that the bytes begin with; 0 or less when it is not complete.
+    static qsizetype packetSize(const QByteArray &bytes)
+    {
+        if (bytes.startsWith("AT"))
+            return bytes.indexOf('\n') + 1;
+        if (bytes.size() < 2 || quint8(bytes.at(1)) == 0xA6)
+            return bytes.size() < 2 ? 0 : 2;
+        if (bytes.size() < 6)
+            return 0;
+        const qsizetype size = 6 + qFromLittleEndian<quint16>(bytes.constData() + 2);
+        return bytes.size() < size ? 0 : size;
+    }
+
     ~BootloaderPeer() = default;
     Q_DISABLE_COPY_MOVE(BootloaderPeer)
 
@@ -83,18 +96,6 @@ private:
             for (qsizetype size = 0; (size = packetSize(pending)) > 0; pending.remove(0, size))
                 answer(pending.left(size));
         }
-    }
-
-    static qsizetype packetSize(const QByteArray &bytes)
-    {
-        if (bytes.startsWith("AT"))
-            return bytes.indexOf('\n') + 1;
-        if (bytes.size() < 2 || quint8(bytes.at(1)) == 0xA6)
-            return bytes.size() < 2 ? 0 : 2;
-        if (bytes.size() < 6)
-            return 0;
-        const qsizetype size = 6 + qFromLittleEndian<quint16>(bytes.constData() + 2);
-        return bytes.size() < size ? 0 : size;
     }
 
     void answer(const QByteArray &packet)

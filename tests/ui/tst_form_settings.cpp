@@ -10,7 +10,8 @@
 
 #include "app/theme.h"
 #include "device/command_broker.h"
-#include "link/kv_uart_port.h"
+#include "device/command_session.h"
+#include "session/device_session.h"
 #include "support/pty_pair.h"
 #include "ui/form_about.h"
 #include "ui/form_com_select.h"
@@ -54,43 +55,36 @@ private:
     QByteArray m_line;
 };
 
-/// The dialog on the screen with a device on an open port, identified, as the main window sets it up.
+/// The dialog on the screen with a device on an open port, identified.
 struct Bench
 {
     Peer peer;
-    KvUartPort port;
-    std::unique_ptr<CommandBroker> broker = std::make_unique<CommandBroker>();
-    std::unique_ptr<form_settings> dialog = std::make_unique<form_settings>();
+    std::unique_ptr<DeviceSession> session = std::make_unique<DeviceSession>();
+    std::unique_ptr<form_settings> dialog = std::make_unique<form_settings>(session.get());
 
     explicit Bench(const QByteArray &model = "MZ221 V1.6")
     {
-        broker->attachPort(&port);
-        dialog->set_broker(broker.get());
-        dialog->set_baud(kBaud);
-        open(peer.path());
+        peer.infoReply = model + "\r\nUUID: 1\r\n";
+        QVERIFY(session->open(peer.path(), kBaud));
         dialog->show();
         QVERIFY(QTest::qWaitForWindowExposed(dialog.get()));
         QApplication::setActiveWindow(dialog.get()); // there may be no window manager to do it
-        identify(model);
-    }
-    void open(const QString &path)
-    {
-        port.openUART(path, kBaud);
-        QTRY_VERIFY(port.isOpen());
-        dialog->set_connected(true);
-    }
-    void close()
-    {
-        port.closeUART();
-        dialog->set_connected(false);
+        QTRY_VERIFY(session->device().valid);
+        waitForTheEnd();
     }
     void identify(const QByteArray &model)
     {
         peer.infoReply = model + "\r\nUUID: 1\r\n";
         QVERIFY(!dialog->get_prod_info().isEmpty());
-        QTRY_VERIFY(peer.received.endsWith("AT+EOUT=1\r\n"));
+        waitForTheEnd();
+    }
+    /// A reading ends with the output resumed.
+    void waitForTheEnd()
+    {
+        QTRY_VERIFY(peer.received.endsWith("AT+EOUT=1\r\n") && !session->commands().isBusy());
         peer.received.clear();
     }
+    bool isIdentified() const { return session->device().valid; }
     template <typename T> T *child(const char *name) const { return dialog->findChild<T *>(QLatin1String(name)); }
     QPushButton *button(const char *name) const { return child<QPushButton>(name); }
     void type(const char *field, const char *text)
@@ -111,7 +105,7 @@ struct Bench
     {
         const auto once = Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection);
         QObject::connect(
-            broker.get(), &CommandBroker::serialSend, &peer, [action] { action(); }, once);
+            session->findChild<CommandBroker *>(), &CommandBroker::serialSend, &peer, [action] { action(); }, once);
     }
 };
 
@@ -211,7 +205,7 @@ private slots:
             QVERIFY(bench.button("BTN_identify")->toolTip().contains(QLatin1String("Waiting for the device")));
             QVERIFY(bench.status().contains(QLatin1String("Waiting for the device: AT+INFO")));
             QVERIFY(bench.dialog->get_prod_info().isEmpty());
-            QVERIFY(bench.dialog->detectedDevice().valid);
+            QVERIFY(bench.session->commands().device().valid);
         });
         bench.press("BTN_identify");
         QVERIFY(looked);
@@ -222,7 +216,7 @@ private slots:
         bench.peer.infoReply = QByteArray(500, '\xF8');
         bench.press("BTN_identify");
         QVERIFY(bench.status().contains(QLatin1String("baud rate may be wrong")));
-        QVERIFY(!bench.dialog->detectedDevice().valid);
+        QVERIFY(!bench.session->commands().device().valid);
     }
 
     void resumesAgainWhenTheCommandGotLost()
@@ -265,17 +259,16 @@ private slots:
             Peer other;
             Bench bench;
             bench.duringTheWait([&] {
-                bench.close();
-                bench.dialog->clear_device();
+                bench.session->close();
                 if (reopened)
-                    bench.open(other.path());
+                    bench.session->open(other.path(), kBaud);
             });
             QVERIFY(bench.dialog->get_prod_info().isEmpty());
-            QVERIFY(!bench.dialog->detectedDevice().valid);
-            QCOMPARE(bench.button("BTN_identify")->isEnabled(), reopened);
+            QVERIFY(!bench.isIdentified());
+            QTRY_COMPARE(bench.button("BTN_identify")->isEnabled(), reopened);
             // The commands that were left over have quieted the new device: it must not stay so.
             QTRY_COMPARE(other.received.endsWith("AT+EOUT=1\r\n"), reopened);
-            QCOMPARE(bench.dialog->get_prod_info().isEmpty(), !reopened);
+            QTRY_COMPARE(bench.isIdentified(), reopened);
         }
     }
 
@@ -284,27 +277,28 @@ private slots:
         Peer other;
         Bench bench("KV080 V1");
         bench.duringTheWait([&] {
-            bench.close();
-            bench.open(other.path());
+            bench.session->close();
+            bench.session->open(other.path(), kBaud);
         });
         bench.press("BTN_save");
-        QVERIFY(!bench.dialog->get_prod_info().isEmpty());
+        QTRY_VERIFY(bench.isIdentified());
         QVERIFY2(!other.received.contains("SAVECONFIG") && !other.received.contains("RST"), other.received);
     }
 
     void survivesDestructionInsideAWait()
     {
         for (int i = 0; i < 8; ++i) {
-            const bool dialogDies = i % 2 == 0; // else the broker
+            const bool sessionDies = i % 2 == 0; // after the dialog, as at the end of the program
             Bench bench("KV080 V1");
-            bench.duringTheWait([&] { dialogDies ? bench.dialog.reset() : bench.broker.reset(); });
+            bench.duringTheWait([&] {
+                bench.dialog.reset();
+                if (sessionDies)
+                    bench.session.reset();
+            });
             const char *const names[] = {"BTN_identify", "BTN_save", "BTN_stopOutput", "BTN_resumeOutput"};
             bench.button(names[i / 2])->click();
-            QVERIFY2((bench.dialog == nullptr) == dialogDies, names[i / 2]);
-            if (!dialogDies) {
-                QVERIFY(bench.dialog->get_prod_info().isEmpty());
-                bench.button("BTN_save")->click();
-            }
+            QVERIFY2(bench.dialog == nullptr && (bench.session == nullptr) == sessionDies, names[i / 2]);
+            QTRY_VERIFY2(sessionDies || !bench.session->commands().isBusy(), names[i / 2]);
         }
     }
 
@@ -326,10 +320,9 @@ private slots:
 
     void saysWhenNothingIsConnected()
     {
-        form_settings dialog;
-        CommandBroker broker;
-        dialog.set_broker(&broker);
-        QSignalSpy sent(&broker, &CommandBroker::serialSend);
+        DeviceSession session;
+        form_settings dialog(&session);
+        QSignalSpy sent(session.findChild<CommandBroker *>(), &CommandBroker::serialSend);
         QVERIFY(dialog.get_prod_info().isEmpty());
         const auto *copy = dialog.findChild<QPushButton *>(QStringLiteral("BTN_copy"));
         for (QPushButton *button : dialog.findChildren<QPushButton *>()) {

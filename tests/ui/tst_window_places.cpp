@@ -8,12 +8,10 @@
 
 #include "app/settings_keys.h"
 #include "attitude/form_threed.h"
-#include "link/kv_uart_port.h"
+#include "session/device_session.h"
 #include "ui/form_com_select.h"
 #include "ui/form_link_health.h"
-#include "ui/form_record.h"
 #include "ui/form_settings.h"
-#include "ui/link_monitor.h"
 #include "updater/form_updater.h"
 #include "wave/form_sensor_dashboard.h"
 #include "wave/form_wireless_dashboard.h"
@@ -56,9 +54,7 @@ class TestWindowPlaces : public QObject
     Q_OBJECT
 
     QTemporaryDir m_folder;
-    KvUartPort m_port;
-    form_record m_recorder;
-    LinkMonitor m_monitor{&m_port, &m_recorder};
+    DeviceSession m_session;
 
 private slots:
     void initTestCase() { QVERIFY(QDir::setCurrent(m_folder.path())); }
@@ -68,11 +64,11 @@ private slots:
         const auto make = [](QWidget *widget) { return AnyWindow{std::unique_ptr<QWidget>(widget), nullptr}; };
         const auto view = [](QWindow *window) { return AnyWindow{nullptr, std::unique_ptr<QWindow>(window)}; };
         const std::pair<const char *, std::function<AnyWindow()>> rows[] = {
-            {"settings", [&] { return make(new form_settings); }},
+            {"settings", [&] { return make(new form_settings(&m_session)); }},
             {"port",
              [&] { return make(new form_com_select(nullptr, [] { return QList<port_choice::PortEntry>(); })); }},
-            {"update", [&] { return make(new form_updater); }},
-            {"link health", [&] { return make(new form_link_health(&m_monitor)); }},
+            {"update", [&] { return make(new form_updater(&m_session)); }},
+            {"link health", [&] { return make(new form_link_health(&m_session.linkMonitor())); }},
             {"3D", [&] { return make(new form_threed); }},
             {"sensor dashboard", [&] { return view(new form_sensor_dashboard); }},
             {"gateway dashboard", [&] { return view(new form_wireless_dashboard); }}};

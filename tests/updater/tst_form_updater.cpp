@@ -16,6 +16,7 @@
 #include "app/theme.h"
 #include "link/kboot_protocol.h"
 #include "link/kv_uart_port.h"
+#include "session/device_session.h"
 #include "support/files.h"
 #include "support/hex_file.h"
 #include "support/open_dialog.h"
@@ -43,32 +44,32 @@ bool hasDarkInk(QWidget *widget)
     return countPixels(widget->grab().toImage(), [](const QColor &color) { return qGray(color.rgb()) < 90; }) > 20;
 }
 
-/// The dialog on the screen, with a simulated device on an open port.
+/// The dialog on the screen, with a simulated device on an open port, identified.
 struct Bench
 {
     SimulatorProcess device;
-    KvUartPort port;
-    form_updater dialog;
+    DeviceSession session;
+    form_updater dialog{&session};
 
     // The bootloader waits longer than a busy machine may pause.
     explicit Bench(const QByteArray &hexFile, const QStringList &options = {})
         : device(options + QStringList{QStringLiteral("--bootloader-wait"), QStringLiteral("20000")})
     {
         QVERIFY(writeFile(QDir::current().filePath(QStringLiteral("firmware.hex")), hexFile));
-        dialog.set_serial_instance(&port);
         open();
         dialog.show();
         QVERIFY(QTest::qWaitForWindowExposed(&dialog));
         QApplication::setActiveWindow(&dialog); // there may be no window manager to do it
     }
-    ~Bench() { port.closeUART(); }
 
     void open()
     {
-        port.openUART(device.port(), 921600);
-        QTRY_VERIFY(port.isOpen());
-        dialog.set_connection_open(true);
+        QVERIFY(session.open(device.port(), 921600));
+        QTRY_VERIFY(session.state() == SessionState::Live || session.state() == SessionState::Silent);
     }
+    bool isConnected() const { return session.isBootloaderConnected(); }
+    /// A download has begun and its end is not shown.
+    bool isRunning() const { return log().endsWith(QLatin1String("--- Starting download ---\n")); }
     template <typename T> T *child(const char *name) const { return dialog.findChild<T *>(QLatin1String(name)); }
     QPushButton *button(const char *name) const { return child<QPushButton>(name); }
     void press(const char *name) const { QTest::mouseClick(button(name), Qt::LeftButton); }
@@ -89,7 +90,7 @@ struct Bench
     {
         press("BTN_connect");
         press("BTN_download");
-        return QTest::qWaitFor([this] { return !dialog.isDownloadRunning(); }, kDownloadMs) && isComplete();
+        return QTest::qWaitFor([this] { return !isRunning(); }, kDownloadMs) && isComplete();
     }
     bool isComplete() const { return log().endsWith(QLatin1String("Update complete, image running...\n")); }
     /// The device's flash from its first address on.
@@ -147,12 +148,13 @@ private slots:
 
     void withoutAPath()
     {
-        form_updater dialog;
+        DeviceSession session;
+        form_updater dialog(&session);
         dialog.on_BTN_download_clicked();
         QCOMPARE(dialog.findChild<QPlainTextEdit *>()->toPlainText(),
                  QStringLiteral("\n--- Loading HEX file ---\nNo file selected\nNO IMAGE\n"));
         dialog.on_BTN_connect_clicked(); // no port at all
-        QVERIFY(!dialog.isBootloaderConnected());
+        QVERIFY(!session.isBootloaderConnected());
     }
 
     void remembersThePath()
@@ -184,8 +186,11 @@ private slots:
     {
         const QByteArray image = goodImage(20000);
         Bench bench(hex_file::file(image, 0), {QStringLiteral("--flash-size"), QStringLiteral("64")});
-        QSignalSpy running(&bench.dialog, &form_updater::downloadRunningChanged);
-        QSignalSpy connected(&bench.dialog, &form_updater::bootloaderConnectedChanged);
+        QList<SessionState> states;
+        connect(&bench.session, &DeviceSession::stateChanged, this, [&] {
+            if (states.isEmpty() || states.last() != bench.session.state())
+                states.append(bench.session.state());
+        });
         const QString facts = bench.logOf("BTN_connect");
         QVERIFY2(facts.startsWith(QStringLiteral("\n--- Connecting to bootloader ---\nConnect OK\nPKT SIZE:32\n"
                                                  "FLASH SIZE:64KB\nSDID:")),
@@ -200,7 +205,7 @@ private slots:
         connect(bar, &QProgressBar::valueChanged, this, [&percents](int value) { percents.append(value); });
         bench.press("BTN_download");
         bench.press("BTN_download"); // two quick clicks
-        QVERIFY(bench.dialog.isDownloadRunning());
+        QVERIFY(bench.isRunning());
         for (const char *name : {"BTN_open_file", "BTN_connect", "BTN_download", "BTN_close"})
             QVERIFY2(!bench.button(name)->isEnabled() && !bench.button(name)->toolTip().isEmpty(), name);
         QVERIFY(hasDarkInk(bench.button("BTN_connect"))); // locked, but to be read on its green
@@ -208,7 +213,7 @@ private slots:
         QTest::keyClick(&bench.dialog, Qt::Key_Escape);
         QVERIFY(bench.dialog.isVisible());
         QVERIFY(bench.label("LBL_status").contains(QStringLiteral("has to end first")));
-        QTRY_VERIFY_WITH_TIMEOUT(!bench.dialog.isDownloadRunning(), kDownloadMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!bench.isRunning(), kDownloadMs);
         QVERIFY(
             bench.log().endsWith(QStringLiteral("\n--- Starting download ---\nUpdate complete, image running...\n")));
         QVERIFY(percents.size() > 50 && std::is_sorted(percents.begin(), percents.end()));
@@ -218,8 +223,8 @@ private slots:
         QVERIFY(bench.label("LBL_status")
                     .endsWith(QStringLiteral("0 of 625 packets were sent again. The device restarts "
                                              "with the new firmware.")));
-        QCOMPARE(running, (QList<QVariantList>{{true}, {false}}));
-        QCOMPARE(connected, (QList<QVariantList>{{true}, {false}}));
+        QCOMPARE(states.mid(0, 3),
+                 QList<SessionState>({SessionState::Bootloader, SessionState::Updating, SessionState::Silent}));
         QCOMPARE(bench.button("BTN_connect")->text(), QStringLiteral("Connect"));
         QVERIFY(bench.button("BTN_connect")->styleSheet().isEmpty());
         QVERIFY(!bench.button("BTN_download")->isEnabled());
@@ -247,8 +252,6 @@ private slots:
             return -1;
         };
         Bench bench(hex_file::file(goodImage(20000), 0));
-        QSignalSpy restarts(&bench.dialog, &form_updater::restartRequested);
-        QSignalSpy stops(&bench.dialog, &form_updater::stopRequested);
         const auto offered = [&] {
             return std::pair(bench.button("BTN_restart")->isEnabled(), bench.button("BTN_stop")->isEnabled());
         };
@@ -265,17 +268,21 @@ private slots:
             QCOMPARE(box()->text(),
                      QStringLiteral("The device is still in its bootloader: it sends no data until it restarts."));
             answer(buttonWith(agreed ? QMessageBox::AcceptRole : QMessageBox::RejectRole));
-            QTRY_COMPARE(restarts.count(), agreed ? 1 : 0);
+            QTRY_COMPARE(bench.isConnected(), !agreed);
             QTRY_VERIFY(box() == nullptr);
+            QCOMPARE(bench.device.stat("bootloader"), agreed ? 0 : 1);
             bench.dialog.show();
         }
+        bench.press("BTN_connect");
         bench.dialog.close();
         bench.dialog.show();
         QVERIFY(box() == nullptr); // it is answered by coming back
         bench.press("BTN_restart");
-        QCOMPARE(restarts.count(), 2);
+        QVERIFY(!bench.isConnected() && bench.label("LBL_status").startsWith(QStringLiteral("The device restarts")));
+        QCOMPARE(bench.device.stat("bootloader"), 0);
+        QCOMPARE(offered(), std::pair(false, false));
 
-        QVERIFY(bench.device.control("bootloader abort 600:2")); // the download ends with a failure, stopped or not
+        bench.press("BTN_connect");
         bench.press("BTN_download");
         QCOMPARE(offered(), std::pair(false, true));
         for (const bool agreed : {false, true}) {
@@ -288,21 +295,22 @@ private slots:
                 answer(buttonWith(QMessageBox::AcceptRole));
             else
                 QTest::keyClick(box(), Qt::Key_Return); // the harmless answer is the default
-            QTRY_COMPARE(stops.count(), agreed ? 1 : 0);
+            QVERIFY(bench.isRunning());
+            QTRY_VERIFY(box() == nullptr);
+            QCOMPARE(offered(), std::pair(false, !agreed));
         }
-        QCOMPARE(offered(), std::pair(false, false));
-        QTRY_VERIFY_WITH_TIMEOUT(!bench.dialog.isDownloadRunning(), kDownloadMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!bench.isRunning(), kDownloadMs);
         QVERIFY(bench.label("LBL_status").startsWith(QStringLiteral("The download was stopped. ")));
         QVERIFY(bench.label("LBL_status").endsWith(QStringLiteral("press Connect, then Download.")));
+        QVERIFY(bench.device.stat("packets") < 625);
         bench.press("BTN_connect");
         bench.press("BTN_download");
         bench.press("BTN_stop");
-        QTRY_VERIFY_WITH_TIMEOUT(!bench.dialog.isDownloadRunning(), kDownloadMs);
-        QVERIFY(box() == nullptr); // there is nothing left to stop
+        QTRY_VERIFY_WITH_TIMEOUT(!bench.isRunning(), kDownloadMs);
+        QVERIFY(box() == nullptr && bench.isComplete()); // there is nothing left to stop
         bench.press("BTN_connect");
-        bench.dialog.setBootloaderLeft();
+        QVERIFY(bench.session.restartDevice()); // by another window
         QCOMPARE(offered(), std::pair(false, false));
-        QVERIFY(!bench.dialog.isBootloaderConnected());
     }
 
     /// The dialog for the file stands beside the window: the call returns at once.
@@ -339,7 +347,7 @@ private slots:
                     bench.button(name), new QMouseEvent(type, at, at, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier));
         };
         connect(
-            bench.port.kboot(), &KbootProtocol::downloadAdvanced, &bench.port,
+            bench.session.port().kboot(), &KbootProtocol::downloadAdvanced, &bench.session.port(),
             [&](BootloaderStep step) {
                 if (step == BootloaderStep::Ping) {
                     post("BTN_connect");
@@ -350,7 +358,7 @@ private slots:
         bench.press("BTN_connect");
         QCoreApplication::processEvents();
         QCOMPARE(bench.log().count(QStringLiteral("--- Connecting")), 1);
-        QVERIFY(bench.dialog.isBootloaderConnected() && !bench.dialog.isDownloadRunning());
+        QVERIFY(bench.isConnected() && !bench.isRunning());
     }
 
     void faults()
@@ -406,27 +414,24 @@ private slots:
     {
         const QByteArray image = goodImage(20000);
         Bench bench(hex_file::file(image, 0));
-        for (const bool unplug : {true, false}) {
-            bench.press("BTN_connect");
-            bench.press("BTN_download");
-            QTRY_VERIFY(bench.child<QProgressBar>("PB_progress")->value() > 0);
-            QVERIFY(!unplug || bench.device.control("unplug"));
-            bench.port.closeUART(); // what the main window does when the port tells of an error
-            bench.dialog.set_connection_open(false);
-            QTRY_VERIFY(!bench.dialog.isDownloadRunning());
-            QVERIFY(bench.log().endsWith(QStringLiteral("Download failed\n")));
-            QVERIFY(bench.label("LBL_status").contains(QStringLiteral("open the port again and press Connect")));
-            bench.press("BTN_connect"); // on the closed port
-            QVERIFY(!bench.dialog.isBootloaderConnected());
-            QVERIFY(!unplug || bench.device.control("replug"));
-            bench.open();
-            QVERIFY(bench.update());
-            QVERIFY(bench.flash(image.size()) == image);
-        }
         bench.press("BTN_connect");
-        bench.port.closeUART();
-        bench.dialog.set_connection_open(false);
-        QVERIFY(!bench.dialog.isBootloaderConnected() && !bench.button("BTN_download")->isEnabled());
+        bench.press("BTN_download");
+        QTRY_VERIFY(bench.child<QProgressBar>("PB_progress")->value() > 0);
+        QVERIFY(!bench.session.close() && bench.isRunning()); // not while a download runs
+        QVERIFY(bench.device.control("unplug"));
+        QTRY_VERIFY(!bench.isRunning());
+        QVERIFY(bench.log().endsWith(QStringLiteral("Download failed\n")));
+        QVERIFY(bench.label("LBL_status").contains(QStringLiteral("open the port again and press Connect")));
+        bench.press("BTN_connect"); // on the closed port
+        QVERIFY(!bench.isConnected());
+        QVERIFY(bench.device.control("replug"));
+        bench.open();
+        QVERIFY(bench.update());
+        QVERIFY(bench.flash(image.size()) == image);
+        bench.press("BTN_connect");
+        QVERIFY(bench.isConnected());
+        QVERIFY(bench.session.close());
+        QVERIFY(!bench.isConnected() && !bench.button("BTN_download")->isEnabled());
         QVERIFY(!bench.label("LBL_status").isEmpty());
     }
 
@@ -444,8 +449,8 @@ private slots:
             bench.press("BTN_connect");
             QVERIFY2((bench.label("LBL_doubts") + bench.label("LBL_image")).contains(QLatin1String(shown)), shown);
             bench.press("BTN_download"); // told, not refused
-            QCOMPARE(bench.dialog.isDownloadRunning(), !bench.label("LBL_doubts").isEmpty());
-            QTRY_VERIFY_WITH_TIMEOUT(!bench.dialog.isDownloadRunning(), kDownloadMs);
+            QCOMPARE(bench.isRunning(), !bench.label("LBL_doubts").isEmpty());
+            QTRY_VERIFY_WITH_TIMEOUT(!bench.isRunning(), kDownloadMs);
             if (file.size() > 4)
                 continue;
             QFile::remove(QStringLiteral("firmware.hex"));

@@ -7,7 +7,6 @@
 #include <cmath>
 
 #include "wave/gateway_dashboard_bridge.h"
-#include "wave/sample_clock.h"
 
 namespace {
 
@@ -34,42 +33,6 @@ class TestGatewayDashboard : public QObject
     Q_OBJECT
 
 private slots:
-    void followsTheDeviceClock()
-    {
-        // Stamps of the device, times of the chart; the nominal period is 10 ms.
-        const std::pair<QList<quint32>, QList<quint32>> rows[] = {
-            {{0, 0, 0}, {0, 0, 0}},
-            {{500, 510, 512}, {1, 11, 13}},
-            {{500, 500, 490, 510}, {1, 1, 1, 11}},
-            {{4294967290U, 5}, {1, 12}},
-            {{100, 60100, 120101}, {1, 60001, 60011}},
-            {{5000, 4001, 5001}, {1, 1, 2}},
-            {{5000, 4000, 4010}, {1, 11, 21}},
-            {{5000, 3000000000U, 3000000001U}, {1, 11, 12}},
-            {{0, 0, 7, 17}, {0, 0, 20, 30}},         // a clock that starts late
-            {{50000, 0, 0, 50030}, {1, 11, 21, 31}}, // and one that pauses
-            {{4294967290U, 0, 10}, {1, 11, 17}},     // 0 as the wrap's own stamp
-        };
-        for (const auto &[stamps, expected] : rows) {
-            SampleClock clock;
-            for (int round = 0; round < 2; ++round) {
-                QList<quint32> times;
-                for (const quint32 stamp : stamps)
-                    times += clock.next(stamp, 10);
-                QCOMPARE(times, expected);
-                clock.reset();
-            }
-        }
-    }
-
-    void saysNoClockAfterFortyNineDays()
-    {
-        SampleClock clock;
-        for (quint32 i = 0; i < 71583; ++i)
-            QVERIFY(clock.next(1 + i * 60000, 10) != 0); // the last at 1 + 71582 * 60000 = 4294920001 ms
-        QCOMPARE(clock.next(1 + 71583U * 60000, 10), 0U);
-    }
-
     void takesBatchesApart()
     {
         DecodedFrame frame;

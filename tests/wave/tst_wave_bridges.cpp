@@ -133,6 +133,77 @@ private slots:
         QVERIFY(!chart.filterOn());
     }
 
+    /// What stays of picture, marks and filter when the stream starts again.
+    void startsTheStreamAgain()
+    {
+        SensorDashboardBridge dashboard;
+        dashboard.setDashboardActive(true);
+        WaveChartBridge &chart = *dashboard.bridge(QStringLiteral("acc"));
+        const auto marks = [&chart] {
+            QStringList texts;
+            for (const WaveChartBridge::BreakMark &mark : chart.breakMarks())
+                texts += QStringLiteral("%1:%2").arg(mark.timeSec).arg(int(mark.kind));
+            return texts.join(u' ');
+        };
+        const std::tuple<StreamBreak, int, QString> rows[] = {{StreamBreak::Gap, 4, QStringLiteral("10:5")},
+                                                              {StreamBreak::ClockRestarted, 4, QStringLiteral("10:3")},
+                                                              {StreamBreak::OutputStopped, 4, QStringLiteral("10:4")},
+                                                              {StreamBreak::NewConnection, 1, QString()},
+                                                              {StreamBreak::OtherNode, 1, QString()}};
+        for (const auto &[kind, samples, expected] : rows) {
+            chart.reset();
+            QCOMPARE(chart.trySetFilter(true, 5), QString());
+            dashboard.restartStream(kind); // the first sample comes after it: nothing to mark
+            const float values[] = {100, 100, 100, 100};
+            for (const unsigned int stamp : {1000U, 2000U, 3000U})
+                chart.pushSample(values, 4, stamp);
+            const double first = chart.getValuesAtTime(-2).at(0).toDouble();
+            QVERIFY(first > 0 && chart.getValuesAtTime(0).at(0).toDouble() > first); // it rises from 0
+            dashboard.restartStream(kind);
+            QCOMPARE(marks(), QString()); // not before the sample that it lies before
+            chart.pushSample(values, 4, 10000);
+            QCOMPARE(marks(), expected);
+            QCOMPARE(chart.model().count(), samples);
+            QCOMPARE(chart.getValuesAtTime(0).at(0).toDouble(), first); // and once more
+            QVERIFY(chart.filterOn() && chart.filterCutoffHz() == 5);
+        }
+    }
+
+    void keepsMarksWithinTheHistory()
+    {
+        WaveChartBridge chart(QStringLiteral("acc"));
+        push(chart, 1, 1);
+        chart.markBreak(StreamBreak::Gap);
+        push(chart, WaveformDataModel::kCapacity - 1, 1000);
+        QCOMPARE(chart.breakMarks().size(), 1);
+        push(chart, 2, 40000000);
+        QCOMPARE(chart.breakMarks().size(), 0);
+        for (unsigned int i = 0; i < 1000; ++i) { // a stream that breaks all the time
+            chart.markBreak(StreamBreak::OutputStopped);
+            push(chart, 1, 50000000 + i);
+        }
+        QVERIFY(chart.breakMarks().size() <= 64 && chart.breakMarks().last().timeSec == chart.newestTimeSec());
+        chart.reset();
+        QVERIFY(chart.breakMarks().isEmpty());
+    }
+
+    /// The rate may have fallen since the filter was switched on, to one that the cutoff is too low for.
+    void survivesABreakAtALowerRate()
+    {
+        for (const bool emptied : {false, true}) {
+            WaveChartBridge chart(QStringLiteral("acc"));
+            QCOMPARE(chart.trySetFilter(true, 0.01), QString());
+            push(chart, 2, 1000);
+            chart.applyFrameRate(1);
+            if (emptied)
+                chart.restart();
+            else
+                chart.markBreak(StreamBreak::Gap);
+            push(chart, 2, 5000);
+            QCOMPARE(chart.model().count(), emptied ? 2 : 4);
+        }
+    }
+
     void laysOutTheSelection()
     {
         SensorDashboardBridge dashboard;

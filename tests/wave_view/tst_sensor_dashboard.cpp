@@ -128,6 +128,31 @@ private slots:
         QVERIFY(bench.red() == 0 && bench.series->polishCount() == before);
     }
 
+    void marksWhereTheStreamStartedAgain()
+    {
+        Bench bench;
+        QVERIFY(bench.isShown());
+        bench.push(1, 5000);
+        bench.window.bridge().restartStream(StreamBreak::ClockRestarted);
+        bench.push(8000, 11000); // ten seconds are seen: the mark stands 3 s before the newest sample
+        QQuickItem *mark = nullptr;
+        QTRY_VERIFY((mark = findItem(bench.chart, "breakMark")) != nullptr && mark->isVisible());
+        const double place = mark->mapToItem(bench.plot, QPointF()).x() / bench.plot->width();
+        QVERIFY2(std::abs(place - 0.701) < 0.005, qPrintable(QString::number(place)));
+        // Its colour stands from top to bottom of the plot.
+        const QColor color = mark->property("color").value<QColor>();
+        const QImage image = bench.window.grabWindow();
+        const double scale = image.width() / double(bench.window.width());
+        const QPointF top = mark->mapToScene(QPointF(0.5, 0)) * scale;
+        int found = 0;
+        for (int y = 0; y < int(mark->height() * scale); ++y)
+            found += image.pixelColor(int(top.x()), int(top.y()) + y) == color;
+        QVERIFY2(found > 0.8 * mark->height() * scale, qPrintable(QString::number(found)));
+
+        bench.window.bridge().restartStream(StreamBreak::OtherNode);
+        QTRY_VERIFY(findItem(bench.chart, "breakMark") == nullptr);
+    }
+
     void followsTheMouse()
     {
         Bench bench;

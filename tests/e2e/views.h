@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QQuickItem>
+#include <QQuickView>
+#include <QTest>
+
+#include "e2e/desk.h"
+#include "support/open_dialog.h"
+#include "support/simulator_process.h"
+
+/// Words of a command line.
+inline QStringList words(const char *text)
+{
+    return QString::fromLatin1(text).split(u' ', Qt::SkipEmptyParts);
+}
+
+/// The open window of a kind, null when there is none.
+template <class Window> Window *openWindow()
+{
+    for (QWindow *window : QGuiApplication::topLevelWindows()) {
+        if (auto *found = qobject_cast<Window *>(window); found && found->isVisible())
+            return found;
+    }
+    return nullptr;
+}
+
+/// The texts that a declarative view shows.
+inline QStringList shownTexts(const QQuickItem *root)
+{
+    QStringList texts;
+    for (const QQuickItem *child : root->childItems()) {
+        if (!child->isVisible())
+            continue;
+        if (const QVariant text = child->property("text"); text.typeId() == QMetaType::QString)
+            texts += text.toString();
+        texts += shownTexts(child);
+    }
+    return texts;
+}
+
+/// The declarative view that has a child of this kind, null when there is none.
+template <class Child> QQuickView *viewWith()
+{
+    for (QWindow *window : QGuiApplication::allWindows()) {
+        auto *view = qobject_cast<QQuickView *>(window);
+        if (view && view->rootObject() && view->findChild<Child *>())
+            return view;
+    }
+    return nullptr;
+}
+
+/// Opens a port; true when the window shows who the device is and that it sends.
+inline bool connectTo(Desk &desk, const SimulatorProcess &simulator)
+{
+    desk.open(simulator.port());
+    const auto isThere = [&desk] {
+        return desk.label("label_product") != QString(QChar(0x2013)) && desk.find<QListWidget>("list_nodes")->count() > 0;
+    };
+    const bool connected = QTest::qWaitFor(isThere, 8000);
+    if (!connected)
+        qWarning().noquote() << desk.log();
+    return connected;
+}
+
+/// Does what a user does at a button of a window.
+inline void click(const QWidget *window, const char *button)
+{
+    window->findChild<QAbstractButton *>(QLatin1String(button))->click();
+}
