@@ -15,6 +15,7 @@ constexpr int kLongMs = 60'000;
 constexpr int kComeBackMs = 2500;
 constexpr char kSlowErase[] = "erase-ms";
 constexpr int kSlowEraseMs = 1600;
+constexpr int kAttemptsAfter = 3;
 
 /// A fault of a packet, and how many in a row have it.
 struct Fault
@@ -70,9 +71,8 @@ public:
             if (!isSlowErase())
                 m_device.fault(plan(0, 1));
             m_device.fault("read on");
-            m_device.start(m_image, kComeBackMs);
-            m_deadline.setRemainingTime(kLongMs);
-            m_stage = Stage::After;
+            m_attemptsLeft = kAttemptsAfter;
+            startAfter();
             return;
         }
         m_stage = Stage::Idle;
@@ -86,13 +86,27 @@ public:
         const UpdateResult &result = m_device.result();
         const bool works = !m_device.refusal && result.verdict == UpdateVerdict::Verified
                            && result.newBuild == QLatin1String("build 2026-05-17") && m_device.isFlashRight(m_image);
-        counts.notRecovered += works ? 0 : 1;
-        if (!works)
-            tell("next attempt");
+        if (works)
+            return;
+        tell("next attempt");
+        if (m_attemptsLeft > 0) { // the machine may have been late: the words on screen ask for another one
+            ++counts.furtherAttempts;
+            startAfter();
+            return;
+        }
+        ++counts.notRecovered;
     }
 
 private:
     enum class Stage { Idle, Faulty, After };
+
+    void startAfter()
+    {
+        --m_attemptsLeft;
+        m_device.start(m_image, kComeBackMs);
+        m_deadline.setRemainingTime(kLongMs);
+        m_stage = Stage::After;
+    }
 
     bool isSlowErase() const { return qstrcmp(m_case.fault, kSlowErase) == 0; }
 
@@ -137,6 +151,7 @@ private:
     UpdateDevice m_device;
     UpdateCase m_case;
     Stage m_stage = Stage::Idle;
+    int m_attemptsLeft = 0;
     QDeadlineTimer m_deadline;
     bool m_isUsable = false;
 };

@@ -28,10 +28,11 @@ public:
         int right = 0;    ///< said to be verified, and so it is
         int doubtful = 0; ///< said to be doubtful or not verified, or the device did not come back
         int failed = 0;
-        int refused = 0;        ///< the attempt after an erase that took too long was not begun
-        int wrongSuccesses = 0; ///< said to be verified, and the flash is wrong
-        int notRecovered = 0;   ///< the attempt after it has not ended in a working device
-        int notEnded = 0;       ///< no end in a minute
+        int refused = 0;         ///< the attempt after an erase that took too long was not begun
+        int wrongSuccesses = 0;  ///< said to be verified, and the flash is wrong
+        int furtherAttempts = 0; ///< beyond the one after the fault: the machine was too late for the protocol's waits
+        int notRecovered = 0;    ///< no attempt after it has ended in a working device
+        int notEnded = 0;        ///< no end in a minute
     };
 
     explicit UpdateMatrix(QList<UpdateCase> cases);

@@ -111,7 +111,7 @@ int main(int argc, char **argv)
     const UpdateMatrix::Counts counts = matrix.run(qBound(1, parser.value(devices).toInt(), 32), count);
     QTextStream out(stdout);
     out << QStringLiteral("faults: %1 cases in %2 s: right %3, doubtful %4, failed %5, refused %6; wrong successes %7, "
-                          "not recovered %8, not ended %9\n")
+                          "further attempts %8, not recovered %9, not ended %10\n")
                .arg(counts.cases)
                .arg(clock.elapsed() / 1000)
                .arg(counts.right)
@@ -119,6 +119,7 @@ int main(int argc, char **argv)
                .arg(counts.failed)
                .arg(counts.refused)
                .arg(counts.wrongSuccesses)
+               .arg(counts.furtherAttempts)
                .arg(counts.notRecovered)
                .arg(counts.notEnded)
         << Qt::flush;
