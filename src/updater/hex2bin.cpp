@@ -50,7 +50,9 @@ LineResult appendData(const QByteArray &record, QByteArray &image)
     const quint32 count = quint8(record.at(0));
     const quint32 offset = qFromBigEndian<quint16>(record.constData() + 1);
     const quint64 address = ExStageAddr == 0 ? offset | ExLineAddr : offset + ExStageAddr;
-    if (address + count > kAddressSpace) {
+    // An image that begins with the last byte there is would have the address that stands for none.
+    const bool isNowhere = firstDataAddr == kNoAddress && address == kNoAddress;
+    if (address + count > kAddressSpace || isNowhere) {
         AppLog::logfile(QtWarningMsg, QStringLiteral("hex2bin, record beyond the address space"));
         return LineResult::Failed;
     }

@@ -132,6 +132,7 @@ private slots:
             {good + data(3, "ab"), "backwards: 0x00000003 behind 0x00000004"},
             {good + ":020000041000EA\n" + data(0x10C0, "ab"), "image too large at 0x100010c0, gap=268439740"},
             {record(4, 0, "\xFF\xFF") + data(0xFFFE, "abc"), "hex2bin, record beyond the address space"},
+            {record(4, 0, "\xFF\xFF") + data(0xFFFF, "a"), "hex2bin, record beyond the address space"},
             {record(4, 0, "\xFF\xFF") + data(0xFFFE, "ab") + record(4, 0, QByteArray(2, '\0')) + data(0, "c"),
              "records run backwards"}};
         for (const auto &[file, line] : rows) {
