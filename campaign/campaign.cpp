@@ -8,6 +8,7 @@
 
 #include <malloc.h>
 
+#include "campaign/state_table.h"
 #include "e2e/desk.h"
 #include "process_figures.h"
 #include "record/recorder.h"
@@ -43,7 +44,7 @@ template <class Card> void fill(QList<Card> &deck, const QList<Card> &cards, QRa
 } // namespace
 
 Campaign::Campaign(form_base &window, const Options &options)
-    : m_options(options), m_user(window, m_watchdog), m_account(window), m_random(options.seed),
+    : m_options(options), m_user(window, m_watchdog), m_account(window), m_views(window), m_random(options.seed),
       m_logFile(QStringLiteral("campaign.log")), m_log(&m_logFile)
 {
     if (!m_logFile.open(QIODevice::WriteOnly))
@@ -54,9 +55,16 @@ void Campaign::run()
 {
     m_clock.start();
     pause(kStartMs, kStartMs);
+    if (m_options.isTable) {
+        StateTable table(
+            m_user, [this](const QString &line) { log(line); }, [this](const QString &what) { fail(what); });
+        table.run();
+        m_report.cells = table.cellCount();
+    }
     const QList<scenario::Device> &devices = scenario::devices();
-    while (!isTimeUp())
+    while (!m_options.isTable && !isTimeUp())
         round(devices.at(m_report.rounds % devices.size()));
+    settleViews();
 
     // Caches fill until every text has been shown in every language and size.
     m_report.warmUpRounds = m_report.rounds / 3;
@@ -260,6 +268,19 @@ void Campaign::checkRecordings()
                  .arg(recordings.troubled)
                  .arg(recordings.count));
     books.recordings = recordings;
+}
+
+void Campaign::settleViews()
+{
+    m_report.views = m_user.ask<ViewBooks::Findings>([this](form_base &) { return m_views.findings(); });
+    if (m_report.views.strangers + m_report.views.wrongSpans > 0)
+        fail(QStringLiteral("of %1 values that were looked at %2 were another node's, of %3 stretches of an axis "
+                            "%4 were more than 5 % off: %5")
+                 .arg(m_report.views.looks)
+                 .arg(m_report.views.strangers)
+                 .arg(m_report.views.spans)
+                 .arg(m_report.views.wrongSpans)
+                 .arg(m_report.views.examples.join(QStringLiteral("; "))));
 }
 
 void Campaign::look(const QString &state)

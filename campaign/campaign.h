@@ -11,6 +11,7 @@
 #include "campaign/link_account.h"
 #include "campaign/scenario.h"
 #include "campaign/user.h"
+#include "campaign/view_books.h"
 #include "campaign/watchdog.h"
 #include "support/simulator_process.h"
 
@@ -26,6 +27,7 @@ public:
     {
         double minutes = 30;
         quint32 seed = 1;
+        bool isTable = false; ///< the table of states instead of rounds
         bool isQuick = false; ///< one round per device and each fault once, in less than a minute
     };
 
@@ -68,6 +70,7 @@ private:
     void settleBooks(bool bytesWereDamaged);
     void endConnection();
     void checkRecordings();
+    void settleViews();
     void look(const QString &state);
 
     void act(const QString &what, const User::Action &action);
@@ -84,6 +87,7 @@ private:
     Watchdog m_watchdog;
     User m_user;
     LinkAccount m_account;
+    ViewBooks m_views;
     std::unique_ptr<SimulatorProcess> m_simulator;
     QRandomGenerator m_random;
     QElapsedTimer m_clock;

@@ -135,6 +135,10 @@ void CampaignReport::print(QTextStream &out) const
         << "Records: " << books.recordings.cameIn << " came in, " << books.recordings.written << " written in "
         << books.recordings.count << " recordings, " << books.linesInFiles << " lines in the files\n\n";
 
+    out << "Views: " << views.looks << " values looked at, " << views.strangers << " of them another node's; "
+        << views.spans << " stretches of an axis, " << views.wrongSpans << " of them off by more than 5 %\n"
+        << "Table of states: " << cells << " cells\n\n";
+
     out << "Medians of the first and second half behind the warm-up of " << warmUpRounds << " rounds:\n";
     for (const auto &[state, its] : byState(*this).toStdMap()) {
         if (its.size() < 2)

@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include "campaign/link_account.h"
+#include "campaign/view_books.h"
 #include "campaign/watchdog.h"
 
 class QTextStream;
@@ -41,6 +42,8 @@ struct CampaignReport
     int actions = 0;
     QStringList faultsDone;
     Books books;
+    ViewBooks::Findings views;
+    int cells = 0; ///< of the table of states
     QList<Look> looks;
     QStringList failures; ///< goals that were not met, as sentences
     Watchdog::Result waits;

@@ -1,6 +1,6 @@
-// kv_campaign [--minutes M | --quick] [--seed N] [--stall-limit MS]: the program itself, src/main.cpp with all that it
-// starts, and at its side a user and devices that do everything wrong. Ends with a report, and with 1 when a goal was
-// not met. docs/fault-campaign.md tells more.
+// kv_campaign [--minutes M | --quick | --table] [--seed N] [--stall-limit MS]: the program itself, src/main.cpp with
+// all that it starts, and at its side a user and devices that do everything wrong. Ends with a report, and with 1 when
+// a goal was not met. docs/fault-campaign.md tells more.
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -65,14 +65,16 @@ int main(int argc, char **argv)
     QCommandLineParser parser;
     const QCommandLineOption minutes(QStringLiteral("minutes"), {}, QStringLiteral("M"), QStringLiteral("30"));
     const QCommandLineOption quick(QStringLiteral("quick"));
+    const QCommandLineOption table(QStringLiteral("table"));
     const QCommandLineOption seed(QStringLiteral("seed"), {}, QStringLiteral("N"), QStringLiteral("1"));
     const QCommandLineOption stallLimit(QStringLiteral("stall-limit"), {}, QStringLiteral("MS"), QStringLiteral("200"));
-    parser.addOptions({minutes, quick, seed, stallLimit});
+    parser.addOptions({minutes, quick, table, seed, stallLimit});
     if (!parser.parse(arguments)) {
         out << parser.errorText() << '\n';
         return EXIT_FAILURE;
     }
-    campaignOptions = {parser.value(minutes).toDouble(), parser.value(seed).toUInt(), parser.isSet(quick)};
+    campaignOptions = {parser.value(minutes).toDouble(), parser.value(seed).toUInt(), parser.isSet(table),
+                       parser.isSet(quick)};
 
     QTemporaryDir folder;
     QDir::setCurrent(folder.path());

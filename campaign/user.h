@@ -24,6 +24,9 @@ public:
     User(form_base &window, Watchdog &watchdog) : m_window(window), m_watchdog(watchdog) {}
     Q_DISABLE_COPY_MOVE(User)
 
+    /// Main thread.
+    form_base &window() const { return m_window; }
+
     // All below is for the ordering thread.
 
     /// Has the main thread do something; goes on when it is done, or after a moment.

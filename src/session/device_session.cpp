@@ -206,7 +206,7 @@ bool DeviceSession::identify()
 
 void DeviceSession::readInfo()
 {
-    m_infoRequested = true;
+    m_infoRequested |= !m_commands->isBusy(); // else what was ended is still on the stack, and nothing is asked
     const QPointer<DeviceSession> self(this);
     const quint64 connection = m_connection;
     setState(SessionState::Identifying);

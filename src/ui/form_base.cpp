@@ -178,9 +178,9 @@ void form_base::on_orientation_preset_changed(OrientationPreset preset)
 
 void form_base::onSessionState()
 {
-    const bool isOpen = m_session->isOpen() && m_session->state() != SessionState::Closing;
-    if (isOpen != m_isShowingConnection)
-        enable_all_page(isOpen);
+    // Not before it is closed: while it is closing its parts still hold what is to be cleared.
+    if (m_session->isOpen() != m_isShowingConnection)
+        enable_all_page(m_session->isOpen());
 }
 
 void form_base::enable_all_page(bool enabled)

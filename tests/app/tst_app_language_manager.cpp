@@ -28,7 +28,7 @@ class TestAppLanguageManager : public QObject
     }
     /// A text of the toolkit and one of the main window, as they are shown now.
     static QString yes() { return QCoreApplication::translate("QPlatformTheme", "&Yes"); }
-    static QString device() { return QCoreApplication::translate("form_base", "Sensor Dashboard"); }
+    static QString device() { return QCoreApplication::translate("MainActions", "Sensor Dashboard"); }
 
 private slots:
     void init()

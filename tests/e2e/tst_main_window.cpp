@@ -154,6 +154,8 @@ private slots:
     void followsTheChosenNode()
     {
         SimulatorProcess simulator(words("--device gateway --nodes 4 --rate 400 --rotate-ids on"));
+        int samples = 0;
+        int strangers = 0;
         Desk desk;
         desk.open(simulator.port());
         auto *list = desk.find<QListWidget>("list_nodes");
@@ -162,8 +164,6 @@ private slots:
             QCOMPARE(list->item(row)->text(), QStringLiteral("Node ID:%1").arg(row + 1));
         list->setCurrentRow(0);
         QTest::keyClick(list, Qt::Key_Down);
-        int samples = 0;
-        int strangers = 0;
         connect(&desk.window->session(), &DeviceSession::sampleReceived, this, [&](const StreamSample &sample) {
             ++samples;
             strangers += sample.snapshot.sample.id != 2;

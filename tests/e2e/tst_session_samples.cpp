@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr double kTilt = 30;      ///< degrees
+constexpr double kTilt = 30;        ///< degrees
 constexpr double kTiltedAccG = 0.5; ///< on x, of a node that is tilted
 
 /// The spectrum window of a desk, opened and used as a user does.
@@ -85,7 +85,8 @@ private slots:
         QTest::addColumn<QByteArray>("tilt");
         QTest::addColumn<QByteArray>("fault");
         QTest::newRow("node 3 picked") << 2 << QByteArray("node attitude 3:0:30:0") << QByteArray("node skip 3:5");
-        QTest::newRow("nothing picked") << -1 << QByteArray("node attitude 1:0:30:0") << QByteArray("node skip lowest:5");
+        QTest::newRow("nothing picked") << -1 << QByteArray("node attitude 1:0:30:0")
+                                        << QByteArray("node skip lowest:5");
     }
     /// One node is tilted, all others are level: a sample of another one shows wherever it gets in.
     void missingRecords()
@@ -196,8 +197,8 @@ private slots:
         click(spectrum.window, "BTN_start");
         const auto streamOn = [&simulator](int seconds) {
             const qint64 frames = simulator.stat("frames_sent");
-            return QTest::qWaitFor(
-                [&] { return simulator.stat("frames_sent") > frames + seconds * kRate; }, (seconds + 5) * 1000);
+            return QTest::qWaitFor([&] { return simulator.stat("frames_sent") > frames + seconds * kRate; },
+                                   (seconds + 5) * 1000);
         };
         QVERIFY(streamOn(1));
         const std::pair<const char *, std::function<void()>> events[] = {
@@ -241,7 +242,9 @@ private slots:
         QTRY_VERIFY(!spectrum.says("Block"));
         QCOMPARE(worst, 0);
         QTRY_VERIFY2(spectrum.bridge().dominantPeakAmplitude() < 20,
-                     qPrintable(QStringLiteral("%1 mG at %2 Hz").arg(spectrum.bridge().dominantPeakAmplitude()).arg(spectrum.bridge().dominantPeakFrequency())));
+                     qPrintable(QStringLiteral("%1 mG at %2 Hz")
+                                    .arg(spectrum.bridge().dominantPeakAmplitude())
+                                    .arg(spectrum.bridge().dominantPeakFrequency())));
         QVERIFY(spectrum.bridge().alarmEventsToVariantList().isEmpty());
         QVERIFY(saysHowFull);
     }
@@ -278,8 +281,11 @@ private slots:
         click(spectrum.window, "BTN_start");
         QTRY_VERIFY(spectrum.bridge().hasData() && !spectrum.says("Block"));
         const FftChartBridge &bridge = spectrum.bridge();
-        QTRY_VERIFY2(bridge.dominantPeakFrequency() > 0 && bridge.dominantPeakFrequency() < 20 && bridge.dominantPeakAmplitude() > 20,
-                     qPrintable(QStringLiteral("%1 Hz %2 mG").arg(bridge.dominantPeakFrequency()).arg(bridge.dominantPeakAmplitude())));
+        QTRY_VERIFY2(
+            bridge.dominantPeakFrequency() > 0 && bridge.dominantPeakFrequency() < 20
+                && bridge.dominantPeakAmplitude() > 20,
+            qPrintable(
+                QStringLiteral("%1 Hz %2 mG").arg(bridge.dominantPeakFrequency()).arg(bridge.dominantPeakAmplitude())));
         auto *ignore = spectrum.window->findChild<QCheckBox *>(QStringLiteral("CK_ignore_steady"));
         QVERIFY(ignore != nullptr && ignore->isVisible() && ignore->isChecked());
         ignore->click();

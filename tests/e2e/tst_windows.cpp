@@ -1,62 +1,24 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QFileDialog>
-#include <QQuickItem>
-#include <QQuickView>
 #include <QRegularExpression>
 #include <QSignalSpy>
-#include <QTest>
 #include <QToolButton>
 
 #include "app/app_language_manager.h"
 #include "attitude/form_threed.h"
-#include "e2e/desk.h"
+#include "e2e/views.h"
 #include "fft/form_fftchart.h"
 #include "fft/spectrum_view_state.h"
 #include "link/stream_dispatcher.h"
 #include "record/recorder.h"
 #include "support/hex_file.h"
-#include "support/simulator_process.h"
 #include "updater/form_updater.h"
 #include "wave/chart_saver.h"
 #include "wave/form_sensor_dashboard.h"
 #include "wave/form_wireless_dashboard.h"
 
 namespace {
-
-/// The open window of a kind, null when there is none.
-template <class Window> Window *openWindow()
-{
-    for (QWindow *window : QGuiApplication::topLevelWindows()) {
-        if (auto *found = qobject_cast<Window *>(window); found && found->isVisible())
-            return found;
-    }
-    return nullptr;
-}
-
-/// The dialog of a kind, null when there is none.
-template <class Dialog> Dialog *openDialog()
-{
-    for (QWidget *widget : QApplication::topLevelWidgets()) {
-        if (auto *found = qobject_cast<Dialog *>(widget); found && found->isVisible())
-            return found;
-    }
-    return nullptr;
-}
-
-/// The texts that a declarative view shows.
-QStringList shownTexts(const QQuickItem *root)
-{
-    QStringList texts;
-    for (const QQuickItem *child : root->childItems()) {
-        if (!child->isVisible())
-            continue;
-        if (const QVariant text = child->property("text"); text.typeId() == QMetaType::QString)
-            texts += text.toString();
-        texts += shownTexts(child);
-    }
-    return texts;
-}
 
 QList<QByteArray> recordedLines()
 {
@@ -287,12 +249,7 @@ private slots:
         dashboard->bridge().setNodeChosen(1, true);
         auto *spectrum = openDialog<form_fftchart>();
         QVERIFY(spectrum != nullptr);
-        QQuickView *spectrumView = nullptr;
-        for (QWindow *window : QGuiApplication::allWindows()) {
-            auto *view = qobject_cast<QQuickView *>(window);
-            if (view && view->rootObject() && view->findChild<SpectrumViewState *>())
-                spectrumView = view;
-        }
+        const QQuickView *spectrumView = viewWith<SpectrumViewState>();
         QVERIFY(spectrumView != nullptr);
         static const QRegularExpression asian(QStringLiteral("[\\p{Han}\\p{Hiragana}\\p{Katakana}\\p{Hangul}]"));
         static const QRegularExpression english(QStringLiteral("[a-z]{5}"));

@@ -54,7 +54,8 @@ inline bool connectTo(Desk &desk, const SimulatorProcess &simulator)
 {
     desk.open(simulator.port());
     const auto isThere = [&desk] {
-        return desk.label("label_product") != QString(QChar(0x2013)) && desk.find<QListWidget>("list_nodes")->count() > 0;
+        return desk.label("label_product") != QString(QChar(0x2013))
+               && desk.find<QListWidget>("list_nodes")->count() > 0;
     };
     const bool connected = QTest::qWaitFor(isThere, 8000);
     if (!connected)

@@ -185,10 +185,10 @@ private slots:
     void wholeUpdate()
     {
         const QByteArray image = goodImage(20000);
+        QList<SessionState> states; // until after the session has ended
         Bench bench(hex_file::file(image, 0), {QStringLiteral("--flash-size"), QStringLiteral("64")});
-        QList<SessionState> states;
         connect(&bench.session, &DeviceSession::stateChanged, this, [&] {
-            if (states.isEmpty() || states.last() != bench.session.state())
+            if (states.isEmpty() || states.constLast() != bench.session.state())
                 states.append(bench.session.state());
         });
         const QString facts = bench.logOf("BTN_connect");
