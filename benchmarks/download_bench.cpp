@@ -1,6 +1,7 @@
 // kv_download_bench [--baud B] [--kib K] [--runs N]: downloads an image to the simulated bootloader with packets of 32
-// and 512 bytes. Prints the time of the data phase, as a multiple of the time that its bytes take on the wire, and
-// beside the least that waits in steps of 1 ms allow. Check the flash with the tests: here only the time counts.
+// and 512 bytes, and reads it back. Prints the times of the data phase and of the reading, as multiples of the time
+// that their bytes take on the wire, and beside the least that waits in steps of 1 ms allow the data phase. Check the
+// flash with the tests: here only the time counts.
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -23,6 +24,7 @@ struct Result
     bool complete = false;
     qint64 dataMs = 0;
     qint64 totalMs = 0;
+    qint64 readMs = 0;
 };
 
 Result download(int packetSize, int baud, const QByteArray &image)
@@ -51,6 +53,13 @@ Result download(int packetSize, int baud, const QByteArray &image)
         else if (step == BootloaderStep::Reset)
             result.dataMs = clock.elapsed() - beganMs;
     });
+    BootloaderTask task;
+    task.kind = BootloaderTask::Kind::Read;
+    task.byteCount = quint32(image.size());
+    clock.start();
+    QMetaObject::invokeMethod(
+        &port, [&] { port.runBootloaderTask(task); }, Qt::BlockingQueuedConnection);
+    result.readMs = clock.elapsed();
     clock.start();
     QMetaObject::invokeMethod(&port, "downloadBootloader", Qt::BlockingQueuedConnection,
                               Q_RETURN_ARG(bool, result.complete), Q_ARG(QByteArray, image), Q_ARG(int, 0),
@@ -88,7 +97,7 @@ int main(int argc, char **argv)
                 return 1;
             }
             out << QStringLiteral("%1-byte packets: data %2 ms, whole %3 ms; wire %4 ms (x %5), steps of 1 ms allow %6 "
-                                  "ms (x %7)\n")
+                                  "ms (x %7); read back %8 ms (x %9)\n")
                        .arg(packetSize)
                        .arg(result.dataMs)
                        .arg(result.totalMs)
@@ -96,6 +105,8 @@ int main(int argc, char **argv)
                        .arg(double(result.dataMs) / (packets * packetMs), 0, 'f', 2)
                        .arg(packets * std::ceil(packetMs), 0, 'f', 0)
                        .arg(double(result.dataMs) / (packets * std::ceil(packetMs)), 0, 'f', 2)
+                       .arg(result.readMs)
+                       .arg(double(result.readMs) / (packets * packetMs), 0, 'f', 2)
                 << Qt::flush;
         }
     }

@@ -55,14 +55,15 @@ public:
     const QByteArray &written() const { return m_written; }
 
 private:
-    /// Whether the client goes on at once: a data packet wants an acknowledge, all else a packet.
+    /// Whether the client goes on at once: a data packet wants an acknowledge or a refusal, all else a packet. So does
+    /// an end of the data phase, whose reason is waited for.
     bool isAnswered() const
     {
         const QByteArray &buffer = m_client.frameBuffer();
-        if (!m_isData)
+        if (!m_isData || m_client.responseReceived())
             return m_client.responseReceived();
-        return buffer.size() >= 2 && quint8(buffer.at(0)) == kStartByte && quint8(buffer.at(1)) >= kTypeAck
-               && quint8(buffer.at(1)) <= kTypeCommand;
+        return buffer.size() >= 2 && quint8(buffer.at(0)) == kStartByte
+               && (quint8(buffer.at(1)) == kTypeAck || quint8(buffer.at(1)) == kTypeNak);
     }
 
     KbootProtocol &m_client;
@@ -114,7 +115,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const BootloaderOutcome &outcome = client.outcome();
     require(complete == (outcome.fault == BootloaderFault::None), "a failed download has a reason");
     require(image.startsWith(target.written()), "what was acknowledged is the image's beginning");
-    require(!complete || target.written() == image, "a complete download has written everything");
+    require(!complete || outcome.isEndedByTarget || target.written() == image,
+            "a complete download has written everything");
     require(outcome.sentPackets - sentBefore <= attempts * image.size(), "packets are repeated only so often");
     return 0;
 }

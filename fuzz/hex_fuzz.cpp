@@ -64,7 +64,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const unsigned int address = hex2bin::first_data_addr();
     require(image.size() <= hex2bin::kMaxImageSize, "an image is bounded");
     require(image.isEmpty() || address != kNone, "an image has an address");
-    require(image.isEmpty() || quint64(address) + quint64(image.size()) <= kNone, "an image lies in the address space");
+    require(image.isEmpty() || quint64(address) + quint64(image.size()) <= quint64(kNone) + 1,
+            "an image lies in the address space");
     require(hex2bin::start_addr() == startBefore, "a preview keeps the load address");
     require(counted_log::lines() <= kMaxLogLines, "the log is bounded");
     checkImage(image, address, loadAddress, kFlashSizesKb[choice & 7]);

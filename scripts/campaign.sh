@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# campaign.sh [--minutes M | --quick | --table] [--seed N] ...: the fault campaign on the release build, on a display of
-# its own; further words go to kv_campaign. docs/fault-campaign.md tells what it does. Ends with 1 when a goal was not
-# met, or with the program's signal when it crashed. Its log of actions is campaign.log in the folder that the first line
-# names.
+# campaign.sh [--minutes M | --quick | --table] [--seed N] ...: the faults of firmware updates (kv_update_matrix), then the
+# fault campaign, on the release build and a display of its own; further words go to kv_campaign. docs/fault-campaign.md
+# tells what they do. Ends with 1 when a goal was not met, or with the program's signal when it crashed. Its log of actions
+# is campaign.log in the folder that the first line names.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
@@ -14,11 +14,16 @@ cleanup() {
 }
 trap cleanup EXIT
 trap 'exit 130' INT TERM
-if ! { cmake --preset release && cmake --build --preset release --target kv_campaign; } >"$log" 2>&1; then
+if ! { cmake --preset release && cmake --build --preset release --target kv_campaign kv_update_matrix; } >"$log" 2>&1; then
   cat "$log" >&2
   echo "campaign: the build failed, see above" >&2
   exit 1
 fi
+
+build/release/bin/kv_update_matrix || {
+  echo "campaign: the faults of firmware updates were not survived, see above" >&2
+  exit 1
+}
 
 exec {display}< <(exec Xvfb -displayfd 1 -screen 0 1920x1080x24 -nolisten tcp 2>/dev/null)
 xvfb=$!

@@ -17,7 +17,13 @@ public:
         Abort,  ///< acknowledge-abort; the data phase is over
         Ignore, ///< nothing programmed and no answer
         Late,   ///< programmed, and acknowledged too late
+        NoAck,  ///< programmed, and never acknowledged
+        Flip,   ///< programmed with one bit wrong, and acknowledged
+        Drop,   ///< acknowledged, but not programmed: the data that follow move up
+        Status, ///< not programmed; an abort, and a response with endStatus: the data phase is over
+        Power,  ///< half of it programmed, then the power is cut
     };
+    static constexpr int kVerdicts = 10;
 
     static constexpr int kNormalPropertyBytes = 4;
     static constexpr int kMaxPropertyBytes = 16;
@@ -29,6 +35,9 @@ public:
     int propertyBytes = kNormalPropertyBytes; ///< length of every property's value
     int eraseMs = 0;                          ///< from the acknowledge of an erase to its response
     int trickleMs = 0;                        ///< from each byte of an answer to the next
+    bool readsMemory = true;                  ///< the flash can be read back; else that is not offered
+    bool locked = false;                      ///< reading is offered, and refused
+    quint32 endStatus = 105;                  ///< of the verdict Status
     int lateMs = 250;                         ///< how late an acknowledge of the verdict Late is
     int staleMs = 0;                          ///< after each answer an acknowledge too many; 0: none
     double refusedPercent = 0.0;              ///< share of the data packets, by chance
@@ -48,7 +57,7 @@ private:
     };
 
     std::mt19937_64 m_random;
-    Plan m_plans[4]; // of Refuse, Abort, Ignore, Late
+    Plan m_plans[kVerdicts - 1]; // of all but Take
 };
 
 } // namespace kvsim

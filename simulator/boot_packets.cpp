@@ -27,10 +27,11 @@ QByteArray encodePingResponse()
     return packet;
 }
 
-QByteArray encodeResponse(quint8 tag, const QByteArray &parameters)
+QByteArray encodeResponse(quint8 tag, const QByteArray &parameters, quint8 flags)
 {
     QByteArray payload(4, '\0');
     payload[0] = char(tag);
+    payload[1] = char(flags);
     payload[3] = char(parameters.size() / 4);
     return encodePacket(quint8(PacketType::Command), payload + parameters);
 }
@@ -59,7 +60,18 @@ std::optional<PacketReader::Packet> PacketReader::take(char byte)
         m_packet.clear();
         if (byte == kStart) // perhaps this one begins a packet
             m_packet += byte;
-        return type == PacketType::Ping ? std::optional(Packet{Kind::Ping, {}}) : std::nullopt;
+        switch (type) {
+        case PacketType::Ping:
+            return Packet{Kind::Ping, {}};
+        case PacketType::Ack:
+            return Packet{Kind::Ack, {}};
+        case PacketType::Nak:
+            return Packet{Kind::Nak, {}};
+        case PacketType::AckAbort:
+            return Packet{Kind::AckAbort, {}};
+        default:
+            return {};
+        }
     }
     if (m_packet.size() < kHeaderBytes)
         return {};

@@ -33,14 +33,14 @@ QByteArray encodePingResponse();
 
 /// A response packet: framed like a data packet but for its type, and in it
 ///
-///     0  u8   response tag: A0 generic, A7 to get-property
-///     1  u8   flags, 0
+///     0  u8   response tag: A0 generic, A3 to read-memory, A7 to get-property
+///     1  u8   flags, 1: data packets follow
 ///     2  u8   reserved, 0
 ///     3  u8   parameter count
 ///     4       parameters, u32 each; generic: status and command tag; get-property: status and value
 ///
 /// @param parameters as bytes; a length that is no multiple of 4 is sent as it stands
-QByteArray encodeResponse(quint8 tag, const QByteArray &parameters);
+QByteArray encodeResponse(quint8 tag, const QByteArray &parameters, quint8 flags = 0);
 
 QByteArray littleEndian(std::initializer_list<quint32> words);
 
@@ -48,7 +48,7 @@ QByteArray littleEndian(std::initializer_list<quint32> words);
 class PacketReader
 {
 public:
-    enum class Kind { Ping, Command, Data, Damaged };
+    enum class Kind { Ping, Command, Data, Damaged, Ack, Nak, AckAbort };
     struct Packet
     {
         Kind kind;

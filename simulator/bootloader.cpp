@@ -15,11 +15,13 @@ constexpr qsizetype kCommandHeaderBytes = 4;
 enum Tag : quint8 {
     EraseAll = 0x01,
     EraseRegion = 0x02,
+    ReadMemory = 0x03,
     WriteMemory = 0x04,
     GetProperty = 0x07,
     Execute = 0x09,
     Reset = 0x0B,
     GenericResponse = 0xA0,
+    ReadResponse = 0xA3,
     PropertyResponse = 0xA7,
 };
 
@@ -27,12 +29,18 @@ enum Status : quint32 {
     Success = 0,
     InvalidArgument = 4,
     UnknownCommand = 10000,
+    SecurityViolation = 10001,
+    AbortedByHost = 10002,
     RangeInvalid = 10200,
     UnknownProperty = 10300,
 };
 
 constexpr quint32 kVersion = 0x4B020103; // 'K', 2.1.3
 constexpr quint32 kDeviceId = 0x1A2B3C4D;
+/// Bit tag - 1 for each command that is offered.
+constexpr quint32 kCommands = 1U << (EraseAll - 1) | 1U << (EraseRegion - 1) | 1U << (WriteMemory - 1)
+                              | 1U << (GetProperty - 1) | 1U << (Execute - 1) | 1U << (Reset - 1);
+constexpr quint32 kReadCommand = 1U << (ReadMemory - 1);
 
 } // namespace
 
@@ -50,6 +58,7 @@ void Bootloader::enter(qint64 nowNs)
     m_lastAnswerNs = nowNs;
     m_spokenTo = false;
     m_writing = false;
+    m_read.stop();
     m_exit = Exit::None;
 }
 
@@ -104,6 +113,7 @@ void Bootloader::handle(const PacketReader::Packet &packet)
     case PacketReader::Kind::Command:
         m_spokenTo = true;
         m_writing = false;
+        m_read.stop();
         handleCommand(packet.payload);
         break;
     case PacketReader::Kind::Data:
@@ -112,7 +122,49 @@ void Bootloader::handle(const PacketReader::Packet &packet)
     case PacketReader::Kind::Damaged:
         answer(encodeShortPacket(PacketType::Nak));
         break;
+    case PacketReader::Kind::Ack:
+    case PacketReader::Kind::Nak:
+    case PacketReader::Kind::AckAbort:
+        handleShort(packet.kind);
+        break;
     }
+}
+
+/// The host's answers to what is read.
+void Bootloader::handleShort(PacketReader::Kind kind)
+{
+    if (!m_read.isActive())
+        return;
+    if (kind == PacketReader::Kind::AckAbort) {
+        m_read.stop();
+        respond(AbortedByHost, ReadMemory);
+        return;
+    }
+    if (kind == PacketReader::Kind::Ack)
+        m_read.acknowledged();
+    const QByteArray packet = m_read.packet();
+    if (!packet.isEmpty()) {
+        answer(packet);
+        return;
+    }
+    m_read.stop();
+    respond(Success, ReadMemory);
+}
+
+void Bootloader::answerRead(quint32 address, quint32 count)
+{
+    const quint32 status = m_faults.locked                     ? SecurityViolation
+                           : !m_faults.readsMemory             ? UnknownCommand
+                           : !m_flash.contains(address, count) ? RangeInvalid
+                                                               : Success;
+    if (!m_faults.readsMemory && !m_faults.locked) {
+        respond(status, ReadMemory);
+        return;
+    }
+    const bool follows = status == Success;
+    answer(encodeResponse(ReadResponse, littleEndian({status, follows ? count : 0}), follows ? 1 : 0));
+    if (follows)
+        m_read.begin(m_flash.read(address, count), m_settings.packetBytes);
 }
 
 void Bootloader::handleCommand(const QByteArray &payload)
@@ -124,7 +176,9 @@ void Bootloader::handleCommand(const QByteArray &payload)
     }
     const auto tag = quint8(payload[0]);
     const qsizetype count = quint8(payload[3]);
-    const qsizetype needed = tag == EraseRegion || tag == WriteMemory ? 2 : tag == GetProperty ? 1 : 0;
+    const qsizetype needed = tag == EraseRegion || tag == ReadMemory || tag == WriteMemory ? 2
+                             : tag == GetProperty                                          ? 1
+                                                                                           : 0;
     if (payload.size() != kCommandHeaderBytes + 4 * count || count < needed) {
         respond(InvalidArgument, tag);
         return;
@@ -138,6 +192,9 @@ void Bootloader::handleCommand(const QByteArray &payload)
         break;
     case EraseRegion:
         respond(erase(parameter(0), parameter(1)), tag, m_faults.eraseMs);
+        break;
+    case ReadMemory:
+        answerRead(parameter(0), parameter(1));
         break;
     case WriteMemory:
         respond(beginWrite(parameter(0), parameter(1)), tag);
@@ -188,13 +245,14 @@ void Bootloader::handleData(const QByteArray &payload)
     ++m_packets;
     ++m_refusedPackets;
     BootFaults::Verdict verdict = m_faults.judge();
-    const auto isTaken = [&verdict] {
-        return verdict == BootFaults::Verdict::Take || verdict == BootFaults::Verdict::Late;
-    };
-    if (isTaken() && payload.size() > m_settings.packetBytes)
-        verdict = BootFaults::Verdict::Refuse;
-    if (isTaken() && quint32(payload.size()) > m_writeLeft)
-        verdict = BootFaults::Verdict::Abort;
+    const bool isTooLarge = payload.size() > m_settings.packetBytes;
+    if (verdict != BootFaults::Verdict::Ignore && verdict != BootFaults::Verdict::Power) {
+        if (isTooLarge)
+            verdict = BootFaults::Verdict::Refuse;
+        else if (quint32(payload.size()) > m_writeLeft)
+            verdict = BootFaults::Verdict::Abort;
+    }
+    QByteArray taken = payload;
     switch (verdict) {
     case BootFaults::Verdict::Ignore:
         return;
@@ -202,23 +260,46 @@ void Bootloader::handleData(const QByteArray &payload)
         answer(encodeShortPacket(PacketType::Nak));
         return;
     case BootFaults::Verdict::Abort:
+    case BootFaults::Verdict::Status:
         m_writing = false;
         answer(encodeShortPacket(PacketType::AckAbort));
+        if (verdict == BootFaults::Verdict::Status)
+            respond(m_faults.endStatus, WriteMemory);
         return;
+    case BootFaults::Verdict::Drop:
+        answer(encodeShortPacket(PacketType::Ack));
+        return;
+    case BootFaults::Verdict::Power:
+        m_flash.program(m_writeAddress, taken.left(taken.size() / 2));
+        m_writing = false;
+        m_answers.clear();
+        m_exit = Exit::PowerCut;
+        return;
+    case BootFaults::Verdict::Flip:
+        taken[taken.size() / 2] = char(taken[taken.size() / 2] ^ 0x10);
+        break;
     case BootFaults::Verdict::Take:
     case BootFaults::Verdict::Late:
+    case BootFaults::Verdict::NoAck:
         break;
     }
     --m_refusedPackets;
-    m_flash.program(m_writeAddress, payload);
-    m_writeAddress += quint32(payload.size());
-    m_writeLeft -= quint32(payload.size());
-    answer(encodeShortPacket(PacketType::Ack), verdict == BootFaults::Verdict::Late ? m_faults.lateMs : 0);
+    program(taken);
+    if (verdict != BootFaults::Verdict::NoAck)
+        answer(encodeShortPacket(PacketType::Ack), verdict == BootFaults::Verdict::Late ? m_faults.lateMs : 0);
     if (m_writeLeft == 0) {
         m_writing = false;
         m_firmwareWhole = true;
-        respond(Success, WriteMemory);
+        if (verdict != BootFaults::Verdict::NoAck)
+            respond(Success, WriteMemory);
     }
+}
+
+void Bootloader::program(QByteArrayView bytes)
+{
+    m_flash.program(m_writeAddress, bytes);
+    m_writeAddress += quint32(bytes.size());
+    m_writeLeft -= quint32(bytes.size());
 }
 
 void Bootloader::answerProperty(quint32 property)
@@ -229,8 +310,10 @@ void Bootloader::answerProperty(quint32 property)
         {0x03, flash.base},
         {0x04, flash.size},
         {0x05, flash.sector},
+        {0x07, kCommands | (m_faults.readsMemory ? kReadCommand : 0)},
         {0x0B, quint32(m_settings.packetBytes)},
         {0x10, kDeviceId},
+        {0x11, m_faults.locked ? 0xC33CC33C : 0x5AA55AA5},
     };
     const auto *const row =
         std::find_if(std::begin(values), std::end(values), [property](const auto &v) { return v.first == property; });

@@ -6,6 +6,7 @@
 
 #include "simulator/boot_faults.h"
 #include "simulator/boot_packets.h"
+#include "simulator/boot_read.h"
 #include "simulator/boot_texts.h"
 #include "simulator/flash_memory.h"
 
@@ -16,8 +17,9 @@ namespace kvsim {
 /// whole (erased, or written in part), it stays.
 ///
 /// Every command is acknowledged and answered by a response packet; the data packets of a write are acknowledged one by
-/// one, the last one with a response as well. It does not wait for acknowledges of its host. A packet that is left
-/// incomplete for kPacketTimeoutNs is forgotten, and a command ends the data phase of the one before.
+/// one, the last one with a response as well. It waits for acknowledges of its host only while it sends memory. A
+/// packet that is left incomplete for kPacketTimeoutNs is forgotten, and a command ends the data phase of the one
+/// before.
 ///
 /// No port and no clock of its own: bytes and times are handed in, answers handed out. Times are nanoseconds of any
 /// monotonic clock.
@@ -46,7 +48,7 @@ public:
     QByteArray takeAnswers(qint64 nowNs);
 
     /// What the bootloader does next, once its answers are out.
-    enum class Exit { None, Reset, StartFirmware };
+    enum class Exit { None, Reset, StartFirmware, PowerCut };
     Exit exit(qint64 nowNs) const;
 
     /// Data packets that came in a data phase, refused ones included.
@@ -62,6 +64,9 @@ private:
     void handle(const PacketReader::Packet &packet);
     void handleCommand(const QByteArray &payload);
     void handleData(const QByteArray &payload);
+    void handleShort(PacketReader::Kind kind);
+    void program(QByteArrayView bytes);
+    void answerRead(quint32 address, quint32 count);
     quint32 erase(quint32 address, quint32 count);
     quint32 beginWrite(quint32 address, quint32 count);
     void answerProperty(quint32 property);
@@ -73,6 +78,7 @@ private:
     BootFaults m_faults;
     BootTexts m_texts;
     PacketReader m_reader;
+    BootRead m_read;
     std::multimap<qint64, QByteArray> m_answers; // by the time they are due
     qint64 m_nowNs = 0;
     qint64 m_lastByteNs = 0;   // heard

@@ -9,6 +9,7 @@ namespace {
 constexpr char kOk[] = "OK\r\n";
 constexpr char kError[] = "ERROR\r\n";
 constexpr char kBuildLine[] = "build 2026-03-02\r\n";
+constexpr char kBuildMark[] = "build "; // a date follows
 constexpr int kMaxId = 255;
 
 bool isText(char byte)
@@ -65,6 +66,7 @@ DeviceModel::Progress DeviceModel::advance(qint64 nowNs)
     case Bootloader::Exit::None:
         break;
     case Bootloader::Exit::Reset:
+    case Bootloader::Exit::PowerCut:
         restart(nowNs);
         break;
     case Bootloader::Exit::StartFirmware:
@@ -166,10 +168,23 @@ QByteArray DeviceModel::infoReply() const
     if (m_infoReply == InfoReply::WrongModel)
         reply = m_type.isGateway() ? "ZX900GW V9.9" : "ZX900 V9.9";
     reply += "\r\n";
-    reply += kBuildLine;
+    reply += buildLine();
     if (m_type.uuid != nullptr)
         reply += QByteArray("UUID: ") + m_type.uuid + "\r\n";
     return reply + userConfigReply() + kOk;
+}
+
+/// The build that an image in the flash carries as a text, else that of the factory's firmware.
+QByteArray DeviceModel::buildLine() const
+{
+    constexpr qsizetype kDateBytes = 10;
+    const QByteArray &flash = m_bootloader.flash().contents();
+    const qsizetype at = flash.indexOf(kBuildMark);
+    const QByteArray date = at < 0 ? QByteArray() : flash.mid(at + qsizetype(sizeof kBuildMark) - 1, kDateBytes);
+    const bool isDate =
+        date.size() == kDateBytes && date[4] == '-' && date[7] == '-'
+        && std::all_of(date.begin(), date.end(), [](char c) { return c == '-' || (c >= '0' && c <= '9'); });
+    return isDate ? "build " + date + "\r\n" : QByteArray(kBuildLine);
 }
 
 QByteArray DeviceModel::userConfigReply() const

@@ -75,6 +75,7 @@ private:
     QByteArray execute(const QByteArray &line, qint64 nowNs);
     bool executeAssignment(const QByteArray &name, int value);
     QByteArray infoReply() const;
+    QByteArray buildLine() const;
     QByteArray userConfigReply() const;
 
     const DeviceType &m_type;

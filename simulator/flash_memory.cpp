@@ -45,6 +45,11 @@ bool FlashMemory::program(quint32 address, QByteArrayView bytes)
     return true;
 }
 
+QByteArray FlashMemory::read(quint32 address, quint32 count) const
+{
+    return contains(address, count) ? m_contents.mid(offsetOf(address), qsizetype(count)) : QByteArray();
+}
+
 QString FlashMemory::dump(const QString &path) const
 {
     QSaveFile file(path);

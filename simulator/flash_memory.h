@@ -31,6 +31,9 @@ public:
     /// @return false, with nothing done, when the range is not contained
     bool program(quint32 address, QByteArrayView bytes);
 
+    /// Empty when the range is not contained.
+    QByteArray read(quint32 address, quint32 count) const;
+
     /// Writes all contents, base first, into a file. @return an empty text, or why not
     QString dump(const QString &path) const;
 

@@ -27,8 +27,9 @@ id and AT+MODE are kept over it; CONFIG ATT MODE only after SAVECONFIG.
 
 Bootloader: 50 ms after a restart it listens for --bootloader-wait ms, and starts the
 firmware when nobody talks. Once spoken to, and while the firmware is not whole, it
-stays until a reset or execute command. It answers ping, get property (1 3 4 5 11 16),
-erase all, erase region, write memory with its data phase, execute and reset. The flash
+stays until a reset or execute command. It answers ping, get property (1 3 4 5 7 11 16 17),
+erase all, erase region, read memory, write memory with its data phase, execute and
+reset. An image with the text "build YYYY-MM-DD" in it reports that build. The flash
 is found at --flash-base and at address 0; it keeps what is written while the program
 runs, and "flash dump" writes it into a file.
 

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <optional>
+
 /// What a bootloader tells about itself and its chip. Filled property by property, so that a connect that failed half
 /// way leaves the later ones as they were.
 struct BootloaderFacts
@@ -15,6 +17,17 @@ struct BootloaderFacts
     quint8 versionBugfix = 0;
 };
 
+/// What a bootloader says of itself beyond BootloaderFacts. Older ones answer none of these questions.
+struct BootloaderOffer
+{
+    std::optional<quint32> commands;   ///< bit tag - 1 for each command
+    std::optional<quint32> flashStart; ///< first address of the flash
+    bool isLocked = false;             ///< the chip is secured: reading is refused
+
+    /// The flash can be read back.
+    bool readsMemory() const { return !isLocked && commands && (*commands & 0x04U) != 0; }
+};
+
 /// Steps of the dialogue with a bootloader, in their order.
 enum class BootloaderStep {
     Idle,
@@ -24,6 +37,7 @@ enum class BootloaderStep {
     Erase,
     Write, ///< announcing address and size
     Data,
+    Verify, ///< reading the flash back
     Reset
 };
 
@@ -44,11 +58,13 @@ struct BootloaderOutcome
 {
     BootloaderStep step = BootloaderStep::Idle;
     BootloaderFault fault = BootloaderFault::None;
-    qint64 acknowledgedBytes = 0; ///< of the image
-    /// First status other than 0 that the target answered to erase or write, or behind the data. The dialogue goes on
-    /// regardless; when it fails later, this is the likely reason.
+    qint64 acknowledgedBytes = 0; ///< of the image; nothing is added once the target has ended the data phase
+    /// First status other than 0 that the target answered to erase, write or read, inside the data phase or behind it.
+    /// A download goes on regardless; when it fails later, this is the likely reason.
     quint32 targetStatus = 0;
-    bool isConfirmed = false; ///< the target has answered the whole write behind the last packet
-    int sentPackets = 0;      ///< data packets since the last connect, repeated ones included
-    int repeatedPackets = 0;  ///< those that were sent again
+    bool isEndedByTarget = false; ///< the target has ended the data phase before the image's end, by that status
+    bool isConfirmed = false;     ///< the target has answered the whole write behind the last packet
+    int sentPackets = 0;          ///< data packets since the last connect, repeated ones included
+    int repeatedPackets = 0;      ///< those that were sent again
+    int silentRepeats = 0;        ///< those of them that had no answer: they may have been written twice
 };

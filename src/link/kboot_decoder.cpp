@@ -13,6 +13,9 @@ using namespace framing_packet;
 // first two. Noise without a single start byte must not fill the memory, so beyond this size they are let go.
 constexpr qsizetype kMaxDiscardedBytes = 4096;
 
+/// A letter in every response to a ping.
+constexpr int kPingLetterOffset = 5;
+
 quint16 u16At(const QByteArray &bytes, int offset)
 {
     return qFromLittleEndian<quint16>(bytes.constData() + offset);
@@ -55,6 +58,7 @@ void KbootProtocol::decode(const QByteArray &data)
     m_health.receivedBytes += quint64(data.size());
     for (const char byte : data)
         decodeByte(byte);
+    wakeWait();
     if (m_errorNoted) { // the clock is asked once for a chunk, and for a damaged one only
         m_errorNoted = false;
         m_health.lastErrorMs = QDateTime::currentMSecsSinceEpoch();
@@ -158,7 +162,10 @@ void KbootProtocol::finishPacket()
     m_decodeState = Hunting;
     const quint8 type = quint8(m_frameBuffer.at(1));
     const bool fits = do_crc_check(m_frameBuffer) == u16At(m_frameBuffer, kCrcOffset);
-    if (fits && type == kTypeData) {
+    if (fits && m_read != nullptr && type == kTypeData) {
+        m_health.controlPackets++;
+        m_health.controlBytes += quint64(m_frameBuffer.size());
+    } else if (fits && type == kTypeData) {
         countData();
         m_frameBuffer.remove(0, kHeaderSize);
         emit kbootRecv(m_frameBuffer);
@@ -170,8 +177,12 @@ void KbootProtocol::finishPacket()
         m_health.crcErrorBytes += quint64(m_frameBuffer.size());
         noteError(LinkError::Checksum);
     }
+    if (m_read != nullptr && takeForRead(type, fits))
+        return;
     if (fits)
         m_responseReceived = true;
+    if (type == kTypePingResponse && m_frameBuffer.at(kPingLetterOffset) == 'P')
+        emit pingAnswered();
 }
 
 LinkHealth KbootProtocol::health() const

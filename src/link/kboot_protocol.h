@@ -1,10 +1,16 @@
 #pragma once
 
 #include <QByteArray>
+#include <QElapsedTimer>
 #include <QObject>
+
+#include <functional>
 
 #include "link/bootloader_state.h"
 #include "link/link_health.h"
+
+class MemoryRead;
+class QEventLoop;
 
 /// Deframer of the serial link: a byte-driven state machine that finds framing packets in the stream, checks them and
 /// hands the payload of each good data packet upward; and, in the same packet format, the host's side of the dialogue
@@ -22,8 +28,10 @@
 /// Nothing is reported for bad input, it is only counted; the decoder returns to hunting from the byte that follows and
 /// never looks at a rejected packet's bytes again. A packet may be split over any number of reads.
 ///
-/// The client waits in nested event loops, in steps of 1 ms, so that the port is read and decoded meanwhile. It never
-/// acknowledges what the target sends, and acts on no status word. A command packet's payload:
+/// The client waits in nested event loops, and looks at what came at whole milliseconds after sending. Except while it
+/// reads memory it acknowledges nothing that the target sends. connect() and download() act on no status word; the
+/// steps of an update that is proved by reading back, writeImage() and readMemory(), end at one. A command packet's
+/// payload:
 ///
 ///     offset  width  field
 ///     0       1      command tag
@@ -74,6 +82,22 @@ public:
     /// maximum size, each sent up to `attempts` times, and resets the target. False at the first step that fails.
     bool download(const QByteArray &image, int startAddress, int attempts);
 
+    /// The same without the reset, in packets of at most `packetSize` bytes (0: the target's maximum size). It ends at
+    /// the first status other than 0, and awaits the target's answer to the whole write for up to 1.5 s.
+    bool writeImage(const QByteArray &image, quint32 address, int attempts, int packetSize);
+
+    /// The two bytes that a bootloader answers, and a firmware passes over.
+    static QByteArray pingPacket();
+
+    /// Asks what the bootloader offers beyond its facts. Takes up to 4.5 s when it does not answer.
+    BootloaderOffer inquire();
+
+    /// Reads flash into memory(). False when the target refuses, or what arrives makes no sense; damaged packets are
+    /// asked for again, and after 1.5 s of silence the rest is.
+    bool readMemory(quint32 address, quint32 byteCount);
+    /// What the last readMemory() got, from its address on; less than asked for when it failed.
+    const QByteArray &memory() const { return m_memory; }
+
     /// Lets the target start its firmware. Waits for the response, for at most 1500 ms.
     void restart();
 
@@ -96,6 +120,9 @@ public:
     /// Sends one data packet and waits 200 ms for its acknowledge. Payloads of up to 65535 bytes.
     bool cmd_send_data_packet(const QByteArray &payload);
 
+    /// Announces a read; memory() then takes what comes. See readMemory().
+    bool cmd_flash_read_memory(unsigned int address, unsigned int byteCount);
+
     /// Sends a packet and waits for a response for at most `waits` steps of 1 ms.
     bool serial_send_and_wait_resp(const QByteArray &packet, int waits);
     /// Runs an event loop for `ms` milliseconds.
@@ -110,14 +137,17 @@ signals:
     /// Payload of one good data packet (type 0xA5) without its header. Emitted from inside decode(), in stream order.
     void kbootRecv(QByteArray payload);
 
+    /// A whole response to a ping has come, asked for or not.
+    void pingAnswered();
+
     /// Bytes that this object wants written to the port.
     void serialSend(QByteArray data);
 
     /// The target has acknowledged this share of the image, 0 to 100. After each data packet.
     void downloadProgress(int percent);
 
-    /// A step begins, or the target has acknowledged this many bytes of the image.
-    void downloadAdvanced(BootloaderStep step, qint64 acknowledgedBytes);
+    /// A step begins, or this many bytes of the image have been acknowledged by the target, or read back.
+    void downloadAdvanced(BootloaderStep step, qint64 bytes);
 
 private:
     enum State { Hunting, Type, LengthLow, LengthHigh, CrcLow, CrcHigh, Payload };
@@ -132,14 +162,32 @@ private:
     void noteError(LinkError error);
 
     // client
+    enum class OnStatus { GoOn, End };
+    /// A wait that runs: what it waits for, and the loop to leave when that is there.
+    struct Wait
+    {
+        QEventLoop *loop;
+        const std::function<bool()> *isMet;
+    };
+
+    bool waitFor(const QElapsedTimer &sinceSent, int steps, const std::function<bool()> &isMet);
+    void wakeWait();
+    QByteArray commandPacket(quint8 tag, const QList<quint32> &parameters) const;
+    void beginDownload();
     bool connectSteps();
-    bool downloadSteps(const QByteArray &image, int startAddress, int attempts);
+    bool writeSteps(const QByteArray &image, quint32 address, int attempts, int packetSize, OnStatus onStatus);
     bool sendChunk(const QByteArray &chunk, int attempts);
+    quint8 dataAnswer() const;
+    void awaitStatus(int steps);
+    bool takeForRead(quint8 type, bool fits);
+    bool readPart(quint32 address, quint32 byteCount);
+    std::optional<quint32> offered(quint8 property);
     void begin(BootloaderStep step);
     bool fail(BootloaderFault fault);
     bool isCancelled() const { return m_cancelReason != BootloaderFault::None; }
     void forgetReply();
     bool noteStatus();
+    std::optional<quint32> responseStatus() const;
     QByteArray propertyValue(quint8 property);
 
     QByteArray m_rxStaging;
@@ -152,5 +200,8 @@ private:
 
     BootloaderFacts m_facts;
     BootloaderOutcome m_outcome;
+    QByteArray m_memory;
+    MemoryRead *m_read = nullptr;                           ///< while readMemory() runs
+    const Wait *m_wait = nullptr;                           ///< the innermost
     BootloaderFault m_cancelReason = BootloaderFault::None; ///< of the operation that runs, or ran last
 };

@@ -38,6 +38,7 @@ KvUartPort::KvUartPort(QObject *parent)
     connect(this, &QSerialPort::errorOccurred, this, &KvUartPort::onErrorOccurred, Qt::QueuedConnection);
     connect(m_kboot.get(), &KbootProtocol::kbootRecv, this, &KvUartPort::onKbootRecv);
     connect(m_kboot.get(), &KbootProtocol::serialSend, this, &KvUartPort::serialSend);
+    connect(m_kboot.get(), &KbootProtocol::pingAnswered, this, &KvUartPort::onPingAnswered);
     connect(m_secondTimer.get(), &QTimer::timeout, this, &KvUartPort::onTimer1000ms);
     m_secondTimer->setInterval(kSecondMs);
     m_workerThread->setObjectName(QStringLiteral("KvUartPort")); // as debuggers and process lists show it
@@ -201,6 +202,7 @@ void KvUartPort::clear()
 {
     m_kboot->clear();
     m_bootloaderMode = false;
+    m_hasAskedForBootloader = false;
     const QMutexLocker lock(&m_statsMutex);
     m_health = {};
     m_lastSecond = {};
@@ -213,6 +215,13 @@ bool KvUartPort::connectBootloader()
 {
     if (!beginBootloader())
         return false;
+    const bool connected = connectBusy();
+    endBootloader();
+    return connected;
+}
+
+bool KvUartPort::connectBusy()
+{
     bool connected = false;
     m_kboot->portFailed(BootloaderStep::Restart); // unless connect() is reached
     if (isOpen() && serialSendBlocking(kRestartCommand, kRestartWriteMs)) {
@@ -221,7 +230,6 @@ bool KvUartPort::connectBootloader()
         connected = isOpen() && m_kboot->connect();
     }
     m_bootloaderMode = connected;
-    endBootloader();
     return connected;
 }
 
@@ -257,6 +265,63 @@ void KvUartPort::startDownloadBootloader(const QByteArray &image, int startAddr,
 {
     if (!m_bootloaderBusy)
         emit bootloaderDownloadFinished(downloadBootloader(image, startAddr, retry));
+}
+
+void KvUartPort::askForBootloader()
+{
+    if (!isOpen() || m_bootloaderBusy)
+        return;
+    m_hasAskedForBootloader = true;
+    serialSend(KbootProtocol::pingPacket());
+}
+
+void KvUartPort::onPingAnswered()
+{
+    if (!std::exchange(m_hasAskedForBootloader, false) || m_bootloaderBusy)
+        return;
+    m_bootloaderMode = true;
+    emit bootloaderHeard();
+}
+
+void KvUartPort::runBootloaderTask(const BootloaderTask &task)
+{
+    BootloaderResult result;
+    result.kind = task.kind;
+    if (beginBootloader()) {
+        if (isOpen())
+            result.success = doTask(task, result);
+        else
+            m_kboot->portFailed(BootloaderStep::Idle);
+        result.facts = m_kboot->facts();
+        result.outcome = m_kboot->outcome();
+        endBootloader();
+    }
+    emit bootloaderTaskFinished(result);
+}
+
+bool KvUartPort::doTask(const BootloaderTask &task, BootloaderResult &result)
+{
+    switch (task.kind) {
+    case BootloaderTask::Kind::Connect:
+        return connectBusy();
+    case BootloaderTask::Kind::Inquire:
+        result.offer = m_kboot->inquire();
+        return isOpen();
+    case BootloaderTask::Kind::Write:
+        m_bootloaderMode = true;
+        return m_kboot->writeImage(task.image, task.address, task.attempts, task.packetSize);
+    case BootloaderTask::Kind::Read: {
+        m_bootloaderMode = true;
+        const bool complete = m_kboot->readMemory(task.address, task.byteCount);
+        result.memory = m_kboot->memory();
+        return complete;
+    }
+    case BootloaderTask::Kind::Restart:
+        m_kboot->restart();
+        m_bootloaderMode = false;
+        return isOpen();
+    }
+    return false;
 }
 
 void KvUartPort::cancelBootloader()

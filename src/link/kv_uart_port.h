@@ -8,6 +8,7 @@
 #include <atomic>
 #include <memory>
 
+#include "link/bootloader_task.h"
 #include "link/link_health.h"
 
 class KbootProtocol;
@@ -88,8 +89,13 @@ public slots:
     /// The same for a queued call: the result comes by bootloaderDownloadFinished(). While another operation runs the
     /// call is dropped; that operation's end is what is told.
     void startDownloadBootloader(const QByteArray &image, int startAddr, int retry);
-    /// Ends the connect or download that runs, with the fault `Stopped`; nothing happens when none does. For a queued
-    /// call, which the operation's own event loop takes.
+    /// Sends a ping and nothing else; bootloaderHeard() follows when a bootloader is there.
+    void askForBootloader();
+    /// Does one part of an update, for a queued call; bootloaderTaskFinished() follows in any case. It fails at once
+    /// when the port is closed and while another operation runs.
+    void runBootloaderTask(const BootloaderTask &task);
+    /// Ends the connect, download or task that runs, with the fault `Stopped`; nothing happens when none does. For a
+    /// queued call, which the operation's own event loop takes.
     void cancelBootloader();
 
 signals:
@@ -103,6 +109,10 @@ signals:
     void errorOpenPort();
     /// How startDownloadBootloader() ended.
     void bootloaderDownloadFinished(bool success);
+    /// A bootloader has answered askForBootloader(). It can be restarted or connected to.
+    void bootloaderHeard();
+    /// How a task ended.
+    void bootloaderTaskFinished(const BootloaderResult &result);
 
 private slots:
     void threadStarted();
@@ -110,6 +120,7 @@ private slots:
     void onReadyRead();
     void onErrorOccurred(QSerialPort::SerialPortError error);
     void onKbootRecv(const QByteArray &payload);
+    void onPingAnswered();
     void onTimer1000ms();
 
 private:
@@ -119,6 +130,8 @@ private:
     void publishHealth();
     void moveAllTo(QThread *target);
     void writeCounted(const QByteArray &data);
+    bool connectBusy();
+    bool doTask(const BootloaderTask &task, BootloaderResult &result);
     bool beginBootloader();
     void endBootloader();
 
@@ -127,8 +140,9 @@ private:
     std::unique_ptr<QThread> m_workerThread;
     QString m_portName;
     int m_baudRate = 0;
-    bool m_startPending = false;             ///< openUART() has asked for a start that has not run yet
-    bool m_bootloaderMode = false;           ///< connected to a bootloader, or trying to
+    bool m_startPending = false;   ///< openUART() has asked for a start that has not run yet
+    bool m_bootloaderMode = false; ///< connected to a bootloader, or trying to
+    bool m_hasAskedForBootloader = false;
     bool m_moveHomeAfterwards = false;       ///< the thread was stopped inside a wait of the bootloader client
     std::atomic<bool> m_workerEnded = false; ///< orders all that the worker did before what follows a wait for its end
     std::atomic<bool> m_bootloaderBusy = false; ///< orders what the client has written before other threads' looks

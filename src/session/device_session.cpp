@@ -50,6 +50,7 @@ DeviceSession::DeviceSession(QObject *owner)
     connect(m_port.get(), &KvUartPort::kbootRecv, this, &DeviceSession::takePayload);
     connect(m_port.get(), &QSerialPort::errorOccurred, this, &DeviceSession::onError);
     connect(m_port.get(), &KvUartPort::bootloaderDownloadFinished, this, &DeviceSession::onDownloadFinished);
+    connect(m_port.get(), &KvUartPort::bootloaderHeard, this, &DeviceSession::onBootloaderHeard);
     connect(m_dispatcher, &StreamDispatcher::singleNodeFrame, m_recorder, &Recorder::imuPackage0x91);
     connect(m_dispatcher, &StreamDispatcher::gatewayBatch62, m_recorder, &Recorder::imuPackage0x62);
     connect(m_dispatcher, &StreamDispatcher::gatewayBatch63, m_recorder, &Recorder::imuPackage0x63);
@@ -77,8 +78,11 @@ Refusal DeviceSession::refusal(SessionAction action) const
     case SessionAction::SendCommand:
     case SessionAction::TryBaudRates:
         return m_commands->isBusy() || m_search ? Refusal::CommandRuns : Refusal::None;
+    case SessionAction::ConnectBootloader:
+    case SessionAction::RestartDevice:
+        return m_isLineLent ? Refusal::Updating : Refusal::None;
     case SessionAction::Download:
-        return m_bootloaderConnected ? Refusal::None : Refusal::NoBootloader;
+        return m_isLineLent ? Refusal::Updating : m_bootloaderConnected ? Refusal::None : Refusal::NoBootloader;
     default:
         return Refusal::None;
     }
@@ -154,6 +158,7 @@ void DeviceSession::endConnection()
     m_recorder->setLinkOpen(false); // ends a recording: flushed and closed
     m_monitor->close();
     m_bootloaderConnected = false;
+    m_isLineLent = false;
     m_readsAfterUpdate = 0;
     m_infoDeferred = false;
     clearDevice();
@@ -228,6 +233,33 @@ void DeviceSession::endReading(bool answered)
     } else if (!m_device.valid && !m_retryTimer.isActive()) {
         m_retryTimer.start();
     }
+    if (!answered && !m_search)
+        lookForBootloader();
+}
+
+/// A bootloader is silent, and answers no text.
+void DeviceSession::lookForBootloader()
+{
+    if (m_state == SessionState::Silent && !m_commands->isBusy())
+        QMetaObject::invokeMethod(m_port.get(), &KvUartPort::askForBootloader, Qt::QueuedConnection);
+}
+
+void DeviceSession::onBootloaderHeard()
+{
+    if (m_state != SessionState::Silent && m_state != SessionState::Identifying)
+        return;
+    endSearch(false);
+    enterBootloader();
+    emit stateChanged();
+    emit bootloaderFound();
+}
+
+void DeviceSession::enterBootloader()
+{
+    m_retryTimer.stop();
+    m_bootloaderConnected = false;
+    setState(SessionState::Bootloader);
+    m_commands->suspend(true); // what runs is ended first
 }
 
 /// The device that somebody has read just now, here or in the settings window.
@@ -328,10 +360,7 @@ bool DeviceSession::connectBootloader()
         return false;
     endSearch(false);
     const bool wasThere = m_state == SessionState::Bootloader;
-    m_retryTimer.stop();
-    m_bootloaderConnected = false;
-    setState(SessionState::Bootloader);
-    m_commands->suspend(true); // what runs is ended first
+    enterBootloader();
     bool connected = false;
     QMetaObject::invokeMethod(m_port.get(), "connectBootloader", Qt::BlockingQueuedConnection,
                               Q_RETURN_ARG(bool, connected));
@@ -385,6 +414,34 @@ bool DeviceSession::restartDevice()
     return restarted;
 }
 
+bool DeviceSession::lendLine()
+{
+    if (!allows(SessionAction::ConnectBootloader))
+        return false;
+    endSearch(false);
+    enterBootloader();
+    m_isLineLent = true;
+    emit stateChanged();
+    return true;
+}
+
+void DeviceSession::setLineWriting(bool writes)
+{
+    if (m_isLineLent)
+        setState(writes ? SessionState::Updating : SessionState::Bootloader);
+}
+
+void DeviceSession::returnLine(bool firmwareStarts)
+{
+    if (!std::exchange(m_isLineLent, false))
+        return;
+    if (firmwareStarts)
+        leaveBootloader();
+    else
+        setState(SessionState::Bootloader);
+    emit stateChanged();
+}
+
 /// The firmware runs again, or is about to; it may be another one.
 void DeviceSession::leaveBootloader()
 {
@@ -420,7 +477,7 @@ void DeviceSession::takePayload(const QByteArray &payload)
     case SessionState::Closing:
         return;
     case SessionState::Bootloader:
-        if (m_bootloaderConnected)
+        if (m_bootloaderConnected || m_isLineLent)
             return;
         break;
     default:

@@ -71,6 +71,15 @@ public:
     /// Has the bootloader start the firmware. Blocks for up to 2 s.
     bool restartDevice();
 
+    /// Lends the line to a procedure that talks to the bootloader through port() by itself, from a device's restart
+    /// into its bootloader on: nothing else is sent, and no payload is parsed, until returnLine(). Refused as
+    /// ConnectBootloader is.
+    bool lendLine();
+    /// While it writes, nothing may take the line away.
+    void setLineWriting(bool writes);
+    /// `firmwareStarts`: the device has been reset, and is asked what it is. Else its bootloader stays.
+    void returnLine(bool firmwareStarts);
+
     QString portName() const { return m_portName; }
     int baudRate() const { return m_baudRate; }
     /// Milliseconds since the port was opened; 0 when it is closed.
@@ -132,6 +141,8 @@ signals:
     /// All samples of a gateway's batch.
     void batchReceived(const QList<StreamSample> &samples);
     void downloadFinished(bool success);
+    /// A device that was silent runs its bootloader: it has answered a ping, which is all that it was sent.
+    void bootloaderFound();
     /// `found`: the port is open at a rate that fits.
     void baudSearchEnded(bool found);
 
@@ -150,6 +161,9 @@ private:
     void resolvePreset();
     void tryNextRate();
     void endSearch(bool found);
+    void lookForBootloader();
+    void onBootloaderHeard();
+    void enterBootloader();
     void leaveBootloader();
     void leaveDeviceStreaming();
     void checkSilence();
@@ -187,6 +201,7 @@ private:
     int m_readsAfterUpdate = 0; ///< readings still allowed to interrupt the stream of new firmware
     bool m_commandBusy = false;
     bool m_bootloaderConnected = false;
+    bool m_isLineLent = false;
     std::optional<BaudSearch> m_search;
 
     DetectedDevice m_device;

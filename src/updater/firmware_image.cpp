@@ -4,8 +4,6 @@
 #include <QFileInfo>
 #include <QTextStream>
 
-#include "updater/hex2bin.h"
-
 namespace {
 
 constexpr quint32 kNoAddress = 0xFFFFFFFF; ///< no file has been loaded in this run
@@ -43,6 +41,7 @@ FirmwareImage::Problem FirmwareImage::load()
     m_shownFile = stamp;
     m_shown = image;
     m_fileAddress = hex2bin::first_data_addr();
+    m_cut = hex2bin::cut();
     return Problem::None;
 }
 
@@ -59,6 +58,7 @@ void FirmwareImage::look()
     QTextStream in(&file);
     m_shown = hex2bin::preview(in);
     m_fileAddress = hex2bin::first_data_addr();
+    m_cut = hex2bin::cut();
 }
 
 quint32 FirmwareImage::targetAddress() const

@@ -5,6 +5,7 @@
 #include <QList>
 #include <QString>
 
+#include "updater/hex2bin.h"
 #include "updater/image_check.h"
 
 /// The image file of a firmware update: which one it is, what it holds and what could be wrong with it. It is loaded
@@ -40,6 +41,8 @@ public:
     quint32 fileAddress() const { return m_fileAddress; }
     /// Where it is going to be written: where the first image of this run was.
     quint32 targetAddress() const;
+    /// Why what is shown may be less than the file's maker meant.
+    hex2bin::Cut cut() const { return m_cut; }
     /// The file is another one than when it was loaded.
     bool hasChanged() const;
     /// Doubts about what is shown, for a target with `flashSizeKb` of flash; below 1: not known.
@@ -64,4 +67,5 @@ private:
     File m_shownFile;
     QByteArray m_shown;
     quint32 m_fileAddress = 0;
+    hex2bin::Cut m_cut = hex2bin::Cut::None;
 };

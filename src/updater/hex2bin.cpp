@@ -9,21 +9,27 @@ namespace {
 constexpr quint32 kNoAddress = 0xFFFFFFFF;
 constexpr int kDataOffset = 4;
 constexpr quint8 kDataRecord = 0;
+constexpr quint8 kEndRecord = 1;
 constexpr quint8 kSegmentRecord = 2;
 constexpr quint8 kLinearRecord = 4;
 /// Characters of a line, far above the 521 of the longest record: a file without line ends is no HEX file.
 constexpr qint64 kMaxLine = 4096;
 /// Gaps that are logged one by one. A file may be made of nothing else, and every line opens the log anew.
 constexpr int kMaxGapLines = 1000;
+/// Lines behind the image's end that are looked at.
+constexpr int kMaxRestLines = 100'000;
+constexpr quint64 kAddressSpace = quint64(1) << 32;
 
-quint32 absoluteAddrLocal = 0; ///< address of the next data byte; 0: no data yet
+quint64 absoluteAddrLocal = 0; ///< address of the next data byte; 0: no data yet
 quint32 ExLineAddr = 0;        ///< upper bits of the address
 quint32 ExStageAddr = 0;       ///< offset of the segment
 quint32 s_start_addr = kNoAddress;
 quint32 firstDataAddr = kNoAddress;
 int gapLines = 0; ///< of this conversion
+hex2bin::Cut lastCut = hex2bin::Cut::None;
 
-enum class LineResult { Next, End, Failed };
+/// What a line does to the conversion; the last four end it.
+enum class LineResult { Next, EndRecord, NoDigits, OtherRecord, Failed };
 
 bool isRecord(const QByteArray &bytes)
 {
@@ -44,7 +50,9 @@ LineResult appendData(const QByteArray &record, QByteArray &image)
     const quint32 count = quint8(record.at(0));
     const quint32 offset = qFromBigEndian<quint16>(record.constData() + 1);
     const quint64 address = ExStageAddr == 0 ? offset | ExLineAddr : offset + ExStageAddr;
-    if (address + count > kNoAddress) {
+    // An image that begins with the last byte there is would have the address that stands for none.
+    const bool isNowhere = firstDataAddr == kNoAddress && address == kNoAddress;
+    if (address + count > kAddressSpace || isNowhere) {
         AppLog::logfile(QtWarningMsg, QStringLiteral("hex2bin, record beyond the address space"));
         return LineResult::Failed;
     }
@@ -53,14 +61,14 @@ LineResult appendData(const QByteArray &record, QByteArray &image)
     if (firstDataAddr == kNoAddress)
         firstDataAddr = quint32(address);
     if (absoluteAddrLocal == 0)
-        absoluteAddrLocal = quint32(address);
+        absoluteAddrLocal = address;
     if (address < absoluteAddrLocal) {
         AppLog::logfile(QtWarningMsg, QStringLiteral("hex2bin, records run backwards: 0x%1 behind 0x%2")
                                           .arg(address, 8, 16, QLatin1Char('0'))
                                           .arg(absoluteAddrLocal, 8, 16, QLatin1Char('0')));
         return LineResult::Failed;
     }
-    const quint32 gap = quint32(address) - absoluteAddrLocal;
+    const auto gap = quint32(address - absoluteAddrLocal);
     if (image.size() + qint64(gap) + count > hex2bin::kMaxImageSize) {
         AppLog::logfile(
             QtWarningMsg,
@@ -81,7 +89,7 @@ LineResult takeLine(const QString &line, QByteArray &image)
 {
     const QByteArray bytes = QByteArray::fromHex(line.toLatin1());
     if (bytes.isEmpty() && line.size() < kMaxLine)
-        return LineResult::End;
+        return LineResult::NoDigits;
     if (line.size() >= kMaxLine || !isRecord(bytes)) {
         AppLog::logfile(QtWarningMsg, QStringLiteral("hex2bin, read_hex_line failed"));
         return LineResult::Failed;
@@ -89,8 +97,10 @@ LineResult takeLine(const QString &line, QByteArray &image)
     const quint8 type = quint8(bytes.at(3));
     if (type == kDataRecord)
         return appendData(bytes, image);
+    if (type == kEndRecord)
+        return LineResult::EndRecord;
     if (type != kSegmentRecord && type != kLinearRecord)
-        return LineResult::End;
+        return LineResult::OtherRecord;
     if (quint8(bytes.at(0)) < 2) {
         AppLog::logfile(QtWarningMsg, QStringLiteral("hex2bin, address record without an address"));
         return LineResult::Failed;
@@ -99,6 +109,29 @@ LineResult takeLine(const QString &line, QByteArray &image)
     ExStageAddr = type == kSegmentRecord ? value << 2 : 0;
     ExLineAddr = type == kLinearRecord ? value << 16 : 0;
     return LineResult::Next;
+}
+
+/// Looks behind the line that has ended an image.
+hex2bin::Cut cutBy(LineResult last, QTextStream &rest)
+{
+    bool endSeen = last == LineResult::EndRecord;
+    for (int i = 0; i < kMaxRestLines && !rest.atEnd(); ++i) {
+        const QByteArray bytes = QByteArray::fromHex(rest.readLine(kMaxLine).toLatin1());
+        if (bytes.size() <= kDataOffset || !isRecord(bytes))
+            continue;
+        endSeen = endSeen || quint8(bytes.at(3)) == kEndRecord;
+        if (quint8(bytes.at(3)) != kDataRecord || bytes.at(0) == 0)
+            continue;
+        switch (last) {
+        case LineResult::EndRecord:
+            return hex2bin::Cut::DataAfterEnd;
+        case LineResult::OtherRecord:
+            return hex2bin::Cut::OtherRecordInside;
+        default:
+            return hex2bin::Cut::BlankLineInside;
+        }
+    }
+    return endSeen ? hex2bin::Cut::None : hex2bin::Cut::NoEndRecord;
 }
 
 } // namespace
@@ -110,15 +143,15 @@ QByteArray hex2bin::convert(QTextStream &in)
     ExStageAddr = 0;
     firstDataAddr = kNoAddress;
     gapLines = 0;
+    lastCut = Cut::None;
     QByteArray image;
     for (;;) {
-        switch (takeLine(in.readLine(kMaxLine), image)) {
-        case LineResult::Next:
-            break;
-        case LineResult::End:
-            return image;
-        case LineResult::Failed:
+        const LineResult result = takeLine(in.readLine(kMaxLine), image);
+        if (result == LineResult::Failed)
             return {};
+        if (result != LineResult::Next) {
+            lastCut = cutBy(result, in);
+            return image;
         }
     }
 }
@@ -139,4 +172,9 @@ QByteArray hex2bin::preview(QTextStream &in)
 unsigned int hex2bin::first_data_addr()
 {
     return firstDataAddr;
+}
+
+hex2bin::Cut hex2bin::cut()
+{
+    return lastCut;
 }

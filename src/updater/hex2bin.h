@@ -35,4 +35,14 @@ QByteArray preview(QTextStream &in);
 /// Address of the first data record of the last conversion or preview; 0xFFFFFFFF without one.
 unsigned int first_data_addr();
 
+/// Why the last conversion or preview may have less than the file's maker meant.
+enum class Cut {
+    None,
+    NoEndRecord,       ///< the file ends without an end record: perhaps a part of it is missing
+    BlankLineInside,   ///< data follow behind a line without digits, where the image ends
+    OtherRecordInside, ///< data follow behind a start address or an unknown record, where the image ends
+    DataAfterEnd       ///< data follow behind the end record
+};
+Cut cut();
+
 } // namespace hex2bin

@@ -156,6 +156,8 @@ QString updater_text::step(BootloaderStep step)
         return Text::tr("Preparing to write…");
     case BootloaderStep::Data:
         return Text::tr("Writing the image…");
+    case BootloaderStep::Verify:
+        return Text::tr("Reading the flash back…");
     case BootloaderStep::Reset:
         return Text::tr("Restarting the device…");
     }

@@ -98,8 +98,10 @@ private slots:
              begun + kPong + kAck + response(0, 1) + kAbort},
             {"reset is the end", words(0x0B, {}) + kPing, kAck + response(0, 0x0B)}};
         const std::tuple<const char *, quint32, quint32, quint32> properties[] = {
-            {"version", 0x01, 0x4B020103, 0},    {"flash start", 0x03, kBase, 0}, {"flash size", 0x04, 64 * 1024, 0},
-            {"sector size", 0x05, 1024, 0},      {"packet size", 0x0B, 32, 0},    {"device id", 0x10, 0x1A2B3C4D, 0},
+            {"version", 0x01, 0x4B020103, 0},    {"flash start", 0x03, kBase, 0},
+            {"flash size", 0x04, 64 * 1024, 0},  {"sector size", 0x05, 1024, 0},
+            {"packet size", 0x0B, 32, 0},        {"device id", 0x10, 0x1A2B3C4D, 0},
+            {"commands", 0x07, 0x54F, 0},        {"not locked", 0x11, 0x5AA55AA5, 0},
             {"unknown property", 0x77, 0, 10300}};
         for (const auto &[name, tag, value, status] : properties)
             rows.append({name, words(7, {tag}), kAck + words(0xA7, {status, value})});
@@ -173,6 +175,56 @@ private slots:
             QVERIFY2(texts.commands() == quint64(commands) && texts.betweenData() == quint64(inData), name);
             QVERIFY2(texts.restarts() == quint64(restarts) && texts.last().join('|') == last, name);
         }
+    }
+
+    // The answer to the packet, what of the flash is right then, and whether the data phase goes on.
+    void faultsOfAPacket()
+    {
+        const QByteArray image = pattern(96);
+        const std::tuple<const char *, Verdict, QByteArray, QByteArray, bool> rows[] = {
+            {"never acknowledged", Verdict::NoAck, {}, image.mid(32, 32), true},
+            {"flipped", Verdict::Flip, kAck, image.mid(32, 16) + char(image[48] ^ 0x10) + image.mid(49, 15), true},
+            {"dropped", Verdict::Drop, kAck, image.mid(64, 32), true},
+            {"status", Verdict::Status, kAbort + response(105, 4), QByteArray(32, '\xFF'), false},
+            {"power cut", Verdict::Power, {}, image.mid(32, 16) + QByteArray(16, '\xFF'), false}};
+        for (const auto &[name, verdict, answer, second, goesOn] : rows) {
+            Target target;
+            target.ask(words(2, {kBase, 96}) + words(4, {kBase, 96}));
+            target.ask(frames::packet(image.left(32)));
+            QVERIFY(target.boot.faults().plan(verdict, QStringLiteral("1")).isEmpty());
+            QVERIFY2(target.ask(frames::packet(image.mid(32, 32))) == answer, name);
+            QVERIFY2((target.exit() == Bootloader::Exit::PowerCut) == (verdict == Verdict::Power), name);
+            const QByteArray third = target.ask(frames::packet(image.mid(64)));
+            QVERIFY2(third.startsWith(kAck) == goesOn, name);
+            QVERIFY2(target.boot.flash().read(kBase, 64) == image.left(32) + second, name);
+        }
+    }
+
+    void readsMemory()
+    {
+        const auto readResponse = [](quint32 status, quint32 count, quint8 flags) {
+            const QByteArray body = frames::Bytes().u8(0xA3).u8(flags).u8(0).u8(2).u32(status).u32(count);
+            return frames::packet(body, 0xA4);
+        };
+        Target target;
+        const QByteArray flash = target.boot.flash().contents();
+        QCOMPARE(target.ask(words(3, {kBase + 5, 40})), kAck + readResponse(0, 40, 1));
+        QCOMPARE(target.ask(kAck), frames::packet(flash.mid(5, 32)));
+        QCOMPARE(target.ask({}, 500), QByteArray());
+        QCOMPARE(target.ask(kNak), frames::packet(flash.mid(5, 32)));
+        QCOMPARE(target.ask(kAck), frames::packet(flash.mid(37, 8)));
+        QCOMPARE(target.ask(kAck), response(0, 3));
+        QCOMPARE(target.ask(kAck), QByteArray());
+
+        target.ask(words(3, {kBase, 40}) + kAck);
+        QCOMPARE(target.ask(kAbort + kAck), response(10002, 3));
+        QCOMPARE(target.ask(words(3, {kBase + 64 * 1024, 1})), kAck + readResponse(10200, 0, 0));
+        target.boot.faults().locked = true;
+        QCOMPARE(target.ask(words(3, {kBase, 1})), kAck + readResponse(10001, 0, 0));
+        target.boot.faults().locked = false;
+        target.boot.faults().readsMemory = false;
+        QCOMPARE(target.ask(words(3, {kBase, 1})), kAck + response(10000, 3));
+        QCOMPARE(target.ask(words(7, {7})), kAck + words(0xA7, {0, 0x54B}));
     }
 
     void staysWithoutFirmware()
@@ -253,7 +305,7 @@ private slots:
         const auto verdicts = [](BootFaults &faults) {
             QByteArray letters;
             for (int i = 0; i < 8; ++i)
-                letters += "TRAI"[int(faults.judge())];
+                letters += "TRAILNFDSP"[int(faults.judge())];
             return letters;
         };
         BootFaults faults(1);

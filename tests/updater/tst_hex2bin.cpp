@@ -77,6 +77,7 @@ private slots:
             {"words end", data(4, "ab") + "xyz --\n" + data(6, "cd"), "ab", 4U, 0},
             {"start address ends", data(4, "ab") + record(5, 0, "abcd") + data(6, "cd"), "ab", 4U, 0},
             {"255 bytes", data(0, QByteArray(255, 'x')) + data(255, "y"), QByteArray(255, 'x') + "y", 0U, 0},
+            {"the last byte there is", ":02000004FFFFFC\n" + data(0xFFF0, sixteen), sixteen, 0xFFFFFFF0U, 0},
             {"no bytes", data(4, {}) + data(4, "ab"), "ab", 4U, 0},
             {"empty", {}, {}, kNone, 0}};
         for (const auto &[name, file, image, address, skipped] : rows) {
@@ -86,6 +87,29 @@ private slots:
             QVERIFY2(skipped == 0 || log.contains("hex2bin, Bytesskipped=" + QByteArray::number(skipped) + "\r\n"),
                      name);
             QCOMPARE(hex2bin::start_addr(), 0x08000000U);
+        }
+    }
+
+    void cutFiles()
+    {
+        using hex2bin::Cut;
+        const QByteArray good = data(4, "ab");
+        const QByteArray start = record(5, 0, "abcd");
+        const std::tuple<const char *, QByteArray, Cut> rows[] = {
+            {"whole", good + kEnd, Cut::None},
+            {"whole, with a start address", good + start + kEnd, Cut::None},
+            {"whole, blank lines at its end", good + kEnd + "\r\n\r\n", Cut::None},
+            {"blank line before the end record", good + "\r\n" + kEnd, Cut::None},
+            {"half of it", good, Cut::NoEndRecord},
+            {"cut behind the start address", good + start, Cut::NoEndRecord},
+            {"cut at blank lines", good + "\n\n\n", Cut::NoEndRecord},
+            {"blank line inside", good + "\r\n" + data(6, "cd") + kEnd, Cut::BlankLineInside},
+            {"start address inside", good + start + data(6, "cd") + kEnd, Cut::OtherRecordInside},
+            {"two files in one", good + kEnd + data(6, "cd") + kEnd, Cut::DataAfterEnd},
+            {"words behind the end", good + kEnd + "made by hand\n", Cut::None}};
+        for (const auto &[name, file, cut] : rows) {
+            convert(file);
+            QVERIFY2(hex2bin::cut() == cut, name);
         }
     }
 
@@ -107,7 +131,10 @@ private slots:
             {data(8, "abcd") + good, "hex2bin, records run backwards: 0x00000000"},
             {good + data(3, "ab"), "backwards: 0x00000003 behind 0x00000004"},
             {good + ":020000041000EA\n" + data(0x10C0, "ab"), "image too large at 0x100010c0, gap=268439740"},
-            {record(4, 0, "\xFF\xFF") + data(0xFFFE, "ab"), "hex2bin, record beyond the address space"}};
+            {record(4, 0, "\xFF\xFF") + data(0xFFFE, "abc"), "hex2bin, record beyond the address space"},
+            {record(4, 0, "\xFF\xFF") + data(0xFFFF, "a"), "hex2bin, record beyond the address space"},
+            {record(4, 0, "\xFF\xFF") + data(0xFFFE, "ab") + record(4, 0, QByteArray(2, '\0')) + data(0, "c"),
+             "records run backwards"}};
         for (const auto &[file, line] : rows) {
             QVERIFY2(convert(file).isEmpty(), file);
             QVERIFY2(logged().contains(line), file);

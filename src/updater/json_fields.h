@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QString>
+#include <QStringList>
+
+/// Reads the fields of a JSON object that may hold anything. A field that is missing, of another kind or out of range
+/// is empty or 0, and makes the whole unfit.
+class JsonFields
+{
+public:
+    static constexpr qsizetype kMaxText = 4096;
+
+    explicit JsonFields(QJsonObject object);
+
+    QString text(const char *name);
+    /// A whole number from 0 on.
+    qint64 number(const char *name, double highest);
+    bool flag(const char *name);
+    QStringList lines(const char *name, int most);
+
+    /// All fields read so far were there, and as they should be.
+    bool fit() const { return m_fits; }
+
+private:
+    QJsonObject m_object;
+    bool m_fits = true;
+};
