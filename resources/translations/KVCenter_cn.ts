@@ -1320,6 +1320,93 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>UpdateReport</name>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>设备</translation>
+    </message>
+    <message>
+        <source>Chip</source>
+        <translation>芯片</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>端口</translation>
+    </message>
+    <message>
+        <source>%1 at %2 baud</source>
+        <translation>%1，%2 波特</translation>
+    </message>
+    <message>
+        <source>Old build</source>
+        <translation>旧版本</translation>
+    </message>
+    <message>
+        <source>New build</source>
+        <translation>新版本</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>地址</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 字节</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>原因</translation>
+    </message>
+    <message>
+        <source>Flash</source>
+        <translation>闪存</translation>
+    </message>
+    <message>
+        <source>Status of the bootloader</source>
+        <translation>引导程序状态</translation>
+    </message>
+    <message>
+        <source>Written</source>
+        <translation>已写入</translation>
+    </message>
+    <message>
+        <source>Packets</source>
+        <translation>数据包</translation>
+    </message>
+    <message>
+        <source>%1 sent, of these %2 again</source>
+        <translation>已发送 %1 个，其中重发 %2 个</translation>
+    </message>
+    <message>
+        <source>Time for writing</source>
+        <translation>写入用时</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>Time for reading back</source>
+        <translation>回读用时</translation>
+    </message>
+</context>
+<context>
     <name>WaveChart</name>
     <message>
         <source>No new samples</source>
@@ -3061,6 +3148,10 @@ Ready to download firmware.
     <message>
         <source>The download was stopped.</source>
         <translation>烧录已停止。</translation>
+    </message>
+    <message>
+        <source>Reading the flash back…</source>
+        <translation>正在回读闪存…</translation>
     </message>
 </context>
 <context>

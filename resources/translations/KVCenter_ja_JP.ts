@@ -1320,6 +1320,93 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>UpdateReport</name>
+    <message>
+        <source>Time</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>デバイス</translation>
+    </message>
+    <message>
+        <source>Chip</source>
+        <translation>チップ</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>ポート</translation>
+    </message>
+    <message>
+        <source>%1 at %2 baud</source>
+        <translation>%1、%2 ボー</translation>
+    </message>
+    <message>
+        <source>Old build</source>
+        <translation>以前のビルド</translation>
+    </message>
+    <message>
+        <source>New build</source>
+        <translation>新しいビルド</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>アドレス</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 バイト</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>理由</translation>
+    </message>
+    <message>
+        <source>Flash</source>
+        <translation>フラッシュ</translation>
+    </message>
+    <message>
+        <source>Status of the bootloader</source>
+        <translation>ブートローダーのステータス</translation>
+    </message>
+    <message>
+        <source>Written</source>
+        <translation>書き込み済み</translation>
+    </message>
+    <message>
+        <source>Packets</source>
+        <translation>パケット</translation>
+    </message>
+    <message>
+        <source>%1 sent, of these %2 again</source>
+        <translation>%1 個送信、うち再送 %2 個</translation>
+    </message>
+    <message>
+        <source>Time for writing</source>
+        <translation>書き込み時間</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>Time for reading back</source>
+        <translation>読み戻し時間</translation>
+    </message>
+</context>
+<context>
     <name>WaveChart</name>
     <message>
         <source>No new samples</source>
@@ -3061,6 +3148,10 @@ Ready to download firmware.
     <message>
         <source>The download was stopped.</source>
         <translation>書き込みを停止しました。</translation>
+    </message>
+    <message>
+        <source>Reading the flash back…</source>
+        <translation>フラッシュを読み戻しています…</translation>
     </message>
 </context>
 <context>

@@ -1320,6 +1320,93 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>UpdateReport</name>
+    <message>
+        <source>Time</source>
+        <translation>시간</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>장치</translation>
+    </message>
+    <message>
+        <source>Chip</source>
+        <translation>칩</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>포트</translation>
+    </message>
+    <message>
+        <source>%1 at %2 baud</source>
+        <translation>%1, %2 보드</translation>
+    </message>
+    <message>
+        <source>Old build</source>
+        <translation>이전 빌드</translation>
+    </message>
+    <message>
+        <source>New build</source>
+        <translation>새 빌드</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>파일</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>주소</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>크기</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1바이트</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>결과</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>이유</translation>
+    </message>
+    <message>
+        <source>Flash</source>
+        <translation>플래시</translation>
+    </message>
+    <message>
+        <source>Status of the bootloader</source>
+        <translation>부트로더 상태</translation>
+    </message>
+    <message>
+        <source>Written</source>
+        <translation>기록됨</translation>
+    </message>
+    <message>
+        <source>Packets</source>
+        <translation>패킷</translation>
+    </message>
+    <message>
+        <source>%1 sent, of these %2 again</source>
+        <translation>%1개 전송, 그중 재전송 %2개</translation>
+    </message>
+    <message>
+        <source>Time for writing</source>
+        <translation>쓰기 시간</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>Time for reading back</source>
+        <translation>다시 읽기 시간</translation>
+    </message>
+</context>
+<context>
     <name>WaveChart</name>
     <message>
         <source>No new samples</source>
@@ -3061,6 +3148,10 @@ Ready to download firmware.
     <message>
         <source>The download was stopped.</source>
         <translation>다운로드가 중지되었습니다.</translation>
+    </message>
+    <message>
+        <source>Reading the flash back…</source>
+        <translation>플래시를 다시 읽는 중…</translation>
     </message>
 </context>
 <context>

@@ -1320,6 +1320,93 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>UpdateReport</name>
+    <message>
+        <source>Time</source>
+        <translation>時間</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>裝置</translation>
+    </message>
+    <message>
+        <source>Chip</source>
+        <translation>晶片</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>連接埠</translation>
+    </message>
+    <message>
+        <source>%1 at %2 baud</source>
+        <translation>%1，%2 鮑</translation>
+    </message>
+    <message>
+        <source>Old build</source>
+        <translation>舊版本</translation>
+    </message>
+    <message>
+        <source>New build</source>
+        <translation>新版本</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>檔案</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>位址</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 位元組</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>原因</translation>
+    </message>
+    <message>
+        <source>Flash</source>
+        <translation>快閃記憶體</translation>
+    </message>
+    <message>
+        <source>Status of the bootloader</source>
+        <translation>啟動載入程式狀態</translation>
+    </message>
+    <message>
+        <source>Written</source>
+        <translation>已寫入</translation>
+    </message>
+    <message>
+        <source>Packets</source>
+        <translation>封包</translation>
+    </message>
+    <message>
+        <source>%1 sent, of these %2 again</source>
+        <translation>已傳送 %1 個，其中重送 %2 個</translation>
+    </message>
+    <message>
+        <source>Time for writing</source>
+        <translation>寫入用時</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>Time for reading back</source>
+        <translation>回讀用時</translation>
+    </message>
+</context>
+<context>
     <name>WaveChart</name>
     <message>
         <source>No new samples</source>
@@ -3061,6 +3148,10 @@ Ready to download firmware.
     <message>
         <source>The download was stopped.</source>
         <translation>燒錄已停止。</translation>
+    </message>
+    <message>
+        <source>Reading the flash back…</source>
+        <translation>正在回讀快閃記憶體…</translation>
     </message>
 </context>
 <context>
