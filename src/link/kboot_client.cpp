@@ -507,7 +507,9 @@ void KbootProtocol::restart()
     m_outcome = {};
     begin(BootloaderStep::Reset);
     cmd_reset();
-    m_outcome.fault = m_cancelReason;
+    m_outcome.fault = m_cancelReason != BootloaderFault::None ? m_cancelReason
+                      : m_responseReceived                    ? BootloaderFault::None
+                                                              : BootloaderFault::NoAnswer;
 }
 
 void KbootProtocol::cancel(BootloaderFault reason)

@@ -235,12 +235,13 @@ bool KvUartPort::connectBusy()
 
 bool KvUartPort::restartFromBootloader()
 {
-    if (!m_bootloaderMode || !beginBootloader())
+    if (!beginBootloader())
         return false;
+    m_bootloaderMode = true;
     if (isOpen())
         m_kboot->restart();
     m_bootloaderMode = false;
-    const bool restarted = isOpen();
+    const bool restarted = isOpen() && m_kboot->outcome().fault == BootloaderFault::None;
     endBootloader();
     return restarted;
 }

@@ -80,8 +80,8 @@ public slots:
     /// Restarts the device into its bootloader and reads the bootloader's facts. Takes up to 4 s. For a blocking queued
     /// call. False when the port is closed, when nobody answers and while another operation runs.
     bool connectBootloader();
-    /// Lets the connected bootloader start the device's firmware. Takes up to 1.5 s. For a blocking queued call. False
-    /// when the port is closed, when no bootloader is connected and while another operation runs.
+    /// Lets a bootloader start the device's firmware. Takes up to 1.5 s. For a blocking queued call. False when the
+    /// port is closed, when nobody confirms it and while another operation runs.
     bool restartFromBootloader();
     /// Writes `image` to the connected bootloader's flash from `startAddr` on, each data packet up to `retry` times.
     /// False when the port is closed, when a step fails and while another operation runs.

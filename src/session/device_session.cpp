@@ -65,6 +65,7 @@ DeviceSession::DeviceSession(QObject *owner)
 
 DeviceSession::~DeviceSession()
 {
+    m_search.reset();
     endConnection();
 }
 
@@ -180,6 +181,8 @@ void DeviceSession::onError(QSerialPort::SerialPortError error)
         return;
     if (m_state == SessionState::Closed || m_state == SessionState::Closing) // an echo of a failure that was reported
         return;
+    if (m_search && m_state == SessionState::Opening && error == QSerialPort::UnsupportedOperationError)
+        return tryNextRate(); // an adapter that does not know this rate
     endSearch(false);
     endConnection();
     AppLog::logfile(QtWarningMsg, QStringLiteral("failed to open serial port."));
@@ -226,14 +229,18 @@ void DeviceSession::endReading(bool answered)
     }
     setState(m_dispatcher->snapshot().has_frame_items && isStreaming() ? SessionState::Live : SessionState::Silent);
     if (m_search) {
-        if (answered || m_state == SessionState::Live)
+        if (answered || m_state == SessionState::Live) {
             endSearch(true);
-        else
+            if (!m_device.valid)
+                m_retryTimer.start();
+        } else {
             QMetaObject::invokeMethod(this, &DeviceSession::tryNextRate, Qt::QueuedConnection);
+        }
     } else if (!m_device.valid && !m_retryTimer.isActive()) {
         m_retryTimer.start();
     }
-    if (!answered && !m_search)
+    // Not after an update: a ping would hold a device that is starting in its bootloader. And noise is none.
+    if (!answered && !m_search && m_readsAfterUpdate == 0 && !m_commands->lastReadWasNoise())
         lookForBootloader();
 }
 
@@ -409,8 +416,10 @@ bool DeviceSession::restartDevice()
     bool restarted = false;
     QMetaObject::invokeMethod(m_port.get(), "restartFromBootloader", Qt::BlockingQueuedConnection,
                               Q_RETURN_ARG(bool, restarted));
-    m_bootloaderConnected = false;
-    leaveBootloader();
+    m_bootloaderConnected = false; // data of the firmware lead out of this state, too
+    if (restarted)
+        leaveBootloader();
+    emit stateChanged();
     return restarted;
 }
 
@@ -505,8 +514,11 @@ void DeviceSession::takePayload(const QByteArray &payload)
 
 void DeviceSession::checkSilence()
 {
-    if (m_state == SessionState::Live && !isStreaming())
-        setState(SessionState::Silent);
+    if (m_state != SessionState::Live || isStreaming())
+        return;
+    setState(SessionState::Silent);
+    if (!m_device.valid)
+        m_retryTimer.start(); // there is no stream left to disturb
 }
 
 bool DeviceSession::isStreaming() const

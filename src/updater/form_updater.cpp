@@ -60,12 +60,13 @@ void form_updater::set_serial_instance(KvUartPort *port)
 /// Connected, downloading, closed: what the session is in has changed, or something else of it.
 void form_updater::onSessionState()
 {
-    if (isConnected() == m_wasConnected && isDownloading() == m_wasDownloading)
+    if (isConnected() == m_wasConnected && isDownloading() == m_wasDownloading && canRestart() == m_couldRestart)
         return;
     if (m_wasConnected && !m_session->isOpen())
         showStatus(tr("The port was closed: connect again before the download."), true);
     m_wasConnected = isConnected();
     m_wasDownloading = isDownloading();
+    m_couldRestart = canRestart();
     m_question.withdraw();
     update_button_states();
 }
@@ -73,6 +74,12 @@ void form_updater::onSessionState()
 bool form_updater::isConnected() const
 {
     return m_session->isBootloaderConnected() && !isDownloading();
+}
+
+/// The device is in its bootloader, or was when it was last heard of.
+bool form_updater::canRestart() const
+{
+    return m_session->allows(SessionAction::RestartDevice);
 }
 
 bool form_updater::isDownloading() const
@@ -139,7 +146,7 @@ void form_updater::reject()
         return;
     }
     QDialog::reject();
-    if (isConnected())
+    if (canRestart())
         m_question.ask(parentWidget() != nullptr ? parentWidget() : this,
                        tr("The device is still in its bootloader: it sends no data until it restarts."),
                        tr("Restart device"), tr("Leave it so"), [this] { on_BTN_restart_clicked(); });
@@ -311,8 +318,8 @@ void form_updater::update_button_states()
     const QString busy = isDownloading() ? tr("A download is running.") : QString();
     for (QPushButton *button : {m_ui->BTN_open_file, m_ui->BTN_connect, m_ui->BTN_close})
         button->setEnabled(!isDownloading());
-    for (QPushButton *button : {m_ui->BTN_download, m_ui->BTN_restart})
-        button->setEnabled(isConnected() && !isDownloading());
+    m_ui->BTN_download->setEnabled(isConnected());
+    m_ui->BTN_restart->setEnabled(canRestart());
     m_ui->BTN_stop->setEnabled(isDownloading() && !m_stopping);
     m_ui->BTN_connect->setText(hasBootloader ? tr("Connected") : tr("Connect"));
     m_ui->BTN_connect->setProperty("connected", hasBootloader);
@@ -325,9 +332,8 @@ void form_updater::update_button_states()
                                    : isConnected() ? tr("Erases the device's firmware and writes the image")
                                                    : tr("Press Connect first."));
     m_ui->BTN_restart->setToolTip(isDownloading() ? busy
-                                  : isConnected()
-                                      ? tr("Ends the bootloader: the device starts the firmware that it has")
-                                      : tr("No bootloader is connected."));
+                                  : canRestart() ? tr("Ends the bootloader: the device starts the firmware that it has")
+                                                 : tr("No bootloader is connected."));
     m_ui->BTN_stop->setToolTip(m_stopping        ? tr("The download is being stopped.")
                                : isDownloading() ? tr("Stops the download; asks first")
                                                  : tr("No download is running."));

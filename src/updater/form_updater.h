@@ -73,6 +73,7 @@ private:
     void showImage();
     void onSessionState();
     bool isConnected() const;
+    bool canRestart() const;
     bool isDownloading() const;
     void showStep();
     void showStatus(const QString &text, bool isProblem);
@@ -84,6 +85,7 @@ private:
     bool m_connecting = false; ///< the session connects; all that could be pressed is disabled
     bool m_wasConnected = false;
     bool m_wasDownloading = false;
+    bool m_couldRestart = false;
     bool m_stopping = false; ///< the running download is to be stopped
 
     // what the window shows beside the log
