@@ -337,7 +337,6 @@ private slots:
         }
         QCOMPARE(simulator.stat("boot_text_commands"), 0);
         QVERIFY(port.restarts());
-        QVERIFY(!port.restarts());
         QTRY_COMPARE(simulator.stat("bootloader"), 0);
         QVERIFY(port.connects() && port.downloads(counting(200)));
         QCOMPARE(simulator.stat("boot_restarts"), 2);
