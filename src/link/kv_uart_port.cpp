@@ -240,8 +240,10 @@ bool KvUartPort::restartFromBootloader()
     m_bootloaderMode = true;
     if (isOpen())
         m_kboot->restart();
+    else
+        m_kboot->portFailed(BootloaderStep::Reset);
     m_bootloaderMode = false;
-    const bool restarted = isOpen() && m_kboot->outcome().fault == BootloaderFault::None;
+    const bool restarted = m_kboot->outcome().fault == BootloaderFault::None;
     endBootloader();
     return restarted;
 }

@@ -62,6 +62,9 @@ public:
     /// The bootloader client, for its signals; and for its facts and outcome while isBootloaderBusy() is false.
     const KbootProtocol *kboot() const { return m_kboot.get(); }
 
+    /// Connected to a bootloader, or trying to. Any thread; after a blocking call of connectBootloader() its result,
+    /// and what that call has written is seen.
+    bool isInBootloaderMode() const { return m_bootloaderMode; }
     /// A connect or download runs. Any thread.
     bool isBootloaderBusy() const { return m_bootloaderBusy; }
 
@@ -140,8 +143,8 @@ private:
     std::unique_ptr<QThread> m_workerThread;
     QString m_portName;
     int m_baudRate = 0;
-    bool m_startPending = false;   ///< openUART() has asked for a start that has not run yet
-    bool m_bootloaderMode = false; ///< connected to a bootloader, or trying to
+    bool m_startPending = false;                ///< openUART() has asked for a start that has not run yet
+    std::atomic<bool> m_bootloaderMode = false; ///< connected to a bootloader, or trying to
     bool m_hasAskedForBootloader = false;
     bool m_moveHomeAfterwards = false;       ///< the thread was stopped inside a wait of the bootloader client
     std::atomic<bool> m_workerEnded = false; ///< orders all that the worker did before what follows a wait for its end

@@ -368,9 +368,8 @@ bool DeviceSession::connectBootloader()
     endSearch(false);
     const bool wasThere = m_state == SessionState::Bootloader;
     enterBootloader();
-    bool connected = false;
-    QMetaObject::invokeMethod(m_port.get(), "connectBootloader", Qt::BlockingQueuedConnection,
-                              Q_RETURN_ARG(bool, connected));
+    QMetaObject::invokeMethod(m_port.get(), "connectBootloader", Qt::BlockingQueuedConnection);
+    const bool connected = m_port->isInBootloaderMode();
     m_bootloaderConnected = connected;
     // A bootloader that had answered before is most likely still there: it is sent no text.
     if (!connected && !wasThere)
@@ -413,9 +412,8 @@ bool DeviceSession::restartDevice()
 {
     if (!allows(SessionAction::RestartDevice))
         return false;
-    bool restarted = false;
-    QMetaObject::invokeMethod(m_port.get(), "restartFromBootloader", Qt::BlockingQueuedConnection,
-                              Q_RETURN_ARG(bool, restarted));
+    QMetaObject::invokeMethod(m_port.get(), "restartFromBootloader", Qt::BlockingQueuedConnection);
+    const bool restarted = bootloaderOutcome().fault == BootloaderFault::None;
     m_bootloaderConnected = false; // data of the firmware lead out of this state, too
     if (restarted)
         leaveBootloader();
