@@ -20,7 +20,7 @@ constexpr QLatin1String kPortSerial("SERIAL/SERIAL_NUMBER");
 constexpr QLatin1String kPortGeometry("SERIAL/GEOMETRY");       ///< size and place of the dialog that asks for it
 constexpr QLatin1String kSettingsGeometry("SETTINGS/GEOMETRY"); ///< of the device settings
 constexpr QLatin1String kRecordPath("RECORD/PATH"); ///< folder and name of the last recording, "<folder>/data.csv"
-constexpr QLatin1String kRecordGeometry("RECORD/GEOMETRY");       ///< size and place of the recording window
+constexpr QLatin1String kRecordGeometry("RECORD/GEOMETRY");          ///< size and place of the recording window
 constexpr QLatin1String kLinkHealthGeometry("LINK_HEALTH/GEOMETRY"); ///< that window's size and place
 constexpr QLatin1String kUpdaterPath("UPDATER/PATH");                ///< last firmware image
 constexpr QLatin1String kUpdaterGeometry("UPDATER/GEOMETRY");        ///< that window's size and place

@@ -14,7 +14,7 @@ constexpr double kPauseMs = 100;
 
 // Clocks that disagree by more than this have not just drifted. Buffers on the way hold a few seconds at most.
 constexpr double kClocksDifferMs = 5000;
-constexpr double kAfterGapMs = 2000; ///< the same for the first sample after a silence, which waits in no buffer
+constexpr double kAfterGapMs = 2000;        ///< the same for the first sample after a silence, which waits in no buffer
 constexpr double kClocksDifferShare = 0.05; ///< more than any quartz
 
 // Samples without stamps follow the computer's clock slowly, so that bursts of arrivals are spread evenly.

@@ -15,15 +15,15 @@ using State = SessionState;
 using Action = SessionAction;
 
 constexpr int kBaud = 921600;
-constexpr std::array kActions{Action::OpenPort,          Action::ClosePort,     Action::Identify,
-                              Action::SendCommand,       Action::StartRecording, Action::TryBaudRates,
-                              Action::ConnectBootloader, Action::Download,      Action::StopDownload,
-                              Action::RestartDevice,     Action::Quit};
+constexpr std::array kActions{
+    Action::OpenPort,     Action::ClosePort,         Action::Identify, Action::SendCommand,  Action::StartRecording,
+    Action::TryBaudRates, Action::ConnectBootloader, Action::Download, Action::StopDownload, Action::RestartDevice,
+    Action::Quit};
 
 /// What is allowed, in the order of kActions: y for yes.
 constexpr std::pair<State, const char *> kAllowed[] = {
-    {State::Closed, "y.........y"},  {State::Opening, "yy........y"},    {State::Identifying, "yy..y.y...y"},
-    {State::Live, "yyyyy.y...y"},    {State::Silent, "yyyyyyy...y"},     {State::Bootloader, "yy....yy.yy"},
+    {State::Closed, "y.........y"},   {State::Opening, "yy........y"}, {State::Identifying, "yy..y.y...y"},
+    {State::Live, "yyyyy.y...y"},     {State::Silent, "yyyyyyy...y"},  {State::Bootloader, "yy....yy.yy"},
     {State::Updating, "........y.."}, {State::Closing, "..........y"},
 };
 
@@ -200,8 +200,8 @@ private slots:
     void endsByUnplugging_data()
     {
         QTest::addColumn<int>("state");
-        for (const State state : {State::Opening, State::Identifying, State::Live, State::Silent, State::Bootloader,
-                                  State::Updating})
+        for (const State state :
+             {State::Opening, State::Identifying, State::Live, State::Silent, State::Bootloader, State::Updating})
             QTest::addRow("state %d", int(state)) << int(state);
     }
 

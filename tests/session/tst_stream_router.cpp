@@ -34,7 +34,7 @@ DecodedFrame single(int id, quint32 timeMs)
 struct Viewer
 {
     StreamRouter router;
-    QList<int> seen;      ///< ids of the samples
+    QList<int> seen; ///< ids of the samples
     QList<StreamBreak> restarts;
     qsizetype batches = 0;
     double nowMs = 0;
@@ -81,8 +81,8 @@ private slots:
         QCOMPARE(viewer.seen, QList<int>({2, 2, 3, 3, 3, 3}));
         QCOMPARE(viewer.restarts, Breaks({kNew, kOther}));
         QCOMPARE(viewer.batches, 7); // an empty batch is none
-        viewer.router.follow(3); // again: no restart
-        viewer.router.follow(9); // not heard yet
+        viewer.router.follow(3);     // again: no restart
+        viewer.router.follow(9);     // not heard yet
         viewer.take(batch({2, 3, 5}, 1040));
         QCOMPARE(viewer.seen.size(), 6);
         QVERIFY(!viewer.router.newest());

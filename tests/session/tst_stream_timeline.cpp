@@ -12,7 +12,7 @@ using Clock = StreamTimeline::Clock;
 struct Stream
 {
     StreamTimeline timeline;
-    double hostMs = 40;        ///< of the next sample
+    double hostMs = 40; ///< of the next sample
     double firstHostMs = 0;
     double firstMs = 0;
     double lastMs = 0;
@@ -80,69 +80,93 @@ private slots:
             for (int i = 0; i < 400; ++i, s.hostMs += 10)
                 s.take(i % 7 == 3 ? 0 : clockFrom(5000)(s.hostMs));
         });
-        row("stamps repeated and late", [](Stream &s) {
-            for (int i = 0; i < 400; ++i, s.hostMs += 10)
-                s.take(clockFrom(5000)(s.hostMs - (i % 5 == 4 ? 30 : 0)));
-        }, {}, 50);
+        row(
+            "stamps repeated and late",
+            [](Stream &s) {
+                for (int i = 0; i < 400; ++i, s.hostMs += 10)
+                    s.take(clockFrom(5000)(s.hostMs - (i % 5 == 4 ? 30 : 0)));
+            },
+            {}, 50);
 
         for (const double hz : {2.0, 100.0, 400.0}) {
-            row(qPrintable(QStringLiteral("no clock, %1 Hz").arg(hz)),
+            row(
+                qPrintable(QStringLiteral("no clock, %1 Hz").arg(hz)),
                 [hz](Stream &s) { s.runWithoutClock(int(4 * hz), 1000 / hz); }, {}, 60);
         }
-        row("no clock, bursts of 8", [](Stream &s) { s.runWithoutClock(1600, 2.5, 8); }, {}, 60);
-        row("no clock, pause of 1.5 s", [](Stream &s) {
-            s.runWithoutClock(400, 2.5);
-            s.hostMs += 1500;
-            s.runWithoutClock(400, 2.5);
-        }, {StreamBreak::Gap}, 60);
-        row("no clock, rate changes", [](Stream &s) {
-            s.runWithoutClock(400, 2.5);
-            s.runWithoutClock(20, 200);
-            s.runWithoutClock(800, 2.5);
-        }, {}, 260);
+        row(
+            "no clock, bursts of 8", [](Stream &s) { s.runWithoutClock(1600, 2.5, 8); }, {}, 60);
+        row(
+            "no clock, pause of 1.5 s",
+            [](Stream &s) {
+                s.runWithoutClock(400, 2.5);
+                s.hostMs += 1500;
+                s.runWithoutClock(400, 2.5);
+            },
+            {StreamBreak::Gap}, 60);
+        row(
+            "no clock, rate changes",
+            [](Stream &s) {
+                s.runWithoutClock(400, 2.5);
+                s.runWithoutClock(20, 200);
+                s.runWithoutClock(800, 2.5);
+            },
+            {}, 260);
 
         row("two clocks in turn, 5 s apart", [](Stream &s) {
             for (int i = 0; i < 400; ++i, s.hostMs += 10)
                 s.take(clockFrom(i % 2 ? 15000 : 10000)(s.hostMs), i % 2 ? Clock::Gateway : Clock::Node);
         });
-        row("two clocks that drift apart", [](Stream &s) {
-            for (int i = 0; i < 20000; ++i, s.hostMs += 10)
-                s.take(clockFrom(9000, i % 2 ? 0 : 300)(s.hostMs), i % 2 ? Clock::Gateway : Clock::Node);
-        }, {}, 80);
+        row(
+            "two clocks that drift apart",
+            [](Stream &s) {
+                for (int i = 0; i < 20000; ++i, s.hostMs += 10)
+                    s.take(clockFrom(9000, i % 2 ? 0 : 300)(s.hostMs), i % 2 ? Clock::Gateway : Clock::Node);
+            },
+            {}, 80);
 
-        row("device restarts", [](Stream &s) {
-            s.run(300, 10, clockFrom(60000));
-            s.hostMs += 400;
-            s.run(300, 10, [start = s.hostMs](double hostMs) { return quint32(hostMs - start + 10); });
-        }, {StreamBreak::ClockRestarted});
-        row("clock jumps ahead", [](Stream &s) {
-            s.run(200, 10, clockFrom(1000));
-            s.run(200, 10, clockFrom(31000));
-        }, {StreamBreak::ClockRestarted});
-        row("output stopped by a command", [](Stream &s) {
-            s.run(200, 10, clockFrom(1000));
-            ++s.interruptions;
-            s.run(3, 10, clockFrom(1000)); // until the device obeys
-            s.hostMs += 500;
-            ++s.interruptions;
-            s.run(200, 10, clockFrom(1000));
-        }, {StreamBreak::OutputStopped});
+        row("device restarts",
+            [](Stream &s) {
+                s.run(300, 10, clockFrom(60000));
+                s.hostMs += 400;
+                s.run(300, 10, [start = s.hostMs](double hostMs) { return quint32(hostMs - start + 10); });
+            },
+            {StreamBreak::ClockRestarted});
+        row("clock jumps ahead",
+            [](Stream &s) {
+                s.run(200, 10, clockFrom(1000));
+                s.run(200, 10, clockFrom(31000));
+            },
+            {StreamBreak::ClockRestarted});
+        row("output stopped by a command",
+            [](Stream &s) {
+                s.run(200, 10, clockFrom(1000));
+                ++s.interruptions;
+                s.run(3, 10, clockFrom(1000)); // until the device obeys
+                s.hostMs += 500;
+                ++s.interruptions;
+                s.run(200, 10, clockFrom(1000));
+            },
+            {StreamBreak::OutputStopped});
         row("a command that stops nothing", [](Stream &s) {
             for (int i = 0; i < 10; ++i) {
                 s.run(20, 10, clockFrom(1000));
                 ++s.interruptions;
             }
         });
-        row("silence of 90 s, the clock goes on", [](Stream &s) {
-            s.run(200, 10, clockFrom(1000));
-            s.hostMs += 90000;
-            s.run(200, 10, clockFrom(1000));
-        }, {StreamBreak::Gap});
-        row("1.2 s are a gap at 100 Hz", [](Stream &s) {
-            s.run(100, 10, clockFrom(1000));
-            s.hostMs += 1200;
-            s.run(100, 10, clockFrom(1000));
-        }, {StreamBreak::Gap});
+        row("silence of 90 s, the clock goes on",
+            [](Stream &s) {
+                s.run(200, 10, clockFrom(1000));
+                s.hostMs += 90000;
+                s.run(200, 10, clockFrom(1000));
+            },
+            {StreamBreak::Gap});
+        row("1.2 s are a gap at 100 Hz",
+            [](Stream &s) {
+                s.run(100, 10, clockFrom(1000));
+                s.hostMs += 1200;
+                s.run(100, 10, clockFrom(1000));
+            },
+            {StreamBreak::Gap});
         row("and none at 2 Hz", [](Stream &s) {
             s.run(10, 500, clockFrom(1000));
             s.hostMs += 1200;

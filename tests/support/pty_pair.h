@@ -66,8 +66,14 @@ public:
     {
         termios mode = {};
         ::tcgetattr(m_master, &mode);
-        for (const auto &[code, rate] : {std::pair{B9600, 9600}, {B19200, 19200}, {B38400, 38400}, {B57600, 57600},
-                                         {B115200, 115200}, {B230400, 230400}, {B460800, 460800}, {B921600, 921600}}) {
+        for (const auto &[code, rate] : {std::pair{B9600, 9600},
+                                         {B19200, 19200},
+                                         {B38400, 38400},
+                                         {B57600, 57600},
+                                         {B115200, 115200},
+                                         {B230400, 230400},
+                                         {B460800, 460800},
+                                         {B921600, 921600}}) {
             if (::cfgetospeed(&mode) == speed_t(code))
                 return rate;
         }

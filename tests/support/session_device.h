@@ -11,15 +11,15 @@
 #include "support/bootloader_peer.h"
 
 /// A module with a resident bootloader on a pseudo-terminal, in a thread of its own: it streams full records, answers
-/// text commands, restarts into its bootloader by "AT+RST", and back by the bootloader's reset. It keeps what reached it
-/// in which of the two.
+/// text commands, restarts into its bootloader by "AT+RST", and back by the bootloader's reset. It keeps what reached
+/// it in which of the two.
 class SessionDevice
 {
 public:
-    std::atomic<bool> isSilent = false;      ///< neither data nor answers
-    std::atomic<bool> hasBootloader = true;  ///< else "AT+RST" restarts the firmware
-    std::atomic<int> ackDelayMs = 0;         ///< before each answer of the bootloader
-    std::atomic<int> onlyAtBaud = 0;         ///< at any other rate of the line it sends noise; 0: at each
+    std::atomic<bool> isSilent = false;     ///< neither data nor answers
+    std::atomic<bool> hasBootloader = true; ///< else "AT+RST" restarts the firmware
+    std::atomic<int> ackDelayMs = 0;        ///< before each answer of the bootloader
+    std::atomic<int> onlyAtBaud = 0;        ///< at any other rate of the line it sends noise; 0: at each
 
     SessionDevice() : m_thread([this](auto stop) { run(stop); }) {}
     Q_DISABLE_COPY_MOVE(SessionDevice)
