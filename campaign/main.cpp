@@ -1,6 +1,6 @@
 // kv_campaign [--minutes M | --quick | --table] [--seed N] [--stall-limit MS]: the program itself, src/main.cpp with
 // all that it starts, and at its side a user and devices that do everything wrong. Ends with a report, and with 1 when
-// a goal was not met. docs/fault-campaign.md tells more.
+// a goal was not met. See docs/fault-campaign.md.
 
 #include <QApplication>
 #include <QCommandLineParser>

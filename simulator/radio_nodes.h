@@ -11,7 +11,7 @@
 
 namespace kvsim {
 
-/// The nodes behind a gateway, each with its own troubles on request of a test: records that are missing from a batch,
+/// The nodes behind a gateway, each with faults that a test can ask for: records that are missing from a batch,
 /// a node that leaves and comes back, a clock of its own, an attitude of its own. Nodes are numbered from 1.
 ///
 /// The set...() calls take texts, return an empty text or what is wrong, and change nothing then.

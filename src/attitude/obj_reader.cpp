@@ -74,7 +74,7 @@ bool isUsable(const QVector3D &position)
 
 /// The text in the one form that the parser reads: without a byte order mark and comments, with line feeds, and with
 /// lines that "\" continues in one piece. Empty lines after these keep the numbers of the others. A comment ends with
-/// its line, even behind a "\": it may be a folder's name.
+/// its line, even after a "\": it may be a folder's name.
 std::string plainText(QByteArrayView text)
 {
     static constexpr QByteArrayView kByteOrderMark("\xEF\xBB\xBF");

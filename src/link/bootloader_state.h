@@ -59,7 +59,7 @@ struct BootloaderOutcome
     BootloaderStep step = BootloaderStep::Idle;
     BootloaderFault fault = BootloaderFault::None;
     qint64 acknowledgedBytes = 0; ///< of the image; nothing is added once the target has ended the data phase
-    /// First status other than 0 that the target answered to erase, write or read, inside the data phase or behind it.
+    /// First status other than 0 that the target answered to erase, write or read, during the data phase or after it.
     /// A download goes on regardless; when it fails later, this is the likely reason.
     quint32 targetStatus = 0;
     bool isEndedByTarget = false; ///< the target has ended the data phase before the image's end, by that status
