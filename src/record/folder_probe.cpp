@@ -26,10 +26,10 @@ qint64 freeBytes(const QFileInfo &folder)
     return QStorageInfo(existing.filePath()).bytesAvailable();
 }
 
-FolderFacts look(const QString &folder)
+FolderFacts look(const QString &folder, quint64 number)
 {
     const QFileInfo info(folder);
-    return {folder, info.exists(), info.isDir(), freeBytes(info)};
+    return {folder, number, info.exists(), info.isDir(), freeBytes(info)};
 }
 
 } // namespace
@@ -41,6 +41,7 @@ struct FolderProbe::Desk
     std::condition_variable rung;
     FolderProbe *owner = nullptr; ///< null when it is gone
     QString question;             ///< empty: none
+    quint64 number = 0;           ///< of the question
 };
 
 FolderProbe::FolderProbe(QObject *parent) : QObject(parent), m_desk(std::make_shared<Desk>())
@@ -62,20 +63,22 @@ FolderProbe::~FolderProbe()
     connect(thread, &QThread::finished, thread, &QObject::deleteLater);
 }
 
-void FolderProbe::ask(const QString &folder)
+quint64 FolderProbe::ask(const QString &folder)
 {
     if (folder.isEmpty())
-        return;
+        return 0;
     {
         const std::lock_guard locker(m_desk->lock);
         m_desk->question = folder;
+        m_desk->number = ++m_lastNumber;
         m_desk->rung.notify_all();
     }
     if (m_thread)
-        return;
+        return m_lastNumber;
     m_thread.reset(QThread::create([desk = m_desk] { answerQuestions(desk); }));
     m_thread->setObjectName(QStringLiteral("FolderProbe"));
     m_thread->start();
+    return m_lastNumber;
 }
 
 /// The thread's work.
@@ -88,8 +91,9 @@ void FolderProbe::answerQuestions(const std::shared_ptr<Desk> &desk)
             continue;
         }
         const QString folder = std::exchange(desk->question, {});
+        const quint64 number = desk->number;
         locker.unlock();
-        const FolderFacts facts = look(folder);
+        const FolderFacts facts = look(folder, number);
         locker.lock();
         if (FolderProbe *owner = desk->owner) // which cannot end before the lock is free
             QMetaObject::invokeMethod(

@@ -10,7 +10,8 @@ class QThread;
 /// What a disk said about a folder. A plain value.
 struct FolderFacts
 {
-    QString folder; ///< the one that was asked about; empty: nothing is known
+    QString folder;     ///< the one that was asked about; empty: nothing is known
+    quint64 number = 0; ///< of the question
     bool exists = false;
     bool isFolder = false;
     qint64 freeBytes =
@@ -30,8 +31,9 @@ public:
     explicit FolderProbe(QObject *parent = nullptr);
     ~FolderProbe() override;
 
-    /// answered() follows. A question that nobody has begun to answer gives way to this one.
-    void ask(const QString &folder);
+    /// answered() follows. A question that nobody has begun to answer gives way to this one. Returns its number, which
+    /// grows; 0: the folder is empty and nobody is asked.
+    quint64 ask(const QString &folder);
 
 signals:
     void answered(const FolderFacts &facts);
@@ -41,5 +43,6 @@ private:
     static void answerQuestions(const std::shared_ptr<Desk> &desk);
 
     std::shared_ptr<Desk> m_desk; ///< shared with the thread, which may outlive this object
+    quint64 m_lastNumber = 0;
     std::unique_ptr<QThread> m_thread;
 };

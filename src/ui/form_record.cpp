@@ -131,7 +131,7 @@ void form_record::on_BTN_folder_clicked()
 {
     const QString file = m_recorder->filePath();
     m_folderToShow = file.isEmpty() ? typedFolder() : QFileInfo(file).path();
-    m_probe.ask(m_folderToShow);
+    m_showQuestion = m_probe.ask(m_folderToShow);
 }
 
 void form_record::showFolder(const FolderFacts &facts)
@@ -161,8 +161,12 @@ void form_record::askDisk()
 
 void form_record::takeFacts(const FolderFacts &facts)
 {
-    if (!facts.folder.isEmpty() && facts.folder == m_folderToShow)
-        showFolder(facts);
+    if (!m_folderToShow.isEmpty() && facts.number >= m_showQuestion) { // an older answer may be out of date
+        if (facts.folder == m_folderToShow)
+            showFolder(facts);
+        else
+            m_showQuestion = m_probe.ask(m_folderToShow); // a later question has replaced it
+    }
     if (facts.folder == typedFolder()) {
         m_patience.stop();
         m_facts = facts;

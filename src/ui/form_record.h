@@ -57,9 +57,10 @@ private:
     std::unique_ptr<Ui::form_record> m_ui;
     Recorder *m_recorder;
     FolderProbe m_probe;
-    FolderFacts m_facts;      ///< of the folder typed last, once the disk has answered
-    QTimer m_patience;        ///< runs out when the disk is slow: what is known is of another folder
-    QString m_folderToShow;   ///< asked for by the user, while the disk has not answered
-    QString m_folderNotShown; ///< asked for by the user in vain
-    bool m_isWriting = false; ///< the file takes its time to be closed
+    FolderFacts m_facts;        ///< of the folder typed last, once the disk has answered
+    QTimer m_patience;          ///< runs out when the disk is slow: what is known is of another folder
+    QString m_folderToShow;     ///< asked for by the user, while the disk has not answered
+    quint64 m_showQuestion = 0; ///< the number of that question
+    QString m_folderNotShown;   ///< asked for by the user in vain
+    bool m_isWriting = false;   ///< the file takes its time to be closed
 };
