@@ -61,6 +61,7 @@ form_base::form_base(QWidget *parent) : QMainWindow(parent), m_ui(std::make_uniq
         resize(size().boundedTo(screen()->availableSize()));
     retranslate();
     enable_all_page(false);
+    QMetaObject::invokeMethod(m_dialogs, &Dialogs::remindOfUpdate, Qt::QueuedConnection);
 }
 
 form_base::~form_base()
@@ -122,6 +123,7 @@ void form_base::setUpConnections()
     });
     connect(m_ui->action_link_health, &QAction::triggered, m_dialogs, &Dialogs::openLinkHealth);
     connect(m_dialogs, &Dialogs::portChosen, this, &form_base::open_port);
+    connect(m_dialogs, &Dialogs::restartWanted, this, [this] { m_wantsRestart = close(); });
     connect(m_ui->action_quit, &QAction::triggered, this, &form_base::close);
     connect(m_ui->button_open, &QPushButton::clicked, m_ui->action_serial_open, &QAction::trigger);
     connect(m_actions->sensorDashboard(), &QAction::triggered, this, &form_base::on_action_sensor_dashboard_triggered);

@@ -38,10 +38,10 @@ public:
         QString file;                 ///< path of the image
         QString device;               ///< as it has introduced itself; empty: it has not
         QString port;
-        bool connects = true;   ///< restart the device into its bootloader first; else it is there and connected
+        bool connects = true;     ///< restart the device into its bootloader first; else it is there and connected
         bool erasesAgain = false; ///< although the chip has not ended such an erase in time before
-        int attempts = 2;       ///< for each data packet
-        int comeBackMs = 20000; ///< how long the device may take to introduce itself; 0: nobody waits for that
+        int attempts = 2;         ///< for each data packet
+        int comeBackMs = 20000;   ///< how long the device may take to introduce itself; 0: nobody waits for that
     };
 
     /// `folder` is where the note is kept.

@@ -238,6 +238,7 @@ void form_updater::chooseImage(const QString &path)
         return;
     m_image.choose(path);
     m_packetSize = 0;
+    m_isRefused = false;
     log(tr("FILE:%1\n").arg(path));
     QSettings(settings_keys::kFile, QSettings::IniFormat).setValue(settings_keys::kUpdaterPath, path);
     showStatus({}, false);
@@ -414,9 +415,8 @@ void form_updater::showResult()
         return;
     m_ui->LBL_builds->setText(verdict_text::builds(*m_result));
     m_ui->LBL_builds->setVisible(!m_ui->LBL_builds->text().isEmpty());
-    showStatus(
-        verdict_text::result(*m_result, m_written.image.size(), m_written.address, m_facts.maxPacketSize),
-        verdict_text::isProblem(*m_result));
+    showStatus(verdict_text::result(*m_result, m_written.image.size(), m_written.address, m_facts.maxPacketSize),
+               verdict_text::isProblem(*m_result));
 }
 
 void form_updater::onBootloaderDownloadFinished(bool ok)
@@ -484,12 +484,12 @@ void form_updater::update_button_states()
     m_ui->BTN_open_file->setToolTip(isDownloading() ? busy : tr("Chooses the image, an Intel HEX file"));
     m_ui->BTN_connect->setToolTip(isDownloading() ? busy : tr("Restarts the device into its bootloader"));
     m_ui->BTN_close->setToolTip(busy);
-    m_ui->BTN_download->setToolTip(isDownloading() ? busy
-                                   : !isConnected() ? tr("Press Connect first.")
-                                   : !isAccepted()
-                                       ? tr("Something speaks against this image: tick \"%1\" to write it.")
-                                             .arg(m_ui->CHB_despite->text())
-                                       : tr("Erases the device's firmware and writes the image"));
+    m_ui->BTN_download->setToolTip(
+        isDownloading()  ? busy
+        : !isConnected() ? tr("Press Connect first.")
+        : !isAccepted()
+            ? tr("Something speaks against this image: tick \"%1\" to write it.").arg(m_ui->CHB_despite->text())
+            : tr("Erases the device's firmware and writes the image"));
     m_ui->BTN_restart->setToolTip(isDownloading() ? busy
                                   : canRestart() ? tr("Ends the bootloader: the device starts the firmware that it has")
                                                  : tr("No bootloader is connected."));
@@ -548,9 +548,8 @@ void form_updater::on_BTN_copy_clicked()
 {
     QStringList lines{windowTitle() + QLatin1String(", ") + QDateTime::currentDateTime().toString(Qt::ISODate),
                       QDir::toNativeSeparators(m_image.path())};
-    for (const QLabel *label :
-         {m_ui->LBL_image, m_ui->LBL_doubts, m_ui->LBL_obstacles, m_ui->LBL_bootloader, m_ui->LBL_transfer,
-          m_ui->LBL_builds, m_ui->LBL_status}) {
+    for (const QLabel *label : {m_ui->LBL_image, m_ui->LBL_doubts, m_ui->LBL_obstacles, m_ui->LBL_bootloader,
+                                m_ui->LBL_transfer, m_ui->LBL_builds, m_ui->LBL_status}) {
         if (!label->text().isEmpty())
             lines.append(label->text());
     }
@@ -569,7 +568,7 @@ void form_updater::showImage()
     m_ui->LE_path->setText(QDir::toNativeSeparators(m_image.path()));
     m_ui->LE_path->setToolTip(m_image.path().toHtmlEscaped());
     m_ui->LBL_image->setText(updater_text::image(m_image));
-    if (isDownloading())
+    if (isDownloading() || m_isRefused)
         return; // what the bootloader's check has shown stays
     update_plan::Plan plan = isConnected() ? update_plan::make(subject(), m_facts, {}) : update_plan::look(subject());
     plan.obstacles.removeAll(update_plan::Obstacle::EmptyImage); // the image's own line says it

@@ -113,10 +113,10 @@ private:
     bool m_wasConnected = false;
     bool m_wasDownloading = false;
     bool m_couldRestart = false;
-    bool m_stopping = false;  ///< the running download is to be stopped
+    bool m_stopping = false;    ///< the running download is to be stopped
     bool m_erasesAgain = false; ///< see FirmwareUpdate::Order
-    bool m_isRefused = false; ///< the running update's check has found what forbids it
-    int m_packetSize = 0;     ///< bytes, chosen by the user; 0: the largest that the target takes
+    bool m_isRefused = false;   ///< the running update's check has found what forbids it
+    int m_packetSize = 0;       ///< bytes, chosen by the user; 0: the largest that the target takes
 
     // what the window shows beside the log
     BootloaderFacts m_facts;

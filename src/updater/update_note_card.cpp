@@ -69,12 +69,13 @@ void UpdateNoteCard::changeEvent(QEvent *event)
 
 void UpdateNoteCard::showTexts()
 {
-    const QString found = m_isBootloaderFound
-                              ? tr("The device runs its bootloader and sends no data: restart it, or choose a firmware.")
-                              : QString();
-    m_text->setText(m_note ? joinSentences({verdict_text::interrupted(*m_note),
-                                            m_isBootloaderFound ? tr("The device waits in its bootloader.") : QString()})
-                           : found);
+    const QString found =
+        m_isBootloaderFound ? tr("The device runs its bootloader and sends no data: restart it, or choose a firmware.")
+                            : QString();
+    m_text->setText(m_note
+                        ? joinSentences({verdict_text::interrupted(*m_note),
+                                         m_isBootloaderFound ? tr("The device waits in its bootloader.") : QString()})
+                        : found);
     setVisible(!m_text->text().isEmpty());
     m_continue->setText(tr("Continue"));
     m_continue->setToolTip(tr("Chooses the same file, connects, and downloads it"));

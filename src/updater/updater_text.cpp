@@ -140,7 +140,10 @@ QString updater_text::downloadFailure(const BootloaderOutcome &outcome, qint64 t
 
 QString updater_text::stopped(const BootloaderOutcome &outcome, qint64 total)
 {
-    return joinSentences({Text::tr("The download was stopped."), deviceState(outcome, total), nextStep(outcome)});
+    return joinSentences({Text::tr("The download was stopped."), deviceState(outcome, total),
+                          isConnectStep(outcome.step)
+                              ? Text::tr("The bootloader is connected: press Download, or Restart device.")
+                              : nextStep(outcome)});
 }
 
 QString updater_text::transfer(qint64 done, qint64 total, qint64 elapsedMs)

@@ -139,11 +139,11 @@ QString written(const UpdateResult &result)
 QString failure(const UpdateResult &result, qint64 total, quint32 address, int packetSize)
 {
     if (result.reason == UpdateReason::Differs)
-        return joinSentences({Text::tr("Reading back found %1 wrong bytes, the first at %2.")
-                                  .arg(grouped(result.differingBytes),
-                                       updater_text::address(address + quint32(result.firstDifference))),
-                              Text::tr("The device was not restarted: this firmware must not run."),
-                              Text::tr("The bootloader stays in the device: press Connect, then Download.")});
+        return joinSentences(
+            {Text::tr("Reading back found %1 wrong bytes, the first at %2.")
+                 .arg(grouped(result.differingBytes), updater_text::address(address + quint32(result.firstDifference))),
+             Text::tr("The device was not restarted: this firmware must not run."),
+             Text::tr("The bootloader stays in the device: press Connect, then Download.")});
     if (result.flash == FlashState::Unproven)
         return joinSentences({result.outcome.fault == BootloaderFault::Stopped
                                   ? Text::tr("Reading the flash back was stopped.")
@@ -185,7 +185,7 @@ QString verdict_text::step(UpdateStep step)
 }
 
 QString verdict_text::obstacles(const update_plan::Plan &plan, const update_plan::Subject &subject,
-                               const BootloaderFacts &facts)
+                                const BootloaderFacts &facts)
 {
     QStringList lines;
     for (const update_plan::Obstacle found : plan.obstacles)
@@ -194,7 +194,7 @@ QString verdict_text::obstacles(const update_plan::Plan &plan, const update_plan
 }
 
 QString verdict_text::doubts(const update_plan::Plan &plan, const update_plan::Subject &subject,
-                            const BootloaderFacts &facts)
+                             const BootloaderFacts &facts)
 {
     QStringList lines;
     for (const update_plan::Doubt found : plan.doubts)
