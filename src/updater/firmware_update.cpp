@@ -414,9 +414,18 @@ void FirmwareUpdate::finish(UpdateVerdict verdict)
         setStep(UpdateStep::Done);
         emit finished(m_result);
     };
+    std::optional<UpdateNote> left = m_noteBefore; // an update that has touched nothing leaves the note before
+    if (isProved || lives) {
+        left.reset();
+    } else if (m_result.flash != FlashState::Untouched) {
+        m_note.done = m_step >= UpdateStep::Verify ? m_note.size : m_result.outcome.acknowledgedBytes;
+        left = m_note;
+    }
     onDisk(
-        [folder = m_folder, isRemoved = isProved || lives] {
-            if (isRemoved)
+        [folder = m_folder, left] {
+            if (left)
+                left->write(folder);
+            else
                 UpdateNote::remove(folder);
         },
         report);

@@ -140,7 +140,7 @@ QString failure(const UpdateResult &result, qint64 total, quint32 address, int p
 {
     if (result.reason == UpdateReason::Differs)
         return joinSentences(
-            {Text::tr("Reading back found %1 wrong bytes, the first at %2.")
+            {Text::tr("Reading the flash back found wrong bytes: %1, the first at %2.")
                  .arg(grouped(result.differingBytes), updater_text::address(address + quint32(result.firstDifference))),
              Text::tr("The device was not restarted: this firmware must not run."),
              Text::tr("The bootloader stays in the device: press Connect, then Download.")});
@@ -265,7 +265,7 @@ bool verdict_text::isProblem(const UpdateResult &result)
 
 QString verdict_text::builds(const UpdateResult &result)
 {
-    if (result.oldBuild.isEmpty() && result.newBuild.isEmpty())
+    if (result.newBuild.isEmpty() && (result.oldBuild.isEmpty() || result.verdict == UpdateVerdict::Failed))
         return {};
     const auto shown = [](const QString &build) { return build.isEmpty() ? Text::tr("not known") : build; };
     return Text::tr("Before: %1 · Now: %2").arg(shown(result.oldBuild), shown(result.newBuild));

@@ -24,7 +24,8 @@ QString verdict(UpdateVerdict verdict);
 QString result(const UpdateResult &result, qint64 total, quint32 address, int packetSize);
 /// The user should do something.
 bool isProblem(const UpdateResult &result);
-/// "Build before: build 2026-03-02. Build now: build 2026-05-17."; empty when neither is known.
+/// "Before: build 2026-03-02 · Now: build 2026-05-17"; empty when there is nothing to
+/// compare.
 QString builds(const UpdateResult &result);
 
 /// What the note of an earlier update says.

@@ -548,7 +548,7 @@ private slots:
             {"bootloader read off", "Not verified", "cannot read the flash back", "bootloader read on"},
             {"bootloader late 3", "Failed", "the firmware is incomplete", nullptr},
             {"bootloader flip 5", "Failed", "this firmware must not run", nullptr},
-            {"bootloader drop 7", "Failed", "wrong bytes, the first at 0x", nullptr},
+            {"bootloader drop 7", "Failed", ", the first at 0x", nullptr},
             {"bootloader status 4", "Failed", "status 105", nullptr},
             {"bootloader power 6", "Failed", "the firmware is incomplete", nullptr}};
         const QByteArray image = goodImage(2000);
