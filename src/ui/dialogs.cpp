@@ -3,6 +3,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include "app/window_host.h"
 #include "session/device_session.h"
 #include "ui/form_about.h"
 #include "ui/form_com_select.h"
@@ -11,17 +12,6 @@
 #include "ui/form_settings.h"
 #include "ui/serial_error_text.h"
 #include "updater/form_updater.h"
-
-namespace {
-
-void bringUp(QWidget *window)
-{
-    window->show();
-    window->raise();
-    window->activateWindow();
-}
-
-} // namespace
 
 Dialogs::Dialogs(DeviceSession *session, QWidget *window) : QObject(window), m_session(session), m_window(window) {}
 
@@ -39,28 +29,28 @@ void Dialogs::openSettings()
 {
     if (m_settings == nullptr)
         m_settings = new form_settings(m_session, m_window);
-    bringUp(m_settings);
+    WindowHost::bringUp(m_settings);
 }
 
 void Dialogs::openRecording()
 {
     if (m_record == nullptr)
         m_record = new form_record(&m_session->recorder(), m_window);
-    bringUp(m_record);
+    WindowHost::bringUp(m_record);
 }
 
 void Dialogs::openUpdate()
 {
     if (m_updater == nullptr)
         m_updater = new form_updater(m_session, m_window);
-    bringUp(m_updater);
+    WindowHost::bringUp(m_updater);
 }
 
 void Dialogs::openLinkHealth()
 {
     if (m_linkHealth == nullptr)
         m_linkHealth = new form_link_health(&m_session->linkMonitor(), m_window);
-    bringUp(m_linkHealth);
+    WindowHost::bringUp(m_linkHealth);
 }
 
 void Dialogs::openAbout()
