@@ -135,22 +135,12 @@ private slots:
             QTRY_VERIFY2(action->isEnabled(), name);
             action->trigger();
             QWindow *window = nullptr;
-            QTRY_VERIFY2((window = newWindow(*desk.window)) != nullptr, name);
+            QTRY_VERIFY2((window = windowBeside(*desk.window)) != nullptr, name);
             check(window, row + u'-' + QLatin1String(name));
             window->close();
-            QTRY_VERIFY(newWindow(*desk.window) == nullptr);
+            QTRY_VERIFY(windowBeside(*desk.window) == nullptr);
         }
         desk.find<QAction>("action_serial_stop")->trigger();
-    }
-
-private:
-    static QWindow *newWindow(const form_base &main)
-    {
-        for (QWindow *window : QGuiApplication::topLevelWindows()) {
-            if (window->isVisible() && window != main.windowHandle())
-                return window;
-        }
-        return nullptr;
     }
 };
 
