@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "app/sentences.h"
+#include "app/window_host.h"
 #include "session/device_session.h"
 #include "ui/form_about.h"
 #include "ui/form_com_select.h"
@@ -15,17 +16,6 @@
 #include "updater/form_updater.h"
 #include "updater/update_note.h"
 #include "updater/verdict_text.h"
-
-namespace {
-
-void bringUp(QWidget *window)
-{
-    window->show();
-    window->raise();
-    window->activateWindow();
-}
-
-} // namespace
 
 Dialogs::Dialogs(DeviceSession *session, QWidget *window) : QObject(window), m_session(session), m_window(window)
 {
@@ -46,14 +36,14 @@ void Dialogs::openSettings()
 {
     if (m_settings == nullptr)
         m_settings = new form_settings(m_session, m_window);
-    bringUp(m_settings);
+    WindowHost::bringUp(m_settings);
 }
 
 void Dialogs::openRecording()
 {
     if (m_record == nullptr)
         m_record = new form_record(&m_session->recorder(), m_window);
-    bringUp(m_record);
+    WindowHost::bringUp(m_record);
 }
 
 void Dialogs::openUpdate()
@@ -63,7 +53,7 @@ void Dialogs::openUpdate()
         connect(m_updater, &form_updater::restartWanted, this, &Dialogs::restartWanted);
     }
     m_question.withdraw();
-    bringUp(m_updater);
+    WindowHost::bringUp(m_updater);
 }
 
 void Dialogs::openForFoundBootloader()
@@ -89,7 +79,7 @@ void Dialogs::openLinkHealth()
 {
     if (m_linkHealth == nullptr)
         m_linkHealth = new form_link_health(&m_session->linkMonitor(), m_window);
-    bringUp(m_linkHealth);
+    WindowHost::bringUp(m_linkHealth);
 }
 
 void Dialogs::openAbout()

@@ -12,7 +12,7 @@
 #include "app/app_log.h"
 #include "app/menu_font.h"
 #include "app/settings_keys.h"
-#include "app/window_place.h"
+#include "app/window_host.h"
 #include "device/orientation_override.h"
 #include "link/kv_uart_port.h"
 #include "link/stream_dispatcher.h"
@@ -57,8 +57,7 @@ form_base::form_base(QWidget *parent) : QMainWindow(parent), m_ui(std::make_uniq
     setUpConnections();
 
     applyFontSize(fontSize);
-    if (!window_place::restore(this, settings_keys::kGeometry))
-        resize(size().boundedTo(screen()->availableSize()));
+    WindowHost::attach(this, settings_keys::kGeometry);
     retranslate();
     enable_all_page(false);
     QMetaObject::invokeMethod(m_dialogs, &Dialogs::remindOfUpdate, Qt::QueuedConnection);
@@ -343,7 +342,6 @@ void form_base::closeEvent(QCloseEvent *event)
         return;
     }
     m_session->close();
-    window_place::store(this, settings_keys::kGeometry);
     m_dialogs->closeAll();
     m_views->closeAll();
     QMainWindow::closeEvent(event);

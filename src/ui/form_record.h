@@ -29,9 +29,7 @@ public:
     ~form_record() override;
 
 protected:
-    bool event(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
-    void hideEvent(QHideEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private slots:
@@ -50,7 +48,6 @@ private:
     void updateFields();
     void updateFigures();
     void updateNotice();
-    void fitHeight();
     QString blockedReason() const;
     QString stateText() const;
 

@@ -3,10 +3,10 @@
 #include <QEvent>
 #include <QSignalBlocker>
 
+#include "app/quiet_label.h"
 #include "link/stream_dispatcher.h"
 #include "session/device_session.h"
 #include "ui/status_text.h"
-#include "ui/text_if_changed.h"
 #include "ui_node_card.h"
 
 NodeCard::NodeCard(DeviceSession *session, QWidget *parent)

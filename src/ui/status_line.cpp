@@ -4,13 +4,13 @@
 #include <QStatusBar>
 #include <QTimer>
 
+#include "app/quiet_label.h"
 #include "app/theme.h"
 #include "link/kv_uart_port.h"
 #include "link/stream_dispatcher.h"
 #include "session/device_session.h"
 #include "ui/action_label.h"
 #include "ui/status_text.h"
-#include "ui/text_if_changed.h"
 
 namespace {
 

@@ -7,7 +7,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QScreen>
 #include <QScrollBar>
 #include <QSettings>
 #include <QShowEvent>
@@ -18,7 +17,7 @@
 
 #include "app/settings_keys.h"
 #include "app/theme.h"
-#include "app/window_place.h"
+#include "app/window_host.h"
 #include "link/kboot_protocol.h"
 #include "link/kv_uart_port.h"
 #include "session/device_session.h"
@@ -53,7 +52,7 @@ form_updater::form_updater(DeviceSession *session, QWidget *parent)
     setUpUpdate();
     lookAtImage();
     retranslateDynamicUi();
-    window_place::restore(this, settings_keys::kUpdaterGeometry);
+    WindowHost::attach(this, settings_keys::kUpdaterGeometry);
 }
 
 form_updater::~form_updater() = default;
@@ -155,12 +154,6 @@ void form_updater::showEvent(QShowEvent *event)
     lookAtImage();
 }
 
-void form_updater::hideEvent(QHideEvent *event)
-{
-    QDialog::hideEvent(event);
-    window_place::store(this, settings_keys::kUpdaterGeometry);
-}
-
 void form_updater::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
@@ -179,8 +172,7 @@ void form_updater::fitFont()
 {
     m_ui->PTE_log->setFont(theme::fixedPitchFont(font().pointSizeF()));
     const QFontMetrics metrics = fontMetrics();
-    setMinimumSize(QSize(kMinimumText.width() * metrics.averageCharWidth(), kMinimumText.height() * metrics.height())
-                       .boundedTo(screen()->availableSize()));
+    setMinimumSize(kMinimumText.width() * metrics.averageCharWidth(), kMinimumText.height() * metrics.height());
 }
 
 void form_updater::reject()
