@@ -100,7 +100,8 @@ void form_base::setUpWidgets()
     m_nodeCard = new NodeCard(session, this);
     m_attitudeCard = new AttitudeCard(session, this);
     for (QWidget *card : std::initializer_list<QWidget *>{m_connectionCard, m_deviceCard, m_nodeCard})
-        m_ui->layout_left->addWidget(card);
+        m_ui->layout_left->addWidget(card, card == m_nodeCard ? 1 : 0);
+    m_ui->scroll_left->setNodeCard(m_nodeCard);
     m_ui->layout_right->addWidget(m_attitudeCard);
 
     m_statusLine = new StatusLine(session, m_ui->statusbar, m_ui->action_link_health, this);
@@ -132,9 +133,7 @@ void form_base::setUpConnections()
     connect(m_session.get(), &DeviceSession::portFailed, this, &form_base::onSerialError);
     connect(m_session.get(), &DeviceSession::deviceChanged, this, &form_base::showSummary);
     connect(m_session.get(), &DeviceSession::presetChanged, this, &form_base::refresh_selected_node_views);
-    connect(m_session.get(), &DeviceSession::sampleReceived, this, [this](const StreamSample &sample) {
-        m_panel->appendSample(sample.hostMs, sample.snapshot.sample, sample.fields);
-    });
+    connect(m_session.get(), &DeviceSession::sampleReceived, m_panel, &SensorDataPanel::appendSample);
     connect(m_session.get(), &DeviceSession::streamRestarted, this, [this](const StreamRestart &restart) {
         if (emptiesViews(restart.kind))
             m_panel->clear();
