@@ -5,7 +5,6 @@
 #include <QEvent>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QLayout>
 #include <QShowEvent>
 #include <QUrl>
 
@@ -18,6 +17,7 @@
 #include "record/recorder.h"
 #include "record/recording_target.h"
 #include "ui/device_text.h"
+#include "ui/fit_height.h"
 #include "ui/recording_text.h"
 #include "ui_form_record.h"
 
@@ -73,8 +73,8 @@ QString form_record::typedName() const
 bool form_record::event(QEvent *event)
 {
     const bool handled = QDialog::event(event);
-    if (event->type() == QEvent::LayoutRequest) // labels have got more lines: windows do not grow by themselves
-        fitHeight();
+    if (event->type() == QEvent::LayoutRequest)
+        fitHeight(this);
     return handled;
 }
 
@@ -82,7 +82,7 @@ void form_record::showEvent(QShowEvent *event)
 {
     askDisk();
     updateState();
-    fitHeight();
+    fitHeight(this);
     QDialog::showEvent(event);
 }
 
@@ -291,11 +291,4 @@ void form_record::updateNotice()
     const QString notice = lines.join(u'\n');
     m_ui->LBL_notice->setText(notice);
     m_ui->LBL_notice->setVisible(!notice.isEmpty());
-}
-
-void form_record::fitHeight()
-{
-    const int needed = layout()->totalHeightForWidth(width());
-    if (needed > height())
-        resize(width(), needed);
 }

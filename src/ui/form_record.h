@@ -50,7 +50,6 @@ private:
     void updateFields();
     void updateFigures();
     void updateNotice();
-    void fitHeight();
     QString blockedReason() const;
     QString stateText() const;
 
