@@ -5,6 +5,7 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSettings>
 #include <QThread>
 
@@ -93,6 +94,13 @@ void form_base::setUpWidgets()
     m_ui->sensorDataScrollArea->setWidget(m_panel);
     m_ui->sensorDataScrollArea->viewport()->setAutoFillBackground(false);
     m_panel->setAutoFillBackground(false);
+    const auto takeKeys = [area = m_ui->sensorDataScrollArea] {
+        const bool scrolls = area->verticalScrollBar()->maximum() > 0 || area->horizontalScrollBar()->maximum() > 0;
+        area->setFocusPolicy(scrolls ? Qt::StrongFocus : Qt::NoFocus);
+    };
+    for (const QScrollBar *bar :
+         {m_ui->sensorDataScrollArea->verticalScrollBar(), m_ui->sensorDataScrollArea->horizontalScrollBar()})
+        connect(bar, &QScrollBar::rangeChanged, this, takeKeys);
 
     DeviceSession *session = m_session.get();
     m_connectionCard = new ConnectionCard(session, this);

@@ -84,6 +84,7 @@ void SensorDataPanel::retranslate()
     m_angularRate->setTitle(tr("Angular velocity"), QStringLiteral("\u00B0/s"));
     m_magneticField->setTitle(tr("Magnetic field"), QStringLiteral("\u00B5T"));
     m_quaternion->setTitle(tr("Quaternion"), QString());
+    m_summary->setAccessibleName(tr("Node"));
     m_summary->setCells({{tr("Node"), QString(), theme::kText, 3},
                          {tr("Device time"), QString(), theme::kText, 12},
                          {tr("Temperature"), QStringLiteral("\u00B0C"), theme::kText, 6},

@@ -9,6 +9,7 @@
 
 #include "app/theme.h"
 #include "app/value_format.h"
+#include "ui/readout_accessible.h"
 #include "wave/axis_ticks.h"
 
 namespace {
@@ -29,6 +30,7 @@ ValueCard::ValueCard(QList<Channel> channels, Format format, QWidget *parent)
 {
     Q_ASSERT(m_channels.size() <= TraceBuffer::kChannels);
     setAttribute(Qt::WA_OpaquePaintEvent); // else everything beneath is painted too, each time
+    readout_accessible::install();
     updateMetrics();
     setAbsent();
 }
