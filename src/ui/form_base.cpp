@@ -27,6 +27,7 @@
 #include "ui/language_menu.h"
 #include "ui/main_actions.h"
 #include "ui/node_card.h"
+#include "ui/recording_actions.h"
 #include "ui/recording_badge.h"
 #include "ui/sensor_data_panel.h"
 #include "ui/status_line.h"
@@ -113,6 +114,7 @@ void form_base::setUpWidgets()
     m_ui->layout_right->addWidget(m_attitudeCard);
 
     m_statusLine = new StatusLine(session, m_ui->statusbar, m_ui->action_link_health, this);
+    m_recordingActions = new RecordingActions(session, m_ui->action_record_now, m_ui->action_set_marker, this);
     m_recordingBadge = new RecordingBadge(&session->recorder(), this);
     m_ui->statusbar->insertPermanentWidget(1, m_recordingBadge);
 
@@ -136,6 +138,8 @@ void form_base::setUpConnections()
     connect(m_actions->sensorDashboard(), &QAction::triggered, this, &form_base::on_action_sensor_dashboard_triggered);
     connect(m_actions->gatewayDashboard(), &QAction::triggered, this,
             &form_base::on_action_wireless_gateway_dashboard_triggered);
+    connect(m_recordingActions, &RecordingActions::said, m_statusLine, &StatusLine::say);
+    connect(m_recordingActions, &RecordingActions::refused, m_dialogs, &Dialogs::openRecording);
     connect(m_recordingBadge, &QToolButton::clicked, m_ui->action_export_data, &QAction::trigger);
     connect(m_session.get(), &DeviceSession::stateChanged, this, &form_base::onSessionState);
     connect(m_session.get(), &DeviceSession::portFailed, this, &form_base::onSerialError);
@@ -329,6 +333,7 @@ void form_base::retranslate()
     m_panel->retranslate();
     m_statusLine->retranslate();
     m_actions->retranslate();
+    m_recordingActions->retranslate();
 }
 
 void form_base::changeEvent(QEvent *event)
