@@ -19,6 +19,7 @@
 #include "link/stream_dispatcher.h"
 #include "record/recorder.h"
 #include "session/link_monitor.h"
+#include "session/recording_describer.h"
 #include "session/stream_router.h"
 
 namespace {
@@ -45,6 +46,7 @@ DeviceSession::DeviceSession(QObject *owner)
     m_retryTimer.setInterval(kRetryMs);
     m_silenceTimer.setInterval(kSilenceCheckMs);
     resolvePreset();
+    new RecordingDescriber(this);
 
     connect(m_port.get(), &KvUartPort::opened, this, &DeviceSession::onOpened);
     connect(m_port.get(), &KvUartPort::kbootRecv, this, &DeviceSession::takePayload);
@@ -183,6 +185,7 @@ void DeviceSession::onError(QSerialPort::SerialPortError error)
     if (m_search && m_state == SessionState::Opening && error == QSerialPort::UnsupportedOperationError)
         return tryNextRate(); // an adapter that does not know this rate
     endSearch(false);
+    m_recorder->expectLoss();
     endConnection();
     AppLog::logfile(QtWarningMsg, QStringLiteral("failed to open serial port."));
     emit portFailed(error, m_portName, m_baudRate);

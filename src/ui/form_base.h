@@ -17,6 +17,7 @@ class KvUartPort;
 class LanguageMenu;
 class MainActions;
 class NodeCard;
+class RecordingActions;
 class RecordingBadge;
 class SensorDataPanel;
 class StatusLine;
@@ -109,6 +110,7 @@ private:
     NodeCard *m_nodeCard = nullptr;
     AttitudeCard *m_attitudeCard = nullptr;
     StatusLine *m_statusLine = nullptr;
+    RecordingActions *m_recordingActions = nullptr;
     RecordingBadge *m_recordingBadge = nullptr;
     LanguageMenu *m_languageMenu = nullptr;
     MainActions *m_actions = nullptr;
