@@ -1,9 +1,9 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import KVCenter.Chart
 import KVCenter.Controls
 import KVCenter.Fft
-import KVCenter.Wave
 
 /// The chart of the spectra as a card: title and settings of the spectra, legend, measurements, plot, and buttons.
 FocusScope {
@@ -185,7 +185,7 @@ FocusScope {
                 spacing: 12
 
                 Repeater {
-                    model: view.lineNames
+                    model: view.seriesNames
 
                     ChartLegendEntry {
                         required property int index
@@ -193,36 +193,20 @@ FocusScope {
 
                         objectName: "legend_" + index
                         name: modelData
-                        color: view.lineColors[index]
-                        shown: view.visibleLines[index] ?? true
-                        onClicked: view.setLineVisible(index, !shown)
+                        color: view.seriesColors[index]
+                        shown: view.visibleSeries[index] ?? true
+                        onClicked: view.setSeriesVisible(index, !shown)
                     }
                 }
             }
         }
-        Flow {
+        ChartMeasurement {
             width: parent.width
-            spacing: 14
-            visible: measurements.count > 0
-
-            Repeater {
-                id: measurements
-
-                model: view.measurement
-
-                Text {
-                    required property string modelData
-
-                    text: modelData
-                    textFormat: Text.PlainText
-                    font: Theme.fixedSmallFont
-                    color: Theme.accentDark
-                }
-            }
+            viewState: view
         }
     }
 
-    SpectrumPlot {
+    ChartPlot {
         id: plot
 
         anchors {
@@ -236,7 +220,20 @@ FocusScope {
             bottomMargin: 6
         }
         viewState: view
-        bridge: chart.bridge
+        xUnit: "Hz"
+        pansBothAxes: true
+        resetButtons: Qt.RightButton | Qt.MiddleButton
+        underlay: SpectrumLevels {
+            anchors.fill: parent
+            plot: plot
+            viewState: view
+            bridge: chart.bridge
+        }
+        overlay: SpectrumMarks {
+            anchors.fill: parent
+            plot: plot
+            viewState: view
+        }
         onPressed: chart.forceActiveFocus()
     }
 

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
+import KVCenter.Chart
 import KVCenter.Controls
 import KVCenter.Wave
 

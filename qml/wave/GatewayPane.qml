@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import KVCenter.Chart
 import KVCenter.Wave
 
 /// A place for a chart that is there only while it has a bridge.

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import KVCenter.Chart
 import KVCenter.Controls
 import KVCenter.Wave
 

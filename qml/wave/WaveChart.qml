@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
+import KVCenter.Chart
 import KVCenter.Controls
 import KVCenter.Wave
 
@@ -35,7 +36,7 @@ FocusScope {
     }
     Keys.onPressed: event => event.accepted = view.handleKey(event.key, event.modifiers)
 
-    ChartViewState {
+    WaveViewState {
         id: view
 
         bridge: chart.bridge
@@ -192,7 +193,7 @@ FocusScope {
             width: parent.width
 
             Repeater {
-                model: chart.bridge ? chart.bridge.channelNames : []
+                model: view.seriesNames
 
                 ChartLegendEntry {
                     required property int index
@@ -200,10 +201,10 @@ FocusScope {
 
                     objectName: "legend_" + modelData
                     name: modelData
-                    color: chart.bridge.channelColors[index]
-                    shown: view.visibleChannels[index] ?? true
+                    color: view.seriesColors[index]
+                    shown: view.visibleSeries[index] ?? true
                     value: chart.low ? "" : view.liveTexts[index] ?? ""
-                    onClicked: view.setChannelVisible(index, !shown)
+                    onClicked: view.setSeriesVisible(index, !shown)
                 }
             }
         }
@@ -212,29 +213,15 @@ FocusScope {
             visible: (filterButton.checked && filterButton.visible) || (chart.bridge !== null && chart.bridge.filterOn)
             bridge: chart.bridge
         }
-        Flow {
+        ChartMeasurement {
             width: parent.width
-            visible: measurements.count > 0
-
-            Repeater {
-                id: measurements
-
-                model: view.measurement
-
-                Text {
-                    required property string modelData
-
-                    rightPadding: 14
-                    text: modelData
-                    textFormat: Text.PlainText
-                    font: Theme.fixedSmallFont
-                    color: Theme.accentDark
-                }
-            }
+            viewState: view
         }
     }
 
     ChartPlot {
+        id: plot
+
         anchors {
             left: parent.left
             right: parent.right
@@ -246,11 +233,17 @@ FocusScope {
             bottomMargin: 6
         }
         viewState: view
+        xUnit: "s"
+        overlay: StreamMarks {
+            anchors.fill: parent
+            plot: plot
+            viewState: view
+        }
         onPressed: chart.forceActiveFocus()
     }
 
     // Over the lines that stand, so that the title keeps its room.
-    Rectangle {
+    PlotMark {
         objectName: "staleMark"
         anchors {
             top: rows.bottom
@@ -259,22 +252,8 @@ FocusScope {
             rightMargin: 22
         }
         visible: view.stale
-        width: staleText.implicitWidth + 16
-        height: staleText.implicitHeight + 6
-        radius: height / 2
-        color: Theme.surface
-        border.width: 1
-        border.color: Theme.warning
-
-        Text {
-            id: staleText
-
-            anchors.centerIn: parent
-            text: qsTr("No new samples")
-            textFormat: Text.PlainText
-            font: Theme.strongFont
-            color: Theme.warning
-        }
+        text: qsTr("No new samples")
+        ink: Theme.warning
     }
 
     EmptyState {

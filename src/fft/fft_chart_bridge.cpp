@@ -6,8 +6,10 @@
 #include <cmath>
 
 #include "app/app_language_manager.h"
+#include "app/theme.h"
 #include "fft/band_power.h"
 #include "fft/fft_window.h"
+#include "fft/spectrum_points.h"
 
 using peak_analysis::Spectrum;
 
@@ -186,6 +188,36 @@ void FftChartBridge::setIgnoreSteadyValue(bool ignore)
 QString FftChartBridge::windowName() const
 {
     return fftWindowLabel(m_meta.windowName);
+}
+
+QString FftChartBridge::seriesName(int series) const
+{
+    constexpr std::array kNames{"X", "Y", "Z"};
+    return series >= 0 && size_t(series) < kNames.size() ? QString(QLatin1String(kNames[size_t(series)]))
+                                                         : tr("Resultant");
+}
+
+quint32 FftChartBridge::seriesRgb(int series) const
+{
+    constexpr std::array kColors{theme::kAxisX, theme::kAxisY, theme::kAxisZ, theme::kNorm};
+    return kColors.at(size_t(series)).rgb() & 0xFFFFFF;
+}
+
+void FftChartBridge::seriesPoints(int series, double xMin, double xMax, int maxPoints, QList<QPointF> &out) const
+{
+    spectrum_points::visible(series == kSeries - 1 ? getResultantPoints() : getPoints(series), xMin, xMax, maxPoints,
+                             out);
+}
+
+QList<double> FftChartBridge::valuesAt(double frequency) const
+{
+    const QVariantMap bin = queryCursor(frequency);
+    if (bin.isEmpty())
+        return {};
+    const double x = bin.value(QStringLiteral("xAmplitude")).toDouble();
+    const double y = bin.value(QStringLiteral("yAmplitude")).toDouble();
+    const double z = bin.value(QStringLiteral("zAmplitude")).toDouble();
+    return {x, y, z, std::sqrt(x * x + y * y + z * z)};
 }
 
 bool FftChartBridge::hasData() const

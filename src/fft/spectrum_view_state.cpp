@@ -4,7 +4,6 @@
 #include <cmath>
 #include <utility>
 
-#include "app/theme.h"
 #include "app/value_format.h"
 
 namespace {
@@ -29,7 +28,7 @@ void SpectrumViewState::setBridge(FftChartBridge *bridge)
     if (bridge) {
         connect(bridge, &FftChartBridge::fftDataChanged, this, &SpectrumViewState::dataChanged);
         connect(bridge, &FftChartBridge::frameMetaChanged, this, &SpectrumViewState::followFrequencies);
-        connect(bridge, &FftChartBridge::frameMetaChanged, this, &SpectrumViewState::linesChanged);
+        connect(bridge, &FftChartBridge::frameMetaChanged, this, &SpectrumViewState::seriesChanged);
         connect(bridge, &FftChartBridge::viewConfigChanged, this, &SpectrumViewState::configChanged);
         connect(bridge, &FftChartBridge::alarmPresetChanged, this, &SpectrumViewState::thresholdsChanged);
         connect(bridge, &FftChartBridge::xAxisResetRequested, this, [this] { setX(fullX()); });
@@ -64,28 +63,18 @@ void SpectrumViewState::setFitted(bool fitted)
     emit pictureChanged();
 }
 
-QStringList SpectrumViewState::lineNames() const
-{
-    return {QStringLiteral("X"), QStringLiteral("Y"), QStringLiteral("Z"), tr("Resultant")};
-}
-
-QVariantList SpectrumViewState::lineColors() const
-{
-    return {theme::kAxisX, theme::kAxisY, theme::kAxisZ, theme::kNorm};
-}
-
-QList<bool> SpectrumViewState::visibleLines() const
+QList<bool> SpectrumViewState::visibleSeries() const
 {
     return {m_visible[0], m_visible[1], m_visible[2], m_bridge && m_bridge->showResultant()};
 }
 
-void SpectrumViewState::setLineVisible(int line, bool visible)
+void SpectrumViewState::setSeriesVisible(int line, bool visible)
 {
-    if (line == kLines - 1 && m_bridge) {
+    if (line == FftChartBridge::kSeries - 1 && m_bridge) {
         m_bridge->setShowResultant(visible);
     } else if (line >= 0 && line < int(m_visible.size()) && m_visible[size_t(line)] != visible) {
         m_visible[size_t(line)] = visible;
-        emit linesChanged();
+        emit seriesChanged();
         emit pictureChanged();
     }
 }
@@ -93,6 +82,16 @@ void SpectrumViewState::setLineVisible(int line, bool visible)
 double SpectrumViewState::level(double amplitude) const
 {
     return m_decibels ? std::max(kFloorDb, 20 * std::log10(amplitude)) : amplitude;
+}
+
+double SpectrumViewState::fitFromX() const
+{
+    return m_bridge ? m_bridge->steadyEndHz() : 0;
+}
+
+QByteArray SpectrumViewState::visibleTable() const
+{
+    return m_bridge ? m_bridge->exportSnapshotCsv().toUtf8() : QByteArray();
 }
 
 QVariantList SpectrumViewState::marks() const
@@ -122,7 +121,7 @@ double SpectrumViewState::alarmLevel() const
     return m_bridge ? level(m_bridge->alarmRule().alarmThreshold) : 0;
 }
 
-QString SpectrumViewState::hoverFrequency() const
+QString SpectrumViewState::hoverTitle() const
 {
     const QVariantMap bin = m_bridge ? m_bridge->queryCursor(m_hoverX) : QVariantMap();
     return bin.isEmpty() ? QString()
@@ -132,20 +131,10 @@ QString SpectrumViewState::hoverFrequency() const
 QStringList SpectrumViewState::hoverTexts() const
 {
     QStringList texts;
-    for (const double amplitude : amplitudesAt(m_hoverX))
+    const QList<double> amplitudes = m_bridge ? m_bridge->valuesAt(m_hoverX) : QList<double>();
+    for (const double amplitude : amplitudes)
         texts += amplitudeText(amplitude).rightJustified(kWidth, QChar::Nbsp);
     return texts;
-}
-
-QList<double> SpectrumViewState::amplitudesAt(double frequency) const
-{
-    const QVariantMap bin = m_bridge ? m_bridge->queryCursor(frequency) : QVariantMap();
-    if (bin.isEmpty())
-        return {};
-    const double x = bin.value(QStringLiteral("xAmplitude")).toDouble();
-    const double y = bin.value(QStringLiteral("yAmplitude")).toDouble();
-    const double z = bin.value(QStringLiteral("zAmplitude")).toDouble();
-    return {x, y, z, std::sqrt(x * x + y * y + z * z)};
 }
 
 QString SpectrumViewState::amplitudeText(double amplitude, bool isDifference) const
@@ -163,7 +152,7 @@ QStringList SpectrumViewState::measurement() const
     QStringList texts;
     std::array<QList<double>, 2> amplitudes;
     for (size_t i = 0; i < m_cursors.size(); ++i) {
-        amplitudes[i] = amplitudesAt(m_cursors[i]);
+        amplitudes[i] = m_bridge ? m_bridge->valuesAt(m_cursors[i]) : QList<double>();
         if (!std::isnan(m_cursors[i]))
             texts += QStringLiteral("%1 %2")
                          .arg(QLatin1Char(i == 0 ? 'A' : 'B'))
@@ -172,8 +161,8 @@ QStringList SpectrumViewState::measurement() const
     if (texts.size() < 2)
         return texts;
     texts += QStringLiteral("Δf %1").arg(tr("%1 Hz").arg(value_format::signedNumber(m_cursors[1] - m_cursors[0], 2)));
-    const QList<bool> visible = visibleLines();
-    const QStringList names = lineNames();
+    const QList<bool> visible = visibleSeries();
+    const QStringList names = seriesNames();
     for (qsizetype i = 0; i < std::min(amplitudes[0].size(), amplitudes[1].size()); ++i) {
         if (visible.at(i))
             texts += QStringLiteral("Δ%1 %2").arg(
@@ -223,7 +212,7 @@ void SpectrumViewState::reset()
     emit pictureChanged();
 }
 
-void SpectrumViewState::fitLevels(double low, double high)
+void SpectrumViewState::fitValues(double low, double high)
 {
     if (!m_fitted || !(low <= high))
         return;
@@ -259,7 +248,7 @@ void SpectrumViewState::configChanged()
         m_y = fullY();
         emit viewChanged();
     }
-    emit linesChanged();
+    emit seriesChanged();
     emit pictureChanged();
 }
 

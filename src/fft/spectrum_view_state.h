@@ -7,8 +7,8 @@
 #include <QVariantList>
 #include <QtQml/qqml.h>
 
+#include "chart/plot_view_state.h"
 #include "fft/fft_chart_bridge.h"
-#include "wave/plot_view_state.h"
 
 /// What the spectrum view shows of its bridge: the visible ranges of both axes, which curves, the cursors A and B, the
 /// crosshair, and the texts that go with them. The view binds to it and passes gestures on.
@@ -25,18 +25,11 @@ class SpectrumViewState : public PlotViewState
     Q_PROPERTY(FftChartBridge *bridge READ bridge WRITE setBridge NOTIFY bridgeChanged)
     Q_PROPERTY(bool decibels READ decibels WRITE setDecibels NOTIFY viewChanged)
     Q_PROPERTY(bool fitted READ isFitted WRITE setFitted NOTIFY viewChanged)
-    Q_PROPERTY(QStringList lineNames READ lineNames NOTIFY linesChanged)
-    Q_PROPERTY(QVariantList lineColors READ lineColors CONSTANT)
-    Q_PROPERTY(QList<bool> visibleLines READ visibleLines NOTIFY linesChanged)
     Q_PROPERTY(QVariantList marks READ marks NOTIFY marksChanged)
     Q_PROPERTY(double watchLevel READ watchLevel NOTIFY thresholdsChanged)
     Q_PROPERTY(double alarmLevel READ alarmLevel NOTIFY thresholdsChanged)
-    Q_PROPERTY(QString hoverFrequency READ hoverFrequency NOTIFY hoverChanged)
-    Q_PROPERTY(QStringList hoverTexts READ hoverTexts NOTIFY hoverChanged)
-    Q_PROPERTY(QStringList measurement READ measurement NOTIFY cursorsChanged)
 
 public:
-    static constexpr int kLines = 4; ///< X, Y, Z and the resultant
     static constexpr double kFloorDb = -60;
 
     explicit SpectrumViewState(QObject *parent = nullptr);
@@ -49,37 +42,36 @@ public:
     bool isFitted() const { return m_fitted; }
     void setFitted(bool fitted);
 
-    QStringList lineNames() const;
-    QVariantList lineColors() const;
-    QList<bool> visibleLines() const;
-    Q_INVOKABLE void setLineVisible(int line, bool visible);
+    const ChartSource *source() const override { return m_bridge; }
+    QList<bool> visibleSeries() const override;
+    void setSeriesVisible(int line, bool visible) override;
+    double level(double amplitude) const override;
+    double fitFromX() const override;
+    void fitValues(double low, double high) override;
 
-    /// Level of an amplitude.
-    double level(double amplitude) const;
     /// The dominant peak and its harmonics: maps of "frequency", "level" and "label".
     QVariantList marks() const;
     double watchLevel() const;
     double alarmLevel() const;
 
-    /// Frequency under the pointer.
-    QString hoverFrequency() const;
-    /// Amplitude of each line at the bin nearest to the pointer; empty without one.
-    QStringList hoverTexts() const;
+    /// At the bin nearest to the pointer.
+    QString hoverTitle() const override;
+    QStringList hoverTexts() const override;
 
-    /// What the cursors measure: their bins, and with both the differences.
-    QStringList measurement() const;
+    /// The bins of the cursors, and with both the differences.
+    QStringList measurement() const override;
+
+    QString fileStem() const override { return QStringLiteral("spectrum"); }
+    /// All spectra: they are short.
+    QByteArray visibleTable() const override;
 
     void zoomY(double factor, double anchor) override;
     void panY(double fraction) override;
     /// All frequencies, amplitudes up to the ceiling.
     void reset() override;
 
-    /// Told by the view which levels are visible; fits the value axis while that is wanted.
-    void fitLevels(double low, double high);
-
 signals:
     void bridgeChanged();
-    void linesChanged();
     void marksChanged();
     void thresholdsChanged();
 
@@ -98,7 +90,6 @@ private:
     chart_range::Range fullY() const;
     void setY(chart_range::Range range);
     QString amplitudeText(double amplitude, bool isDifference = false) const;
-    QList<double> amplitudesAt(double frequency) const;
 
     QPointer<FftChartBridge> m_bridge;
     bool m_decibels = false;

@@ -9,7 +9,7 @@
 
 #include "app/theme.h"
 #include "app/value_format.h"
-#include "wave/axis_ticks.h"
+#include "chart/axis_ticks.h"
 
 namespace {
 

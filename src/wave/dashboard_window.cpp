@@ -14,7 +14,7 @@
 #include "app/frame_gate.h"
 #include "app/theme.h"
 #include "app/window_place.h"
-#include "wave/chart_saver.h"
+#include "chart/chart_saver.h"
 
 namespace {
 

@@ -71,11 +71,38 @@ QList<QPointF> WaveChartBridge::getDecimatedPoints(int channel, double tMin, dou
 
 QVariantList WaveChartBridge::getValuesAtTime(double timeSec) const
 {
+    QVariantList list;
+    for (const double value : valuesAt(timeSec))
+        list += value;
+    return list;
+}
+
+quint32 WaveChartBridge::seriesRgb(int channel) const
+{
+    return m_type && channel >= 0 && channel < channelCount() ? m_type->channels[size_t(channel)].color.rgb() & 0xFFFFFF
+                                                              : 0;
+}
+
+void WaveChartBridge::seriesPoints(int channel, double xMin, double xMax, int maxPoints, QList<QPointF> &out) const
+{
+    out.clear();
+    if (!m_model.hasData())
+        return;
+    int first = 0;
+    int last = 0;
+    m_model.resolveTimeWindow(xMin, xMax, first, last);
+    const double from = -m_model.ageSecAtSampleOffset(std::min(last, m_model.count() - 1));
+    const double to = -m_model.ageSecAtSampleOffset(std::max(first - 1, 0));
+    m_model.getDecimatedPointsByTime(channel, from, to, maxPoints, out);
+}
+
+QList<double> WaveChartBridge::valuesAt(double timeSec) const
+{
     const int offset = m_model.sampleOffsetAtTime(timeSec);
     if (offset < 0)
         return {};
     const int slot = (m_model.head() + offset) % WaveformDataModel::kCapacity;
-    QVariantList values;
+    QList<double> values;
     for (int channel = 0; channel < channelCount(); ++channel)
         values += m_model.rawValue(channel, slot);
     return values;

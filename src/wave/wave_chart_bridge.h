@@ -9,6 +9,7 @@
 
 #include <optional>
 
+#include "chart/chart_source.h"
 #include "session/stream_event.h"
 #include "wave/waveform_data_model.h"
 
@@ -20,7 +21,7 @@ struct SensorType;
 ///
 /// dataChanged() comes at most once per pass of the event loop, about 30 times a second for fast streams, and never
 /// while nobody observes the chart. Main thread only.
-class WaveChartBridge : public QObject
+class WaveChartBridge : public QObject, public ChartSource
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(WaveChartBridge)
@@ -60,7 +61,7 @@ public:
     double yMax() const;
     bool playing() const { return m_playing; }
     bool hasFilter() const;
-    bool hasData() const { return m_model.hasData(); }
+    bool hasData() const override { return m_model.hasData(); }
     /// Samples per second as applied; a change that came during a pause waits for its end.
     unsigned int framerate() const { return m_appliedFrameRate; }
 
@@ -81,6 +82,12 @@ public:
     Q_INVOKABLE int headIndex() const { return m_model.head(); }
     /// Stamp of the newest sample in seconds: tells by how much the picture moved.
     Q_INVOKABLE double newestTimeSec() const { return double(m_model.timestampAtSampleOffset(0)) / 1000.0; }
+    int seriesCount() const override { return channelCount(); }
+    QString seriesName(int channel) const override { return channelNames().value(channel); }
+    quint32 seriesRgb(int channel) const override;
+    void seriesPoints(int channel, double xMin, double xMax, int maxPoints, QList<QPointF> &out) const override;
+    QList<double> valuesAt(double timeSec) const override;
+
     /// The samples, for export.
     const WaveformDataModel &model() const { return m_model; }
 

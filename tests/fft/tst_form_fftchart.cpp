@@ -333,7 +333,7 @@ private slots:
         QTest::keyClick(bench.view, Qt::Key_Home);
 
         QTest::mouseMove(bench.view, bench.at(0.25, 0.5));
-        QTRY_COMPARE(bench.state->hoverFrequency(), u"125.00 Hz"_s);
+        QTRY_COMPARE(bench.state->hoverTitle(), u"125.00 Hz"_s);
         QCOMPARE(bench.state->hoverTexts().value(1).trimmed(), u"250.00 mG"_s);
         QTest::keyClick(bench.view, Qt::Key_A);
         bench.state->placeCursor(1, 250);

@@ -6,7 +6,7 @@
 #include <limits>
 #include <stdexcept>
 
-#include "wave/circular_sample_buffer.h"
+#include "chart/circular_sample_buffer.h"
 #include "wave/waveform_data_model.h"
 
 namespace {

@@ -5,13 +5,14 @@
 #include <cmath>
 #include <limits>
 
-#include "wave/axis_ticks.h"
-#include "wave/chart_axis.h"
-#include "wave/chart_export.h"
-#include "wave/chart_range.h"
+#include "chart/axis_ticks.h"
+#include "chart/chart_axis.h"
+#include "chart/chart_range.h"
+#include "chart/series_geometry.h"
+#include "chart/whole_file.h"
 #include "wave/chart_text.h"
-#include "wave/chart_view_state.h"
-#include "wave/series_geometry.h"
+#include "wave/wave_csv.h"
+#include "wave/wave_view_state.h"
 
 using chart_range::Range;
 
@@ -33,7 +34,7 @@ void push(WaveChartBridge &bridge, unsigned int fromMs, int count)
 struct Chart
 {
     WaveChartBridge bridge{QStringLiteral("acc")};
-    ChartViewState view;
+    WaveViewState view;
     Chart()
     {
         bridge.setObserved(true);
@@ -257,15 +258,15 @@ private slots:
         push(chart.bridge, 1000, 30);
         const float broken[] = {float(kNaN), -0.125F, 1e-20F, float(kInf)};
         chart.bridge.pushSample(broken, 4, 4000);
-        QCOMPARE(chart_export::csv(chart.bridge, -0.2, 0),
+        QCOMPARE(wave_csv::table(chart.bridge, -0.2, 0),
                  QByteArray("time (s),X (G),Y (G),Z (G),Norm (G)\n-0.200,3800,1,1,1\n-0.100,3900,1,1,1\n"
                             "0.000,nan,-0.125,9.99999968e-21,inf\n"));
         const QTemporaryDir folder;
         const QString path = folder.filePath(QStringLiteral("a.csv"));
         QString reason;
-        QVERIFY(chart_export::write(path, "x", reason) && reason.isEmpty());
+        QVERIFY(whole_file::write(path, "x", reason) && reason.isEmpty());
         QVERIFY(QFile::exists(path));
-        QVERIFY(!chart_export::write(folder.filePath(QStringLiteral("none/a.csv")), "x", reason) && !reason.isEmpty());
+        QVERIFY(!whole_file::write(folder.filePath(QStringLiteral("none/a.csv")), "x", reason) && !reason.isEmpty());
     }
 };
 

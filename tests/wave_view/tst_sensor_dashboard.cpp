@@ -10,10 +10,11 @@
 #include <limits>
 
 #include "app/settings_keys.h"
+#include "chart/chart_saver.h"
+#include "chart/series_item.h"
 #include "support/quick_items.h"
-#include "wave/chart_saver.h"
 #include "wave/form_sensor_dashboard.h"
-#include "wave/series_item.h"
+#include "wave/wave_view_state.h"
 
 namespace {
 
@@ -24,7 +25,7 @@ struct Bench
     QQuickItem *chart = findItem(window.rootObject(), "chart_acc");
     QQuickItem *plot = findItem(chart, "plotMouse");
     SeriesItem *series = qobject_cast<SeriesItem *>(findItem(chart, "series"));
-    ChartViewState *view = series->viewState();
+    WaveViewState *view = qobject_cast<WaveViewState *>(series->viewState());
 
     explicit Bench(const QStringList &types = {QStringLiteral("acc")})
     {

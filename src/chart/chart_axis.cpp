@@ -1,9 +1,9 @@
-#include "wave/chart_axis.h"
+#include "chart/chart_axis.h"
 
 #include <algorithm>
 
 #include "app/value_format.h"
-#include "wave/axis_ticks.h"
+#include "chart/axis_ticks.h"
 
 void ChartAxis::setUnit(const QString &unit)
 {

@@ -2,13 +2,13 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import KVCenter.Controls
-import KVCenter.Fft
+import KVCenter.Chart
 
-/// The box beside the crosshair: the frequency of the bin and the amplitude of each curve there.
+/// The box beside the crosshair: the position and the value of each visible series there.
 Rectangle {
     id: box
 
-    required property SpectrumViewState viewState
+    required property PlotViewState viewState
 
     width: lines.width + 16
     height: lines.height + 12
@@ -25,13 +25,13 @@ Rectangle {
         spacing: 1
 
         Text {
-            text: box.viewState.hoverFrequency
+            text: box.viewState.hoverTitle
             textFormat: Text.PlainText
             font: Theme.fixedSmallFont
             color: Theme.textSecondary
         }
         Repeater {
-            model: box.viewState.lineNames
+            model: box.viewState.seriesNames
 
             Item {
                 id: line
@@ -39,7 +39,7 @@ Rectangle {
                 required property int index
                 required property string modelData
 
-                visible: box.viewState.visibleLines[index] ?? true
+                visible: box.viewState.visibleSeries[index] ?? true
                 implicitWidth: nameText.implicitWidth + valueText.implicitWidth + 10
                 implicitHeight: nameText.implicitHeight
                 width: Math.max(implicitWidth, lines.width)
@@ -50,7 +50,7 @@ Rectangle {
                     text: line.modelData
                     textFormat: Text.PlainText
                     font: Theme.fixedSmallFont
-                    color: box.viewState.lineColors[line.index]
+                    color: box.viewState.seriesColors[line.index] ?? Theme.text
                 }
                 Text {
                     id: valueText

@@ -1,4 +1,4 @@
-#include "wave/axis_ticks.h"
+#include "chart/axis_ticks.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,4 @@
-#include "wave/chart_export.h"
-
-#include <QSaveFile>
+#include "wave/wave_csv.h"
 
 #include "wave/chart_text.h"
 #include "wave/wave_chart_bridge.h"
@@ -11,7 +9,7 @@ constexpr int kDigits = 9; ///< brings a 32-bit value back exactly
 
 } // namespace
 
-QByteArray chart_export::csv(const WaveChartBridge &bridge, double xMin, double xMax)
+QByteArray wave_csv::table(const WaveChartBridge &bridge, double xMin, double xMax)
 {
     const WaveformDataModel &model = bridge.model();
     const QString unit = chart_text::fileUnit(bridge);
@@ -31,13 +29,4 @@ QByteArray chart_export::csv(const WaveChartBridge &bridge, double xMin, double 
         text += '\n';
     }
     return text;
-}
-
-bool chart_export::write(const QString &path, const QByteArray &content, QString &reason)
-{
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
-        return true;
-    reason = file.errorString();
-    return false;
 }

@@ -1,4 +1,4 @@
-#include "wave/circular_sample_buffer.h"
+#include "chart/circular_sample_buffer.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "wave/chart_saver.h"
+#include "chart/chart_saver.h"
 
 #include <QBuffer>
 #include <QDateTime>
@@ -13,16 +13,7 @@
 
 #include "app/app_language_manager.h"
 #include "app/settings_keys.h"
-#include "wave/chart_export.h"
-
-namespace {
-
-QString stemOf(const ChartViewState &view)
-{
-    return view.bridge() ? view.bridge()->sensorType() : QStringLiteral("chart");
-}
-
-} // namespace
+#include "chart/whole_file.h"
 
 ChartSaver::ChartSaver(QWindow *window, QLatin1String settingsGroup, QObject *parent)
     : QObject(parent), m_window(window), m_settingsGroup(settingsGroup)
@@ -31,18 +22,17 @@ ChartSaver::ChartSaver(QWindow *window, QLatin1String settingsGroup, QObject *pa
             [this] { tell(m_sentence, m_failed); });
 }
 
-void ChartSaver::saveData(ChartViewState *view)
+void ChartSaver::saveData(PlotViewState *view)
 {
-    if (!view || !view->bridge())
-        return;
-    save(tr("Save the visible samples"), suggestedName(stemOf(*view), QLatin1String(".csv")),
-         tr("Comma-separated values (*.csv)"), chart_export::csv(*view->bridge(), view->xViewMin(), view->xViewMax()));
+    if (view && view->source())
+        save(tr("Save the visible samples"), suggestedName(view->fileStem(), QLatin1String(".csv")),
+             tr("Comma-separated values (*.csv)"), view->visibleTable());
 }
 
-void ChartSaver::savePicture(ChartViewState *view, QQuickItem *item)
+void ChartSaver::savePicture(PlotViewState *view, QQuickItem *item)
 {
     if (view)
-        savePictureAs(stemOf(*view), item);
+        savePictureAs(view->fileStem(), item);
 }
 
 void ChartSaver::savePictureAs(const QString &stem, QQuickItem *item)
@@ -82,7 +72,7 @@ void ChartSaver::save(const QString &title, const QString &fileName, const QStri
     connect(dialog, &QFileDialog::fileSelected, this, [this, content](const QString &path) {
         const QString shownPath = QDir::toNativeSeparators(path);
         QString reason;
-        if (!chart_export::write(path, content, reason)) {
+        if (!whole_file::write(path, content, reason)) {
             tell([=] { return tr("%1 could not be written: %2").arg(shownPath, reason); }, true);
             return;
         }

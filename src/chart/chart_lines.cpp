@@ -1,11 +1,11 @@
-#include "wave/chart_lines.h"
+#include "chart/chart_lines.h"
 
 #include <QQuickWindow>
 #include <QSGRendererInterface>
 
 #include <algorithm>
 
-#include "wave/series_nodes.h"
+#include "chart/series_nodes.h"
 
 ChartLines::ChartLines(QQuickItem *parent) : QQuickItem(parent)
 {

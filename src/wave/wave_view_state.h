@@ -8,7 +8,7 @@
 #include <QTimer>
 #include <QtQml/qqml.h>
 
-#include "wave/plot_view_state.h"
+#include "chart/plot_view_state.h"
 #include "wave/wave_chart_bridge.h"
 
 /// What one chart view shows of its bridge: the visible ranges of both axes, which channels, the measuring cursors, the
@@ -20,10 +20,10 @@
 ///
 /// The value axis fits itself to the visible values until the user zooms or pans it; reset() goes back to that.
 /// Main thread only; the bridge is not owned and may die first.
-class ChartViewState : public PlotViewState
+class WaveViewState : public PlotViewState
 {
     Q_OBJECT
-    Q_DISABLE_COPY_MOVE(ChartViewState)
+    Q_DISABLE_COPY_MOVE(WaveViewState)
     QML_ELEMENT
     Q_PROPERTY(WaveChartBridge *bridge READ bridge WRITE setBridge NOTIFY bridgeChanged)
     Q_PROPERTY(bool active READ isActive WRITE setActive NOTIFY activeChanged)
@@ -33,17 +33,13 @@ class ChartViewState : public PlotViewState
     Q_PROPERTY(bool yAutomatic READ isYAutomatic NOTIFY viewChanged)
     Q_PROPERTY(QString name READ name NOTIFY titleChanged)
     Q_PROPERTY(QString unit READ unit NOTIFY titleChanged)
-    Q_PROPERTY(QList<bool> visibleChannels READ visibleChannels NOTIFY channelsChanged)
     Q_PROPERTY(QStringList liveTexts READ liveTexts NOTIFY liveTextsChanged)
     Q_PROPERTY(QString rangeText READ rangeText NOTIFY rangeTextChanged)
-    Q_PROPERTY(QStringList measurement READ measurement NOTIFY cursorsChanged)
-    Q_PROPERTY(QString hoverTime READ hoverTime NOTIFY hoverChanged)
-    Q_PROPERTY(QStringList hoverTexts READ hoverTexts NOTIFY hoverChanged)
     Q_PROPERTY(QList<double> breakSeconds READ breakSeconds NOTIFY breaksChanged)
     Q_PROPERTY(QStringList breakTexts READ breakTexts NOTIFY breaksChanged)
 
 public:
-    explicit ChartViewState(QObject *parent = nullptr);
+    explicit WaveViewState(QObject *parent = nullptr);
 
     WaveChartBridge *bridge() const { return m_bridge; }
     void setBridge(WaveChartBridge *bridge);
@@ -62,36 +58,35 @@ public:
     /// The chart's title without its unit, and the unit.
     QString name() const;
     QString unit() const;
-    /// One flag per channel.
-    QList<bool> visibleChannels() const { return m_visibleChannels; }
+    const ChartSource *source() const override { return m_bridge; }
+    QList<bool> visibleSeries() const override { return m_visibleChannels; }
+    void setSeriesVisible(int channel, bool visible) override;
     /// The newest value of each channel, padded to a constant width, ten times a second.
     QStringList liveTexts() const { return m_liveTexts; }
 
     /// The rate and the visible part of the history, "400 Hz · last 10 s of 60 s", for a status line.
     QString rangeText() const;
 
-    /// What the cursors measure, one text per quantity; empty unless both are placed.
-    QStringList measurement() const;
+    /// Empty unless both cursors are placed.
+    QStringList measurement() const override;
 
     /// Where the stream started again, and why, one of each per place.
     QList<double> breakSeconds() const;
     QStringList breakTexts() const;
 
-    /// Time under the pointer.
-    QString hoverTime() const;
-    /// The values of all channels at that time.
-    QStringList hoverTexts() const;
+    QString hoverTitle() const override;
+    QStringList hoverTexts() const override;
 
-    Q_INVOKABLE void setChannelVisible(int channel, bool visible);
+    QString fileStem() const override;
+    QByteArray visibleTable() const override;
+
     /// Makes the value axis manual.
     void zoomY(double factor, double anchor) override;
     void panY(double fraction) override;
     /// The last ten seconds, following, values fitted.
     void reset() override;
 
-    /// Told by the view which values are visible; fits the value axis while that is automatic. Nothing happens when
-    /// `low` is above `high`.
-    void fitValues(double low, double high);
+    void fitValues(double low, double high) override;
 
 signals:
     void bridgeChanged();
@@ -99,7 +94,6 @@ signals:
     void hasDataChanged();
     void staleChanged();
     void titleChanged();
-    void channelsChanged();
     void liveTextsChanged();
     void rangeTextChanged();
     void breaksChanged();

@@ -1,12 +1,11 @@
 #pragma once
 
 #include <QByteArray>
-#include <QString>
 
 class WaveChartBridge;
 
-/// What a chart gives to files.
-namespace chart_export {
+/// The samples of a chart as a table for files.
+namespace wave_csv {
 
 /// The samples with times from `xMin` to `xMax` (seconds before the newest), oldest first, unfiltered by what is shown:
 ///
@@ -15,9 +14,6 @@ namespace chart_export {
 ///
 /// Lines end with a line feed; numbers have a decimal point in every language; what is no number is "nan", "inf" or
 /// "-inf".
-QByteArray csv(const WaveChartBridge &bridge, double xMin, double xMax);
+QByteArray table(const WaveChartBridge &bridge, double xMin, double xMax);
 
-/// Writes a file whole or not at all. On failure `reason` holds the system's words.
-bool write(const QString &path, const QByteArray &content, QString &reason);
-
-} // namespace chart_export
+} // namespace wave_csv

@@ -1,4 +1,4 @@
-#include "wave/series_geometry.h"
+#include "chart/series_geometry.h"
 
 #include <QColor>
 #include <QImage>

@@ -1,4 +1,4 @@
-#include "wave/chart_view_state.h"
+#include "wave/wave_view_state.h"
 
 #include <QCoreApplication>
 
@@ -7,6 +7,7 @@
 
 #include "app/app_language_manager.h"
 #include "wave/chart_text.h"
+#include "wave/wave_csv.h"
 
 namespace {
 
@@ -19,12 +20,12 @@ constexpr double kStalePeriods = 6;
 
 } // namespace
 
-ChartViewState::ChartViewState(QObject *parent) : PlotViewState(MainAxis::X, {-10, 0}, {-1, 1}, parent)
+WaveViewState::WaveViewState(QObject *parent) : PlotViewState(MainAxis::X, {-10, 0}, {-1, 1}, parent)
 {
     m_liveTimer.setSingleShot(true);
     m_liveTimer.setInterval(kLastTextMs);
-    connect(&m_liveTimer, &QTimer::timeout, this, &ChartViewState::updateLiveTexts);
-    connect(&m_liveTimer, &QTimer::timeout, this, &ChartViewState::awaitSamples);
+    connect(&m_liveTimer, &QTimer::timeout, this, &WaveViewState::updateLiveTexts);
+    connect(&m_liveTimer, &QTimer::timeout, this, &WaveViewState::awaitSamples);
     m_staleTimer.setSingleShot(true);
     connect(&m_staleTimer, &QTimer::timeout, this, [this] {
         if (m_bridge && m_bridge->newestTimeSec() != m_newest) // too few yet for the bridge to tell
@@ -33,10 +34,10 @@ ChartViewState::ChartViewState(QObject *parent) : PlotViewState(MainAxis::X, {-1
             setStale(m_bridge && m_bridge->hasData() && m_bridge->playing());
     });
     connect(&AppLanguageManager::instance(), &AppLanguageManager::languageChanged, this,
-            &ChartViewState::rangeTextChanged);
+            &WaveViewState::rangeTextChanged);
 }
 
-void ChartViewState::setBridge(WaveChartBridge *bridge)
+void WaveViewState::setBridge(WaveChartBridge *bridge)
 {
     if (bridge == m_bridge)
         return;
@@ -45,8 +46,8 @@ void ChartViewState::setBridge(WaveChartBridge *bridge)
     m_bridge = bridge;
     m_visibleChannels = QList<bool>(bridge ? bridge->channelCount() : 0, true);
     if (bridge) {
-        connect(bridge, &WaveChartBridge::dataChanged, this, &ChartViewState::samplesChanged);
-        connect(bridge, &WaveChartBridge::chartTitleChanged, this, &ChartViewState::titleChanged);
+        connect(bridge, &WaveChartBridge::dataChanged, this, &WaveViewState::samplesChanged);
+        connect(bridge, &WaveChartBridge::chartTitleChanged, this, &WaveViewState::titleChanged);
         connect(bridge, &WaveChartBridge::playingChanged, this, [this] {
             setStale(false);
             awaitSamples();
@@ -56,12 +57,12 @@ void ChartViewState::setBridge(WaveChartBridge *bridge)
     m_newest = bridge ? bridge->newestTimeSec() : 0;
     emit bridgeChanged();
     emit titleChanged();
-    emit channelsChanged();
+    emit seriesChanged();
     samplesChanged();
     updateLiveTexts();
 }
 
-void ChartViewState::setActive(bool active)
+void WaveViewState::setActive(bool active)
 {
     if (active == m_active)
         return;
@@ -70,45 +71,55 @@ void ChartViewState::setActive(bool active)
     samplesChanged();
 }
 
-QString ChartViewState::name() const
+QString WaveViewState::name() const
 {
     return m_bridge ? chart_text::name(m_bridge->chartTitle()) : QString();
 }
 
-QString ChartViewState::unit() const
+QString WaveViewState::unit() const
 {
     return m_bridge ? chart_text::unit(m_bridge->chartTitle()) : QString();
 }
 
-QString ChartViewState::rangeText() const
+QString WaveViewState::rangeText() const
 {
     return m_bridge ? chart_text::range(*m_bridge, m_x.min, m_x.max) : QString();
 }
 
-QStringList ChartViewState::measurement() const
+QStringList WaveViewState::measurement() const
 {
     if (!m_bridge || std::isnan(m_cursors[0]) || std::isnan(m_cursors[1]))
         return {};
     return chart_text::measurement(*m_bridge, m_cursors[0], m_cursors[1]);
 }
 
-QString ChartViewState::hoverTime() const
+QString WaveViewState::hoverTitle() const
 {
-    return std::isnan(m_hoverX) ? QString() : chart_text::time(m_hoverX);
+    return std::isnan(m_hoverX) ? QString() : tr("t %1").arg(chart_text::time(m_hoverX));
 }
 
-QStringList ChartViewState::hoverTexts() const
+QStringList WaveViewState::hoverTexts() const
 {
     QStringList texts;
     if (!m_bridge || std::isnan(m_hoverX) || m_hoverX < m_bridge->xHistoryMin())
         return texts;
-    const QVariantList values = m_bridge->getValuesAtTime(m_hoverX);
+    const QList<double> values = m_bridge->valuesAt(m_hoverX);
     for (int channel = 0; channel < values.size(); ++channel)
-        texts += chart_text::paddedValue(*m_bridge, channel, values.at(channel).toDouble());
+        texts += chart_text::paddedValue(*m_bridge, channel, values.at(channel));
     return texts;
 }
 
-QList<double> ChartViewState::breakSeconds() const
+QString WaveViewState::fileStem() const
+{
+    return m_bridge ? m_bridge->sensorType() : QStringLiteral("chart");
+}
+
+QByteArray WaveViewState::visibleTable() const
+{
+    return m_bridge ? wave_csv::table(*m_bridge, m_x.min, m_x.max) : QByteArray();
+}
+
+QList<double> WaveViewState::breakSeconds() const
 {
     QList<double> seconds;
     if (m_bridge) {
@@ -118,7 +129,7 @@ QList<double> ChartViewState::breakSeconds() const
     return seconds;
 }
 
-QStringList ChartViewState::breakTexts() const
+QStringList WaveViewState::breakTexts() const
 {
     QStringList texts;
     if (m_bridge) {
@@ -128,29 +139,29 @@ QStringList ChartViewState::breakTexts() const
     return texts;
 }
 
-void ChartViewState::setChannelVisible(int channel, bool visible)
+void WaveViewState::setSeriesVisible(int channel, bool visible)
 {
     if (channel < 0 || channel >= m_visibleChannels.size() || m_visibleChannels.at(channel) == visible)
         return;
     m_visibleChannels[channel] = visible;
-    emit channelsChanged();
+    emit seriesChanged();
     emit pictureChanged();
 }
 
-void ChartViewState::zoomY(double factor, double anchor)
+void WaveViewState::zoomY(double factor, double anchor)
 {
     const double span = std::clamp(m_y.span() * factor, valueLimits().minSpan, kMaxValueSpan);
     setY(chart_range::zoomed(m_y, span / m_y.span(), anchor), false);
 }
 
-void ChartViewState::panY(double fraction)
+void WaveViewState::panY(double fraction)
 {
     const chart_range::Range range = chart_range::moved(m_y, fraction);
     if (std::max(std::abs(range.min), std::abs(range.max)) < kMaxValueSpan)
         setY(range, false);
 }
 
-void ChartViewState::reset()
+void WaveViewState::reset()
 {
     m_yAutomatic = true;
     m_x = {m_bridge ? m_bridge->xDefaultMin() : -10.0, 0};
@@ -160,25 +171,25 @@ void ChartViewState::reset()
 }
 
 /// It keeps to the history.
-double ChartViewState::cursorPlace(double seconds) const
+double WaveViewState::cursorPlace(double seconds) const
 {
     return m_bridge && m_bridge->hasData() ? std::clamp(seconds, m_bridge->xHistoryMin(), 0.0) : kNone;
 }
 
 /// At a third and two thirds of what is seen.
-double ChartViewState::firstPlace(int cursor) const
+double WaveViewState::firstPlace(int cursor) const
 {
     const double from = m_bridge ? std::max(m_x.min, m_bridge->xHistoryMin()) : m_x.min;
     return from + (m_x.max - from) * (cursor + 1) / 3;
 }
 
-void ChartViewState::fitValues(double low, double high)
+void WaveViewState::fitValues(double low, double high)
 {
     if (m_yAutomatic)
         setY(chart_range::fitted(m_y, low, high, valueLimits()), true);
 }
 
-void ChartViewState::samplesChanged()
+void WaveViewState::samplesChanged()
 {
     if (!m_active)
         return;
@@ -203,7 +214,7 @@ void ChartViewState::samplesChanged()
     emit pictureChanged();
 }
 
-void ChartViewState::followTime()
+void WaveViewState::followTime()
 {
     const double newest = m_bridge ? m_bridge->newestTimeSec() : 0;
     const double passed = newest - m_newest;
@@ -227,28 +238,28 @@ void ChartViewState::followTime()
     emit cursorsChanged();
 }
 
-void ChartViewState::startOver()
+void WaveViewState::startOver()
 {
     removeCursors();
     m_y = m_bridge ? chart_range::Range{m_bridge->yMin(), m_bridge->yMax()} : chart_range::Range{-1, 1};
     reset();
 }
 
-void ChartViewState::updateLiveTexts()
+void WaveViewState::updateLiveTexts()
 {
     m_sinceLiveTexts.start();
     emit rangeTextChanged();
     QStringList texts;
-    const QVariantList values = m_bridge ? m_bridge->getValuesAtTime(0) : QVariantList();
+    const QList<double> values = m_bridge ? m_bridge->valuesAt(0) : QList<double>();
     for (int channel = 0; channel < values.size(); ++channel)
-        texts += chart_text::paddedValue(*m_bridge, channel, values.at(channel).toDouble());
+        texts += chart_text::paddedValue(*m_bridge, channel, values.at(channel));
     if (texts == m_liveTexts)
         return;
     m_liveTexts = texts;
     emit liveTextsChanged();
 }
 
-void ChartViewState::setStale(bool stale)
+void WaveViewState::setStale(bool stale)
 {
     if (stale == m_stale)
         return;
@@ -256,7 +267,7 @@ void ChartViewState::setStale(bool stale)
     emit staleChanged();
 }
 
-void ChartViewState::awaitSamples()
+void WaveViewState::awaitSamples()
 {
     if (!m_bridge)
         return;
@@ -264,7 +275,7 @@ void ChartViewState::awaitSamples()
     m_staleTimer.start(int(std::clamp(kStalePeriods * periodMs, kMinStaleMs, kMaxStaleMs)));
 }
 
-chart_range::TimeLimits ChartViewState::timeLimits() const
+chart_range::TimeLimits WaveViewState::timeLimits() const
 {
     if (!m_bridge)
         return {};
@@ -272,14 +283,14 @@ chart_range::TimeLimits ChartViewState::timeLimits() const
             m_bridge->xSnapStep()};
 }
 
-chart_range::ValueLimits ChartViewState::valueLimits() const
+chart_range::ValueLimits WaveViewState::valueLimits() const
 {
     if (!m_bridge)
         return {};
     return {m_bridge->yMin(), m_bridge->yMax(), m_bridge->yMinZoom()};
 }
 
-void ChartViewState::setX(chart_range::Range window)
+void WaveViewState::setX(chart_range::Range window)
 {
     const chart_range::Range next = chart_range::limited(window, timeLimits());
     if (next == m_x)
@@ -290,7 +301,7 @@ void ChartViewState::setX(chart_range::Range window)
     emit pictureChanged();
 }
 
-void ChartViewState::setY(chart_range::Range range, bool automatic)
+void WaveViewState::setY(chart_range::Range range, bool automatic)
 {
     if (range == m_y && automatic == m_yAutomatic)
         return;

@@ -5,9 +5,13 @@
 
 #include <QList>
 #include <QObject>
+#include <QStringList>
+#include <QVariantList>
 #include <QtQml/qqml.h>
 
-#include "wave/chart_range.h"
+#include "chart/chart_range.h"
+
+class ChartSource;
 
 /// What every chart with two axes has in common: the visible ranges, the measuring cursors A and B, the crosshair, and
 /// the gestures and keys that move them. A chart adds its limits, where its cursors may stand and what is drawn.
@@ -16,7 +20,11 @@ class PlotViewState : public QObject
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(PlotViewState)
-    QML_ANONYMOUS
+    QML_ELEMENT
+    QML_UNCREATABLE("the base of the states of charts")
+    Q_PROPERTY(QStringList seriesNames READ seriesNames NOTIFY seriesChanged)
+    Q_PROPERTY(QVariantList seriesColors READ seriesColors NOTIFY seriesChanged)
+    Q_PROPERTY(QList<bool> visibleSeries READ visibleSeries NOTIFY seriesChanged)
     Q_PROPERTY(double xViewMin READ xViewMin NOTIFY viewChanged)
     Q_PROPERTY(double xViewMax READ xViewMax NOTIFY viewChanged)
     Q_PROPERTY(double yViewMin READ yViewMin NOTIFY viewChanged)
@@ -24,8 +32,38 @@ class PlotViewState : public QObject
     Q_PROPERTY(QList<double> cursors READ cursors NOTIFY cursorsChanged)
     Q_PROPERTY(bool hasCursors READ hasCursors NOTIFY cursorsChanged)
     Q_PROPERTY(double hoverX READ hoverX WRITE setHoverX NOTIFY hoverChanged)
+    Q_PROPERTY(QString hoverTitle READ hoverTitle NOTIFY hoverChanged)
+    Q_PROPERTY(QStringList hoverTexts READ hoverTexts NOTIFY hoverChanged)
+    Q_PROPERTY(QStringList measurement READ measurement NOTIFY cursorsChanged)
 
 public:
+    /// What is drawn; null while there is none.
+    virtual const ChartSource *source() const = 0;
+    QStringList seriesNames() const;
+    /// QColors.
+    QVariantList seriesColors() const;
+    /// One flag per series.
+    virtual QList<bool> visibleSeries() const = 0;
+    bool isSeriesVisible(int series) const { return visibleSeries().value(series); }
+    Q_INVOKABLE virtual void setSeriesVisible(int series, bool visible) = 0;
+    /// What the vertical axis counts for a value of the source.
+    virtual double level(double value) const { return value; }
+    /// Points up to this position say nothing about the range that the vertical axis should have.
+    virtual double fitFromX() const;
+    /// Told by the view which levels are visible; fits the vertical axis while that is automatic. Nothing happens when
+    /// `low` is above `high`.
+    virtual void fitValues(double low, double high) = 0;
+
+    /// The position under the pointer, and the value of each series there; empty where there is none.
+    virtual QString hoverTitle() const = 0;
+    virtual QStringList hoverTexts() const = 0;
+    /// What the cursors measure, one text per quantity.
+    virtual QStringList measurement() const = 0;
+
+    /// How names of files begin, and what is visible as a table for a file.
+    virtual QString fileStem() const = 0;
+    virtual QByteArray visibleTable() const = 0;
+
     double xViewMin() const { return m_x.min; }
     double xViewMax() const { return m_x.max; }
     double yViewMin() const { return m_y.min; }
@@ -62,6 +100,7 @@ public:
     Q_INVOKABLE bool handleKey(int key, int modifiers);
 
 signals:
+    void seriesChanged();
     void viewChanged();
     void cursorsChanged();
     void hoverChanged();

@@ -5,7 +5,7 @@
 
 #include <vector>
 
-#include "wave/chart_range.h"
+#include "chart/chart_range.h"
 
 class QImage;
 class QColor;

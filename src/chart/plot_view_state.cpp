@@ -1,7 +1,11 @@
-#include "wave/plot_view_state.h"
+#include "chart/plot_view_state.h"
+
+#include <QColor>
 
 #include <algorithm>
 #include <cmath>
+
+#include "chart/chart_source.h"
 
 namespace {
 
@@ -15,6 +19,27 @@ constexpr double kPanPerKey = 0.1;
 PlotViewState::PlotViewState(MainAxis mainAxis, chart_range::Range x, chart_range::Range y, QObject *parent)
     : QObject(parent), m_x(x), m_y(y), m_mainAxis(mainAxis)
 {}
+
+QStringList PlotViewState::seriesNames() const
+{
+    QStringList names;
+    for (int series = 0; source() && series < source()->seriesCount(); ++series)
+        names += source()->seriesName(series);
+    return names;
+}
+
+QVariantList PlotViewState::seriesColors() const
+{
+    QVariantList colors;
+    for (int series = 0; source() && series < source()->seriesCount(); ++series)
+        colors += QColor::fromRgb(source()->seriesRgb(series));
+    return colors;
+}
+
+double PlotViewState::fitFromX() const
+{
+    return -std::numeric_limits<double>::infinity();
+}
 
 bool PlotViewState::hasCursors() const
 {

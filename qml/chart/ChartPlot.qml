@@ -2,23 +2,37 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import KVCenter.Controls
-import KVCenter.Wave
+import KVCenter.Chart
 
-/// Axes, grid, lines, crosshair and cursors of a chart. The wheel zooms time about the pointer, with Ctrl the values;
-/// dragging pans, with Ctrl the values too; a double click resets.
+/// The frame of every chart: axes, grid, lines, crosshair with readout, and cursors. The wheel zooms the main axis
+/// about the pointer, with Ctrl the other one; dragging pans; a double click resets.
+///
+/// What a kind of chart adds lies under the grid (`underlay`) or over the lines (`overlay`), in the pixels of `area`.
 Item {
     id: plot
 
-    required property ChartViewState viewState
+    required property PlotViewState viewState
+    property string xUnit
+    /// Dragging moves both axes; else the horizontal one, with Ctrl the vertical one.
+    property bool pansBothAxes: false
+    /// Buttons whose double click resets.
+    property int resetButtons: Qt.LeftButton
+    property alias underlay: under.data
+    property alias overlay: over.data
+    readonly property alias area: plotArea
     readonly property real xSpan: viewState.xViewMax - viewState.xViewMin
+    readonly property real ySpan: viewState.yViewMax - viewState.yViewMin
 
     signal pressed
 
-    function toX(seconds: real): real {
-        return (seconds - viewState.xViewMin) / xSpan * area.width;
+    function toX(position: real): real {
+        return (position - viewState.xViewMin) / xSpan * plotArea.width;
     }
-    function toSeconds(x: real): real {
-        return viewState.xViewMin + x / area.width * xSpan;
+    function toPosition(x: real): real {
+        return viewState.xViewMin + x / plotArea.width * xSpan;
+    }
+    function toY(level: real): real {
+        return (1 - (level - viewState.yViewMin) / ySpan) * plotArea.height;
     }
 
     FontMetrics {
@@ -29,54 +43,60 @@ Item {
         font: Theme.smallFont
     }
     ChartAxis {
-        id: timeAxis
+        id: xAxis
 
         min: plot.viewState.xViewMin
         max: plot.viewState.xViewMax
-        length: area.width
+        length: plotArea.width
         spacing: metrics.digit * 9
-        unit: "s"
+        unit: plot.xUnit
     }
     ChartAxis {
-        id: valueAxis
+        id: yAxis
 
         min: plot.viewState.yViewMin
         max: plot.viewState.yViewMax
-        length: area.height
+        length: plotArea.height
         spacing: metrics.height * 2
     }
 
     Item {
-        id: area
+        id: plotArea
 
         anchors {
             fill: parent
             // Room for the longest text; five characters at least, so that the plot seldom moves.
-            leftMargin: Math.ceil(metrics.digit * Math.max(5, valueAxis.labelLength)) + 8
+            leftMargin: Math.ceil(metrics.digit * Math.max(5, yAxis.labelLength)) + 8
             rightMargin: Math.ceil(metrics.digit * 1.5)
             topMargin: Math.ceil(metrics.height / 2)
             bottomMargin: Math.ceil(metrics.height) + 4
         }
 
+        Item {
+            id: under
+
+            anchors.fill: parent
+            clip: true
+        }
         Repeater {
-            model: valueAxis.count
+            model: yAxis.count
 
             Item {
-                id: valueTick
+                id: yTick
 
                 required property int index
 
-                y: Math.round(area.height * (1 - (valueAxis.positions[index] ?? 0)))
+                y: Math.round(plotArea.height * (1 - (yAxis.positions[index] ?? 0)))
 
                 Rectangle {
-                    width: area.width
+                    width: plotArea.width
                     height: 1
                     color: Theme.line
                 }
                 Text {
                     x: -width - 6
                     y: -Math.round(height / 2)
-                    text: valueAxis.labels[valueTick.index] ?? ""
+                    text: yAxis.labels[yTick.index] ?? ""
                     textFormat: Text.PlainText
                     font: Theme.smallFont
                     color: Theme.textSecondary
@@ -84,25 +104,25 @@ Item {
             }
         }
         Repeater {
-            model: timeAxis.count
+            model: xAxis.count
 
             Item {
-                id: timeTick
+                id: xTick
 
                 required property int index
 
-                x: Math.round(area.width * (timeAxis.positions[index] ?? 0))
+                x: Math.round(plotArea.width * (xAxis.positions[index] ?? 0))
 
                 Rectangle {
                     width: 1
-                    height: area.height
+                    height: plotArea.height
                     color: Theme.line
                 }
                 Text {
                     // The last one keeps inside the card.
-                    x: Math.min(-Math.round(width / 2), area.width - timeTick.x + area.anchors.rightMargin - width)
-                    y: area.height + 4
-                    text: timeAxis.labels[timeTick.index] ?? ""
+                    x: Math.min(-Math.round(width / 2), plotArea.width - xTick.x + plotArea.anchors.rightMargin - width)
+                    y: plotArea.height + 4
+                    text: xAxis.labels[xTick.index] ?? ""
                     textFormat: Text.PlainText
                     font: Theme.smallFont
                     color: Theme.textSecondary
@@ -115,33 +135,10 @@ Item {
             anchors.fill: parent
             viewState: plot.viewState
         }
+        Item {
+            id: over
 
-        // Where the stream started again.
-        Repeater {
-            model: plot.viewState.breakSeconds.length
-
-            Rectangle {
-                id: breakMark
-
-                required property int index
-                readonly property real seconds: plot.viewState.breakSeconds[index] ?? NaN
-
-                objectName: "breakMark"
-                visible: seconds >= plot.viewState.xViewMin && seconds <= plot.viewState.xViewMax
-                x: Math.round(plot.toX(seconds))
-                width: 1
-                height: area.height
-                color: Theme.warning
-
-                Text {
-                    // Left of the line: the silence is there, not the samples.
-                    x: Math.max(-breakMark.x, -width - 3)
-                    text: plot.viewState.breakTexts[breakMark.index] ?? ""
-                    textFormat: Text.PlainText
-                    font: Theme.smallFont
-                    color: Theme.warning
-                }
-            }
+            anchors.fill: parent
         }
 
         MouseArea {
@@ -153,25 +150,30 @@ Item {
             objectName: "plotMouse"
             anchors.fill: parent
             hoverEnabled: true
-            cursorShape: pressed ? Qt.ClosedHandCursor : Qt.CrossCursor
+            acceptedButtons: Qt.LeftButton | plot.resetButtons
+            cursorShape: pressedButtons & Qt.LeftButton ? Qt.ClosedHandCursor : Qt.CrossCursor
             onPressed: event => {
                 lastX = event.x;
                 lastY = event.y;
                 plot.pressed();
             }
             onPositionChanged: event => {
-                if (pressed) {
-                    if (event.modifiers & Qt.ControlModifier)
-                        plot.viewState.panY((event.y - lastY) / height);
-                    else
+                if (pressedButtons & Qt.LeftButton) {
+                    const vertical = (event.modifiers & Qt.ControlModifier) !== 0;
+                    if (plot.pansBothAxes || !vertical)
                         plot.viewState.panX((lastX - event.x) / width);
+                    if ((plot.pansBothAxes || vertical) && event.y !== lastY)
+                        plot.viewState.panY((event.y - lastY) / height);
                     lastX = event.x;
                     lastY = event.y;
                 }
-                plot.viewState.hoverX = plot.toSeconds(event.x);
+                plot.viewState.hoverX = plot.toPosition(event.x);
             }
             onExited: plot.viewState.hoverX = NaN
-            onDoubleClicked: plot.viewState.reset()
+            onDoubleClicked: event => {
+                if (event.button & plot.resetButtons)
+                    plot.viewState.reset();
+            }
             onWheel: event => plot.viewState.wheel(event.angleDelta.y || event.angleDelta.x, event.x / width, 1 - event.y / height, (event.modifiers & Qt.ControlModifier) !== 0)
         }
 
@@ -189,22 +191,21 @@ Item {
 
             ChartCursor {
                 required property int index
-
-                readonly property double seconds: plot.viewState.cursors[index]
+                readonly property double position: plot.viewState.cursors[index]
 
                 objectName: "cursor" + name
                 name: index === 0 ? "A" : "B"
-                visible: seconds >= plot.viewState.xViewMin && seconds <= plot.viewState.xViewMax
-                x: Math.round(plot.toX(seconds))
-                height: area.height
-                onMoved: x => plot.viewState.placeCursor(index, plot.toSeconds(x))
+                visible: position >= plot.viewState.xViewMin && position <= plot.viewState.xViewMax
+                x: Math.round(plot.toX(position))
+                height: plotArea.height
+                onMoved: x => plot.viewState.placeCursor(index, plot.toPosition(x))
             }
         }
         ChartReadout {
             visible: crosshair.visible
             // Beside the crosshair, on the side that has room.
-            x: crosshair.x + 10 + width <= area.width ? crosshair.x + 10 : Math.max(0, crosshair.x - 10 - width)
-            y: 8
+            x: crosshair.x + 10 + width <= plotArea.width ? crosshair.x + 10 : Math.max(0, crosshair.x - 10 - width)
+            y: 8 + metrics.height
             viewState: plot.viewState
         }
     }

@@ -8,8 +8,8 @@
 
 #include <vector>
 
-#include "wave/chart_range.h"
-#include "wave/series_geometry.h"
+#include "chart/chart_range.h"
+#include "chart/series_geometry.h"
 
 /// Base of the items that draw a chart's lines: turns points into strips when something changed and it is visible, and
 /// hands them to the scene graph. A subclass says in collect() what to draw and calls schedule() when that changed. An

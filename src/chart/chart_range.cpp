@@ -1,9 +1,9 @@
-#include "wave/chart_range.h"
+#include "chart/chart_range.h"
 
 #include <algorithm>
 #include <cmath>
 
-#include "wave/axis_ticks.h"
+#include "chart/axis_ticks.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 
 #include <functional>
 
-#include "wave/chart_view_state.h"
+#include "chart/plot_view_state.h"
 
 class QWindow;
 
@@ -31,9 +31,9 @@ public:
     bool hasFailed() const { return m_failed; }
 
     /// The visible samples of the view as a CSV file.
-    Q_INVOKABLE void saveData(ChartViewState *view);
+    Q_INVOKABLE void saveData(PlotViewState *view);
     /// A picture of `item` as a PNG file.
-    Q_INVOKABLE void savePicture(ChartViewState *view, QQuickItem *item);
+    Q_INVOKABLE void savePicture(PlotViewState *view, QQuickItem *item);
     Q_INVOKABLE void clearMessage() { tell({}, false); }
 
     /// Asks for a file under a suggested name and writes `content` into it.

@@ -1,4 +1,4 @@
-#include "wave/series_nodes.h"
+#include "chart/series_nodes.h"
 
 #include <QImage>
 #include <QPainter>
@@ -13,7 +13,7 @@
 #include <memory>
 #include <vector>
 
-#include "wave/chart_lines.h"
+#include "chart/chart_lines.h"
 
 namespace {
 
