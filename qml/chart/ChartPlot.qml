@@ -5,7 +5,8 @@ import KVCenter.Controls
 import KVCenter.Chart
 
 /// The frame of every chart: axes, grid, lines, crosshair with readout, and cursors. The wheel zooms the main axis
-/// about the pointer, with Ctrl the other one; dragging pans; a double click resets.
+/// about the pointer, with Ctrl the other one, and pans sideways; dragging pans, with Shift it draws a box to zoom to; a
+/// double click resets.
 ///
 /// What a kind of chart adds lies under the grid (`underlay`) or over the lines (`overlay`), in the pixels of `area`.
 Item {
@@ -68,7 +69,7 @@ Item {
             // Room for the longest text; five characters at least, so that the plot seldom moves.
             leftMargin: Math.ceil(metrics.digit * Math.max(5, yAxis.labelLength)) + 8
             rightMargin: Math.ceil(metrics.digit * 1.5)
-            topMargin: Math.ceil(metrics.height / 2)
+            topMargin: Math.ceil(readout.implicitHeight) + 2
             bottomMargin: Math.ceil(metrics.height) + 4
         }
 
@@ -133,6 +134,7 @@ Item {
         SeriesItem {
             objectName: "series"
             anchors.fill: parent
+            anchors.margins: -2 // ChartLines::kBleed: a line on the edge is not cut
             viewState: plot.viewState
         }
         Item {
@@ -146,6 +148,7 @@ Item {
 
             property real lastX: 0
             property real lastY: 0
+            property bool boxing: false
 
             objectName: "plotMouse"
             anchors.fill: parent
@@ -155,10 +158,11 @@ Item {
             onPressed: event => {
                 lastX = event.x;
                 lastY = event.y;
+                boxing = event.button === Qt.LeftButton && (event.modifiers & Qt.ShiftModifier) !== 0;
                 plot.pressed();
             }
             onPositionChanged: event => {
-                if (pressedButtons & Qt.LeftButton) {
+                if ((pressedButtons & Qt.LeftButton) && !boxing) {
                     const vertical = (event.modifiers & Qt.ControlModifier) !== 0;
                     if (plot.pansBothAxes || !vertical)
                         plot.viewState.panX((lastX - event.x) / width);
@@ -169,14 +173,37 @@ Item {
                 }
                 plot.viewState.hoverX = plot.toPosition(event.x);
             }
+            onReleased: event => {
+                if (boxing)
+                    plot.viewState.zoomToBox(lastX / width, 1 - lastY / height, event.x / width, 1 - event.y / height);
+                boxing = false;
+            }
+            onCanceled: boxing = false
             onExited: plot.viewState.hoverX = NaN
             onDoubleClicked: event => {
                 if (event.button & plot.resetButtons)
                     plot.viewState.reset();
             }
-            onWheel: event => plot.viewState.wheel(event.angleDelta.y || event.angleDelta.x, event.x / width, 1 - event.y / height, (event.modifiers & Qt.ControlModifier) !== 0)
+            onWheel: event => plot.viewState.wheel(event.angleDelta.x, event.angleDelta.y, event.x / width, 1 - event.y / height, (event.modifiers & Qt.ControlModifier) !== 0)
         }
 
+        Rectangle {
+            objectName: "zoomBox"
+            visible: mouse.boxing
+            x: Math.max(0, Math.min(mouse.lastX, mouse.mouseX))
+            y: Math.max(0, Math.min(mouse.lastY, mouse.mouseY))
+            width: Math.min(plotArea.width, Math.max(mouse.lastX, mouse.mouseX)) - x
+            height: Math.min(plotArea.height, Math.max(mouse.lastY, mouse.mouseY)) - y
+            color: "transparent"
+            border.width: 1
+            border.color: Theme.accent
+
+            Rectangle {
+                anchors.fill: parent
+                color: Theme.accent
+                opacity: 0.1
+            }
+        }
         Rectangle {
             id: crosshair
 
@@ -202,10 +229,12 @@ Item {
             }
         }
         ChartReadout {
+            id: readout
+
+            objectName: "readout"
+            y: -height - 1
+            width: parent.width
             visible: crosshair.visible
-            // Beside the crosshair, on the side that has room.
-            x: crosshair.x + 10 + width <= plotArea.width ? crosshair.x + 10 : Math.max(0, crosshair.x - 10 - width)
-            y: 8 + metrics.height
             viewState: plot.viewState
         }
     }

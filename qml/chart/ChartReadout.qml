@@ -4,62 +4,59 @@ import QtQuick
 import KVCenter.Controls
 import KVCenter.Chart
 
-/// The box beside the crosshair: the position and the value of each visible series there.
-Rectangle {
-    id: box
+/// One line over the plot, so that no curve is covered and a low plot has room for it: the position under the pointer
+/// and the value of each visible series there. Where it is narrow the values stand in their colours without names.
+Item {
+    id: readout
 
     required property PlotViewState viewState
+    readonly property bool terse: full.width > width
 
-    width: lines.width + 16
-    height: lines.height + 12
-    radius: 5
-    color: "#F2FFFFFF"
-    border.width: 1
-    border.color: Theme.border
+    /// Lays out nothing that is seen: how much room the names would take.
+    TextMetrics {
+        id: full
 
-    Column {
-        id: lines
+        font: Theme.fixedSmallFont
+        text: readout.visible ? readout.viewState.hoverTitle + readout.viewState.hoverTexts.join("  ") + readout.viewState.seriesNames.join("   ") : ""
+    }
+    clip: true
+    implicitHeight: line.height
 
-        x: 8
-        y: 6
-        spacing: 1
+    Row {
+        id: line
+
+        spacing: readout.terse ? 4 : 8
 
         Text {
-            text: box.viewState.hoverTitle
+            text: readout.viewState.hoverTitle
             textFormat: Text.PlainText
             font: Theme.fixedSmallFont
             color: Theme.textSecondary
         }
         Repeater {
-            model: box.viewState.seriesNames
+            model: readout.visible ? readout.viewState.hoverTexts.length : 0
 
-            Item {
-                id: line
+            Row {
+                id: entry
 
                 required property int index
-                required property string modelData
+                readonly property color ink: readout.viewState.seriesColors[index] ?? Theme.text
 
-                visible: box.viewState.visibleSeries[index] ?? true
-                implicitWidth: nameText.implicitWidth + valueText.implicitWidth + 10
-                implicitHeight: nameText.implicitHeight
-                width: Math.max(implicitWidth, lines.width)
+                visible: readout.viewState.visibleSeries[index] ?? true
+                spacing: 3
 
                 Text {
-                    id: nameText
-
-                    text: line.modelData
+                    visible: !readout.terse
+                    text: readout.viewState.seriesNames[entry.index] ?? ""
                     textFormat: Text.PlainText
                     font: Theme.fixedSmallFont
-                    color: box.viewState.seriesColors[line.index] ?? Theme.text
+                    color: entry.ink
                 }
                 Text {
-                    id: valueText
-
-                    anchors.right: parent.right
-                    text: box.viewState.hoverTexts[line.index] ?? ""
+                    text: readout.viewState.hoverTexts[entry.index] ?? ""
                     textFormat: Text.PlainText
                     font: Theme.fixedSmallFont
-                    color: Theme.text
+                    color: readout.terse ? entry.ink : Theme.text
                 }
             }
         }

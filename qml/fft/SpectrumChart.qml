@@ -95,9 +95,27 @@ FocusScope {
                 objectName: "fit"
                 bare: true
                 text: qsTr("Fit")
-                checked: view.fitted
-                hint: view.fitted ? qsTr("Show amplitudes up to the set maximum") : qsTr("Fit the amplitude axis to the curves beyond 0 Hz")
-                onClicked: view.fitted = !view.fitted
+                checked: view.yAutomatic
+                hint: view.yAutomatic ? qsTr("Show amplitudes up to the set maximum") : qsTr("Fit the amplitude axis to the curves beyond 0 Hz")
+                onClicked: view.yAutomatic = !view.yAutomatic
+            }
+            ActionButton {
+                id: rangeButton
+
+                objectName: "rangeButton"
+                bare: true
+                checkable: true
+                iconName: "range"
+                hint: qsTr("Limits of the axes")
+            }
+            ActionButton {
+                id: statisticsButton
+
+                objectName: "statisticsButton"
+                bare: true
+                checkable: true
+                iconName: "statistics"
+                hint: qsTr("Statistics")
             }
             ActionButton {
                 bare: true
@@ -200,9 +218,21 @@ FocusScope {
                 }
             }
         }
+        ChartRangeRow {
+            width: parent.width
+            visible: rangeButton.checked
+            viewState: view
+            xUnit: "Hz"
+            yUnit: view.decibels ? "dB" : chart.bridge.unit
+        }
         ChartMeasurement {
             width: parent.width
             viewState: view
+        }
+        MeasurePanel {
+            width: parent.width
+            viewState: view
+            measures.active: view.hasCursors || statisticsButton.checked
         }
     }
 

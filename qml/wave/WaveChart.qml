@@ -19,7 +19,7 @@ FocusScope {
     readonly property alias viewState: view
     /// Too low for live values beside the names, and too narrow for all buttons.
     readonly property bool low: height < Theme.font.pointSize * 24
-    readonly property bool narrow: width < Theme.font.pointSize * 28
+    readonly property bool narrow: width < Theme.font.pointSize * 34
 
     signal pictureRequested
     signal dataRequested
@@ -112,9 +112,10 @@ FocusScope {
                 visible: !view.following
                 checked: true
                 text: qsTr("Live")
+                objectName: "liveButton"
                 hint: qsTr("Back to the newest samples")
-                keys: qsTr("Home")
-                onClicked: view.reset()
+                keys: qsTr("End")
+                onClicked: view.goLive()
             }
             ActionButton {
                 id: filterButton
@@ -130,6 +131,27 @@ FocusScope {
                 Component.onCompleted: checked = chart.bridge !== null && chart.bridge.filterOn
             }
             ActionButton {
+                id: rangeButton
+
+                objectName: "rangeButton"
+                bare: true
+                visible: !chart.narrow
+                checkable: true
+                iconName: "range"
+                hint: qsTr("Span and limits of the axes")
+            }
+            ActionButton {
+                id: statisticsButton
+
+                objectName: "statisticsButton"
+                bare: true
+                visible: !chart.narrow
+                checkable: true
+                iconName: "statistics"
+                hint: qsTr("Statistics")
+            }
+            ActionButton {
+                objectName: "cursorsButton"
                 bare: true
                 visible: !chart.narrow
                 enabled: view.hasData
@@ -213,9 +235,39 @@ FocusScope {
             visible: (filterButton.checked && filterButton.visible) || (chart.bridge !== null && chart.bridge.filterOn)
             bridge: chart.bridge
         }
+        ChartRangeRow {
+            objectName: "rangeRow"
+            width: parent.width
+            visible: rangeButton.checked && rangeButton.visible
+            viewState: view
+            xUnit: "s"
+            yUnit: view.unit
+            presets: Repeater {
+                model: view.spanPresets
+
+                Chip {
+                    required property double modelData
+
+                    objectName: "span_" + modelData
+                    text: qsTr("%1 s").arg(modelData)
+                    horizontalPadding: 8
+                    checkable: false
+                    checked: Math.abs(view.span - modelData) < 0.001
+                    hint: qsTr("Show %1 seconds").arg(modelData)
+                    onClicked: view.span = modelData
+                }
+            }
+        }
         ChartMeasurement {
             width: parent.width
             viewState: view
+        }
+        MeasurePanel {
+            objectName: "measurePanel"
+            width: parent.width
+            maximumHeight: Math.max(30, chart.height * 0.3)
+            viewState: view
+            measures.active: chart.visible && (view.hasCursors || (statisticsButton.checked && statisticsButton.visible))
         }
     }
 

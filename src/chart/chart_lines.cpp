@@ -15,7 +15,7 @@ ChartLines::ChartLines(QQuickItem *parent) : QQuickItem(parent)
 
 void ChartLines::updatePolish()
 {
-    if (!isVisible() || width() < 1 || height() < 1)
+    if (!isVisible() || width() < 2 * kBleed + 1 || height() < 2 * kBleed + 1)
         return;
     m_pixelRatio = window() ? window()->effectiveDevicePixelRatio() : 1;
     m_isPolishing = true;
@@ -63,7 +63,7 @@ bool ChartLines::isSoftware() const
 
 void ChartLines::buildLines()
 {
-    const series_geometry::Plot plot{m_content.x, m_content.y, width(), height()};
+    const series_geometry::Plot plot{m_content.x, m_content.y, width() - 2 * kBleed, height() - 2 * kBleed, kBleed};
     const double half = series_geometry::halfWidth(kLineWidth, m_pixelRatio);
     const bool painted = isSoftware();
     m_lines.resize(m_content.points.size());

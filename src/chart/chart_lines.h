@@ -26,6 +26,8 @@ class ChartLines : public QQuickItem
 public:
     static constexpr double kLineWidth = 1.5; ///< device-independent pixels
     static constexpr int kMinPoints = 256;
+    /// The item reaches that far beyond the plot on all sides, so that a line on the edge is not cut in half.
+    static constexpr int kBleed = 2;
 
     /// A line as it is handed on.
     struct Line

@@ -8,6 +8,7 @@
 namespace {
 
 constexpr double kAir = 0.04;        ///< of the data's span, on both sides
+constexpr double kEdge = 0.01;       ///< of a range: what lies nearer to its end is cut by a line's width
 constexpr double kShrinkBelow = 0.5; ///< a new range must be that much smaller before it replaces the current one
 constexpr int kIntervals = 6;
 constexpr double kMaxMagnitude = 1e30; ///< beyond, differences of doubles are no use on an axis
@@ -54,8 +55,13 @@ chart_range::Range chart_range::fitted(Range current, double low, double high, c
     air = std::max(air, (least - (high - low)) / 2);
     const double step = axis_ticks::step(high - low + 2 * air, kIntervals);
     Range range{std::floor((low - air) / step) * step, std::ceil((high + air) / step) * step};
-    if (isUsual)
-        range = {std::max(range.min, limits.min), std::min(range.max, limits.max)};
-    const bool holds = current.min <= low && high <= current.max;
+    // The usual range is the limit, unless a line would lie on the edge, half of it cut off.
+    const double clear = 2 * kEdge * (high - low + 2 * air);
+    if (isUsual) {
+        range.min = std::max(range.min, std::min(limits.min, low - clear));
+        range.max = std::min(range.max, std::max(limits.max, high + clear));
+    }
+    const double edge = current.span() * kEdge;
+    const bool holds = current.min + edge <= low && high <= current.max - edge;
     return holds && range.span() > current.span() * kShrinkBelow ? current : range;
 }

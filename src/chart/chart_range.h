@@ -35,7 +35,8 @@ Range moved(Range window, double fraction);
 /// What a value axis must keep to.
 struct ValueLimits
 {
-    double min = -1; ///< usual range of the quantity: an automatic range does not exceed it while the data do not
+    double min = -1; ///< usual range of the quantity: an automatic range exceeds it by no more than what keeps data off
+                     ///< the edges, while they do not leave it
     double max = 1;
     double minSpan = 0.1;
 };

@@ -4,6 +4,8 @@
 #include <QPointF>
 #include <QString>
 
+#include "chart/series_statistics.h"
+
 /// What a chart draws: named series of values over one horizontal axis. The bridges implement it, and everything in
 /// chart/ knows them by nothing else. Positions are in the unit of the horizontal axis (seconds before the newest
 /// sample, or Hz), values in that of the vertical one. Main thread only.
@@ -25,6 +27,11 @@ public:
     virtual void seriesPoints(int series, double xMin, double xMax, int maxPoints, QList<QPointF> &out) const = 0;
     /// The value of each series at the place nearest to `x`; empty without data.
     virtual QList<double> valuesAt(double x) const = 0;
+
+    /// Of the values of a series from `xMin` to `xMax`, in one pass over them.
+    virtual SeriesStatistics statistics(int series, double xMin, double xMax) const = 0;
+    /// Changes with the data: what was computed from them holds as long as it stands.
+    virtual quint64 revision() const = 0;
 
 protected:
     ~ChartSource() = default;

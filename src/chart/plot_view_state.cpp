@@ -13,6 +13,9 @@ constexpr double kWheelNotch = 120;
 constexpr double kMostNotches = 10; ///< at once
 constexpr double kZoomPerNotch = 0.8;
 constexpr double kPanPerKey = 0.1;
+constexpr double kPanPerNotch = 0.1;
+constexpr int kManySteps = 20;        ///< of a cursor, with Ctrl
+constexpr double kSmallestBox = 0.01; ///< of the plot
 
 } // namespace
 
@@ -54,7 +57,21 @@ void PlotViewState::placeCursor(int cursor, double position)
     if (std::isnan(place))
         return;
     m_cursors[size_t(cursor)] = place;
+    m_activeCursor = cursor;
     emit cursorsChanged();
+}
+
+bool PlotViewState::moveCursor(int direction, int steps)
+{
+    if (!hasCursors())
+        return false;
+    if (std::isnan(m_cursors[size_t(m_activeCursor)]))
+        m_activeCursor = 1 - m_activeCursor;
+    double place = m_cursors[size_t(m_activeCursor)];
+    for (int i = 0; i < steps; ++i)
+        place = placeBeside(place, direction);
+    placeCursor(m_activeCursor, place);
+    return true;
 }
 
 void PlotViewState::toggleCursors()
@@ -83,16 +100,45 @@ void PlotViewState::setHoverX(double position)
     emit hoverChanged();
 }
 
+void PlotViewState::setXRange(double min, double max)
+{
+    if (std::isfinite(min) && std::isfinite(max) && min < max)
+        setX({min, max});
+}
+
+void PlotViewState::setYRange(double min, double max)
+{
+    if (std::isfinite(min) && std::isfinite(max) && min < max)
+        setManualY({min, max});
+}
+
+void PlotViewState::zoomToBox(double x1, double y1, double x2, double y2)
+{
+    const auto [left, right] = std::minmax(std::clamp(x1, 0.0, 1.0), std::clamp(x2, 0.0, 1.0));
+    const auto [bottom, top] = std::minmax(std::clamp(y1, 0.0, 1.0), std::clamp(y2, 0.0, 1.0));
+    if (right - left < kSmallestBox || top - bottom < kSmallestBox)
+        return;
+    const chart_range::Range x = m_x;
+    const chart_range::Range y = m_y;
+    setXRange(x.min + left * x.span(), x.min + right * x.span());
+    setYRange(y.min + bottom * y.span(), y.min + top * y.span());
+}
+
 void PlotViewState::zoomX(double factor, double anchor)
 {
     setX(chart_range::zoomed(m_x, factor, anchor));
 }
 
-void PlotViewState::wheel(double angleDelta, double x, double y, bool otherAxis)
+void PlotViewState::wheel(double angleX, double angleY, double x, double y, bool otherAxis)
 {
-    const double factor = std::pow(kZoomPerNotch, std::clamp(angleDelta / kWheelNotch, -kMostNotches, kMostNotches));
+    const auto notches = [](double angle) { return std::clamp(angle / kWheelNotch, -kMostNotches, kMostNotches); };
+    if (std::abs(angleX) > std::abs(angleY)) {
+        panX(-notches(angleX) * kPanPerNotch);
+        return;
+    }
+    const double factor = std::pow(kZoomPerNotch, notches(angleY));
     if ((m_mainAxis == MainAxis::X) != otherAxis)
-        zoomX(factor, x);
+        zoomX(factor, wheelAnchorX(x));
     else
         zoomY(factor, y);
 }
@@ -114,6 +160,8 @@ bool PlotViewState::handleKey(int key, int modifiers)
     switch (key) {
     case Qt::Key_Left:
     case Qt::Key_Right:
+        if (modifiers & Qt::ShiftModifier)
+            return moveCursor(key == Qt::Key_Left ? -1 : 1, modifiers & Qt::ControlModifier ? kManySteps : 1);
         panX(key == Qt::Key_Left ? -kPanPerKey : kPanPerKey);
         return true;
     case Qt::Key_Up:
@@ -130,6 +178,8 @@ bool PlotViewState::handleKey(int key, int modifiers)
     case Qt::Key_Home:
         reset();
         return true;
+    case Qt::Key_End:
+        return showNewest();
     case Qt::Key_A:
     case Qt::Key_B: {
         if (modifiers & ~Qt::ShiftModifier)

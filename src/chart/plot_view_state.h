@@ -29,6 +29,7 @@ class PlotViewState : public QObject
     Q_PROPERTY(double xViewMax READ xViewMax NOTIFY viewChanged)
     Q_PROPERTY(double yViewMin READ yViewMin NOTIFY viewChanged)
     Q_PROPERTY(double yViewMax READ yViewMax NOTIFY viewChanged)
+    Q_PROPERTY(bool yAutomatic READ isYAutomatic WRITE setYAutomatic NOTIFY viewChanged)
     Q_PROPERTY(QList<double> cursors READ cursors NOTIFY cursorsChanged)
     Q_PROPERTY(bool hasCursors READ hasCursors NOTIFY cursorsChanged)
     Q_PROPERTY(double hoverX READ hoverX WRITE setHoverX NOTIFY hoverChanged)
@@ -57,7 +58,10 @@ public:
     /// The position under the pointer, and the value of each series there; empty where there is none.
     virtual QString hoverTitle() const = 0;
     virtual QStringList hoverTexts() const = 0;
-    /// What the cursors measure, one text per quantity.
+    /// A value of a series with its unit's digits, a position with its unit.
+    virtual QString valueText(int series, double value, bool isDifference) const = 0;
+    virtual QString positionText(double position) const = 0;
+    /// Where the cursors are and what lies between them, one text per quantity.
     virtual QStringList measurement() const = 0;
 
     /// How names of files begin, and what is visible as a table for a file.
@@ -82,21 +86,32 @@ public:
     double hoverX() const { return m_hoverX; }
     void setHoverX(double position);
 
+    /// The vertical axis fits itself to what is visible. Switched off, it stays as it is.
+    virtual bool isYAutomatic() const = 0;
+    virtual void setYAutomatic(bool automatic) = 0;
+    /// Shows a range as far as the chart's limits let it; nothing for one that is empty or not finite. A vertical range
+    /// is no longer automatic.
+    Q_INVOKABLE void setXRange(double min, double max);
+    Q_INVOKABLE void setYRange(double min, double max);
+    /// Shows a part of the plot: fractions of it, y from the bottom, in any order. Too small a box is a click.
+    Q_INVOKABLE void zoomToBox(double x1, double y1, double x2, double y2);
+
     /// Scales an axis by `factor`, below 1 zooms in. `anchor` is the place that stays: 0 left or bottom, 1 right or
     /// top.
     Q_INVOKABLE void zoomX(double factor, double anchor);
     Q_INVOKABLE virtual void zoomY(double factor, double anchor) = 0;
     /// One notch or part of a notch of the wheel (120 units) at the fractions (x, y) of the plot, y from the bottom.
-    /// It zooms the chart's main axis, or the other one.
-    Q_INVOKABLE void wheel(double angleDelta, double x, double y, bool otherAxis);
+    /// It zooms the chart's main axis, or the other one; sideways (`angleX` more than `angleY`) it pans.
+    Q_INVOKABLE void wheel(double angleX, double angleY, double x, double y, bool otherAxis);
     /// Moves an axis by a fraction of its visible part: a positive one towards larger values.
     Q_INVOKABLE void panX(double fraction);
     Q_INVOKABLE virtual void panY(double fraction) = 0;
     /// Back to what is shown at first.
     Q_INVOKABLE virtual void reset() = 0;
 
-    /// The keys of a chart: arrows pan, + and - zoom (with Ctrl the other axis), Home resets, A and B place cursors at
-    /// the pointer, Esc removes them. True when it was one of them and had an effect.
+    /// The keys of a chart: arrows pan, + and - zoom (with Ctrl the other axis), Home resets, End goes to the newest, A
+    /// and B place cursors at the pointer, Shift and arrows move the one placed last (with Ctrl further), Esc removes
+    /// them. True when it was one of them and had an effect.
     Q_INVOKABLE bool handleKey(int key, int modifiers);
 
 signals:
@@ -123,6 +138,14 @@ protected:
     virtual double firstPlace(int cursor) const = 0;
     /// Where a key places them while the pointer is elsewhere.
     virtual double keyPlace(int cursor) const = 0;
+    /// The place for a cursor next to `position` in a direction, -1 or 1.
+    virtual double placeBeside(double position, int direction) const = 0;
+    /// Goes to the newest data; false when there is nothing like it.
+    virtual bool showNewest() { return false; }
+    /// Takes a vertical range that the user has chosen.
+    virtual void setManualY(chart_range::Range range) = 0;
+    /// The fraction of the plot that stays where it is when the wheel turns at `x`.
+    virtual double wheelAnchorX(double x) const { return x; }
     /// What keys leave in its place when they zoom, as in zoomX() and zoomY().
     virtual double keyAnchorX() const { return 0.5; }
     virtual double keyAnchorY() const { return 0.5; }
@@ -133,5 +156,8 @@ protected:
     double m_hoverX = kNone;
 
 private:
+    bool moveCursor(int direction, int steps);
+
     const MainAxis m_mainAxis;
+    int m_activeCursor = 0; ///< the one that keys move
 };

@@ -54,7 +54,8 @@ void series_geometry::toPixels(const QList<QPointF> &points, const Plot &plot, s
     for (const QPointF &point : points) {
         const double x = std::clamp((point.x() - plot.x.min) * xScale, -kFarPixels, kFarPixels);
         const double y = std::clamp((plot.y.max - point.y()) * yScale, -kFarPixels, kFarPixels);
-        out.emplace_back(x, std::isfinite(point.y()) ? y : std::numeric_limits<double>::quiet_NaN());
+        out.emplace_back(x + plot.inset,
+                         std::isfinite(point.y()) ? y + plot.inset : std::numeric_limits<double>::quiet_NaN());
     }
 }
 

@@ -31,6 +31,7 @@ struct Plot
     chart_range::Range y;
     double width = 0;
     double height = 0;
+    double inset = 0; ///< of the plot in the item that draws it, on all sides
 };
 
 /// Values become positions in pixels; far ones are moved near enough for float and raster arithmetic. A NaN or infinite

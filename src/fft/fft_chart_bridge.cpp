@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <span>
 
 #include "app/app_language_manager.h"
 #include "app/theme.h"
@@ -80,6 +81,7 @@ void FftChartBridge::commitResults()
 
 void FftChartBridge::publish(bool isAlarmFrame)
 {
+    ++m_revision;
     const bool hadData = m_peaks.resultantAmplitude() >= 0;
     band_power::resultant(spectra(), m_resultant);
     updatePeakAnalysis();
@@ -134,6 +136,12 @@ void FftChartBridge::setValueAxisTitle(const QString &title)
 {
     if (assign(m_valueAxisTitle, title))
         emit viewConfigChanged();
+}
+
+void FftChartBridge::setMaximumInForce(double maximum)
+{
+    if (assign(m_maximumInForce, maximum))
+        emit maximumInForceChanged(maximum);
 }
 
 void FftChartBridge::setYAxisMax(double maximum)
@@ -218,6 +226,18 @@ QList<double> FftChartBridge::valuesAt(double frequency) const
     const double y = bin.value(QStringLiteral("yAmplitude")).toDouble();
     const double z = bin.value(QStringLiteral("zAmplitude")).toDouble();
     return {x, y, z, std::sqrt(x * x + y * y + z * z)};
+}
+
+SeriesStatistics FftChartBridge::statistics(int series, double xMin, double xMax) const
+{
+    StatisticsSum sum;
+    const QList<QPointF> bins = series == kSeries - 1 ? getResultantPoints() : getPoints(series);
+    for (const QPointF &bin : bins) {
+        const double amplitude = bin.y();
+        if (bin.x() >= xMin && bin.x() <= xMax)
+            sum.add(std::span(&amplitude, 1));
+    }
+    return sum.result();
 }
 
 bool FftChartBridge::hasData() const

@@ -107,6 +107,10 @@ public:
     /// alarm.
     bool ignoresSteadyValue() const { return m_peaks.ignoresSteadyValue(); }
     void setIgnoreSteadyValue(bool ignore);
+    /// The user chose the ceiling: the view shows amplitudes up to it from now on.
+    void requestCeiling() { emit ceilingRequested(); }
+    /// Told by the view: the upper end of its amplitude axis where that is not the ceiling, else 0.
+    void setMaximumInForce(double maximum);
     /// Asks the view to show all frequencies.
     void requestXAxisReset() { emit xAxisResetRequested(); }
 
@@ -130,6 +134,8 @@ public:
     int seriesAtLayer(int layer) const override { return layer == 0 ? kSeries - 1 : layer - 1; }
     void seriesPoints(int series, double xMin, double xMax, int maxPoints, QList<QPointF> &out) const override;
     QList<double> valuesAt(double frequency) const override;
+    SeriesStatistics statistics(int series, double xMin, double xMax) const override;
+    quint64 revision() const override { return m_revision; }
 
     /// End of what belongs to 0 Hz, see FftPeaks.
     double steadyEndHz() const { return m_peaks.steadyEndHz(); }
@@ -219,6 +225,8 @@ signals:
     void chartTitleChanged();
     void viewConfigChanged();
     void xAxisResetRequested();
+    void ceilingRequested();
+    void maximumInForceChanged(double maximum);
     void frameMetaChanged();
     void peakAnalysisChanged();
     void analysisSummaryChanged();
@@ -258,7 +266,9 @@ private:
     QString m_chartTitle;
     QString m_valueAxisTitle;
     QString m_profileHash;
+    quint64 m_revision = 0; ///< of the spectra
     double m_yAxisMax = 0;
+    double m_maximumInForce = 0;
     bool m_showResultant = true;
     bool m_coherenceEnabled = true;
 };

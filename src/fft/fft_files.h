@@ -1,7 +1,7 @@
 #pragma once
 
-#include "fft/fft_chart_bridge.h"
 #include "chart/chart_saver.h"
+#include "fft/fft_chart_bridge.h"
 
 /// What the spectrum window saves and opens: snapshots, tables and pictures. Results and errors stand in `message`.
 class FftFiles : public ChartSaver

@@ -1,5 +1,7 @@
 #include "fft/spectrum_view_state.h"
 
+#include <QRectF>
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -16,7 +18,18 @@ constexpr int kWidth = 9;              ///< characters of a usual amplitude
 
 } // namespace
 
-SpectrumViewState::SpectrumViewState(QObject *parent) : PlotViewState(MainAxis::Y, {0, 50}, {0, 1}, parent) {}
+SpectrumViewState::SpectrumViewState(QObject *parent) : PlotViewState(MainAxis::Y, {0, 50}, {0, 1}, parent)
+{
+    connect(this, &PlotViewState::viewChanged, this, &SpectrumViewState::tellAxisInForce);
+}
+
+void SpectrumViewState::tellAxisInForce()
+{
+    if (!m_bridge)
+        return;
+    const double top = m_decibels ? std::pow(10, m_y.max / 20) : m_y.max;
+    m_bridge->setMaximumInForce(m_y.max == fullY().max ? 0 : top);
+}
 
 void SpectrumViewState::setBridge(FftChartBridge *bridge)
 {
@@ -31,6 +44,7 @@ void SpectrumViewState::setBridge(FftChartBridge *bridge)
         connect(bridge, &FftChartBridge::frameMetaChanged, this, &SpectrumViewState::seriesChanged);
         connect(bridge, &FftChartBridge::viewConfigChanged, this, &SpectrumViewState::configChanged);
         connect(bridge, &FftChartBridge::alarmPresetChanged, this, &SpectrumViewState::thresholdsChanged);
+        connect(bridge, &FftChartBridge::ceilingRequested, this, [this] { setYAutomatic(false); });
         connect(bridge, &FftChartBridge::xAxisResetRequested, this, [this] { setX(fullX()); });
     }
     emit bridgeChanged();
@@ -52,12 +66,12 @@ void SpectrumViewState::setDecibels(bool decibels)
     emit pictureChanged();
 }
 
-void SpectrumViewState::setFitted(bool fitted)
+void SpectrumViewState::setYAutomatic(bool automatic)
 {
-    if (fitted == m_fitted)
+    if (automatic == m_fitted)
         return;
-    m_fitted = fitted;
-    m_fitAnew = fitted;
+    m_fitted = automatic;
+    m_fitAnew = automatic;
     m_y = fullY();
     emit viewChanged();
     emit pictureChanged();
@@ -89,6 +103,27 @@ double SpectrumViewState::fitFromX() const
     return m_bridge ? m_bridge->steadyEndHz() : 0;
 }
 
+QString SpectrumViewState::valueText(int, double value, bool isDifference) const
+{
+    return isDifference ? value_format::signedNumber(value, 2) : value_format::number(value, 2);
+}
+
+QString SpectrumViewState::positionText(double frequency) const
+{
+    return tr("%1 Hz").arg(value_format::number(frequency, 2));
+}
+
+double SpectrumViewState::placeBeside(double frequency, int direction) const
+{
+    return frequency + direction * (m_bridge ? m_bridge->frequencyResolution() : 0);
+}
+
+void SpectrumViewState::setManualY(chart_range::Range range)
+{
+    m_fitted = false;
+    setY(range);
+}
+
 QByteArray SpectrumViewState::visibleTable() const
 {
     return m_bridge ? m_bridge->exportSnapshotCsv().toUtf8() : QByteArray();
@@ -109,6 +144,21 @@ QVariantList SpectrumViewState::marks() const
     for (const FftHarmonicPeak &harmonic : m_bridge->harmonics())
         add(harmonic.frequency, harmonic.amplitude, QStringLiteral("H%1").arg(harmonic.order));
     return list;
+}
+
+QList<bool> SpectrumViewState::apart(const QVariantList &rectangles)
+{
+    QList<bool> shown;
+    QList<QRectF> taken;
+    for (const QVariant &entry : rectangles) {
+        const QRectF rectangle = entry.toRectF();
+        const bool isFree =
+            std::none_of(taken.begin(), taken.end(), [&](const QRectF &other) { return other.intersects(rectangle); });
+        shown += isFree;
+        if (isFree)
+            taken += rectangle;
+    }
+    return shown;
 }
 
 double SpectrumViewState::watchLevel() const
@@ -154,9 +204,7 @@ QStringList SpectrumViewState::measurement() const
     for (size_t i = 0; i < m_cursors.size(); ++i) {
         amplitudes[i] = m_bridge ? m_bridge->valuesAt(m_cursors[i]) : QList<double>();
         if (!std::isnan(m_cursors[i]))
-            texts += QStringLiteral("%1 %2")
-                         .arg(QLatin1Char(i == 0 ? 'A' : 'B'))
-                         .arg(tr("%1 Hz").arg(value_format::number(m_cursors[i], 2)));
+            texts += QStringLiteral("%1 %2").arg(QLatin1Char(i == 0 ? 'A' : 'B')).arg(positionText(m_cursors[i]));
     }
     if (texts.size() < 2)
         return texts;
@@ -205,7 +253,8 @@ void SpectrumViewState::panY(double fraction)
 
 void SpectrumViewState::reset()
 {
-    m_fitted = false;
+    m_fitted = true;
+    m_fitAnew = true;
     m_x = fullX();
     m_y = fullY();
     emit viewChanged();
@@ -220,8 +269,9 @@ void SpectrumViewState::fitValues(double low, double high)
     const chart_range::Range full = fullY();
     constexpr chart_range::Range kHoldsNothing{1, 0};
     const chart_range::Range current = std::exchange(m_fitAnew, false) ? kHoldsNothing : m_y;
-    setY(chart_range::fitted(current, low, high,
-                             {full.min, full.max, m_decibels ? kMinDecibelSpan : kMinAmplitudeSpan}));
+    const chart_range::Range range =
+        chart_range::fitted(current, low, high, {full.min, full.max, m_decibels ? kMinDecibelSpan : kMinAmplitudeSpan});
+    setY({std::max(range.min, full.min), std::min(range.max, full.max)});
 }
 
 void SpectrumViewState::dataChanged()
@@ -244,7 +294,7 @@ void SpectrumViewState::configChanged()
     const double ceiling = m_bridge ? m_bridge->yAxisMax() : 0;
     if (ceiling != m_ceiling) {
         m_ceiling = ceiling;
-        m_fitted = false;
+        m_fitAnew = m_fitted;
         m_y = fullY();
         emit viewChanged();
     }

@@ -10,7 +10,9 @@
 #include <optional>
 
 #include "chart/chart_source.h"
+#include "link/sample_gaps.h"
 #include "session/stream_event.h"
+#include "wave/curve_break.h"
 #include "wave/waveform_data_model.h"
 
 struct SensorType;
@@ -87,6 +89,8 @@ public:
     quint32 seriesRgb(int channel) const override;
     void seriesPoints(int channel, double xMin, double xMax, int maxPoints, QList<QPointF> &out) const override;
     QList<double> valuesAt(double timeSec) const override;
+    SeriesStatistics statistics(int channel, double xMin, double xMax) const override;
+    quint64 revision() const override { return m_model.revision(); }
 
     /// The samples, for export.
     const WaveformDataModel &model() const { return m_model; }
@@ -107,14 +111,12 @@ public:
     /// The stream starts again at the sample that comes next: keeps the picture, remembers the place, and has the
     /// filters start again.
     void markBreak(StreamBreak kind);
-    /// A place where the stream started again, on the clock of newestTimeSec().
-    struct BreakMark
-    {
-        double timeSec;
-        StreamBreak kind;
-    };
-    /// Those within the history, oldest first.
+    /// The newest places within the history where the curves are broken, oldest first, those where samples are missing
+    /// apart: they may be many.
     const QList<BreakMark> &breakMarks() const { return m_breakMarks; }
+    const QList<BreakMark> &missingMarks() const { return m_missingMarks; }
+    /// The store is full: what is older is gone, though the axis may reach further.
+    bool isStoreFull() const { return m_model.count() == WaveformDataModel::kCapacity; }
 
     /// Filter of one channel; both may throw, see WaveformDataModel.
     void setFilterEnabled(int channel, bool enabled);
@@ -145,7 +147,8 @@ signals:
 private:
     void notifyView();
     void switchFilters(bool on);
-    void placePendingBreak();
+    static void addMark(QList<BreakMark> &marks, const BreakMark &mark);
+    void forgetOldMarks(QList<BreakMark> &marks) const;
 
     QString m_sensorType;
     const SensorType *m_type; ///< null for an unknown key
@@ -156,7 +159,9 @@ private:
     unsigned int m_appliedFrameRate = 100;
     unsigned int m_requestedFrameRate = 100;
     QList<BreakMark> m_breakMarks;
-    std::optional<StreamBreak> m_pendingBreak; ///< waits for the first sample after it
+    QList<BreakMark> m_missingMarks;
+    std::optional<CurveBreak> m_pendingBreak; ///< waits for the first sample after it
+    SampleGaps m_gaps;
     bool m_observed = false;
     bool m_updatePosted = false;
 };

@@ -88,9 +88,7 @@ QString WaveViewState::rangeText() const
 
 QStringList WaveViewState::measurement() const
 {
-    if (!m_bridge || std::isnan(m_cursors[0]) || std::isnan(m_cursors[1]))
-        return {};
-    return chart_text::measurement(*m_bridge, m_cursors[0], m_cursors[1]);
+    return chart_text::measurement(m_cursors[0], m_cursors[1]);
 }
 
 QString WaveViewState::hoverTitle() const
@@ -109,6 +107,18 @@ QStringList WaveViewState::hoverTexts() const
     return texts;
 }
 
+QString WaveViewState::valueText(int channel, double value, bool isDifference) const
+{
+    if (!m_bridge)
+        return {};
+    return isDifference ? chart_text::difference(*m_bridge, value) : chart_text::value(*m_bridge, channel, value);
+}
+
+QString WaveViewState::positionText(double seconds) const
+{
+    return chart_text::time(seconds);
+}
+
 QString WaveViewState::fileStem() const
 {
     return m_bridge ? m_bridge->sensorType() : QStringLiteral("chart");
@@ -119,11 +129,22 @@ QByteArray WaveViewState::visibleTable() const
     return m_bridge ? wave_csv::table(*m_bridge, m_x.min, m_x.max) : QByteArray();
 }
 
+QList<BreakMark> WaveViewState::visibleMarks(const QList<BreakMark> &marks) const
+{
+    QList<BreakMark> visible;
+    for (const BreakMark &mark : marks) {
+        const double seconds = mark.timeSec - m_bridge->newestTimeSec();
+        if (seconds >= m_x.min && seconds <= m_x.max)
+            visible += mark;
+    }
+    return visible;
+}
+
 QList<double> WaveViewState::breakSeconds() const
 {
     QList<double> seconds;
     if (m_bridge) {
-        for (const WaveChartBridge::BreakMark &mark : m_bridge->breakMarks())
+        for (const BreakMark &mark : visibleMarks(m_bridge->breakMarks()) + visibleMarks(m_bridge->missingMarks()))
             seconds += mark.timeSec - m_bridge->newestTimeSec();
     }
     return seconds;
@@ -133,10 +154,25 @@ QStringList WaveViewState::breakTexts() const
 {
     QStringList texts;
     if (m_bridge) {
-        for (const WaveChartBridge::BreakMark &mark : m_bridge->breakMarks())
-            texts += chart_text::streamBreak(mark.kind);
+        for (const BreakMark &mark : visibleMarks(m_bridge->breakMarks()) + visibleMarks(m_bridge->missingMarks()))
+            texts += chart_text::curveBreak(mark);
     }
     return texts;
+}
+
+int WaveViewState::majorBreaks() const
+{
+    return m_bridge ? int(visibleMarks(m_bridge->breakMarks()).size()) : 0;
+}
+
+double WaveViewState::storeEnd() const
+{
+    return m_bridge && m_bridge->isStoreFull() && m_x.min < m_bridge->xHistoryMin() ? m_bridge->xHistoryMin() : kNone;
+}
+
+QString WaveViewState::storeEndText() const
+{
+    return std::isnan(storeEnd()) ? QString() : chart_text::storeLimit(*m_bridge);
 }
 
 void WaveViewState::setSeriesVisible(int channel, bool visible)
@@ -161,10 +197,40 @@ void WaveViewState::panY(double fraction)
         setY(range, false);
 }
 
+void WaveViewState::setManualY(chart_range::Range range)
+{
+    const double middle = (range.min + range.max) / 2;
+    const double half = std::clamp(range.span(), valueLimits().minSpan, kMaxValueSpan) / 2;
+    setY({middle - half, middle + half}, false);
+}
+
+void WaveViewState::setYAutomatic(bool automatic)
+{
+    setY(m_y, automatic);
+}
+
+void WaveViewState::setSpan(double seconds)
+{
+    if (seconds > 0)
+        setXRange(m_x.max - seconds, m_x.max);
+}
+
+void WaveViewState::goLive()
+{
+    setX({-m_x.span(), 0});
+}
+
+bool WaveViewState::showNewest()
+{
+    goLive();
+    return true;
+}
+
 void WaveViewState::reset()
 {
     m_yAutomatic = true;
     m_x = {m_bridge ? m_bridge->xDefaultMin() : -10.0, 0};
+    marksChanged();
     emit viewChanged();
     emit rangeTextChanged();
     emit pictureChanged();
@@ -174,6 +240,15 @@ void WaveViewState::reset()
 double WaveViewState::cursorPlace(double seconds) const
 {
     return m_bridge && m_bridge->hasData() ? std::clamp(seconds, m_bridge->xHistoryMin(), 0.0) : kNone;
+}
+
+double WaveViewState::placeBeside(double seconds, int direction) const
+{
+    if (!m_bridge || !m_bridge->hasData())
+        return seconds;
+    const WaveformDataModel &model = m_bridge->model();
+    const int offset = model.sampleOffsetAtTime(seconds) - direction; // offsets grow into the past
+    return -model.ageSecAtSampleOffset(std::clamp(offset, 0, model.count() - 1));
 }
 
 /// At a third and two thirds of what is seen.
@@ -207,11 +282,20 @@ void WaveViewState::samplesChanged()
     setStale(false);
     if (!std::isnan(m_hoverX))
         emit hoverChanged();
-    const bool hasBreaks = m_bridge && !m_bridge->breakMarks().isEmpty();
+    marksChanged();
+    emit pictureChanged();
+}
+
+void WaveViewState::marksChanged()
+{
+    const bool hasBreaks = m_bridge && (!m_bridge->breakMarks().isEmpty() || !m_bridge->missingMarks().isEmpty());
     if (hasBreaks || m_hasBreaks)
         emit breaksChanged();
     m_hasBreaks = hasBreaks;
-    emit pictureChanged();
+    const bool storeEndSeen = !std::isnan(storeEnd());
+    if (storeEndSeen || m_storeEndSeen)
+        emit storeEndChanged();
+    m_storeEndSeen = storeEndSeen;
 }
 
 void WaveViewState::followTime()
@@ -296,6 +380,7 @@ void WaveViewState::setX(chart_range::Range window)
     if (next == m_x)
         return;
     m_x = next;
+    marksChanged();
     emit viewChanged();
     emit rangeTextChanged();
     emit pictureChanged();

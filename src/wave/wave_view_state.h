@@ -30,13 +30,17 @@ class WaveViewState : public PlotViewState
     Q_PROPERTY(bool hasData READ hasData NOTIFY hasDataChanged)
     Q_PROPERTY(bool stale READ isStale NOTIFY staleChanged)
     Q_PROPERTY(bool following READ isFollowing NOTIFY viewChanged)
-    Q_PROPERTY(bool yAutomatic READ isYAutomatic NOTIFY viewChanged)
+    Q_PROPERTY(double span READ span WRITE setSpan NOTIFY viewChanged)
+    Q_PROPERTY(QList<double> spanPresets READ spanPresets CONSTANT)
     Q_PROPERTY(QString name READ name NOTIFY titleChanged)
     Q_PROPERTY(QString unit READ unit NOTIFY titleChanged)
     Q_PROPERTY(QStringList liveTexts READ liveTexts NOTIFY liveTextsChanged)
     Q_PROPERTY(QString rangeText READ rangeText NOTIFY rangeTextChanged)
     Q_PROPERTY(QList<double> breakSeconds READ breakSeconds NOTIFY breaksChanged)
     Q_PROPERTY(QStringList breakTexts READ breakTexts NOTIFY breaksChanged)
+    Q_PROPERTY(int majorBreaks READ majorBreaks NOTIFY breaksChanged)
+    Q_PROPERTY(double storeEnd READ storeEnd NOTIFY storeEndChanged)
+    Q_PROPERTY(QString storeEndText READ storeEndText NOTIFY storeEndChanged)
 
 public:
     explicit WaveViewState(QObject *parent = nullptr);
@@ -53,7 +57,14 @@ public:
 
     /// The newest sample is at the right edge and stays there.
     bool isFollowing() const { return m_x.max >= 0; }
-    bool isYAutomatic() const { return m_yAutomatic; }
+    bool isYAutomatic() const override { return m_yAutomatic; }
+    void setYAutomatic(bool automatic) override;
+    /// Seconds that are seen. Setting them keeps the right end, so that a live view stays live.
+    double span() const { return m_x.span(); }
+    void setSpan(double seconds);
+    QList<double> spanPresets() const { return {1, 5, 10, 30, 60}; }
+    /// Back to the newest samples; span and value range stay.
+    Q_INVOKABLE void goLive();
 
     /// The chart's title without its unit, and the unit.
     QString name() const;
@@ -67,16 +78,23 @@ public:
     /// The rate and the visible part of the history, "400 Hz · last 10 s of 60 s", for a status line.
     QString rangeText() const;
 
-    /// Empty unless both cursors are placed.
     QStringList measurement() const override;
 
-    /// Where the stream started again, and why, one of each per place.
+    /// Where the visible curves are broken, and why, one of each per place: first those where the stream started again
+    /// or was paused (majorBreaks() of them), then those where samples are missing; each oldest first.
     QList<double> breakSeconds() const;
     QStringList breakTexts() const;
+    int majorBreaks() const;
+
+    /// Where the axis shows times that the full store no longer holds, their end; else NaN. And what is said there.
+    double storeEnd() const;
+    QString storeEndText() const;
 
     QString hoverTitle() const override;
     QStringList hoverTexts() const override;
 
+    QString valueText(int channel, double value, bool isDifference) const override;
+    QString positionText(double seconds) const override;
     QString fileStem() const override;
     QByteArray visibleTable() const override;
 
@@ -97,12 +115,18 @@ signals:
     void liveTextsChanged();
     void rangeTextChanged();
     void breaksChanged();
+    void storeEndChanged();
 
 protected:
     void setX(chart_range::Range window) override;
     double cursorPlace(double seconds) const override;
     double firstPlace(int cursor) const override;
     double keyPlace(int cursor) const override { return firstPlace(cursor); }
+    double placeBeside(double seconds, int direction) const override;
+    bool showNewest() override;
+    void setManualY(chart_range::Range range) override;
+    /// A live view stays live.
+    double wheelAnchorX(double x) const override { return isFollowing() ? 1 : x; }
     double keyAnchorX() const override { return isFollowing() ? 1 : 0.5; }
 
 private:
@@ -112,6 +136,8 @@ private:
     void updateLiveTexts();
     void setStale(bool stale);
     void awaitSamples();
+    void marksChanged();
+    QList<BreakMark> visibleMarks(const QList<BreakMark> &marks) const;
     chart_range::TimeLimits timeLimits() const;
     chart_range::ValueLimits valueLimits() const;
     void setY(chart_range::Range range, bool automatic);
@@ -121,6 +147,7 @@ private:
     bool m_hasData = false;
     bool m_stale = false;
     bool m_hasBreaks = false;
+    bool m_storeEndSeen = false;
     bool m_yAutomatic = true;
     double m_newest = 0; ///< stamp of the newest sample when time was last followed, seconds
     QList<bool> m_visibleChannels;
