@@ -179,6 +179,7 @@ Item {
                 boxing = false;
             }
             onCanceled: boxing = false
+            onEntered: plot.viewState.hoverX = plot.toPosition(mouseX)
             onExited: plot.viewState.hoverX = NaN
             onDoubleClicked: event => {
                 if (event.button & plot.resetButtons)
@@ -207,7 +208,7 @@ Item {
         Rectangle {
             id: crosshair
 
-            visible: mouse.containsMouse && plot.viewState.hoverTexts.length > 0
+            visible: plot.viewState.hoverTexts.length > 0 && x >= 0 && x <= plotArea.width
             x: Math.round(plot.toX(plot.viewState.hoverX))
             width: 1
             height: parent.height

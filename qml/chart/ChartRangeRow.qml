@@ -26,6 +26,7 @@ Flow {
         spacing: 4
     }
     NumberField {
+        implicitWidth: Math.round(font.pointSize * 7)
         objectName: "xFrom"
         value: row.shown(row.viewState.xViewMin)
         from: -1e9
@@ -35,6 +36,7 @@ Flow {
         onEntered: number => row.viewState.setXRange(number, row.viewState.xViewMax)
     }
     NumberField {
+        implicitWidth: Math.round(font.pointSize * 7)
         objectName: "xTo"
         value: row.shown(row.viewState.xViewMax)
         from: -1e9
@@ -44,6 +46,7 @@ Flow {
         onEntered: number => row.viewState.setXRange(row.viewState.xViewMin, number)
     }
     NumberField {
+        implicitWidth: Math.round(font.pointSize * 7)
         objectName: "yFrom"
         value: row.shown(row.viewState.yViewMin)
         from: -1e30
@@ -53,6 +56,7 @@ Flow {
         onEntered: number => row.viewState.setYRange(number, row.viewState.yViewMax)
     }
     NumberField {
+        implicitWidth: Math.round(font.pointSize * 7)
         objectName: "yTo"
         value: row.shown(row.viewState.yViewMax)
         from: -1e30

@@ -83,7 +83,7 @@ Item {
                 Text {
                     required property string modelData
 
-                    text: modelData
+                    text: modelData || " " // what is empty takes no place in a grid
                     textFormat: Text.PlainText
                     font: Theme.smallFont
                     color: Theme.textSecondary
@@ -96,7 +96,7 @@ Item {
                 Text {
                     required property int index
 
-                    text: (table.rows[Math.floor(index / table.header.length)] ?? [])[index % table.header.length] ?? ""
+                    text: (table.rows[Math.floor(index / table.header.length)] ?? [])[index % table.header.length] || " "
                     textFormat: Text.PlainText
                     font: Theme.fixedSmallFont
                     color: index % table.header.length === 0 ? Theme.textSecondary : Theme.text

@@ -11,6 +11,7 @@ Item {
     required property int slot
     required property WaveChartBridge bridge
     required property ChartSaver saver
+    required property ChartLink link
     required property bool maximized
     required property bool canMaximize
 
@@ -28,6 +29,7 @@ Item {
             objectName: "chart_" + pane.slot
             anchors.fill: parent
             bridge: modelData
+            link: pane.link
             maximized: pane.maximized
             canMaximize: pane.canMaximize
             onPictureRequested: pane.saver.savePicture(viewState, chart)

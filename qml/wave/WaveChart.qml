@@ -13,6 +13,7 @@ FocusScope {
     id: chart
 
     property WaveChartBridge bridge: null
+    property ChartLink link: null
     property bool maximized: false
     property bool canMaximize: true
     readonly property string emptyText: bridge === null || bridge.playing ? qsTr("Waiting for samples") : qsTr("Paused")
@@ -41,6 +42,7 @@ FocusScope {
 
         bridge: chart.bridge
         active: chart.visible
+        link: chart.link
     }
 
     HoverHandler {
@@ -250,6 +252,7 @@ FocusScope {
 
                     objectName: "span_" + modelData
                     text: qsTr("%1 s").arg(modelData)
+                    implicitHeight: Math.round(font.pointSize * 2.4 + 2)
                     horizontalPadding: 8
                     checkable: false
                     checked: Math.abs(view.span - modelData) < 0.001

@@ -23,6 +23,34 @@ PlotViewState::PlotViewState(MainAxis mainAxis, chart_range::Range x, chart_rang
     : QObject(parent), m_x(x), m_y(y), m_mainAxis(mainAxis)
 {}
 
+PlotViewState::~PlotViewState()
+{
+    setLink(nullptr);
+}
+
+void PlotViewState::setLink(ChartLink *link)
+{
+    if (link == m_link)
+        return;
+    if (m_link)
+        m_link->remove(this);
+    m_link = link;
+    if (link)
+        link->add(this);
+    emit linkChanged();
+}
+
+void PlotViewState::takeCursors(const QList<double> &cursors, double shift)
+{
+    const std::array before = m_cursors;
+    for (size_t i = 0; i < m_cursors.size(); ++i)
+        m_cursors[i] =
+            std::isnan(cursors.value(qsizetype(i))) ? kNone : cursorPlace(cursors.value(qsizetype(i)) + shift);
+    const auto isSame = [](double a, double b) { return std::abs(a - b) < 1e-9 || (std::isnan(a) && std::isnan(b)); };
+    if (!std::equal(before.begin(), before.end(), m_cursors.begin(), isSame))
+        emit cursorsChanged();
+}
+
 QStringList PlotViewState::seriesNames() const
 {
     QStringList names;

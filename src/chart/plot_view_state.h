@@ -5,10 +5,12 @@
 
 #include <QList>
 #include <QObject>
+#include <QPointer>
 #include <QStringList>
 #include <QVariantList>
 #include <QtQml/qqml.h>
 
+#include "chart/chart_link.h"
 #include "chart/chart_range.h"
 
 class ChartSource;
@@ -22,6 +24,7 @@ class PlotViewState : public QObject
     Q_DISABLE_COPY_MOVE(PlotViewState)
     QML_ELEMENT
     QML_UNCREATABLE("the base of the states of charts")
+    Q_PROPERTY(ChartLink *link READ link WRITE setLink NOTIFY linkChanged)
     Q_PROPERTY(QStringList seriesNames READ seriesNames NOTIFY seriesChanged)
     Q_PROPERTY(QVariantList seriesColors READ seriesColors NOTIFY seriesChanged)
     Q_PROPERTY(QList<bool> visibleSeries READ visibleSeries NOTIFY seriesChanged)
@@ -38,6 +41,18 @@ class PlotViewState : public QObject
     Q_PROPERTY(QStringList measurement READ measurement NOTIFY cursorsChanged)
 
 public:
+    ~PlotViewState() override;
+
+    /// What couples the chart to others; null without.
+    ChartLink *link() const { return m_link; }
+    void setLink(ChartLink *link);
+    /// Position 0 on a clock that coupled charts share.
+    virtual double clock() const { return 0; }
+    /// The horizontal axis ends at the newest data and stays there.
+    virtual bool isAtNewest() const { return false; }
+    /// Takes the cursors of a coupled chart, `shift` later.
+    void takeCursors(const QList<double> &cursors, double shift);
+
     /// What is drawn; null while there is none.
     virtual const ChartSource *source() const = 0;
     QStringList seriesNames() const;
@@ -115,6 +130,7 @@ public:
     Q_INVOKABLE bool handleKey(int key, int modifiers);
 
 signals:
+    void linkChanged();
     void seriesChanged();
     void viewChanged();
     void cursorsChanged();
@@ -159,5 +175,6 @@ private:
     bool moveCursor(int direction, int steps);
 
     const MainAxis m_mainAxis;
+    QPointer<ChartLink> m_link;
     int m_activeCursor = 0; ///< the one that keys move
 };

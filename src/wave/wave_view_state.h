@@ -57,6 +57,9 @@ public:
 
     /// The newest sample is at the right edge and stays there.
     bool isFollowing() const { return m_x.max >= 0; }
+    bool isAtNewest() const override { return isFollowing(); }
+    /// Stamp of the newest sample that the view knows, in seconds.
+    double clock() const override { return m_newest; }
     bool isYAutomatic() const override { return m_yAutomatic; }
     void setYAutomatic(bool automatic) override;
     /// Seconds that are seen. Setting them keeps the right end, so that a live view stays live.

@@ -287,6 +287,47 @@ private slots:
         QVERIFY(std::abs(chart.view.xViewMax() + 11.4) < 1e-9 && std::abs(chart.view.span() - 6) < 1e-9);
     }
 
+    void linkedChartsShareTimesAndCursors()
+    {
+        Chart charts[3];
+        ChartLink link;
+        // Their newest samples are a second apart.
+        for (int i = 0; i < 3; ++i)
+            charts[i].add(100, 301 - 10 * i);
+        for (Chart &chart : charts)
+            chart.view.setLink(&link);
+        charts[0].view.setSpan(5);
+        QCOMPARE(charts[1].view.span(), 10.0); // not linked yet
+        link.setLinked(true);
+        for (Chart &chart : charts) // the one that was changed last leads, and all are live
+            QVERIFY(chart.view.span() == 5 && chart.view.isFollowing());
+
+        charts[2].view.setXRange(-12, -8); // stream time 16.1 s to 20.1 s
+        charts[2].view.placeCursor(1, -10);
+        charts[2].view.setHoverX(-9);
+        for (Chart &chart : charts) {
+            QCOMPARE(chart.stampAt(chart.view.xViewMax()), 20.1);
+            QCOMPARE(chart.stampAt(chart.view.cursors().at(1)), 18.1);
+            QVERIFY(std::isnan(chart.view.cursors().at(0)));
+            QCOMPARE(chart.stampAt(chart.view.hoverX()), 19.1);
+        }
+        charts[0].add(30200, 20); // time passes in one of them first
+        charts[1].add(29200, 20);
+        for (Chart &chart : charts) {
+            QCOMPARE(chart.stampAt(chart.view.xViewMax()), 20.1);
+            QCOMPARE(chart.stampAt(chart.view.cursors().at(1)), 18.1);
+        }
+        charts[1].view.removeCursors();
+        charts[1].view.goLive();
+        charts[1].view.setHoverX(kNaN);
+        for (Chart &chart : charts)
+            QVERIFY(chart.view.isFollowing() && chart.view.span() == 4 && !chart.view.hasCursors()
+                    && std::isnan(chart.view.hoverX()));
+        link.setLinked(false);
+        charts[1].view.setSpan(7);
+        QCOMPARE(charts[0].view.span(), 4.0);
+    }
+
     void measures()
     {
         Chart chart;
