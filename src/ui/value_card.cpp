@@ -9,8 +9,8 @@
 
 #include "app/theme.h"
 #include "app/value_format.h"
+#include "chart/axis_ticks.h"
 #include "ui/readout_accessible.h"
-#include "wave/axis_ticks.h"
 
 namespace {
 
