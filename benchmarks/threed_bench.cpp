@@ -14,6 +14,7 @@
 #include <cstdio>
 #include <ctime>
 
+#include "app/quick_window.h"
 #include "app/application_fonts.h"
 #include "app/theme.h"
 #include "attitude/form_threed.h"

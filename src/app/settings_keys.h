@@ -28,6 +28,7 @@ constexpr QLatin1String kRecordResumes("RECORD/RESUME");             ///< true: 
 constexpr QLatin1String kRecordGeometry("RECORD/GEOMETRY");          ///< size and place of the recording window
 constexpr QLatin1String kLinkHealthGeometry("LINK_HEALTH/GEOMETRY"); ///< that window's size and place
 constexpr QLatin1String kUpdaterPath("UPDATER/PATH");                ///< last firmware image
+constexpr QLatin1String kSlowEraseGroup("UPDATER_SLOW_ERASE");       ///< see SlowErases
 constexpr QLatin1String kUpdaterGeometry("UPDATER/GEOMETRY");        ///< that window's size and place
 
 constexpr QLatin1String kSpectrum("SPECTRUM"); ///< group of the spectrum window; kDashboardFolder below it

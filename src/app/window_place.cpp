@@ -10,43 +10,61 @@
 
 namespace {
 
-constexpr int kTitleBar = 32; ///< by which a window is moved, so it has to be on the screen
+/// What a frame usually takes, until the window manager says it. A window is moved by its title bar, so that has to be
+/// on the screen.
+constexpr QMargins kUsualFrame{0, 32, 0, 0};
 
-/// `wanted` made to fit its screen, but not below `minimum`; centred on the first screen when it lies on none.
-QRect onScreen(QRect wanted, const QSize &minimum)
+QMargins frameOf(const QWindow *window)
 {
-    const QScreen *screen = QGuiApplication::screenAt(wanted.center());
-    const QRect available =
-        (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry().adjusted(0, kTitleBar, 0, 0);
-    wanted.setSize(wanted.size().boundedTo(available.size()).expandedTo(minimum));
-    if (!screen)
-        wanted.moveCenter(available.center());
-    wanted.moveLeft(
-        qBound(available.left(), wanted.left(), qMax(available.left(), available.right() - wanted.width())));
-    wanted.moveTop(qBound(available.top(), wanted.top(), qMax(available.top(), available.bottom() - wanted.height())));
-    return wanted;
+    const QMargins frame = window && window->isVisible() ? window->frameMargins() : QMargins();
+    return frame.isNull() ? kUsualFrame : frame;
+}
+
+QSettings settingsFile()
+{
+    return {settings_keys::kFile, QSettings::IniFormat};
 }
 
 } // namespace
 
+QSize window_place::room(const QScreen *screen, const QWindow *window)
+{
+    return screen->availableGeometry().marginsRemoved(frameOf(window)).size();
+}
+
+QRect window_place::fitted(QRect wanted, const QScreen *screen, const QWindow *window)
+{
+    const QRect room = screen->availableGeometry().marginsRemoved(frameOf(window));
+    wanted.setSize(wanted.size().boundedTo(room.size()));
+    wanted.moveRight(qMin(wanted.right(), room.right()));
+    wanted.moveBottom(qMin(wanted.bottom(), room.bottom()));
+    wanted.moveTopLeft({qMax(wanted.left(), room.left()), qMax(wanted.top(), room.top())});
+    return wanted;
+}
+
 bool window_place::restore(QWidget *window, QLatin1String key)
 {
-    const QSettings settings(settings_keys::kFile, QSettings::IniFormat);
-    return window->restoreGeometry(settings.value(key).toByteArray()); // which looks at the screen itself
+    return window->restoreGeometry(settingsFile().value(key).toByteArray());
 }
 
 void window_place::store(const QWidget *window, QLatin1String key)
 {
-    QSettings(settings_keys::kFile, QSettings::IniFormat).setValue(key, window->saveGeometry());
+    settingsFile().setValue(key, window->saveGeometry());
 }
 
 bool window_place::restore(QWindow *window, QLatin1String group)
 {
-    QSettings settings(settings_keys::kFile, QSettings::IniFormat);
+    QSettings settings = settingsFile();
     settings.beginGroup(group);
-    const QRect place = settings.value(settings_keys::kDashboardPlace).toRect();
-    if (!place.isEmpty())
-        window->setGeometry(onScreen(place, window->minimumSize()));
+    QRect place = settings.value(settings_keys::kDashboardPlace).toRect();
+    if (!place.isEmpty()) {
+        const QScreen *screen = QGuiApplication::screenAt(place.center());
+        if (!screen) {
+            screen = QGuiApplication::primaryScreen();
+            place.moveCenter(screen->availableGeometry().center());
+        }
+        window->setGeometry(fitted(place, screen));
+    }
     if (settings.value(settings_keys::kDashboardMaximized).toBool())
         window->setWindowStates(Qt::WindowMaximized);
     return !place.isEmpty();
@@ -54,7 +72,7 @@ bool window_place::restore(QWindow *window, QLatin1String group)
 
 void window_place::store(const QWindow *window, QLatin1String group)
 {
-    QSettings settings(settings_keys::kFile, QSettings::IniFormat);
+    QSettings settings = settingsFile();
     settings.beginGroup(group);
     const bool isMaximized = window->windowStates() & Qt::WindowMaximized;
     settings.setValue(settings_keys::kDashboardMaximized, isMaximized);

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <limits>
 
+#include "app/quiet_label.h"
 #include "app/theme.h"
 
 namespace {
@@ -24,12 +25,6 @@ QString figure(float value, int decimals, const QString &unit)
     const QString sign = isZero ? QStringLiteral(" ") : value < 0 ? QStringLiteral("−") : QStringLiteral("+");
     const QString magnitude = digits.startsWith(u'-') ? digits.mid(1) : digits;
     return QStringLiteral("%1%2").arg((sign + magnitude).rightJustified(decimals + 5), unit);
-}
-
-void setIfChanged(QLabel *label, const QString &text)
-{
-    if (label->text() != text)
-        label->setText(text);
 }
 
 void setInk(QLabel *label, const QColor &color)
@@ -91,12 +86,13 @@ void AttitudeFigures::show(const NormalizedAttitude &live, const std::optional<Q
     const QVector4D q = live.quaternion.toVector4D();
     const std::array<float, 4> quaternion{q.w(), q.x(), q.y(), q.z()};
     for (int axis = 0; axis < 3; ++axis) {
-        setIfChanged(m_values[size_t(axis)], figure(live.valid ? live.euler[axis] : kNoNumber, 2, degree));
-        setIfChanged(m_values[size_t(axis) + 3], figure(relative ? (*relative)[axis] : kNoNumber, 2, degree));
+        setTextIfChanged(m_values[size_t(axis)], figure(live.valid ? live.euler[axis] : kNoNumber, 2, degree));
+        setTextIfChanged(m_values[size_t(axis) + 3], figure(relative ? (*relative)[axis] : kNoNumber, 2, degree));
     }
     for (size_t i = 0; i < quaternion.size(); ++i)
-        setIfChanged(m_values[i + 6],
-                     QLatin1Char("WXYZ"[i]) + figure(live.valid ? quaternion[i] : kNoNumber, 4, {}).rightJustified(9));
+        setTextIfChanged(m_values[i + 6],
+                         QLatin1Char("WXYZ"[i])
+                             + figure(live.valid ? quaternion[i] : kNoNumber, 4, {}).rightJustified(9));
 }
 
 void AttitudeFigures::changeEvent(QEvent *event)

@@ -7,9 +7,7 @@
 #include <QQmlEngine>
 #include <QQuick3DGeometry>
 #include <QQuickItem>
-#include <QQuickView>
 #include <QSGRendererInterface>
-#include <QScreen>
 #include <QScrollBar>
 #include <QSettings>
 #include <QSignalBlocker>
@@ -17,11 +15,13 @@
 #include <array>
 #include <cmath>
 #include <optional>
+#include <utility>
 
-#include "app/frame_gate.h"
+#include "app/quick_window.h"
+#include "app/quiet_label.h"
 #include "app/settings_keys.h"
 #include "app/theme.h"
-#include "app/window_place.h"
+#include "app/window_host.h"
 #include "attitude/qt6_model_asset.h"
 #include "ui_form_threed.h"
 
@@ -29,6 +29,7 @@ namespace {
 
 constexpr int kReplotMs = 25;
 constexpr int kSamplesPerPixel = 4; // all that drawing without a GPU can do
+constexpr QSize kSmallestView{160, 120};
 constexpr QLatin1String kDefaultModel("jet.obj");
 /// In the order of the selector's entries.
 constexpr std::array kModels{QLatin1String("jet.obj"), QLatin1String("cube.obj"), QLatin1String("plane.obj"),
@@ -37,12 +38,6 @@ constexpr std::array kModels{QLatin1String("jet.obj"), QLatin1String("cube.obj")
 QSettings settingsFile()
 {
     return {settings_keys::kFile, QSettings::IniFormat};
-}
-
-void setIfChanged(QLabel *label, const QString &text)
-{
-    if (label->text() != text)
-        label->setText(text);
 }
 
 } // namespace
@@ -55,37 +50,31 @@ form_threed::form_threed(QWidget *parent) : QWidget(parent, Qt::Window), m_ui(st
     connect(&m_replotTimer, &QTimer::timeout, this, &form_threed::objectReplot);
     m_ui->LBL_model->hide();
     initView();
+    showDefaultModel();
     setOrientationPreset(loadRotationPreset());
     updateRotationPresetUi();
     fitPanel();
-    if (!window_place::restore(this, settings_keys::kThreeDGeometry))
-        resize(size().boundedTo(screen()->availableSize()));
+    WindowHost::attachBare(this, settings_keys::kThreeDGeometry);
 }
 
 form_threed::~form_threed()
 {
     close();
-    releaseGeometries();
-    delete m_container; // the scene goes before the backend that it is bound to
+    endView(); // before the backend that it is bound to
 }
 
 void form_threed::initView()
 {
-    m_view = new QQuickView;
-    m_container = QWidget::createWindowContainer(m_view, m_ui->STK_stage);
     // The scene is drawn straight into the window, whose samples smooth its edges.
-    QSurfaceFormat surface = m_view->format();
-    surface.setSamples(kSamplesPerPixel);
-    m_view->setFormat(surface);
-    new FrameGate(m_view);
+    m_view = new QuickWindow(kSamplesPerPixel);
+    m_container = QWidget::createWindowContainer(m_view, m_ui->STK_stage);
     m_view->setColor(theme::kSurface);
-    m_view->setResizeMode(QQuickView::SizeRootObjectToView);
     if (m_view->rendererInterface()->graphicsApi() == QSGRendererInterface::Software) {
         showNoPicture(
             QT_TR_NOOP("The 3D picture needs OpenGL, which is not available here. The numbers are complete."));
     } else {
         m_container->setFocusPolicy(Qt::StrongFocus);
-        m_container->setMinimumSize(320, 240);
+        m_container->setMinimumSize(kSmallestView);
         m_ui->STK_stage->addWidget(m_container);
         m_ui->STK_stage->setCurrentWidget(m_container);
         connect(
@@ -95,15 +84,22 @@ void form_threed::initView()
                 showNoPicture(QT_TR_NOOP("The 3D picture cannot be drawn here. The numbers are complete."));
             },
             Qt::QueuedConnection);
-        m_view->engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));
         m_view->rootContext()->setContextProperty(QStringLiteral("backend"), &m_backend);
-        m_view->setSource(QUrl(QStringLiteral("qrc:/qml/ThreeDView.qml")));
-        if (m_view->status() == QQuickView::Error) {
-            qWarning() << "ThreeDView.qml errors:" << m_view->errors();
+        if (!m_view->load(QUrl(QStringLiteral("qrc:/qml/ThreeDView.qml")), {}))
             showNoPicture(QT_TR_NOOP("The 3D picture could not be loaded. The log of the program tells why."));
-        }
     }
+}
 
+/// A closed window keeps nothing that it has drawn with.
+void form_threed::endView()
+{
+    releaseGeometries();
+    m_view = nullptr;
+    delete std::exchange(m_container, nullptr);
+}
+
+void form_threed::showDefaultModel()
+{
     QString error;
     if (!loadobj(Qt6ModelAsset::defaultBundledObjFilePath(kDefaultModel), &error)) {
         qWarning().noquote() << "Failed to load default 3D asset:" << error;
@@ -145,11 +141,7 @@ void form_threed::updateNoPictureUi()
 
 void form_threed::open()
 {
-    if (isMinimized())
-        showNormal();
-    show();
-    raise();
-    activateWindow();
+    WindowHost::bringUp(this);
 }
 
 void form_threed::setAttitude(const NormalizedAttitude &attitude)
@@ -287,11 +279,11 @@ void form_threed::updateHomeReferenceUi()
         text = tr("Home pose captured. Delta shows the live attitude relative to the stored home reference.");
     else if (m_isAwaitingHome)
         text = tr("Waiting for live attitude data to capture home pose.");
-    setIfChanged(m_ui->LBL_home, text);
+    setTextIfChanged(m_ui->LBL_home, text);
     m_ui->BTNClearHome->setEnabled(hasHome || m_isAwaitingHome);
-    setIfChanged(m_ui->LBL_source, !m_attitude.valid           ? tr("No attitude")
-                                   : m_attitude.fromQuaternion ? tr("From quaternion")
-                                                               : tr("From Euler angles"));
+    setTextIfChanged(m_ui->LBL_source, !m_attitude.valid           ? tr("No attitude")
+                                       : m_attitude.fromQuaternion ? tr("From quaternion")
+                                                                   : tr("From Euler angles"));
 }
 
 void form_threed::on_CBModel_activated(int index)
@@ -335,8 +327,7 @@ bool form_threed::loadobj(const QString &path, QString *error)
         const QUrl previous = m_backend.objSource();
         m_backend.setObjSource({}); // a file that has changed is read again
         m_backend.setObjSource(source);
-        if (m_view && m_view->rootObject())
-            problem = m_view->rootObject()->property("modelError").toString();
+        problem = modelError();
         if (!problem.isEmpty())
             m_backend.setObjSource(previous);
     }
@@ -344,6 +335,11 @@ bool form_threed::loadobj(const QString &path, QString *error)
         *error = problem;
     updateModelUi();
     return problem.isEmpty();
+}
+
+QString form_threed::modelError() const
+{
+    return m_view && m_view->rootObject() ? m_view->rootObject()->property("modelError").toString() : QString();
 }
 
 void form_threed::updateModelUi()
@@ -367,6 +363,11 @@ void form_threed::on_BTNResetCamera_clicked()
 
 void form_threed::showEvent(QShowEvent *event)
 {
+    if (!m_view && !m_noPicture) {
+        initView();
+        if (!modelError().isEmpty()) // its file has changed meanwhile
+            showDefaultModel();
+    }
     QWidget::showEvent(event);
     startThreeDPlot();
 }
@@ -375,7 +376,8 @@ void form_threed::hideEvent(QHideEvent *event)
 {
     QWidget::hideEvent(event);
     stopThreeDPlot();
-    window_place::store(this, settings_keys::kThreeDGeometry);
+    if (!event->spontaneous())
+        endView();
 }
 
 void form_threed::changeEvent(QEvent *event)
@@ -395,8 +397,6 @@ void form_threed::changeEvent(QEvent *event)
         updateHomeReferenceUi();
         updateModelUi();
         updateNoPictureUi();
-        if (m_view)
-            m_view->engine()->retranslate();
         fitPanel();
         break;
     case QEvent::FontChange:

@@ -9,7 +9,7 @@
 #include "attitude/attitude_convention.h"
 #include "attitude/home_references.h"
 
-class QQuickView;
+class QuickWindow;
 
 namespace Ui {
 class form_threed;
@@ -20,7 +20,8 @@ class form_threed;
 ///
 /// The newest attitude is stored at any rate and shown every 25 ms while the window is visible; nothing is drawn while
 /// it is closed, hidden or minimised. Where the picture cannot be drawn a sentence stands in its place and the numbers
-/// go on. Closing hides the window; it keeps model and home. Place, mounting and their like are in the settings file,
+/// go on. Closing hides the window; it keeps model and home, and gives back
+/// what the picture was drawn with. Place, mounting and their like are in the settings file,
 /// group "THREED". Main thread only.
 class form_threed : public QWidget
 {
@@ -56,8 +57,8 @@ public:
     bool loadobj(const QString &path, QString *error);
 
     AttitudeBackend &backend() { return m_backend; }
-    /// The picture; null where it cannot be drawn.
-    QQuickView *view() const { return m_view; }
+    /// The picture, while the window is open; null where it cannot be drawn.
+    QuickWindow *view() const { return m_view; }
 
 signals:
     /// The user chose another mounting; it belongs to the current product.
@@ -83,6 +84,10 @@ private slots:
 
 private:
     void initView();
+    void endView();
+    void showDefaultModel();
+    /// What is wrong with the model that is to be shown; empty when nothing is known.
+    QString modelError() const;
     void releaseGeometries();
     /// Puts a sentence, not yet translated, in place of the picture.
     void showNoPicture(const char *reason);
@@ -103,7 +108,7 @@ private:
     std::unique_ptr<Ui::form_threed> m_ui;
     AttitudeBackend m_backend;
     QWidget *m_container = nullptr; ///< holds and owns m_view
-    QQuickView *m_view = nullptr;
+    QuickWindow *m_view = nullptr;
     const char *m_noPicture = nullptr; ///< why there is none
     QTimer m_replotTimer;
     NormalizedAttitude m_attitude;

@@ -2,20 +2,17 @@
 
 #include <QCloseEvent>
 #include <QDeadlineTimer>
-#include <QDebug>
-#include <QQmlEngine>
 #include <QQuickItem>
-#include <QQuickView>
-#include <QSurfaceFormat>
 #include <QThread>
 #include <QVBoxLayout>
 
 #include <chrono>
+#include <utility>
 
-#include "app/frame_gate.h"
+#include "app/content_area.h"
+#include "app/quick_window.h"
 #include "app/settings_keys.h"
-#include "app/theme.h"
-#include "app/window_place.h"
+#include "app/window_host.h"
 #include "fft/fft_files.h"
 #include "fft/fft_trans.h"
 #include "fft/spectrum_controls.h"
@@ -24,7 +21,8 @@ namespace {
 
 constexpr std::chrono::milliseconds kTickInterval{50};
 constexpr std::chrono::seconds kThreadDeadline{3};
-constexpr QSize kMinimumSize{960, 560};
+constexpr QSize kLeastView{880, 470}; ///< below it the view is scrolled
+constexpr QSize kSmallestView{160, 120};
 constexpr QSize kDefaultSize{1280, 690};
 
 } // namespace
@@ -33,22 +31,19 @@ form_fftchart::form_fftchart(QWidget *parent) : QWidget(parent, Qt::Window), m_c
 {
     setObjectName(QStringLiteral("form_fftchart"));
     setStyleSheet(QStringLiteral("background-color:white; color:black;"));
-    setMinimumSize(kMinimumSize);
     configureControls();
     m_timer.setInterval(kTickInterval);
     connect(&m_timer, &QTimer::timeout, this, &form_fftchart::onTimer50ms);
     retranslateDynamicUi();
     resetFftBuffers();
-    if (!window_place::restore(this, settings_keys::kSpectrumGeometry))
+    if (!WindowHost::attachBare(this, settings_keys::kSpectrumGeometry)->hasPlace())
         resize(kDefaultSize);
 }
 
 form_fftchart::~form_fftchart()
 {
     releaseResources();
-    // The view goes before the bridge that it is bound to.
-    if (m_view)
-        m_view->setSource({});
+    endView(); // before the bridge that it is bound to
 }
 
 void form_fftchart::configureControls()
@@ -56,7 +51,9 @@ void form_fftchart::configureControls()
     auto *rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(0);
-    rows->addWidget(m_controls);
+    auto *controls = new ContentArea(m_controls, this);
+    controls->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    rows->addWidget(controls);
     connect(m_controls, &SpectrumControls::startClicked, this, &form_fftchart::on_BTN_start_clicked);
     connect(m_controls, &SpectrumControls::typeChosen, this, &form_fftchart::on_CB_type_currentIndexChanged);
     connect(m_controls, &SpectrumControls::pointsChosen, this, &form_fftchart::onFftCalPointTextChanged);
@@ -69,28 +66,28 @@ void form_fftchart::configureControls()
 
 void form_fftchart::initChartParam()
 {
-    m_view = new QQuickView;
-    // Lines, icons and texts bring their own smooth edges: multisampling would only cost.
-    QSurfaceFormat surface = m_view->format();
-    surface.setSamples(0);
-    m_view->setFormat(surface);
-    new FrameGate(m_view);
-    m_view->setColor(theme::kBackground);
-    m_view->setResizeMode(QQuickView::SizeRootObjectToView);
-    m_view->engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));
-    winId(); // dialogs belong to this window
-    m_files = new FftFiles(m_bridge, windowHandle(), this);
-    m_view->setInitialProperties({{QStringLiteral("bridge"), QVariant::fromValue(&m_bridge)},
-                                  {QStringLiteral("files"), QVariant::fromValue(m_files)},
-                                  {QStringLiteral("guide"), currentChartInteractionGuide()}});
-    m_view->setSource(QUrl(QStringLiteral("qrc:/qml/FFTChartView.qml")));
-    if (m_view->status() == QQuickView::Error)
-        qWarning() << "FFTChartView.qml errors:" << m_view->errors();
-    QWidget *container = QWidget::createWindowContainer(m_view, this);
-    container->setFocusPolicy(Qt::StrongFocus);
-    layout()->addWidget(container);
-    static_cast<QVBoxLayout *>(layout())->setStretchFactor(container, 1);
+    m_view = new QuickWindow(0);
+    m_view->setLeastSize(kLeastView);
+    if (!m_files) {
+        winId(); // dialogs belong to this window
+        m_files = new FftFiles(m_bridge, windowHandle(), this);
+    }
+    m_view->load(QUrl(QStringLiteral("qrc:/qml/FFTChartView.qml")),
+                 {{QStringLiteral("bridge"), QVariant::fromValue(&m_bridge)},
+                  {QStringLiteral("files"), QVariant::fromValue(m_files)},
+                  {QStringLiteral("guide"), currentChartInteractionGuide()}});
+    m_container = QWidget::createWindowContainer(m_view, this);
+    m_container->setFocusPolicy(Qt::StrongFocus);
+    m_container->setMinimumSize(kSmallestView);
+    static_cast<QVBoxLayout *>(layout())->addWidget(m_container, 1);
     applyYAxisRangeToChart();
+}
+
+/// A closed window keeps nothing that it has drawn with.
+void form_fftchart::endView()
+{
+    m_view = nullptr;
+    delete std::exchange(m_container, nullptr);
 }
 
 void form_fftchart::setViewProperty(const char *name, const QVariant &value)
@@ -315,10 +312,16 @@ void form_fftchart::showEvent(QShowEvent *event)
     QWidget::showEvent(event);
 }
 
+void form_fftchart::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    if (!event->spontaneous())
+        endView();
+}
+
 void form_fftchart::closeEvent(QCloseEvent *event)
 {
     releaseResources();
-    window_place::store(this, settings_keys::kSpectrumGeometry);
     QWidget::closeEvent(event);
 }
 
@@ -333,8 +336,6 @@ void form_fftchart::retranslateDynamicUi()
 {
     setWindowTitle(tr("FFT Analysis"));
     m_controls->retranslate();
-    if (m_view)
-        m_view->engine()->retranslate();
     setViewProperty("guide", currentChartInteractionGuide());
     updateStatus();
     syncBridgeViewConfig();

@@ -9,7 +9,7 @@
 
 class FftFiles;
 class FftTrans;
-class QQuickView;
+class QuickWindow;
 class QThread;
 class SpectrumControls;
 
@@ -17,8 +17,8 @@ class SpectrumControls;
 /// connects them: samples go through the FftSampler to the FftTrans on its own thread, and what comes back to the
 /// FftChartBridge. Main thread only.
 ///
-/// View and engine come with the first showing. Closing ends the engine's thread, pauses, and abandons a batch that is
-/// out; showing again restarts the stream. Samples are taken while the window is visible only.
+/// View and engine live while the window is open. Closing ends them, pauses, and abandons a batch that is out; showing
+/// again restarts the stream. Samples are taken while the window is visible only.
 ///
 /// The alarm judges full blocks of a living stream: it waits while the rings fill, and without new samples nothing is
 /// analysed at all. Both are said over the chart. Settings other than the alarm's own leave its state and events alone.
@@ -52,6 +52,7 @@ signals:
 
 protected:
     void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void changeEvent(QEvent *event) override;
 
@@ -71,6 +72,7 @@ private:
     void configureControls();
     void retranslateDynamicUi();
     void initChartParam();
+    void endView();
     void setViewProperty(const char *name, const QVariant &value);
     void initFFTParam();
     void releaseResources();
@@ -101,7 +103,8 @@ private:
     bool m_refitX = false; ///< show all frequencies when the rate is known
 
     QThread *m_thread = nullptr;
-    FftTrans *m_engine = nullptr; ///< lives and dies in m_thread
-    QQuickView *m_view = nullptr; ///< owned by its container
+    FftTrans *m_engine = nullptr;   ///< lives and dies in m_thread
+    QWidget *m_container = nullptr; ///< while the window is open, as what it shows:
+    QuickWindow *m_view = nullptr;  ///< owned by its container
     FftFiles *m_files = nullptr;
 };

@@ -2,12 +2,12 @@
 
 #include <QEvent>
 
+#include "app/quiet_label.h"
 #include "link/stream_dispatcher.h"
 #include "session/device_session.h"
 #include "ui/device_text.h"
 #include "ui/session_text.h"
 #include "ui/status_text.h"
-#include "ui/text_if_changed.h"
 #include "ui_connection_card.h"
 
 namespace {

@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QIcon>
 
+#include "app/window_host.h"
 #include "ui/app_version.h"
 #include "ui_form_about.h"
 
@@ -24,6 +25,7 @@ form_about::form_about(QWidget *parent) : QDialog(parent), m_ui(std::make_unique
     m_ui->LBL_icon->setPixmap(icon);
     m_ui->LBL_icon->setVisible(!icon.isNull());
     fillTexts();
+    WindowHost::attach(this);
 }
 
 form_about::~form_about() = default;

@@ -13,7 +13,7 @@
 #include "app/app_log.h"
 #include "app/menu_font.h"
 #include "app/settings_keys.h"
-#include "app/window_place.h"
+#include "app/window_host.h"
 #include "device/orientation_override.h"
 #include "link/kv_uart_port.h"
 #include "link/stream_dispatcher.h"
@@ -59,10 +59,10 @@ form_base::form_base(QWidget *parent) : QMainWindow(parent), m_ui(std::make_uniq
     setUpConnections();
 
     applyFontSize(fontSize);
-    if (!window_place::restore(this, settings_keys::kGeometry))
-        resize(size().boundedTo(screen()->availableSize()));
+    WindowHost::attach(this, settings_keys::kGeometry);
     retranslate();
     enable_all_page(false);
+    QMetaObject::invokeMethod(m_dialogs, &Dialogs::remindOfUpdate, Qt::QueuedConnection);
 }
 
 form_base::~form_base()
@@ -133,6 +133,7 @@ void form_base::setUpConnections()
     });
     connect(m_ui->action_link_health, &QAction::triggered, m_dialogs, &Dialogs::openLinkHealth);
     connect(m_dialogs, &Dialogs::portChosen, this, &form_base::open_port);
+    connect(m_dialogs, &Dialogs::restartWanted, this, [this] { m_wantsRestart = close(); });
     connect(m_ui->action_quit, &QAction::triggered, this, &form_base::close);
     connect(m_ui->button_open, &QPushButton::clicked, m_ui->action_serial_open, &QAction::trigger);
     connect(m_actions->sensorDashboard(), &QAction::triggered, this, &form_base::on_action_sensor_dashboard_triggered);
@@ -353,7 +354,6 @@ void form_base::closeEvent(QCloseEvent *event)
         return;
     }
     m_session->close();
-    window_place::store(this, settings_keys::kGeometry);
     m_dialogs->closeAll();
     m_views->closeAll();
     QMainWindow::closeEvent(event);

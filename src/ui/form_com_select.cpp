@@ -11,7 +11,7 @@
 
 #include "app/app_log.h"
 #include "app/settings_keys.h"
-#include "app/window_place.h"
+#include "app/window_host.h"
 #include "ui/device_text.h"
 #include "ui_form_com_select.h"
 
@@ -75,7 +75,7 @@ form_com_select::form_com_select(QWidget *parent, PortSource source)
     });
     connect(m_ui->CB_baud, &QComboBox::editTextChanged, this, &form_com_select::updateState);
     updateState();
-    window_place::restore(this, settings_keys::kPortGeometry);
+    WindowHost::attach(this, settings_keys::kPortGeometry);
 }
 
 form_com_select::~form_com_select() = default;
@@ -115,8 +115,6 @@ void form_com_select::showEvent(QShowEvent *event)
 void form_com_select::hideEvent(QHideEvent *event)
 {
     m_refreshTimer.stop();
-    if (!event->spontaneous())
-        window_place::store(this, settings_keys::kPortGeometry);
     QDialog::hideEvent(event);
 }
 

@@ -5,20 +5,18 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QHeaderView>
-#include <QScreen>
 #include <QStyle>
 
 #include "app/settings_keys.h"
 #include "app/theme.h"
 #include "app/value_format.h"
-#include "app/window_place.h"
+#include "app/window_host.h"
 #include "ui/device_text.h"
 #include "ui_form_link_health.h"
 
 namespace {
 
 constexpr int kRefreshMs = 500;
-constexpr int kFrameHeight = 48; ///< room for the window's frame
 
 enum Column { Id, Samples, Missing, Share, LargestGap, LastGap, Jumps, Columns };
 
@@ -128,7 +126,7 @@ form_link_health::form_link_health(const LinkMonitor *monitor, QWidget *parent)
     connect(m_ui->BTN_copy, &QPushButton::clicked, this, [this] { QGuiApplication::clipboard()->setText(text()); });
     connect(m_ui->BTN_close, &QPushButton::clicked, this, &form_link_health::close);
     m_ui->CARD_nodes->hide(); // until there are some
-    m_hasPlace = window_place::restore(this, settings_keys::kLinkHealthGeometry);
+    m_host = WindowHost::attach(this, settings_keys::kLinkHealthGeometry);
 }
 
 form_link_health::~form_link_health() = default;
@@ -219,9 +217,8 @@ void form_link_health::showNodes(const LinkReport &report)
     m_ui->CARD_nodes->setVisible(!report.nodes.isEmpty());
     if (table->rowCount() != int(report.nodes.size()))
         table->setRowCount(int(report.nodes.size()));
-    if (appears && !m_hasPlace) { // windows do not grow by themselves
-        const QSize room = screen()->availableSize() - QSize(0, kFrameHeight);
-        resize(size().expandedTo(sizeHint()).boundedTo(room).expandedTo(size()));
+    if (appears && !m_host->hasPlace()) {      // windows do not grow by themselves
+        resize(size().expandedTo(sizeHint())); // the host keeps it on the screen
     }
     for (int row = 0; row < int(report.nodes.size()); ++row) {
         const NodeHealth &node = report.nodes.at(row);
@@ -255,7 +252,6 @@ void form_link_health::showEvent(QShowEvent *event)
 void form_link_health::hideEvent(QHideEvent *event)
 {
     m_timer.stop();
-    window_place::store(this, settings_keys::kLinkHealthGeometry);
     QDialog::hideEvent(event);
 }
 

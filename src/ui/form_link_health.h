@@ -7,6 +7,7 @@
 
 #include "session/link_monitor.h"
 
+class WindowHost;
 class QLabel;
 
 namespace Ui {
@@ -45,5 +46,5 @@ private:
     std::unique_ptr<Ui::form_link_health> m_ui;
     const LinkMonitor *m_monitor;
     QTimer m_timer;
-    bool m_hasPlace = false; ///< size and place are the user's
+    WindowHost *m_host = nullptr;
 };

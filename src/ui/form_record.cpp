@@ -14,7 +14,7 @@
 #include "app/settings_keys.h"
 #include "app/theme.h"
 #include "app/value_format.h"
-#include "app/window_place.h"
+#include "app/window_host.h"
 #include "record/recorder.h"
 #include "record/recording_target.h"
 #include "ui/device_text.h"
@@ -66,7 +66,7 @@ form_record::form_record(Recorder *recorder, QWidget *parent)
     });
     connect(m_recorder, &Recorder::recordingChanged, this, &form_record::askDisk);
     updateState();
-    window_place::restore(this, settings_keys::kRecordGeometry);
+    WindowHost::attach(this, settings_keys::kRecordGeometry);
 }
 
 form_record::~form_record() = default;
@@ -81,27 +81,11 @@ QString form_record::typedName() const
     return recording_target::name(m_ui->LE_name->text());
 }
 
-bool form_record::event(QEvent *event)
-{
-    const bool handled = QDialog::event(event);
-    if (event->type() == QEvent::LayoutRequest)
-        fitHeight(this);
-    return handled;
-}
-
 void form_record::showEvent(QShowEvent *event)
 {
     askDisk();
     updateState();
-    fitHeight(this);
     QDialog::showEvent(event);
-}
-
-void form_record::hideEvent(QHideEvent *event)
-{
-    QDialog::hideEvent(event);
-    if (!event->spontaneous())
-        window_place::store(this, settings_keys::kRecordGeometry);
 }
 
 void form_record::changeEvent(QEvent *event)

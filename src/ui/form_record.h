@@ -29,9 +29,7 @@ public:
     ~form_record() override;
 
 protected:
-    bool event(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
-    void hideEvent(QHideEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private slots:

@@ -12,7 +12,7 @@
 
 #include "app/settings_keys.h"
 #include "app/theme.h"
-#include "app/window_place.h"
+#include "app/window_host.h"
 #include "device/command_session.h"
 #include "link/kv_uart_port.h"
 #include "session/device_session.h"
@@ -130,7 +130,7 @@ form_settings::form_settings(DeviceSession *session, QWidget *parent)
     connect(m_ui->CB_rate, &QComboBox::currentIndexChanged, this, &form_settings::storeChoice);
     connect(m_ui->CB_mode, &QComboBox::currentIndexChanged, this, &form_settings::storeChoice);
     showDevice();
-    window_place::restore(this, settings_keys::kSettingsGeometry);
+    WindowHost::attach(this, settings_keys::kSettingsGeometry);
 }
 
 form_settings::~form_settings() = default;
@@ -159,7 +159,6 @@ void form_settings::hideEvent(QHideEvent *event)
 {
     QDialog::hideEvent(event);
     if (!event->spontaneous()) {
-        window_place::store(this, settings_keys::kSettingsGeometry);
         m_closePending = true;
         finishClosing();
     }

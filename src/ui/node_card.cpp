@@ -5,10 +5,10 @@
 
 #include <algorithm>
 
+#include "app/quiet_label.h"
 #include "link/stream_dispatcher.h"
 #include "session/device_session.h"
 #include "ui/status_text.h"
-#include "ui/text_if_changed.h"
 #include "ui_node_card.h"
 
 namespace {

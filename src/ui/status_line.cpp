@@ -3,13 +3,13 @@
 #include <QLabel>
 #include <QStatusBar>
 
+#include "app/quiet_label.h"
 #include "app/theme.h"
 #include "link/kv_uart_port.h"
 #include "link/stream_dispatcher.h"
 #include "session/device_session.h"
 #include "ui/action_label.h"
 #include "ui/status_text.h"
-#include "ui/text_if_changed.h"
 
 namespace {
 

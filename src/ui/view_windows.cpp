@@ -1,5 +1,6 @@
 #include "ui/view_windows.h"
 
+#include "app/window_host.h"
 #include "attitude/attitude_convention.h"
 #include "attitude/form_threed.h"
 #include "device/product_profile.h"
@@ -14,13 +15,6 @@
 namespace {
 
 constexpr int kEstimateRate = 0; // the time stamps give the rate more exactly than a count per second
-
-void bringUp(QWidget *window)
-{
-    window->show();
-    window->raise();
-    window->activateWindow();
-}
 
 /// What a sample carries for the charts; angles can be had from its quaternion too.
 SampleFields chartFields(const StreamSample &sample, const NormalizedAttitude &attitude)
@@ -50,7 +44,7 @@ void ViewWindows::openSensorDashboard()
         if (m_frameRate > 0)
             m_sensorDashboard->bridge().setFrameRate(m_frameRate);
     }
-    m_sensorDashboard->open();
+    WindowHost::bringUp(m_sensorDashboard.get());
 }
 
 void ViewWindows::openGatewayDashboard()
@@ -60,14 +54,14 @@ void ViewWindows::openGatewayDashboard()
         if (m_frameRate > 0)
             m_wirelessDashboard->setFrameRate(m_frameRate);
     }
-    m_wirelessDashboard->open();
+    WindowHost::bringUp(m_wirelessDashboard.get());
 }
 
 void ViewWindows::openSpectrum()
 {
     if (!m_spectrum)
         m_spectrum = std::make_unique<form_fftchart>();
-    bringUp(m_spectrum.get());
+    WindowHost::bringUp(m_spectrum.get());
 }
 
 void ViewWindows::openThreeD()
@@ -77,7 +71,7 @@ void ViewWindows::openThreeD()
         showMounting();
         connect(m_threed.get(), &form_threed::orientationPresetChanged, m_session, &DeviceSession::setPreset);
     }
-    m_threed->open();
+    WindowHost::bringUp(m_threed.get());
 }
 
 void ViewWindows::closeAll()

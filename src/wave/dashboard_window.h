@@ -1,20 +1,23 @@
 #pragma once
 
-#include <QQuickView>
 #include <QVariantMap>
 
 #include <memory>
 
+#include "app/quick_window.h"
+#include "app/window_host.h"
+
 class ChartSaver;
 
 /// Base of the dashboards: a window of its own that shows a view of the module KVCenter.Wave. It remembers its size and
-/// place, fits the screen, follows the language, saves pictures and samples for its charts, and is closed by hiding it.
+/// place, saves pictures and samples for its charts, and is closed by hiding it: the view ends then, and begins again
+/// with the next showing.
 ///
-/// A dashboard derives from it, creates its bridge, calls loadView() with the bridge in the properties at the end of
+/// A dashboard derives from it, creates its bridge, calls showView() with the bridge in the properties at the end of
 /// its constructor and reacts in setOpen(); retranslate() updates its bridge first and then calls the base. Its
-/// destructor calls close(), which reaches setOpen() only from there, and unloads the view before the bridge goes. Main
+/// destructor calls close(), which reaches setOpen() only from there, and ends the view before the bridge goes. Main
 /// thread only.
-class DashboardWindow : public QQuickView
+class DashboardWindow : public QuickWindow
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(DashboardWindow)
@@ -24,18 +27,15 @@ public:
     explicit DashboardWindow(QLatin1String settingsGroup, QWindow *parent = nullptr);
     ~DashboardWindow() override;
 
-    /// Updates all texts; runs by itself when the language changes.
-    virtual void retranslate();
-
     /// Shows the window, or brings it to the front.
-    void open();
+    void open() { WindowHost::bringUp(this); }
 
     ChartSaver *saver() const { return m_saver.get(); }
 
 protected:
-    /// Shows the file `name`.qml of the module with `properties` set on it, and "saver" in addition (a ChartSaver).
-    /// When it cannot be loaded the log tells why, and the window shows a sentence.
-    void loadView(const QString &name, QVariantMap properties);
+    /// What the window shows while it is open: the file `name`.qml of the module with `properties` set on it, and
+    /// "saver" in addition (a ChartSaver). When it cannot be loaded the log says why, and the window shows a sentence.
+    void showView(const QString &name, QVariantMap properties);
 
     /// The window was shown (true) or closed.
     virtual void setOpen(bool open) = 0;
@@ -44,10 +44,10 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
-    void restorePlace();
     void showLoadFailure();
 
-    QLatin1String m_settingsGroup;
+    QUrl m_source;
+    QVariantMap m_properties;
     std::unique_ptr<ChartSaver> m_saver;
     bool m_isOpen = false;
 };

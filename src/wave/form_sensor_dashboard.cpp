@@ -7,13 +7,13 @@ form_sensor_dashboard::form_sensor_dashboard(QWindow *parent) : DashboardWindow(
     m_bridge.loadSelectionState(settings_keys::kFile);
     connect(&m_bridge, &SensorDashboardBridge::playToggleRequested, &m_bridge, &SensorDashboardBridge::setPlaying);
     setTitle(m_bridge.windowTitle());
-    loadView(QStringLiteral("SensorDashboard"), {{QStringLiteral("bridge"), QVariant::fromValue(&m_bridge)}});
+    showView(QStringLiteral("SensorDashboard"), {{QStringLiteral("bridge"), QVariant::fromValue(&m_bridge)}});
 }
 
 form_sensor_dashboard::~form_sensor_dashboard()
 {
     close();
-    setSource({}); // the view goes before the bridge that it is bound to
+    unload(); // the view goes before the bridge that it is bound to
 }
 
 void form_sensor_dashboard::retranslate()

@@ -4,22 +4,22 @@
 
 namespace {
 
-constexpr QSize kMinimumSize{900, 480}; ///< the table and charts that can be read
+constexpr QSize kLeastSize{900, 480}; ///< the table and charts that can be read
 
 } // namespace
 
 form_wireless_dashboard::form_wireless_dashboard(QWindow *parent)
     : DashboardWindow(settings_keys::kWirelessDashboard, parent)
 {
-    setMinimumSize(kMinimumSize);
+    setLeastSize(kLeastSize);
     setTitle(m_bridge.windowTitle());
-    loadView(QStringLiteral("GatewayDashboard"), {{QStringLiteral("bridge"), QVariant::fromValue(&m_bridge)}});
+    showView(QStringLiteral("GatewayDashboard"), {{QStringLiteral("bridge"), QVariant::fromValue(&m_bridge)}});
 }
 
 form_wireless_dashboard::~form_wireless_dashboard()
 {
     close();
-    setSource({}); // the view goes before the bridge that it is bound to
+    unload(); // the view goes before the bridge that it is bound to
 }
 
 void form_wireless_dashboard::retranslate()

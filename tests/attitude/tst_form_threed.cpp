@@ -10,6 +10,7 @@
 
 #include <limits>
 
+#include "app/quick_window.h"
 #include "app/settings_keys.h"
 #include "attitude/form_threed.h"
 #include "attitude/qt6_model_asset.h"

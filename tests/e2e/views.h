@@ -24,6 +24,16 @@ template <class Window> Window *openWindow()
     return nullptr;
 }
 
+/// A window that is open beside the main window, null when there is none.
+inline QWindow *windowBeside(const form_base &main)
+{
+    for (QWindow *window : QGuiApplication::topLevelWindows()) {
+        if (window->isVisible() && window != main.windowHandle())
+            return window;
+    }
+    return nullptr;
+}
+
 /// The texts that a declarative view shows.
 inline QStringList shownTexts(const QQuickItem *root)
 {

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # with_display.sh PROGRAM [ARGUMENTS...]: runs a test with windows on a display of its own. Without a window manager the
-# keyboard has one owner; on a display each, such tests run beside each other.
+# keyboard has one owner; on a display each, such tests run beside each other. KV_SCREEN is its size in pixels.
 set -euo pipefail
-exec {numbers}< <(exec Xvfb -displayfd 1 -screen 0 1366x768x24 -nolisten tcp 2>/dev/null)
+exec {numbers}< <(exec Xvfb -displayfd 1 -screen 0 "${KV_SCREEN:-1366x768}x24" -nolisten tcp 2>/dev/null)
 server=$!
 trap 'kill "$server" 2>/dev/null || true' EXIT
 if ! read -r -t 20 number <&"$numbers"; then
