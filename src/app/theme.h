@@ -21,6 +21,8 @@ inline constexpr QColor kBackground{0xF3, 0xF4, 0xF6};
 inline constexpr QColor kLine{0xE5, 0xE7, 0xEB};
 inline constexpr QColor kText{0x11, 0x18, 0x27};
 inline constexpr QColor kTextSecondary{0x4B, 0x55, 0x63};
+/// Old values and dashes: they are read, so they keep a contrast of 4.5 to 1 on all surfaces.
+inline constexpr QColor kTextStale{0x64, 0x6B, 0x79};
 inline constexpr QColor kTextDisabled{0x9C, 0xA3, 0xAF};
 inline constexpr QColor kWarning{0xB4, 0x53, 0x09};
 inline constexpr QColor kAccent{0x25, 0x63, 0xEB};

@@ -363,6 +363,6 @@ void ToolADI::drawHeading(QPainter &painter, const AdiLayout &layout) const
     painter.setBrush(theme::kSurface);
     painter.drawRoundedRect(box, 3, 3);
     painter.setFont(figures);
-    painter.setPen(m_shown.valid ? theme::kText : theme::kTextDisabled);
+    painter.setPen(m_shown.valid ? theme::kText : theme::kTextStale);
     painter.drawText(box, Qt::AlignCenter, text);
 }

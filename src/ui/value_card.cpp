@@ -21,7 +21,6 @@ constexpr double kRoundingMargin = 1.001;
 constexpr double kMaxRange = 1e12;
 constexpr int kMinTraceHeight = 36;
 constexpr int kMaxTraceHeight = 160;
-constexpr QColor kBarGround{0xF3, 0xF4, 0xF6};
 
 } // namespace
 
@@ -226,7 +225,7 @@ void ValueCard::paintRow(QPainter &painter, int row, const QRect &area, double r
     if (textWidth > valueArea.width()) // a value beyond the layout's digits takes the bar's place
         valueArea.setWidth(std::min(textWidth, area.right() - valueArea.left()));
     painter.setFont(m_valueFont);
-    painter.setPen(m_isAbsent || !isEnabled() ? theme::kTextDisabled : theme::kText);
+    painter.setPen(m_isAbsent || !isEnabled() ? theme::kTextStale : theme::kText);
     painter.drawText(valueArea, Qt::AlignRight | Qt::AlignVCenter, text);
 
     const int barLeft = valueArea.right() + 2 * theme::kGrid;
@@ -234,7 +233,7 @@ void ValueCard::paintRow(QPainter &painter, int row, const QRect &area, double r
     if (ground.width() < 3 * theme::kGrid)
         return;
     painter.setPen(Qt::NoPen);
-    painter.setBrush(kBarGround);
+    painter.setBrush(theme::kBackground);
     painter.drawRoundedRect(ground, kBarHeight / 2.0, kBarHeight / 2.0);
     const float value = m_values[size_t(row)];
     if (m_isAbsent || !std::isfinite(value))
@@ -243,7 +242,7 @@ void ValueCard::paintRow(QPainter &painter, int row, const QRect &area, double r
     const double zero = channel.isNorm ? ground.left() : ground.center().x();
     const double full = channel.isNorm ? ground.width() : ground.width() / 2.0;
     QRectF bar(zero, ground.top(), fraction * full, ground.height());
-    painter.setBrush(channel.color);
+    painter.setBrush(isEnabled() ? channel.color : theme::kTextStale);
     painter.drawRect(bar.normalized());
 }
 

@@ -97,7 +97,7 @@ void ValueStrip::paintEvent(QPaintEvent *)
                          captionText(m_cells.at(i)));
         painter.setFont(valueFont);
         const bool isAbsent = m_texts.at(i) == value_format::absent();
-        painter.setPen(isAbsent || !isEnabled() ? theme::kTextDisabled : m_cells.at(i).color);
+        painter.setPen(isAbsent || !isEnabled() ? theme::kTextStale : m_cells.at(i).color);
         painter.drawText(cell.adjusted(0, captionHeight + kSpacing, 0, 0), Qt::AlignHCenter | Qt::AlignTop,
                          m_texts.at(i));
     }
