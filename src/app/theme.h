@@ -7,8 +7,16 @@
 
 class QApplication;
 
-/// The look that all windows share: light surfaces, one neutral grey scale, one accent, the axis colours.
+struct Palette;
+
+/// The look that all windows share: quiet surfaces, one neutral grey scale, one accent, the axis colours. Main thread
+/// only.
 namespace theme {
+
+/// The colours of now; see Appearance.
+const Palette &colors();
+/// Takes the other colours. What has been given to the application before stays: call apply().
+void setDark(bool isDark);
 
 inline constexpr QColor kAxisX{0xAB, 0x22, 0x1D};
 inline constexpr QColor kAxisY{0x0D, 0x8B, 0x4D};
@@ -28,7 +36,7 @@ inline constexpr QColor kAccent{0x25, 0x63, 0xEB};
 /// Distance unit in device-independent pixels.
 inline constexpr int kGrid = 8;
 
-/// Palette of the light look.
+/// The colours of now for widgets.
 QPalette palette();
 
 /// Style sheet of the application's widgets; independent of the font size.
