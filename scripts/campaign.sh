@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# campaign.sh [--minutes M | --quick | --table] [--seed N] ...: the faults of firmware updates (kv_update_matrix), then the
-# fault campaign, on the release build and a display of its own; further words go to kv_campaign. docs/fault-campaign.md
+# campaign.sh [--minutes M | --quick | --table] [--seed N] ...: the faults of firmware updates (kv_update_matrix), the
+# program killed in 50 updates, then the fault campaign, on the release build and a display of its own; further words go to kv_campaign. docs/fault-campaign.md
 # tells what they do. Ends with 1 when a goal was not met, or with the program's signal when it crashed. Its log of actions
 # is campaign.log in the folder that the first line names.
 set -euo pipefail
@@ -14,7 +14,7 @@ cleanup() {
 }
 trap cleanup EXIT
 trap 'exit 130' INT TERM
-if ! { cmake --preset release && cmake --build --preset release --target kv_campaign kv_update_matrix; } >"$log" 2>&1; then
+if ! { cmake --preset release && cmake --build --preset release --target kv_campaign kv_update_matrix tst_update_kills; } >"$log" 2>&1; then
   cat "$log" >&2
   echo "campaign: the build failed, see above" >&2
   exit 1
@@ -33,6 +33,10 @@ if ! read -r -t 20 number <&"$display"; then
 fi
 export DISPLAY=":$number" QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8
 unset WAYLAND_DISPLAY
+KV_UPDATE_KILLS=50 build/release/bin/tst_update_kills || {
+  echo "campaign: a killed update was not survived, see above" >&2
+  exit 1
+}
 code=0
 build/release/bin/kv_campaign "$@" || code=$?
 [ "$code" -lt 128 ] || echo "campaign: the program crashed by signal $((code - 128))" >&2

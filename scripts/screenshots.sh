@@ -262,6 +262,42 @@ scene_firmware() {
   take firmware-done
 }
 
+scene_firmware_wrong() {
+  firmware --bootloader "flip 40"
+  click 591 150
+  sleep 4
+  click 591 224
+  sleep 8
+  take firmware-wrong
+}
+
+scene_firmware_doubts() {
+  firmware
+  head -n 2000 "$work/demo.hex" >"$work/half.hex"
+  end_process program
+  program '[UPDATER]' "PATH=$work/half.hex"
+  connected
+  keys alt+t f
+  window '^Firmware Update'
+  take firmware-doubts
+}
+
+scene_firmware_interrupted() {
+  firmware
+  click 591 150
+  sleep 4
+  click 591 224
+  sleep 0.6
+  kill -9 "$program" && wait "$program" 2>/dev/null || true
+  (cd "$work/settings" && exec "$programs/kvcenter") &
+  program=$!
+  window '^ORVEL-IMU'
+  sleep 2
+  keys Tab Return # "Connect" of the reminder
+  window '^Firmware Update'
+  take firmware-interrupted
+}
+
 scene_firmware_failed() {
   firmware --bootloader "ignore 40:1000000"
   click 591 150

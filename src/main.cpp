@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDebug>
 #include <QIcon>
+#include <QProcess>
 #include <QSerialPort>
 #include <QSurfaceFormat>
 
@@ -53,6 +54,11 @@ int qMain(int argc, char **argv)
     window->show();
     const int exitCode = QApplication::exec();
 
+    const bool startsAgain = window->wantsRestart();
+    window.reset(); // the port is free for the next one
+    if (startsAgain
+        && !QProcess::startDetached(QCoreApplication::applicationFilePath(), application.arguments().mid(1)))
+        qWarning() << "Failed to start the program again";
     message_log::close();
     return exitCode;
 }

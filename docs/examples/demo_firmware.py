@@ -18,6 +18,7 @@ def record(kind, address, data):
 
 def main(path, kib=48):
     image = struct.pack("<II", STACK_TOP, FLASH + 0x101)  # odd: Thumb code
+    image += b"build 2026-05-17"  # the simulated device reports it
     image += bytes(n * 7 % 251 for n in range(kib * 1024 - len(image)))
     with open(path, "w", encoding="ascii") as out:
         for at in range(0, len(image), 16):

@@ -14,6 +14,10 @@ T.Button {
     horizontalPadding: 14
     hoverEnabled: true
     focusPolicy: Qt.TabFocus
+    Accessible.role: Accessible.CheckBox
+    Accessible.name: text
+    Accessible.checkable: true
+    Accessible.checked: checked
 
     contentItem: Text {
         text: control.text

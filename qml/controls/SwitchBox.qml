@@ -12,6 +12,10 @@ T.Switch {
     implicitHeight: Math.max(indicator.height, contentItem.implicitHeight) + 4
     hoverEnabled: true
     focusPolicy: Qt.TabFocus
+    Accessible.role: Accessible.CheckBox
+    Accessible.name: text
+    Accessible.checkable: true
+    Accessible.checked: checked
 
     indicator: Rectangle {
         y: Math.round((control.height - height) / 2)

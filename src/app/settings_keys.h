@@ -21,9 +21,15 @@ constexpr QLatin1String kPortSerial("SERIAL/SERIAL_NUMBER");
 constexpr QLatin1String kPortGeometry("SERIAL/GEOMETRY");       ///< size and place of the dialog that asks for it
 constexpr QLatin1String kSettingsGeometry("SETTINGS/GEOMETRY"); ///< of the device settings
 constexpr QLatin1String kRecordPath("RECORD/PATH"); ///< folder and name of the last recording, "<folder>/data.csv"
+constexpr QLatin1String kRecordStopsByTime("RECORD/STOP_BY_TIME"); ///< true: after kRecordMinutes
+constexpr QLatin1String kRecordMinutes("RECORD/MINUTES");
+constexpr QLatin1String kRecordStopsBySize("RECORD/STOP_BY_SIZE"); ///< true: at kRecordMebibytes
+constexpr QLatin1String kRecordMebibytes("RECORD/MEBIBYTES");
+constexpr QLatin1String kRecordResumes("RECORD/RESUME");             ///< true: goes on after a lost connection
 constexpr QLatin1String kRecordGeometry("RECORD/GEOMETRY");          ///< size and place of the recording window
 constexpr QLatin1String kLinkHealthGeometry("LINK_HEALTH/GEOMETRY"); ///< that window's size and place
 constexpr QLatin1String kUpdaterPath("UPDATER/PATH");                ///< last firmware image
+constexpr QLatin1String kSlowEraseGroup("UPDATER_SLOW_ERASE");       ///< see SlowErases
 constexpr QLatin1String kUpdaterGeometry("UPDATER/GEOMETRY");        ///< that window's size and place
 
 constexpr QLatin1String kSpectrum("SPECTRUM"); ///< group of the spectrum window; kDashboardFolder below it

@@ -80,8 +80,9 @@ void SpectrumControls::configureControls()
     m_ignoreSteady->setObjectName(QStringLiteral("CK_ignore_steady"));
     m_status->setObjectName(QStringLiteral("label_status"));
     // The window's own colours would take the accent from the button.
-    m_start->setStyleSheet(QStringLiteral("background-color:%1; border-color:%1; color:%2;")
-                               .arg(theme::kAccent.name(), theme::kSurface.name()));
+    m_start->setStyleSheet(QStringLiteral("QPushButton { background-color:%1; border-color:%1; color:%2; }"
+                                          "QPushButton:focus { border-color:%3; }")
+                               .arg(theme::kAccent.name(), theme::kSurface.name(), theme::kText.name()));
 
     for (int log2 = kMinPointsLog2; log2 <= kMaxPointsLog2; ++log2)
         m_points->addItem(QString::number(1 << log2));

@@ -4,6 +4,8 @@
 #include <QFileInfo>
 #include <QStorageInfo>
 
+#include <algorithm>
+
 #include "record/number_text.h"
 
 namespace {
@@ -107,6 +109,12 @@ QString CsvWriter::vanishedFile() const
 {
     const QMutexLocker locker(&m_queueLock);
     return m_vanishedFile;
+}
+
+QList<int> CsvWriter::nodesLeftOut() const
+{
+    const QMutexLocker locker(&m_queueLock);
+    return m_nodesLeftOut;
 }
 
 void CsvWriter::askAboutDisk()
@@ -245,7 +253,7 @@ void CsvWriter::openNewFile(const QDateTime &start)
     m_fileStartTime = start;
     m_headerWritten.fill(false);
     m_bytesSinceFlush = 0;
-    m_fileSize = 0;
+    m_earlierSize += m_fileSize.exchange(0);
     m_unflushedEnds.clear();
     m_slots62.fill(kFreeSlot, kGroups);
     m_slots63.fill(kFreeSlot, kGroups);
@@ -254,6 +262,8 @@ void CsvWriter::openNewFile(const QDateTime &start)
         m_filePath = path;
     }
     setFileError(isOpen ? QString() : m_file->errorString());
+    if (isOpen && m_whenFileChanges)
+        m_whenFileChanges(path, m_frameCounter);
 }
 
 /// Hands bytes to the file; false when it took none of them.
@@ -383,9 +393,19 @@ void CsvWriter::assignSlots(const QList<node_data_t> &nodes, QList<int> &slotMap
             continue;
         const qsizetype freeSlot = slotMap.indexOf(kFreeSlot);
         if (freeSlot < 0)
-            return;
-        slotMap[freeSlot] = node.id;
+            leaveOut(node.id);
+        else
+            slotMap[freeSlot] = node.id;
     }
+}
+
+void CsvWriter::leaveOut(int id)
+{
+    if (m_isLeftOut.test(size_t(id)))
+        return;
+    m_isLeftOut.set(size_t(id));
+    const QMutexLocker locker(&m_queueLock);
+    m_nodesLeftOut.insert(std::lower_bound(m_nodesLeftOut.cbegin(), m_nodesLeftOut.cend(), id), id);
 }
 
 void CsvWriter::appendGroups(QByteArray &line, const QList<node_data_t> &nodes, QList<int> &slotMap)

@@ -10,6 +10,8 @@
 
 #include <array>
 #include <atomic>
+#include <bitset>
+#include <functional>
 #include <memory>
 
 #include "link/node_data.h"
@@ -76,6 +78,10 @@ public:
     QString filePath() const;
     /// Bytes of records and headers given to that file, or what the disk took of them once it is closed.
     qint64 fileSize() const { return m_fileSize; }
+    /// The same of all files together.
+    qint64 totalSize() const { return m_earlierSize + m_fileSize; }
+    /// Ids of the nodes that found no column group in a file, ascending.
+    QList<int> nodesLeftOut() const;
     /// The system's words for why opening, writing or flushing failed last; empty when it works, or works again.
     QString fileError() const;
     /// Records that were dropped because the queue was full.
@@ -89,6 +95,13 @@ public:
     /// Has the writer's thread ask the system for both, which may take as long as the disk likes. While it has not
     /// answered, asking again does nothing.
     void askAboutDisk();
+
+    /// `then` runs in the writer's thread when another file than the first has been opened, after so many records. To
+    /// be set before records come.
+    void whenFileChanges(std::function<void(const QString &path, unsigned int recordsBefore)> then)
+    {
+        m_whenFileChanges = std::move(then);
+    }
 
 public slots:
     /// Writes what is queued. Writer's thread.
@@ -120,8 +133,9 @@ private:
     void writeRecord63(const QList<node_data_t> &nodes, unsigned int timestampMs);
     static void appendNodeFields(QByteArray &line, const node_data_t &node);
     static void appendEmptyFields(QByteArray &line, int count);
-    static void assignSlots(const QList<node_data_t> &nodes, QList<int> &slotMap);
-    static void appendGroups(QByteArray &line, const QList<node_data_t> &nodes, QList<int> &slotMap);
+    void assignSlots(const QList<node_data_t> &nodes, QList<int> &slotMap);
+    void leaveOut(int id);
+    void appendGroups(QByteArray &line, const QList<node_data_t> &nodes, QList<int> &slotMap);
 
     bool &headerWritten(PendingRecordType type) { return m_headerWritten[std::size_t(type)]; }
     void writeHeader(const QByteArray &header);
@@ -131,6 +145,7 @@ private:
     void closeFile();
     void setFileError(const QString &error);
 
+    std::function<void(const QString &, unsigned int)> m_whenFileChanges;
     std::unique_ptr<QFile> m_file;
     QDateTime m_fileStartTime;
     QString m_basePath;
@@ -150,6 +165,9 @@ private:
     QString m_filePath;
     QString m_fileError;
     std::atomic<qint64> m_fileSize = 0;
+    std::atomic<qint64> m_earlierSize = 0; ///< of the files before
+    std::bitset<256> m_isLeftOut;          ///< by node id, writer's thread
+    QList<int> m_nodesLeftOut;
     std::atomic<quint32> m_droppedRecords = 0;
     std::atomic<quint32> m_lostRecords = 0;
     QString m_vanishedFile;

@@ -1,6 +1,9 @@
 #include "record/recorder.h"
 
+#include <QDateTime>
+
 #include <chrono>
+#include <utility>
 
 #include "record/recording_run.h"
 #include "record/recording_target.h"
@@ -11,7 +14,9 @@ constexpr int kTickMs = 250;
 constexpr int kMeasureMs = 1000;
 constexpr std::chrono::seconds kOpenDeadline{10};
 
-constexpr qint64 kLowBytes = 500LL * 1024 * 1024;
+constexpr qint64 kMinuteMs = 60'000;
+constexpr qint64 kMebibyte = 1024 * 1024;
+constexpr qint64 kLowBytes = 500 * kMebibyte;
 constexpr double kLowSeconds = 600;
 
 } // namespace
@@ -19,10 +24,11 @@ constexpr double kLowSeconds = 600;
 int Recorder::Trouble::kinds() const
 {
     return int(dropped > 0) | int(lost > 0) << 1 | int(!fileError.isEmpty()) << 2 | int(!vanishedFile.isEmpty()) << 3
-           | int(lowSpace) << 4 | int(notStarted) << 5;
+           | int(lowSpace) << 4 | int(notStarted) << 5 | int(!nodesLeftOut.isEmpty()) << 6
+           | int(!sidecarError.isEmpty()) << 7;
 }
 
-Recorder::Recorder(QObject *parent) : QObject(parent), m_timer(this)
+Recorder::Recorder(QObject *parent) : QObject(parent), m_timer(this), m_options(RecordingOptions::remembered())
 {
     m_timer.setInterval(kTickMs);
     connect(&m_timer, &QTimer::timeout, this, &Recorder::tick);
@@ -42,16 +48,39 @@ void Recorder::setLinkOpen(bool open)
     if (m_isLinkOpen == open)
         return;
     m_isLinkOpen = open;
-    m_isEndedByLink = !open && isRecording();
+    const bool isLoss = std::exchange(m_isLossExpected, false);
     if (open) {
         m_isRunOfLastLink = true;
         m_droppedInEarlier = 0;
         m_lostInEarlier = 0;
         if (m_problem.kind == RecordingProblem::Kind::NotConnected)
             m_problem = {};
-    } else {
-        stop();
+    } else if (isRecording()) {
+        if (isLoss && m_options.resumes) {
+            m_carriedMs += m_clock.elapsed();
+            m_carriedBytes += totalSize();
+            m_resumesInto = recording_target::Target{m_run->folder(), m_name};
+        }
+        endTaking(End::Link);
     }
+    emit stateChanged();
+}
+
+void Recorder::setContext(const RecordingContext &context)
+{
+    m_context = context;
+    if (isRecording())
+        m_run->setContext(context);
+}
+
+void Recorder::setOptions(const RecordingOptions &options)
+{
+    if (m_options == options)
+        return;
+    m_options = options;
+    m_options.remember();
+    if (!options.resumes)
+        m_resumesInto.reset();
     emit stateChanged();
 }
 
@@ -68,11 +97,33 @@ void Recorder::start(const QString &folder, const QString &name)
     if (target.folder.isEmpty() || recording_target::nameState(target.name) != recording_target::NameState::Good)
         return setProblem(Kind::BadTarget);
 
+    m_resumesInto.reset();
+    m_carriedMs = 0;
+    m_carriedBytes = 0;
+    begin(target);
+}
+
+void Recorder::startAgain()
+{
+    const recording_target::Target target = recording_target::remembered();
+    start(target.folder, target.name);
+}
+
+/// The first sample after a lost link: only now it is sure that the device is back.
+void Recorder::resume()
+{
+    if (m_resumesInto && m_isLinkOpen && m_state == State::Idle)
+        begin(*std::exchange(m_resumesInto, std::nullopt));
+}
+
+void Recorder::begin(const recording_target::Target &target)
+{
     m_droppedInEarlier = droppedRecords();
     m_lostInEarlier = lostRecords();
     m_problem = {};
     m_isRunOfLastLink = false;
-    m_isEndedByLink = false;
+    m_end = End::None;
+    m_markerCount = 0;
     m_recordsPerSecond = -1;
     m_bytesPerSecond = 0;
     m_measuredCount = 0;
@@ -80,6 +131,7 @@ void Recorder::start(const QString &folder, const QString &name)
     m_measuredFile.clear();
     m_name = target.name;
     m_run = std::make_unique<RecordingRun>(target.folder, target.name);
+    m_run->setContext(m_context);
     const auto whenCurrent = [this, number = ++m_runNumber](auto what) {
         return [this, number, what] {
             if (number == m_runNumber)
@@ -111,8 +163,15 @@ void Recorder::goOn()
 
 void Recorder::stop()
 {
-    if (!isRecording())
-        return;
+    if (std::exchange(m_resumesInto, std::nullopt))
+        emit stateChanged();
+    if (isRecording())
+        endTaking(End::Stop);
+}
+
+void Recorder::endTaking(End end)
+{
+    m_end = end;
     m_elapsedMs = m_clock.elapsed();
     m_state = State::Finishing;
     m_run->requestStop();
@@ -193,6 +252,12 @@ qint64 Recorder::fileSize() const
     return file != nullptr ? file->fileSize() : 0;
 }
 
+qint64 Recorder::totalSize() const
+{
+    const CsvWriter *file = writer();
+    return file != nullptr ? file->totalSize() : 0;
+}
+
 qint64 Recorder::freeBytes() const
 {
     const CsvWriter *file = writer();
@@ -210,20 +275,31 @@ unsigned int Recorder::lostRecords() const
     return m_lostInEarlier + (file != nullptr ? file->lostRecords() : 0);
 }
 
+bool Recorder::addMarker(const QString &text, double timeS)
+{
+    if (!isRecording() || !m_run->addMarker({timeS, QDateTime::currentMSecsSinceEpoch(), text}))
+        return false;
+    emit markerAdded(++m_markerCount, text, timeS);
+    return true;
+}
+
 void Recorder::imuPackage0x91(const node_data_t &node)
 {
+    resume();
     if (isRecording())
         m_run->add({CsvWriter::PendingRecordType::Record91, node, {}, 0});
 }
 
 void Recorder::imuPackage0x62(const QList<node_data_t> &nodes)
 {
+    resume();
     if (isRecording())
         m_run->add({CsvWriter::PendingRecordType::Record62, {}, nodes, 0});
 }
 
 void Recorder::imuPackage0x63(const QList<node_data_t> &nodes, unsigned int timestampMs)
 {
+    resume();
     if (isRecording())
         m_run->add({CsvWriter::PendingRecordType::Record63, {}, nodes, timestampMs});
 }
@@ -232,8 +308,19 @@ void Recorder::tick()
 {
     if (m_state == State::Recording && m_sinceMeasured.elapsed() >= kMeasureMs)
         measure();
+    checkLimits();
     updateTrouble();
     emit figuresChanged();
+}
+
+void Recorder::checkLimits()
+{
+    if (!isRecording())
+        return;
+    if (m_options.stopsByTime && m_carriedMs + m_clock.elapsed() >= m_options.minutes * kMinuteMs)
+        endTaking(End::Time);
+    else if (m_options.stopsBySize && m_carriedBytes + totalSize() >= m_options.mebibytes * kMebibyte)
+        endTaking(End::Size);
 }
 
 void Recorder::measure()
@@ -255,12 +342,15 @@ void Recorder::updateTrouble()
     const int before = m_trouble.kinds();
     m_trouble = {};
     m_trouble.notStarted = m_problem.isOfDisk();
-    if (m_run)
+    if (m_run) {
         m_trouble.dropped = m_run->droppedRecords();
+        m_trouble.sidecarError = m_run->sidecarError();
+    }
     if (const CsvWriter *file = writer()) {
         m_trouble.lost = file->lostRecords();
         m_trouble.fileError = file->fileError();
         m_trouble.vanishedFile = file->vanishedFile();
+        m_trouble.nodesLeftOut = file->nodesLeftOut();
     }
     const qint64 bytes = freeBytes();
     m_trouble.lowSpace = bytes >= 0 && (bytes < kLowBytes || double(bytes) < m_bytesPerSecond * kLowSeconds);

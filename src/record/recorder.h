@@ -5,9 +5,13 @@
 #include <QTimer>
 
 #include <memory>
+#include <optional>
 
 #include "link/node_data.h"
+#include "record/recording_context.h"
+#include "record/recording_options.h"
 #include "record/recording_problem.h"
+#include "record/recording_target.h"
 
 class CsvWriter;
 class RecordingRun;
@@ -15,9 +19,11 @@ class RecordingRun;
 /// Records the samples of a connection into files, one recording after the other.
 ///
 /// A recording takes samples in from start() on, while its file is still being opened, until stop(), until the link
-/// closes, or until it turns out that there can be no file. What was taken in is written, also at the end of this
-/// object. Folder, file and disk are the matter of a thread of its own: nothing here waits for them but waitForFile()
-/// and the destructor, which waits for an open file as long as it takes, for a file to be opened at most ten seconds.
+/// closes, until its options end it, or until it turns out that there can be no file. After a lost link it goes on with
+/// the next one, if the options say so: in another file, with the same name and the limits of before. What was taken in
+/// is written, also at the end of this object. Folder, file and disk are the matter of a thread of its own: nothing
+/// here waits for them but waitForFile() and the destructor, which waits for an open file as long as it takes, for a
+/// file to be opened at most ten seconds.
 ///
 /// Where a recording went is kept in the settings file. Main thread only.
 class Recorder : public QObject
@@ -33,6 +39,15 @@ public:
         Finishing  ///< what was taken in is written, and the file closed
     };
 
+    /// Why a recording ended.
+    enum class End {
+        None, ///< there was none, or it runs
+        Stop, ///< by stop()
+        Link, ///< the link closed
+        Time, ///< the options' time is up
+        Size  ///< its files are as large as the options say
+    };
+
     /// What goes wrong, or went wrong, in the running recording or in the last one.
     struct Trouble
     {
@@ -41,6 +56,8 @@ public:
         QString fileError;        ///< the system's words, while the file cannot be written
         QString vanishedFile;     ///< deleted or moved while it was written
         bool lowSpace = false;    ///< while recording
+        QList<int> nodesLeftOut;  ///< ids of the nodes that have no columns in a file: there are 16
+        QString sidecarError;     ///< path and the system's words, for a file beside the recording
         bool notStarted = false;  ///< there is no file: see problem()
 
         bool any() const { return kinds() != 0; }
@@ -55,10 +72,22 @@ public:
     /// the connection begin anew when it opens.
     void setLinkOpen(bool open);
     bool isLinkOpen() const { return m_isLinkOpen; }
+    /// The link is about to close by a fault, not because somebody wants it: see RecordingOptions::resumes.
+    void expectLoss() { m_isLossExpected = true; }
+    /// What is known of the connection, for the description beside the files.
+    void setContext(const RecordingContext &context);
+
+    const RecordingOptions &options() const { return m_options; }
+    /// Changes the options, also of the running recording, and keeps them in the settings file.
+    void setOptions(const RecordingOptions &options);
+    /// A recording goes on as soon as the link opens.
+    bool isWaitingForLink() const { return m_resumesInto.has_value(); }
 
     /// Starts a recording in a folder, which is made when it is missing, with a name for its files; both as they are
     /// typed. stateChanged() follows, and problem() says why when nothing is recorded. Nothing when one is running.
     void start(const QString &folder, const QString &name);
+    /// Starts with the folder and name of the last recording.
+    void startAgain();
     /// Takes in nothing more. Another recording can be started after recordingChanged(false). Nothing when nothing is
     /// recorded.
     void stop();
@@ -87,8 +116,12 @@ public:
     QString filePath() const;
     /// Of that file, bytes.
     qint64 fileSize() const;
-    /// It was ended by the link, not by stop().
-    bool isEndedByLink() const { return m_isEndedByLink; }
+    /// Of all its files.
+    qint64 totalSize() const;
+    /// How it ended.
+    End end() const { return m_end; }
+    /// Markers of the running recording, or of the last one.
+    unsigned int markerCount() const { return m_markerCount; }
     const Trouble &trouble() const { return m_trouble; }
     bool hasTrouble() const { return m_trouble.any(); }
 
@@ -106,6 +139,9 @@ public:
     unsigned int lostRecords() const;
 
 public slots:
+    /// Marks a place of the running recording: `timeS` is the stream's time in seconds, not a number when it is not
+    /// known. The text is cut at RecordingSidecars::kMaxMarkerText. False when nothing is recorded.
+    bool addMarker(const QString &text, double timeS);
     /// Takes a single module's sample. These return at once when nothing is recorded.
     void imuPackage0x91(const node_data_t &node);
     /// Takes a gateway's batch of full records.
@@ -120,11 +156,17 @@ signals:
     void stateChanged();
     /// A kind of trouble has come or gone.
     void troubleChanged();
+    /// `number` counts the markers of a recording from 1.
+    void markerAdded(unsigned int number, const QString &text, double timeS);
     /// Four times a second from start() until the file is closed: counts, sizes and rates may have changed.
     void figuresChanged();
 
 private:
     const CsvWriter *writer() const;
+    void begin(const recording_target::Target &target);
+    void resume();
+    void endTaking(End end);
+    void checkLimits();
     bool countsRun() const { return m_run && !m_isRunOfLastLink; }
     void setProblem(RecordingProblem::Kind problem);
     void goOn();
@@ -150,7 +192,14 @@ private:
     double m_bytesPerSecond = 0;
 
     bool m_isLinkOpen = false;
-    bool m_isEndedByLink = false;
+    End m_end = End::None;
+    RecordingOptions m_options;
+    RecordingContext m_context;
+    unsigned int m_markerCount = 0;
+    bool m_isLossExpected = false;
+    std::optional<recording_target::Target> m_resumesInto; ///< once the link opens
+    qint64 m_carriedMs = 0;                                ///< length of the parts before, of a resumed recording
+    qint64 m_carriedBytes = 0;
     bool m_isRunOfLastLink = false;      ///< m_run was made in an earlier connection
     unsigned int m_droppedInEarlier = 0; ///< in earlier recordings of this connection
     unsigned int m_lostInEarlier = 0;

@@ -5,14 +5,22 @@
 #include <QFileInfo>
 #include <QThread>
 
+#include <utility>
+
 namespace {
 
-/// A CsvWriter's base path for recordings called `name`: with a running number behind the name when a file with the
+constexpr qsizetype kMaxMarkersWaiting = 512;
+
+/// A CsvWriter's base path for recordings called `name`: with a running number after the name when a file with the
 /// time `now`, or of the second after, is there already.
 QString basePath(const QString &folder, const QString &name, const QDateTime &now)
 {
     QString path = QDir(folder).filePath(name + QLatin1String(".csv"));
-    const auto isTaken = [&](int seconds) { return QFileInfo::exists(CsvWriter::pathOf(path, now.addSecs(seconds))); };
+    const auto isTaken = [&](int seconds) {
+        const QString csv = CsvWriter::pathOf(path, now.addSecs(seconds));
+        return QFileInfo::exists(csv) || QFileInfo::exists(RecordingSidecars::descriptionPath(csv))
+               || QFileInfo::exists(RecordingSidecars::markersPath(csv));
+    };
     for (int number = 2; isTaken(0) || isTaken(1); ++number)
         path = QDir(folder).filePath(QStringLiteral("%1_%2.csv").arg(name).arg(number));
     return path;
@@ -77,6 +85,50 @@ void RecordingRun::askAboutDisk()
         writer->askAboutDisk();
 }
 
+void RecordingRun::setContext(const RecordingContext &context)
+{
+    const QMutexLocker locker(&m_lock);
+    m_context = context;
+    askForSidecars();
+}
+
+bool RecordingRun::addMarker(const RecordingMarker &marker)
+{
+    const QMutexLocker locker(&m_lock);
+    if (m_markers.size() >= kMaxMarkersWaiting)
+        return false;
+    m_markers.append(marker);
+    askForSidecars();
+    return true;
+}
+
+QString RecordingRun::sidecarError() const
+{
+    const QMutexLocker locker(&m_lock);
+    return m_sidecarError;
+}
+
+/// Has them written once the file is open; the lock is held.
+void RecordingRun::askForSidecars()
+{
+    if (CsvWriter *writer = m_openWriter)
+        QMetaObject::invokeMethod(
+            writer, [this] { writeSidecars(); }, Qt::QueuedConnection);
+}
+
+void RecordingRun::writeSidecars()
+{
+    QMutexLocker locker(&m_lock);
+    const RecordingContext context = m_context;
+    const QList<RecordingMarker> markers = std::exchange(m_markers, {});
+    locker.unlock();
+    m_sidecars.setContext(context);
+    for (const RecordingMarker &marker : markers)
+        m_sidecars.addMarker(marker);
+    locker.relock();
+    m_sidecarError = m_sidecars.error();
+}
+
 void RecordingRun::requestStop()
 {
     m_thread->quit();
@@ -99,6 +151,8 @@ void RecordingRun::record(const QString &name)
         QEventLoop().exec(); // until requestStop()
         // After the loop's end but still in the thread: nothing can overtake the last records.
         m_writer->flushPendingAndClose();
+        writeSidecars();
+        m_sidecars.endFile(m_writer->getFrameCtr() - m_recordsBefore, m_writer->nodesLeftOut());
     }
     emit ended();
 }
@@ -124,10 +178,17 @@ bool RecordingRun::open(const QString &name)
         return false;
     }
     connect(m_writer.get(), &CsvWriter::queueOverflow, this, &RecordingRun::overflowed, Qt::DirectConnection);
+    m_writer->whenFileChanges([this](const QString &path, unsigned int records) {
+        m_sidecars.endFile(records - std::exchange(m_recordsBefore, records), m_writer->nodesLeftOut());
+        m_sidecars.beginFile(path);
+    });
+    m_sidecars.beginFile(m_writer->filePath());
+    writeSidecars();
     const QMutexLocker locker(&m_lock);
     for (const CsvWriter::PendingRecord &record : qAsConst(m_waiting))
         enqueue(*m_writer, record);
     m_waiting.clear();
     m_openWriter = m_writer.get();
+    askForSidecars(); // what came in meanwhile
     return true;
 }

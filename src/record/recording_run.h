@@ -9,12 +9,14 @@
 
 #include "record/csv_writer.h"
 #include "record/recording_problem.h"
+#include "record/recording_sidecars.h"
 
 class QThread;
 
-/// One recording: a thread on which the folder is made, the file opened and all records written, and the CsvWriter that
-/// is made there. Records may come from the start on: as many as the writer's queue holds are kept until the file is
-/// open. Made, stopped and destroyed in one thread, which never waits for the disk but in wait() and the destructor.
+/// One recording: a thread on which the folder is made, the file opened and all records written, and the CsvWriter and
+/// the files beside it that are made there. Records may come from the start on: as many as the writer's queue holds are
+/// kept until the file is open. Made, stopped and destroyed in one thread, which never waits for the disk but in wait()
+/// and the destructor.
 class RecordingRun : public QObject
 {
     Q_OBJECT
@@ -32,6 +34,12 @@ public:
     void start();
 
     const QString &folder() const { return m_folder; }
+    /// What is known of the connection now; the file's description follows it.
+    void setContext(const RecordingContext &context);
+    /// Takes a marker; false when more wait for the disk than will ever be typed.
+    bool addMarker(const RecordingMarker &marker);
+    /// Why a file beside the recording could not be written; empty when all could. Any thread.
+    QString sidecarError() const;
     /// Takes a record, in the order of the calls. Any thread.
     void add(CsvWriter::PendingRecord &&record);
     /// Null until the file is open. Any thread, as the next two.
@@ -63,12 +71,19 @@ signals:
 private:
     void record(const QString &name);
     bool open(const QString &name);
+    void askForSidecars();
+    void writeSidecars();
 
     QString m_folder;
     RecordingProblem m_problem;
     std::unique_ptr<CsvWriter> m_writer;
-    QMutex m_lock;                             ///< guards the next one, and the change of the one after
+    RecordingSidecars m_sidecars;              ///< the run's thread
+    unsigned int m_recordsBefore = 0;          ///< in the files before; the run's thread
+    mutable QMutex m_lock;                     ///< guards the four below, and the change of the writer
     QList<CsvWriter::PendingRecord> m_waiting; ///< for the file to be opened
+    RecordingContext m_context;
+    QList<RecordingMarker> m_markers; ///< to be written
+    QString m_sidecarError;
     std::atomic<CsvWriter *> m_openWriter = nullptr;
     std::atomic<unsigned int> m_droppedWaiting = 0;
     std::atomic<bool> m_isFolderCreated = false;

@@ -19,6 +19,7 @@
 #include "link/stream_dispatcher.h"
 #include "record/recorder.h"
 #include "session/link_monitor.h"
+#include "session/recording_describer.h"
 #include "session/stream_router.h"
 
 namespace {
@@ -45,11 +46,11 @@ DeviceSession::DeviceSession(QObject *owner)
     m_retryTimer.setInterval(kRetryMs);
     m_silenceTimer.setInterval(kSilenceCheckMs);
     resolvePreset();
+    new RecordingDescriber(this);
 
     connect(m_port.get(), &KvUartPort::opened, this, &DeviceSession::onOpened);
     connect(m_port.get(), &KvUartPort::kbootRecv, this, &DeviceSession::takePayload);
     connect(m_port.get(), &QSerialPort::errorOccurred, this, &DeviceSession::onError);
-    connect(m_port.get(), &KvUartPort::bootloaderDownloadFinished, this, &DeviceSession::onDownloadFinished);
     connect(m_port.get(), &KvUartPort::bootloaderHeard, this, &DeviceSession::onBootloaderHeard);
     connect(m_dispatcher, &StreamDispatcher::singleNodeFrame, m_recorder, &Recorder::imuPackage0x91);
     connect(m_dispatcher, &StreamDispatcher::gatewayBatch62, m_recorder, &Recorder::imuPackage0x62);
@@ -184,6 +185,7 @@ void DeviceSession::onError(QSerialPort::SerialPortError error)
     if (m_search && m_state == SessionState::Opening && error == QSerialPort::UnsupportedOperationError)
         return tryNextRate(); // an adapter that does not know this rate
     endSearch(false);
+    m_recorder->expectLoss();
     endConnection();
     AppLog::logfile(QtWarningMsg, QStringLiteral("failed to open serial port."));
     emit portFailed(error, m_portName, m_baudRate);
@@ -378,36 +380,6 @@ bool DeviceSession::connectBootloader()
     return connected;
 }
 
-bool DeviceSession::startDownload(const QByteArray &image, int startAddress, int attempts)
-{
-    if (!allows(SessionAction::Download))
-        return false;
-    setState(SessionState::Updating);
-    if (QMetaObject::invokeMethod(m_port.get(), "startDownloadBootloader", Qt::QueuedConnection,
-                                  Q_ARG(QByteArray, image), Q_ARG(int, startAddress), Q_ARG(int, attempts)))
-        return true;
-    setState(SessionState::Bootloader);
-    return false;
-}
-
-bool DeviceSession::stopDownload()
-{
-    return allows(SessionAction::StopDownload)
-           && QMetaObject::invokeMethod(m_port.get(), "cancelBootloader", Qt::QueuedConnection);
-}
-
-void DeviceSession::onDownloadFinished(bool success)
-{
-    if (m_state == SessionState::Updating) {
-        m_bootloaderConnected = false;
-        if (success)
-            leaveBootloader();
-        else
-            setState(SessionState::Bootloader); // it stays in the device, and is sent no text
-    }
-    emit downloadFinished(success);
-}
-
 bool DeviceSession::restartDevice()
 {
     if (!allows(SessionAction::RestartDevice))
@@ -426,7 +398,10 @@ bool DeviceSession::lendLine()
     if (!allows(SessionAction::ConnectBootloader))
         return false;
     endSearch(false);
+    m_wasInBootloader = m_state == SessionState::Bootloader;
+    const bool wasConnected = m_bootloaderConnected;
     enterBootloader();
+    m_bootloaderConnected = wasConnected;
     m_isLineLent = true;
     emit stateChanged();
     return true;
@@ -438,14 +413,16 @@ void DeviceSession::setLineWriting(bool writes)
         setState(writes ? SessionState::Updating : SessionState::Bootloader);
 }
 
-void DeviceSession::returnLine(bool firmwareStarts)
+void DeviceSession::returnLine(LineReturn how)
 {
     if (!std::exchange(m_isLineLent, false))
         return;
-    if (firmwareStarts)
+    if (how == LineReturn::FirmwareStarts || (how == LineReturn::AsBefore && !m_wasInBootloader)) {
         leaveBootloader();
-    else
-        setState(SessionState::Bootloader);
+    } else {
+        m_bootloaderConnected = m_bootloaderConnected && how == LineReturn::AsBefore;
+        setState(SessionState::Bootloader); // it stays in the device, and is sent no text
+    }
     emit stateChanged();
 }
 

@@ -22,6 +22,13 @@ class Recorder;
 class StreamDispatcher;
 class StreamRouter;
 
+/// What a procedure leaves behind that gives the line back.
+enum class LineReturn : quint8 {
+    AsBefore,        ///< it has changed nothing: a bootloader that was connected still is
+    BootloaderStays, ///< the device runs its bootloader, which has to be connected again
+    FirmwareStarts   ///< the device has been reset, and is asked what it is
+};
+
 /// Owns one connection at a time: the port, what decodes and publishes its stream, who the device is, which node is
 /// followed, the commands, the bootloader and the recorder. It has no window; windows, dialogs and scripts are its
 /// clients, and ask it for everything that touches the line.
@@ -64,21 +71,16 @@ public:
     bool tryBaudRates();
     /// Restarts the device into its bootloader. Blocks for up to 4 s.
     bool connectBootloader();
-    /// Starts writing an image; downloadFinished() follows.
-    bool startDownload(const QByteArray &image, int startAddress, int attempts);
-    /// Asks a running download to end; downloadFinished(false) follows.
-    bool stopDownload();
     /// Has the bootloader start the firmware. Blocks for up to 2 s.
     bool restartDevice();
 
     /// Lends the line to a procedure that talks to the bootloader through port() by itself, from a device's restart
     /// into its bootloader on: nothing else is sent, and no payload is parsed, until returnLine(). Refused as
-    /// ConnectBootloader is.
+    /// ConnectBootloader is. The line is lost when the connection ends.
     bool lendLine();
     /// While it writes, nothing may take the line away.
     void setLineWriting(bool writes);
-    /// `firmwareStarts`: the device has been reset, and is asked what it is. Else its bootloader stays.
-    void returnLine(bool firmwareStarts);
+    void returnLine(LineReturn how);
 
     QString portName() const { return m_portName; }
     int baudRate() const { return m_baudRate; }
@@ -140,7 +142,6 @@ signals:
     void sampleReceived(const StreamSample &sample);
     /// All samples of a gateway's batch.
     void batchReceived(const QList<StreamSample> &samples);
-    void downloadFinished(bool success);
     /// A device that was silent runs its bootloader: it has answered a ping, which is all that it was sent.
     void bootloaderFound();
     /// `found`: the port is open at a rate that fits.
@@ -153,7 +154,6 @@ private:
     void onError(QSerialPort::SerialPortError error);
     void onCommandState();
     void onCommandDevice();
-    void onDownloadFinished(bool success);
     void readInfo();
     void endReading(bool answered);
     void takeDevice(const DetectedDevice &device);
@@ -202,6 +202,7 @@ private:
     bool m_commandBusy = false;
     bool m_bootloaderConnected = false;
     bool m_isLineLent = false;
+    bool m_wasInBootloader = false; ///< when the line was lent
     std::optional<BaudSearch> m_search;
 
     DetectedDevice m_device;

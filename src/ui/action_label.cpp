@@ -3,12 +3,23 @@
 #include <QAction>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 
 ActionLabel::ActionLabel(QAction *action, QWidget *parent) : QLabel(parent), m_action(action)
 {
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::PointingHandCursor);
     connect(action, &QAction::changed, this, [this] { setToolTip(m_action->toolTip()); });
+}
+
+void ActionLabel::paintEvent(QPaintEvent *event)
+{
+    QLabel::paintEvent(event);
+    if (!hasFocus())
+        return;
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Highlight));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 void ActionLabel::mouseReleaseEvent(QMouseEvent *event)

@@ -15,6 +15,7 @@ public:
     explicit ActionLabel(QAction *action, QWidget *parent = nullptr);
 
 protected:
+    void paintEvent(QPaintEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 

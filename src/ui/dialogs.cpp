@@ -1,8 +1,10 @@
 #include "ui/dialogs.h"
 
+#include <QDir>
 #include <QMessageBox>
 #include <QPushButton>
 
+#include "app/sentences.h"
 #include "app/window_host.h"
 #include "session/device_session.h"
 #include "ui/form_about.h"
@@ -12,8 +14,13 @@
 #include "ui/form_settings.h"
 #include "ui/serial_error_text.h"
 #include "updater/form_updater.h"
+#include "updater/update_note.h"
+#include "updater/verdict_text.h"
 
-Dialogs::Dialogs(DeviceSession *session, QWidget *window) : QObject(window), m_session(session), m_window(window) {}
+Dialogs::Dialogs(DeviceSession *session, QWidget *window) : QObject(window), m_session(session), m_window(window)
+{
+    connect(session, &DeviceSession::bootloaderFound, this, &Dialogs::openForFoundBootloader);
+}
 
 void Dialogs::openPortChoice()
 {
@@ -41,9 +48,31 @@ void Dialogs::openRecording()
 
 void Dialogs::openUpdate()
 {
-    if (m_updater == nullptr)
+    if (m_updater == nullptr) {
         m_updater = new form_updater(m_session, m_window);
+        connect(m_updater, &form_updater::restartWanted, this, &Dialogs::restartWanted);
+    }
+    m_question.withdraw();
     WindowHost::bringUp(m_updater);
+}
+
+void Dialogs::openForFoundBootloader()
+{
+    openUpdate();
+    m_updater->sayBootloaderFound();
+}
+
+void Dialogs::remindOfUpdate()
+{
+    const std::optional<UpdateNote> note = UpdateNote::read(QDir::currentPath());
+    if (!note || note->baudRate < 1 || note->port.isEmpty())
+        return;
+    m_question.ask(
+        m_window,
+        joinSentences({verdict_text::interrupted(*note),
+                       tr("The device may wait in its bootloader for the rest. Plug it in, then connect to it.")}),
+        tr("Connect"), tr("Later"),
+        [this, port = note->port, baudRate = note->baudRate] { emit portChosen(port, baudRate); });
 }
 
 void Dialogs::openLinkHealth()
@@ -86,6 +115,7 @@ void Dialogs::refuseQuit()
 
 void Dialogs::closeAll()
 {
+    m_question.withdraw();
     for (QDialog *dialog :
          {static_cast<QDialog *>(m_port), static_cast<QDialog *>(m_settings), static_cast<QDialog *>(m_updater),
           static_cast<QDialog *>(m_record), static_cast<QDialog *>(m_about), static_cast<QDialog *>(m_linkHealth)}) {

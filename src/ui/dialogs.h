@@ -4,6 +4,8 @@
 #include <QPointer>
 #include <QSerialPort>
 
+#include "app/question_box.h"
+
 class DeviceSession;
 class QMessageBox;
 class QWidget;
@@ -30,6 +32,8 @@ public:
     void openSettings();
     void openRecording();
     void openUpdate();
+    /// Asks whether to go on with an update that has not come to its end, if there is one.
+    void remindOfUpdate();
     void openLinkHealth();
     void openAbout();
     /// Says that the port could not be opened, or was lost, and what to do. There is one such message at a time.
@@ -41,8 +45,12 @@ public:
 
 signals:
     void portChosen(const QString &portName, int baudRate);
+    /// The program is to end and to start again.
+    void restartWanted();
 
 private:
+    void openForFoundBootloader();
+
     DeviceSession *m_session;
     QWidget *m_window;
     form_com_select *m_port = nullptr;
@@ -52,4 +60,5 @@ private:
     form_link_health *m_linkHealth = nullptr;
     form_about *m_about = nullptr;
     QPointer<QMessageBox> m_error;
+    QuestionBox m_question;
 };

@@ -5,6 +5,7 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSettings>
 #include <QThread>
 
@@ -26,6 +27,7 @@
 #include "ui/language_menu.h"
 #include "ui/main_actions.h"
 #include "ui/node_card.h"
+#include "ui/recording_actions.h"
 #include "ui/recording_badge.h"
 #include "ui/sensor_data_panel.h"
 #include "ui/status_line.h"
@@ -60,6 +62,7 @@ form_base::form_base(QWidget *parent) : QMainWindow(parent), m_ui(std::make_uniq
     WindowHost::attach(this, settings_keys::kGeometry);
     retranslate();
     enable_all_page(false);
+    QMetaObject::invokeMethod(m_dialogs, &Dialogs::remindOfUpdate, Qt::QueuedConnection);
 }
 
 form_base::~form_base()
@@ -92,6 +95,13 @@ void form_base::setUpWidgets()
     m_ui->sensorDataScrollArea->setWidget(m_panel);
     m_ui->sensorDataScrollArea->viewport()->setAutoFillBackground(false);
     m_panel->setAutoFillBackground(false);
+    const auto takeKeys = [area = m_ui->sensorDataScrollArea] {
+        const bool scrolls = area->verticalScrollBar()->maximum() > 0 || area->horizontalScrollBar()->maximum() > 0;
+        area->setFocusPolicy(scrolls ? Qt::StrongFocus : Qt::NoFocus);
+    };
+    for (const QScrollBar *bar :
+         {m_ui->sensorDataScrollArea->verticalScrollBar(), m_ui->sensorDataScrollArea->horizontalScrollBar()})
+        connect(bar, &QScrollBar::rangeChanged, this, takeKeys);
 
     DeviceSession *session = m_session.get();
     m_connectionCard = new ConnectionCard(session, this);
@@ -99,10 +109,12 @@ void form_base::setUpWidgets()
     m_nodeCard = new NodeCard(session, this);
     m_attitudeCard = new AttitudeCard(session, this);
     for (QWidget *card : std::initializer_list<QWidget *>{m_connectionCard, m_deviceCard, m_nodeCard})
-        m_ui->layout_left->addWidget(card);
+        m_ui->layout_left->addWidget(card, card == m_nodeCard ? 1 : 0);
+    m_ui->scroll_left->setNodeCard(m_nodeCard);
     m_ui->layout_right->addWidget(m_attitudeCard);
 
     m_statusLine = new StatusLine(session, m_ui->statusbar, m_ui->action_link_health, this);
+    m_recordingActions = new RecordingActions(session, m_ui->action_record_now, m_ui->action_set_marker, this);
     m_recordingBadge = new RecordingBadge(&session->recorder(), this);
     m_ui->statusbar->insertPermanentWidget(1, m_recordingBadge);
 
@@ -121,19 +133,20 @@ void form_base::setUpConnections()
     });
     connect(m_ui->action_link_health, &QAction::triggered, m_dialogs, &Dialogs::openLinkHealth);
     connect(m_dialogs, &Dialogs::portChosen, this, &form_base::open_port);
+    connect(m_dialogs, &Dialogs::restartWanted, this, [this] { m_wantsRestart = close(); });
     connect(m_ui->action_quit, &QAction::triggered, this, &form_base::close);
     connect(m_ui->button_open, &QPushButton::clicked, m_ui->action_serial_open, &QAction::trigger);
     connect(m_actions->sensorDashboard(), &QAction::triggered, this, &form_base::on_action_sensor_dashboard_triggered);
     connect(m_actions->gatewayDashboard(), &QAction::triggered, this,
             &form_base::on_action_wireless_gateway_dashboard_triggered);
+    connect(m_recordingActions, &RecordingActions::said, m_statusLine, &StatusLine::say);
+    connect(m_recordingActions, &RecordingActions::refused, m_dialogs, &Dialogs::openRecording);
     connect(m_recordingBadge, &QToolButton::clicked, m_ui->action_export_data, &QAction::trigger);
     connect(m_session.get(), &DeviceSession::stateChanged, this, &form_base::onSessionState);
     connect(m_session.get(), &DeviceSession::portFailed, this, &form_base::onSerialError);
     connect(m_session.get(), &DeviceSession::deviceChanged, this, &form_base::showSummary);
     connect(m_session.get(), &DeviceSession::presetChanged, this, &form_base::refresh_selected_node_views);
-    connect(m_session.get(), &DeviceSession::sampleReceived, this, [this](const StreamSample &sample) {
-        m_panel->appendSample(sample.hostMs, sample.snapshot.sample, sample.fields);
-    });
+    connect(m_session.get(), &DeviceSession::sampleReceived, m_panel, &SensorDataPanel::appendSample);
     connect(m_session.get(), &DeviceSession::streamRestarted, this, [this](const StreamRestart &restart) {
         if (emptiesViews(restart.kind))
             m_panel->clear();
@@ -321,6 +334,7 @@ void form_base::retranslate()
     m_panel->retranslate();
     m_statusLine->retranslate();
     m_actions->retranslate();
+    m_recordingActions->retranslate();
 }
 
 void form_base::changeEvent(QEvent *event)

@@ -17,6 +17,7 @@ class KvUartPort;
 class LanguageMenu;
 class MainActions;
 class NodeCard;
+class RecordingActions;
 class RecordingBadge;
 class SensorDataPanel;
 class StatusLine;
@@ -46,6 +47,8 @@ public:
     static OrientationPreset resolveOrientationPreset(const DetectedDevice &device);
 
     DeviceSession &session() const { return *m_session; }
+    /// The user has ended the program so that it starts again.
+    bool wantsRestart() const { return m_wantsRestart; }
     /// The link, for those who count what passes through the program.
     const KvUartPort &port() const;
 
@@ -98,6 +101,7 @@ private:
     std::unique_ptr<DeviceSession> m_session;
     QTimer m_uiTimer;
     bool m_isShowingConnection = false;
+    bool m_wantsRestart = false;
     bool m_isNumbersTurn = false; ///< numbers and attitude are refreshed by every second tick
 
     SensorDataPanel *m_panel = nullptr;
@@ -106,6 +110,7 @@ private:
     NodeCard *m_nodeCard = nullptr;
     AttitudeCard *m_attitudeCard = nullptr;
     StatusLine *m_statusLine = nullptr;
+    RecordingActions *m_recordingActions = nullptr;
     RecordingBadge *m_recordingBadge = nullptr;
     LanguageMenu *m_languageMenu = nullptr;
     MainActions *m_actions = nullptr;

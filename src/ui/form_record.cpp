@@ -1,5 +1,6 @@
 #include "ui/form_record.h"
 
+#include <QCheckBox>
 #include <QDesktopServices>
 #include <QDir>
 #include <QEvent>
@@ -17,6 +18,7 @@
 #include "record/recorder.h"
 #include "record/recording_target.h"
 #include "ui/device_text.h"
+#include "ui/fit_height.h"
 #include "ui/recording_text.h"
 #include "ui_form_record.h"
 
@@ -36,6 +38,16 @@ form_record::form_record(Recorder *recorder, QWidget *parent)
     const auto [folder, name] = recording_target::remembered();
     m_ui->LE_folder->setText(QDir::toNativeSeparators(folder));
     m_ui->LE_name->setText(name);
+
+    m_ui->SB_minutes->setMaximum(RecordingOptions::kMaxMinutes);
+    m_ui->SB_mebibytes->setMaximum(RecordingOptions::kMaxMebibytes);
+    showOptions();
+    for (const QCheckBox *box : {m_ui->CHK_time, m_ui->CHK_size, m_ui->CHK_resume})
+        connect(box, &QCheckBox::toggled, this, &form_record::takeOptions);
+    for (QSpinBox *box : {m_ui->SB_minutes, m_ui->SB_mebibytes}) {
+        box->setKeyboardTracking(false); // a limit that is half typed would end a recording
+        connect(box, &QSpinBox::valueChanged, this, &form_record::takeOptions);
+    }
 
     m_patience.setSingleShot(true);
     m_patience.setInterval(kPatienceMs);
@@ -89,7 +101,7 @@ void form_record::changeEvent(QEvent *event)
 
 void form_record::on_BTN_record_clicked()
 {
-    if (m_recorder->isRecording())
+    if (m_recorder->isRecording() || m_recorder->isWaitingForLink())
         m_recorder->stop();
     else
         m_recorder->start(m_ui->LE_folder->text(), m_ui->LE_name->text());
@@ -132,6 +144,26 @@ void form_record::takeInput()
     m_recorder->clearProblem();
     askDisk();
     updateState();
+}
+
+void form_record::showOptions()
+{
+    const RecordingOptions &options = m_recorder->options();
+    m_ui->CHK_time->setChecked(options.stopsByTime);
+    m_ui->SB_minutes->setValue(options.minutes);
+    m_ui->SB_minutes->setEnabled(options.stopsByTime);
+    m_ui->CHK_size->setChecked(options.stopsBySize);
+    m_ui->SB_mebibytes->setValue(options.mebibytes);
+    m_ui->SB_mebibytes->setEnabled(options.stopsBySize);
+    m_ui->CHK_resume->setChecked(options.resumes);
+}
+
+void form_record::takeOptions()
+{
+    m_ui->SB_minutes->setEnabled(m_ui->CHK_time->isChecked());
+    m_ui->SB_mebibytes->setEnabled(m_ui->CHK_size->isChecked());
+    m_recorder->setOptions({m_ui->CHK_time->isChecked(), m_ui->SB_minutes->value(), m_ui->CHK_size->isChecked(),
+                            m_ui->SB_mebibytes->value(), m_ui->CHK_resume->isChecked()});
 }
 
 void form_record::askDisk()
@@ -187,30 +219,45 @@ QString form_record::stateText() const
     case Recorder::State::Idle:
         break;
     }
-    if (m_recorder->isEndedByLink())
+    if (m_recorder->isWaitingForLink())
+        return tr("Waiting for the connection to come back");
+    switch (m_recorder->end()) {
+    case Recorder::End::Link:
         return tr("Recording ended: the port was closed");
+    case Recorder::End::Time:
+        return tr("Recording ended: the time is up");
+    case Recorder::End::Size:
+        return tr("Recording ended: the size is reached");
+    case Recorder::End::None:
+    case Recorder::End::Stop:
+        break;
+    }
     return m_recorder->hasRun() ? tr("Recording stopped") : tr("Not recording");
 }
 
 void form_record::updateState()
 {
     const bool isRecording = m_recorder->isRecording();
+    const bool canStop = isRecording || m_recorder->isWaitingForLink();
     updateFields();
-    const QString blocked = isRecording ? QString() : blockedReason();
-    m_ui->BTN_record->setText(isRecording ? tr("&Stop recording") : tr("&Start recording"));
+    const QString blocked = canStop ? QString() : blockedReason();
+    m_ui->BTN_record->setText(canStop ? tr("&Stop recording") : tr("&Start recording"));
     m_ui->BTN_record->setEnabled(blocked.isEmpty());
-    const QString what = isRecording ? tr("Writes what has arrived and closes the file")
-                                     : tr("Writes every sample that arrives into a file");
+    const QString what = canStop ? tr("Writes what has arrived and closes the file")
+                                 : tr("Writes every sample that arrives into a file");
     m_ui->BTN_record->setToolTip(device_text::plainToolTip(blocked.isEmpty() ? what : blocked));
-    m_ui->BTN_record->setDefault(!isRecording); // a stray Enter must not end a recording
+    m_ui->BTN_record->setDefault(!canStop); // a stray Enter must not end a recording
 
     m_isWriting = false;
     m_ui->LBL_dot->setEnabled(isRecording);
     m_ui->LBL_state->setText(stateText());
     if (isRecording)
         m_ui->LBL_hint->setText(tr("Recording goes on when this window is closed."));
+    else if (m_recorder->isWaitingForLink())
+        m_ui->LBL_hint->setText(tr("Open the port again to go on."));
     else // the state may say as much
-        m_ui->LBL_hint->setText(m_recorder->isLinkOpen() || m_recorder->isEndedByLink() ? QString() : blocked);
+        m_ui->LBL_hint->setText(m_recorder->isLinkOpen() || m_recorder->end() == Recorder::End::Link ? QString()
+                                                                                                     : blocked);
 
     const QFont figures = theme::fixedPitchFont(font().pointSizeF());
     for (QLabel *label : {m_ui->LBL_elapsed, m_ui->LBL_records, m_ui->LBL_rate, m_ui->LBL_size, m_ui->LBL_space})

@@ -41,6 +41,8 @@ private:
     QString typedFolder() const;
     QString typedName() const;
     void takeInput();
+    void showOptions();
+    void takeOptions();
     void askDisk();
     void takeFacts(const FolderFacts &facts);
     void showFolder(const FolderFacts &facts);

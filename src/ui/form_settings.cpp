@@ -14,8 +14,10 @@
 #include "app/theme.h"
 #include "app/window_host.h"
 #include "device/command_session.h"
+#include "link/kv_uart_port.h"
 #include "session/device_session.h"
 #include "ui/device_text.h"
+#include "ui/fit_height.h"
 #include "ui/session_text.h"
 #include "ui_form_settings.h"
 
@@ -25,9 +27,10 @@ constexpr int kLogLines = 500;
 constexpr int kHotkeysPerRow = 4;
 constexpr int kModulePage = 0;
 constexpr int kCommandsPage = 1;
+constexpr double kFullRecordPacketBytes = 82; ///< until packets have come
 
-/// What a product's editors show before the user has chosen, for the device does not tell its settings: the mode
-/// selector's entry behind modes 0 and 1, which writes none; no rate; the id editor's value below 0.
+/// What a product's editors show while neither the device nor the user has said anything: the mode selector's entry
+/// after modes 0 and 1, which writes none; no rate; the id editor's value below 0.
 constexpr SettingsSaveRequest kNothingChosen{2, 0, -1};
 
 /// One button of the command page.
@@ -71,6 +74,23 @@ void showText(QLabel *label, const QString &text)
     label->setToolTip(device_text::plainToolTip(text)); // it may be too long for the window
 }
 
+SettingsSaveRequest toRequest(const DeviceSettings &answered)
+{
+    return {answered.attitudeMode.value_or(kNothingChosen.attitudeMode),
+            answered.outputRateHz.value_or(kNothingChosen.outputRateHz),
+            answered.nodeId.value_or(kNothingChosen.nodeId)};
+}
+
+/// Gives a label the look of its role.
+void setRole(QLabel *label, const char *role)
+{
+    if (label->property("role").toString() == QLatin1String(role))
+        return;
+    label->setProperty("role", QLatin1String(role));
+    label->style()->unpolish(label);
+    label->style()->polish(label);
+}
+
 /// A save writes the rate of one dialect only, although the other has a list of rates as well.
 bool writesOutputRate(const ProductProfile &profile)
 {
@@ -95,7 +115,13 @@ form_settings::form_settings(DeviceSession *session, QWidget *parent)
     // The log shows its end, also when its window shrinks.
     QScrollBar *bar = m_ui->PTE_log->verticalScrollBar();
     connect(bar, &QScrollBar::rangeChanged, bar, [bar](int, int maximum) { bar->setValue(maximum); });
-    connect(m_session, &DeviceSession::stateChanged, this, &form_settings::updateState);
+    connect(m_session, &DeviceSession::stateChanged, this, [this] {
+        if (!m_session->isOpen() && m_shownKey != ProductKey::None) {
+            m_question.withdraw();
+            showDevice();
+        }
+        updateState();
+    });
     connect(m_session, &DeviceSession::stateChanged, this, &form_settings::finishClosing);
     connect(m_commands, &CommandSession::deviceChanged, this, &form_settings::showDevice);
     connect(m_commands, &CommandSession::logLine, m_ui->PTE_log, &QPlainTextEdit::appendPlainText);
@@ -112,6 +138,14 @@ form_settings::~form_settings() = default;
 QStringList form_settings::get_prod_info()
 {
     return m_session->allows(SessionAction::Identify) ? m_commands->readInfo() : QStringList();
+}
+
+bool form_settings::event(QEvent *event)
+{
+    const bool handled = QDialog::event(event);
+    if (event->type() == QEvent::LayoutRequest)
+        fitHeight(this);
+    return handled;
 }
 
 void form_settings::showEvent(QShowEvent *event)
@@ -150,7 +184,16 @@ void form_settings::on_BTN_identify_clicked()
 
 void form_settings::on_BTN_save_clicked()
 {
-    if (saveProblem().isEmpty())
+    const QString problem = rateProblem();
+    if (problem.isEmpty())
+        save();
+    else
+        m_question.ask(this, problem, tr("Save all the same"), tr("Cancel"), [this] { save(); });
+}
+
+void form_settings::save()
+{
+    if (blockedReason().isEmpty() && saveProblem().isEmpty())
         m_commands->save(request());
 }
 
@@ -189,16 +232,32 @@ void form_settings::showDevice()
     showText(m_ui->LBL_build, device_text::withoutKeyword(device.buildLine, QLatin1String("build")));
     showText(m_ui->LBL_uuid, device_text::withoutKeyword(device.uuidLine, QLatin1String("UUID")));
 
-    showEditors(profile);
     for (qsizetype i = 0; i < m_hotkeyButtons.size(); ++i) {
         m_hotkeyButtons[i]->setText(tr(kHotkeys[i].text));
         m_hotkeyButtons[i]->setVisible(kHotkeys[i].firstGroup <= profile.hotkeyGroup);
     }
+    // A device that does not answer keeps its settings on the screen, and what was typed into them.
+    if (!device.valid && m_session->isOpen() && m_shownKey != ProductKey::None) {
+        showEditors(shownProfile());
+        updateState();
+        return;
+    }
+    m_answered = DeviceSettings::fromInfo(device.infoLines);
     m_ui->TAB_pages->setTabVisible(kModulePage, profile.showFirstSettingsTab);
     if (!profile.showFirstSettingsTab || profile.key != m_shownKey)
         m_ui->TAB_pages->setCurrentIndex(profile.showFirstSettingsTab ? kModulePage : kCommandsPage);
     m_shownKey = profile.key;
+    if (const auto choice = m_choices.constFind(m_shownKey);
+        choice != m_choices.constEnd() && m_answered != DeviceSettings() && m_answered != choice->answered)
+        m_choices.erase(choice); // it was saved, or this is another device
+    showEditors(profile);
     updateState();
+}
+
+/// The product that the editors are of.
+const ProductProfile &form_settings::shownProfile() const
+{
+    return product_profile::profile(m_shownKey);
 }
 
 void form_settings::showEditors(const ProductProfile &profile)
@@ -211,27 +270,27 @@ void form_settings::showEditors(const ProductProfile &profile)
     m_ui->CB_mode->setVisible(profile.supportsAttitudeMode);
     m_ui->LBL_noSettings->setVisible(!profile.supportsNodeId && !profile.supportsOutputRate
                                      && !profile.supportsAttitudeMode);
-
-    const bool rateIsFixed = profile.supportsOutputRate && !writesOutputRate(profile);
-    const QString rateText = rateIsFixed ? tr("Saving does not change the rate of this device.") : QString();
-    m_ui->CB_rate->setEnabled(!rateIsFixed);
-    m_ui->CB_rate->setToolTip(rateText);
-    m_ui->LBL_rateHint->setText(rateText);
+    m_ui->CB_rate->setEnabled(writesOutputRate(profile));
 
     const QSignalBlocker quietId(m_ui->SB_id);
     const QSignalBlocker quietRate(m_ui->CB_rate);
     const QSignalBlocker quietMode(m_ui->CB_mode);
     m_ui->CB_rate->clear();
     m_ui->CB_rate->addItems(profile.outputRates);
-    const SettingsSaveRequest choice = m_choices.value(profile.key, kNothingChosen);
-    m_ui->SB_id->setValue(choice.nodeId);
-    m_ui->CB_rate->setCurrentIndex(m_ui->CB_rate->findText(QString::number(choice.outputRateHz)));
-    m_ui->CB_mode->setCurrentIndex(choice.attitudeMode);
+    const auto choice = m_choices.constFind(profile.key);
+    showRequest(choice != m_choices.constEnd() ? choice->request : toRequest(m_answered));
+}
+
+void form_settings::showRequest(const SettingsSaveRequest &request)
+{
+    m_ui->SB_id->setValue(request.nodeId);
+    m_ui->CB_rate->setCurrentIndex(m_ui->CB_rate->findText(QString::number(request.outputRateHz)));
+    m_ui->CB_mode->setCurrentIndex(request.attitudeMode);
 }
 
 void form_settings::storeChoice()
 {
-    m_choices.insert(m_commands->profile().key, request());
+    m_choices.insert(m_shownKey, {request(), m_answered});
     updateState();
 }
 
@@ -259,8 +318,12 @@ QString form_settings::outcomeText() const
     const QString commands = m_outcome.commands.join(QLatin1String(", "));
     switch (m_outcome.kind) {
     case CommandSession::Outcome::NoReply:
+        if (m_session->isStreaming()) // the baud rate is right
+            return tr("The device does not answer, although its data arrive. Identify it again.");
         return tr("The device does not answer. Check the baud rate, then identify it again.");
     case CommandSession::Outcome::Noise:
+        if (m_session->isStreaming())
+            return tr("The answer was damaged on the line. Identify the device again.");
         return tr("What the device sends is no text. The baud rate may be wrong.");
     case CommandSession::Outcome::Refused:
         if (m_outcome.isOneOf)
@@ -287,16 +350,40 @@ QString form_settings::saveProblem() const
     return {};
 }
 
+/// Why the line cannot carry what the device would send at the chosen rate; empty when it can.
+QString form_settings::rateProblem() const
+{
+    if (!m_session->isOpen() || !writesOutputRate(shownProfile()))
+        return {};
+    const LinkHealth health = m_session->port().health();
+    const double packetBytes =
+        health.dataPackets > 0 ? double(health.dataBytes) / double(health.dataPackets) : kFullRecordPacketBytes;
+    const int rate = request().outputRateHz;
+    const int load = lineLoadPercent(rate, packetBytes, m_session->baudRate());
+    if (load <= 100)
+        return {};
+    return tr("%1 Hz takes %2 % of what this line carries at %3 baud: samples get lost.")
+        .arg(rate)
+        .arg(load)
+        .arg(m_session->baudRate());
+}
+
 void form_settings::updateState()
 {
+    const ProductProfile &edited = shownProfile();
+    const bool rateIsFixed = edited.supportsOutputRate && !writesOutputRate(edited);
+    const QString rateText = rateIsFixed ? tr("Saving does not change the rate of this device.") : rateProblem();
+    m_ui->CB_rate->setToolTip(rateText);
+    m_ui->LBL_rateHint->setText(rateText);
+    m_ui->LBL_rateHint->setVisible(!rateText.isEmpty());
+    setRole(m_ui->LBL_rateHint, rateIsFixed || rateText.isEmpty() ? "secondary" : "warning");
+
     const QString blocked = blockedReason();
     const bool isProblem =
         m_outcome.kind != CommandSession::Outcome::Nothing && m_outcome.kind != CommandSession::Outcome::Saved;
     const bool warn = !m_session->isOpen() || (blocked.isEmpty() && isProblem);
     m_ui->LBL_status->setText(blocked.isEmpty() ? outcomeText() : blocked);
-    m_ui->LBL_status->setProperty("role", warn ? QStringLiteral("warning") : QStringLiteral("secondary"));
-    m_ui->LBL_status->style()->unpolish(m_ui->LBL_status);
-    m_ui->LBL_status->style()->polish(m_ui->LBL_status);
+    setRole(m_ui->LBL_status, warn ? "warning" : "secondary");
 
     // A button that has the focus loses it while its command runs.
     if (!blocked.isEmpty() && m_focusBefore == nullptr)

@@ -7,7 +7,9 @@
 
 #include <memory>
 
+#include "app/question_box.h"
 #include "device/command_session.h"
+#include "device/device_settings.h"
 #include "device/product_resolver.h"
 #include "device/settings_command_adapter.h"
 
@@ -21,6 +23,9 @@ class form_settings;
 
 /// Settings of the connected device: what it is, its node id, output rate and attitude mode, and one-click commands
 /// with a log of what was sent and what came back. It also identifies the device for the main window, visible or not.
+///
+/// The settings start with what the device has answered. What the user types stays, also while the device does not
+/// answer, until the device answers other settings than before.
 ///
 /// Commands wait for their replies in nested event loops. Until one has ended every other is refused and all that sends
 /// is disabled; the port, this window and the program may be closed meanwhile. What a connection answered after it was
@@ -47,6 +52,7 @@ signals:
     void settingsClosed();
 
 protected:
+    bool event(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     void changeEvent(QEvent *event) override;
@@ -57,6 +63,13 @@ private slots:
     void on_BTN_copy_clicked();
 
 private:
+    /// What the user has typed for a product.
+    struct Choice
+    {
+        SettingsSaveRequest request;
+        DeviceSettings answered; ///< by the device before it was typed
+    };
+
     void createHotkeys();
     void showDevice();
     void showEditors(const ProductProfile &profile);
@@ -67,15 +80,21 @@ private:
     QString blockedReason() const;
     QString outcomeText() const;
     QString saveProblem() const;
+    QString rateProblem() const;
+    const ProductProfile &shownProfile() const;
     SettingsSaveRequest request() const;
+    void showRequest(const SettingsSaveRequest &request);
+    void save();
 
     std::unique_ptr<Ui::form_settings> m_ui;
     DeviceSession *m_session;
-    CommandSession *m_commands;                       ///< the session's
-    QList<QPushButton *> m_hotkeyButtons;             ///< one per row of the hotkey table
-    QHash<ProductKey, SettingsSaveRequest> m_choices; ///< what the user chose last, for as long as the program runs
-    ProductKey m_shownKey = ProductKey::None;
+    CommandSession *m_commands;               ///< the session's
+    QList<QPushButton *> m_hotkeyButtons;     ///< one per row of the hotkey table
+    QHash<ProductKey, Choice> m_choices;      ///< for as long as the program runs
+    ProductKey m_shownKey = ProductKey::None; ///< of the editors, while the connection lasts
+    DeviceSettings m_answered;                ///< by the device that the editors are of
+    QuestionBox m_question;
     QPointer<QWidget> m_focusBefore; ///< had the focus when sending was last blocked
     CommandOutcome m_outcome;        ///< of the last operation
-    bool m_closePending = false;     ///< settingsClosed() is still to be told
+    bool m_closePending = false;     ///< settingsClosed() is still to be emitted
 };

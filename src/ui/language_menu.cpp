@@ -13,6 +13,8 @@ LanguageMenu::LanguageMenu(QWidget *parent)
     setObjectName(QStringLiteral("menu_language"));
     m_button->setObjectName(QStringLiteral("button_language"));
     m_button->setAutoRaise(true);
+    m_button->setStyleSheet(
+        QStringLiteral("QToolButton:focus { border-bottom: 2px solid palette(highlight); padding-bottom: 2px; }"));
     for (const AppLanguageSpec &language : AppLanguageManager::instance().languages()) {
         QAction *action = addAction(language.displayName);
         action->setObjectName(QStringLiteral("action_language_") + language.setting);

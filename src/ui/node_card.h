@@ -27,13 +27,25 @@ public:
     void refresh();
     void focusList();
 
+    /// The height in pixels below which a list that scrolls is of no use.
+    int leastHeight() const;
+    /// The list scrolls by itself when it is low; else it has room for all nodes.
+    void setListScrolls(bool scrolls);
+
+signals:
+    /// The current node is at `place` of this card: to be brought into view by what scrolls the card.
+    void currentShown(const QRect &place);
+
 protected:
     void changeEvent(QEvent *event) override;
 
 private:
     void showNodes(const QList<quint8> &ids);
+    int listHeight(int rows) const;
+    void sizeList();
 
     std::unique_ptr<Ui::NodeCard> m_ui;
     DeviceSession *m_session;
     QList<quint8> m_shown;
+    bool m_listScrolls = true;
 };

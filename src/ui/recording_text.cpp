@@ -4,6 +4,8 @@
 #include <QDir>
 #include <QLocale>
 
+#include <algorithm>
+
 #include "app/value_format.h"
 #include "record/recording_target.h"
 #include "ui/device_text.h"
@@ -11,12 +13,23 @@
 namespace {
 
 constexpr qsizetype kShownPathLength = 240;
+constexpr qsizetype kShownNodes = 12;
 constexpr double kManyHours = 99;
 
 struct Text
 {
     Q_DECLARE_TR_FUNCTIONS(form_record)
 };
+
+QString nodeList(const QList<int> &ids)
+{
+    QStringList texts;
+    for (const int id : ids.first(std::min<qsizetype>(ids.size(), kShownNodes)))
+        texts += QString::number(id);
+    if (ids.size() > kShownNodes)
+        texts += QString(QChar(0x2026));
+    return texts.join(QLatin1String(", "));
+}
 
 QString problemText(const RecordingProblem &problem)
 {
@@ -71,6 +84,10 @@ QStringList recording_text::notices(const RecordingProblem &problem, const Recor
     if (!trouble.vanishedFile.isEmpty())
         lines += Text::tr("%1 has been deleted or moved. Stop and start again to record into a new file.")
                      .arg(shownPath(trouble.vanishedFile));
+    if (!trouble.nodesLeftOut.isEmpty())
+        lines += Text::tr("A file holds 16 nodes. Not recorded: %1").arg(nodeList(trouble.nodesLeftOut));
+    if (!trouble.sidecarError.isEmpty())
+        lines += Text::tr("A file beside the recording cannot be written: %1").arg(shownPath(trouble.sidecarError));
     if (trouble.lowSpace)
         lines += Text::tr("The disk is nearly full.");
     return lines;

@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 
 #include <cmath>
+#include <tuple>
 
 #include "app/theme.h"
 #include "app/value_format.h"
@@ -83,22 +84,30 @@ void SensorDataPanel::retranslate()
     m_angularRate->setTitle(tr("Angular velocity"), QStringLiteral("\u00B0/s"));
     m_magneticField->setTitle(tr("Magnetic field"), QStringLiteral("\u00B5T"));
     m_quaternion->setTitle(tr("Quaternion"), QString());
+    m_summary->setAccessibleName(tr("Node"));
     m_summary->setCells({{tr("Node"), QString(), theme::kText, 3},
                          {tr("Device time"), QString(), theme::kText, 12},
                          {tr("Temperature"), QStringLiteral("\u00B0C"), theme::kText, 6},
                          {tr("Pressure"), QStringLiteral("Pa"), theme::kText, 8}});
 }
 
-void SensorDataPanel::appendSample(qint64 nowMs, const node_data_t &node, SampleFields fields)
+void SensorDataPanel::appendSample(const StreamSample &sample)
 {
-    if (fields.testFlag(SampleField::Acceleration))
-        m_acceleration->appendTrace(nowMs, node.acc);
-    if (fields.testFlag(SampleField::AngularRate))
-        m_angularRate->appendTrace(nowMs, node.gyr);
-    if (fields.testFlag(SampleField::MagneticField))
-        m_magneticField->appendTrace(nowMs, node.mag);
-    if (fields.testFlag(SampleField::Quaternion))
-        m_quaternion->appendTrace(nowMs, node.quat);
+    const node_data_t &node = sample.snapshot.sample;
+    const SampleGaps::Step step = m_gaps.add(sample.deviceMs, sample.hostMs);
+    // A shorter gap is less than a trace can show.
+    const bool isGap = step.missing > 0 && step.gapMs > TraceBuffer::kBucketMs;
+    const bool isBroken = isGap || sample.brokenBy != StreamBreak::None;
+    const qint64 nowMs = m_clock.place(node.time_ms, sample.hostMs);
+    const std::tuple<SampleField, ValueCard *, std::span<const float>> quantities[] = {
+        {SampleField::Acceleration, m_acceleration, node.acc},
+        {SampleField::AngularRate, m_angularRate, node.gyr},
+        {SampleField::MagneticField, m_magneticField, node.mag},
+        {SampleField::Quaternion, m_quaternion, node.quat}};
+    for (const auto &[field, card, values] : quantities) {
+        if (sample.fields.testFlag(field))
+            card->appendTrace(nowMs, values, isBroken);
+    }
 }
 
 void SensorDataPanel::setModel(const SensorDataModel &model)
@@ -133,6 +142,8 @@ void SensorDataPanel::clear()
     for (ValueCard *card : cards())
         card->clear();
     m_summary->setTexts({});
+    m_clock = {};
+    m_gaps = {};
 }
 
 QString SensorDataPanel::text() const

@@ -6,6 +6,9 @@
 
 #include "link/node_data.h"
 #include "link/sample_fields.h"
+#include "link/sample_gaps.h"
+#include "session/stream_event.h"
+#include "ui/trace_clock.h"
 
 class QLabel;
 class ValueCard;
@@ -28,13 +31,14 @@ class SensorDataPanel : public QWidget
 public:
     explicit SensorDataPanel(QWidget *parent = nullptr);
 
-    /// Adds a sample to the traces without repainting. `nowMs` is arrival time on a steady clock.
-    void appendSample(qint64 nowMs, const node_data_t &node, SampleFields fields);
+    /// Adds a sample to the traces without repainting. A trace breaks where the stream started again, and where the
+    /// device's clock shows a gap.
+    void appendSample(const StreamSample &sample);
     /// Shows the values. Call at the pace of the display, not of the stream.
     void setModel(const SensorDataModel &model);
     /// Shows or hides the row with node, time, temperature and pressure.
     void setSummaryVisible(bool visible);
-    /// Lets the traces move on when no sample arrives.
+    /// Lets the traces move on when no sample arrives, on the clock of StreamSample::hostMs.
     void advance(qint64 nowMs);
     /// Dashes everywhere.
     void clear();
@@ -52,4 +56,6 @@ private:
     ValueCard *m_quaternion;
     QWidget *m_summaryCard;
     ValueStrip *m_summary;
+    TraceClock m_clock;
+    SampleGaps m_gaps;
 };

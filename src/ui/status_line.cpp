@@ -2,7 +2,6 @@
 
 #include <QLabel>
 #include <QStatusBar>
-#include <QTimer>
 
 #include "app/quiet_label.h"
 #include "app/theme.h"
@@ -15,6 +14,7 @@
 namespace {
 
 constexpr int kConnectedTextDelayMs = 200;
+constexpr int kSayingMs = 4000;
 constexpr int kOpeningTextsMs = 1700; ///< till then the texts of opening stay
 
 } // namespace
@@ -32,11 +32,15 @@ StatusLine::StatusLine(DeviceSession *session, QStatusBar *bar, QAction *linkHea
     bar->addPermanentWidget(m_traffic);
     bar->setSizeGripEnabled(false);
     bar->setContentsMargins(theme::kGrid, 0, theme::kGrid, 0);
+    m_saying.setSingleShot(true);
+    m_saying.setInterval(kSayingMs);
+    connect(&m_saying, &QTimer::timeout, this, &StatusLine::retranslate);
     retranslate();
 }
 
 void StatusLine::showOpening()
 {
+    m_saying.stop();
     m_opening.start();
     m_state->setText(tr("Connecting..."));
     QTimer::singleShot(kConnectedTextDelayMs, this, [this] {
@@ -48,7 +52,7 @@ void StatusLine::showOpening()
 
 void StatusLine::refresh()
 {
-    if (!m_opening.isValid() || m_opening.elapsed() >= kOpeningTextsMs)
+    if (!m_saying.isActive() && (!m_opening.isValid() || m_opening.elapsed() >= kOpeningTextsMs))
         setTextIfChanged(m_state,
                          status_text::statusBar(m_session->dispatcher().snapshot(), m_session->isInfoDeferred()));
     setTextIfChanged(m_traffic, status_text::traffic(m_session->port().statistics()));
@@ -58,8 +62,15 @@ void StatusLine::refresh()
         m_node->clear();
 }
 
+void StatusLine::say(const QString &text)
+{
+    m_state->setText(text);
+    m_saying.start();
+}
+
 void StatusLine::showClosed()
 {
+    m_saying.stop();
     m_opening.invalidate();
     m_node->clear();
     m_traffic->clear();

@@ -2,6 +2,7 @@
 
 #include <QElapsedTimer>
 #include <QObject>
+#include <QTimer>
 
 class DeviceSession;
 class QAction;
@@ -22,6 +23,8 @@ public:
     void refresh();
     /// A port is being opened: says so, and which one, before refresh() takes over.
     void showOpening();
+    /// Says something that has just happened, for a moment.
+    void say(const QString &text);
     /// The connection has ended.
     void showClosed();
     /// Texts in the language of now.
@@ -35,4 +38,5 @@ private:
     QLabel *m_node;
     QLabel *m_traffic;
     QElapsedTimer m_opening; ///< since a port was chosen
+    QTimer m_saying;         ///< runs while something is said
 };

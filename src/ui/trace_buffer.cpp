@@ -3,16 +3,29 @@
 #include <algorithm>
 #include <cmath>
 
-void TraceBuffer::append(qint64 nowMs, std::span<const float> values)
+void TraceBuffer::append(qint64 nowMs, std::span<const float> values, bool isBroken)
 {
     advance(nowMs);
-    Bucket &bucket = m_buckets[size_t(m_newest % kBuckets)];
+    const qint64 number = nowMs / kBucketMs;
+    if (nowMs < 0 || number <= m_newest - kBuckets)
+        return;
+    Bucket &bucket = m_buckets[size_t(number % kBuckets)];
+    const auto atMs = qint8(nowMs % kBucketMs);
     const size_t count = std::min(values.size(), bucket.size());
     for (size_t channel = 0; channel < count; ++channel) {
-        if (!std::isfinite(values[channel]))
+        Extent &extent = bucket[channel];
+        const float value = values[channel];
+        extent.isBroken |= isBroken || !std::isfinite(value);
+        if (!std::isfinite(value))
             continue;
-        bucket[channel].low = std::min(bucket[channel].low, values[channel]);
-        bucket[channel].high = std::max(bucket[channel].high, values[channel]);
+        if (value < extent.low) {
+            extent.low = value;
+            extent.lowMs = atMs;
+        }
+        if (value > extent.high) {
+            extent.high = value;
+            extent.highMs = atMs;
+        }
     }
 }
 

@@ -7,7 +7,8 @@
 #include <QtGlobal>
 
 /// The last seconds of up to four channels, reduced to minimum and maximum per time bucket, so that a small trace costs
-/// the same at 1 and at 2000 samples/s and no peak is lost. Fixed memory. NaN and infinite values are left out.
+/// the same at 1 and at 2000 samples/s and no peak is lost. Fixed memory. NaN and infinite values are left out and
+/// break the trace.
 class TraceBuffer
 {
 public:
@@ -19,11 +20,15 @@ public:
     {
         float low = std::numeric_limits<float>::infinity();
         float high = -std::numeric_limits<float>::infinity();
+        qint8 lowMs = 0; ///< when in the bucket; a slope is drawn as a slope by them
+        qint8 highMs = 0;
+        bool isBroken = false; ///< nothing leads here from the bucket before
         bool isEmpty() const { return low > high; }
     };
 
-    /// Adds one sample at `nowMs` on any clock that does not run backwards; buckets that time has passed are emptied.
-    void append(qint64 nowMs, std::span<const float> values);
+    /// Adds one sample at `nowMs`, on any clock; buckets that time has passed are emptied. A sample that is older than
+    /// the buffer is left out. `isBroken`: samples before it are missing.
+    void append(qint64 nowMs, std::span<const float> values, bool isBroken = false);
     /// Lets time pass without a sample.
     void advance(qint64 nowMs);
     /// Running number of the newest bucket: the picture has moved when it changes.

@@ -9,6 +9,7 @@
 
 #include "app/theme.h"
 #include "app/value_format.h"
+#include "ui/readout_accessible.h"
 #include "wave/axis_ticks.h"
 
 namespace {
@@ -29,6 +30,7 @@ ValueCard::ValueCard(QList<Channel> channels, Format format, QWidget *parent)
 {
     Q_ASSERT(m_channels.size() <= TraceBuffer::kChannels);
     setAttribute(Qt::WA_OpaquePaintEvent); // else everything beneath is painted too, each time
+    readout_accessible::install();
     updateMetrics();
     setAbsent();
 }
@@ -62,9 +64,9 @@ void ValueCard::setAbsent()
     showTexts(QStringList(m_channels.size(), value_format::absent()));
 }
 
-void ValueCard::appendTrace(qint64 nowMs, std::span<const float> values)
+void ValueCard::appendTrace(qint64 nowMs, std::span<const float> values, bool isBroken)
 {
-    m_trace.append(nowMs, values);
+    m_trace.append(nowMs, values, isBroken);
 }
 
 void ValueCard::advance(qint64 nowMs)
@@ -251,29 +253,35 @@ void ValueCard::paintTrace(QPainter &painter, const QRect &area, double range) c
     const double middle = area.center().y() + 0.5;
     painter.drawLine(QPointF(area.left(), middle), QPointF(area.right(), middle));
 
-    const double xStep = double(area.width() - 1) / (TraceBuffer::kBuckets - 0.5); // half a step for the second end
+    const double msStep = double(area.width() - 1) / (TraceBuffer::kBuckets * TraceBuffer::kBucketMs);
     const double yScale = (area.height() / 2.0 - 1.0) / range;
     const auto yOf = [&](float value) { return middle - std::clamp(double(value), -range, range) * yScale; };
+    QPolygonF line;
+    line.reserve(2 * TraceBuffer::kBuckets);
+    const auto endLine = [&] {
+        if (line.size() == 1) // a lone sample between two gaps
+            painter.drawPoint(line.constFirst());
+        else
+            painter.drawPolyline(line);
+        line.clear();
+    };
     for (int channel = 0; channel < int(m_channels.size()); ++channel) {
         if (m_channels.at(channel).isNorm)
             continue;
-        QPolygonF line;
-        line.reserve(2 * TraceBuffer::kBuckets);
         painter.setPen(QPen(m_channels.at(channel).color, 1)); // a wider one would be outlined, at many times the cost
         for (int age = TraceBuffer::kBuckets - 1; age >= 0; --age) {
             const TraceBuffer::Extent &extent = m_trace.at(channel, age);
+            if (extent.isBroken)
+                endLine();
             if (extent.isEmpty())
                 continue;
-            const double x = area.left() + (TraceBuffer::kBuckets - 1 - age) * xStep;
-            const double low = yOf(extent.low);
-            const double high = yOf(extent.high);
-            // Nearer end first, so that a slope does not become a staircase.
-            const bool highFirst =
-                !line.isEmpty() && std::abs(line.last().y() - high) < std::abs(line.last().y() - low);
-            line.append(QPointF(x, highFirst ? high : low));
+            const int bucketMs = (TraceBuffer::kBuckets - 1 - age) * TraceBuffer::kBucketMs;
+            const QPointF low(area.left() + (bucketMs + extent.lowMs) * msStep, yOf(extent.low));
+            const QPointF high(area.left() + (bucketMs + extent.highMs) * msStep, yOf(extent.high));
+            line.append(extent.highMs < extent.lowMs ? high : low);
             if (extent.high > extent.low)
-                line.append(QPointF(x + xStep / 2, highFirst ? low : high));
+                line.append(extent.highMs < extent.lowMs ? low : high);
         }
-        painter.drawPolyline(line);
+        endLine();
     }
 }

@@ -38,8 +38,8 @@ public:
     void setValues(std::span<const float> values);
     /// Shows a dash per channel: the stream does not carry this quantity.
     void setAbsent();
-    /// Adds a sample to the trace; painted with the next setValues() or advance().
-    void appendTrace(qint64 nowMs, std::span<const float> values);
+    /// Adds a sample to the trace; painted with the next advance(). `isBroken`: samples before it are missing.
+    void appendTrace(qint64 nowMs, std::span<const float> values, bool isBroken = false);
     /// Moves the trace on with time.
     void advance(qint64 nowMs);
     /// Back to dashes and an empty trace.

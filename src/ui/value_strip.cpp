@@ -7,6 +7,7 @@
 
 #include "app/theme.h"
 #include "app/value_format.h"
+#include "ui/readout_accessible.h"
 
 namespace {
 
@@ -23,6 +24,7 @@ ValueStrip::ValueStrip(QWidget *parent) : QWidget(parent)
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setAttribute(Qt::WA_OpaquePaintEvent); // else everything beneath is painted too, each time
+    readout_accessible::install();
 }
 
 void ValueStrip::setCells(const QList<Cell> &cells)

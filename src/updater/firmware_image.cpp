@@ -72,13 +72,6 @@ bool FirmwareImage::hasChanged() const
     return m_isLoaded && fileAt(m_path) != m_shownFile;
 }
 
-QList<image_check::Doubt> FirmwareImage::doubts(int flashSizeKb) const
-{
-    if (m_shown.isEmpty())
-        return {};
-    return image_check::doubts(m_shown, m_fileAddress, targetAddress(), flashSizeKb);
-}
-
 FirmwareImage::File FirmwareImage::fileAt(const QString &path)
 {
     const QFileInfo info(path);

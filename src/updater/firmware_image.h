@@ -2,11 +2,9 @@
 
 #include <QByteArray>
 #include <QDateTime>
-#include <QList>
 #include <QString>
 
 #include "updater/hex2bin.h"
-#include "updater/image_check.h"
 
 /// The image file of a firmware update: which one it is, what it holds and what could be wrong with it. It is loaded
 /// once, before it is written; until then looks at the file show what a load would give. Main thread only, see hex2bin.
@@ -45,8 +43,6 @@ public:
     hex2bin::Cut cut() const { return m_cut; }
     /// The file is another one than when it was loaded.
     bool hasChanged() const;
-    /// Doubts about what is shown, for a target with `flashSizeKb` of flash; below 1: not known.
-    QList<image_check::Doubt> doubts(int flashSizeKb) const;
 
 private:
     /// A file as it was when it was last looked at.

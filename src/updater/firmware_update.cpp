@@ -1,6 +1,7 @@
 #include "updater/firmware_update.h"
 
 #include <QCryptographicHash>
+#include <QSaveFile>
 
 #include <utility>
 
@@ -66,16 +67,19 @@ bool FirmwareUpdate::prepare(const Order &order)
     struct Found
     {
         std::optional<UpdateNote> note;
+        SlowErases slowErases;
         QString sha256;
     };
     const auto found = std::make_shared<Found>();
     onDisk(
         [found, folder = m_folder, image = order.subject.image] {
             found->note = UpdateNote::read(folder);
+            found->slowErases = SlowErases::read(folder);
             found->sha256 = QString::fromLatin1(QCryptographicHash::hash(image, QCryptographicHash::Sha256).toHex());
         },
         [this, found] {
             m_noteBefore = found->note;
+            m_slowErases = found->slowErases;
             m_note.sha256 = found->sha256;
             BootloaderTask task;
             task.kind = m_order.connects ? BootloaderTask::Kind::Connect : BootloaderTask::Kind::Inquire;
@@ -107,6 +111,25 @@ void FirmwareUpdate::storeReport(const UpdateReport &report)
     m_disk.start([report, folder = m_folder] { report.store(folder); });
 }
 
+void FirmwareUpdate::saveReport(const UpdateReport &report, const QString &path)
+{
+    const auto error = std::make_shared<QString>();
+    onDisk(
+        [report, path, error] {
+            QSaveFile file(path);
+            const QByteArray text = report.toText().toUtf8();
+            if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
+                *error = file.errorString();
+        },
+        [this, path, error] { emit reportSaved(path, *error); });
+}
+
+void FirmwareUpdate::forgetNote()
+{
+    if (!isRunning())
+        m_disk.start([folder = m_folder] { UpdateNote::remove(folder); });
+}
+
 void FirmwareUpdate::changePacketSize(int packetSize)
 {
     if (m_step != UpdateStep::Ready)
@@ -134,16 +157,30 @@ bool FirmwareUpdate::begin(bool despiteDoubts)
 
 void FirmwareUpdate::cancel()
 {
-    if (!isRunning() || m_isEnding || m_step >= UpdateStep::Reset)
+    if (!isRunning() || m_isEnding || m_step == UpdateStep::Reset)
         return;
-    m_isCancelled = true;
-    if (m_task) {
-        QMetaObject::invokeMethod(m_port, &KvUartPort::cancelBootloader, Qt::QueuedConnection);
-    } else if (m_step == UpdateStep::Ready) {
-        BootloaderOutcome outcome;
-        outcome.fault = BootloaderFault::Stopped;
-        fail(UpdateReason::Bootloader, FlashState::Untouched, outcome);
+    if (m_step == UpdateStep::ComeBack) {
+        finish(UpdateVerdict::DidNotComeBack);
+        return;
     }
+    m_isCancelled = true;
+    if (m_task)
+        QMetaObject::invokeMethod(m_port, &KvUartPort::cancelBootloader, Qt::QueuedConnection);
+    else if (m_step == UpdateStep::Ready)
+        endUntouched(BootloaderFault::Stopped);
+}
+
+void FirmwareUpdate::lineLost()
+{
+    if (m_step == UpdateStep::Ready && !m_isEnding)
+        endUntouched(BootloaderFault::PortClosed);
+}
+
+void FirmwareUpdate::endUntouched(BootloaderFault fault)
+{
+    BootloaderOutcome outcome;
+    outcome.fault = fault;
+    fail(UpdateReason::Bootloader, FlashState::Untouched, outcome);
 }
 
 void FirmwareUpdate::onDisk(std::function<void()> work, std::function<void()> then)
@@ -210,11 +247,9 @@ void FirmwareUpdate::onTaskFinished(const BootloaderResult &result)
 void FirmwareUpdate::makePlan()
 {
     update_plan::Subject subject = m_order.subject;
-    if (m_noteBefore && m_noteBefore->chip == m_facts.deviceId) {
-        if (!subject.lastAddress)
-            subject.lastAddress = m_noteBefore->address;
-        subject.eraseWasTooSlow = m_noteBefore->eraseTooSlow && subject.image.size() >= m_noteBefore->size;
-    }
+    if (!subject.lastAddress && m_noteBefore && m_noteBefore->chip == m_facts.deviceId)
+        subject.lastAddress = m_noteBefore->address;
+    subject.eraseWasTooSlow = !m_order.erasesAgain && m_slowErases.isKnown(m_facts.deviceId, subject.image.size());
     m_plan = update_plan::make(subject, m_facts, m_offer);
     setStep(UpdateStep::Ready);
     emit prepared(m_plan);
@@ -255,11 +290,12 @@ void FirmwareUpdate::onWritten(const BootloaderResult &result)
 {
     m_result.writeMs = m_clock.elapsed();
     m_result.outcome = result.outcome;
+    const bool isErased = result.outcome.step > BootloaderStep::Erase;
+    if (isErased || result.outcome.fault == BootloaderFault::NoAnswer)
+        m_disk.start([folder = m_folder, chip = m_note.chip, size = m_note.size, isErased] {
+            SlowErases::note(folder, chip, size, !isErased);
+        });
     if (!result.success) {
-        m_note.eraseTooSlow =
-            result.outcome.step == BootloaderStep::Erase && result.outcome.fault == BootloaderFault::NoAnswer;
-        if (m_note.eraseTooSlow)
-            m_disk.start([note = m_note, folder = m_folder] { note.write(folder); });
         fail(UpdateReason::Bootloader, stateAfter(result.outcome), result.outcome);
         return;
     }
@@ -378,9 +414,18 @@ void FirmwareUpdate::finish(UpdateVerdict verdict)
         setStep(UpdateStep::Done);
         emit finished(m_result);
     };
+    std::optional<UpdateNote> left = m_noteBefore; // an update that has touched nothing leaves the note before
+    if (isProved || lives) {
+        left.reset();
+    } else if (m_result.flash != FlashState::Untouched) {
+        m_note.done = m_step >= UpdateStep::Verify ? m_note.size : m_result.outcome.acknowledgedBytes;
+        left = m_note;
+    }
     onDisk(
-        [folder = m_folder, isRemoved = isProved || lives] {
-            if (isRemoved)
+        [folder = m_folder, left] {
+            if (left)
+                left->write(folder);
+            else
                 UpdateNote::remove(folder);
         },
         report);

@@ -10,6 +10,7 @@
 #include <optional>
 
 #include "link/bootloader_task.h"
+#include "updater/slow_erases.h"
 #include "updater/update_note.h"
 #include "updater/update_plan.h"
 #include "updater/update_report.h"
@@ -37,9 +38,10 @@ public:
         QString file;                 ///< path of the image
         QString device;               ///< as it has introduced itself; empty: it has not
         QString port;
-        bool connects = true;   ///< restart the device into its bootloader first; else it is there and connected
-        int attempts = 2;       ///< for each data packet
-        int comeBackMs = 20000; ///< how long the device may take to introduce itself; 0: nobody waits for that
+        bool connects = true;     ///< restart the device into its bootloader first; else it is there and connected
+        bool erasesAgain = false; ///< although the chip has not ended such an erase in time before
+        int attempts = 2;         ///< for each data packet
+        int comeBackMs = 20000;   ///< how long the device may take to introduce itself; 0: nobody waits for that
     };
 
     /// `folder` is where the note is kept.
@@ -57,8 +59,13 @@ public:
     const UpdateResult &result() const { return m_result; }
     /// What is to be kept of the update that has ended; its owner adds the log. It can be stored where the note is.
     UpdateReport report() const;
-    /// Stores a report in the update's folder, off this thread.
+    // On the disk's thread:
+    /// Stores a report in the update's folder.
     void storeReport(const UpdateReport &report);
+    /// Writes a report as text for people; reportSaved() follows.
+    void saveReport(const UpdateReport &report, const QString &path);
+    /// Removes the note of an update that is not proved, by its user's wish. Nothing happens while an update runs.
+    void forgetNote();
 
     /// Connects to the bootloader and checks the order; nothing is erased. prepared() follows, or finished() when there
     /// is no bootloader. False while an update runs.
@@ -70,8 +77,10 @@ public:
     /// prepared().
     void changePacketSize(int packetSize);
     /// Ends the update at its next step, with the outcome's fault Stopped. Before begin() nothing has been done to the
-    /// flash.
+    /// flash; after the reset nobody waits for the device any longer.
     void cancel();
+    /// The port was closed. What runs on it ends by itself, what waits for begin() ends here.
+    void lineLost();
 
 public slots:
     /// The device has introduced itself after the reset; `build` is its line with the build, empty: it has none.
@@ -83,6 +92,8 @@ signals:
     /// Of Write and Verify: bytes done of all.
     void advanced(UpdateStep step, qint64 done, qint64 total);
     void finished(const UpdateResult &result);
+    /// `error` is the disk's reason; empty: it is saved.
+    void reportSaved(const QString &path, const QString &error);
 
 private:
     void runTask(BootloaderTask task);
@@ -95,6 +106,7 @@ private:
     void onRead(const BootloaderResult &result);
     void startReset(UpdateReason reason);
     void awaitDevice();
+    void endUntouched(BootloaderFault fault);
     void fail(UpdateReason reason, FlashState flash, const BootloaderOutcome &outcome);
     void finish(UpdateVerdict verdict);
     void noteProgress(qint64 done);
@@ -115,6 +127,7 @@ private:
     update_plan::Plan m_plan;
     UpdateResult m_result;
     std::optional<UpdateNote> m_noteBefore;
+    SlowErases m_slowErases;
     UpdateNote m_note;
     QElapsedTimer m_clock; ///< of the step
     QTimer m_comeBackTimer;

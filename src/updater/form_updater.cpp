@@ -2,6 +2,7 @@
 
 #include <QClipboard>
 #include <QCoreApplication>
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -11,6 +12,9 @@
 #include <QShowEvent>
 #include <QStyle>
 
+#include <algorithm>
+#include <utility>
+
 #include "app/settings_keys.h"
 #include "app/theme.h"
 #include "app/window_host.h"
@@ -19,7 +23,9 @@
 #include "session/device_session.h"
 #include "ui_form_updater.h"
 #include "updater/hex2bin.h"
+#include "updater/update_note_card.h"
 #include "updater/updater_text.h"
+#include "updater/verdict_text.h"
 
 namespace {
 
@@ -32,27 +38,48 @@ constexpr char kConnectedStyle[] = "background-color: #90EE90;";
 } // namespace
 
 form_updater::form_updater(DeviceSession *session, QWidget *parent)
-    : QDialog(parent), m_ui(std::make_unique<Ui::form_updater>()), m_session(session)
+    : QDialog(parent), m_ui(std::make_unique<Ui::form_updater>()), m_session(session),
+      m_noteCard(new UpdateNoteCard(this)), m_update(session, QDir::currentPath())
 {
     m_ui->setupUi(this);
+    m_ui->LAY_main->insertWidget(0, m_noteCard);
     m_ui->PTE_log->setMaximumBlockCount(kLogLines);
     fitFont();
     QScrollBar *bar = m_ui->PTE_log->verticalScrollBar();
     connect(bar, &QScrollBar::rangeChanged, bar, [bar](int, int maximum) { bar->setValue(maximum); });
     set_serial_instance(&session->port());
     connect(session, &DeviceSession::stateChanged, this, &form_updater::onSessionState);
+    setUpUpdate();
+    lookAtImage();
     retranslateDynamicUi();
     WindowHost::attach(this, settings_keys::kUpdaterGeometry);
 }
 
 form_updater::~form_updater() = default;
 
+void form_updater::setUpUpdate()
+{
+    connect(&m_update.procedure(), &FirmwareUpdate::prepared, this, &form_updater::onPrepared);
+    connect(&m_update.procedure(), &FirmwareUpdate::stepChanged, this, &form_updater::onStep);
+    connect(&m_update.procedure(), &FirmwareUpdate::advanced, this, &form_updater::onAdvanced);
+    connect(&m_update.procedure(), &FirmwareUpdate::finished, this, &form_updater::onFinished);
+    connect(&m_update.procedure(), &FirmwareUpdate::reportSaved, this, [this](const QString &path, const QString &why) {
+        const QString shown = QDir::toNativeSeparators(path);
+        showStatus(why.isEmpty() ? tr("The report was saved to %1.").arg(shown)
+                                 : tr("The report could not be saved to %1: %2").arg(shown, why),
+                   !why.isEmpty());
+    });
+    connect(m_noteCard, &UpdateNoteCard::continueAsked, this, &form_updater::continueUpdate);
+    connect(m_noteCard, &UpdateNoteCard::chooseAsked, this, &form_updater::on_BTN_open_file_clicked);
+    connect(m_noteCard, &UpdateNoteCard::forgetAsked, this, &form_updater::forgetUpdate);
+    connect(m_ui->CHB_despite, &QCheckBox::toggled, this, &form_updater::update_button_states);
+}
+
 void form_updater::set_serial_instance(KvUartPort *port)
 {
     if (port == nullptr)
         return;
     connect(port->kboot(), &KbootProtocol::downloadProgress, this, &form_updater::onUpdateProgressBar);
-    connect(port->kboot(), &KbootProtocol::downloadAdvanced, this, &form_updater::onDownloadAdvanced);
     connect(port, &KvUartPort::bootloaderDownloadFinished, this, &form_updater::onBootloaderDownloadFinished);
 }
 
@@ -66,7 +93,10 @@ void form_updater::onSessionState()
     m_wasConnected = isConnected();
     m_wasDownloading = isDownloading();
     m_couldRestart = canRestart();
+    if (!canRestart() && !isDownloading())
+        m_noteCard->setBootloaderFound(false);
     m_question.withdraw();
+    showImage();
     update_button_states();
 }
 
@@ -83,12 +113,24 @@ bool form_updater::canRestart() const
 
 bool form_updater::isDownloading() const
 {
-    return m_session->state() == SessionState::Updating;
+    return m_update.hasLine();
+}
+
+/// Nothing speaks against the image, or the user has accepted it.
+bool form_updater::isAccepted() const
+{
+    return m_ui->LBL_doubts->text().isEmpty() || m_ui->CHB_despite->isChecked();
 }
 
 void form_updater::sayDownloadRuns()
 {
     showStatus(tr("The download has to end first: without it the device has no complete firmware."), true);
+}
+
+void form_updater::sayBootloaderFound()
+{
+    m_noteCard->setNote(UpdateNote::read(QDir::currentPath()));
+    m_noteCard->setBootloaderFound(true);
 }
 
 void form_updater::showEvent(QShowEvent *event)
@@ -97,7 +139,9 @@ void form_updater::showEvent(QShowEvent *event)
     if (event->spontaneous() || isDownloading())
         return;
     m_question.withdraw();
-    reset_ui_state();
+    if (!m_update.procedure().isRunning())
+        reset_ui_state();
+    m_noteCard->setNote(UpdateNote::read(QDir::currentPath()));
     QSettings settings(settings_keys::kFile, QSettings::IniFormat);
     QString path = settings.value(settings_keys::kUpdaterPath).toString();
     if (!QFileInfo(path).isFile()) {
@@ -167,7 +211,7 @@ void form_updater::on_BTN_stop_clicked()
                        tr("Stop the download"), tr("Go on"), [this] {
                            m_stopping = true;
                            update_button_states();
-                           m_session->stopDownload();
+                           m_update.procedure().cancel();
                        });
 }
 
@@ -185,6 +229,8 @@ void form_updater::chooseImage(const QString &path)
     if (isDownloading()) // it began while the user was still choosing
         return;
     m_image.choose(path);
+    m_packetSize = 0;
+    m_isRefused = false;
     log(tr("FILE:%1\n").arg(path));
     QSettings(settings_keys::kFile, QSettings::IniFormat).setValue(settings_keys::kUpdaterPath, path);
     showStatus({}, false);
@@ -202,12 +248,16 @@ void form_updater::on_BTN_connect_clicked()
 {
     if (isDownloading() || m_connecting)
         return;
+    if (m_session->state() == SessionState::Opening) {
+        showStatus(tr("The serial port is being opened: press Connect again in a moment."), true);
+        return;
+    }
     reset_ui_state();
     m_connecting = true;
     for (QPushButton *button : {m_ui->BTN_open_file, m_ui->BTN_connect, m_ui->BTN_download, m_ui->BTN_restart})
         button->setEnabled(false);
     log(tr("\n--- Connecting to bootloader ---\n"));
-    m_ui->LBL_bootloader->setText(updater_text::step(BootloaderStep::Restart));
+    m_ui->LBL_bootloader->setText(verdict_text::step(UpdateStep::Connect));
     repaint(); // the last chance before the wait
 
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
@@ -249,10 +299,7 @@ void form_updater::on_BTN_download_clicked()
     }
     if (hasImage && isConnected()) {
         log(tr("\n--- Starting download ---\n"));
-        m_downloadClock.start();
-        m_dataBeganMs = 0;
-        if (!m_session->startDownload(m_image.bytes(), int(hex2bin::start_addr()), kAttemptsPerPacket))
-            log(tr("Download failed\n"));
+        startUpdate();
     } else if (hasImage) {
         log(tr("Not connected to bootloader\r\n"));
         showStatus(tr("Press Connect first: the device has to run its bootloader."), true);
@@ -265,52 +312,161 @@ void form_updater::onUpdateProgressBar(int percent)
     m_ui->PB_progress->setValue(percent);
 }
 
-void form_updater::onDownloadAdvanced(BootloaderStep step, qint64 acknowledgedBytes)
+/// What is written, as far as it is known.
+update_plan::Subject form_updater::subject() const
 {
-    if (!isDownloading())
+    update_plan::Subject subject;
+    subject.image = m_image.shown();
+    subject.fileAddress = m_image.fileAddress();
+    subject.address = m_image.targetAddress();
+    subject.cut = m_image.cut();
+    subject.baudRate = m_session->baudRate();
+    subject.packetSize = m_packetSize;
+    subject.deviceBuild = m_session->device().buildLine;
+    if (m_noteCard->note())
+        subject.lastAddress = m_noteCard->note()->address;
+    return subject;
+}
+
+void form_updater::startUpdate()
+{
+    m_result.reset();
+    m_isRefused = false;
+    m_written = subject();
+    FirmwareUpdate::Order order;
+    order.subject = m_written;
+    order.file = m_image.path();
+    order.attempts = kAttemptsPerPacket;
+    order.erasesAgain = std::exchange(m_erasesAgain, false);
+    if (!m_update.start(order))
+        onBootloaderDownloadFinished(false);
+}
+
+/// The bootloader was asked what it offers; nothing is erased yet.
+void form_updater::onPrepared(const update_plan::Plan &plan)
+{
+    const QList<update_plan::Doubt> accepted = m_plan.doubts; // they were on the screen
+    m_facts = m_update.procedure().facts();
+    const bool isNew = std::any_of(plan.doubts.cbegin(), plan.doubts.cend(),
+                                   [&](update_plan::Doubt doubt) { return !accepted.contains(doubt); });
+    showPlan(plan);
+    m_isRefused = isNew || !m_update.procedure().begin(true);
+    if (m_isRefused)
+        m_update.procedure().cancel();
+}
+
+void form_updater::onStep(UpdateStep step)
+{
+    m_stepClock.start();
+    m_transferShownMs = 0;
+    if (step == UpdateStep::ComeBack)
+        onBootloaderDownloadFinished(true);
+    showStep();
+    update_button_states();
+}
+
+void form_updater::onAdvanced(UpdateStep step, qint64 done, qint64 total)
+{
+    const qint64 now = m_stepClock.elapsed();
+    if (now < m_transferShownMs + kTransferIntervalMs && done < total)
         return;
-    const qint64 now = m_downloadClock.elapsed();
-    if (step != m_step) {
-        m_step = step;
-        showStep();
-        if (step == BootloaderStep::Data)
-            m_dataBeganMs = now;
-    } else if (now < m_transferShownMs + kTransferIntervalMs && acknowledgedBytes < m_image.bytes().size()) {
+    m_transferShownMs = now;
+    m_ui->LBL_transfer->setText(updater_text::transfer(done, total, now));
+    if (step == UpdateStep::Verify)
+        m_ui->PB_progress->setValue(int(done * 100 / qMax<qint64>(1, total)));
+}
+
+void form_updater::onFinished(const UpdateResult &result)
+{
+    if (result.step < UpdateStep::ComeBack)
+        onBootloaderDownloadFinished(false);
+    if (!m_isRefused) { // of an update that was never begun there is nothing to keep
+        m_result = result;
+        m_report = m_update.procedure().report();
+        UpdateReport stored = m_report;
+        stored.log = m_ui->PTE_log->toPlainText().split(u'\n');
+        m_update.procedure().storeReport(stored);
+    }
+    m_noteCard->setNote(UpdateNote::read(QDir::currentPath()));
+    m_ui->LBL_transfer->setText(
+        m_isRefused ? QString() : updater_text::transfer(result.outcome.acknowledgedBytes, m_written.image.size(), 0));
+    m_stopping = false;
+    showResult();
+    showStep();
+    update_button_states();
+    (isConnected() ? m_ui->BTN_download : m_ui->BTN_connect)->setFocus();
+}
+
+void form_updater::showResult()
+{
+    if (m_isRefused) {
+        showStatus(tr("Nothing was erased and nothing was written: see the reasons above."), true);
         return;
     }
-    m_transferShownMs = now;
-    const qint64 elapsedMs = step == BootloaderStep::Data ? now - m_dataBeganMs : 0;
-    m_ui->LBL_transfer->setText(updater_text::transfer(acknowledgedBytes, m_image.bytes().size(), elapsedMs));
+    if (!m_result)
+        return;
+    m_ui->LBL_builds->setText(verdict_text::builds(*m_result));
+    m_ui->LBL_builds->setVisible(!m_ui->LBL_builds->text().isEmpty());
+    showStatus(verdict_text::result(*m_result, m_written.image.size(), m_written.address, m_facts.maxPacketSize),
+               verdict_text::isProblem(*m_result));
 }
 
 void form_updater::onBootloaderDownloadFinished(bool ok)
 {
     log(ok ? tr("Update complete, image running...\n") : tr("Download failed\n"));
-    const BootloaderOutcome end = m_session->bootloaderOutcome();
-    if (!ok && m_stopping)
-        showStatus(updater_text::stopped(end, m_image.bytes().size()), true);
-    else if (ok)
-        showStatus(updater_text::downloadSuccess(end, m_downloadClock.isValid() ? m_downloadClock.elapsed() : 0),
-                   updater_text::isDoubtful(end));
-    else
-        showStatus(updater_text::downloadFailure(end, m_image.bytes().size(), m_facts.maxPacketSize), true);
-    m_step = BootloaderStep::Idle;
-    m_result = ok;
-    m_stopping = false;
-    m_ui->LBL_transfer->setText(updater_text::transfer(end.acknowledgedBytes, m_image.bytes().size(), 0));
     update_button_states();
-    m_ui->BTN_connect->setFocus();
+}
+
+/// The update that was interrupted, once more; it stops where the user has to decide something.
+void form_updater::continueUpdate()
+{
+    if (isDownloading() || m_connecting || !m_noteCard->note())
+        return;
+    const UpdateNote note = *m_noteCard->note();
+    if (m_image.path() != note.file || !m_image.isLoaded())
+        chooseImage(note.file);
+    if (!m_image.exists()) {
+        showStatus(tr("The file %1 is gone: choose another one.").arg(QDir::toNativeSeparators(note.file)), true);
+        return;
+    }
+    const QByteArray hash = QCryptographicHash::hash(m_image.shown(), QCryptographicHash::Sha256).toHex();
+    const bool isSame = QString::fromLatin1(hash) == note.sha256;
+    if (!isConnected())
+        on_BTN_connect_clicked();
+    if (!isConnected())
+        return;
+    if (isSame && m_ui->BTN_download->isEnabled())
+        on_BTN_download_clicked();
+    else if (!isSame)
+        showStatus(tr("The file is not the one that was being written: it has changed since. Press Download to write "
+                      "it as it is now."),
+                   true);
+}
+
+void form_updater::forgetUpdate()
+{
+    if (isDownloading())
+        return;
+    m_update.procedure().forgetNote();
+    m_noteCard->setNote({});
+    showImage();
 }
 
 void form_updater::update_button_states()
 {
     if (m_connecting)
         return;
-    const bool hasBootloader = m_session->isBootloaderConnected(); // also while it takes a download
+    const bool hasBootloader = isConnected() || isDownloading();
     const QString busy = isDownloading() ? tr("A download is running.") : QString();
     for (QPushButton *button : {m_ui->BTN_open_file, m_ui->BTN_connect, m_ui->BTN_close})
         button->setEnabled(!isDownloading());
-    m_ui->BTN_download->setEnabled(isConnected());
+    m_ui->BTN_download->setEnabled(isConnected() && isAccepted());
+    m_ui->BTN_remedy->setEnabled(!isDownloading());
+    m_ui->CHB_despite->setEnabled(!isDownloading());
+    m_noteCard->setReady(!isDownloading());
+    m_ui->BTN_save->setEnabled(m_result.has_value());
+    m_ui->BTN_save->setToolTip(m_result ? tr("Saves what was done and what has come of it as text")
+                                        : tr("There was no update yet."));
     m_ui->BTN_restart->setEnabled(canRestart());
     m_ui->BTN_stop->setEnabled(isDownloading() && !m_stopping);
     m_ui->BTN_connect->setText(hasBootloader ? tr("Connected") : tr("Connect"));
@@ -320,9 +476,12 @@ void form_updater::update_button_states()
     m_ui->BTN_open_file->setToolTip(isDownloading() ? busy : tr("Chooses the image, an Intel HEX file"));
     m_ui->BTN_connect->setToolTip(isDownloading() ? busy : tr("Restarts the device into its bootloader"));
     m_ui->BTN_close->setToolTip(busy);
-    m_ui->BTN_download->setToolTip(isDownloading() ? busy
-                                   : isConnected() ? tr("Erases the device's firmware and writes the image")
-                                                   : tr("Press Connect first."));
+    m_ui->BTN_download->setToolTip(
+        isDownloading()  ? busy
+        : !isConnected() ? tr("Press Connect first.")
+        : !isAccepted()
+            ? tr("Something speaks against this image: tick \"%1\" to write it.").arg(m_ui->CHB_despite->text())
+            : tr("Erases the device's firmware and writes the image"));
     m_ui->BTN_restart->setToolTip(isDownloading() ? busy
                                   : canRestart() ? tr("Ends the bootloader: the device starts the firmware that it has")
                                                  : tr("No bootloader is connected."));
@@ -337,24 +496,29 @@ void form_updater::update_button_states()
 
 void form_updater::showStep()
 {
+    const UpdateStep step = m_update.procedure().step();
     const QString waiting = isConnected() ? tr("Ready to download") : tr("Waiting for the bootloader");
-    const QString ended = m_result.value_or(false) ? tr("Complete") : tr("Failed");
-    m_ui->LBL_step->setText(isDownloading() ? updater_text::step(m_step) : m_result.has_value() ? ended : waiting);
+    m_ui->LBL_step->setText(m_update.procedure().isRunning() ? verdict_text::step(step)
+                            : m_result                       ? verdict_text::verdict(m_result->verdict)
+                                                             : waiting);
 }
 
 void form_updater::reset_ui_state()
 {
     m_ui->PB_progress->setValue(0);
     m_result.reset();
+    m_isRefused = false;
     m_ui->LBL_transfer->clear();
+    m_ui->LBL_builds->hide();
     showStatus({}, false);
     update_button_states();
 }
 
 void form_updater::retranslateDynamicUi()
 {
-    update_button_states();
     showImage();
+    update_button_states();
+    showResult();
 }
 
 void form_updater::log(const QString &text)
@@ -376,8 +540,8 @@ void form_updater::on_BTN_copy_clicked()
 {
     QStringList lines{windowTitle() + QLatin1String(", ") + QDateTime::currentDateTime().toString(Qt::ISODate),
                       QDir::toNativeSeparators(m_image.path())};
-    for (const QLabel *label :
-         {m_ui->LBL_image, m_ui->LBL_doubts, m_ui->LBL_bootloader, m_ui->LBL_transfer, m_ui->LBL_status}) {
+    for (const QLabel *label : {m_ui->LBL_image, m_ui->LBL_doubts, m_ui->LBL_obstacles, m_ui->LBL_bootloader,
+                                m_ui->LBL_transfer, m_ui->LBL_builds, m_ui->LBL_status}) {
         if (!label->text().isEmpty())
             lines.append(label->text());
     }
@@ -393,10 +557,76 @@ void form_updater::lookAtImage()
 
 void form_updater::showImage()
 {
-    const QString doubts = updater_text::doubts(m_image, isConnected() ? m_facts.flashSizeKb : 0);
     m_ui->LE_path->setText(QDir::toNativeSeparators(m_image.path()));
     m_ui->LE_path->setToolTip(m_image.path().toHtmlEscaped());
     m_ui->LBL_image->setText(updater_text::image(m_image));
+    if (isDownloading() || m_isRefused)
+        return; // what the bootloader's check has shown stays
+    update_plan::Plan plan = isConnected() ? update_plan::make(subject(), m_facts, {}) : update_plan::look(subject());
+    plan.obstacles.removeAll(update_plan::Obstacle::EmptyImage); // the image's own line says it
+    if (m_image.shown().isEmpty())
+        plan.doubts.clear();
+    showPlan(plan);
+}
+
+void form_updater::showPlan(const update_plan::Plan &plan)
+{
+    m_plan = plan;
+    const update_plan::Subject written = subject();
+    QString doubts = verdict_text::doubts(plan, written, m_facts);
+    if (m_image.hasChanged())
+        doubts += (doubts.isEmpty() ? QString() : QStringLiteral("\n"))
+                  + tr("The file has changed since it was loaded. Choose it again to load the new one.");
+    if (doubts != m_ui->LBL_doubts->text())
+        m_ui->CHB_despite->setChecked(false); // what was accepted was something else
     m_ui->LBL_doubts->setText(doubts);
     m_ui->LBL_doubts->setVisible(!doubts.isEmpty());
+    m_ui->CHB_despite->setVisible(!doubts.isEmpty());
+    const QString obstacles = verdict_text::obstacles(plan, written, m_facts);
+    m_ui->LBL_obstacles->setText(obstacles);
+    m_ui->LBL_obstacles->setVisible(!obstacles.isEmpty());
+    m_remedy = plan.obstacles.contains(update_plan::Obstacle::OtherAddress) ? Remedy::RestartProgram
+               : plan.obstacles.contains(update_plan::Obstacle::PacketTooSlow) && plan.fit.largest > 0
+                   ? Remedy::SmallerPackets
+               : plan.obstacles.contains(update_plan::Obstacle::EraseTooSlow) ? Remedy::EraseAgain
+                                                                              : Remedy::None;
+    const QString remedies[] = {QString(), tr("Restart the program"),
+                                tr("Use packets of %1 bytes").arg(plan.fit.largest), tr("Erase all the same")};
+    m_ui->BTN_remedy->setVisible(m_remedy != Remedy::None);
+    m_ui->BTN_remedy->setText(remedies[int(m_remedy)]);
+}
+
+void form_updater::on_BTN_remedy_clicked()
+{
+    if (isDownloading())
+        return;
+    if (m_remedy == Remedy::RestartProgram) {
+        emit restartWanted();
+    } else if (m_remedy != Remedy::None) {
+        if (m_remedy == Remedy::SmallerPackets)
+            m_packetSize = m_plan.fit.largest;
+        else
+            m_erasesAgain = true;
+        m_isRefused = false;
+        showStatus({}, false);
+        showImage();
+        update_button_states();
+    }
+}
+
+void form_updater::on_BTN_save_clicked()
+{
+    if (!m_result)
+        return;
+    auto *dialog = new QFileDialog(this, tr("Save Report"), QFileInfo(m_image.path()).path(), tr("Text Files(*.txt)"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setDefaultSuffix(QStringLiteral("txt"));
+    dialog->selectFile(m_report.ended.toLocalTime().toString(QStringLiteral("'update-'yyyyMMdd-HHmmss'.txt'")));
+    connect(dialog, &QFileDialog::fileSelected, this, [this](const QString &path) {
+        UpdateReport saved = m_report;
+        saved.log = m_ui->PTE_log->toPlainText().split(u'\n');
+        m_update.procedure().saveReport(saved, path);
+    });
+    dialog->open();
 }

@@ -9,21 +9,24 @@
 #include "app/question_box.h"
 #include "link/bootloader_state.h"
 #include "updater/firmware_image.h"
+#include "updater/session_update.h"
 
 class DeviceSession;
 class KvUartPort;
+class UpdateNoteCard;
 
 namespace Ui {
 class form_updater;
 }
 
 /// Firmware update: the user picks an Intel HEX image, has the device restart into its bootloader, and downloads. What
-/// could be wrong with the image is shown before anything is erased, but nothing is refused. Failures end in the log
-/// and in a sentence that says what state the device is in and what to do next, never in a message box.
+/// makes a download impossible is refused before anything is erased, with the remedy; what is merely doubtful is listed
+/// and has to be accepted first. Results and failures end in the log and in a sentence that says what state the device
+/// is in and what to do next, never in a message box.
 ///
-/// The session has the line, and does what is pressed here, as far as it allows it. Connecting blocks for up to 4 s.
-/// While a download runs the window stays open. The image goes to the address of the first file that this run of the
-/// program has loaded; see hex2bin.
+/// The session has the line, and does what is pressed here, as far as it allows it; SessionUpdate does the update.
+/// Connecting blocks for up to 4 s. While a download runs the window stays open. The image goes to the address of the
+/// first file that this run of the program has loaded; see hex2bin.
 ///
 /// Main thread only.
 class form_updater : public QDialog
@@ -40,6 +43,8 @@ public:
     void set_serial_instance(KvUartPort *port);
     /// Says that the running download has to end before the program can.
     void sayDownloadRuns();
+    /// Says that the device was found in its bootloader.
+    void sayBootloaderFound();
 
     /// Reads and converts the image; tells in the log what it is or what is wrong.
     bool load_hex_file();
@@ -51,47 +56,74 @@ public slots:
     void on_BTN_restart_clicked();
     void on_BTN_stop_clicked();
     void on_BTN_copy_clicked();
+    void on_BTN_save_clicked();
+    void on_BTN_remedy_clicked();
     void onUpdateProgressBar(int percent);
     void onBootloaderDownloadFinished(bool ok);
     /// Closes the window, unless a download runs; says so when the device is left in its bootloader.
     void reject() override;
+
+signals:
+    /// The user wants the program to end and to start again.
+    void restartWanted();
 
 protected:
     void showEvent(QShowEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:
+    /// What the remedy's button does.
+    enum class Remedy { None, RestartProgram, SmallerPackets, EraseAgain };
+
     void update_button_states();
     void reset_ui_state();
     void retranslateDynamicUi();
-    void onDownloadAdvanced(BootloaderStep step, qint64 acknowledgedBytes);
+    void setUpUpdate();
+    void startUpdate();
+    void onPrepared(const update_plan::Plan &plan);
+    void onStep(UpdateStep step);
+    void onAdvanced(UpdateStep step, qint64 done, qint64 total);
+    void onFinished(const UpdateResult &result);
+    void continueUpdate();
+    void forgetUpdate();
     void fitFont();
     void log(const QString &text);
     void chooseImage(const QString &path);
     void lookAtImage();
     void showImage();
+    void showPlan(const update_plan::Plan &plan);
+    void showResult();
     void onSessionState();
+    update_plan::Subject subject() const;
     bool isConnected() const;
     bool canRestart() const;
     bool isDownloading() const;
+    bool isAccepted() const;
     void showStep();
     void showStatus(const QString &text, bool isProblem);
 
     std::unique_ptr<Ui::form_updater> m_ui;
     DeviceSession *m_session;
+    UpdateNoteCard *m_noteCard;
     FirmwareImage m_image;
+    SessionUpdate m_update;
     QuestionBox m_question;
     bool m_connecting = false; ///< the session connects; all that could be pressed is disabled
     bool m_wasConnected = false;
     bool m_wasDownloading = false;
     bool m_couldRestart = false;
-    bool m_stopping = false; ///< the running download is to be stopped
+    bool m_stopping = false;    ///< the running download is to be stopped
+    bool m_erasesAgain = false; ///< see FirmwareUpdate::Order
+    bool m_isRefused = false;   ///< the running update's check has found what forbids it
+    int m_packetSize = 0;       ///< bytes, chosen by the user; 0: the largest that the target takes
 
     // what the window shows beside the log
     BootloaderFacts m_facts;
-    BootloaderStep m_step = BootloaderStep::Idle; ///< of the running download
-    std::optional<bool> m_result;                 ///< of the last download, until the next is prepared
-    QElapsedTimer m_downloadClock;                ///< since the download began
-    qint64 m_dataBeganMs = 0;                     ///< on m_downloadClock, as the next
-    qint64 m_transferShownMs = 0;
+    update_plan::Plan m_plan; ///< as far as it is known
+    Remedy m_remedy = Remedy::None;
+    std::optional<UpdateResult> m_result; ///< of the last update, until the next is prepared
+    update_plan::Subject m_written;       ///< the last update's
+    UpdateReport m_report;                ///< the last update's, without the log
+    QElapsedTimer m_stepClock;            ///< since the step began
+    qint64 m_transferShownMs = 0;         ///< on m_stepClock
 };

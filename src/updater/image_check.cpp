@@ -8,7 +8,7 @@ namespace {
 
 // RAM of every Cortex-M chip lies in these 768 MiB: code RAM below 0x20000000, the SRAM region above.
 constexpr quint32 kRamBegin = 0x10000000;
-constexpr quint32 kRamEnd = 0x40000000; // a full stack begins right behind its RAM
+constexpr quint32 kRamEnd = 0x40000000; // a full stack begins right after its RAM
 
 quint32 wordAt(const QByteArray &image, qsizetype offset)
 {
@@ -18,13 +18,6 @@ quint32 wordAt(const QByteArray &image, qsizetype offset)
     return qFromLittleEndian<quint32>(bytes);
 }
 
-bool fitsFlash(quint64 imageSize, quint32 loadAddress, int flashSizeKb)
-{
-    const quint64 flashSize = quint64(flashSizeKb) * 1024;
-    const quint64 offset = loadAddress & (std::bit_ceil(flashSize) - 1);
-    return offset + imageSize <= flashSize;
-}
-
 } // namespace
 
 image_check::Vectors image_check::vectors(const QByteArray &image)
@@ -32,21 +25,24 @@ image_check::Vectors image_check::vectors(const QByteArray &image)
     return {wordAt(image, 0), wordAt(image, 4)};
 }
 
-QList<image_check::Doubt> image_check::doubts(const QByteArray &image, quint32 fileAddress, quint32 loadAddress,
-                                              int flashSizeKb)
+QList<image_check::Doubt> image_check::doubts(const QByteArray &image, quint32 loadAddress)
 {
     QList<Doubt> found;
     const auto [stackPointer, resetVector] = vectors(image);
-    const auto size = quint64(image.size());
-    if (fileAddress != loadAddress)
-        found.append(Doubt::OtherAddress);
-    if (flashSizeKb > 0 && !fitsFlash(size, loadAddress, flashSizeKb))
-        found.append(Doubt::TooLarge);
     if (stackPointer % 4 != 0 || stackPointer < kRamBegin || stackPointer > kRamEnd)
         found.append(Doubt::StackPointer);
-    if (resetVector % 2 == 0 || resetVector < loadAddress || resetVector >= loadAddress + size)
+    if (resetVector % 2 == 0 || resetVector < loadAddress || resetVector >= loadAddress + quint64(image.size()))
         found.append(Doubt::ResetVector);
     if (image.size() < kPlausibleSize)
         found.append(Doubt::TooSmall);
     return found;
+}
+
+bool image_check::fitsFlash(qsizetype imageSize, quint32 loadAddress, int flashSizeKb)
+{
+    if (flashSizeKb < 1)
+        return imageSize == 0;
+    const quint64 flashSize = quint64(flashSizeKb) * 1024;
+    const quint64 offset = loadAddress & (std::bit_ceil(flashSize) - 1);
+    return offset + quint64(imageSize) <= flashSize;
 }

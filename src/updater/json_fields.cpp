@@ -24,13 +24,6 @@ qint64 JsonFields::number(const char *name, double highest)
     return fits ? qint64(value) : 0;
 }
 
-bool JsonFields::flag(const char *name)
-{
-    const QJsonValue value = m_object.value(QLatin1String(name));
-    m_fits = m_fits && value.isBool();
-    return value.toBool();
-}
-
 QStringList JsonFields::lines(const char *name, int most)
 {
     const QJsonArray array = m_object.value(QLatin1String(name)).toArray();

@@ -16,7 +16,6 @@ public:
     QString text(const char *name);
     /// A whole number from 0 on.
     qint64 number(const char *name, double highest);
-    bool flag(const char *name);
     QStringList lines(const char *name, int most);
 
     /// All fields read so far were there, and as they should be.

@@ -48,7 +48,6 @@ std::optional<UpdateNote> UpdateNote::read(const QString &folder)
     note.size = fields.number("size", kMaxSize);
     note.done = fields.number("done", kMaxSize);
     note.began = QDateTime::fromString(fields.text("began"), Qt::ISODateWithMs);
-    note.eraseTooSlow = fields.flag("eraseTooSlow");
     const bool makesSense =
         isOurs && fields.fit() && isHash(note.sha256) && note.done <= note.size && note.began.isValid();
     return makesSense ? std::optional(note) : std::nullopt;
@@ -68,7 +67,6 @@ bool UpdateNote::write(const QString &folder) const
         {QStringLiteral("size"), size},
         {QStringLiteral("done"), done},
         {QStringLiteral("began"), began.toUTC().toString(Qt::ISODateWithMs)},
-        {QStringLiteral("eraseTooSlow"), eraseTooSlow},
     };
     QSaveFile saved(path(folder));
     return saved.open(QIODevice::WriteOnly) && saved.write(QJsonDocument(object).toJson()) > 0 && saved.commit();

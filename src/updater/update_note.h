@@ -9,8 +9,7 @@
 /// folder. It is replaced as a whole, so that a program that is killed leaves the old one, the new one or none.
 ///
 ///     {"format": 1, "file": "/a/b.hex", "sha256": "64 hexadecimal digits", "device": "MZ221", "chip": "4d3c2b1a",
-///      "port": "ttyUSB0", "baud": 115200, "address": 134217728, "size": 65536, "done": 4096, "began": "ISO date, UTC",
-///      "eraseTooSlow": false}
+///      "port": "ttyUSB0", "baud": 115200, "address": 134217728, "size": 65536, "done": 4096, "began": "ISO date, UTC"}
 struct UpdateNote
 {
     QString file;   ///< path of the image
@@ -20,10 +19,9 @@ struct UpdateNote
     QString port;
     int baudRate = 0;
     quint32 address = 0;
-    qint64 size = 0;           ///< bytes of the image
-    qint64 done = 0;           ///< those that the target had acknowledged
-    QDateTime began;           ///< UTC
-    bool eraseTooSlow = false; ///< the chip had not answered the erase in time
+    qint64 size = 0; ///< bytes of the image
+    qint64 done = 0; ///< those that the target had acknowledged
+    QDateTime began; ///< UTC
 
     bool operator==(const UpdateNote &) const = default;
 

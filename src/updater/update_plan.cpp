@@ -32,10 +32,9 @@ std::optional<update_plan::Obstacle> flashObstacle(const update_plan::Subject &s
     if (size > flashSize)
         return update_plan::Obstacle::TooLarge;
     if (!offer.flashStart)
-        return image_check::doubts(subject.image, subject.address, subject.address, facts.flashSizeKb)
-                       .contains(image_check::Doubt::TooLarge)
-                   ? std::optional(update_plan::Obstacle::OutsideFlash)
-                   : std::nullopt;
+        return image_check::fitsFlash(subject.image.size(), subject.address, facts.flashSizeKb)
+                   ? std::nullopt
+                   : std::optional(update_plan::Obstacle::OutsideFlash);
     // Many chips have their flash at address 0 as well.
     const quint64 address = subject.address;
     const quint64 offset = address >= *offer.flashStart ? address - *offer.flashStart : address;
@@ -55,7 +54,7 @@ QList<update_plan::Doubt> doubtsOf(const update_plan::Subject &subject, const Bo
     const QDate deviceBuild = update_plan::buildDate(subject.deviceBuild.toUtf8());
     if (imageBuild.isValid() && deviceBuild.isValid() && imageBuild < deviceBuild)
         found.append(Doubt::OlderBuild);
-    for (const image_check::Doubt doubt : image_check::doubts(subject.image, subject.address, subject.address, 0)) {
+    for (const image_check::Doubt doubt : image_check::doubts(subject.image, subject.address)) {
         switch (doubt) {
         case image_check::Doubt::StackPointer:
             found.append(Doubt::StackPointer);
@@ -65,8 +64,6 @@ QList<update_plan::Doubt> doubtsOf(const update_plan::Subject &subject, const Bo
             break;
         case image_check::Doubt::TooSmall:
             found.append(Doubt::TooSmall);
-            break;
-        default:
             break;
         }
     }
@@ -94,20 +91,29 @@ update_plan::PacketFit update_plan::packetFit(int baudRate, int packetSize)
     return fit;
 }
 
-update_plan::Plan update_plan::make(const Subject &subject, const BootloaderFacts &facts, const BootloaderOffer &offer)
+update_plan::Plan update_plan::look(const Subject &subject)
 {
     Plan plan;
     plan.cut = subject.cut;
     plan.imageBuild = buildDate(subject.image);
-    plan.readsBack = offer.readsMemory();
-    plan.isLocked = offer.isLocked;
-    plan.packetSize = subject.packetSize > 0 ? qMin(subject.packetSize, facts.maxPacketSize) : facts.maxPacketSize;
     if (subject.image.isEmpty()) {
         plan.obstacles.append(Obstacle::EmptyImage);
         return plan;
     }
     if (subject.fileAddress != subject.address)
         plan.obstacles.append(Obstacle::OtherAddress);
+    plan.doubts = doubtsOf(subject, {}, plan.imageBuild);
+    return plan;
+}
+
+update_plan::Plan update_plan::make(const Subject &subject, const BootloaderFacts &facts, const BootloaderOffer &offer)
+{
+    Plan plan = look(subject);
+    plan.readsBack = offer.readsMemory();
+    plan.isLocked = offer.isLocked;
+    plan.packetSize = subject.packetSize > 0 ? qMin(subject.packetSize, facts.maxPacketSize) : facts.maxPacketSize;
+    if (subject.image.isEmpty())
+        return plan;
     if (plan.packetSize < 1)
         plan.obstacles.append(Obstacle::NoDataPackets);
     if (const auto obstacle = flashObstacle(subject, facts, offer))

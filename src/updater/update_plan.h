@@ -72,6 +72,8 @@ struct Plan
     QDate imageBuild;       ///< not valid: the image does not tell
 };
 
+/// What the image shows by itself, before a bootloader is asked.
+Plan look(const Subject &subject);
 Plan make(const Subject &subject, const BootloaderFacts &facts, const BootloaderOffer &offer);
 
 /// The date behind the first "build" of a text or an image, in any letter case: "build 2026-03-02". Not valid without.

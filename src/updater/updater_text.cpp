@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include "app/sentences.h"
+#include "updater/image_check.h"
 
 namespace {
 
@@ -84,25 +85,6 @@ QString nextStep(const BootloaderOutcome &outcome)
     return Text::tr("The bootloader stays in the device: press Connect, then Download.");
 }
 
-QString doubt(image_check::Doubt doubt, const FirmwareImage &image, int flashSizeKb)
-{
-    switch (doubt) {
-    case image_check::Doubt::OtherAddress:
-        return Text::tr("The file begins at %1, but it will be written to %2, where the first file of this run began. "
-                        "Restart the program to write it to its own address.")
-            .arg(updater_text::address(image.fileAddress()), updater_text::address(image.targetAddress()));
-    case image_check::Doubt::TooLarge:
-        return Text::tr("The image does not fit the %1 KB of flash from this address on.").arg(grouped(flashSizeKb));
-    case image_check::Doubt::StackPointer:
-        return Text::tr("The stack pointer is no word address in RAM.");
-    case image_check::Doubt::ResetVector:
-        return Text::tr("The reset vector is no Thumb address inside the image.");
-    case image_check::Doubt::TooSmall:
-        return Text::tr("The image is very small for a firmware.");
-    }
-    return {};
-}
-
 QString hex8(quint32 value)
 {
     return QStringLiteral("%1").arg(value, 8, 16, QLatin1Char('0'));
@@ -141,29 +123,6 @@ QString updater_text::loadLog(FirmwareImage::Problem problem, const FirmwareImag
            + Text::tr("PC:0x%1\n").arg(hex8(resetVector)) + Text::tr("ADDR:0x%1\n").arg(hex8(image.loadAddress()));
 }
 
-QString updater_text::step(BootloaderStep step)
-{
-    switch (step) {
-    case BootloaderStep::Idle:
-        return {};
-    case BootloaderStep::Restart:
-    case BootloaderStep::Ping:
-    case BootloaderStep::Properties:
-        return Text::tr("Connecting to the bootloader…");
-    case BootloaderStep::Erase:
-        return Text::tr("Erasing the flash…");
-    case BootloaderStep::Write:
-        return Text::tr("Preparing to write…");
-    case BootloaderStep::Data:
-        return Text::tr("Writing the image…");
-    case BootloaderStep::Verify:
-        return Text::tr("Reading the flash back…");
-    case BootloaderStep::Reset:
-        return Text::tr("Restarting the device…");
-    }
-    return {};
-}
-
 QString updater_text::connectFailure(const BootloaderOutcome &outcome)
 {
     return joinSentences({cause(outcome), deviceState(outcome, 0), nextStep(outcome)});
@@ -181,26 +140,10 @@ QString updater_text::downloadFailure(const BootloaderOutcome &outcome, qint64 t
 
 QString updater_text::stopped(const BootloaderOutcome &outcome, qint64 total)
 {
-    return joinSentences({Text::tr("The download was stopped."), deviceState(outcome, total), nextStep(outcome)});
-}
-
-bool updater_text::isDoubtful(const BootloaderOutcome &outcome)
-{
-    return outcome.targetStatus != 0 || (outcome.sentPackets > 0 && !outcome.isConfirmed);
-}
-
-QString updater_text::downloadSuccess(const BootloaderOutcome &outcome, qint64 elapsedMs)
-{
-    const QString written = Text::tr("%1 bytes were written in %2 s, %3 of %4 packets were sent again.")
-                                .arg(grouped(outcome.acknowledgedBytes), decimal(double(elapsedMs) / 1000.0),
-                                     grouped(outcome.repeatedPackets), grouped(outcome.sentPackets));
-    if (!isDoubtful(outcome))
-        return joinSentences({written, Text::tr("The device restarts with the new firmware.")});
-    const QString doubt = outcome.targetStatus != 0
-                              ? Text::tr("But the bootloader reported status %1.").arg(outcome.targetStatus)
-                              : Text::tr("But the bootloader did not confirm the whole image.");
-    return joinSentences(
-        {written, doubt, Text::tr("If the firmware does not start, press Connect and download again.")});
+    return joinSentences({Text::tr("The download was stopped."), deviceState(outcome, total),
+                          isConnectStep(outcome.step)
+                              ? Text::tr("The bootloader is connected: press Download, or Restart device.")
+                              : nextStep(outcome)});
 }
 
 QString updater_text::transfer(qint64 done, qint64 total, qint64 elapsedMs)
@@ -231,16 +174,6 @@ QString updater_text::image(const FirmwareImage &image)
     return Text::tr("%1 bytes from %2, stack pointer %3, reset vector %4")
         .arg(grouped(image.shown().size()), address(image.targetAddress()), address(stackPointer),
              address(resetVector));
-}
-
-QString updater_text::doubts(const FirmwareImage &image, int flashSizeKb)
-{
-    QStringList lines;
-    for (const image_check::Doubt found : image.doubts(flashSizeKb))
-        lines.append(doubt(found, image, flashSizeKb));
-    if (image.hasChanged())
-        lines.append(Text::tr("The file has changed since it was loaded. Choose it again to load it anew."));
-    return lines.join(u'\n');
 }
 
 QString updater_text::address(quint32 address)

@@ -8,9 +8,6 @@
 /// Sentences of the firmware update for people.
 namespace updater_text {
 
-/// "Erasing the flash…"
-QString step(BootloaderStep step);
-
 /// Lines of the log: the end of a connect, and of loading the image.
 QString factsLog(const BootloaderFacts &facts);
 QString connectFailureLog();
@@ -25,12 +22,6 @@ QString downloadFailure(const BootloaderOutcome &outcome, qint64 total, int pack
 /// The user has stopped the download: what state the device is in and what to do next.
 QString stopped(const BootloaderOutcome &outcome, qint64 total);
 
-/// Something speaks against a download that went through to its end.
-bool isDoubtful(const BootloaderOutcome &outcome);
-
-/// What a download that took `elapsedMs` did.
-QString downloadSuccess(const BootloaderOutcome &outcome, qint64 elapsedMs);
-
 /// "8,192 of 65,536 bytes · 40.0 KB/s · 2 s left"; rate and rest only when there is something to judge by.
 QString transfer(qint64 done, qint64 total, qint64 elapsedMs);
 
@@ -39,9 +30,6 @@ QString facts(const BootloaderFacts &facts);
 
 /// "65,536 bytes from 0x08000000, stack pointer 0x20004000, reset vector 0x080000c1", or why there is no image.
 QString image(const FirmwareImage &image);
-
-/// One line for each doubt about an image for a target with `flashSizeKb` of flash (below 1: not known); empty: none.
-QString doubts(const FirmwareImage &image, int flashSizeKb);
 
 /// "0x0800a000"
 QString address(quint32 address);

@@ -2,6 +2,8 @@
 #include <QAction>
 #include <QMenu>
 #include <QRegularExpression>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSettings>
 #include <QStyleOptionComboBox>
 #include <QTest>
@@ -60,6 +62,26 @@ QString cutOff(const QWidget *window)
     return {};
 }
 
+/// The left column has one scroll bar at most, which leads to the last node.
+void checkLeftColumn(const Desk &desk, const char *font)
+{
+    const auto *column = desk.find<QScrollArea>("scroll_left");
+    auto *list = desk.find<QListWidget>("list_nodes");
+    const auto bars = [&] {
+        const auto all = column->findChildren<QScrollBar *>();
+        return std::count_if(all.begin(), all.end(), [](const QScrollBar *bar) { return bar->isVisible(); });
+    };
+    const auto isLastReached = [&] {
+        list->setFocus();
+        QTest::keyClick(list, Qt::Key_Home);
+        QTest::keyClick(list, Qt::Key_End);
+        const QRect place = list->visualItemRect(list->item(list->count() - 1));
+        const QRect shown(list->viewport()->mapTo(column->viewport(), place.topLeft()), place.size());
+        return bars() == 1 && column->viewport()->rect().contains(shown);
+    };
+    QTRY_VERIFY2(isLastReached(), font); // once the new font is laid out
+}
+
 /// The first text in Asian script in any visible window, but for the names of the languages; empty when there is none.
 QString foreignText()
 {
@@ -107,7 +129,7 @@ private slots:
         QFETCH(QString, code);
         QFETCH(QString, someText);
         SimulatorProcess simulator(
-            {QStringLiteral("--device"), QStringLiteral("gateway"), QStringLiteral("--nodes"), QStringLiteral("3")});
+            {QStringLiteral("--device"), QStringLiteral("gateway"), QStringLiteral("--nodes"), QStringLiteral("16")});
         Desk desk;
         QSettings(settings_keys::kFile, QSettings::IniFormat).setValue(settings_keys::kLanguage, QStringLiteral("EN"));
         QVERIFY(AppLanguageManager::instance().initialize());
@@ -128,9 +150,10 @@ private slots:
         desk.find<QAction>("action_export_data")->trigger();
         desk.find<QAction>("actionDevice_Settiing")->trigger();
         desk.find<QAction>("actionAbout")->trigger();
-        QTRY_VERIFY(desk.find<QListWidget>("list_nodes")->count() == 3);
+        QTRY_VERIFY(desk.find<QListWidget>("list_nodes")->count() == 16);
         for (const char *font : {"actionFontSmall", "actionFontMedium", "actionFontBig"}) {
             desk.find<QAction>(font)->trigger();
+            checkLeftColumn(desk, font);
             for (QWidget *window : QApplication::topLevelWidgets()) {
                 if (!window->isVisible() || (window != desk.window.get() && !window->inherits("QDialog")))
                     continue;

@@ -21,7 +21,7 @@ struct UpdateDesk
         QFile file(QStringLiteral("firmware.hex"));
         if (!file.open(QIODevice::WriteOnly))
             return;
-        const QByteArray start = QByteArray::fromHex("00400020C1000000");
+        const QByteArray start = QByteArray::fromHex("00400020C1000008") + "build 2026-05-17";
         file.write(hex_file::file(start + QByteArray(packets * kPacket - start.size(), 'x'), 0x08000000));
         file.close();
         if (!connectTo(desk, simulator))
@@ -33,11 +33,11 @@ struct UpdateDesk
     {
         return updater->findChild<Widget *>(QLatin1String(name));
     }
-    /// How the last download ended: "Complete", or a sentence.
+    /// How the last download ended: "Verified", or a sentence.
     QString end() const
     {
         const QString step = find<QLabel>("LBL_step")->text();
-        return step == QLatin1String("Complete") ? step : find<QLabel>("LBL_status")->text();
+        return step == QLatin1String("Verified") ? step : find<QLabel>("LBL_status")->text();
     }
     bool isConnected() const { return find<QPushButton>("BTN_download")->isEnabled(); }
     bool isDownloading() const { return !find<QPushButton>("BTN_close")->isEnabled(); }
@@ -67,7 +67,7 @@ class TestSessionLine : public QObject
 private slots:
     void connectsAgainAndAgain()
     {
-        const UpdateDesk with(1);
+        const UpdateDesk with(40);
         QVERIFY(with.updater != nullptr);
         for (int round = 0; round < 3; ++round) {
             click(with.updater, "BTN_connect");
@@ -93,7 +93,7 @@ private slots:
         QVERIFY(with.desk.isOpen());
         QVERIFY(with.find<QLabel>("LBL_status")->text().contains(QLatin1String("has to end first")));
         QTRY_VERIFY_WITH_TIMEOUT(!with.isDownloading(), 10000);
-        QCOMPARE(with.end(), QStringLiteral("Complete"));
+        QTRY_COMPARE_WITH_TIMEOUT(with.end(), QStringLiteral("Verified"), 20000);
         QVERIFY(open->isEnabled());
     }
 
@@ -126,12 +126,12 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(!with.isDownloading(), 20000);
         QCOMPARE(with.simulator.stat("boot_text_commands"), 0);
         QCOMPARE(with.simulator.stat("boot_text_in_data"), 0);
-        QCOMPARE(with.end(), QStringLiteral("Complete"));
+        QTRY_COMPARE_WITH_TIMEOUT(with.end(), QStringLiteral("Verified"), 20000);
     }
 
     void leavesTheBootloader()
     {
-        UpdateDesk with(1);
+        UpdateDesk with(40);
         QVERIFY(with.updater != nullptr);
         click(with.updater, "BTN_connect");
         QTRY_VERIFY(with.isConnected());

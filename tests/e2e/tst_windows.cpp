@@ -278,7 +278,7 @@ private slots:
         SimulatorProcess simulator({QStringLiteral("--bootloader-wait"), QStringLiteral("5000"),
                                     QStringLiteral("--packet-size"), QStringLiteral("512")});
         Desk desk;
-        const QByteArray image = QByteArray::fromHex("00400020C1000000") + QByteArray(60000, 'x');
+        const QByteArray image = QByteArray::fromHex("00400020C1000008") + QByteArray(60000, 'x');
         QFile file(QStringLiteral("firmware.hex"));
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(hex_file::file(image, 0x08000000));
@@ -297,7 +297,7 @@ private slots:
         const auto *identify = desk.settings()->findChild<QPushButton *>(QStringLiteral("BTN_identify"));
         QVERIFY(!identify->isEnabled() && identify->toolTip().contains(QLatin1String("bootloader")));
         press("BTN_download");
-        QVERIFY(session.state() == SessionState::Updating);
+        QTRY_VERIFY(session.state() == SessionState::Updating);
         QVERIFY(!desk.find<QAction>("action_serial_stop")->isEnabled());
         QVERIFY(!desk.window->close());
         QVERIFY(desk.isOpen());

@@ -6,6 +6,7 @@
 
 #include "device/command_session.h"
 #include "record/recorder.h"
+#include "link/kv_uart_port.h"
 #include "session/device_session.h"
 #include "support/session_device.h"
 
@@ -76,7 +77,7 @@ struct Bench
             if (state == State::Bootloader || state == State::Updating)
                 session.connectBootloader();
             if (state == State::Updating)
-                session.startDownload(kImage, 0, 2);
+                borrow();
             if (session.state() == state)
                 act();
         }
@@ -97,20 +98,26 @@ struct Bench
             return session.tryBaudRates();
         case Action::ConnectBootloader:
             return session.connectBootloader();
-        case Action::Download:
-            return session.startDownload(kImage, 0, 2);
-        case Action::StopDownload:
-            return session.stopDownload();
         case Action::RestartDevice:
             return session.restartDevice();
         case Action::SendCommand:
             session.commands().runHotkey(SettingsHotkeyAction::StopOutput);
             return session.allows(action);
+        case Action::Download:
+        case Action::StopDownload:
         case Action::StartRecording:
         case Action::Quit:
-            return session.allows(action); // done by others, who ask
+            break; // done by others, who ask
         }
-        return false;
+        return session.allows(action);
+    }
+
+    /// As one who writes firmware.
+    bool borrow()
+    {
+        const bool lent = session.allows(Action::Download) && session.lendLine();
+        session.setLineWriting(true);
+        return lent;
     }
 };
 
@@ -176,8 +183,6 @@ private slots:
         row("open in bootloader", State::Bootloader, Action::OpenPort, State::Silent);
         row("close in bootloader", State::Bootloader, Action::ClosePort, State::Closed);
         row("restart the device", State::Bootloader, Action::RestartDevice, State::Live);
-        row("download", State::Bootloader, Action::Download, State::Live);
-        row("stop the download", State::Updating, Action::StopDownload, State::Bootloader);
     }
 
     void doesWhatTheStateAllows()
@@ -241,14 +246,19 @@ private slots:
             QVERIFY(bench.session.connectBootloader());
             QVERIFY(!bench.session.identify());
         }
-        QSignalSpy finished(&bench.session, &DeviceSession::downloadFinished);
+        QSignalSpy finished(&bench.session.port(), &KvUartPort::bootloaderDownloadFinished);
         QSignalSpy samples(&bench.session, &DeviceSession::sampleReceived);
         qsizetype samplesBefore = -1; // the end of the download
-        connect(&bench.session, &DeviceSession::downloadFinished, &samples, [&] { samplesBefore = samples.count(); });
-        QVERIFY(bench.session.startDownload(kImage, 0, 2));
+        connect(&bench.session.port(), &KvUartPort::bootloaderDownloadFinished, &samples, [&] {
+            samplesBefore = samples.count();
+            bench.session.returnLine(LineReturn::FirmwareStarts);
+        });
+        QVERIFY(bench.borrow());
+        QMetaObject::invokeMethod(&bench.session.port(), "startDownloadBootloader", Qt::QueuedConnection,
+                                  Q_ARG(QByteArray, kImage), Q_ARG(int, 0), Q_ARG(int, 2));
         QVERIFY(finished.wait(15000));
         QVERIFY(finished.constFirst().constFirst().toBool());
-        QCOMPARE(samplesBefore, 0);
+        QTRY_COMPARE(samplesBefore, 0);
         QCOMPARE(bench.device.takeStrayTexts(), QByteArrayList());
         QTRY_VERIFY_WITH_TIMEOUT(bench.session.device().valid, 8000);
         QTRY_VERIFY(samples.count() > 5);
@@ -257,19 +267,34 @@ private slots:
     void failedDownloadStaysWithTheBootloader()
     {
         Bench bench;
-        QVERIFY(bench.in(State::Updating, [&] { bench.session.stopDownload(); }));
-        QTRY_COMPARE(int(bench.session.state()), int(State::Bootloader));
+        QVERIFY(bench.in(State::Updating, [&] { bench.session.returnLine(LineReturn::BootloaderStays); }));
+        QCOMPARE(int(bench.session.state()), int(State::Bootloader));
         QVERIFY(!bench.session.allows(Action::Download)); // connect first
         QVERIFY(bench.session.connectBootloader());
         QVERIFY(bench.session.allows(Action::Download));
         QCOMPARE(bench.device.takeStrayTexts(), QByteArrayList());
     }
 
+    // Whoever has changed nothing leaves everything as it was.
+    void anUnusedLineComesBackAsItWas()
+    {
+        for (const bool isConnected : {false, true}) {
+            Bench bench;
+            QVERIFY(bench.in(isConnected ? State::Bootloader : State::Live, [&] {
+                QVERIFY(bench.session.lendLine());
+                QVERIFY(!bench.session.allows(Action::SendCommand) && !bench.session.lendLine());
+                bench.session.returnLine(LineReturn::AsBefore);
+            }));
+            QCOMPARE(bench.session.allows(Action::Download), isConnected);
+            if (!isConnected)
+                QTRY_COMPARE_WITH_TIMEOUT(int(bench.session.state()), int(State::Live), 8000);
+        }
+    }
+
     void firmwareThatLivesEndsTheBootloaderState()
     {
         Bench bench;
-        QVERIFY(bench.in(State::Updating, [&] { bench.session.stopDownload(); }));
-        QTRY_COMPARE(int(bench.session.state()), int(State::Bootloader));
+        QVERIFY(bench.in(State::Updating, [&] { bench.session.returnLine(LineReturn::BootloaderStays); }));
         bench.session.takePayload(frames::fullRecord(1));
         QCOMPARE(int(bench.session.state()), int(State::Live));
     }

@@ -86,7 +86,7 @@ public:
         return bytes.replace(8, text.size(), text);
     }
 
-    void start(const QByteArray &image, int comeBackMs = 2500)
+    void start(const QByteArray &image, int comeBackMs = 2500, bool erasesAgain = false)
     {
         FirmwareUpdate::Order order;
         order.subject.image = image;
@@ -96,6 +96,7 @@ public:
         order.subject.deviceBuild = QStringLiteral("build 2026-03-02");
         order.file = QStringLiteral("/tmp/firmware.hex");
         order.comeBackMs = comeBackMs;
+        order.erasesAgain = erasesAgain;
         m_isDone = false;
         refusal.reset();
         steps.clear();
@@ -104,9 +105,9 @@ public:
     }
     bool isDone() const { return m_isDone; }
     /// Runs one update to its end. False when it has not come to one.
-    bool run(const QByteArray &image, int comeBackMs = 2500)
+    bool run(const QByteArray &image, int comeBackMs = 2500, bool erasesAgain = false)
     {
-        start(image, comeBackMs);
+        start(image, comeBackMs, erasesAgain);
         return QTest::qWaitFor([this] { return m_isDone; }, 60000);
     }
     const UpdateResult &result() const { return m_update.result(); }

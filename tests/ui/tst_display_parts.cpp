@@ -88,8 +88,11 @@ private slots:
     void keepsTheExtentOfEachBucket()
     {
         for (const float value : {1.0F, -3.0F, 2.0F})
-            append(10 * kStep, value, 7.0F);
+            append(10 * kStep + qint64(value) + 4, value, 7.0F);
         append(11 * kStep, 9.0F);
+        append(10 * kStep + 9, 0.0F, 7.0F); // it arrived late, and has its place
+        QCOMPARE(int(m_trace.at(0, 1).lowMs), 1);
+        QCOMPARE(int(m_trace.at(0, 1).highMs), 6);
         QCOMPARE(m_trace.at(0, 0).low, 9.0F);
         QCOMPARE(m_trace.at(0, 1).low, -3.0F);
         QCOMPARE(m_trace.at(0, 1).high, 2.0F);
@@ -116,6 +119,7 @@ private slots:
         append(kStep, Floats::quiet_NaN());
         append(kStep, Floats::infinity());
         QVERIFY(m_trace.at(0, 0).isEmpty());
+        QVERIFY(m_trace.at(0, 0).isBroken && !m_trace.at(1, 0).isBroken);
         append(kStep, 4.0F);
         QCOMPARE(m_trace.at(0, 0).high, 4.0F);
     }
@@ -123,8 +127,9 @@ private slots:
     void survivesOddTimes()
     {
         append(std::numeric_limits<qint64>::max(), 1.0F);
-        append(0, 2.0F); // a clock that ran backwards adds to the newest bucket
-        QCOMPARE(m_trace.at(0, 0).high, 2.0F);
+        append(0, 2.0F); // older than all that is kept
+        append(-1, 3.0F);
+        QCOMPARE(m_trace.total().high, 1.0F);
         QVERIFY(m_trace.at(0, -1).isEmpty());
         QVERIFY(m_trace.at(0, TraceBuffer::kBuckets).isEmpty());
         m_trace.clear();

@@ -1,7 +1,10 @@
 #include <QApplication>
+#include <QCheckBox>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
@@ -15,6 +18,7 @@
 
 #include "app/settings_keys.h"
 #include "record/recorder.h"
+#include "record/recording_sidecars.h"
 #include "record/recording_target.h"
 #include "support/slow_disk.h"
 #include "ui/form_record.h"
@@ -100,6 +104,8 @@ public:
 
 } // namespace
 
+Q_DECLARE_METATYPE(RecordingOptions)
+
 class TestFormRecord : public QObject
 {
     Q_OBJECT
@@ -115,6 +121,110 @@ private slots:
         QVERIFY(QDir::setCurrent(m_folder->path()));
     }
     void cleanup() { QDir::setCurrent(QDir::rootPath()); }
+
+    void endsByItself_data()
+    {
+        QTest::addColumn<RecordingOptions>("options");
+        QTest::addColumn<QString>("state");
+        RecordingOptions byTime;
+        byTime.stopsByTime = true;
+        byTime.minutes = 0; // less than can be typed
+        RecordingOptions bySize;
+        bySize.stopsBySize = true;
+        bySize.mebibytes = 1;
+        QTest::newRow("time") << byTime << "Recording ended: the time is up";
+        QTest::newRow("size") << bySize << "Recording ended: the size is reached";
+    }
+    void endsByItself()
+    {
+        QFETCH(RecordingOptions, options);
+        QFETCH(QString, state);
+        Bench bench;
+        bench.type(m_folder->path(), QStringLiteral("a"));
+        bench.child<QCheckBox>("CHK_resume")->click(); // what is chosen is in force, and kept
+        QVERIFY(bench.recorder.options().resumes && Recorder().options().resumes);
+        QVERIFY(bench.start());
+        bench.recorder.setOptions(options);
+        const auto goesOn = [&bench] {
+            for (int i = 0; i < 100; ++i)
+                bench.recorder.imuPackage0x62(batch());
+            return bench.recorder.isRecording();
+        };
+        QTRY_VERIFY(!goesOn());
+        bench.recorder.waitForFile();
+        QCOMPARE(bench.text("LBL_state"), state);
+        QVERIFY(options.stopsByTime || QFileInfo(bench.file()).size() >= 1024 * 1024);
+    }
+
+    void goesOnAfterALostLink_data()
+    {
+        QTest::addColumn<bool>("resumes");
+        QTest::addColumn<bool>("isLoss");
+        QTest::addColumn<bool>("stopped"); // while it waited
+        QTest::addColumn<bool>("goesOn");
+        QTest::newRow("lost") << true << true << false << true;
+        QTest::newRow("not asked to") << false << true << false << false;
+        QTest::newRow("port closed") << true << false << false << false;
+        QTest::newRow("stopped meanwhile") << true << true << true << false;
+    }
+    void goesOnAfterALostLink()
+    {
+        QFETCH(bool, resumes);
+        QFETCH(bool, isLoss);
+        QFETCH(bool, stopped);
+        QFETCH(bool, goesOn);
+        Bench bench;
+        RecordingOptions options;
+        options.resumes = resumes;
+        bench.recorder.setOptions(options);
+        bench.type(m_folder->path(), QStringLiteral("a"));
+        QVERIFY(bench.start());
+        const QString first = bench.recorder.filePath();
+        if (isLoss)
+            bench.recorder.expectLoss();
+        bench.recorder.setLinkOpen(false);
+        bench.recorder.waitForFile();
+        QCOMPARE(bench.text("LBL_state") == QLatin1String("Waiting for the connection to come back"),
+                 resumes && isLoss);
+        if (stopped)
+            bench.press();
+        bench.recorder.setLinkOpen(true);
+        QVERIFY(!bench.recorder.isRecording()); // not before the device is there
+        bench.recorder.imuPackage0x91({});
+        QCOMPARE(bench.recorder.isRecording(), goesOn);
+        if (!goesOn)
+            return;
+        QTRY_COMPARE(bench.state(), State::Recording);
+        QVERIFY(bench.recorder.filePath() != first);
+        QTRY_COMPARE(bench.recorder.recordCount(), 1U);
+        bench.recorder.setLinkOpen(false); // closed on purpose: this time it is the end
+        bench.recorder.waitForFile();
+        QVERIFY(!bench.recorder.isWaitingForLink());
+    }
+
+    void tellsWhichNodesAreLeftOut()
+    {
+        Bench bench;
+        bench.type(m_folder->path(), QStringLiteral("a"));
+        QVERIFY(bench.start());
+        QList<node_data_t> nodes(16);
+        for (int i = 0; i < 16; ++i)
+            nodes[i].id = quint8(i + 1);
+        bench.recorder.imuPackage0x62(nodes);
+        QTRY_COMPARE(bench.recorder.recordCount(), 1U);
+        QVERIFY(bench.notice().isEmpty());
+        for (const int id : {200, 17, 200}) {
+            node_data_t node;
+            node.id = quint8(id);
+            bench.recorder.imuPackage0x62(nodes + QList{node});
+        }
+        QTRY_COMPARE(bench.notice(), QLatin1String("A file holds 16 nodes. Not recorded: 17, 200"));
+        bench.stop();
+        QFile description(RecordingSidecars::descriptionPath(bench.recorder.filePath()));
+        QVERIFY(description.open(QIODevice::ReadOnly));
+        QCOMPARE(QJsonDocument::fromJson(description.readAll())[QStringLiteral("nodes_left_out")].toArray(),
+                 (QJsonArray{17, 200}));
+    }
 
     void recordsUntilTheLinkCloses()
     {

@@ -2,16 +2,20 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
+#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QtTest>
 
+#include <utility>
+
 #include "app/theme.h"
 #include "device/command_broker.h"
 #include "device/command_session.h"
 #include "session/device_session.h"
+#include "support/frames.h"
 #include "support/pty_pair.h"
 #include "ui/form_about.h"
 #include "ui/form_com_select.h"
@@ -33,6 +37,7 @@ public:
     QString path() const { return m_pty.path(); }
 
     QByteArray infoReply = "MZ221 V1.6\r\nOK\r\n";
+    QByteArray settings; ///< lines of the information
     QByteArray otherReply = "OK\r\n";
     QByteArray received;
     int lostResumes = 0; ///< so many of the next commands that resume the output get lost on the line
@@ -62,10 +67,11 @@ struct Bench
     std::unique_ptr<DeviceSession> session = std::make_unique<DeviceSession>();
     std::unique_ptr<form_settings> dialog = std::make_unique<form_settings>(session.get());
 
-    explicit Bench(const QByteArray &model = "MZ221 V1.6")
+    explicit Bench(const QByteArray &model = "MZ221 V1.6", const QByteArray &settings = {}, int baud = kBaud)
     {
-        peer.infoReply = model + "\r\nUUID: 1\r\n";
-        QVERIFY(session->open(peer.path(), kBaud));
+        peer.infoReply = model + "\r\nUUID: 1\r\n" + settings;
+        peer.settings = settings;
+        QVERIFY(session->open(peer.path(), baud));
         dialog->show();
         QVERIFY(QTest::qWaitForWindowExposed(dialog.get()));
         QApplication::setActiveWindow(dialog.get()); // there may be no window manager to do it
@@ -74,7 +80,7 @@ struct Bench
     }
     void identify(const QByteArray &model)
     {
-        peer.infoReply = model + "\r\nUUID: 1\r\n";
+        peer.infoReply = model + "\r\nUUID: 1\r\n" + peer.settings;
         QVERIFY(!dialog->get_prod_info().isEmpty());
         waitForTheEnd();
     }
@@ -108,6 +114,21 @@ struct Bench
             session->findChild<CommandBroker *>(), &CommandBroker::serialSend, &peer, [action] { action(); }, once);
     }
 };
+
+/// The first label or button with less room than it needs. Device texts, which may be of any length, are left out.
+QString firstCutOff(const QDialog *dialog)
+{
+    for (const QWidget *widget : dialog->findChildren<QWidget *>()) {
+        const bool isText = qobject_cast<const QPushButton *>(widget) != nullptr
+                            || (qobject_cast<const QLabel *>(widget) != nullptr
+                                && widget->sizePolicy().horizontalPolicy() != QSizePolicy::Ignored);
+        const QSize least = widget->minimumSizeHint();
+        const int height = widget->hasHeightForWidth() ? widget->heightForWidth(widget->width()) : least.height();
+        if (isText && widget->isVisible() && (widget->width() < least.width() || widget->height() < height))
+            return widget->objectName();
+    }
+    return {};
+}
 
 } // namespace
 
@@ -169,6 +190,78 @@ private slots:
             bench.press("BTN_save");
             QVERIFY(bench.status().contains(QLatin1String(isAt ? "refused AT+ID=17, AT+ODR" : "refused CONFIG ATT")));
         }
+    }
+
+    void startsWithWhatTheDeviceAnswers()
+    {
+        Bench bench("MZ221 V1.6", "ID: 7\r\nODR: 100\r\nMODE: 1\r\n");
+        const auto shown = [&bench] {
+            return QStringList{bench.child<QSpinBox>("SB_id")->text(), bench.child<QComboBox>("CB_rate")->currentText(),
+                               QString::number(bench.child<QComboBox>("CB_mode")->currentIndex())};
+        };
+        const auto lines = [](const char *text) { return QString::fromLatin1(text).split(u' '); };
+        QCOMPARE(shown(), lines("7 100 1"));
+        QVERIFY(bench.button("BTN_save")->isEnabled());
+
+        // What is typed stays while nobody answers, and when the same device answers again.
+        bench.child<QSpinBox>("SB_id")->setValue(17);
+        const QByteArray infoReply = std::exchange(bench.peer.infoReply, QByteArray());
+        bench.press("BTN_identify");
+        QCOMPARE(bench.status(),
+                 QLatin1String("The device does not answer. Check the baud rate, then identify it again."));
+        QCOMPARE(shown(), lines("17 100 1"));
+        QVERIFY(bench.child<QWidget>("SB_id")->isVisible() && !bench.button("BTN_save")->isEnabled());
+        // The baud rate cannot be wrong where data arrive.
+        bench.session->takePayload(frames::fullRecord(1));
+        bench.press("BTN_identify");
+        QCOMPARE(bench.status(),
+                 QLatin1String("The device does not answer, although its data arrive. Identify it again."));
+        bench.peer.infoReply = infoReply;
+        bench.press("BTN_identify");
+        QCOMPARE(shown(), lines("17 100 1"));
+
+        // Another answer is that of another device, or what was saved.
+        bench.peer.infoReply.replace("ID: 7", "ID: 17").replace("ODR: 100", "ODR: 200");
+        bench.press("BTN_save");
+        QCOMPARE(shown(), lines("17 200 1"));
+        QTRY_VERIFY(!bench.session->commands().isBusy());
+        bench.session->close();
+        QVERIFY(bench.child<QWidget>("SB_id")->isHidden());
+    }
+
+    void warnsOfARateThatTheLineCannotCarry_data()
+    {
+        QTest::addColumn<int>("baud");
+        QTest::addColumn<QString>("rate");
+        QTest::addColumn<QString>("load"); // empty: it can
+        QTest::newRow("400 Hz") << 115200 << "400"
+                                << "284 %";
+        QTest::newRow("200 Hz") << 115200 << "200"
+                                << "142 %";
+        QTest::newRow("100 Hz") << 115200 << "100" << QString();
+        QTest::newRow("faster line") << 921600 << "400" << QString();
+    }
+    void warnsOfARateThatTheLineCannotCarry()
+    {
+        QFETCH(int, baud);
+        QFETCH(QString, rate);
+        QFETCH(QString, load);
+        Bench bench("MZ221 V1.6", "ID: 7\r\nODR: 10\r\n", baud);
+        bench.child<QComboBox>("CB_rate")->setCurrentText(rate);
+        const auto *hint = bench.child<QLabel>("LBL_rateHint");
+        QCOMPARE(hint->text().isEmpty(), load.isEmpty());
+        QVERIFY2(hint->text().contains(load), qPrintable(hint->text()));
+        if (load.isEmpty())
+            return;
+        bench.press("BTN_save");
+        auto *question = bench.dialog->findChild<QMessageBox *>();
+        QVERIFY(question != nullptr && question->text().contains(load));
+        const bool isSaved = load.startsWith(u'2');
+        for (QAbstractButton *button : question->buttons()) {
+            if (button->text() == QLatin1String(isSaved ? "Save all the same" : "Cancel"))
+                button->click();
+        }
+        QCOMPARE(bench.peer.received.contains("AT+ODR=" + rate.toLatin1()), isSaved);
     }
 
     void sendsOneClickCommands()
@@ -351,18 +444,8 @@ private slots:
                 QVERIFY(QTest::qWaitForWindowExposed(dialog));
                 QCoreApplication::sendPostedEvents(); // the identification has changed what is shown
                 QVERIFY2(dialog->width() <= 1366 && dialog->height() <= 768 - 64, qPrintable(dialog->objectName()));
-                // Nothing that is read is cut off; device texts, which may be of any length, are.
-                for (const QWidget *widget : dialog->findChildren<QWidget *>()) {
-                    const bool isText = qobject_cast<const QPushButton *>(widget) != nullptr
-                                        || (qobject_cast<const QLabel *>(widget) != nullptr
-                                            && widget->sizePolicy().horizontalPolicy() != QSizePolicy::Ignored);
-                    const QSize least = widget->minimumSizeHint();
-                    const bool flows = widget->hasHeightForWidth();
-                    const int height = flows ? widget->heightForWidth(widget->width()) : least.height();
-                    QVERIFY2(!isText || !widget->isVisible()
-                                 || (widget->width() >= least.width() && widget->height() >= height),
-                             qPrintable(QStringLiteral("%1 at %2 pt").arg(widget->objectName()).arg(points)));
-                }
+                const auto cutOff = [dialog] { return firstCutOff(dialog); };
+                QTRY_VERIFY2(cutOff().isEmpty(), qPrintable(QStringLiteral("%1 at %2 pt").arg(cutOff()).arg(points)));
             }
         }
     }

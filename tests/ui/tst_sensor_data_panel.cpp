@@ -1,7 +1,9 @@
 #include <QRegularExpression>
 #include <QTest>
 
+#include <cmath>
 #include <limits>
+#include <utility>
 
 #include "app/theme.h"
 #include "support/pixels.h"
@@ -19,6 +21,23 @@ SensorDataModel sampleModel()
     model.node.quat[0] = 1.0F;
     model.fields = SampleField::Acceleration;
     return model;
+}
+
+StreamSample sampleAt(qint64 streamMs, qint64 hostMs, float value)
+{
+    StreamSample sample;
+    sample.snapshot.sample.time_ms = quint32(streamMs);
+    std::fill_n(sample.snapshot.sample.acc, 3, std::numeric_limits<float>::quiet_NaN());
+    sample.snapshot.sample.acc[0] = value;
+    sample.fields = SampleField::Acceleration;
+    sample.deviceMs = quint32(streamMs);
+    sample.hostMs = hostMs;
+    return sample;
+}
+
+bool isAbout(const QColor &p, const QColor &color)
+{
+    return qAbs(p.red() - color.red()) + qAbs(p.green() - color.green()) + qAbs(p.blue() - color.blue()) < 350;
 }
 
 /// Whether a pixel of about this colour is there; text and lines are antialiased, filled bars are not.
@@ -110,11 +129,80 @@ private slots:
         QTRY_VERIFY(!panel.testAttribute(Qt::WA_PendingUpdate));
         // The values stand still: what is painted is the trace, once per step of its time, samples or not.
         for (qint64 now = 1000; now < 1000 + 10 * TraceBuffer::kBucketMs; ++now) {
-            panel.appendSample(now, model.node, model.fields);
+            panel.appendSample(sampleAt(now, now, 0));
             panel.advance(now);
             QCoreApplication::sendPostedEvents();
         }
         QVERIFY2(counter.paints >= 10 && counter.paints <= 12, qPrintable(QString::number(counter.paints)));
+    }
+
+    /// A smooth motion gives a smooth line from edge to edge, however its samples come in; and none where they miss.
+    void drawsTheTrace_data()
+    {
+        QTest::addColumn<double>("periodMs");
+        QTest::addColumn<int>("lumpMs"); // arrivals come together so often
+        QTest::addColumn<int>("silentMs");
+        QTest::addColumn<StreamBreak>("brokenBy");
+        QTest::newRow("400 samples/s") << 2.5 << 1 << 0 << StreamBreak::None;
+        QTest::newRow("400 samples/s in lumps") << 2.5 << 16 << 0 << StreamBreak::None;
+        QTest::newRow("20 samples/s") << 50.0 << 1 << 0 << StreamBreak::None;
+        QTest::newRow("missing samples") << 2.5 << 16 << 300 << StreamBreak::None;
+        QTest::newRow("restart") << 2.5 << 1 << 300 << StreamBreak::OutputStopped;
+    }
+    void drawsTheTrace()
+    {
+        QFETCH(double, periodMs);
+        QFETCH(int, lumpMs);
+        QFETCH(int, silentMs);
+        QFETCH(StreamBreak, brokenBy);
+        ShownPanel panel;
+        panel.resize(900, 900);
+        qint64 hostMs = 0;
+        bool isAfter = false;
+        for (double time = 5; time < 8000; time += periodMs) {
+            if (silentMs > 0 && time > 5000 && time < 5000 + silentMs)
+                continue;
+            hostMs = (qint64(time) / lumpMs + 1) * lumpMs;
+            StreamSample sample = sampleAt(qint64(time), hostMs, float(1.8 * std::sin(2 * M_PI * time / 1500)));
+            if (brokenBy != StreamBreak::None)
+                sample.deviceMs = 0; // no clock: the stream says it
+            if (time > 5000 && !std::exchange(isAfter, true))
+                sample.brokenBy = brokenBy;
+            panel.appendSample(sample);
+        }
+        panel.advance(hostMs);
+        const QImage card = panel.findChild<ValueCard *>()->grab().toImage();
+        constexpr int kEdge = 17;
+        constexpr int kTraceHeight = 160;
+        double before = -1;
+        double stepBefore = 0;
+        int empty = 0;
+        int columns = 0;
+        double roughest = 0;
+        const int right = card.width() - kEdge - 3 - int(periodMs / 12); // its newest bucket is not full
+        for (int x = kEdge; x < right; ++x) {
+            double sum = 0;
+            int count = 0;
+            for (int y = card.height() - kEdge - kTraceHeight; y < card.height() - kEdge; ++y) {
+                if (isAbout(card.pixelColor(x, y), theme::kAxisX)) {
+                    sum += y;
+                    ++count;
+                }
+            }
+            if (count == 0) {
+                ++empty;
+                columns = 0;
+                continue;
+            }
+            const double step = sum / count - before;
+            if (++columns > 2)
+                roughest = std::max(roughest, std::abs(step - stepBefore));
+            stepBefore = step;
+            before = sum / count;
+        }
+        const int pixelsSilent = silentMs * (card.width() - 2 * kEdge) / 5000;
+        QVERIFY2(std::abs(empty - pixelsSilent) <= 5, qPrintable(QString::number(empty)));
+        QVERIFY2(roughest < 3, qPrintable(QString::number(roughest)));
     }
 
     void paintsAnything()

@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QDir>
 #include <QFileDialog>
@@ -24,15 +25,16 @@
 #include "support/real_firmware.h"
 #include "support/simulator_process.h"
 #include "updater/form_updater.h"
+#include "updater/update_report.h"
 
 namespace {
 
 constexpr int kDownloadMs = 30000;
 
-/// A plausible image for address 0: stack in RAM, reset vector inside.
-QByteArray goodImage(int size)
+/// A plausible image for address 0: stack in RAM, reset vector inside, and a build that is reported.
+QByteArray goodImage(int size, const QByteArray &build = "2026-05-17")
 {
-    QByteArray image = QByteArray::fromHex("00400020C1000000");
+    QByteArray image = QByteArray::fromHex("00400020C1000000") + "build " + build;
     for (int i = int(image.size()); i < size; ++i)
         image.append(char(i * 7 + i / 256));
     return image;
@@ -51,9 +53,8 @@ struct Bench
     DeviceSession session;
     form_updater dialog{&session};
 
-    // The bootloader waits longer than a busy machine may pause.
     explicit Bench(const QByteArray &hexFile, const QStringList &options = {})
-        : device(options + QStringList{QStringLiteral("--bootloader-wait"), QStringLiteral("20000")})
+        : device(options + QStringList{QStringLiteral("--bootloader-wait"), QStringLiteral("1500")})
     {
         QVERIFY(writeFile(QDir::current().filePath(QStringLiteral("firmware.hex")), hexFile));
         open();
@@ -70,6 +71,11 @@ struct Bench
     bool isConnected() const { return session.isBootloaderConnected(); }
     /// A download has begun and its end is not shown.
     bool isRunning() const { return log().endsWith(QLatin1String("--- Starting download ---\n")); }
+    /// The window shows what has come of the last update.
+    bool hasResult(const char *verdict) const
+    {
+        return QTest::qWaitFor([&] { return label("LBL_step") == QLatin1String(verdict); }, kDownloadMs);
+    }
     template <typename T> T *child(const char *name) const { return dialog.findChild<T *>(QLatin1String(name)); }
     QPushButton *button(const char *name) const { return child<QPushButton>(name); }
     void press(const char *name) const { QTest::mouseClick(button(name), Qt::LeftButton); }
@@ -117,7 +123,11 @@ private slots:
         qApp->setPalette(theme::palette());
         qApp->setStyleSheet(theme::styleSheet());
     }
-    void init() { QFile::remove(QStringLiteral("param.ini")); }
+    void init()
+    {
+        QFile::remove(QStringLiteral("param.ini"));
+        QFile::remove(QStringLiteral("update-note.json"));
+    }
 
     // First, so that its load address is the one of this run.
     void realFirmware()
@@ -220,9 +230,13 @@ private slots:
         QCOMPARE(bar->value(), 100);
         QVERIFY(bench.flash(image.size()) == image);
         QCOMPARE(bench.device.stat("packets"), 625);
+        QVERIFY(bench.button("BTN_connect")->isEnabled()); // while the device is awaited
+        QVERIFY(bench.hasResult("Verified"));
         QVERIFY(bench.label("LBL_status")
-                    .endsWith(QStringLiteral("0 of 625 packets were sent again. The device restarts "
-                                             "with the new firmware.")));
+                    .endsWith(QStringLiteral("0 of 625 packets were sent again. The flash was read back: it is the "
+                                             "image. The device is back with its new firmware.")));
+        QCOMPARE(bench.label("LBL_builds"), QStringLiteral("Before: build 2026-03-02 · Now: build 2026-05-17"));
+        QVERIFY(!QFile::exists(QStringLiteral("update-note.json")));
         QCOMPARE(states.mid(0, 3),
                  QList<SessionState>({SessionState::Bootloader, SessionState::Updating, SessionState::Silent}));
         QCOMPARE(bench.button("BTN_connect")->text(), QStringLiteral("Connect"));
@@ -232,6 +246,20 @@ private slots:
         const QString report = QGuiApplication::clipboard()->text();
         QVERIFY(report.contains(bench.log()) && report.contains(QStringLiteral("firmware.hex"))
                 && report.contains(bench.label("LBL_status")));
+        QTRY_COMPARE(UpdateReport::files(QDir::currentPath()).size(), 1);
+        const std::optional<UpdateReport> kept = UpdateReport::read(UpdateReport::files(QDir::currentPath()).first());
+        QVERIFY(kept && kept->verdict == QLatin1String("Verified") && kept->log.join(u'\n') == bench.log());
+        bench.press("BTN_save");
+        auto *saving = openDialog<QFileDialog>();
+        QVERIFY(saving != nullptr);
+        for (const char *path : {"/nowhere/report.txt", "report.txt"}) {
+            emit saving->fileSelected(QLatin1String(path));
+            const bool isSaved = !QByteArray(path).startsWith('/');
+            QTRY_VERIFY(bench.label("LBL_status")
+                            .contains(isSaved ? QStringLiteral("was saved") : QStringLiteral("could not be saved")));
+            QVERIFY(!isSaved || readFile(QLatin1String(path)).contains("Verified"));
+        }
+        saving->close();
         QVERIFY(writeFile(QStringLiteral("firmware.hex"), hex_file::file(goodImage(4000), 0)));
         bench.press("BTN_connect");
         QVERIFY(bench.label("LBL_doubts").contains(QStringLiteral("changed since it was loaded")));
@@ -298,11 +326,13 @@ private slots:
             QVERIFY(bench.isRunning());
             QTRY_VERIFY(box() == nullptr);
             QCOMPARE(offered(), std::pair(false, !agreed));
+            QTRY_VERIFY(agreed || bench.child<QProgressBar>("PB_progress")->value() > 0); // it is being written
         }
         QTRY_VERIFY_WITH_TIMEOUT(!bench.isRunning(), kDownloadMs);
         QVERIFY(bench.label("LBL_status").startsWith(QStringLiteral("The download was stopped. ")));
         QVERIFY(bench.label("LBL_status").endsWith(QStringLiteral("press Connect, then Download.")));
         QVERIFY(bench.device.stat("packets") < 625);
+        QCOMPARE(bench.label("LBL_step"), QStringLiteral("Failed"));
         bench.press("BTN_connect");
         bench.press("BTN_download");
         bench.press("BTN_stop");
@@ -380,7 +410,6 @@ private slots:
             {"bootloader ignore 9", Complete, {}, nullptr},
             {"bootloader ignore 9:2", Failed, incomplete.arg(256), nullptr},
             {"bootloader erase-ms 1400", Complete, {}, nullptr},
-            {"bootloader erase-ms 2500", Failed, QStringLiteral("partly erased"), "bootloader erase-ms 0"},
             {"bootloader trickle-ms 3", Complete, {}, nullptr},
             {"bootloader stale-ms 20", Complete, {}, nullptr}};
         const QByteArray image = goodImage(5000);
@@ -435,29 +464,150 @@ private slots:
         QVERIFY(!bench.label("LBL_status").isEmpty());
     }
 
+    /// What speaks against an image has to be accepted; what makes a download impossible is refused.
     void doubtsBeforeErasing()
     {
-        const std::tuple<QByteArray, const char *> rows[] = {
-            {hex_file::file(goodImage(20000), 0), "does not fit the 16 KB"},
-            {hex_file::file(goodImage(3000).replace(4, 1, "\xC2"), 0), "reset vector"},
-            {hex_file::file("\xFF" + goodImage(3000), 0), "stack pointer"},
-            {hex_file::file(goodImage(100), 0), "very small"},
-            {hex_file::file(goodImage(3000), 0x08000000), "begins at 0x08000000, but it will be written to 0x00000000"},
-            {":10\n", "no Intel HEX file"}};
-        for (const auto &[file, shown] : rows) {
+        const QByteArray good = hex_file::file(goodImage(3000), 0);
+        const qsizetype half = good.indexOf('\n', good.size() / 2) + 1;
+        const std::tuple<QByteArray, const char *, bool> rows[] = {
+            // accepted: it can be downloaded then
+            {hex_file::file(goodImage(3000).replace(4, 1, "\xC2"), 0), "reset vector", true},
+            {hex_file::file("\xFF" + goodImage(3000), 0), "stack pointer", true},
+            {hex_file::file(goodImage(100), 0), "very small", true},
+            {hex_file::file(goodImage(3000, "2025-12-31"), 0), "2025-12-31 is older than the device's", true},
+            {good.left(half), "no end record", true},
+            {QByteArray(good).insert(half, "\n"), "after a blank line", true},
+            {hex_file::file(goodImage(20000), 0), "does not fit the 16 KB", false},
+            {hex_file::file(goodImage(3000), 0x08000000), "begins at 0x08000000, but it would be written to 0x00000000",
+             false}};
+        for (const auto &[file, shown, canBeAccepted] : rows) {
             Bench bench(file, {QStringLiteral("--flash-size"), QStringLiteral("16")});
+            QTRY_VERIFY_WITH_TIMEOUT(bench.session.device().valid, 10000);
             bench.press("BTN_connect");
-            QVERIFY2((bench.label("LBL_doubts") + bench.label("LBL_image")).contains(QLatin1String(shown)), shown);
-            bench.press("BTN_download"); // told, not refused
-            QCOMPARE(bench.isRunning(), !bench.label("LBL_doubts").isEmpty());
-            QTRY_VERIFY_WITH_TIMEOUT(!bench.isRunning(), kDownloadMs);
-            if (file.size() > 4)
+            const char *place = canBeAccepted ? "LBL_doubts" : "LBL_obstacles";
+            QVERIFY2(bench.label(place).contains(QLatin1String(shown)),
+                     qPrintable(bench.label(place) + QLatin1String(shown)));
+            auto *despite = bench.child<QCheckBox>("CHB_despite");
+            QCOMPARE(despite->isVisible(), canBeAccepted);
+            QCOMPARE(bench.button("BTN_download")->isEnabled(), !canBeAccepted);
+            QVERIFY(!bench.button("BTN_download")->isDefault());
+            despite->click();
+            bench.press("BTN_download");
+            if (canBeAccepted) {
+                QVERIFY(bench.hasResult("Verified") || bench.label("LBL_step") == QLatin1String("Same build"));
                 continue;
-            QFile::remove(QStringLiteral("firmware.hex"));
-            QVERIFY(QDir::current().mkdir(QStringLiteral("firmware.hex")));
-            QVERIFY(bench.logOf("BTN_download").endsWith(QStringLiteral("Failed to open file\nNO IMAGE\n")));
-            QVERIFY(QDir::current().rmdir(QStringLiteral("firmware.hex")));
+            }
+            QTRY_VERIFY(bench.label("LBL_status").startsWith(QLatin1String("Nothing was erased")));
+            QCOMPARE(bench.device.stat("packets"), 0);
+            QVERIFY(bench.isConnected() && bench.button("BTN_download")->isEnabled());
         }
+    }
+
+    void remedies()
+    {
+        {
+            Bench bench(hex_file::file(goodImage(3000), 0x08000000));
+            QSignalSpy restart(&bench.dialog, &form_updater::restartWanted);
+            QCOMPARE(bench.button("BTN_remedy")->text(), QStringLiteral("Restart the program"));
+            bench.press("BTN_remedy");
+            QCOMPARE(restart.size(), 1);
+        }
+        {
+            Bench bench(hex_file::file(goodImage(3000), 0), {QStringLiteral("--packet-size"), QStringLiteral("512")});
+            QVERIFY(!bench.button("BTN_remedy")->isVisible());
+            QVERIFY(bench.session.open(bench.device.port(), 19200)); // the simulator does not mind
+            QTRY_VERIFY(bench.session.state() == SessionState::Live || bench.session.state() == SessionState::Silent);
+            bench.press("BTN_connect");
+            QVERIFY(bench.label("LBL_obstacles").contains(QLatin1String("512 bytes cannot be acknowledged")));
+            QCOMPARE(bench.button("BTN_remedy")->text(), QStringLiteral("Use packets of 320 bytes"));
+            bench.press("BTN_remedy");
+            QCOMPARE(bench.label("LBL_obstacles"), QString());
+            bench.press("BTN_download");
+            QVERIFY(bench.hasResult("Verified"));
+            QCOMPARE(bench.device.stat("packets"), 10);
+        }
+        Bench bench(hex_file::file(goodImage(3000), 0));
+        QVERIFY(bench.device.control("bootloader erase-ms 2500"));
+        QVERIFY(!bench.update() && bench.hasResult("Failed"));
+        QVERIFY(bench.label("LBL_status").contains(QLatin1String("partly erased")));
+        bench.update();
+        QTRY_VERIFY(bench.label("LBL_status").startsWith(QLatin1String("Nothing was erased")));
+        QVERIFY(bench.label("LBL_obstacles").contains(QLatin1String("not ended an erase")));
+        QVERIFY(bench.device.control("bootloader erase-ms 0"));
+        QCOMPARE(bench.button("BTN_remedy")->text(), QStringLiteral("Erase all the same"));
+        bench.press("BTN_remedy");
+        bench.press("BTN_download");
+        QVERIFY(bench.hasResult("Verified"));
+    }
+
+    /// Each result in the window, with what the device has then: a success is claimed for nothing but a right flash.
+    void results()
+    {
+        const std::tuple<const char *, const char *, const char *, const char *> rows[] = {
+            {"bootloader locked on", "Not verified", "locked against reading", "bootloader locked off"},
+            {"bootloader read off", "Not verified", "cannot read the flash back", "bootloader read on"},
+            {"bootloader late 3", "Failed", "the firmware is incomplete", nullptr},
+            {"bootloader flip 5", "Failed", "this firmware must not run", nullptr},
+            {"bootloader drop 7", "Failed", ", the first at 0x", nullptr},
+            {"bootloader status 4", "Failed", "status 105", nullptr},
+            {"bootloader power 6", "Failed", "the firmware is incomplete", nullptr}};
+        const QByteArray image = goodImage(2000);
+        for (const auto &[fault, verdict, sentence, remedy] : rows) {
+            Bench bench(hex_file::file(image, 0));
+            QTRY_VERIFY_WITH_TIMEOUT(bench.session.device().valid, 10000);
+            QVERIFY2(bench.device.control(fault), fault);
+            bench.update();
+            QVERIFY2(bench.hasResult(verdict), qPrintable(bench.label("LBL_step") + QLatin1String(fault)));
+            QVERIFY2(bench.label("LBL_status").contains(QLatin1String(sentence)),
+                     qPrintable(bench.label("LBL_status")));
+            const bool hasFailed = qstrcmp(verdict, "Failed") == 0;
+            QCOMPARE(!bench.label("LBL_note").isEmpty(), hasFailed);
+            QVERIFY(hasFailed || bench.flash(image.size()) == image);
+            QVERIFY(remedy == nullptr || bench.device.control(remedy));
+            if (!hasFailed)
+                continue;
+            // What the window says leads out of it.
+            if (bench.session.state() == SessionState::Closed)
+                bench.open();
+            bench.press("BTN_continue");
+            QVERIFY2(bench.hasResult("Verified"), qPrintable(bench.label("LBL_status")));
+            QVERIFY(bench.flash(image.size()) == image);
+            QCOMPARE(bench.label("LBL_note"), QString());
+        }
+    }
+
+    void deviceThatStaysAway()
+    {
+        Bench bench(hex_file::file(goodImage(2000), 0));
+        QTRY_VERIFY_WITH_TIMEOUT(bench.session.device().valid, 10000);
+        QVERIFY(bench.update()); // nobody has waited for the device yet
+        QVERIFY(bench.session.close());
+        QVERIFY(QFile::exists(QStringLiteral("update-note.json")));
+        QVERIFY(bench.device.control("restart"));
+        bench.open(); // the device sits in its bootloader again
+        QVERIFY(bench.hasResult("Did not come back"));
+        QVERIFY(bench.label("LBL_status").contains(QLatin1String("not introduced itself")));
+        bench.dialog.sayBootloaderFound();
+        QVERIFY(bench.label("LBL_note").contains(QLatin1String("was written to the end")));
+        bench.press("BTN_forget");
+        QVERIFY(bench.label("LBL_note").startsWith(QLatin1String("The device runs its bootloader")));
+        QVERIFY(bench.button("BTN_choose")->isVisible() && !bench.button("BTN_continue")->isVisible());
+        QTRY_VERIFY(!QFile::exists(QStringLiteral("update-note.json")));
+        bench.press("BTN_restart");
+        QCOMPARE(bench.label("LBL_note"), QString());
+    }
+
+    void noImage()
+    {
+        Bench bench(":10\n");
+        bench.press("BTN_connect");
+        QVERIFY(bench.label("LBL_image").contains(QLatin1String("no Intel HEX file")));
+        bench.press("BTN_download");
+        QVERIFY(!bench.isRunning());
+        QFile::remove(QStringLiteral("firmware.hex"));
+        QVERIFY(QDir::current().mkdir(QStringLiteral("firmware.hex")));
+        QVERIFY(bench.logOf("BTN_download").endsWith(QStringLiteral("Failed to open file\nNO IMAGE\n")));
+        QVERIFY(QDir::current().rmdir(QStringLiteral("firmware.hex")));
     }
 
 private:

@@ -6,6 +6,7 @@
 #include "session/device_session.h"
 #include "support/simulator_process.h"
 #include "support/update_device.h"
+#include "updater/session_update.h"
 
 class TestUpdateSession : public QObject
 {
@@ -19,32 +20,17 @@ private slots:
     {
         SimulatorProcess device({QStringLiteral("--bootloader-wait"), QStringLiteral("400")});
         DeviceSession session;
-        FirmwareUpdate update(&session.port(), m_folder.path());
-        connect(&update, &FirmwareUpdate::stepChanged, &session, [&](UpdateStep step) {
-            session.setLineWriting(step >= UpdateStep::Erase && step <= UpdateStep::Reset);
-            if (step == UpdateStep::ComeBack)
-                session.returnLine(true);
-        });
-        connect(&update, &FirmwareUpdate::finished, &session, [&] { session.returnLine(false); });
-        connect(&session, &DeviceSession::deviceChanged, &update, [&] {
-            if (session.device().valid)
-                update.deviceCameBack(session.device().buildLine);
-        });
-        QVERIFY(!session.lendLine()); // nothing is open
+        SessionUpdate with(&session, m_folder.path());
+        FirmwareUpdate &update = with.procedure();
+        QVERIFY(!with.start(order(64))); // nothing is open
         QVERIFY(session.open(device.port(), 115200));
         QTRY_VERIFY_WITH_TIMEOUT(session.device().valid, 10000);
-        FirmwareUpdate::Order order;
-        order.subject.image = UpdateDevice::image(64);
-        order.subject.address = order.subject.fileAddress = UpdateDevice::kAddress;
-        order.subject.baudRate = 115200;
-        order.subject.deviceBuild = session.device().buildLine;
-        QVERIFY(session.lendLine());
+        QSignalSpy prepared(&update, &FirmwareUpdate::prepared);
+        QSignalSpy finished(&update, &FirmwareUpdate::finished);
+        QVERIFY(with.start(order(64)) && !with.start(order(64)));
         for (const SessionAction action : {SessionAction::SendCommand, SessionAction::ConnectBootloader,
                                            SessionAction::Download, SessionAction::RestartDevice})
             QVERIFY(!session.allows(action));
-        QSignalSpy prepared(&update, &FirmwareUpdate::prepared);
-        QSignalSpy finished(&update, &FirmwareUpdate::finished);
-        QVERIFY(update.prepare(order));
         QTRY_COMPARE(prepared.size(), 1);
         QVERIFY(!update.begin(false) && update.begin(true)); // the vectors are doubtful
         QVERIFY(!session.allows(SessionAction::ClosePort));
@@ -54,6 +40,53 @@ private slots:
         QCOMPARE(update.result().newBuild, QStringLiteral("build 2026-05-17"));
         QTRY_COMPARE_WITH_TIMEOUT(session.state(), SessionState::Live, 10000);
         QCOMPARE(device.stat("boot_text_in_data"), 0);
+    }
+
+    // Whatever ends an update early, the line comes back, and in the state that the device is in.
+    void givesTheLineBack()
+    {
+        SimulatorProcess device({QStringLiteral("--bootloader-wait"), QStringLiteral("20000")});
+        DeviceSession session;
+        SessionUpdate with(&session, m_folder.path());
+        FirmwareUpdate &update = with.procedure();
+        QSignalSpy prepared(&update, &FirmwareUpdate::prepared);
+        QSignalSpy finished(&update, &FirmwareUpdate::finished);
+        const auto isEnded = [&] { return finished.size() == 1 && !with.hasLine() && !update.isRunning(); };
+        const auto prepare = [&] {
+            prepared.clear();
+            finished.clear();
+            return with.start(order(8)) && QTest::qWaitFor([&] { return prepared.size() == 1; });
+        };
+        QVERIFY(session.open(device.port(), 115200));
+        QTRY_VERIFY_WITH_TIMEOUT(session.device().valid, 10000);
+        QVERIFY(device.control("silent on"));
+        QVERIFY(with.start(order(8)));
+        QTRY_VERIFY_WITH_TIMEOUT(isEnded(), 10000);
+        QVERIFY(session.state() != SessionState::Bootloader); // nobody has answered
+        QVERIFY(device.control("silent off"));
+
+        QVERIFY(prepare());
+        update.cancel();
+        QTRY_VERIFY(isEnded());
+        QCOMPARE(session.state(), SessionState::Bootloader); // the procedure has brought it there
+        QVERIFY(session.connectBootloader());
+        QVERIFY(prepare());
+        update.cancel();
+        QTRY_VERIFY(isEnded());
+        QVERIFY(session.allows(SessionAction::Download)); // it was connected before, and is
+
+        QVERIFY(prepare());
+        QVERIFY(session.close()); // while it waits for its user
+        QTRY_VERIFY(isEnded());
+        QCOMPARE(update.result().outcome.fault, BootloaderFault::PortClosed);
+        QVERIFY(session.open(device.port(), 115200));
+        QTRY_COMPARE_WITH_TIMEOUT(session.state(), SessionState::Bootloader, 15000); // found
+        QVERIFY(prepare());
+        QVERIFY(update.begin(true));
+        QVERIFY(device.control("unplug"));
+        QTRY_VERIFY_WITH_TIMEOUT(isEnded(), 10000);
+        QCOMPARE(session.state(), SessionState::Closed);
+        QCOMPARE(update.result().verdict, UpdateVerdict::Failed);
     }
 
     // A device that somebody has left in its bootloader is silent; it is found, and can be restarted.
@@ -75,6 +108,14 @@ private slots:
     }
 
 private:
+    static FirmwareUpdate::Order order(int packets)
+    {
+        FirmwareUpdate::Order order;
+        order.subject.image = UpdateDevice::image(packets);
+        order.subject.address = order.subject.fileAddress = UpdateDevice::kAddress;
+        return order;
+    }
+
     QTemporaryDir m_folder;
 };
 

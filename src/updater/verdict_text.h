@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QString>
+
+#include "link/bootloader_state.h"
+#include "updater/update_note.h"
+#include "updater/update_plan.h"
+#include "updater/update_result.h"
+
+/// Sentences about the check and the result of a firmware update for people.
+namespace verdict_text {
+
+/// "Reading the flash back…"
+QString step(UpdateStep step);
+
+/// Why an update cannot work and what to do, one line for each obstacle.
+QString obstacles(const update_plan::Plan &plan, const update_plan::Subject &subject, const BootloaderFacts &facts);
+/// One line for each doubt.
+QString doubts(const update_plan::Plan &plan, const update_plan::Subject &subject, const BootloaderFacts &facts);
+
+/// One or two words: "Verified".
+QString verdict(UpdateVerdict verdict);
+/// What has come of an update of `total` bytes at `address`, what state the device is in and what to do next.
+QString result(const UpdateResult &result, qint64 total, quint32 address, int packetSize);
+/// The user should do something.
+bool isProblem(const UpdateResult &result);
+/// "Before: build 2026-03-02 · Now: build 2026-05-17"; empty when there is nothing to
+/// compare.
+QString builds(const UpdateResult &result);
+
+/// What the note of an earlier update says.
+QString interrupted(const UpdateNote &note);
+
+} // namespace verdict_text
