@@ -125,6 +125,10 @@ QFrame[card="true"] { background: @surface; border: 1px solid @line; border-radi
 QLabel[role="title"] { color: @textSecondary; font-weight: 600; }
 QLabel[role="headline"] { font-weight: 600; font-size: 16pt; }
 QLabel[role="secondary"] { color: @textSecondary; }
+QLabel[role="light"] { border-radius: 6px; background: @recording; }
+QLabel[role="light"]:disabled { background: @border; }
+QProgressBar { background: @line; border: none; border-radius: 5px; }
+QProgressBar::chunk { background: @accent; border-radius: 5px; }
 QLabel[role="warning"] { color: @warning; }
 
 QScrollArea, QScrollArea > QWidget > QWidget#column_left { background: transparent; border: none; }
