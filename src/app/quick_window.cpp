@@ -25,6 +25,7 @@ constexpr int kFrame = 48; ///< a window that is new leaves that much of the scr
 
 QuickWindow::QuickWindow(int samples, QWindow *parent) : QQuickView(parent)
 {
+    memory_release::keepLittle();
     QSurfaceFormat surface = format();
     surface.setSamples(samples);
     setFormat(surface);
