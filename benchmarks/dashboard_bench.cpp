@@ -12,8 +12,8 @@
 #include <ctime>
 
 #include "app/application_fonts.h"
+#include "chart/series_item.h"
 #include "wave/form_sensor_dashboard.h"
-#include "wave/series_item.h"
 
 namespace {
 

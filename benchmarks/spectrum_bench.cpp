@@ -121,7 +121,7 @@ int main(int argc, char **argv)
     qint64 start = 0;
     int firstFrame = 0;
     QTimer::singleShot(warmUpMs, &feed, [&] {
-        state->setFitted(parser.isSet(QStringLiteral("fit")));
+        state->setYAutomatic(parser.isSet(QStringLiteral("fit")));
         if (parser.isSet(QStringLiteral("cursors")))
             state->toggleCursors();
         processorStart = std::clock();

@@ -5,6 +5,7 @@
 #include <QQuickItem>
 #include <utility>
 
+#include "chart/series_item.h"
 #include "link/stream_dispatcher.h"
 #include "process_figures.h"
 #include "session/device_session.h"
@@ -13,7 +14,6 @@
 #include "ui/value_card.h"
 #include "ui/value_strip.h"
 #include "wave/dashboard_window.h"
-#include "wave/series_item.h"
 
 namespace {
 

@@ -3,7 +3,6 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import KVCenter.Controls
 import KVCenter.Fft
-import KVCenter.Wave
 
 /// The spectrum view: the chart, and beside it the panels of the analysis. The window sets what is not bound: whether it
 /// is `running`, how much of a block has come, from 0 to 1, whether the stream is `stale`, and the `guide`.

@@ -37,6 +37,13 @@ constexpr std::array kIcons{
             "M 9.5 2.5 L 13.5 2.5 L 13.5 6.5 M 13.5 2.5 L 9 7 M 6.5 13.5 L 2.5 13.5 L 2.5 9.5 M 2.5 13.5 L 7 9")},
     Row{QLatin1String("restore"), false,
         QLatin1String("M 9 3 L 9 7 L 13 7 M 9 7 L 13.5 2.5 M 7 13 L 7 9 L 3 9 M 7 9 L 2.5 13.5")},
+    Row{QLatin1String("link"), false,
+        QLatin1String(
+            "M 2 2 L 2 6 M 2 10 L 2 14 M 14 2 L 14 6 M 14 10 L 14 14 M 2 4 L 14 4 M 2 12 L 14 12 M 8 4 L 8 12")},
+    Row{QLatin1String("range"), false,
+        QLatin1String(
+            "M 3 2 L 3 13 L 14 13 M 1.5 4 L 3 2 L 4.5 4 M 12 11.5 L 14 13 L 12 14.5 M 6 9 L 11 9 M 6 6 L 11 6")},
+    Row{QLatin1String("statistics"), false, QLatin1String("M 12.5 3 L 4 3 L 8.5 8 L 4 13 L 12.5 13")},
     Row{QLatin1String("close"), false, QLatin1String("M 3.5 3.5 L 12.5 12.5 M 12.5 3.5 L 3.5 12.5")},
 };
 

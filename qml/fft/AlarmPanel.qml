@@ -126,6 +126,12 @@ PanelSection {
                     color: event.modelData.active ? "#B91C1C" : "#15803D"
                 }
                 Text {
+                    text: event.modelData.time
+                    textFormat: Text.PlainText
+                    font: Theme.fixedSmallFont
+                    color: Theme.text
+                }
+                Text {
                     text: event.modelData.text
                     textFormat: Text.PlainText
                     font: Theme.fixedSmallFont

@@ -1,9 +1,9 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import KVCenter.Chart
 import KVCenter.Controls
 import KVCenter.Fft
-import KVCenter.Wave
 
 /// The chart of the spectra as a card: title and settings of the spectra, legend, measurements, plot, and buttons.
 FocusScope {
@@ -95,9 +95,27 @@ FocusScope {
                 objectName: "fit"
                 bare: true
                 text: qsTr("Fit")
-                checked: view.fitted
-                hint: view.fitted ? qsTr("Show amplitudes up to the set maximum") : qsTr("Fit the amplitude axis to the curves beyond 0 Hz")
-                onClicked: view.fitted = !view.fitted
+                checked: view.yAutomatic
+                hint: view.yAutomatic ? qsTr("Show amplitudes up to the set maximum") : qsTr("Fit the amplitude axis to the curves beyond 0 Hz")
+                onClicked: view.yAutomatic = !view.yAutomatic
+            }
+            ActionButton {
+                id: rangeButton
+
+                objectName: "rangeButton"
+                bare: true
+                checkable: true
+                iconName: "range"
+                hint: qsTr("Limits of the axes")
+            }
+            ActionButton {
+                id: statisticsButton
+
+                objectName: "statisticsButton"
+                bare: true
+                checkable: true
+                iconName: "statistics"
+                hint: qsTr("Statistics")
             }
             ActionButton {
                 bare: true
@@ -185,7 +203,7 @@ FocusScope {
                 spacing: 12
 
                 Repeater {
-                    model: view.lineNames
+                    model: view.seriesNames
 
                     ChartLegendEntry {
                         required property int index
@@ -193,36 +211,32 @@ FocusScope {
 
                         objectName: "legend_" + index
                         name: modelData
-                        color: view.lineColors[index]
-                        shown: view.visibleLines[index] ?? true
-                        onClicked: view.setLineVisible(index, !shown)
+                        color: view.seriesColors[index]
+                        shown: view.visibleSeries[index] ?? true
+                        onClicked: view.setSeriesVisible(index, !shown)
                     }
                 }
             }
         }
-        Flow {
+        ChartRangeRow {
             width: parent.width
-            spacing: 14
-            visible: measurements.count > 0
-
-            Repeater {
-                id: measurements
-
-                model: view.measurement
-
-                Text {
-                    required property string modelData
-
-                    text: modelData
-                    textFormat: Text.PlainText
-                    font: Theme.fixedSmallFont
-                    color: Theme.accentDark
-                }
-            }
+            visible: rangeButton.checked
+            viewState: view
+            xUnit: "Hz"
+            yUnit: view.decibels ? "dB" : chart.bridge.unit
+        }
+        ChartMeasurement {
+            width: parent.width
+            viewState: view
+        }
+        MeasurePanel {
+            width: parent.width
+            viewState: view
+            measures.active: view.hasCursors || statisticsButton.checked
         }
     }
 
-    SpectrumPlot {
+    ChartPlot {
         id: plot
 
         anchors {
@@ -236,7 +250,20 @@ FocusScope {
             bottomMargin: 6
         }
         viewState: view
-        bridge: chart.bridge
+        xUnit: "Hz"
+        pansBothAxes: true
+        resetButtons: Qt.RightButton | Qt.MiddleButton
+        underlay: SpectrumLevels {
+            anchors.fill: parent
+            plot: plot
+            viewState: view
+            bridge: chart.bridge
+        }
+        overlay: SpectrumMarks {
+            anchors.fill: parent
+            plot: plot
+            viewState: view
+        }
         onPressed: chart.forceActiveFocus()
     }
 

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
+import KVCenter.Chart
 import KVCenter.Controls
 import KVCenter.Wave
 
@@ -29,6 +30,11 @@ Item {
             event.accepted = false;
     }
 
+    ChartLink {
+        id: chartLink
+
+        objectName: "link"
+    }
     FontMetrics {
         id: metrics
 
@@ -53,7 +59,7 @@ Item {
 
             x: 12
             y: 8
-            width: parent.width - status.width - 36
+            width: parent.width - status.width - linkButton.width - 52
             spacing: 8
 
             ActionButton {
@@ -83,6 +89,20 @@ Item {
                     }
                 }
             }
+        }
+        ActionButton {
+            id: linkButton
+
+            objectName: "linkButton"
+            anchors {
+                right: status.left
+                rightMargin: 16
+                verticalCenter: parent.verticalCenter
+            }
+            checked: chartLink.linked
+            iconName: "link"
+            hint: chartLink.linked ? qsTr("Let each chart have its own time axis and cursors") : qsTr("Couple time axes and cursors of all charts")
+            onClicked: chartLink.linked = !chartLink.linked
         }
         Text {
             id: status
@@ -163,6 +183,7 @@ Item {
                     slot: index
                     bridge: dashboard.panes.find(pane => pane.slot === index)?.backend ?? null
                     saver: dashboard.saver
+                    link: chartLink
                     maximized: dashboard.maximizedSlot === index
                     canMaximize: maximized || dashboard.shownPanes.length > 1
                     visible: place >= 0

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import KVCenter.Chart
 import KVCenter.Wave
 
 /// A place for a chart that is there only while it has a bridge.
@@ -10,6 +11,7 @@ Item {
     required property int slot
     required property WaveChartBridge bridge
     required property ChartSaver saver
+    required property ChartLink link
     required property bool maximized
     required property bool canMaximize
 
@@ -27,6 +29,7 @@ Item {
             objectName: "chart_" + pane.slot
             anchors.fill: parent
             bridge: modelData
+            link: pane.link
             maximized: pane.maximized
             canMaximize: pane.canMaximize
             onPictureRequested: pane.saver.savePicture(viewState, chart)

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import KVCenter.Chart
 import KVCenter.Controls
 import KVCenter.Wave
 
@@ -32,6 +33,11 @@ Item {
     }
     focus: true
 
+    ChartLink {
+        id: charts
+
+        objectName: "link"
+    }
     Rectangle {
         id: bar
 
@@ -50,7 +56,7 @@ Item {
 
             x: 12
             y: 8
-            width: parent.width - (status.visible ? status.width : 0) - 36
+            width: parent.width - (status.visible ? status.width : 0) - linkButton.width - 52
             spacing: 8
 
             ActionButton {
@@ -80,6 +86,20 @@ Item {
                     }
                 }
             }
+        }
+        ActionButton {
+            id: linkButton
+
+            objectName: "linkButton"
+            anchors {
+                right: status.visible ? status.left : parent.right
+                rightMargin: 16
+                verticalCenter: parent.verticalCenter
+            }
+            checked: charts.linked
+            iconName: "link"
+            hint: charts.linked ? qsTr("Let each chart have its own time axis and cursors") : qsTr("Couple time axes and cursors of all charts")
+            onClicked: charts.linked = !charts.linked
         }
         Text {
             id: status
@@ -126,6 +146,7 @@ Item {
                 width: Math.round(cellWidth)
                 height: Math.round(cellHeight)
                 bridge: dashboard.bridge.backend(modelData)
+                link: charts
                 maximized: dashboard.maximizedType === modelData
                 canMaximize: maximized || dashboard.shownTypes.length > 1
                 onTouched: dashboard.current = pane

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
+import KVCenter.Chart
 import KVCenter.Controls
 import KVCenter.Wave
 
@@ -12,13 +13,14 @@ FocusScope {
     id: chart
 
     property WaveChartBridge bridge: null
+    property ChartLink link: null
     property bool maximized: false
     property bool canMaximize: true
     readonly property string emptyText: bridge === null || bridge.playing ? qsTr("Waiting for samples") : qsTr("Paused")
     readonly property alias viewState: view
     /// Too low for live values beside the names, and too narrow for all buttons.
     readonly property bool low: height < Theme.font.pointSize * 24
-    readonly property bool narrow: width < Theme.font.pointSize * 28
+    readonly property bool narrow: width < Theme.font.pointSize * 34
 
     signal pictureRequested
     signal dataRequested
@@ -35,11 +37,12 @@ FocusScope {
     }
     Keys.onPressed: event => event.accepted = view.handleKey(event.key, event.modifiers)
 
-    ChartViewState {
+    WaveViewState {
         id: view
 
         bridge: chart.bridge
         active: chart.visible
+        link: chart.link
     }
 
     HoverHandler {
@@ -111,9 +114,10 @@ FocusScope {
                 visible: !view.following
                 checked: true
                 text: qsTr("Live")
+                objectName: "liveButton"
                 hint: qsTr("Back to the newest samples")
-                keys: qsTr("Home")
-                onClicked: view.reset()
+                keys: qsTr("End")
+                onClicked: view.goLive()
             }
             ActionButton {
                 id: filterButton
@@ -129,6 +133,27 @@ FocusScope {
                 Component.onCompleted: checked = chart.bridge !== null && chart.bridge.filterOn
             }
             ActionButton {
+                id: rangeButton
+
+                objectName: "rangeButton"
+                bare: true
+                visible: !chart.narrow
+                checkable: true
+                iconName: "range"
+                hint: qsTr("Span and limits of the axes")
+            }
+            ActionButton {
+                id: statisticsButton
+
+                objectName: "statisticsButton"
+                bare: true
+                visible: !chart.narrow
+                checkable: true
+                iconName: "statistics"
+                hint: qsTr("Statistics")
+            }
+            ActionButton {
+                objectName: "cursorsButton"
                 bare: true
                 visible: !chart.narrow
                 enabled: view.hasData
@@ -192,7 +217,7 @@ FocusScope {
             width: parent.width
 
             Repeater {
-                model: chart.bridge ? chart.bridge.channelNames : []
+                model: view.seriesNames
 
                 ChartLegendEntry {
                     required property int index
@@ -200,10 +225,10 @@ FocusScope {
 
                     objectName: "legend_" + modelData
                     name: modelData
-                    color: chart.bridge.channelColors[index]
-                    shown: view.visibleChannels[index] ?? true
+                    color: view.seriesColors[index]
+                    shown: view.visibleSeries[index] ?? true
                     value: chart.low ? "" : view.liveTexts[index] ?? ""
-                    onClicked: view.setChannelVisible(index, !shown)
+                    onClicked: view.setSeriesVisible(index, !shown)
                 }
             }
         }
@@ -212,29 +237,46 @@ FocusScope {
             visible: (filterButton.checked && filterButton.visible) || (chart.bridge !== null && chart.bridge.filterOn)
             bridge: chart.bridge
         }
-        Flow {
+        ChartRangeRow {
+            objectName: "rangeRow"
             width: parent.width
-            visible: measurements.count > 0
+            visible: rangeButton.checked && rangeButton.visible
+            viewState: view
+            xUnit: "s"
+            yUnit: view.unit
+            presets: Repeater {
+                model: view.spanPresets
 
-            Repeater {
-                id: measurements
+                Chip {
+                    required property double modelData
 
-                model: view.measurement
-
-                Text {
-                    required property string modelData
-
-                    rightPadding: 14
-                    text: modelData
-                    textFormat: Text.PlainText
-                    font: Theme.fixedSmallFont
-                    color: Theme.accentDark
+                    objectName: "span_" + modelData
+                    text: qsTr("%1 s").arg(modelData)
+                    implicitHeight: Math.round(font.pointSize * 2.4 + 2)
+                    horizontalPadding: 8
+                    checkable: false
+                    checked: Math.abs(view.span - modelData) < 0.001
+                    hint: qsTr("Show %1 seconds").arg(modelData)
+                    onClicked: view.span = modelData
                 }
             }
+        }
+        ChartMeasurement {
+            width: parent.width
+            viewState: view
+        }
+        MeasurePanel {
+            objectName: "measurePanel"
+            width: parent.width
+            maximumHeight: Math.max(30, chart.height * 0.3)
+            viewState: view
+            measures.active: chart.visible && (view.hasCursors || (statisticsButton.checked && statisticsButton.visible))
         }
     }
 
     ChartPlot {
+        id: plot
+
         anchors {
             left: parent.left
             right: parent.right
@@ -246,11 +288,17 @@ FocusScope {
             bottomMargin: 6
         }
         viewState: view
+        xUnit: "s"
+        overlay: StreamMarks {
+            anchors.fill: parent
+            plot: plot
+            viewState: view
+        }
         onPressed: chart.forceActiveFocus()
     }
 
     // Over the lines that stand, so that the title keeps its room.
-    Rectangle {
+    PlotMark {
         objectName: "staleMark"
         anchors {
             top: rows.bottom
@@ -259,22 +307,8 @@ FocusScope {
             rightMargin: 22
         }
         visible: view.stale
-        width: staleText.implicitWidth + 16
-        height: staleText.implicitHeight + 6
-        radius: height / 2
-        color: Theme.surface
-        border.width: 1
-        border.color: Theme.warning
-
-        Text {
-            id: staleText
-
-            anchors.centerIn: parent
-            text: qsTr("No new samples")
-            textFormat: Text.PlainText
-            font: Theme.strongFont
-            color: Theme.warning
-        }
+        text: qsTr("No new samples")
+        ink: Theme.warning
     }
 
     EmptyState {

@@ -10,6 +10,7 @@
 #include "app/palette.h"
 #include "app/quiet_label.h"
 #include "app/theme.h"
+#include "app/value_format.h"
 
 namespace {
 
@@ -19,12 +20,8 @@ constexpr std::array kQuaternionColors{&Palette::axisW, &Palette::axisX, &Palett
 QString figure(float value, int decimals, const QString &unit)
 {
     if (!std::isfinite(value))
-        return QStringLiteral("—");
-    const QString digits = QString::number(double(value), 'f', decimals);
-    const bool isZero = digits.toDouble() == 0;
-    const QString sign = isZero ? QStringLiteral(" ") : value < 0 ? QStringLiteral("−") : QStringLiteral("+");
-    const QString magnitude = digits.startsWith(u'-') ? digits.mid(1) : digits;
-    return QStringLiteral("%1%2").arg((sign + magnitude).rightJustified(decimals + 5), unit);
+        return value_format::absent();
+    return value_format::signedNumber(double(value), decimals).rightJustified(decimals + 5) + unit;
 }
 
 void setInk(QLabel *label, const QColor &color)

@@ -77,6 +77,7 @@ void FftAlarm::restartCounters()
 void FftAlarm::addEvent(const FftAlarmEvent &event)
 {
     m_events.prepend(event);
+    m_events.first().time = QTime::currentTime();
     if (m_events.size() > kMaxEvents)
         m_events.removeLast();
 }

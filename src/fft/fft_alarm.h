@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QString>
+#include <QTime>
 
 #include "fft/fft_records.h"
 
@@ -12,6 +13,7 @@ struct FftAlarmEvent
     QString label;
     double frequency = 0; ///< of the peak that raised it
     double amplitude = 0;
+    QTime time{}; ///< local time of day
 
     bool isTrigger() const { return label.startsWith(QLatin1String("TRIGGER")); }
 };

@@ -103,6 +103,7 @@ QVariantList FftAlarmMonitor::eventsToVariantList() const
                               : tr("Cleared");
         list += QVariantMap{{QStringLiteral("label"), event.label},
                             {QStringLiteral("active"), event.isTrigger()},
+                            {QStringLiteral("time"), event.time.toString(QStringLiteral("HH:mm:ss"))},
                             {QStringLiteral("text"), text}};
     }
     return list;

@@ -41,7 +41,8 @@ public:
     const FftAlarmPresentation &presentation() const { return m_presentation; }
     /// The labels of the events, newest first, as files hold them.
     QStringList eventLabels() const;
-    /// Newest first; maps of "label" (as in files), "active" (it raised the alarm) and "text" (for people).
+    /// Newest first; maps of "label" (as in files), "active" (it raised the alarm), "time" (of day, hh:mm:ss) and
+    /// "text" (for people).
     QVariantList eventsToVariantList() const;
 
     /// Takes the peak of the next spectrum, one frame of the alarm. True when state or presentation changed.

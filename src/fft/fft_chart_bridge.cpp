@@ -4,10 +4,13 @@
 
 #include <algorithm>
 #include <cmath>
+#include <span>
 
 #include "app/app_language_manager.h"
+#include "app/theme.h"
 #include "fft/band_power.h"
 #include "fft/fft_window.h"
+#include "fft/spectrum_points.h"
 
 using peak_analysis::Spectrum;
 
@@ -78,6 +81,7 @@ void FftChartBridge::commitResults()
 
 void FftChartBridge::publish(bool isAlarmFrame)
 {
+    ++m_revision;
     const bool hadData = m_peaks.resultantAmplitude() >= 0;
     band_power::resultant(spectra(), m_resultant);
     updatePeakAnalysis();
@@ -134,6 +138,12 @@ void FftChartBridge::setValueAxisTitle(const QString &title)
         emit viewConfigChanged();
 }
 
+void FftChartBridge::setMaximumInForce(double maximum)
+{
+    if (assign(m_maximumInForce, maximum))
+        emit maximumInForceChanged(maximum);
+}
+
 void FftChartBridge::setYAxisMax(double maximum)
 {
     if (assign(m_yAxisMax, maximum))
@@ -186,6 +196,48 @@ void FftChartBridge::setIgnoreSteadyValue(bool ignore)
 QString FftChartBridge::windowName() const
 {
     return fftWindowLabel(m_meta.windowName);
+}
+
+QString FftChartBridge::seriesName(int series) const
+{
+    constexpr std::array kNames{"X", "Y", "Z"};
+    return series >= 0 && size_t(series) < kNames.size() ? QString(QLatin1String(kNames[size_t(series)]))
+                                                         : tr("Resultant");
+}
+
+quint32 FftChartBridge::seriesRgb(int series) const
+{
+    constexpr std::array kColors{theme::kAxisX, theme::kAxisY, theme::kAxisZ, theme::kNorm};
+    return kColors.at(size_t(series)).rgb() & 0xFFFFFF;
+}
+
+void FftChartBridge::seriesPoints(int series, double xMin, double xMax, int maxPoints, QList<QPointF> &out) const
+{
+    spectrum_points::visible(series == kSeries - 1 ? getResultantPoints() : getPoints(series), xMin, xMax, maxPoints,
+                             out);
+}
+
+QList<double> FftChartBridge::valuesAt(double frequency) const
+{
+    const QVariantMap bin = queryCursor(frequency);
+    if (bin.isEmpty())
+        return {};
+    const double x = bin.value(QStringLiteral("xAmplitude")).toDouble();
+    const double y = bin.value(QStringLiteral("yAmplitude")).toDouble();
+    const double z = bin.value(QStringLiteral("zAmplitude")).toDouble();
+    return {x, y, z, std::sqrt(x * x + y * y + z * z)};
+}
+
+SeriesStatistics FftChartBridge::statistics(int series, double xMin, double xMax) const
+{
+    StatisticsSum sum;
+    const QList<QPointF> bins = series == kSeries - 1 ? getResultantPoints() : getPoints(series);
+    for (const QPointF &bin : bins) {
+        const double amplitude = bin.y();
+        if (bin.x() >= xMin && bin.x() <= xMax)
+            sum.add(std::span(&amplitude, 1));
+    }
+    return sum.result();
 }
 
 bool FftChartBridge::hasData() const

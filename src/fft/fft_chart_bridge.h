@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <QVariantList>
 
+#include "chart/chart_source.h"
 #include "fft/fft_alarm_monitor.h"
 #include "fft/fft_bands.h"
 #include "fft/fft_peaks.h"
@@ -22,7 +23,7 @@
 /// frequencies: it is drawn but neither analysed nor exported. Amplitudes that are not finite are taken as 0.
 ///
 /// Main thread only; the signals come on change only.
-class FftChartBridge : public QObject
+class FftChartBridge : public QObject, public ChartSource
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(FftChartBridge)
@@ -72,6 +73,8 @@ class FftChartBridge : public QObject
     Q_PROPERTY(QString healthSummary READ healthSummary NOTIFY telemetryChanged)
 
 public:
+    static constexpr int kSeries = 4;
+
     explicit FftChartBridge(QObject *parent = nullptr);
 
     /// Keeps the spectrum of an axis (0 X, 1 Y, 2 Z) until commitResults(); another axis is ignored. `nyquistHz` is
@@ -104,6 +107,10 @@ public:
     /// alarm.
     bool ignoresSteadyValue() const { return m_peaks.ignoresSteadyValue(); }
     void setIgnoreSteadyValue(bool ignore);
+    /// The user chose the ceiling: the view shows amplitudes up to it from now on.
+    void requestCeiling() { emit ceilingRequested(); }
+    /// Told by the view: the upper end of its amplitude axis where that is not the ceiling, else 0.
+    void setMaximumInForce(double maximum);
     /// Asks the view to show all frequencies.
     void requestXAxisReset() { emit xAxisResetRequested(); }
 
@@ -117,7 +124,19 @@ public:
     QString unit() const { return m_meta.unit; }
     /// End of the frequency axis: that of the last spectra, else of the frame meta, else 50.
     double maxFreq() const;
-    bool hasData() const;
+    bool hasData() const override;
+
+    /// X, Y, Z and the resultant, as wave charts call them.
+    int seriesCount() const override { return kSeries; }
+    QString seriesName(int series) const override;
+    quint32 seriesRgb(int series) const override;
+    /// The resultant lies above all others, so it is painted first.
+    int seriesAtLayer(int layer) const override { return layer == 0 ? kSeries - 1 : layer - 1; }
+    void seriesPoints(int series, double xMin, double xMax, int maxPoints, QList<QPointF> &out) const override;
+    QList<double> valuesAt(double frequency) const override;
+    SeriesStatistics statistics(int series, double xMin, double xMax) const override;
+    quint64 revision() const override { return m_revision; }
+
     /// End of what belongs to 0 Hz, see FftPeaks.
     double steadyEndHz() const { return m_peaks.steadyEndHz(); }
 
@@ -206,6 +225,8 @@ signals:
     void chartTitleChanged();
     void viewConfigChanged();
     void xAxisResetRequested();
+    void ceilingRequested();
+    void maximumInForceChanged(double maximum);
     void frameMetaChanged();
     void peakAnalysisChanged();
     void analysisSummaryChanged();
@@ -245,7 +266,9 @@ private:
     QString m_chartTitle;
     QString m_valueAxisTitle;
     QString m_profileHash;
+    quint64 m_revision = 0; ///< of the spectra
     double m_yAxisMax = 0;
+    double m_maximumInForce = 0;
     bool m_showResultant = true;
     bool m_coherenceEnabled = true;
 };

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "chart/chart_saver.h"
 #include "fft/fft_chart_bridge.h"
-#include "wave/chart_saver.h"
 
 /// What the spectrum window saves and opens: snapshots, tables and pictures. Results and errors stand in `message`.
 class FftFiles : public ChartSaver

@@ -7,8 +7,8 @@
 #include <QList>
 #include <QPointF>
 
+#include "chart/circular_sample_buffer.h"
 #include "link/node_data.h"
-#include "wave/circular_sample_buffer.h"
 
 enum class FftSpectrumType { Acceleration, AngularVelocity };
 enum class FftHoldMode { Live, MaxHold, AvgHold };

@@ -61,6 +61,7 @@ void form_fftchart::configureControls()
     connect(m_controls, &SpectrumControls::holdChosen, this, &form_fftchart::on_CB_hold_currentIndexChanged);
     connect(m_controls, &SpectrumControls::yAxisMaxChosen, this, &form_fftchart::on_SB_y_axis_max_valueChanged);
     connect(m_controls, &SpectrumControls::ignoreSteadyValueChosen, this, &form_fftchart::onIgnoreSteadyValueChosen);
+    connect(&m_bridge, &FftChartBridge::maximumInForceChanged, m_controls, &SpectrumControls::setMaximumInForce);
     m_bridge.setIgnoreSteadyValue(m_controls->ignoresSteadyValue());
 }
 
@@ -223,6 +224,7 @@ void form_fftchart::onFftCalPointTextChanged(const QString &text)
 void form_fftchart::on_SB_y_axis_max_valueChanged(double)
 {
     applyYAxisRangeToChart();
+    m_bridge.requestCeiling();
 }
 
 void form_fftchart::onIgnoreSteadyValueChosen(bool ignore)

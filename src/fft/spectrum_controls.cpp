@@ -3,7 +3,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
-#include <QDoubleSpinBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -13,6 +12,7 @@
 #include <algorithm>
 
 #include "app/theme.h"
+#include "fft/ceiling_field.h"
 #include "fft/fft_window.h"
 
 namespace {
@@ -59,7 +59,7 @@ const TypeRow &row(FftSpectrumType type)
 
 SpectrumControls::SpectrumControls(QWidget *parent)
     : QWidget(parent), m_type(new QComboBox(this)), m_points(new QComboBox(this)), m_window(new QComboBox(this)),
-      m_hold(new QComboBox(this)), m_yAxisMax(new QDoubleSpinBox(this)), m_start(new QPushButton(this)),
+      m_hold(new QComboBox(this)), m_yAxisMax(new CeilingField(this)), m_start(new QPushButton(this)),
       m_pointsLabel(new QLabel(this)), m_windowLabel(new QLabel(this)), m_holdLabel(new QLabel(this)),
       m_yAxisLabel(new QLabel(this)), m_tail(new QWidget(this)), m_ignoreSteady(new QCheckBox(m_tail)),
       m_status(new QLabel(m_tail)), m_firstRow(new QHBoxLayout), m_secondRow(new QHBoxLayout)
@@ -106,7 +106,7 @@ void SpectrumControls::configureControls()
     connect(m_points, &QComboBox::currentTextChanged, this, &SpectrumControls::pointsChosen);
     connect(m_window, &QComboBox::currentIndexChanged, this, &SpectrumControls::windowChosen);
     connect(m_hold, &QComboBox::currentIndexChanged, this, &SpectrumControls::holdChosen);
-    connect(m_yAxisMax, &QDoubleSpinBox::valueChanged, this, [this](double value) {
+    connect(m_yAxisMax, &CeilingField::valueChanged, this, [this](double value) {
         double &stored = m_storedYAxisMax[size_t(type())];
         if (qFuzzyCompare(value, stored))
             return;
@@ -194,6 +194,11 @@ QString SpectrumControls::unit() const
 bool SpectrumControls::ignoresSteadyValue() const
 {
     return m_ignoreSteady->isChecked();
+}
+
+void SpectrumControls::setMaximumInForce(double maximum)
+{
+    m_yAxisMax->setMaximumInForce(maximum);
 }
 
 void SpectrumControls::setRunning(bool running)

@@ -7,9 +7,9 @@
 
 #include "fft/fft_sampler.h"
 
+class CeilingField;
 class QCheckBox;
 class QComboBox;
-class QDoubleSpinBox;
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
@@ -33,6 +33,8 @@ public:
     bool ignoresSteadyValue() const;
     /// Ceiling of the amplitude axis for the current type, in its unit.
     double currentYAxisMax();
+    /// Where the amplitude axis ends instead, in the same unit; 0 while it ends at the ceiling.
+    void setMaximumInForce(double maximum);
 
     void setRunning(bool running);
     void setStatus(const QString &text);
@@ -62,7 +64,7 @@ private:
     QComboBox *m_points;
     QComboBox *m_window;
     QComboBox *m_hold;
-    QDoubleSpinBox *m_yAxisMax;
+    CeilingField *m_yAxisMax;
     QPushButton *m_start;
     QLabel *m_pointsLabel;
     QLabel *m_windowLabel;

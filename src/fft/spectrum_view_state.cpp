@@ -1,10 +1,11 @@
 #include "fft/spectrum_view_state.h"
 
+#include <QRectF>
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
 
-#include "app/theme.h"
 #include "app/value_format.h"
 
 namespace {
@@ -17,7 +18,18 @@ constexpr int kWidth = 9;              ///< characters of a usual amplitude
 
 } // namespace
 
-SpectrumViewState::SpectrumViewState(QObject *parent) : PlotViewState(MainAxis::Y, {0, 50}, {0, 1}, parent) {}
+SpectrumViewState::SpectrumViewState(QObject *parent) : PlotViewState(MainAxis::Y, {0, 50}, {0, 1}, parent)
+{
+    connect(this, &PlotViewState::viewChanged, this, &SpectrumViewState::tellAxisInForce);
+}
+
+void SpectrumViewState::tellAxisInForce()
+{
+    if (!m_bridge)
+        return;
+    const double top = m_decibels ? std::pow(10, m_y.max / 20) : m_y.max;
+    m_bridge->setMaximumInForce(m_y.max == fullY().max ? 0 : top);
+}
 
 void SpectrumViewState::setBridge(FftChartBridge *bridge)
 {
@@ -29,9 +41,10 @@ void SpectrumViewState::setBridge(FftChartBridge *bridge)
     if (bridge) {
         connect(bridge, &FftChartBridge::fftDataChanged, this, &SpectrumViewState::dataChanged);
         connect(bridge, &FftChartBridge::frameMetaChanged, this, &SpectrumViewState::followFrequencies);
-        connect(bridge, &FftChartBridge::frameMetaChanged, this, &SpectrumViewState::linesChanged);
+        connect(bridge, &FftChartBridge::frameMetaChanged, this, &SpectrumViewState::seriesChanged);
         connect(bridge, &FftChartBridge::viewConfigChanged, this, &SpectrumViewState::configChanged);
         connect(bridge, &FftChartBridge::alarmPresetChanged, this, &SpectrumViewState::thresholdsChanged);
+        connect(bridge, &FftChartBridge::ceilingRequested, this, [this] { setYAutomatic(false); });
         connect(bridge, &FftChartBridge::xAxisResetRequested, this, [this] { setX(fullX()); });
     }
     emit bridgeChanged();
@@ -53,39 +66,29 @@ void SpectrumViewState::setDecibels(bool decibels)
     emit pictureChanged();
 }
 
-void SpectrumViewState::setFitted(bool fitted)
+void SpectrumViewState::setYAutomatic(bool automatic)
 {
-    if (fitted == m_fitted)
+    if (automatic == m_fitted)
         return;
-    m_fitted = fitted;
-    m_fitAnew = fitted;
+    m_fitted = automatic;
+    m_fitAnew = automatic;
     m_y = fullY();
     emit viewChanged();
     emit pictureChanged();
 }
 
-QStringList SpectrumViewState::lineNames() const
-{
-    return {QStringLiteral("X"), QStringLiteral("Y"), QStringLiteral("Z"), tr("Resultant")};
-}
-
-QVariantList SpectrumViewState::lineColors() const
-{
-    return {theme::kAxisX, theme::kAxisY, theme::kAxisZ, theme::kNorm};
-}
-
-QList<bool> SpectrumViewState::visibleLines() const
+QList<bool> SpectrumViewState::visibleSeries() const
 {
     return {m_visible[0], m_visible[1], m_visible[2], m_bridge && m_bridge->showResultant()};
 }
 
-void SpectrumViewState::setLineVisible(int line, bool visible)
+void SpectrumViewState::setSeriesVisible(int line, bool visible)
 {
-    if (line == kLines - 1 && m_bridge) {
+    if (line == FftChartBridge::kSeries - 1 && m_bridge) {
         m_bridge->setShowResultant(visible);
     } else if (line >= 0 && line < int(m_visible.size()) && m_visible[size_t(line)] != visible) {
         m_visible[size_t(line)] = visible;
-        emit linesChanged();
+        emit seriesChanged();
         emit pictureChanged();
     }
 }
@@ -93,6 +96,37 @@ void SpectrumViewState::setLineVisible(int line, bool visible)
 double SpectrumViewState::level(double amplitude) const
 {
     return m_decibels ? std::max(kFloorDb, 20 * std::log10(amplitude)) : amplitude;
+}
+
+double SpectrumViewState::fitFromX() const
+{
+    return m_bridge ? m_bridge->steadyEndHz() : 0;
+}
+
+QString SpectrumViewState::valueText(int, double value, bool isDifference) const
+{
+    return isDifference ? value_format::signedNumber(value, 2) : value_format::number(value, 2);
+}
+
+QString SpectrumViewState::positionText(double frequency) const
+{
+    return tr("%1 Hz").arg(value_format::number(frequency, 2));
+}
+
+double SpectrumViewState::placeBeside(double frequency, int direction) const
+{
+    return frequency + direction * (m_bridge ? m_bridge->frequencyResolution() : 0);
+}
+
+void SpectrumViewState::setManualY(chart_range::Range range)
+{
+    m_fitted = false;
+    setY(range);
+}
+
+QByteArray SpectrumViewState::visibleTable() const
+{
+    return m_bridge ? m_bridge->exportSnapshotCsv().toUtf8() : QByteArray();
 }
 
 QVariantList SpectrumViewState::marks() const
@@ -112,6 +146,21 @@ QVariantList SpectrumViewState::marks() const
     return list;
 }
 
+QList<bool> SpectrumViewState::apart(const QVariantList &rectangles)
+{
+    QList<bool> shown;
+    QList<QRectF> taken;
+    for (const QVariant &entry : rectangles) {
+        const QRectF rectangle = entry.toRectF();
+        const bool isFree =
+            std::none_of(taken.begin(), taken.end(), [&](const QRectF &other) { return other.intersects(rectangle); });
+        shown += isFree;
+        if (isFree)
+            taken += rectangle;
+    }
+    return shown;
+}
+
 double SpectrumViewState::watchLevel() const
 {
     return m_bridge ? level(m_bridge->alarmRule().watchThreshold) : 0;
@@ -122,7 +171,7 @@ double SpectrumViewState::alarmLevel() const
     return m_bridge ? level(m_bridge->alarmRule().alarmThreshold) : 0;
 }
 
-QString SpectrumViewState::hoverFrequency() const
+QString SpectrumViewState::hoverTitle() const
 {
     const QVariantMap bin = m_bridge ? m_bridge->queryCursor(m_hoverX) : QVariantMap();
     return bin.isEmpty() ? QString()
@@ -132,20 +181,10 @@ QString SpectrumViewState::hoverFrequency() const
 QStringList SpectrumViewState::hoverTexts() const
 {
     QStringList texts;
-    for (const double amplitude : amplitudesAt(m_hoverX))
+    const QList<double> amplitudes = m_bridge ? m_bridge->valuesAt(m_hoverX) : QList<double>();
+    for (const double amplitude : amplitudes)
         texts += amplitudeText(amplitude).rightJustified(kWidth, QChar::Nbsp);
     return texts;
-}
-
-QList<double> SpectrumViewState::amplitudesAt(double frequency) const
-{
-    const QVariantMap bin = m_bridge ? m_bridge->queryCursor(frequency) : QVariantMap();
-    if (bin.isEmpty())
-        return {};
-    const double x = bin.value(QStringLiteral("xAmplitude")).toDouble();
-    const double y = bin.value(QStringLiteral("yAmplitude")).toDouble();
-    const double z = bin.value(QStringLiteral("zAmplitude")).toDouble();
-    return {x, y, z, std::sqrt(x * x + y * y + z * z)};
 }
 
 QString SpectrumViewState::amplitudeText(double amplitude, bool isDifference) const
@@ -163,17 +202,15 @@ QStringList SpectrumViewState::measurement() const
     QStringList texts;
     std::array<QList<double>, 2> amplitudes;
     for (size_t i = 0; i < m_cursors.size(); ++i) {
-        amplitudes[i] = amplitudesAt(m_cursors[i]);
+        amplitudes[i] = m_bridge ? m_bridge->valuesAt(m_cursors[i]) : QList<double>();
         if (!std::isnan(m_cursors[i]))
-            texts += QStringLiteral("%1 %2")
-                         .arg(QLatin1Char(i == 0 ? 'A' : 'B'))
-                         .arg(tr("%1 Hz").arg(value_format::number(m_cursors[i], 2)));
+            texts += QStringLiteral("%1 %2").arg(QLatin1Char(i == 0 ? 'A' : 'B')).arg(positionText(m_cursors[i]));
     }
     if (texts.size() < 2)
         return texts;
     texts += QStringLiteral("Δf %1").arg(tr("%1 Hz").arg(value_format::signedNumber(m_cursors[1] - m_cursors[0], 2)));
-    const QList<bool> visible = visibleLines();
-    const QStringList names = lineNames();
+    const QList<bool> visible = visibleSeries();
+    const QStringList names = seriesNames();
     for (qsizetype i = 0; i < std::min(amplitudes[0].size(), amplitudes[1].size()); ++i) {
         if (visible.at(i))
             texts += QStringLiteral("Δ%1 %2").arg(
@@ -216,14 +253,15 @@ void SpectrumViewState::panY(double fraction)
 
 void SpectrumViewState::reset()
 {
-    m_fitted = false;
+    m_fitted = true;
+    m_fitAnew = true;
     m_x = fullX();
     m_y = fullY();
     emit viewChanged();
     emit pictureChanged();
 }
 
-void SpectrumViewState::fitLevels(double low, double high)
+void SpectrumViewState::fitValues(double low, double high)
 {
     if (!m_fitted || !(low <= high))
         return;
@@ -231,8 +269,9 @@ void SpectrumViewState::fitLevels(double low, double high)
     const chart_range::Range full = fullY();
     constexpr chart_range::Range kHoldsNothing{1, 0};
     const chart_range::Range current = std::exchange(m_fitAnew, false) ? kHoldsNothing : m_y;
-    setY(chart_range::fitted(current, low, high,
-                             {full.min, full.max, m_decibels ? kMinDecibelSpan : kMinAmplitudeSpan}));
+    const chart_range::Range range =
+        chart_range::fitted(current, low, high, {full.min, full.max, m_decibels ? kMinDecibelSpan : kMinAmplitudeSpan});
+    setY({std::max(range.min, full.min), std::min(range.max, full.max)});
 }
 
 void SpectrumViewState::dataChanged()
@@ -255,11 +294,11 @@ void SpectrumViewState::configChanged()
     const double ceiling = m_bridge ? m_bridge->yAxisMax() : 0;
     if (ceiling != m_ceiling) {
         m_ceiling = ceiling;
-        m_fitted = false;
+        m_fitAnew = m_fitted;
         m_y = fullY();
         emit viewChanged();
     }
-    emit linesChanged();
+    emit seriesChanged();
     emit pictureChanged();
 }
 

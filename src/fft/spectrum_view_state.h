@@ -7,16 +7,16 @@
 #include <QVariantList>
 #include <QtQml/qqml.h>
 
+#include "chart/plot_view_state.h"
 #include "fft/fft_chart_bridge.h"
-#include "wave/plot_view_state.h"
 
 /// What the spectrum view shows of its bridge: the visible ranges of both axes, which curves, the cursors A and B, the
 /// crosshair, and the texts that go with them. The view binds to it and passes gestures on.
 ///
 /// Frequencies are in Hz from 0 to half the sample rate. Levels are what the value axis counts: the amplitude itself,
 /// from 0 to the ceiling that the user set, or with `decibels` 20 log10 of it (0 dB is 1 of the unit), from kFloorDb.
-/// With `fitted` the value axis fits itself to the visible curves beyond 0 Hz instead of going up to the ceiling; a
-/// zoom or pan of the user ends that. Main thread only; the bridge is not owned and may die first.
+/// The automatic value axis fits itself to the visible curves beyond 0 Hz; a zoom or pan of the user ends that, and so
+/// does a new ceiling, up to which the axis then goes. Main thread only; the bridge is not owned and may die first.
 class SpectrumViewState : public PlotViewState
 {
     Q_OBJECT
@@ -24,19 +24,11 @@ class SpectrumViewState : public PlotViewState
     QML_ELEMENT
     Q_PROPERTY(FftChartBridge *bridge READ bridge WRITE setBridge NOTIFY bridgeChanged)
     Q_PROPERTY(bool decibels READ decibels WRITE setDecibels NOTIFY viewChanged)
-    Q_PROPERTY(bool fitted READ isFitted WRITE setFitted NOTIFY viewChanged)
-    Q_PROPERTY(QStringList lineNames READ lineNames NOTIFY linesChanged)
-    Q_PROPERTY(QVariantList lineColors READ lineColors CONSTANT)
-    Q_PROPERTY(QList<bool> visibleLines READ visibleLines NOTIFY linesChanged)
     Q_PROPERTY(QVariantList marks READ marks NOTIFY marksChanged)
     Q_PROPERTY(double watchLevel READ watchLevel NOTIFY thresholdsChanged)
     Q_PROPERTY(double alarmLevel READ alarmLevel NOTIFY thresholdsChanged)
-    Q_PROPERTY(QString hoverFrequency READ hoverFrequency NOTIFY hoverChanged)
-    Q_PROPERTY(QStringList hoverTexts READ hoverTexts NOTIFY hoverChanged)
-    Q_PROPERTY(QStringList measurement READ measurement NOTIFY cursorsChanged)
 
 public:
-    static constexpr int kLines = 4; ///< X, Y, Z and the resultant
     static constexpr double kFloorDb = -60;
 
     explicit SpectrumViewState(QObject *parent = nullptr);
@@ -46,40 +38,44 @@ public:
 
     bool decibels() const { return m_decibels; }
     void setDecibels(bool decibels);
-    bool isFitted() const { return m_fitted; }
-    void setFitted(bool fitted);
+    bool isYAutomatic() const override { return m_fitted; }
+    void setYAutomatic(bool automatic) override;
 
-    QStringList lineNames() const;
-    QVariantList lineColors() const;
-    QList<bool> visibleLines() const;
-    Q_INVOKABLE void setLineVisible(int line, bool visible);
+    const ChartSource *source() const override { return m_bridge; }
+    QList<bool> visibleSeries() const override;
+    void setSeriesVisible(int line, bool visible) override;
+    double level(double amplitude) const override;
+    double fitFromX() const override;
+    void fitValues(double low, double high) override;
 
-    /// Level of an amplitude.
-    double level(double amplitude) const;
-    /// The dominant peak and its harmonics: maps of "frequency", "level" and "label".
+    /// The dominant peak and its harmonics, the most important first: maps of "frequency", "level" and "label".
     QVariantList marks() const;
+    /// Which of these rectangles can be shown without one lying on another: the first ones first.
+    Q_INVOKABLE static QList<bool> apart(const QVariantList &rectangles);
     double watchLevel() const;
     double alarmLevel() const;
 
-    /// Frequency under the pointer.
-    QString hoverFrequency() const;
-    /// Amplitude of each line at the bin nearest to the pointer; empty without one.
-    QStringList hoverTexts() const;
+    /// At the bin nearest to the pointer.
+    QString hoverTitle() const override;
+    QStringList hoverTexts() const override;
 
-    /// What the cursors measure: their bins, and with both the differences.
-    QStringList measurement() const;
+    /// The bins of the cursors, and with both the differences.
+    QStringList measurement() const override;
+
+    /// An amplitude, also where levels are shown: statistics of decibels would mean nothing.
+    QString valueText(int series, double value, bool isDifference) const override;
+    QString positionText(double frequency) const override;
+    QString fileStem() const override { return QStringLiteral("spectrum"); }
+    /// All spectra: they are short.
+    QByteArray visibleTable() const override;
 
     void zoomY(double factor, double anchor) override;
     void panY(double fraction) override;
-    /// All frequencies, amplitudes up to the ceiling.
+    /// All frequencies, amplitudes fitted.
     void reset() override;
-
-    /// Told by the view which levels are visible; fits the value axis while that is wanted.
-    void fitLevels(double low, double high);
 
 signals:
     void bridgeChanged();
-    void linesChanged();
     void marksChanged();
     void thresholdsChanged();
 
@@ -89,21 +85,23 @@ protected:
     double firstPlace(int cursor) const override;
     double keyPlace(int cursor) const override;
     double keyAnchorY() const override { return 0; }
+    double placeBeside(double frequency, int direction) const override;
+    void setManualY(chart_range::Range range) override;
 
 private:
     void dataChanged();
     void configChanged();
+    void tellAxisInForce();
     void followFrequencies();
     chart_range::Range fullX() const;
     chart_range::Range fullY() const;
     void setY(chart_range::Range range);
     QString amplitudeText(double amplitude, bool isDifference = false) const;
-    QList<double> amplitudesAt(double frequency) const;
 
     QPointer<FftChartBridge> m_bridge;
     bool m_decibels = false;
-    bool m_fitted = false;
-    bool m_fitAnew = false; ///< whatever is visible now
+    bool m_fitted = true;
+    bool m_fitAnew = true; ///< whatever is visible now
     double m_maxFreq = 50;
     double m_ceiling = 0;
     std::array<bool, 3> m_visible{true, true, true};

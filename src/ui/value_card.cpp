@@ -10,8 +10,8 @@
 #include "app/palette.h"
 #include "app/theme.h"
 #include "app/value_format.h"
+#include "chart/axis_ticks.h"
 #include "ui/readout_accessible.h"
-#include "wave/axis_ticks.h"
 
 namespace {
 

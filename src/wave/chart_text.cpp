@@ -87,18 +87,27 @@ QString chart_text::time(double seconds)
     return value_format::number(seconds, 3) + QStringLiteral(" s");
 }
 
-QString chart_text::streamBreak(StreamBreak kind)
+QString chart_text::curveBreak(const BreakMark &mark)
 {
-    switch (kind) {
-    case StreamBreak::ClockRestarted:
+    switch (mark.kind) {
+    case CurveBreak::Restarted:
         return QCoreApplication::translate("chart_text", "Restart");
-    case StreamBreak::OutputStopped:
+    case CurveBreak::Stopped:
         return QCoreApplication::translate("chart_text", "Stopped");
-    case StreamBreak::Gap:
+    case CurveBreak::Gap:
         return QCoreApplication::translate("chart_text", "Gap");
-    default:
-        return {};
+    case CurveBreak::Paused:
+        return QCoreApplication::translate("chart_text", "Paused");
+    case CurveBreak::Missing:
+        return QCoreApplication::translate("chart_text", "%1 missing").arg(mark.missing);
     }
+    return {};
+}
+
+QString chart_text::storeLimit(const WaveChartBridge &bridge)
+{
+    return QCoreApplication::translate("chart_text", "The store ends here: %1 s")
+        .arg(value_format::number(-bridge.xHistoryMin(), 1));
 }
 
 QString chart_text::range(const WaveChartBridge &bridge, double xMin, double xMax)
@@ -117,19 +126,23 @@ QString chart_text::range(const WaveChartBridge &bridge, double xMin, double xMa
         .arg(rate, seconds(xMin), seconds(xMax), kept);
 }
 
-QStringList chart_text::measurement(const WaveChartBridge &bridge, double a, double b)
+QString chart_text::difference(const WaveChartBridge &bridge, double change)
 {
+    return value_format::signedNumber(change, decimals(bridge.sensorType()));
+}
+
+QStringList chart_text::measurement(double a, double b)
+{
+    QStringList texts;
+    if (!std::isnan(a))
+        texts += QStringLiteral("A %1").arg(time(a));
+    if (!std::isnan(b))
+        texts += QStringLiteral("B %1").arg(time(b));
+    if (texts.size() < 2)
+        return texts;
     const double difference = b - a;
-    QStringList texts{QStringLiteral("%1t %2").arg(kDelta).arg(time(difference))};
+    texts += QStringLiteral("%1t %2").arg(kDelta).arg(time(difference));
     if (std::abs(difference) >= 0.0005)
         texts += QStringLiteral("1/%1t %2 Hz").arg(kDelta).arg(value_format::number(std::abs(1 / difference), 3));
-    const QVariantList atA = bridge.getValuesAtTime(a);
-    const QVariantList atB = bridge.getValuesAtTime(b);
-    const QStringList names = bridge.channelNames();
-    for (int channel = 0; channel < std::min(atA.size(), atB.size()); ++channel) {
-        const double change = atB.at(channel).toDouble() - atA.at(channel).toDouble();
-        texts += QStringLiteral("%1%2 %3").arg(kDelta).arg(
-            names.value(channel), value_format::signedNumber(change, decimals(bridge.sensorType())));
-    }
     return texts;
 }

@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-#include "session/stream_event.h"
+#include "wave/curve_break.h"
 
 class WaveChartBridge;
 
@@ -30,13 +30,20 @@ QString paddedValue(const WaveChartBridge &bridge, int channel, double value);
 /// "−2.900 s"
 QString time(double seconds);
 
-/// Why a stream started again, in a word or two.
-QString streamBreak(StreamBreak kind);
+/// Why a curve is broken, in a word or two.
+QString curveBreak(const BreakMark &mark);
+
+/// What the store holds, for the place where an axis reaches further back: "Store: 32.8 s".
+QString storeLimit(const WaveChartBridge &bridge);
 
 /// The rate, and which seconds of the kept history a view from `xMin` to `xMax` shows: "400 Hz · last 10 s of 60 s".
 QString range(const WaveChartBridge &bridge, double xMin, double xMax);
 
-/// What cursors at `a` and `b` (seconds) measure: time between them, its inverse, and the difference of each channel.
-QStringList measurement(const WaveChartBridge &bridge, double a, double b);
+/// A change of values, always with its sign.
+QString difference(const WaveChartBridge &bridge, double change);
+
+/// The times of the cursors `a` and `b` (seconds, NaN for one that is not placed), and with both the time between them
+/// and its inverse.
+QStringList measurement(double a, double b);
 
 } // namespace chart_text

@@ -6,7 +6,7 @@
 
 #include <utility>
 
-#include "wave/chart_saver.h"
+#include "chart/chart_saver.h"
 
 namespace {
 

@@ -18,7 +18,7 @@ public:
 
     GatewayDashboardBridge &bridge() { return m_bridge; }
 
-    /// Takes the samples of one batch, just arrived; see gatewaySamples().
+    /// Takes the samples of one batch, just arrived.
     void updateGatewaySamples(const QList<GatewaySample> &samples) { m_bridge.updateGatewaySamples(samples); }
     /// Batches per second.
     void setFrameRate(unsigned int batchesPerSecond) { m_bridge.setFrameRate(batchesPerSecond); }

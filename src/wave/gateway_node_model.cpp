@@ -2,19 +2,14 @@
 
 #include <cmath>
 
+#include "app/value_format.h"
+
 namespace {
-
-const QString kAbsent = QStringLiteral("–");
-
-QString number(double value, int decimals)
-{
-    // A hostile value must not make the column as wide as the screen.
-    return std::abs(value) < 1e7 ? QString::number(value, 'f', decimals) : QString::number(value, 'g', 3);
-}
 
 QString quantity(const GatewayNodeStatus &node, SampleField field, double value, int decimals)
 {
-    return (node.fields & field) && std::isfinite(value) ? number(value, decimals) : kAbsent;
+    return (node.fields & field) && std::isfinite(value) ? value_format::number(value, decimals)
+                                                         : value_format::absent();
 }
 
 } // namespace
@@ -66,17 +61,17 @@ QVariant GatewayNodeModel::data(const QModelIndex &index, int role) const
     case PressureRole:
         return node.pressure;
     case RateTextRole:
-        return node.state == NodeState::Ended ? kAbsent : number(node.rateHz, 1);
+        return node.state == NodeState::Ended ? value_format::absent() : value_format::number(node.rateHz, 1);
     case AgeTextRole:
         if (node.ageMs < 0)
-            return kAbsent;
+            return value_format::absent();
         if (node.ageMs < 1000)
             return tr("%1 ms").arg(node.ageMs);
         if (node.ageMs < 100000)
-            return tr("%1 s").arg(number(double(node.ageMs) / 1000.0, 1));
+            return tr("%1 s").arg(value_format::number(double(node.ageMs) / 1000.0, 1));
         return tr("%1 min").arg(node.ageMs / 60000);
     case MissingTextRole:
-        return node.hasClock ? QString::number(node.missing) : kAbsent;
+        return node.hasClock ? QString::number(node.missing) : value_format::absent();
     case TemperatureTextRole:
         return quantity(node, SampleField::Temperature, double(node.temperature), 1);
     case PressureTextRole:

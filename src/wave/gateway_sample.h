@@ -16,6 +16,3 @@ struct GatewaySample
     StreamBreak brokenBy = StreamBreak::None; ///< between this sample and the one before of this node
     bool hasClock = false; ///< the node's samples carry time stamps, so that `missing` means something
 };
-
-/// The samples of a gateway batch in order; empty for any other frame. Stamps and counts are the session's to fill in.
-QList<GatewaySample> gatewaySamples(const DecodedFrame &frame);

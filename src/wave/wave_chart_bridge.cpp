@@ -1,8 +1,10 @@
 #include "wave/wave_chart_bridge.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <stdexcept>
+#include <utility>
 
 #include "app/app_language_manager.h"
 #include "wave/sensor_types.h"
@@ -10,6 +12,12 @@
 namespace {
 
 constexpr qsizetype kMaxBreakMarks = 64;
+
+qint64 hostNowMs()
+{
+    using namespace std::chrono;
+    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+}
 
 } // namespace
 
@@ -71,25 +79,70 @@ QList<QPointF> WaveChartBridge::getDecimatedPoints(int channel, double tMin, dou
 
 QVariantList WaveChartBridge::getValuesAtTime(double timeSec) const
 {
+    QVariantList list;
+    for (const double value : valuesAt(timeSec))
+        list += value;
+    return list;
+}
+
+quint32 WaveChartBridge::seriesRgb(int channel) const
+{
+    return m_type && channel >= 0 && channel < channelCount() ? m_type->channels[size_t(channel)].color.rgb() & 0xFFFFFF
+                                                              : 0;
+}
+
+void WaveChartBridge::seriesPoints(int channel, double xMin, double xMax, int maxPoints, QList<QPointF> &out) const
+{
+    m_model.getCurve(channel, xMin, xMax, maxPoints, out);
+}
+
+QList<double> WaveChartBridge::valuesAt(double timeSec) const
+{
     const int offset = m_model.sampleOffsetAtTime(timeSec);
     if (offset < 0)
         return {};
     const int slot = (m_model.head() + offset) % WaveformDataModel::kCapacity;
-    QVariantList values;
+    QList<double> values;
     for (int channel = 0; channel < channelCount(); ++channel)
         values += m_model.rawValue(channel, slot);
     return values;
 }
 
+SeriesStatistics WaveChartBridge::statistics(int channel, double xMin, double xMax) const
+{
+    int first = 0;
+    int last = 0;
+    m_model.resolveTimeWindow(xMin, xMax, first, last);
+    StatisticsSum sum;
+    for (const std::span<const double> run : m_model.runs(channel, first, last))
+        sum.add(run);
+    return sum.result();
+}
+
 void WaveChartBridge::pushSample(const float *values, int n, unsigned int timestampMs)
 {
-    if (!m_playing)
+    if (!m_playing) {
+        if (m_model.hasData() && !m_pendingBreak)
+            m_pendingBreak = CurveBreak::Paused;
         return;
+    }
+    quint64 missing = 0;
+    if (m_pendingBreak) {
+        m_model.breakLine(WaveformDataModel::Part::Cut);
+        m_gaps.changeClock();
+    }
+    const SampleGaps::Step step = m_gaps.add(timestampMs, hostNowMs());
+    if (step.missing > 0 || step.jumped) {
+        m_model.breakLine(WaveformDataModel::Part::Gap);
+        missing = step.missing;
+    }
     m_model.pushSample(values, std::min(n, channelCount()), timestampMs);
     if (m_pendingBreak)
-        placePendingBreak();
-    while (!m_breakMarks.isEmpty() && m_breakMarks.constFirst().timeSec < newestTimeSec() + xHistoryMin())
-        m_breakMarks.removeFirst();
+        addMark(m_breakMarks, {newestTimeSec(), *std::exchange(m_pendingBreak, std::nullopt)});
+    else if (missing > 0)
+        addMark(m_missingMarks, {newestTimeSec(), CurveBreak::Missing, missing});
+    forgetOldMarks(m_breakMarks);
+    forgetOldMarks(m_missingMarks);
     if (!m_model.shouldRedraw())
         return;
     if (m_observed && !m_updatePosted) {
@@ -149,7 +202,9 @@ void WaveChartBridge::reset()
     const bool wasFiltered = filterOn();
     m_model.reset();
     m_breakMarks.clear();
+    m_missingMarks.clear();
     m_pendingBreak.reset();
+    m_gaps = {};
     m_updatePosted = false;
     if (wasFiltered)
         emit filterChanged();
@@ -170,15 +225,20 @@ void WaveChartBridge::markBreak(StreamBreak kind)
 {
     m_model.restartFilters();
     if (m_model.hasData())
-        m_pendingBreak = kind;
+        m_pendingBreak = curveBreak(kind);
 }
 
-void WaveChartBridge::placePendingBreak()
+void WaveChartBridge::addMark(QList<BreakMark> &marks, const BreakMark &mark)
 {
-    if (m_breakMarks.size() >= kMaxBreakMarks)
-        m_breakMarks.removeFirst();
-    m_breakMarks.append({newestTimeSec(), *m_pendingBreak});
-    m_pendingBreak.reset();
+    if (marks.size() >= kMaxBreakMarks)
+        marks.removeFirst();
+    marks.append(mark);
+}
+
+void WaveChartBridge::forgetOldMarks(QList<BreakMark> &marks) const
+{
+    while (!marks.isEmpty() && marks.constFirst().timeSec < newestTimeSec() + xHistoryMin())
+        marks.removeFirst();
 }
 
 void WaveChartBridge::setFilterEnabled(int channel, bool enabled)

@@ -9,7 +9,10 @@
 
 #include <optional>
 
+#include "chart/chart_source.h"
+#include "link/sample_gaps.h"
 #include "session/stream_event.h"
+#include "wave/curve_break.h"
 #include "wave/waveform_data_model.h"
 
 struct SensorType;
@@ -20,7 +23,7 @@ struct SensorType;
 ///
 /// dataChanged() comes at most once per pass of the event loop, about 30 times a second for fast streams, and never
 /// while nobody observes the chart. Main thread only.
-class WaveChartBridge : public QObject
+class WaveChartBridge : public QObject, public ChartSource
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(WaveChartBridge)
@@ -60,7 +63,7 @@ public:
     double yMax() const;
     bool playing() const { return m_playing; }
     bool hasFilter() const;
-    bool hasData() const { return m_model.hasData(); }
+    bool hasData() const override { return m_model.hasData(); }
     /// Samples per second as applied; a change that came during a pause waits for its end.
     unsigned int framerate() const { return m_appliedFrameRate; }
 
@@ -81,6 +84,14 @@ public:
     Q_INVOKABLE int headIndex() const { return m_model.head(); }
     /// Stamp of the newest sample in seconds: tells by how much the picture moved.
     Q_INVOKABLE double newestTimeSec() const { return double(m_model.timestampAtSampleOffset(0)) / 1000.0; }
+    int seriesCount() const override { return channelCount(); }
+    QString seriesName(int channel) const override { return channelNames().value(channel); }
+    quint32 seriesRgb(int channel) const override;
+    void seriesPoints(int channel, double xMin, double xMax, int maxPoints, QList<QPointF> &out) const override;
+    QList<double> valuesAt(double timeSec) const override;
+    SeriesStatistics statistics(int channel, double xMin, double xMax) const override;
+    quint64 revision() const override { return m_model.revision(); }
+
     /// The samples, for export.
     const WaveformDataModel &model() const { return m_model; }
 
@@ -100,14 +111,12 @@ public:
     /// The stream starts again at the sample that comes next: keeps the picture, remembers the place, and has the
     /// filters start again.
     void markBreak(StreamBreak kind);
-    /// A place where the stream started again, on the clock of newestTimeSec().
-    struct BreakMark
-    {
-        double timeSec;
-        StreamBreak kind;
-    };
-    /// Those within the history, oldest first.
+    /// The newest places within the history where the curves are broken, oldest first, those where samples are missing
+    /// apart: they may be many.
     const QList<BreakMark> &breakMarks() const { return m_breakMarks; }
+    const QList<BreakMark> &missingMarks() const { return m_missingMarks; }
+    /// The store is full: what is older is gone, though the axis may reach further.
+    bool isStoreFull() const { return m_model.count() == WaveformDataModel::kCapacity; }
 
     /// Filter of one channel; both may throw, see WaveformDataModel.
     void setFilterEnabled(int channel, bool enabled);
@@ -138,7 +147,8 @@ signals:
 private:
     void notifyView();
     void switchFilters(bool on);
-    void placePendingBreak();
+    static void addMark(QList<BreakMark> &marks, const BreakMark &mark);
+    void forgetOldMarks(QList<BreakMark> &marks) const;
 
     QString m_sensorType;
     const SensorType *m_type; ///< null for an unknown key
@@ -149,7 +159,9 @@ private:
     unsigned int m_appliedFrameRate = 100;
     unsigned int m_requestedFrameRate = 100;
     QList<BreakMark> m_breakMarks;
-    std::optional<StreamBreak> m_pendingBreak; ///< waits for the first sample after it
+    QList<BreakMark> m_missingMarks;
+    std::optional<CurveBreak> m_pendingBreak; ///< waits for the first sample after it
+    SampleGaps m_gaps;
     bool m_observed = false;
     bool m_updatePosted = false;
 };

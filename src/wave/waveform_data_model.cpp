@@ -6,6 +6,7 @@
 #include <limits>
 #include <numbers>
 #include <span>
+#include <utility>
 
 namespace {
 
@@ -57,7 +58,7 @@ Extremes findExtremes(const Runs &runs)
 WaveformDataModel::WaveformDataModel(int channelCount, QObject *parent)
     : QObject(parent), m_values(std::max(channelCount, 0), QList<double>(kCapacity, 0.0)), m_timestamps(kCapacity, 0),
       m_filters(size_t(std::max(channelCount, 0))), m_filterEnabled(std::max(channelCount, 0), false),
-      m_filterCutoff(std::max(channelCount, 0), 0.0)
+      m_filterCutoff(std::max(channelCount, 0), 0.0), m_parts(kCapacity, char(Part::None))
 {
     // The copies above share one storage; part them now rather than at the first sample.
     for (QList<double> &values : m_values)
@@ -72,7 +73,11 @@ void WaveformDataModel::pushSample(const float *values, int n, unsigned int time
     m_head = m_hasData ? (m_head + kCapacity - 1) % kCapacity : 0;
     m_hasData = true;
     ++m_samplesSinceRedraw;
+    ++m_revision;
     m_count = std::min(m_count + 1, kCapacity);
+    char &part = m_parts[size_t(m_head)];
+    m_partCount += int(m_nextPart != Part::None) - int(part != char(Part::None));
+    part = char(std::exchange(m_nextPart, Part::None));
     m_timestamps[m_head] = stamp;
     m_lastTimestamp = stamp;
     for (int i = 0; i < std::min(n, channelCount()); ++i) {
@@ -91,8 +96,12 @@ void WaveformDataModel::reset()
     m_head = 0;
     m_count = 0;
     m_hasData = false;
+    ++m_revision;
     m_samplesSinceRedraw = 0;
     m_lastTimestamp = 0;
+    m_nextPart = Part::None;
+    m_partCount = 0;
+    std::fill(m_parts.begin(), m_parts.end(), char(Part::None));
     m_timestamps.fill(0);
     for (QList<double> &values : m_values)
         values.fill(0.0);
@@ -157,6 +166,20 @@ bool WaveformDataModel::shouldRedraw() const
 double WaveformDataModel::rawValue(int channel, int slot) const
 {
     return hasChannel(channel) ? m_values.at(channel).at(slot) : 0.0;
+}
+
+std::array<std::span<const double>, 2> WaveformDataModel::runs(int channel, int first, int last) const
+{
+    first = std::max(first, 0);
+    last = std::min(last, m_count);
+    if (!hasChannel(channel) || first >= last)
+        return {};
+    const double *values = m_values.at(channel).constData();
+    const int start = m_head + first;
+    const int stop = m_head + last;
+    const int wrapped = std::max(start - kCapacity, 0);
+    return {std::span(values + std::min(start, kCapacity), values + std::min(stop, kCapacity)),
+            std::span(values + wrapped, values + std::max(stop - kCapacity, 0))};
 }
 
 double WaveformDataModel::historyDurationSec() const
@@ -270,20 +293,63 @@ int WaveformDataModel::getDecimatedPointsByTime(int channel, double xMin, double
                         [this](int offset) { return -ageSecAtSampleOffset(offset); });
 }
 
+void WaveformDataModel::getCurve(int channel, double xMin, double xMax, int maxPoints, QList<QPointF> &out) const
+{
+    out.clear();
+    int first = 0;
+    int last = 0;
+    resolveTimeWindow(xMin, xMax, first, last);
+    first = std::max(first - 1, 0);
+    last = std::min(last + 1, m_count);
+    if (!hasChannel(channel) || first >= last || maxPoints < 2)
+        return;
+    const auto xAt = [this](int offset) { return -ageSecAtSampleOffset(offset); };
+    const double bucketSec = (xAt(first) - xAt(last - 1)) / (double(maxPoints) / 2);
+    const double budget = double(maxPoints) / (last - first);
+    const auto append = [&](int from, int to) {
+        const int buckets = std::max(1, int((to - from) * budget / 2));
+        if (to - from <= 2 * buckets)
+            appendRaw(channel, from, to, out, xAt);
+        else
+            appendBuckets(channel, from, to, buckets, out, xAt);
+    };
+    int from = first;
+    for (int newer = nextParted(first, last - 1); newer < last - 1; newer = nextParted(newer + 1, last - 1)) {
+        const bool isCut = m_parts[size_t(slotAt(newer))] == char(Part::Cut);
+        if ((!isCut && xAt(newer) - xAt(newer + 1) < bucketSec) || out.size() > 3 * qsizetype(maxPoints))
+            continue;
+        append(from, newer + 1);
+        out.append({xAt(newer), std::numeric_limits<double>::quiet_NaN()});
+        from = newer + 1;
+    }
+    append(from, last);
+}
+
+/// The first offset from `first` to `last` - 1 that is parted from the sample before it, else `last`.
+int WaveformDataModel::nextParted(int first, int last) const
+{
+    if (m_partCount == 0)
+        return last;
+    while (first < last) {
+        // A run of slots that does not pass the end of the storage.
+        const auto begin = m_parts.begin() + slotAt(first);
+        const auto end = begin + std::min(last - first, kCapacity - slotAt(first));
+        const auto found = std::find_if(begin, end, [](char part) { return part != char(Part::None); });
+        first += int(found - begin);
+        if (found != end)
+            break;
+    }
+    return first;
+}
+
 template <class XAt>
 void WaveformDataModel::rawPoints(int channel, int first, int last, QList<QPointF> &out, XAt xAt) const
 {
+    out.clear();
     first = std::max(first, 0);
     last = std::min(last, m_count);
-    if (!hasChannel(channel) || first >= last) {
-        out.clear();
-        return;
-    }
-    const double *values = m_values.at(channel).constData();
-    out.resize(last - first);
-    QPointF *point = out.data();
-    for (int offset = first; offset < last; ++offset)
-        *point++ = QPointF(xAt(offset), values[slotAt(offset)]);
+    if (hasChannel(channel) && first < last)
+        appendRaw(channel, first, last, out, xAt);
 }
 
 template <class XAt>
@@ -295,32 +361,40 @@ int WaveformDataModel::bucketPoints(int channel, int first, int last, int maxPoi
         out.clear();
         return 0;
     }
-    const int n = last - first;
-    if (maxPoints >= n) {
-        rawPoints(channel, first, last, out, xAt);
-        return int(out.size());
-    }
-    if (maxPoints == 1)
+    if (maxPoints == 1 && last - first > 1)
         return 0;
-    const int buckets = maxPoints / 2; // of at least two samples, as the budget is below their number
-    const double step = double(n) / buckets;
+    out.clear();
+    if (maxPoints >= last - first)
+        appendRaw(channel, first, last, out, xAt);
+    else
+        appendBuckets(channel, first, last, maxPoints / 2, out, xAt);
+    return int(out.size());
+}
+
+template <class XAt>
+void WaveformDataModel::appendRaw(int channel, int first, int last, QList<QPointF> &out, XAt xAt) const
+{
     const double *values = m_values.at(channel).constData();
-    out.resize(2 * qsizetype(buckets));
-    QPointF *const begin = out.data();
-    QPointF *point = begin;
+    const qsizetype begin = out.size();
+    out.resize(begin + last - first);
+    QPointF *point = out.data() + begin;
+    for (int offset = first; offset < last; ++offset)
+        *point++ = QPointF(xAt(offset), values[slotAt(offset)]);
+}
+
+/// Two points for each of `buckets` buckets, which hold at least two samples each.
+template <class XAt>
+void WaveformDataModel::appendBuckets(int channel, int first, int last, int buckets, QList<QPointF> &out, XAt xAt) const
+{
+    const double step = double(last - first) / buckets;
+    const qsizetype begin = out.size();
+    out.resize(begin + 2 * qsizetype(buckets));
+    QPointF *point = out.data() + begin;
     for (int bucket = 0; bucket < buckets; ++bucket) {
         const int from = first + int(bucket * step);
         const int to = std::min(first + int((bucket + 1) * step), last);
-        const int start = m_head + from;
-        const int stop = m_head + to;
-        const int wrapped = std::max(start - kCapacity, 0);
-        const Extremes extremes =
-            findExtremes({std::span(values + std::min(start, kCapacity), values + std::min(stop, kCapacity)),
-                          std::span(values + wrapped, values + std::max(stop - kCapacity, 0))});
+        const Extremes extremes = findExtremes(runs(channel, from, to));
         *point++ = QPointF(xAt(from), extremes.highIsNewer ? extremes.high : extremes.low);
         *point++ = QPointF(xAt(to - 1), extremes.highIsNewer ? extremes.low : extremes.high);
     }
-    const auto written = int(point - begin);
-    out.resize(written);
-    return written;
 }

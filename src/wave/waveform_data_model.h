@@ -1,6 +1,9 @@
 #pragma once
 
+#include <algorithm>
+#include <array>
 #include <memory>
+#include <span>
 #include <vector>
 
 #include <QList>
@@ -40,6 +43,13 @@ public:
     /// slot held before; values beyond the channel count are ignored. Values that are not finite are stored as they are
     /// and do not reach the filter, which would never forget them.
     void pushSample(const float *values, int n, unsigned int timestampMs);
+    /// What parts the next sample from the one before it.
+    enum class Part : char {
+        None,
+        Gap, ///< some time without samples: a curve is broken where that is wide enough to be seen
+        Cut, ///< another stretch of the stream: a curve is always broken
+    };
+    void breakLine(Part part) { m_nextPart = std::max(m_nextPart, part); }
     /// Forgets samples and filter settings; the frame rate stays.
     void reset();
 
@@ -63,6 +73,11 @@ public:
 
     /// Value at a storage slot (not an offset), 0 to kCapacity - 1, which is not checked.
     double rawValue(int channel, int slot) const;
+
+    /// Samples pushed or forgotten so far: changes with the contents.
+    quint64 revision() const { return m_revision; }
+    /// The values of the offsets `first` to `last` - 1 as they lie in the store, newest first: one run or two.
+    std::array<std::span<const double>, 2> runs(int channel, int first, int last) const;
 
     /// Age of the oldest sample in seconds.
     double historyDurationSec() const;
@@ -95,9 +110,18 @@ public:
     /// The same over a time window with x = -age.
     int getDecimatedPointsByTime(int channel, double xMin, double xMax, int maxPoints, QList<QPointF> &out) const;
 
+    /// What a curve shows of the samples with x in [xMin, xMax] and one more on either side: as
+    /// getDecimatedPointsByTime(), with a point that is NaN where two samples are parted. Gaps narrower than a bucket
+    /// cannot be seen and break nothing, so that there are at most four points per point of the budget.
+    void getCurve(int channel, double xMin, double xMax, int maxPoints, QList<QPointF> &out) const;
+
 private:
     bool hasChannel(int channel) const { return channel >= 0 && channel < channelCount(); }
     int slotAt(int offset) const { return (m_head + offset) % kCapacity; }
+    int nextParted(int first, int last) const;
+    template <class XAt> void appendRaw(int channel, int first, int last, QList<QPointF> &out, XAt xAt) const;
+    template <class XAt>
+    void appendBuckets(int channel, int first, int last, int buckets, QList<QPointF> &out, XAt xAt) const;
     template <class XAt> void rawPoints(int channel, int first, int last, QList<QPointF> &out, XAt xAt) const;
     template <class XAt>
     int bucketPoints(int channel, int first, int last, int maxPoints, QList<QPointF> &out, XAt xAt) const;
@@ -107,10 +131,14 @@ private:
     std::vector<std::unique_ptr<LowPassFilter>> m_filters;
     QList<bool> m_filterEnabled;
     QList<double> m_filterCutoff; ///< Hz
+    std::vector<char> m_parts;    ///< per slot, a Part: between its sample and the one before
+    int m_partCount = 0;          ///< slots that hold one
+    Part m_nextPart = Part::None;
     int m_head = 0;
     int m_count = 0;
     bool m_hasData = false;
     unsigned int m_frameRate = 100; ///< samples per second
     unsigned int m_samplesSinceRedraw = 0;
     quint64 m_lastTimestamp = 0; ///< milliseconds
+    quint64 m_revision = 0;
 };

@@ -7,6 +7,7 @@
 
 #include "app/app_language_manager.h"
 #include "attitude/form_threed.h"
+#include "chart/chart_saver.h"
 #include "e2e/views.h"
 #include "fft/form_fftchart.h"
 #include "fft/spectrum_view_state.h"
@@ -14,7 +15,6 @@
 #include "record/recorder.h"
 #include "support/hex_file.h"
 #include "updater/form_updater.h"
-#include "wave/chart_saver.h"
 #include "wave/form_sensor_dashboard.h"
 #include "wave/form_wireless_dashboard.h"
 

@@ -313,6 +313,12 @@ private slots:
         bench.feed(512, 0.25F);
         bench.start();
         QTRY_VERIFY(bench.bridge().hasData());
+        QVERIFY(bench.state->isYAutomatic()); // it starts fitted, and the field says so
+        QTRY_COMPARE(bench.state->yViewMax(), 300.0);
+        auto *ceiling = bench.control<QDoubleSpinBox>("SB_y_axis_max");
+        QCOMPARE(ceiling->text(), u"now 300 mG"_s);
+        bench.state->setYAutomatic(false);
+        QCOMPARE(ceiling->text(), u"16000 mG"_s);
         bench.wheel(0.5, 0.99, {});
         QVERIFY(std::abs(bench.state->yViewMax() - 12800) < 200);
         QCOMPARE(bench.state->xViewMax(), 500.0);
@@ -326,14 +332,18 @@ private slots:
         QVERIFY(bench.state->xViewMin() > 0);
         QTest::mouseDClick(bench.view, Qt::RightButton, {}, bench.at(0.5, 0.5));
         QCOMPARE(bench.state->xViewMin(), 0.0);
-        QCOMPARE(bench.state->yViewMax(), 16000.0);
+        QTRY_COMPARE(bench.state->yViewMax(), 300.0);
+        ceiling->setValue(2000); // a ceiling that is chosen is in force
+        QCOMPARE(bench.state->yViewMax(), 2000.0);
+        ceiling->setValue(16000);
 
         QTest::keyClick(bench.view, Qt::Key_Plus, Qt::ControlModifier);
         QVERIFY(std::abs(bench.state->xViewMin() - 50) < 1); // about the middle
         QTest::keyClick(bench.view, Qt::Key_Home);
+        bench.state->setYAutomatic(false);
 
         QTest::mouseMove(bench.view, bench.at(0.25, 0.5));
-        QTRY_COMPARE(bench.state->hoverFrequency(), u"125.00 Hz"_s);
+        QTRY_COMPARE(bench.state->hoverTitle(), u"125.00 Hz"_s);
         QCOMPARE(bench.state->hoverTexts().value(1).trimmed(), u"250.00 mG"_s);
         QTest::keyClick(bench.view, Qt::Key_A);
         bench.state->placeCursor(1, 250);
@@ -345,8 +355,16 @@ private slots:
         QVERIFY(std::abs(bench.state->yViewMax() - 20 * std::log10(16000)) < 1e-9);
         bench.click("fit");
         QTRY_COMPARE(bench.state->yViewMax(), 60.0);
+        bench.state->setYAutomatic(false);
         QTest::keyClick(bench.view, Qt::Key_Home);
-        QVERIFY(!bench.state->isFitted());
+        QVERIFY(bench.state->isYAutomatic());
+    }
+
+    void labelsGiveWayToEachOther()
+    {
+        const QVariantList places{QRectF(0, 0, 10, 5), QRectF(5, 2, 10, 5), QRectF(10.5, 0, 10, 5),
+                                  QRectF(5, 6, 10, 5)};
+        QCOMPARE(SpectrumViewState::apart(places), (QList<bool>{true, false, true, true}));
     }
 
     void customRule()

@@ -54,7 +54,7 @@ struct Bench
     form_updater dialog{&session};
 
     explicit Bench(const QByteArray &hexFile, const QStringList &options = {})
-        : device(options + QStringList{QStringLiteral("--bootloader-wait"), QStringLiteral("1500")})
+        : device(options + QStringList{QStringLiteral("--bootloader-wait"), QStringLiteral("600")})
     {
         QVERIFY(writeFile(QDir::current().filePath(QStringLiteral("firmware.hex")), hexFile));
         open();

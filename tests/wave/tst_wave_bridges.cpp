@@ -3,6 +3,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <cmath>
+
 #include "support/files.h"
 #include "wave/sample_feed.h"
 #include "wave/sensor_dashboard_bridge.h"
@@ -141,13 +143,13 @@ private slots:
         WaveChartBridge &chart = *dashboard.bridge(QStringLiteral("acc"));
         const auto marks = [&chart] {
             QStringList texts;
-            for (const WaveChartBridge::BreakMark &mark : chart.breakMarks())
+            for (const BreakMark &mark : chart.breakMarks())
                 texts += QStringLiteral("%1:%2").arg(mark.timeSec).arg(int(mark.kind));
             return texts.join(u' ');
         };
-        const std::tuple<StreamBreak, int, QString> rows[] = {{StreamBreak::Gap, 4, QStringLiteral("10:5")},
-                                                              {StreamBreak::ClockRestarted, 4, QStringLiteral("10:3")},
-                                                              {StreamBreak::OutputStopped, 4, QStringLiteral("10:4")},
+        const std::tuple<StreamBreak, int, QString> rows[] = {{StreamBreak::Gap, 4, QStringLiteral("10:2")},
+                                                              {StreamBreak::ClockRestarted, 4, QStringLiteral("10:0")},
+                                                              {StreamBreak::OutputStopped, 4, QStringLiteral("10:1")},
                                                               {StreamBreak::NewConnection, 1, QString()},
                                                               {StreamBreak::OtherNode, 1, QString()}};
         for (const auto &[kind, samples, expected] : rows) {
@@ -166,6 +168,40 @@ private slots:
             QCOMPARE(chart.model().count(), samples);
             QCOMPARE(chart.getValuesAtTime(0).at(0).toDouble(), first); // and once more
             QVERIFY(chart.filterOn() && chart.filterCutoffHz() == 5);
+        }
+    }
+
+    /// Curves end where nothing came, and say why.
+    void breaksWhereNothingCame()
+    {
+        const std::tuple<const char *, bool, unsigned int, int, int, int> rows[] = {
+            // Paused meanwhile, stamp after it; breaks of the curve, marks, missing.
+            {"steady", false, 510, 0, 0, 0},
+            {"one is missing", false, 520, 1, 0, 1},
+            {"many are missing", false, 1500, 1, 0, 99},
+            {"paused without a loss", true, 510, 0, 0, 0},
+            {"paused", true, 1500, 1, 1, 0},
+        };
+        for (const auto &[name, pauses, stamp, breaks, marks, missing] : rows) {
+            WaveChartBridge chart(QStringLiteral("acc"));
+            const float values[] = {1, 2, 3, 4};
+            for (unsigned int ms = 10; ms <= 500; ms += 10)
+                chart.pushSample(values, 4, ms);
+            chart.setPlaying(!pauses);
+            for (unsigned int ms = 510; pauses && ms < stamp; ms += 10)
+                chart.pushSample(values, 4, ms);
+            chart.setPlaying(true);
+            for (unsigned int i = 0; i < 50; ++i)
+                chart.pushSample(values, 4, stamp + 10 * i);
+            QList<QPointF> points;
+            chart.seriesPoints(0, -60, 0, 1000, points);
+            const auto broken =
+                std::count_if(points.begin(), points.end(), [](QPointF p) { return std::isnan(p.y()); });
+            QVERIFY2(broken == breaks, name);
+            QVERIFY2(chart.breakMarks().size() == marks
+                         && (marks == 0 || chart.breakMarks()[0].kind == CurveBreak::Paused),
+                     name);
+            QVERIFY2(chart.missingMarks().value(0).missing == quint64(missing), name);
         }
     }
 

@@ -6,7 +6,7 @@
 #include <limits>
 #include <stdexcept>
 
-#include "wave/circular_sample_buffer.h"
+#include "chart/circular_sample_buffer.h"
 #include "wave/waveform_data_model.h"
 
 namespace {
@@ -205,6 +205,50 @@ private slots:
                 const auto high = std::max_element(begin, end, lowerValue);
                 QCOMPARE(points[2 * b], QPointF(begin->x(), (high < low ? high : low)->y()));
                 QCOMPARE(points[2 * b + 1], QPointF((end - 1)->x(), (high < low ? low : high)->y()));
+            }
+        }
+    }
+
+    /// No drawn line leads over parted samples, but for gaps that are narrower than a point of the budget.
+    void breaksCurvesWhereSamplesArePart()
+    {
+        using Part = WaveformDataModel::Part;
+        // Every how many samples they are parted, milliseconds without samples there, as what, points of the budget.
+        const std::tuple<int, unsigned int, Part, int> rows[] = {
+            {100, 500, Part::Gap, 4000}, {100, 500, Part::Gap, 200}, {100, 0, Part::Cut, 200},
+            {7, 40, Part::Gap, 60},      {2, 0, Part::Cut, 60},      {kCapacity, 0, Part::None, 300},
+        };
+        for (const auto &[every, gapMs, part, budget] : rows) {
+            WaveformDataModel model(1);
+            QList<double> parted; // stamps of the samples after the gaps, seconds
+            unsigned int stamp = 0;
+            for (int i = 0; i < kCapacity + 2000; ++i) {
+                const bool isParted = i > 0 && i % every == 0;
+                stamp += 10 + (isParted ? gapMs : 0);
+                if (isParted) {
+                    model.breakLine(part);
+                    parted += stamp / 1000.0;
+                }
+                const float value = float(i);
+                model.pushSample(&value, 1, stamp);
+            }
+            const double newest = stamp / 1000.0;
+            for (const double span : {5.0, 50.0, 1000.0}) {
+                QList<QPointF> points;
+                model.getCurve(0, -span - 1, -1, budget, points);
+                QVERIFY(!points.isEmpty() && points.size() <= 4 * budget);
+                int over = 0;
+                for (qsizetype i = 0; i + 1 < points.size(); ++i) {
+                    QVERIFY(points[i].x() >= points[i + 1].x());
+                    if (std::isnan(points[i].y()) || std::isnan(points[i + 1].y()))
+                        continue;
+                    for (const double at : std::as_const(parted))
+                        over += points[i + 1].x() < at - newest - 1e-6 && at - newest - 1e-6 < points[i].x();
+                }
+                const bool isVisible = part == Part::Cut || gapMs / 1000.0 > 2 * std::min(span, newest) / budget;
+                const bool isBounded = span / 0.01 / every < budget / 2;
+                if (isVisible && isBounded)
+                    QCOMPARE(over, 0);
             }
         }
     }

@@ -5,13 +5,15 @@
 #include <cmath>
 #include <limits>
 
-#include "wave/axis_ticks.h"
-#include "wave/chart_axis.h"
-#include "wave/chart_export.h"
-#include "wave/chart_range.h"
+#include "chart/axis_ticks.h"
+#include "chart/chart_axis.h"
+#include "chart/chart_measures.h"
+#include "chart/chart_range.h"
+#include "chart/series_geometry.h"
+#include "chart/whole_file.h"
 #include "wave/chart_text.h"
-#include "wave/chart_view_state.h"
-#include "wave/series_geometry.h"
+#include "wave/wave_csv.h"
+#include "wave/wave_view_state.h"
 
 using chart_range::Range;
 
@@ -33,7 +35,7 @@ void push(WaveChartBridge &bridge, unsigned int fromMs, int count)
 struct Chart
 {
     WaveChartBridge bridge{QStringLiteral("acc")};
-    ChartViewState view;
+    WaveViewState view;
     Chart()
     {
         bridge.setObserved(true);
@@ -117,7 +119,10 @@ private slots:
         row("leaving expands", {-2, 3}, -1.0, 3.1, {-2, 4});
         row("great shrinking fits", {-2, 3}, -0.2, 0.2, {-0.3, 0.3});
         row("flat line keeps the least span", {-32, 32}, 1.0, 1.0, {0.94, 1.06});
-        row("usual data keep the usual range", {-1, 1}, -31.9, 31.9, {-32, 32});
+        row("usual data keep the usual range", {-1, 1}, -30, 30, {-32, 32});
+        row("data at the end of the usual range keep off the edge", {-1, 1}, -32, 32, {-33.3824, 33.3824});
+        row("a flat line at the end of the usual range", {-32, 32}, 32, 32, {31.94, 32.002});
+        row("a line on the edge is half cut off", {-2, 3}, -1, 3, {-2, 4});
         row("unusual data are shown", {-1, 1}, 0.0, 45.0, {-10, 50});
         row("no data", {-1, 1}, kInf, -kInf, {-1, 1});
     }
@@ -136,8 +141,8 @@ private slots:
         chart.view.placeCursor(1, -12);
         const double edge = chart.stampAt(chart.view.xViewMax());
         const double cursor = chart.stampAt(chart.view.cursors().at(0));
-        QCOMPARE(chart.view.measurement().mid(0, 3).join(u','),
-                 QStringLiteral("Δt 3.000 s,1/Δt 0.333 Hz,ΔX +3000.000"));
+        QCOMPARE(chart.view.measurement().join(u','),
+                 QStringLiteral("A −15.000 s,B −12.000 s,Δt 3.000 s,1/Δt 0.333 Hz"));
         chart.add(32200, 50);
         QCOMPARE(chart.stampAt(chart.view.xViewMax()), edge);
         QCOMPARE(chart.stampAt(chart.view.cursors().at(0)), cursor);
@@ -152,6 +157,22 @@ private slots:
         chart.bridge.reset();
         chart.add(100, 3);
         QVERIFY(chart.view.isFollowing() && !chart.view.hasCursors());
+    }
+
+    void saysWhereTheStoreEnds()
+    {
+        // Samples, seconds shown, whether the store ends within them.
+        for (const auto &[samples, span, ends] :
+             {std::tuple{30000, 60, false}, {WaveformDataModel::kCapacity, 60, true}, {40000, 10, false}}) {
+            Chart chart;
+            for (int i = 1; i <= samples; ++i) {
+                const float values[] = {1, 1, 1, 1};
+                chart.bridge.pushSample(values, 4, unsigned(i));
+            }
+            chart.view.zoomX(span / 10.0, 1);
+            QCOMPARE(std::isnan(chart.view.storeEnd()), !ends);
+            QCOMPARE(chart.view.storeEndText(), ends ? QStringLiteral("The store ends here: 32.8 s") : QString());
+        }
     }
 
     void leavesTheHistoryWithItsSamples()
@@ -174,24 +195,26 @@ private slots:
         chart.add(100, 301);
         chart.view.handleKey(Qt::Key_Plus, 0);
         QVERIFY2(chart.view.isFollowing() && qFuzzyCompare(chart.view.xViewMin(), -8.0), "keys hold the edge");
-        chart.view.reset();
-        chart.view.wheel(240, 0.25, 0.5, false);
-        QCOMPARE(chart.view.xViewMin() + 0.25 * (chart.view.xViewMax() - chart.view.xViewMin()), -7.5);
+        chart.view.wheel(0, 240, 0.25, 0.5, false);
+        QVERIFY2(chart.view.isFollowing(), "a live view stays live");
+        chart.view.setXRange(-12, -2);
+        chart.view.wheel(0, 240, 0.25, 0.5, false);
+        QCOMPARE(chart.view.xViewMin() + 0.25 * (chart.view.xViewMax() - chart.view.xViewMin()), -9.5);
         QVERIFY(chart.view.isYAutomatic());
         const double middle = (chart.view.yViewMin() + chart.view.yViewMax()) / 2;
-        chart.view.wheel(-120, 0.5, 0.5, true);
+        chart.view.wheel(0, -120, 0.5, 0.5, true);
         QVERIFY(!chart.view.isYAutomatic());
         QCOMPARE((chart.view.yViewMin() + chart.view.yViewMax()) / 2, middle);
         const double bottom = chart.view.yViewMin();
         chart.view.fitValues(0, 1);
         QCOMPARE(chart.view.yViewMin(), bottom);
         for (int i = 0; i < 400; ++i) {
-            chart.view.wheel(1200, 0.5, 0.5, i % 2);
+            chart.view.wheel(0, 1200, 0.5, 0.5, i % 2);
             QVERIFY(chart.view.xViewMax() - chart.view.xViewMin() > 0.0099);
             QVERIFY(chart.view.yViewMax() - chart.view.yViewMin() > 0.099);
         }
         for (int i = 0; i < 400; ++i)
-            chart.view.wheel(-1200, 0.5, 0.5, i % 2);
+            chart.view.wheel(0, -1200, 0.5, 0.5, i % 2);
         QVERIFY(std::isfinite(chart.view.yViewMax()) && chart.view.xViewMin() >= -60);
         chart.view.reset();
         chart.view.fitValues(0, 1);
@@ -214,6 +237,137 @@ private slots:
         QVERIFY(chart.view.isFollowing() && chart.view.isYAutomatic() && chart.view.hasCursors());
         QVERIFY(chart.view.handleKey(Qt::Key_Escape, 0));
         QVERIFY2(!chart.view.handleKey(Qt::Key_Escape, 0), "without cursors Esc belongs to the window");
+    }
+
+    /// What was chosen stays while the chart is live.
+    void spansAndLimits()
+    {
+        Chart chart;
+        chart.add(100, 601); // 60 s
+        for (const double span : chart.view.spanPresets()) {
+            chart.view.setSpan(span);
+            QVERIFY(chart.view.isFollowing());
+            QCOMPARE(chart.view.span(), span);
+        }
+        chart.view.setSpan(5);
+        chart.view.setYRange(-2, 3);
+        QVERIFY(!chart.view.isYAutomatic());
+        chart.view.panX(-1);
+        QVERIFY(!chart.view.isFollowing());
+        chart.view.setYRange(-3, 3);
+        QVERIFY(chart.view.handleKey(Qt::Key_End, 0));
+        chart.view.fitValues(-30, 30);
+        QVERIFY(chart.view.isFollowing());
+        QCOMPARE(QList<double>({chart.view.span(), chart.view.yViewMin(), chart.view.yViewMax()}),
+                 QList<double>({5, -3, 3}));
+        chart.view.setYAutomatic(true);
+        chart.view.fitValues(-1, 1);
+        QVERIFY(chart.view.yViewMax() < 2);
+        chart.view.setYAutomatic(false);
+        chart.view.fitValues(-30, 30);
+        QVERIFY2(chart.view.yViewMax() < 2, "fixed where it was");
+
+        // Typed ends; those that are none change nothing.
+        chart.view.setXRange(-20, -12.5);
+        for (const auto &[min, max] : {std::pair{-5.0, -8.0}, {kNaN, 0.0}, {-kInf, 0.0}, {-1.0, -1.0}}) {
+            chart.view.setXRange(min, max);
+            chart.view.setYRange(min, max);
+        }
+        QCOMPARE(QList<double>({chart.view.xViewMin(), chart.view.xViewMax()}), QList<double>({-20, -12.5}));
+
+        chart.view.setXRange(-20, -10);
+        chart.view.setYRange(0, 10);
+        chart.view.zoomToBox(0.8, 0.9, 0.2, 0.4); // any corner first
+        QCOMPARE(
+            QList<double>({chart.view.xViewMin(), chart.view.xViewMax(), chart.view.yViewMin(), chart.view.yViewMax()}),
+            QList<double>({-18, -12, 4, 9}));
+        chart.view.zoomToBox(0.5, 0.1, 0.501, 0.9);
+        QCOMPARE(chart.view.span(), 6.0);
+        chart.view.wheel(-120, 10, 0.5, 0.5, false); // a swipe to the left
+        QVERIFY(std::abs(chart.view.xViewMax() + 11.4) < 1e-9 && std::abs(chart.view.span() - 6) < 1e-9);
+    }
+
+    void linkedChartsShareTimesAndCursors()
+    {
+        Chart charts[3];
+        ChartLink link;
+        // Their newest samples are a second apart.
+        for (int i = 0; i < 3; ++i)
+            charts[i].add(100, 301 - 10 * i);
+        for (Chart &chart : charts)
+            chart.view.setLink(&link);
+        charts[0].view.setSpan(5);
+        QCOMPARE(charts[1].view.span(), 10.0); // not linked yet
+        link.setLinked(true);
+        for (Chart &chart : charts) // the one that was changed last leads, and all are live
+            QVERIFY(chart.view.span() == 5 && chart.view.isFollowing());
+
+        charts[2].view.setXRange(-12, -8); // stream time 16.1 s to 20.1 s
+        charts[2].view.placeCursor(1, -10);
+        charts[2].view.setHoverX(-9);
+        for (Chart &chart : charts) {
+            QCOMPARE(chart.stampAt(chart.view.xViewMax()), 20.1);
+            QCOMPARE(chart.stampAt(chart.view.cursors().at(1)), 18.1);
+            QVERIFY(std::isnan(chart.view.cursors().at(0)));
+            QCOMPARE(chart.stampAt(chart.view.hoverX()), 19.1);
+        }
+        charts[0].add(30200, 20); // time passes in one of them first
+        charts[1].add(29200, 20);
+        for (Chart &chart : charts) {
+            QCOMPARE(chart.stampAt(chart.view.xViewMax()), 20.1);
+            QCOMPARE(chart.stampAt(chart.view.cursors().at(1)), 18.1);
+        }
+        charts[1].view.removeCursors();
+        charts[1].view.goLive();
+        charts[1].view.setHoverX(kNaN);
+        for (Chart &chart : charts)
+            QVERIFY(chart.view.isFollowing() && chart.view.span() == 4 && !chart.view.hasCursors()
+                    && std::isnan(chart.view.hoverX()));
+        link.setLinked(false);
+        charts[1].view.setSpan(7);
+        QCOMPARE(charts[0].view.span(), 4.0);
+    }
+
+    void measures()
+    {
+        Chart chart;
+        ChartMeasures measures;
+        measures.setViewState(&chart.view);
+        chart.add(100, 101); // X is the stamp in milliseconds, the others 1
+        QVERIFY(measures.header().isEmpty());
+        measures.setActive(true);
+        QCOMPARE(measures.table().rows.size(), 4);
+        QCOMPARE(measures.table().rows[0].statistics.count, 101);
+        QCOMPARE(measures.table().rows[0].statistics.mean, 5100.0);
+        const int before = measures.computations();
+        measures.refresh();
+        QCOMPARE(measures.computations(), before); // a second look is free
+
+        chart.view.placeCursor(0, -2);
+        chart.view.placeCursor(1, -4); // in any order
+        measures.refresh();
+        QCOMPARE(measures.computations(), before + 1);
+        const MeasureTable::Row &row = measures.table().rows[0];
+        QCOMPARE(QList<double>({row.atA, row.atB, row.statistics.min, row.statistics.max}),
+                 QList<double>({8100, 6100, 6100, 8100}));
+        QCOMPARE(row.statistics.count, 21);
+        QCOMPARE(measures.rows().at(0).toStringList().mid(0, 4).join(u' '),
+                 QStringLiteral("X +8100.000 +6100.000 −2000.000"));
+
+        QVERIFY(chart.view.handleKey(Qt::Key_Right, Qt::ShiftModifier)); // B was placed last
+        QCOMPARE(chart.view.cursors(), (QList<double>{-2, -3.9}));
+        chart.view.handleKey(Qt::Key_Left, Qt::ShiftModifier | Qt::ControlModifier);
+        QCOMPARE(chart.view.cursors(), (QList<double>{-2, -5.9}));
+        for (int i = 0; i < 500; ++i)
+            chart.view.handleKey(Qt::Key_Left, Qt::ShiftModifier);
+        QCOMPARE(chart.view.cursors().at(1), chart.bridge.xHistoryMin());
+
+        chart.view.setSeriesVisible(0, false);
+        measures.refresh();
+        QCOMPARE(measures.table().rows.value(0).name, QStringLiteral("Y"));
+        chart.bridge.reset();
+        measures.refresh();
+        QVERIFY(measures.rows().isEmpty());
     }
 
     void lines()
@@ -257,15 +411,15 @@ private slots:
         push(chart.bridge, 1000, 30);
         const float broken[] = {float(kNaN), -0.125F, 1e-20F, float(kInf)};
         chart.bridge.pushSample(broken, 4, 4000);
-        QCOMPARE(chart_export::csv(chart.bridge, -0.2, 0),
+        QCOMPARE(wave_csv::table(chart.bridge, -0.2, 0),
                  QByteArray("time (s),X (G),Y (G),Z (G),Norm (G)\n-0.200,3800,1,1,1\n-0.100,3900,1,1,1\n"
                             "0.000,nan,-0.125,9.99999968e-21,inf\n"));
         const QTemporaryDir folder;
         const QString path = folder.filePath(QStringLiteral("a.csv"));
         QString reason;
-        QVERIFY(chart_export::write(path, "x", reason) && reason.isEmpty());
+        QVERIFY(whole_file::write(path, "x", reason) && reason.isEmpty());
         QVERIFY(QFile::exists(path));
-        QVERIFY(!chart_export::write(folder.filePath(QStringLiteral("none/a.csv")), "x", reason) && !reason.isEmpty());
+        QVERIFY(!whole_file::write(folder.filePath(QStringLiteral("none/a.csv")), "x", reason) && !reason.isEmpty());
     }
 };
 

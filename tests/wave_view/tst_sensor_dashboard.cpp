@@ -10,10 +10,11 @@
 #include <limits>
 
 #include "app/settings_keys.h"
+#include "chart/chart_saver.h"
+#include "chart/series_item.h"
 #include "support/quick_items.h"
-#include "wave/chart_saver.h"
 #include "wave/form_sensor_dashboard.h"
-#include "wave/series_item.h"
+#include "wave/wave_view_state.h"
 
 namespace {
 
@@ -24,7 +25,7 @@ struct Bench
     QQuickItem *chart = nullptr;
     QQuickItem *plot = nullptr;
     SeriesItem *series = nullptr;
-    ChartViewState *view = nullptr;
+    WaveViewState *view = nullptr;
 
     explicit Bench(const QStringList &types = {QStringLiteral("acc")})
     {
@@ -35,7 +36,7 @@ struct Bench
         chart = findItem(window.rootObject(), "chart_acc");
         plot = findItem(chart, "plotMouse");
         series = qobject_cast<SeriesItem *>(findItem(chart, "series"));
-        view = series->viewState();
+        view = qobject_cast<WaveViewState *>(series->viewState());
     }
     bool isShown() { return QTest::qWaitForWindowActive(&window); }
     /// Samples from `fromMs` to `toMs`, 100 a second; X is broken from -6 s to -4 s of a ten second picture.
@@ -141,6 +142,7 @@ private slots:
         bench.push(8000, 11000); // ten seconds are seen: the mark stands 3 s before the newest sample
         QQuickItem *mark = nullptr;
         QTRY_VERIFY((mark = findItem(bench.chart, "breakMark")) != nullptr && mark->isVisible());
+        QVERIFY2(bench.red(0.05, 0.38) > 0 && bench.red(0.42, 0.6) == 0, "nothing is drawn over the silence");
         const double place = mark->mapToItem(bench.plot, QPointF()).x() / bench.plot->width();
         QVERIFY2(std::abs(place - 0.701) < 0.005, qPrintable(QString::number(place)));
         // Its colour stands from top to bottom of the plot.
@@ -166,7 +168,7 @@ private slots:
         bench.window.bridge().setPlaying(false);
 
         bench.wheel(0.5, Qt::NoModifier);
-        QVERIFY(bench.view->xViewMax() < -0.5 && bench.view->xViewMin() > -9.5);
+        QVERIFY2(bench.view->xViewMax() == 0 && bench.view->xViewMin() > -9.5, "a live view stays live");
         QVERIFY(bench.view->isYAutomatic());
         bench.wheel(0.5, Qt::ControlModifier);
         QVERIFY(!bench.view->isYAutomatic());

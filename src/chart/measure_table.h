@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+
+#include "chart/series_statistics.h"
+
+/// What is measured on a chart, as a table: a row per series with its values at the cursors, their difference, and the
+/// statistics between the cursors or over what is seen. Plain values; texts are made from it for the screen and for the
+/// clipboard.
+struct MeasureTable
+{
+    struct Row
+    {
+        QString name;
+        double atA = SeriesStatistics::kNone; ///< NaN without the cursor
+        double atB = SeriesStatistics::kNone;
+        SeriesStatistics statistics;
+    };
+
+    bool hasA = false;
+    bool hasB = false;
+    QList<Row> rows;
+
+    /// Says a value of a row; `signedAlways` for differences.
+    using ValueText = std::function<QString(int row, double value, bool isDifference)>;
+
+    /// The words over the columns; the first is empty, over the names.
+    QStringList header() const;
+    /// A row as texts, under the header.
+    QStringList texts(int row, const ValueText &text) const;
+    /// For a spreadsheet: tabs and line feeds, header first, numbers with a decimal point and all their digits.
+    QString tabSeparated(const QString &firstLine) const;
+
+private:
+    QList<double> numbers(const Row &row) const;
+};

@@ -1,0 +1,54 @@
+#include "chart/series_item.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "chart/chart_source.h"
+
+void SeriesItem::setViewState(PlotViewState *viewState)
+{
+    if (viewState == m_viewState)
+        return;
+    if (m_viewState)
+        m_viewState->disconnect(this);
+    m_viewState = viewState;
+    if (viewState)
+        connect(viewState, &PlotViewState::pictureChanged, this, &SeriesItem::schedule);
+    emit viewStateChanged();
+    schedule();
+}
+
+bool SeriesItem::collect(Content &content, int maxPoints)
+{
+    if (!m_viewState)
+        return false;
+    const ChartSource *source = m_viewState->source();
+    const size_t count = source ? size_t(source->seriesCount()) : 0;
+    content.points.resize(count);
+    content.colors.resize(count);
+    const QList<bool> visible = m_viewState->visibleSeries();
+    const double fitFrom = m_viewState->fitFromX();
+    double low = std::numeric_limits<double>::infinity();
+    double high = -low;
+    for (size_t layer = 0; layer < count; ++layer) {
+        const int series = source->seriesAtLayer(int(layer));
+        content.colors[layer] = QColor::fromRgb(source->seriesRgb(series));
+        QList<QPointF> &points = content.points[layer];
+        points.clear();
+        if (!visible.value(series))
+            continue;
+        source->seriesPoints(series, m_viewState->xViewMin(), m_viewState->xViewMax(), maxPoints, points);
+        for (QPointF &point : points) {
+            point.setY(m_viewState->level(point.y()));
+            if (!std::isfinite(point.y()) || point.x() <= fitFrom)
+                continue;
+            low = std::min(low, point.y());
+            high = std::max(high, point.y());
+        }
+    }
+    m_viewState->fitValues(low, high);
+    content.x = {m_viewState->xViewMin(), m_viewState->xViewMax()};
+    content.y = {m_viewState->yViewMin(), m_viewState->yViewMax()};
+    return true;
+}
