@@ -17,14 +17,16 @@ Rectangle {
     readonly property int maximumDialogWidth: 860
     readonly property int maximumDialogHeight: 960
 
-    readonly property color accent: "#2563eb"
-    readonly property color ink: "#111827"
-    readonly property color inkSecondary: "#4b5563"
+    /// Colours by the names of Palette.
+    property var colors: ({})
+    readonly property color accent: colors.accent
+    readonly property color ink: colors.text
+    readonly property color inkSecondary: colors.textSecondary
 
     signal confirmRequested
     signal cancelRequested
 
-    color: "#edf4fb"
+    color: colors.background
     focus: true
 
     function move(step: int): void {
@@ -49,8 +51,8 @@ Rectangle {
         implicitWidth: Math.max(120, label.implicitWidth + 48)
         implicitHeight: 40
         radius: 8
-        color: primary ? (area.containsMouse ? "#1d4ed8" : root.accent) : (area.containsMouse ? "#f9fafb" : "#ffffff")
-        border.color: primary ? color : "#d1d5db"
+        color: primary ? (area.containsMouse ? root.colors.accentPressed : root.accent) : (area.containsMouse ? root.colors.surfaceAlt : root.colors.surface)
+        border.color: primary ? color : root.colors.border
 
         Accessible.role: Accessible.Button
         Accessible.name: text
@@ -60,7 +62,7 @@ Rectangle {
             anchors.centerIn: parent
             text: button.text
             font.pixelSize: 15
-            color: button.primary ? "#ffffff" : root.ink
+            color: button.primary ? root.colors.onAccent : root.ink
         }
         MouseArea {
             id: area
@@ -124,9 +126,9 @@ Rectangle {
             width: ListView.view.width
             height: 68
             radius: 10
-            color: "#ffffff"
+            color: root.colors.surface
             border.width: chosen ? 2 : 1
-            border.color: chosen ? root.accent : (optionArea.containsMouse ? "#93c5fd" : "#d6e0ec")
+            border.color: chosen ? root.accent : (optionArea.containsMouse ? root.colors.hover : root.colors.edge)
 
             Accessible.role: Accessible.RadioButton
             Accessible.name: modelData.label
@@ -143,8 +145,8 @@ Rectangle {
                 height: 20
                 radius: 10
                 border.width: option.chosen ? 6 : 1.5
-                border.color: option.chosen ? root.accent : "#9ca3af"
-                color: "#ffffff"
+                border.color: option.chosen ? root.accent : root.colors.borderStrong
+                color: root.colors.surface
             }
             Text {
                 anchors {
@@ -171,14 +173,14 @@ Rectangle {
                 width: badgeText.implicitWidth + 20
                 height: 26
                 radius: 13
-                color: "#dbeafe"
+                color: root.colors.mark
 
                 Text {
                     id: badgeText
                     anchors.centerIn: parent
                     text: "System"
                     font.pixelSize: 13
-                    color: "#1d4ed8"
+                    color: root.colors.accentText
                 }
             }
             MouseArea {

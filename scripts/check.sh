@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# check.sh: checks of form: the folder graph, links of the documents, formatting, qmllint, clang-tidy. Needs a
-# configured dev build (./test makes one). Prints only what is wrong, and a line when all is well. Takes some minutes.
+# check.sh: checks of form: the folder graph, colours outside the palette, links of the documents, formatting, qmllint,
+# clang-tidy. Needs a configured dev build (./test makes one). Prints only what is wrong, and a line when all is well.
+# Takes some minutes.
 set -euo pipefail
 if [ $# -gt 0 ]; then
   sed -n '2,/^set /{/^set /d;s/^# \{0,1\}//;p}' "${BASH_SOURCE[0]}"
@@ -10,6 +11,7 @@ fi
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 python3 scripts/check_folders.py
+python3 scripts/check_colors.py
 python3 scripts/check_links.py
 
 mapfile -t files < <(git ls-files '*.cpp' '*.h')
@@ -32,4 +34,4 @@ if ! printf '%s\0' "${sources[@]}" |
   echo "check: clang-tidy is not content, see above" >&2
   exit 1
 fi
-echo "check: folders, links, formatting, qmllint and clang-tidy are in order"
+echo "check: folders, colours, links, formatting, qmllint and clang-tidy are in order"

@@ -11,12 +11,12 @@
 #include <memory>
 
 #include "app/app_language_manager.h"
+#include "app/appearance.h"
 #include "app/application_fonts.h"
 #include "app/initial_language_picker.h"
 #include "app/message_log.h"
 #include "app/settings_file.h"
 #include "app/settings_keys.h"
-#include "app/theme.h"
 #include "link/node_data.h"
 #include "ui/form_base.h"
 
@@ -42,7 +42,7 @@ int qMain(int argc, char **argv)
 
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/mainicon.png")));
     application_fonts::loadAll();
-    theme::apply(application);
+    Appearance::instance().start();
     AppLanguageManager::instance().setPicker(pickInitialLanguage);
     if (!AppLanguageManager::instance().initialize()) {
         qWarning() << "Failed to initialize application language manager";

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick3D
+import KVCenter.Controls
 import KVCenter.ThreeD
 
 /// The device's axes, fixed to the body.
@@ -10,14 +11,14 @@ Node {
 
     AxisArrow {
         direction: axes.attitude.bodyAxisX
-        color: SceneColors.axisX
+        color: Theme.axisX
     }
     AxisArrow {
         direction: axes.attitude.bodyAxisY
-        color: SceneColors.axisY
+        color: Theme.axisY
     }
     AxisArrow {
         direction: axes.attitude.bodyAxisZ
-        color: SceneColors.axisZ
+        color: Theme.axisZ
     }
 }

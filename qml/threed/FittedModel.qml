@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick3D
+import KVCenter.Controls
 
 /// A model of any size, centred and scaled to a radius of 50 units.
 Model {
@@ -11,7 +12,7 @@ Model {
     scale: Qt.vector3d(factor, factor, factor)
     position: centre.times(-factor)
     materials: DefaultMaterial {
-        diffuseColor: "#AEBACB"
+        diffuseColor: Theme.sceneBody
         cullMode: Material.NoCulling
     }
 }

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick3D
+import KVCenter.Controls
 import QtQuick3D.Helpers
 
 /// The ground below the body: a grid that lies level, and an arrow to the north (+X).
@@ -16,7 +17,7 @@ Node {
         }
         materials: DefaultMaterial {
             lighting: DefaultMaterial.NoLighting
-            diffuseColor: SceneColors.grid
+            diffuseColor: Theme.sceneGrid
         }
     }
     Model {
@@ -30,6 +31,6 @@ Node {
         id: mark
 
         lighting: DefaultMaterial.NoLighting
-        diffuseColor: SceneColors.north
+        diffuseColor: Theme.sceneNorth
     }
 }

@@ -55,17 +55,17 @@ Item {
     AxisMark {
         axis: marks.attitude.bodyAxisX
         text: "X"
-        color: SceneColors.axisX
+        color: Theme.axisX
     }
     AxisMark {
         axis: marks.attitude.bodyAxisY
         text: "Y"
-        color: SceneColors.axisY
+        color: Theme.axisY
     }
     AxisMark {
         axis: marks.attitude.bodyAxisZ
         text: "Z"
-        color: SceneColors.axisZ
+        color: Theme.axisZ
     }
     Repeater {
         model: [

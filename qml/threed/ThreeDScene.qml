@@ -56,7 +56,7 @@ Item {
         DirectionalLight {
             eulerRotation: Qt.vector3d(-65, -35, 0)
             brightness: 0.4
-            ambientColor: "#868686"
+            ambientColor: Theme.sceneLight
         }
 
         Ground {}

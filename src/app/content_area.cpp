@@ -14,7 +14,7 @@ ContentArea::ContentArea(QWidget *content, QWidget *parent) : QScrollArea(parent
 {
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
-    setFocusPolicy(Qt::NoFocus); // what gets the keyboard inside is scrolled into sight
+    setFocusPolicy(Qt::NoFocus);               // what gets the keyboard inside is scrolled into sight
     QWidget *focused = content->focusWidget(); // is lost on the way
     setWidget(content);
     if (focused)

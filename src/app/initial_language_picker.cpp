@@ -9,9 +9,11 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include "app/palette.h"
+#include "app/theme.h"
+
 namespace {
 
-constexpr QColor kBackground(0xed, 0xf4, 0xfb);
 constexpr double kShareOfScreen = 0.92; // leaves room for the window's frame
 
 /// A size that the view asks for, such as "preferredDialogWidth" and "preferredDialogHeight", inside the screen.
@@ -20,6 +22,18 @@ QSize wantedSize(const QQuickItem &view, const char *which, const QSize &screen)
     const QByteArray name(which);
     return QSize(view.property(name + "DialogWidth").toInt(), view.property(name + "DialogHeight").toInt())
         .boundedTo(screen);
+}
+
+/// What the view is drawn with. It stands alone, without the module that has `Theme`.
+QVariantMap pickerColors(const Palette &palette)
+{
+    return {{QStringLiteral("background"), palette.pickerBackground}, {QStringLiteral("surface"), palette.surface},
+            {QStringLiteral("surfaceAlt"), palette.surfaceAlt},       {QStringLiteral("text"), palette.text},
+            {QStringLiteral("textSecondary"), palette.textSecondary}, {QStringLiteral("accent"), palette.accent},
+            {QStringLiteral("accentPressed"), palette.accentPressed}, {QStringLiteral("onAccent"), palette.onAccent},
+            {QStringLiteral("accentText"), palette.accentText},       {QStringLiteral("border"), palette.border},
+            {QStringLiteral("borderStrong"), palette.borderStrong},   {QStringLiteral("edge"), palette.pickerBorder},
+            {QStringLiteral("hover"), palette.pickerHover},           {QStringLiteral("mark"), palette.pickerMark}};
 }
 
 } // namespace
@@ -31,10 +45,11 @@ std::optional<int> pickInitialLanguage(const QVariantList &options, int preferre
     dialog.setWindowTitle(QStringLiteral("Choose Language"));
     auto *view = new QQuickWidget(&dialog);
     view->setResizeMode(QQuickWidget::SizeRootObjectToView);
-    view->setClearColor(kBackground);
+    view->setClearColor(theme::colors().pickerBackground);
     const QUrl url(QStringLiteral("qrc:/qml/InitialLanguagePicker.qml"));
     auto *component = new QQmlComponent(view->engine(), url, view);
-    QObject *object = component->createWithInitialProperties({{QStringLiteral("languageOptions"), options},
+    QObject *object = component->createWithInitialProperties({{QStringLiteral("colors"), pickerColors(theme::colors())},
+                                                              {QStringLiteral("languageOptions"), options},
                                                               {QStringLiteral("preferredIndex"), preferredIndex},
                                                               {QStringLiteral("selectedIndex"), preferredIndex}});
     view->setContent(url, component, object); // owns the object from here on

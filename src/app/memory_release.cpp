@@ -10,8 +10,17 @@
 namespace {
 
 constexpr int kMomentMs = 500;
+constexpr int kLargeBlock = 1024 * 1024; ///< bytes; what is asked for with every frame is smaller
 
 } // namespace
+
+void memory_release::keepLittle()
+{
+#ifdef __GLIBC__
+    mallopt(M_MMAP_THRESHOLD, kLargeBlock);
+    mallopt(M_TRIM_THRESHOLD, kLargeBlock);
+#endif
+}
 
 void memory_release::soon()
 {

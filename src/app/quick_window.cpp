@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "app/app_language_manager.h"
+#include "app/appearance.h"
 #include "app/frame_gate.h"
 #include "app/memory_release.h"
 #include "app/theme.h"
@@ -24,6 +25,7 @@ constexpr int kFrame = 48; ///< a window that is new leaves that much of the scr
 
 QuickWindow::QuickWindow(int samples, QWindow *parent) : QQuickView(parent)
 {
+    memory_release::keepLittle();
     QSurfaceFormat surface = format();
     surface.setSamples(samples);
     setFormat(surface);
@@ -31,7 +33,8 @@ QuickWindow::QuickWindow(int samples, QWindow *parent) : QQuickView(parent)
     // What is hidden is unloaded, and has nothing to keep.
     setPersistentSceneGraph(false);
     setPersistentGraphics(false);
-    setColor(theme::kBackground);
+    setColor(theme::colors().background);
+    connect(&Appearance::instance(), &Appearance::changed, this, [this] { setColor(theme::colors().*m_ground); });
     setIcon(QGuiApplication::windowIcon());
     setResizeMode(SizeRootObjectToView);
     engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));
@@ -41,6 +44,12 @@ QuickWindow::QuickWindow(int samples, QWindow *parent) : QQuickView(parent)
 QuickWindow::~QuickWindow()
 {
     unload(); // while what the items are bound to is still here
+}
+
+void QuickWindow::setGround(QColor Palette::*role)
+{
+    m_ground = role;
+    setColor(theme::colors().*role);
 }
 
 bool QuickWindow::load(const QUrl &source, const QVariantMap &properties)

@@ -3,6 +3,8 @@
 #include <QQuickView>
 #include <QVariantMap>
 
+#include "app/palette.h"
+
 /// A declarative view, as a window of its own or inside one with widgets. It draws with as few samples as it needs,
 /// follows the language, waits for others where a program stands in for the graphics processor (see FrameGate), and
 /// gives back everything that it has drawn with when it is unloaded.
@@ -28,6 +30,9 @@ public:
     /// Updates all texts; runs by itself when the language changes.
     virtual void retranslate();
 
+    /// What the view stands on; Palette::background when it is not called.
+    void setGround(QColor Palette::*role);
+
     /// Below this size the view is not laid out smaller, but scrolled. A window of its own gets no smaller as long as
     /// the screen has the room.
     void setLeastSize(const QSize &size);
@@ -44,6 +49,7 @@ private:
     void fit();
     void layOut();
 
+    QColor Palette::*m_ground = &Palette::background;
     QSize m_leastSize;
     QLatin1String m_group;
     QQuickItem *m_stage = nullptr; ///< scrolls the view

@@ -11,6 +11,7 @@ constexpr QLatin1String kFile("param.ini");
 
 constexpr QLatin1String kLanguage("Main/LANGUAGE");      ///< code of the interface language
 constexpr QLatin1String kFontSize("Main/FONTSIZE");      ///< interface font size, points
+constexpr QLatin1String kAppearance("Main/APPEARANCE");  ///< "system", "light" or "dark"
 constexpr QLatin1String kGeometry("Main/GEOMETRY");      ///< main window's size and place
 constexpr QLatin1String kPort("SERIAL/PORT");            ///< last port, name or path
 constexpr QLatin1String kBaudRate("SERIAL/BAUDRATE");    ///< last baud rate

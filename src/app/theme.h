@@ -7,8 +7,16 @@
 
 class QApplication;
 
-/// The look that all windows share: light surfaces, one neutral grey scale, one accent, the axis colours.
+struct Palette;
+
+/// The look that all windows share: quiet surfaces, one neutral grey scale, one accent, the axis colours. Main thread
+/// only.
 namespace theme {
+
+/// The colours of now; see Appearance.
+const Palette &colors();
+/// Takes the other colours. What has been given to the application before stays: call apply().
+void setDark(bool isDark);
 
 inline constexpr QColor kAxisX{0xAB, 0x22, 0x1D};
 inline constexpr QColor kAxisY{0x0D, 0x8B, 0x4D};
@@ -21,8 +29,6 @@ inline constexpr QColor kBackground{0xF3, 0xF4, 0xF6};
 inline constexpr QColor kLine{0xE5, 0xE7, 0xEB};
 inline constexpr QColor kText{0x11, 0x18, 0x27};
 inline constexpr QColor kTextSecondary{0x4B, 0x55, 0x63};
-/// Old values and dashes: they are read, so they keep a contrast of 4.5 to 1 on all surfaces.
-inline constexpr QColor kTextStale{0x64, 0x6B, 0x79};
 inline constexpr QColor kTextDisabled{0x9C, 0xA3, 0xAF};
 inline constexpr QColor kWarning{0xB4, 0x53, 0x09};
 inline constexpr QColor kAccent{0x25, 0x63, 0xEB};
@@ -30,7 +36,7 @@ inline constexpr QColor kAccent{0x25, 0x63, 0xEB};
 /// Distance unit in device-independent pixels.
 inline constexpr int kGrid = 8;
 
-/// Palette of the light look.
+/// The colours of now for widgets.
 QPalette palette();
 
 /// Style sheet of the application's widgets; independent of the font size.

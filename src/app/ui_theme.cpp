@@ -3,7 +3,7 @@
 #include <QEvent>
 #include <QGuiApplication>
 
-#include "app/theme.h"
+#include "app/appearance.h"
 
 namespace {
 
@@ -23,61 +23,12 @@ QFont applicationFont()
 UiTheme::UiTheme(QObject *parent) : QObject(parent), m_font(applicationFont())
 {
     QCoreApplication::instance()->installEventFilter(this);
+    connect(&Appearance::instance(), &Appearance::changed, this, &UiTheme::colorsChanged);
 }
 
-QColor UiTheme::surface() const
+QColor UiTheme::drawn(const QColor &natural, bool isDark)
 {
-    return theme::kSurface;
-}
-
-QColor UiTheme::background() const
-{
-    return theme::kBackground;
-}
-
-QColor UiTheme::line() const
-{
-    return theme::kLine;
-}
-
-QColor UiTheme::border() const
-{
-    return {0xD1, 0xD5, 0xDB};
-}
-
-QColor UiTheme::text() const
-{
-    return theme::kText;
-}
-
-QColor UiTheme::textSecondary() const
-{
-    return theme::kTextSecondary;
-}
-
-QColor UiTheme::textDisabled() const
-{
-    return theme::kTextDisabled;
-}
-
-QColor UiTheme::accent() const
-{
-    return theme::kAccent;
-}
-
-QColor UiTheme::accentDark() const
-{
-    return {0x1D, 0x4E, 0xD8};
-}
-
-QColor UiTheme::accentSoft() const
-{
-    return {0xEF, 0xF6, 0xFF};
-}
-
-QColor UiTheme::warning() const
-{
-    return theme::kWarning;
+    return (isDark ? palette::kDark : palette::kLight).drawn(natural);
 }
 
 int UiTheme::grid() const

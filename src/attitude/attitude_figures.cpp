@@ -7,14 +7,14 @@
 #include <cmath>
 #include <limits>
 
+#include "app/palette.h"
 #include "app/quiet_label.h"
 #include "app/theme.h"
 #include "app/value_format.h"
 
 namespace {
 
-constexpr std::array kAxisColors{theme::kAxisX, theme::kAxisY, theme::kAxisZ};
-constexpr std::array kQuaternionColors{theme::kAxisW, theme::kAxisX, theme::kAxisY, theme::kAxisZ};
+constexpr std::array kQuaternionColors{&Palette::axisW, &Palette::axisX, &Palette::axisY, &Palette::axisZ};
 
 /// With a sign, all equally wide; a dash for what is no number.
 QString figure(float value, int decimals, const QString &unit)
@@ -50,22 +50,18 @@ AttitudeFigures::AttitudeFigures(QWidget *parent) : QWidget(parent)
     for (int column = 0; column < 2; ++column) {
         QLabel *head = m_names[size_t(column)];
         head->setAlignment(Qt::AlignRight);
-        setInk(head, theme::kTextSecondary);
         grid->addWidget(head, 0, column + 1);
         for (int row = 0; row < 3; ++row)
             grid->addWidget(m_values[size_t(column) * 3 + size_t(row)], row + 1, column + 1);
     }
     for (size_t row = 0; row < 3; ++row) {
-        setInk(m_names[row + 2], kAxisColors[row]);
         grid->addWidget(m_names[row + 2], int(row) + 1, 0);
     }
     constexpr int kQuaternionRow = 5;
     grid->setRowMinimumHeight(kQuaternionRow - 1, theme::kGrid / 2);
-    setInk(m_names[5], theme::kTextSecondary);
     grid->addWidget(m_names[5], kQuaternionRow, 0);
     for (size_t i = 0; i < 4; ++i) {
         m_values[6 + i]->setObjectName(QStringLiteral("VAL_q%1").arg(i));
-        setInk(m_values[6 + i], kQuaternionColors[i]);
         grid->addWidget(m_values[6 + i], kQuaternionRow + int(i / 2), 1 + int(i % 2));
     }
     static constexpr std::array kValueNames{"VAL_roll", "VAL_pitch", "VAL_yaw", "VAL_droll", "VAL_dpitch", "VAL_dyaw"};
@@ -73,6 +69,7 @@ AttitudeFigures::AttitudeFigures(QWidget *parent) : QWidget(parent)
         m_values[i]->setObjectName(QLatin1String(kValueNames[i]));
     setTexts();
     setFonts();
+    setColors();
     show({}, {});
 }
 
@@ -98,6 +95,8 @@ void AttitudeFigures::changeEvent(QEvent *event)
         setTexts();
     else if (event->type() == QEvent::FontChange)
         setFonts();
+    else if (event->type() == QEvent::PaletteChange)
+        setColors();
     QWidget::changeEvent(event);
 }
 
@@ -106,6 +105,18 @@ void AttitudeFigures::setTexts()
     const std::array texts{tr("Live"), tr("Delta"), tr("Roll"), tr("Pitch"), tr("Yaw"), tr("Quaternion")};
     for (size_t i = 0; i < texts.size(); ++i)
         m_names[i]->setText(texts[i]);
+}
+
+void AttitudeFigures::setColors()
+{
+    const Palette &colors = theme::colors();
+    for (const size_t name : {0, 1, 5})
+        setInk(m_names[name], colors.textSecondary);
+    for (size_t i = 0; i < kQuaternionColors.size(); ++i) {
+        setInk(m_values[6 + i], colors.*kQuaternionColors[i]);
+        if (i > 0)
+            setInk(m_names[1 + i], colors.*kQuaternionColors[i]);
+    }
 }
 
 void AttitudeFigures::setFonts()

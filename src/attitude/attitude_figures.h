@@ -28,6 +28,7 @@ protected:
 private:
     void setTexts();
     void setFonts();
+    void setColors();
 
     std::array<QLabel *, 6> m_names{};   ///< live, delta, roll, pitch, yaw, quaternion
     std::array<QLabel *, 10> m_values{}; ///< live angles, relative angles, w x y z

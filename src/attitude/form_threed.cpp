@@ -68,7 +68,7 @@ void form_threed::initView()
     // The scene is drawn straight into the window, whose samples smooth its edges.
     m_view = new QuickWindow(kSamplesPerPixel);
     m_container = QWidget::createWindowContainer(m_view, m_ui->STK_stage);
-    m_view->setColor(theme::kSurface);
+    m_view->setGround(&Palette::surface);
     if (m_view->rendererInterface()->graphicsApi() == QSGRendererInterface::Software) {
         showNoPicture(
             QT_TR_NOOP("The 3D picture needs OpenGL, which is not available here. The numbers are complete."));

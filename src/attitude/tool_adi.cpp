@@ -9,21 +9,20 @@
 #include <array>
 #include <cmath>
 
+#include "app/palette.h"
 #include "app/theme.h"
 #include "attitude/adi_layout.h"
 
 namespace {
 
-constexpr QColor kSkyHorizon{0x5B, 0xA3, 0xE0};
-constexpr QColor kSkyTop{0x3F, 0x88, 0xC8};
-constexpr QColor kGroundHorizon{0x9B, 0x6B, 0x3F};
-constexpr QColor kGroundBottom{0x7B, 0x52, 0x2E};
-constexpr QColor kAircraft{0xF5, 0x9E, 0x0B};
-constexpr QColor kOutline{0x11, 0x18, 0x27, 0xA0};
-constexpr QColor kRim{0x37, 0x41, 0x51};
-constexpr QColor kIdleUpper{0xE5, 0xE7, 0xEB};
-constexpr QColor kIdleLower{0xD8, 0xDB, 0xE0};
-constexpr QColor kIdleMark{0x9C, 0xA3, 0xAF};
+constexpr int kOutlineAlpha = 160;
+
+QColor outline()
+{
+    QColor color = theme::colors().outline;
+    color.setAlpha(kOutlineAlpha);
+    return color;
+}
 
 // Never more than this part of the ball is all sky or all ground, so that the way back to level stays in sight.
 constexpr qreal kHorizonReach = 0.9;
@@ -142,7 +141,7 @@ void ToolADI::changeEvent(QEvent *event)
 void ToolADI::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), theme::kSurface);
+    painter.fillRect(rect(), theme::colors().surface);
     const AdiLayout layout = AdiLayout::forSize(size());
     if (layout.radius <= 0)
         return;
@@ -170,11 +169,11 @@ void ToolADI::drawBall(QPainter &painter, const AdiLayout &layout) const
     painter.save();
     painter.rotate(-m_shown.roll);
     QLinearGradient sky(0, horizon, 0, horizon - 1.6 * r);
-    sky.setColorAt(0, m_shown.valid ? kSkyHorizon : kIdleUpper);
-    sky.setColorAt(1, m_shown.valid ? kSkyTop : kIdleUpper);
+    sky.setColorAt(0, m_shown.valid ? theme::colors().skyHorizon : theme::colors().idleUpper);
+    sky.setColorAt(1, m_shown.valid ? theme::colors().skyTop : theme::colors().idleUpper);
     QLinearGradient ground(0, horizon, 0, horizon + 1.6 * r);
-    ground.setColorAt(0, m_shown.valid ? kGroundHorizon : kIdleLower);
-    ground.setColorAt(1, m_shown.valid ? kGroundBottom : kIdleLower);
+    ground.setColorAt(0, m_shown.valid ? theme::colors().groundHorizon : theme::colors().idleLower);
+    ground.setColorAt(1, m_shown.valid ? theme::colors().groundBottom : theme::colors().idleLower);
 
     painter.setPen(Qt::NoPen);
     painter.setBrush(sky);
@@ -183,13 +182,13 @@ void ToolADI::drawBall(QPainter &painter, const AdiLayout &layout) const
     painter.drawPath(ballBelow(layout, horizon));
     if (m_shown.valid) {
         const qreal half = std::sqrt(r * r - horizon * horizon);
-        painter.setPen(QPen(Qt::white, layout.lineWidth(0.014), Qt::SolidLine, Qt::FlatCap));
+        painter.setPen(QPen(theme::colors().dial, layout.lineWidth(0.014), Qt::SolidLine, Qt::FlatCap));
         painter.drawLine(QPointF(-half, horizon), QPointF(half, horizon));
     }
     painter.restore();
 
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(m_shown.valid ? kRim : kIdleMark, qMax(1.5, r * 0.025)));
+    painter.setPen(QPen(m_shown.valid ? theme::colors().rim : theme::colors().idleMark, qMax(1.5, r * 0.025)));
     painter.drawEllipse(ballRect(layout));
 }
 
@@ -219,7 +218,7 @@ void ToolADI::drawLadder(QPainter &painter, const AdiLayout &layout) const
         const qreal half = (major ? 0.22 : 0.11) * r;
         // Lines come and go softly at the end of the ladder.
         painter.setOpacity(qBound(0.0, (reach - qAbs(y)) / (0.1 * r), 1.0));
-        painter.setPen(QPen(Qt::white, qMax(1.0, r * 0.013), Qt::SolidLine, Qt::FlatCap));
+        painter.setPen(QPen(theme::colors().dial, qMax(1.0, r * 0.013), Qt::SolidLine, Qt::FlatCap));
         painter.drawLine(QPointF(-half, y), QPointF(half, y));
         if (!major || layout.ladderFontPixels == 0)
             continue;
@@ -242,7 +241,7 @@ void ToolADI::drawBankScale(QPainter &painter, const AdiLayout &layout) const
     const qreal r = layout.radius;
     const qreal start = r * 1.035;
     const qreal tick = layout.tickLength();
-    const QColor color = m_shown.valid ? kRim : kIdleMark;
+    const QColor color = m_shown.valid ? theme::colors().rim : theme::colors().idleMark;
     if (tick < 2)
         return;
 
@@ -264,8 +263,8 @@ void ToolADI::drawBankScale(QPainter &painter, const AdiLayout &layout) const
     // The pointer belongs to the ball: it points at the sky, so it moves to the left when the right wing drops.
     painter.save();
     painter.rotate(-m_shown.roll);
-    painter.setPen(QPen(kOutline, qMax(0.75, r * 0.008)));
-    painter.setBrush(Qt::white);
+    painter.setPen(QPen(outline(), qMax(0.75, r * 0.008)));
+    painter.setBrush(theme::colors().dial);
     const qreal tip = -0.975 * r;
     painter.drawPolygon(QPolygonF({{0, tip}, {-0.07 * r, tip + 0.12 * r}, {0.07 * r, tip + 0.12 * r}}));
     painter.restore();
@@ -286,19 +285,19 @@ void ToolADI::drawAircraft(QPainter &painter, const AdiLayout &layout) const
     const qreal dot = qMax(1.5, 0.03 * r);
     const qreal edge = qMax(1.0, 0.012 * r);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(kOutline, width + 2 * edge, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.setPen(QPen(outline(), width + 2 * edge, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter.drawPath(wings);
-    painter.setPen(QPen(kAircraft, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.setPen(QPen(theme::colors().aircraft, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter.drawPath(wings);
-    painter.setPen(QPen(kOutline, edge));
-    painter.setBrush(kAircraft);
+    painter.setPen(QPen(outline(), edge));
+    painter.setBrush(theme::colors().aircraft);
     painter.drawEllipse(QPointF(0, 0), dot + edge / 2, dot + edge / 2);
 }
 
 void ToolADI::drawNoAttitude(QPainter &painter, const AdiLayout &layout) const
 {
     const qreal r = layout.radius;
-    painter.setPen(QPen(kIdleMark, layout.lineWidth(0.05), Qt::SolidLine, Qt::FlatCap));
+    painter.setPen(QPen(theme::colors().idleMark, layout.lineWidth(0.05), Qt::SolidLine, Qt::FlatCap));
     painter.drawLine(QPointF(-0.2 * r, -0.2 * r), QPointF(0.2 * r, -0.2 * r));
 
     const QString text = tr("No attitude");
@@ -309,7 +308,7 @@ void ToolADI::drawNoAttitude(QPainter &painter, const AdiLayout &layout) const
     if (std::hypot(width / 2, baseline + metrics.descent()) > 0.96 * r)
         return;
     painter.setFont(caption);
-    painter.setPen(theme::kTextSecondary);
+    painter.setPen(theme::colors().textSecondary);
     painter.drawText(QPointF(-width / 2, baseline), text);
 }
 
@@ -329,8 +328,8 @@ void ToolADI::drawHeading(QPainter &painter, const AdiLayout &layout) const
 
     const bool hasTape = tape.width() > 2.6 * boxWidth; // else the box alone
     if (hasTape) {
-        painter.setPen(QPen(theme::kLine, 1));
-        painter.setBrush(theme::kBackground);
+        painter.setPen(QPen(theme::colors().line, 1));
+        painter.setBrush(theme::colors().background);
         painter.drawRoundedRect(tape, 3, 3);
     }
     if (hasTape && m_shown.valid) {
@@ -344,7 +343,7 @@ void ToolADI::drawHeading(QPainter &painter, const AdiLayout &layout) const
         const int first = qCeil((current - kVisibleDegrees / 2) / kTickStep) * kTickStep;
         for (int mark = first; mark <= current + kVisibleDegrees / 2; mark += kTickStep) {
             const qreal x = layout.center.x() + (mark - current) * pixelsPerDegree;
-            painter.setPen(QPen(kIdleMark, 1));
+            painter.setPen(QPen(theme::colors().idleMark, 1));
             if (x > tape.left() + 3 && x < tape.right() - 3)
                 painter.drawLine(QPointF(x, tape.top() + 1), QPointF(x, tickBottom));
             if (mark % kLabelStep != 0)
@@ -354,15 +353,15 @@ void ToolADI::drawHeading(QPainter &painter, const AdiLayout &layout) const
             const QRectF place(x - width / 2 - 2, tape.top(), width + 4, tape.height());
             if (place.left() < tape.left() || place.right() > tape.right() || place.intersects(box))
                 continue;
-            painter.setPen(theme::kTextSecondary);
+            painter.setPen(theme::colors().textSecondary);
             painter.drawText(QPointF(x - width / 2, baseline), label);
         }
     }
 
-    painter.setPen(QPen(m_shown.valid ? kRim : theme::kLine, 1));
-    painter.setBrush(theme::kSurface);
+    painter.setPen(QPen(m_shown.valid ? theme::colors().rim : theme::colors().line, 1));
+    painter.setBrush(theme::colors().surface);
     painter.drawRoundedRect(box, 3, 3);
     painter.setFont(figures);
-    painter.setPen(m_shown.valid ? theme::kText : theme::kTextStale);
+    painter.setPen(m_shown.valid ? theme::colors().text : theme::colors().textDisabled);
     painter.drawText(box, Qt::AlignCenter, text);
 }

@@ -55,9 +55,9 @@ void AttitudeCard::nameAngles()
 {
     m_adi->setAccessibleName(m_ui->title_card_attitude->text());
     m_angles->setAccessibleName(m_ui->title_card_attitude->text());
-    m_angles->setCells({{tr("Roll"), QStringLiteral("\u00B0"), theme::kAxisX, kAngleCharacters},
-                        {tr("Pitch"), QStringLiteral("\u00B0"), theme::kAxisY, kAngleCharacters},
-                        {tr("Yaw"), QStringLiteral("\u00B0"), theme::kAxisZ, kAngleCharacters}});
+    m_angles->setCells({{tr("Roll"), QStringLiteral("\u00B0"), &Palette::axisX, kAngleCharacters},
+                        {tr("Pitch"), QStringLiteral("\u00B0"), &Palette::axisY, kAngleCharacters},
+                        {tr("Yaw"), QStringLiteral("\u00B0"), &Palette::axisZ, kAngleCharacters}});
 }
 
 void AttitudeCard::changeEvent(QEvent *event)

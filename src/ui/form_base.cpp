@@ -19,6 +19,7 @@
 #include "link/stream_dispatcher.h"
 #include "session/device_session.h"
 #include "ui/app_version.h"
+#include "ui/appearance_menu.h"
 #include "ui/attitude_card.h"
 #include "ui/connection_card.h"
 #include "ui/device_card.h"
@@ -122,6 +123,7 @@ void form_base::setUpWidgets()
     m_ui->menubar->setCornerWidget(m_languageMenu->button());
     m_actions = new MainActions(this, m_ui.get(), session);
     m_ui->menuView->addMenu(m_languageMenu);
+    m_ui->menuView->addMenu(new AppearanceMenu(this));
     m_views = new ViewWindows(session, this);
     m_dialogs = new Dialogs(session, this);
 }

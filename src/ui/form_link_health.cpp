@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QStyle>
 
+#include "app/palette.h"
 #include "app/settings_keys.h"
 #include "app/theme.h"
 #include "app/value_format.h"
@@ -93,6 +94,12 @@ void putDamage(QLabel *label, quint64 count)
     put(label, QString::number(count), count > 0);
 }
 
+void setInk(QTableWidgetItem *item)
+{
+    const Palette &colors = theme::colors();
+    item->setForeground(item->data(Qt::UserRole).toBool() ? colors.warning : colors.text);
+}
+
 void put(QTableWidget *table, int row, int column, const QString &text, bool isDamage = false)
 {
     QTableWidgetItem *item = table->item(row, column);
@@ -104,7 +111,8 @@ void put(QTableWidget *table, int row, int column, const QString &text, bool isD
     if (item->text() == text)
         return;
     item->setText(text);
-    item->setForeground(isDamage ? theme::kWarning : theme::kText);
+    item->setData(Qt::UserRole, isDamage);
+    setInk(item);
 }
 
 } // namespace
@@ -262,5 +270,8 @@ void form_link_health::changeEvent(QEvent *event)
         m_ui->retranslateUi(this);
         nameColumns();
         refresh();
+    } else if (event->type() == QEvent::PaletteChange) {
+        for (QTableWidgetItem *item : m_ui->TBL_nodes->findItems(QStringLiteral("*"), Qt::MatchWildcard))
+            setInk(item);
     }
 }

@@ -16,18 +16,18 @@ namespace {
 
 QList<ValueCard::Channel> vectorChannels(const QString &norm)
 {
-    return {{QStringLiteral("X"), theme::kAxisX},
-            {QStringLiteral("Y"), theme::kAxisY},
-            {QStringLiteral("Z"), theme::kAxisZ},
-            {norm, theme::kNorm, true}};
+    return {{QStringLiteral("X"), &Palette::axisX},
+            {QStringLiteral("Y"), &Palette::axisY},
+            {QStringLiteral("Z"), &Palette::axisZ},
+            {norm, &Palette::norm, true}};
 }
 
 QList<ValueCard::Channel> quaternionChannels()
 {
-    return {{QStringLiteral("W"), theme::kAxisW},
-            {QStringLiteral("X"), theme::kAxisX},
-            {QStringLiteral("Y"), theme::kAxisY},
-            {QStringLiteral("Z"), theme::kAxisZ}};
+    return {{QStringLiteral("W"), &Palette::axisW},
+            {QStringLiteral("X"), &Palette::axisX},
+            {QStringLiteral("Y"), &Palette::axisY},
+            {QStringLiteral("Z"), &Palette::axisZ}};
 }
 
 std::array<float, 4> withNorm(const float (&v)[3])
@@ -85,10 +85,10 @@ void SensorDataPanel::retranslate()
     m_magneticField->setTitle(tr("Magnetic field"), QStringLiteral("\u00B5T"));
     m_quaternion->setTitle(tr("Quaternion"), QString());
     m_summary->setAccessibleName(tr("Node"));
-    m_summary->setCells({{tr("Node"), QString(), theme::kText, 3},
-                         {tr("Device time"), QString(), theme::kText, 12},
-                         {tr("Temperature"), QStringLiteral("\u00B0C"), theme::kText, 6},
-                         {tr("Pressure"), QStringLiteral("Pa"), theme::kText, 8}});
+    m_summary->setCells({{tr("Node"), QString(), &Palette::text, 3},
+                         {tr("Device time"), QString(), &Palette::text, 12},
+                         {tr("Temperature"), QStringLiteral("\u00B0C"), &Palette::text, 6},
+                         {tr("Pressure"), QStringLiteral("Pa"), &Palette::text, 8}});
 }
 
 void SensorDataPanel::appendSample(const StreamSample &sample)

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "app/palette.h"
 #include "app/theme.h"
 #include "app/value_format.h"
 #include "chart/axis_ticks.h"
@@ -178,13 +179,13 @@ void ValueCard::paintEvent(QPaintEvent *event)
     painter.setRenderHint(QPainter::Antialiasing);
     const QRect header(0, 0, width(), rowsArea().top());
     if (event->rect().intersects(header) || !rect().adjusted(1, 1, -1, -1).contains(event->rect())) {
-        painter.fillRect(rect(), theme::kBackground);
-        painter.setPen(theme::kLine);
-        painter.setBrush(theme::kSurface);
+        painter.fillRect(rect(), theme::colors().background);
+        painter.setPen(theme::colors().line);
+        painter.setBrush(theme::colors().surface);
         painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), theme::kGrid, theme::kGrid);
         paintHeader(painter);
     } else {
-        painter.fillRect(event->rect(), theme::kSurface);
+        painter.fillRect(event->rect(), theme::colors().surface);
     }
 
     const double fullScale = range();
@@ -204,7 +205,7 @@ void ValueCard::paintHeader(QPainter &painter) const
     QFont bold = font();
     bold.setWeight(QFont::DemiBold);
     painter.setFont(bold);
-    painter.setPen(theme::kTextSecondary);
+    painter.setPen(theme::colors().textSecondary);
     painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter, m_title);
     painter.setFont(font());
     painter.drawText(area, Qt::AlignRight | Qt::AlignVCenter, m_unit);
@@ -216,7 +217,7 @@ void ValueCard::paintRow(QPainter &painter, int row, const QRect &area, double r
     QFont bold = font();
     bold.setBold(true);
     painter.setFont(bold);
-    painter.setPen(channel.color);
+    painter.setPen(theme::colors().*channel.color);
     painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter, channel.label);
 
     QRect valueArea(area.left() + m_labelWidth + theme::kGrid, area.top(), m_valueWidth, area.height());
@@ -225,7 +226,7 @@ void ValueCard::paintRow(QPainter &painter, int row, const QRect &area, double r
     if (textWidth > valueArea.width()) // a value beyond the layout's digits takes the bar's place
         valueArea.setWidth(std::min(textWidth, area.right() - valueArea.left()));
     painter.setFont(m_valueFont);
-    painter.setPen(m_isAbsent || !isEnabled() ? theme::kTextStale : theme::kText);
+    painter.setPen(m_isAbsent || !isEnabled() ? theme::colors().textDisabled : theme::colors().text);
     painter.drawText(valueArea, Qt::AlignRight | Qt::AlignVCenter, text);
 
     const int barLeft = valueArea.right() + 2 * theme::kGrid;
@@ -233,7 +234,7 @@ void ValueCard::paintRow(QPainter &painter, int row, const QRect &area, double r
     if (ground.width() < 3 * theme::kGrid)
         return;
     painter.setPen(Qt::NoPen);
-    painter.setBrush(theme::kBackground);
+    painter.setBrush(theme::colors().background);
     painter.drawRoundedRect(ground, kBarHeight / 2.0, kBarHeight / 2.0);
     const float value = m_values[size_t(row)];
     if (m_isAbsent || !std::isfinite(value))
@@ -242,13 +243,13 @@ void ValueCard::paintRow(QPainter &painter, int row, const QRect &area, double r
     const double zero = channel.isNorm ? ground.left() : ground.center().x();
     const double full = channel.isNorm ? ground.width() : ground.width() / 2.0;
     QRectF bar(zero, ground.top(), fraction * full, ground.height());
-    painter.setBrush(isEnabled() ? channel.color : theme::kTextStale);
+    painter.setBrush(isEnabled() ? theme::colors().*channel.color : theme::colors().textDisabled);
     painter.drawRect(bar.normalized());
 }
 
 void ValueCard::paintTrace(QPainter &painter, const QRect &area, double range) const
 {
-    painter.setPen(QPen(theme::kLine, 1));
+    painter.setPen(QPen(theme::colors().line, 1));
     const double middle = area.center().y() + 0.5;
     painter.drawLine(QPointF(area.left(), middle), QPointF(area.right(), middle));
 
@@ -267,7 +268,8 @@ void ValueCard::paintTrace(QPainter &painter, const QRect &area, double range) c
     for (int channel = 0; channel < int(m_channels.size()); ++channel) {
         if (m_channels.at(channel).isNorm)
             continue;
-        painter.setPen(QPen(m_channels.at(channel).color, 1)); // a wider one would be outlined, at many times the cost
+        painter.setPen(QPen(theme::colors().*m_channels.at(channel).color,
+                            1)); // a wider one would be outlined, at many times the cost
         for (int age = TraceBuffer::kBuckets - 1; age >= 0; --age) {
             const TraceBuffer::Extent &extent = m_trace.at(channel, age);
             if (extent.isBroken)

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QColor>
 #include <QList>
 #include <QWidget>
 
 #include <array>
 #include <span>
 
+#include "app/palette.h"
 #include "ui/trace_buffer.h"
 
 /// A card of the numeric panel: title and unit, up to four values with their axis colours and a bar each, and a trace
@@ -20,7 +20,7 @@ public:
     struct Channel
     {
         QString label;
-        QColor color;
+        QColor Palette::*color;
         bool isNorm = false; ///< never negative: shown without a sign, its bar starts at the left
     };
     struct Format

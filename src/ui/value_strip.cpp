@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "app/palette.h"
 #include "app/theme.h"
 #include "app/value_format.h"
 #include "ui/readout_accessible.h"
@@ -81,7 +82,7 @@ void ValueStrip::changeEvent(QEvent *event)
 void ValueStrip::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), theme::kSurface);
+    painter.fillRect(rect(), theme::colors().surface);
     if (m_cells.isEmpty())
         return;
     const QFont valueFont = theme::fixedPitchFont(font().pointSizeF() + 2);
@@ -92,12 +93,12 @@ void ValueStrip::paintEvent(QPaintEvent *)
         const QRectF cell(left, 0, cellWidth(m_cells.at(i)) + spare, height());
         left = cell.right();
         painter.setFont(font());
-        painter.setPen(theme::kTextSecondary);
+        painter.setPen(theme::colors().textSecondary);
         painter.drawText(QRectF(cell.left(), 0, cell.width(), captionHeight), Qt::AlignCenter,
                          captionText(m_cells.at(i)));
         painter.setFont(valueFont);
         const bool isAbsent = m_texts.at(i) == value_format::absent();
-        painter.setPen(isAbsent || !isEnabled() ? theme::kTextStale : m_cells.at(i).color);
+        painter.setPen(isAbsent || !isEnabled() ? theme::colors().textDisabled : theme::colors().*m_cells.at(i).color);
         painter.drawText(cell.adjusted(0, captionHeight + kSpacing, 0, 0), Qt::AlignHCenter | Qt::AlignTop,
                          m_texts.at(i));
     }

@@ -1,8 +1,9 @@
 #pragma once
 
-#include <QColor>
 #include <QList>
 #include <QWidget>
+
+#include "app/palette.h"
 
 /// A row of captions with a value under each, on a card: the summary row and the angles. Cells share spare width
 /// equally.
@@ -16,8 +17,8 @@ public:
     {
         QString caption;
         QString unit;
-        QColor color;       ///< of the value
-        int characters = 8; ///< that the layout keeps room for
+        QColor Palette::*color; ///< of the value
+        int characters = 8;     ///< that the layout keeps room for
     };
 
     explicit ValueStrip(QWidget *parent = nullptr);

@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "app/palette.h"
 #include "app/settings_keys.h"
 #include "app/theme.h"
 #include "app/window_host.h"
@@ -33,7 +34,11 @@ constexpr int kAttemptsPerPacket = 2;
 constexpr int kLogLines = 10000;
 constexpr QSize kMinimumText{64, 25}; ///< characters and lines
 constexpr qint64 kTransferIntervalMs = 100;
-constexpr char kConnectedStyle[] = "background-color: #90EE90;";
+
+QString connectedStyle()
+{
+    return QStringLiteral("background-color: %1;").arg(theme::colors().connected.name().toUpper());
+}
 
 } // namespace
 
@@ -161,6 +166,8 @@ void form_updater::changeEvent(QEvent *event)
         retranslateDynamicUi();
     } else if (event->type() == QEvent::FontChange) {
         fitFont();
+    } else if (event->type() == QEvent::PaletteChange) {
+        update_button_states();
     } else if (event->type() == QEvent::ActivationChange && isActiveWindow() && !isDownloading()) {
         lookAtImage(); // it may have been built anew meanwhile
     }
@@ -471,7 +478,7 @@ void form_updater::update_button_states()
     m_ui->BTN_stop->setEnabled(isDownloading() && !m_stopping);
     m_ui->BTN_connect->setText(hasBootloader ? tr("Connected") : tr("Connect"));
     m_ui->BTN_connect->setProperty("connected", hasBootloader);
-    m_ui->BTN_connect->setStyleSheet(hasBootloader ? QLatin1String(kConnectedStyle) : QString());
+    m_ui->BTN_connect->setStyleSheet(hasBootloader ? connectedStyle() : QString());
 
     m_ui->BTN_open_file->setToolTip(isDownloading() ? busy : tr("Chooses the image, an Intel HEX file"));
     m_ui->BTN_connect->setToolTip(isDownloading() ? busy : tr("Restarts the device into its bootloader"));

@@ -4,8 +4,8 @@
 #include <QScrollArea>
 
 #include "app/app_language_manager.h"
+#include "app/appearance.h"
 #include "app/application_fonts.h"
-#include "app/theme.h"
 #include "e2e/views.h"
 #include "ui/font_size.h"
 
@@ -147,7 +147,9 @@ private slots:
 int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
-    theme::apply(application);
+    Appearance::instance().start();
+    if (qEnvironmentVariableIsSet("KV_DARK")) // for pictures
+        Appearance::instance().setChoice(Appearance::Choice::Dark);
     application_fonts::loadAll();
     AppLanguageManager::instance().loadManifest();
     TestWindowFit test;

@@ -5,7 +5,7 @@
 #include <limits>
 #include <utility>
 
-#include "app/theme.h"
+#include "app/palette.h"
 #include "support/pixels.h"
 #include "ui/sensor_data_panel.h"
 #include "ui/value_card.h"
@@ -113,7 +113,8 @@ private slots:
         std::fill_n(model.node.acc, 3, 0.5F);
         panel.setModel(model);
         const QImage shown = panel.grab().toImage();
-        for (const QColor &color : {theme::kAxisX, theme::kAxisY, theme::kAxisZ, theme::kNorm})
+        for (const QColor &color :
+             {palette::kLight.axisX, palette::kLight.axisY, palette::kLight.axisZ, palette::kLight.norm})
             QVERIFY2(contains(shown, color), qPrintable(color.name()));
         model.node.acc[0] = -0.5F;
         panel.setModel(model);
@@ -209,7 +210,7 @@ private slots:
             double sum = 0;
             int count = 0;
             for (int y = card.height() - kEdge - kTraceHeight; y < card.height() - kEdge; ++y) {
-                if (isAbout(card.pixelColor(x, y), theme::kAxisX)) {
+                if (isAbout(card.pixelColor(x, y), palette::kLight.axisX)) {
                     sum += y;
                     ++count;
                 }
@@ -236,7 +237,8 @@ private slots:
         QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
         for (const QSize size : {QSize(1, 1), QSize(120, 90), QSize(900, 600)}) {
             for (const float value : {Limits::quiet_NaN(), Limits::infinity(), -Limits::max(), Limits::denorm_min()}) {
-                ValueCard card({{QStringLiteral("X"), theme::kAxisX}, {QStringLiteral("|x|"), theme::kNorm, true}}, {});
+                ValueCard card({{QStringLiteral("X"), &Palette::axisX}, {QStringLiteral("|x|"), &Palette::norm, true}},
+                               {});
                 card.resize(size);
                 const float values[] = {value, value};
                 for (qint64 now = 0; now < 6000; now += 10)
