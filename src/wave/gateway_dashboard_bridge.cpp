@@ -154,6 +154,15 @@ void GatewayDashboardBridge::updateGatewaySamples(const QList<GatewaySample> &sa
     }
 }
 
+void GatewayDashboardBridge::setDevice(const QString &device)
+{
+    m_device = device;
+    for (const NodeCharts &node : m_charts) {
+        for (WaveChartBridge *chart : node.charts)
+            chart->setOrigin({m_device, node.id});
+    }
+}
+
 void GatewayDashboardBridge::setFrameRate(unsigned int samplesPerSecond)
 {
     if (samplesPerSecond == m_frameRate)
@@ -205,6 +214,7 @@ void GatewayDashboardBridge::updateRefreshing()
 void GatewayDashboardBridge::clear()
 {
     setEnded(false);
+    m_markers.clear();
     const std::vector<NodeCharts> dropped = std::exchange(m_charts, {});
     forgetSamples();
     notifyChosen();
@@ -235,6 +245,7 @@ GatewayDashboardBridge::NodeCharts GatewayDashboardBridge::makeCharts(quint8 id)
         node.charts[i] = new WaveChartBridge(sensorTypes()[i].key, this);
         node.charts[i]->setFrameRate(m_frameRate);
         node.charts[i]->setPlaying(m_playing);
+        node.charts[i]->setOrigin({m_device, id});
     }
     nameCharts(node);
     return node;

@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <QVariantList>
 
+#include "chart/marker_list.h"
 #include "wave/gateway_node_model.h"
 #include "wave/gateway_node_tracker.h"
 #include "wave/sample_feed.h"
@@ -34,6 +35,7 @@ class GatewayDashboardBridge : public QObject
     Q_PROPERTY(QVariantList panes READ panes NOTIFY panesChanged)
     Q_PROPERTY(int paneColumns READ paneColumns NOTIFY panesChanged)
     Q_PROPERTY(bool ended READ isEnded NOTIFY nodesRefreshed)
+    Q_PROPERTY(MarkerList *markers READ markers CONSTANT)
     Q_PROPERTY(bool playing READ playing NOTIFY playingChanged)
     Q_PROPERTY(int frameRate READ frameRate NOTIFY frameRateChanged)
 
@@ -61,6 +63,8 @@ public:
     /// What is shown is of a connection that has ended.
     bool isEnded() const { return m_ended; }
     bool playing() const { return m_playing; }
+    /// What the user marked in the streams of the nodes, which share a clock; forgotten when another gateway comes.
+    MarkerList *markers() { return &m_markers; }
     int frameRate() const { return int(m_frameRate); }
     bool dashboardActive() const { return m_active; }
 
@@ -74,6 +78,8 @@ public:
     static qint64 hostNowMs();
     /// Takes the samples of a batch that arrived at `hostMs`.
     void updateGatewaySamples(const QList<GatewaySample> &samples, qint64 hostMs = hostNowMs());
+    /// The gateway's product, for files and pictures.
+    void setDevice(const QString &device);
     /// Batches per second, and so each node's samples per second.
     void setFrameRate(unsigned int samplesPerSecond);
     /// Active while the dashboard is open. Becoming inactive forgets nodes and samples; the choices stay.
@@ -118,6 +124,8 @@ private:
     GatewayNodeModel m_nodeModel;
     std::vector<NodeCharts> m_charts; ///< by ascending id
     std::array<bool, kSensorTypeCount> m_selectedTypes;
+    MarkerList m_markers;
+    QString m_device;
     bool m_playing = true;
     bool m_active = false;
     bool m_ended = false;

@@ -108,6 +108,12 @@ void SensorDashboardBridge::setPlaying(bool playing)
     emit playingChanged();
 }
 
+void SensorDashboardBridge::setOrigin(const SampleOrigin &origin)
+{
+    for (WaveChartBridge *chart : std::as_const(m_bridges))
+        chart->setOrigin(origin);
+}
+
 void SensorDashboardBridge::setFrameRate(unsigned int samplesPerSecond)
 {
     for (WaveChartBridge *chart : std::as_const(m_bridges))
@@ -132,6 +138,8 @@ void SensorDashboardBridge::resetBackends()
 
 void SensorDashboardBridge::restartStream(StreamBreak kind)
 {
+    if (emptiesViews(kind))
+        m_markers.clear();
     for (WaveChartBridge *chart : std::as_const(m_bridges)) {
         if (emptiesViews(kind))
             chart->restart();
