@@ -4,13 +4,16 @@ import QtQuick
 import KVCenter.Controls
 import KVCenter.Chart
 
-/// Saves all charts of a window at once: how much of the samples, how large a picture. `charts` is a function that returns
+/// Saves all charts of a window at once: how much of the samples, how large a picture. `charts` are
 /// its items, each with its `viewState`.
 Rectangle {
     id: panel
 
     required property ChartSaver saver
-    required property var charts
+    property var charts: []
+
+    /// The panel is about to save: time to set `charts`.
+    signal aboutToSave
 
     width: rows.width + 24
     height: rows.height + 24
@@ -57,7 +60,10 @@ Rectangle {
                 objectName: "saveAllData"
                 text: qsTr("Save tables…")
                 hint: qsTr("A CSV file of each chart")
-                onClicked: panel.saver.saveAllData(panel.charts())
+                onClicked: {
+                    panel.aboutToSave();
+                    panel.saver.saveAllData(panel.charts);
+                }
             }
         }
         Text {
@@ -99,7 +105,10 @@ Rectangle {
                 objectName: "saveAllPictures"
                 text: qsTr("Save pictures…")
                 hint: qsTr("A picture of each chart")
-                onClicked: panel.saver.saveAllPictures(panel.charts())
+                onClicked: {
+                    panel.aboutToSave();
+                    panel.saver.saveAllPictures(panel.charts);
+                }
             }
         }
         Text {

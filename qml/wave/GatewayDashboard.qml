@@ -34,6 +34,7 @@ Item {
         id: chartLink
 
         objectName: "link"
+        linked: dashboard.bridge.linked
     }
     FontMetrics {
         id: metrics
@@ -102,7 +103,7 @@ Item {
             checked: chartLink.linked
             iconName: "link"
             hint: chartLink.linked ? qsTr("Let each chart have its own time axis and cursors") : qsTr("Couple time axes and cursors of all charts")
-            onClicked: chartLink.linked = !chartLink.linked
+            onClicked: dashboard.bridge.linked = !chartLink.linked
         }
         ActionButton {
             id: saveButton
@@ -246,7 +247,8 @@ Item {
                     }
                     maximized: dashboard.maximizedSlot === index
                     canMaximize: maximized || dashboard.shownPanes.length > 1
-                    visible: place >= 0
+                    // What has been scrolled away costs nothing.
+                    visible: place >= 0 && y + height > charts.contentY && y < charts.contentY + charts.height
                     x: Math.round((place % charts.columns) * (charts.cellWidth + charts.gap))
                     y: Math.round(Math.floor(place / charts.columns) * (charts.cellHeight + charts.gap))
                     width: Math.round(charts.cellWidth)
@@ -283,7 +285,7 @@ Item {
         y: bar.height
         visible: false
         saver: dashboard.saver
-        charts: () => charts.panes()
+        onAboutToSave: savePanel.charts = charts.panes()
     }
     MessageRow {
         id: message

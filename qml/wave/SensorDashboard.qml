@@ -44,6 +44,7 @@ Item {
         id: charts
 
         objectName: "link"
+        linked: dashboard.bridge.linked
     }
     Rectangle {
         id: bar
@@ -106,7 +107,7 @@ Item {
             checked: charts.linked
             iconName: "link"
             hint: charts.linked ? qsTr("Let each chart have its own time axis and cursors") : qsTr("Couple time axes and cursors of all charts")
-            onClicked: charts.linked = !charts.linked
+            onClicked: dashboard.bridge.linked = !charts.linked
         }
         ActionButton {
             id: saveButton
@@ -237,7 +238,7 @@ Item {
         y: bar.height
         visible: false
         saver: dashboard.saver
-        charts: () => dashboard.chartItems().filter(chart => chart.visible)
+        onAboutToSave: savePanel.charts = dashboard.chartItems().filter(chart => chart.visible)
     }
     MessageRow {
         id: message

@@ -111,6 +111,18 @@ QVariantList PlotViewState::seriesColors() const
     return colors;
 }
 
+QString PlotViewState::hoverLine() const
+{
+    QString line = hoverTitle();
+    const QStringList names = seriesNames();
+    const QStringList texts = hoverTexts();
+    for (qsizetype i = 0; i < texts.size(); ++i) {
+        if (isSeriesVisible(int(i)))
+            line += QStringLiteral("  ") + names.value(i) + u' ' + texts.at(i);
+    }
+    return line;
+}
+
 double PlotViewState::fitFromX() const
 {
     return -std::numeric_limits<double>::infinity();

@@ -41,6 +41,7 @@ class PlotViewState : public QObject
     Q_PROPERTY(bool hasCursors READ hasCursors NOTIFY cursorsChanged)
     Q_PROPERTY(double hoverX READ hoverX WRITE setHoverX NOTIFY hoverChanged)
     Q_PROPERTY(QString hoverTitle READ hoverTitle NOTIFY hoverChanged)
+    Q_PROPERTY(QString hoverLine READ hoverLine NOTIFY hoverChanged)
     Q_PROPERTY(QStringList hoverTexts READ hoverTexts NOTIFY hoverChanged)
     Q_PROPERTY(QStringList measurement READ measurement NOTIFY cursorsChanged)
 
@@ -83,6 +84,8 @@ public:
     /// `low` is above `high`.
     virtual void fitValues(double low, double high) = 0;
 
+    /// All that is said about the pointer in one line, with names.
+    QString hoverLine() const;
     /// The position under the pointer, and the value of each series there; empty where there is none.
     virtual QString hoverTitle() const = 0;
     virtual QStringList hoverTexts() const = 0;

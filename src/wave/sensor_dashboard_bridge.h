@@ -32,6 +32,7 @@ class SensorDashboardBridge : public QObject
     Q_PROPERTY(int selectedCount READ selectedCount NOTIFY selectionChanged)
     Q_PROPERTY(int gridRows READ gridRows NOTIFY selectionChanged)
     Q_PROPERTY(int gridColumns READ gridColumns NOTIFY selectionChanged)
+    Q_PROPERTY(bool linked READ isLinked WRITE setLinked NOTIFY linkedChanged)
     Q_PROPERTY(MarkerList *markers READ markers CONSTANT)
     Q_PROPERTY(bool playing READ playing NOTIFY playingChanged)
 
@@ -50,6 +51,9 @@ public:
     int gridRows() const { return layoutForCount(selectedCount()).height(); }
     int gridColumns() const { return layoutForCount(selectedCount()).width(); }
     bool playing() const { return m_playing; }
+    /// The time axes and cursors of all charts are coupled.
+    bool isLinked() const { return m_linked; }
+    void setLinked(bool linked);
     /// What the user marked in the stream; forgotten when another stream begins.
     MarkerList *markers() { return &m_markers; }
     bool dashboardActive() const { return m_dashboardActive; }
@@ -90,8 +94,8 @@ public:
     /// Tells every chart whether it is on the screen; runs by itself after each change.
     void syncObservedStates();
 
-    /// Reads and writes the selection in the settings file at `iniPath`. Without an entry the selection stays; unknown
-    /// keys in it are ignored.
+    /// Reads and writes the selection in the settings file at `iniPath`, with spans, hidden channels and filters of the
+    /// charts and whether they are linked. Without an entry the selection stays; what it does not know is ignored.
     void loadSelectionState(const QString &iniPath);
     void saveSelectionState(const QString &iniPath) const;
 
@@ -103,6 +107,7 @@ signals:
     void paneStatesChanged();
     void selectionChanged();
     void layoutChanged();
+    void linkedChanged();
     void playingChanged();
     void playToggleRequested(bool playing);
 
@@ -112,6 +117,7 @@ private:
     QStringList m_sensorTypes;
     QHash<QString, WaveChartBridge *> m_bridges; ///< owned as children
     QHash<QString, bool> m_selected;
+    bool m_linked = false;
     MarkerList m_markers;
     bool m_playing = true;
     bool m_dashboardActive = false;

@@ -327,8 +327,30 @@ QString WaveChartBridge::trySetFilter(bool on, double hz)
             problem = tr("The cutoff frequency is too low for %1 samples per second.").arg(m_appliedFrameRate);
         }
     }
+    m_choices.filterHz = filterOn() ? hz : 0;
     emit filterChanged();
     return problem;
+}
+
+void WaveChartBridge::setChosenView(double spanSec, const QList<int> &hidden)
+{
+    m_choices.spanSec = spanSec;
+    m_choices.hidden = hidden;
+}
+
+void WaveChartBridge::restoreChoices(const ViewChoices &choices)
+{
+    m_choices = choices;
+    restoreFilter();
+}
+
+void WaveChartBridge::restoreFilter()
+{
+    const double cutoffHz = m_choices.filterHz;
+    if (!hasFilter() || !(cutoffHz > 0) || filterOn())
+        return;
+    trySetFilter(true, cutoffHz);
+    m_choices.filterHz = cutoffHz; // a rate that is too low for it now may rise
 }
 
 bool WaveChartBridge::filterOn() const

@@ -15,6 +15,7 @@
 #include "session/stream_event.h"
 #include "wave/curve_break.h"
 #include "wave/sample_origin.h"
+#include "wave/view_choices.h"
 #include "wave/wave_trigger.h"
 #include "wave/waveform_data_model.h"
 
@@ -96,6 +97,13 @@ public:
     QList<double> valuesAt(double timeSec) const override;
     SeriesStatistics statistics(int channel, double xMin, double xMax) const override;
     quint64 revision() const override { return model().revision() ^ (holds() ? kHeldBit : 0); }
+
+    /// What the user chose. The view reports span and channels, the filter is kept up to date here; restoring them
+    /// switches the filter, where the rate allows it.
+    const ViewChoices &choices() const { return m_choices; }
+    void setChosenView(double spanSec, const QList<int> &hidden);
+    void restoreChoices(const ViewChoices &choices);
+    void restoreFilter();
 
     /// Whose samples they are, as far as the owner knows.
     const SampleOrigin &origin() const { return m_origin; }
@@ -193,6 +201,7 @@ private:
     SampleGaps m_gaps;
     qint64 m_newestUtcMs = 0;
     SampleOrigin m_origin;
+    ViewChoices m_choices;
     WaveTrigger m_trigger;
     std::unique_ptr<WaveformDataModel> m_caught; ///< shown instead
     bool m_observed = false;

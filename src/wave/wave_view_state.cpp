@@ -48,6 +48,10 @@ void WaveViewState::setBridge(WaveChartBridge *bridge)
     m_bridge = bridge;
     m_visibleChannels = QList<bool>(bridge ? bridge->channelCount() : 0, true);
     if (bridge) {
+        for (const int hidden : bridge->choices().hidden) {
+            if (hidden >= 0 && hidden < m_visibleChannels.size())
+                m_visibleChannels[hidden] = false;
+        }
         connect(bridge, &WaveChartBridge::dataChanged, this, &WaveViewState::samplesChanged);
         connect(bridge, &WaveChartBridge::chartTitleChanged, this, &WaveViewState::titleChanged);
         connect(bridge->trigger(), &WaveTrigger::caught, this, [this](double eventSec) {
@@ -185,6 +189,18 @@ int WaveViewState::majorBreaks() const
     return m_bridge ? int(visibleMarks(m_bridge->breakMarks()).size()) : 0;
 }
 
+void WaveViewState::reportChoices()
+{
+    if (!m_bridge)
+        return;
+    QList<int> hidden;
+    for (int channel = 0; channel < m_visibleChannels.size(); ++channel) {
+        if (!m_visibleChannels.at(channel))
+            hidden += channel;
+    }
+    m_bridge->setChosenView(m_x.span(), hidden);
+}
+
 void WaveViewState::setTriggerOn(bool on)
 {
     if (!m_bridge)
@@ -223,6 +239,7 @@ void WaveViewState::setSeriesVisible(int channel, bool visible)
     if (channel < 0 || channel >= m_visibleChannels.size() || m_visibleChannels.at(channel) == visible)
         return;
     m_visibleChannels[channel] = visible;
+    reportChoices();
     emit seriesChanged();
     emit pictureChanged();
 }
@@ -273,6 +290,7 @@ void WaveViewState::reset()
 {
     m_yAutomatic = true;
     m_x = {m_bridge ? m_bridge->xDefaultMin() : -10.0, 0};
+    reportChoices();
     moveMarks();
     emit viewChanged();
     emit rangeTextChanged();
@@ -384,7 +402,9 @@ void WaveViewState::startOver()
 {
     removeCursors();
     m_y = m_bridge ? chart_range::Range{m_bridge->yMin(), m_bridge->yMax()} : chart_range::Range{-1, 1};
+    const double span = m_bridge ? m_bridge->choices().spanSec : 0;
     reset();
+    setSpan(span);
 }
 
 void WaveViewState::updateLiveTexts()
@@ -438,6 +458,7 @@ void WaveViewState::setX(chart_range::Range window)
     if (next == m_x)
         return;
     m_x = next;
+    reportChoices();
     if (m_bridge && m_bridge->trigger()->isOn() && !m_bridge->holds())
         m_bridge->trigger()->setSpan(m_x.span());
     moveMarks();

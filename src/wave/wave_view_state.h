@@ -155,6 +155,7 @@ private:
     void setStale(bool stale);
     void awaitSamples();
     void moveMarks();
+    void reportChoices();
     ChartMarker markerHere() const;
     QList<BreakMark> visibleMarks(const QList<BreakMark> &marks) const;
     chart_range::TimeLimits timeLimits() const;

@@ -403,6 +403,36 @@ private slots:
         }
     }
 
+    void remembersWhatIsShown()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("param.ini"));
+        const QString acc = QStringLiteral("acc");
+        // What the file holds, and what is made of it.
+        const std::tuple<QByteArray, ViewChoices, bool> rows[] = {
+            {"", {}, false},
+            {"[SENSOR_DASHBOARD]\nACC_SPAN=30\nACC_HIDDEN=1, 3\nACC_FILTER_HZ=5\nLINKED=true\n", {30, {1, 3}, 5}, true},
+            {"[SENSOR_DASHBOARD]\nACC_SPAN=-1\nACC_HIDDEN=x, 9, 2\nACC_FILTER_HZ=nan\nLINKED=x\n", {10, {2}, 0}, true},
+            {"[SENSOR_DASHBOARD]\nACC_SPAN=1e99\nACC_HIDDEN=@Invalid()\nACC_FILTER_HZ=1e99\n", {}, false},
+        };
+        for (const auto &[content, expected, linked] : rows) {
+            QVERIFY(writeFile(path, content));
+            for (int run = 0; run < 2; ++run) { // the second reads what the first has written
+                SensorDashboardBridge dashboard;
+                dashboard.loadSelectionState(path);
+                QVERIFY(dashboard.bridge(acc)->choices() == expected);
+                QCOMPARE(dashboard.bridge(acc)->filterOn(), expected.filterHz > 0);
+                QCOMPARE(dashboard.isLinked(), linked);
+                dashboard.setDashboardActive(true);
+                dashboard.setDashboardActive(false); // drops the filter, not the choice
+                QVERIFY(!dashboard.bridge(acc)->filterOn());
+                dashboard.setDashboardActive(true);
+                QCOMPARE(dashboard.bridge(acc)->filterOn(), expected.filterHz > 0);
+                dashboard.saveSelectionState(path);
+            }
+        }
+    }
+
     void takesSamplesApart()
     {
         node_data_t node;
