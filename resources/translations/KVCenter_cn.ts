@@ -59,6 +59,25 @@
     </message>
 </context>
 <context>
+    <name>AppearanceMenu</name>
+    <message>
+        <source>&amp;System</source>
+        <translation>跟随系统(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>浅色(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>深色(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Appearance</source>
+        <translation>外观(&amp;A)</translation>
+    </message>
+</context>
+<context>
     <name>AttitudeCard</name>
     <message>
         <source>Attitude</source>
@@ -166,6 +185,13 @@
     </message>
 </context>
 <context>
+    <name>CeilingField</name>
+    <message>
+        <source>now %1</source>
+        <translation>当前 %1</translation>
+    </message>
+</context>
+<context>
     <name>ChartFilterRow</name>
     <message>
         <source>Low-pass filter</source>
@@ -188,18 +214,45 @@
     </message>
 </context>
 <context>
-    <name>ChartReadout</name>
+    <name>ChartMeasures</name>
     <message>
-        <source>t %1</source>
-        <translation>t %1</translation>
+        <source>Between A and B, %1 to %2</source>
+        <translation>A 与 B 之间，%1 至 %2</translation>
+    </message>
+    <message>
+        <source>Over the view, %1 to %2</source>
+        <translation>可见区间，%1 至 %2</translation>
+    </message>
+</context>
+<context>
+    <name>ChartRangeRow</name>
+    <message>
+        <source>Left end of the horizontal axis</source>
+        <translation>横轴左端</translation>
+    </message>
+    <message>
+        <source>Right end of the horizontal axis</source>
+        <translation>横轴右端</translation>
+    </message>
+    <message>
+        <source>Lower end of the value axis</source>
+        <translation>数值轴下限</translation>
+    </message>
+    <message>
+        <source>Upper end of the value axis</source>
+        <translation>数值轴上限</translation>
+    </message>
+    <message>
+        <source>Automatic values</source>
+        <translation>数值轴自动</translation>
+    </message>
+    <message>
+        <source>Fit the value axis to what is visible</source>
+        <translation>使数值轴适应可见数据</translation>
     </message>
 </context>
 <context>
     <name>ChartSaver</name>
-    <message>
-        <source>Save the visible samples</source>
-        <translation>保存可见区间的采样数据</translation>
-    </message>
     <message>
         <source>Comma-separated values (*.csv)</source>
         <translation>逗号分隔值文件 (*.csv)</translation>
@@ -224,6 +277,32 @@
         <source>%1 could not be written: %2</source>
         <translation>无法写入 %1：%2</translation>
     </message>
+    <message>
+        <source>Save the samples</source>
+        <translation>保存采样数据</translation>
+    </message>
+    <message>
+        <source>SVG picture (*.svg)</source>
+        <translation>SVG 图片 (*.svg)</translation>
+    </message>
+    <message>
+        <source>Save the samples of all charts</source>
+        <translation>保存所有图表的采样数据</translation>
+    </message>
+    <message>
+        <source>Save pictures of all charts</source>
+        <translation>保存所有图表的图片</translation>
+    </message>
+    <message>
+        <source>No chart has samples.</source>
+        <translation>所有图表都没有采样数据。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Saved %n file(s) in %1</source>
+        <translation>
+            <numerusform>已将 %n 个文件保存到 %1</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>CommandSession</name>
@@ -247,12 +326,12 @@
         <translation>收到的是噪声。波特率可能不正确。</translation>
     </message>
     <message>
-        <source>&amp;Try the usual baud rates</source>
-        <translation>尝试常用波特率(&amp;T)</translation>
-    </message>
-    <message>
         <source>Opens this port at one rate after the other until the device answers</source>
         <translation>依次以各波特率打开此串口，直到设备应答</translation>
+    </message>
+    <message>
+        <source>Try the &amp;usual baud rates</source>
+        <translation>尝试常用波特率(&amp;U)</translation>
     </message>
 </context>
 <context>
@@ -306,6 +385,18 @@
     <message>
         <source>Open Serial Port Error.</source>
         <translation>打开串口失败。</translation>
+    </message>
+    <message>
+        <source>The device may wait in its bootloader for the rest. Plug it in, then connect to it.</source>
+        <translation>设备可能停留在引导程序中，等待写入其余部分。请接入设备，然后进行连接。</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>连接</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>稍后</translation>
     </message>
 </context>
 <context>
@@ -748,6 +839,22 @@
         <source>Connect a wireless gateway; its nodes appear here.</source>
         <translation>请连接无线网关，其节点会显示在这里。</translation>
     </message>
+    <message>
+        <source>Let each chart have its own time axis and cursors</source>
+        <translation>各图表使用独立的时间轴和光标</translation>
+    </message>
+    <message>
+        <source>Couple time axes and cursors of all charts</source>
+        <translation>联动所有图表的时间轴和光标</translation>
+    </message>
+    <message>
+        <source>Save charts</source>
+        <translation>保存图表</translation>
+    </message>
+    <message>
+        <source>List of markers; M sets one</source>
+        <translation>标记列表；按 M 键添加标记</translation>
+    </message>
 </context>
 <context>
     <name>GatewayDashboardBridge</name>
@@ -935,6 +1042,82 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>MarkerList</name>
+    <message>
+        <source>Marker %1</source>
+        <translation>标记 %1</translation>
+    </message>
+</context>
+<context>
+    <name>MarkerPanel</name>
+    <message>
+        <source>Markers</source>
+        <translation>标记</translation>
+    </message>
+    <message>
+        <source>No markers</source>
+        <translation>没有标记</translation>
+    </message>
+    <message>
+        <source>M sets one at the pointer, or at the newest sample.</source>
+        <translation>按 M 键可在指针处或最新采样处添加标记。</translation>
+    </message>
+    <message>
+        <source>Show this place</source>
+        <translation>显示此位置</translation>
+    </message>
+    <message>
+        <source>Text of the marker</source>
+        <translation>标记文字</translation>
+    </message>
+    <message>
+        <source>Remove this marker</source>
+        <translation>移除此标记</translation>
+    </message>
+</context>
+<context>
+    <name>MeasurePanel</name>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Copy the table for a spreadsheet</source>
+        <translation>复制表格，可粘贴到电子表格</translation>
+    </message>
+</context>
+<context>
+    <name>MeasureTable</name>
+    <message>
+        <source>Minimum</source>
+        <translation>最小值</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>最大值</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>平均值</translation>
+    </message>
+    <message>
+        <source>Std. dev.</source>
+        <translation>标准差</translation>
+    </message>
+    <message>
+        <source>RMS</source>
+        <translation>均方根</translation>
+    </message>
+    <message>
+        <source>Peak-peak</source>
+        <translation>峰峰值</translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation>点数</translation>
+    </message>
+</context>
+<context>
     <name>MeshFile</name>
     <message>
         <source>The mesh file cannot be read: %1</source>
@@ -1030,6 +1213,45 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>RecordingActions</name>
+    <message>
+        <source>Marker %1 at %2 s</source>
+        <translation>标记 %1，位于 %2 s</translation>
+    </message>
+    <message>
+        <source>Marker %1</source>
+        <translation>标记 %1</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>记录</translation>
+    </message>
+    <message>
+        <source>Recording stopped: %1 records</source>
+        <translation>记录已停止：共 %1 条</translation>
+    </message>
+    <message>
+        <source>Markers go into recordings: start one first</source>
+        <translation>标记会写入记录：请先开始记录</translation>
+    </message>
+    <message>
+        <source>&amp;Stop recording</source>
+        <translation>停止记录(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Start recording</source>
+        <translation>开始记录(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Writes what has arrived and closes the file</source>
+        <translation>写入已收到的数据并关闭文件</translation>
+    </message>
+    <message>
+        <source>Records with the last folder and name</source>
+        <translation>使用上次的文件夹和名称进行记录</translation>
+    </message>
+</context>
+<context>
     <name>RecordingBadge</name>
     <message>
         <source>Recording: trouble</source>
@@ -1038,6 +1260,57 @@ Pa</translation>
     <message>
         <source>Recording %1</source>
         <translation>正在记录 %1</translation>
+    </message>
+    <message>
+        <source>Recording: waiting</source>
+        <translation>记录等待中</translation>
+    </message>
+</context>
+<context>
+    <name>SavePanel</name>
+    <message>
+        <source>Samples</source>
+        <translation>采样</translation>
+    </message>
+    <message>
+        <source>Visible</source>
+        <translation>可见区间</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Save tables…</source>
+        <translation>保存表格…</translation>
+    </message>
+    <message>
+        <source>A CSV file of each chart</source>
+        <translation>每个图表保存为一个 CSV 文件</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>图片</translation>
+    </message>
+    <message>
+        <source>%1x</source>
+        <translation>%1 倍</translation>
+    </message>
+    <message>
+        <source>PNG at %1 times the size</source>
+        <translation>PNG，尺寸放大到 %1 倍</translation>
+    </message>
+    <message>
+        <source>Save pictures…</source>
+        <translation>保存图片…</translation>
+    </message>
+    <message>
+        <source>A picture of each chart</source>
+        <translation>每个图表保存为一张图片</translation>
+    </message>
+    <message>
+        <source>The buttons of each chart save that one alone in the same way.</source>
+        <translation>各图表自带的按钮以相同方式仅保存该图表。</translation>
     </message>
 </context>
 <context>
@@ -1100,6 +1373,22 @@ Pa</translation>
     <message>
         <source>Choose above what to show.</source>
         <translation>请在上方选择要显示的内容。</translation>
+    </message>
+    <message>
+        <source>Let each chart have its own time axis and cursors</source>
+        <translation>各图表使用独立的时间轴和光标</translation>
+    </message>
+    <message>
+        <source>Couple time axes and cursors of all charts</source>
+        <translation>联动所有图表的时间轴和光标</translation>
+    </message>
+    <message>
+        <source>Save charts</source>
+        <translation>保存图表</translation>
+    </message>
+    <message>
+        <source>List of markers; M sets one</source>
+        <translation>标记列表；按 M 键添加标记</translation>
     </message>
 </context>
 <context>
@@ -1250,13 +1539,17 @@ Pa</translation>
         <source>Block %1 %</source>
         <translation>数据块 %1 %</translation>
     </message>
+    <message>
+        <source>Limits of the axes</source>
+        <translation>坐标轴范围</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>统计</translation>
+    </message>
 </context>
 <context>
     <name>SpectrumViewState</name>
-    <message>
-        <source>Resultant</source>
-        <translation>合成</translation>
-    </message>
     <message>
         <source>%1 Hz</source>
         <translation>%1 Hz</translation>
@@ -1317,6 +1610,120 @@ Pa</translation>
     <message>
         <source>No attitude</source>
         <translation>无姿态数据</translation>
+    </message>
+</context>
+<context>
+    <name>TriggerRow</name>
+    <message>
+        <source>Trigger</source>
+        <translation>触发</translation>
+    </message>
+    <message>
+        <source>Watch %1</source>
+        <translation>监视 %1</translation>
+    </message>
+    <message>
+        <source>Rising through the level</source>
+        <translation>上升穿过电平</translation>
+    </message>
+    <message>
+        <source>Falling through the level</source>
+        <translation>下降穿过电平</translation>
+    </message>
+    <message>
+        <source>Crossing the level either way</source>
+        <translation>任一方向穿过电平</translation>
+    </message>
+    <message>
+        <source>Band</source>
+        <translation>区间</translation>
+    </message>
+    <message>
+        <source>Leaving the band between two levels</source>
+        <translation>超出两个电平之间的区间</translation>
+    </message>
+    <message>
+        <source>Level of the trigger; its line is dragged</source>
+        <translation>触发电平；可拖动其水平线调整</translation>
+    </message>
+    <message>
+        <source>Other end of the band</source>
+        <translation>区间的另一端</translation>
+    </message>
+    <message>
+        <source>Share of the picture before the event</source>
+        <translation>事件之前的部分占画面的比例</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>Run live while nothing happens</source>
+        <translation>无事件时显示实时数据</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>普通</translation>
+    </message>
+    <message>
+        <source>Hold each event until the next</source>
+        <translation>保持每个事件的画面，直到下一个事件</translation>
+    </message>
+    <message>
+        <source>Single</source>
+        <translation>单次</translation>
+    </message>
+    <message>
+        <source>Hold the first event</source>
+        <translation>保持首个事件的画面</translation>
+    </message>
+    <message>
+        <source>Set a marker</source>
+        <translation>添加标记</translation>
+    </message>
+    <message>
+        <source>Mark each event that was caught</source>
+        <translation>标记捕获到的每个事件</translation>
+    </message>
+    <message>
+        <source>Release</source>
+        <translation>解除保持</translation>
+    </message>
+    <message>
+        <source>Back to the live samples; wait for the next event</source>
+        <translation>回到实时数据，等待下一个事件</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNoteCard</name>
+    <message>
+        <source>The device runs its bootloader and sends no data: restart it, or choose a firmware.</source>
+        <translation>设备处于引导程序中，不发送数据：请重启设备，或选择固件。</translation>
+    </message>
+    <message>
+        <source>The device waits in its bootloader.</source>
+        <translation>设备正在引导程序中等待。</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>继续</translation>
+    </message>
+    <message>
+        <source>Chooses the same file, connects, and downloads it</source>
+        <translation>选择同一文件，连接设备并烧录</translation>
+    </message>
+    <message>
+        <source>Choose firmware</source>
+        <translation>选择固件</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>不再提醒</translation>
+    </message>
+    <message>
+        <source>Ends the reminder of this update</source>
+        <translation>不再显示此次升级的提醒</translation>
     </message>
 </context>
 <context>
@@ -1472,6 +1879,30 @@ Pa</translation>
         <source>Show this chart alone</source>
         <translation>仅显示此图表</translation>
     </message>
+    <message>
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>Trigger</source>
+        <translation>触发</translation>
+    </message>
+    <message>
+        <source>Span and limits of the axes</source>
+        <translation>时间跨度和坐标轴范围</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>统计</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Show %1 seconds</source>
+        <translation>显示 %1 秒</translation>
+    </message>
 </context>
 <context>
     <name>WaveChartBridge</name>
@@ -1509,6 +1940,36 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>WaveTrigger</name>
+    <message>
+        <source>Off</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>等待触发</translation>
+    </message>
+    <message>
+        <source>Catching</source>
+        <translation>正在捕获</translation>
+    </message>
+    <message>
+        <source>Held</source>
+        <translation>已保持</translation>
+    </message>
+</context>
+<context>
+    <name>WaveViewState</name>
+    <message>
+        <source>Trigger</source>
+        <translation>触发</translation>
+    </message>
+    <message>
+        <source>t %1</source>
+        <translation>t %1</translation>
+    </message>
+</context>
+<context>
     <name>chart_text</name>
     <message>
         <source>%1 Hz · last %2 s of %3 s</source>
@@ -1529,6 +1990,18 @@ Pa</translation>
     <message>
         <source>Gap</source>
         <translation>中断</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>已暂停</translation>
+    </message>
+    <message>
+        <source>%1 missing</source>
+        <translation>丢失 %1 个</translation>
+    </message>
+    <message>
+        <source>The store ends here: %1 s</source>
+        <translation>数据仅保留到此处：%1 s</translation>
     </message>
 </context>
 <context>
@@ -1699,6 +2172,30 @@ Pa</translation>
     <message>
         <source>Ctrl+L</source>
         <translation>Ctrl+L</translation>
+    </message>
+    <message>
+        <source>Numbers and traces</source>
+        <translation>数值与曲线</translation>
+    </message>
+    <message>
+        <source>&amp;Start recording</source>
+        <translation>开始记录(&amp;S)</translation>
+    </message>
+    <message>
+        <source>F9</source>
+        <translation>F9</translation>
+    </message>
+    <message>
+        <source>Set &amp;marker</source>
+        <translation>添加标记(&amp;M)</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>Marks this moment in a file beside the recording</source>
+        <translation>在记录的附属文件中标记此刻</translation>
     </message>
 </context>
 <context>
@@ -2320,6 +2817,58 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <source>Starting…</source>
         <translation>正在开始…</translation>
     </message>
+    <message>
+        <source>Stop &amp;after</source>
+        <translation>按时长停止(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Longest time in minutes</source>
+        <translation>最长时间（分钟）</translation>
+    </message>
+    <message>
+        <source> min</source>
+        <translation> min</translation>
+    </message>
+    <message>
+        <source>Stop a&amp;t</source>
+        <translation>按总大小停止(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Largest size of all files in MiB</source>
+        <translation>所有文件的总大小上限 (MiB)</translation>
+    </message>
+    <message>
+        <source>&amp;Go on after an unplugged cable</source>
+        <translation>断线重连后继续记录(&amp;G)</translation>
+    </message>
+    <message>
+        <source>When the connection was lost, recording goes on in a new file as soon as the port is open again</source>
+        <translation>连接断开后，一旦重新打开串口，即在新文件中继续记录</translation>
+    </message>
+    <message>
+        <source>Waiting for the connection to come back</source>
+        <translation>正在等待连接恢复</translation>
+    </message>
+    <message>
+        <source>Recording ended: the time is up</source>
+        <translation>记录已结束：已达到设定的时长</translation>
+    </message>
+    <message>
+        <source>Recording ended: the size is reached</source>
+        <translation>记录已结束：已达到设定的大小</translation>
+    </message>
+    <message>
+        <source>Open the port again to go on.</source>
+        <translation>重新打开串口后即可继续。</translation>
+    </message>
+    <message>
+        <source>A file holds 16 nodes. Not recorded: %1</source>
+        <translation>一个文件最多容纳 16 个节点。未记录：%1</translation>
+    </message>
+    <message>
+        <source>A file beside the recording cannot be written: %1</source>
+        <translation>无法写入记录的附属文件：%1</translation>
+    </message>
 </context>
 <context>
     <name>form_settings</name>
@@ -2503,6 +3052,26 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <source>The device refused at least one of %1.</source>
         <translation>设备至少拒绝了以下命令之一：%1。</translation>
     </message>
+    <message>
+        <source>Save all the same</source>
+        <translation>仍然保存</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>The device does not answer, although its data arrive. Identify it again.</source>
+        <translation>能收到设备的数据，但设备没有应答。请重新识别。</translation>
+    </message>
+    <message>
+        <source>The answer was damaged on the line. Identify the device again.</source>
+        <translation>应答在线路上损坏。请重新识别设备。</translation>
+    </message>
+    <message>
+        <source>%1 Hz takes %2 % of what this line carries at %3 baud: samples get lost.</source>
+        <translation>波特率为 %3 时，%1 Hz 需要占用线路传输能力的 %2 %：采样会丢失。</translation>
+    </message>
 </context>
 <context>
     <name>form_threed</name>
@@ -2668,10 +3237,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>Log</source>
         <translation>日志</translation>
-    </message>
-    <message>
-        <source>&amp;Copy log</source>
-        <translation>复制日志(&amp;C)</translation>
     </message>
     <message>
         <source>Copies what is shown above together with the log, for a report</source>
@@ -2918,18 +3483,6 @@ Ready to download firmware.
         <translation>等待连接引导程序</translation>
     </message>
     <message>
-        <source>Complete</source>
-        <translation>完成</translation>
-    </message>
-    <message>
-        <source>Failed</source>
-        <translation>失败</translation>
-    </message>
-    <message>
-        <source>The file has changed since it was loaded. Choose it again to load it anew.</source>
-        <translation>文件在加载后已发生更改。请重新选择以再次加载。</translation>
-    </message>
-    <message>
         <source>There is no file at this place: choose an image.</source>
         <translation>此位置没有文件：请选择映像文件。</translation>
     </message>
@@ -3006,40 +3559,12 @@ Ready to download firmware.
         <translation>引导程序仍保留在设备中：请点击“连接”，再点击“烧录”。</translation>
     </message>
     <message>
-        <source>Connecting to the bootloader…</source>
-        <translation>正在连接引导程序…</translation>
-    </message>
-    <message>
-        <source>Erasing the flash…</source>
-        <translation>正在擦除闪存…</translation>
-    </message>
-    <message>
-        <source>Preparing to write…</source>
-        <translation>正在准备写入…</translation>
-    </message>
-    <message>
-        <source>Writing the image…</source>
-        <translation>正在写入映像…</translation>
-    </message>
-    <message>
-        <source>Restarting the device…</source>
-        <translation>正在重启设备…</translation>
-    </message>
-    <message>
         <source>The bootloader takes no data: it reports packets of %1 bytes.</source>
         <translation>引导程序无法接收数据：其报告的数据包大小为 %1 字节。</translation>
     </message>
     <message>
         <source>It had reported status %1 before.</source>
         <translation>此前它曾报告状态 %1。</translation>
-    </message>
-    <message>
-        <source>%1 bytes were written in %2 s, %3 of %4 packets were sent again.</source>
-        <translation>已写入 %1 字节，用时 %2 秒；重发数据包 %3 / %4 个。</translation>
-    </message>
-    <message>
-        <source>The device restarts with the new firmware.</source>
-        <translation>设备将以新固件重启。</translation>
     </message>
     <message>
         <source>%1 of %2 bytes</source>
@@ -3056,38 +3581,6 @@ Ready to download firmware.
     <message>
         <source>%1 bytes from %2, stack pointer %3, reset vector %4</source>
         <translation>%1 字节，起始地址 %2，栈指针 %3，复位向量 %4</translation>
-    </message>
-    <message>
-        <source>The file begins at %1, but it will be written to %2, where the first file of this run began. Restart the program to write it to its own address.</source>
-        <translation>此文件的起始地址为 %1，但将写入 %2，即本次运行中首个文件的起始地址。如需写入其自身地址，请重启本程序。</translation>
-    </message>
-    <message>
-        <source>The image does not fit the %1 KB of flash from this address on.</source>
-        <translation>从该地址起，映像超出了 %1 KB 的闪存空间。</translation>
-    </message>
-    <message>
-        <source>The stack pointer is no word address in RAM.</source>
-        <translation>栈指针不是 RAM 中按字对齐的地址。</translation>
-    </message>
-    <message>
-        <source>The reset vector is no Thumb address inside the image.</source>
-        <translation>复位向量不是映像内的 Thumb 地址。</translation>
-    </message>
-    <message>
-        <source>The image is very small for a firmware.</source>
-        <translation>对固件而言，此映像过小。</translation>
-    </message>
-    <message>
-        <source>But the bootloader reported status %1.</source>
-        <translation>但引导程序报告了状态 %1。</translation>
-    </message>
-    <message>
-        <source>But the bootloader did not confirm the whole image.</source>
-        <translation>但引导程序未确认完整的映像。</translation>
-    </message>
-    <message>
-        <source>If the firmware does not start, press Connect and download again.</source>
-        <translation>如果固件无法启动，请点击“连接”并重新烧录。</translation>
     </message>
     <message>
         <source>Restart device</source>
@@ -3150,8 +3643,80 @@ Ready to download firmware.
         <translation>烧录已停止。</translation>
     </message>
     <message>
-        <source>Reading the flash back…</source>
-        <translation>正在回读闪存…</translation>
+        <source>Download it all the same</source>
+        <translation>仍然烧录</translation>
+    </message>
+    <message>
+        <source>&amp;Save report…</source>
+        <translation>保存报告(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>Copy &amp;log</source>
+        <translation>复制日志(&amp;L)</translation>
+    </message>
+    <message>
+        <source>The report was saved to %1.</source>
+        <translation>报告已保存到 %1。</translation>
+    </message>
+    <message>
+        <source>The report could not be saved to %1: %2</source>
+        <translation>无法将报告保存到 %1：%2</translation>
+    </message>
+    <message>
+        <source>The serial port is being opened: press Connect again in a moment.</source>
+        <translation>正在打开串口：请稍后再次点击“连接”。</translation>
+    </message>
+    <message>
+        <source>Nothing was erased and nothing was written: see the reasons above.</source>
+        <translation>未擦除也未写入任何数据：原因见上方。</translation>
+    </message>
+    <message>
+        <source>The file %1 is gone: choose another one.</source>
+        <translation>文件 %1 已不存在：请选择其他文件。</translation>
+    </message>
+    <message>
+        <source>The file is not the one that was being written: it has changed since. Press Download to write it as it is now.</source>
+        <translation>该文件与当时写入的文件不同：此后已被更改。点击“烧录”将写入其当前内容。</translation>
+    </message>
+    <message>
+        <source>Saves what was done and what has come of it as text</source>
+        <translation>将升级过程和结果保存为文本</translation>
+    </message>
+    <message>
+        <source>There was no update yet.</source>
+        <translation>尚未进行升级。</translation>
+    </message>
+    <message>
+        <source>Something speaks against this image: tick &quot;%1&quot; to write it.</source>
+        <translation>此映像存在疑点：勾选“%1”后才能写入。</translation>
+    </message>
+    <message>
+        <source>The file has changed since it was loaded. Choose it again to load the new one.</source>
+        <translation>文件在加载后已被更改。请重新选择，以加载新文件。</translation>
+    </message>
+    <message>
+        <source>Restart the program</source>
+        <translation>重启程序</translation>
+    </message>
+    <message>
+        <source>Use packets of %1 bytes</source>
+        <translation>使用 %1 字节的数据包</translation>
+    </message>
+    <message>
+        <source>Erase all the same</source>
+        <translation>仍然擦除</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>保存报告</translation>
+    </message>
+    <message>
+        <source>Text Files(*.txt)</source>
+        <translation>文本文件 (*.txt)</translation>
+    </message>
+    <message>
+        <source>The bootloader is connected: press Download, or Restart device.</source>
+        <translation>引导程序已连接：请点击“烧录”或“重启设备”。</translation>
     </message>
 </context>
 <context>
@@ -3361,6 +3926,253 @@ No frame stream detected.</source>
     <message>
         <source>TOTAL OF NODE</source>
         <translation>节点总数</translation>
+    </message>
+</context>
+<context>
+    <name>verdict_text</name>
+    <message>
+        <source>A packet of %1 bytes cannot be acknowledged within 0.2 s at %2 baud.</source>
+        <translation>波特率为 %2 时，%1 字节的数据包无法在 0.2 秒内得到确认。</translation>
+    </message>
+    <message>
+        <source>Packets of %1 bytes can.</source>
+        <translation>%1 字节的数据包则可以。</translation>
+    </message>
+    <message>
+        <source>%1 baud or more is fast enough, too.</source>
+        <translation>改用 %1 或更高的波特率也足够快。</translation>
+    </message>
+    <message>
+        <source>The image is empty.</source>
+        <translation>映像为空。</translation>
+    </message>
+    <message>
+        <source>The file begins at %1, but it would be written to %2, where the first file of this run began. Restart the program to write it to its own address.</source>
+        <translation>文件的起始地址为 %1，但会被写入 %2，即本次运行中首个文件的起始地址。要将其写入自身的地址，请重启程序。</translation>
+    </message>
+    <message>
+        <source>The bootloader takes no data: it reports packets of %1 bytes.</source>
+        <translation>引导程序无法接收数据：其报告的数据包大小为 %1 字节。</translation>
+    </message>
+    <message>
+        <source>The image does not fit the %1 KB of flash from this address on.</source>
+        <translation>从该地址起，映像超出了 %1 KB 的闪存空间。</translation>
+    </message>
+    <message>
+        <source>This chip has not ended an erase of this size within 1.5 s before, and the protocol waits no longer: it would be erased and not written.</source>
+        <translation>此芯片此前未能在 1.5 秒内完成这一大小的擦除，而协议最多等待 1.5 秒：芯片会被擦除，却无法写入。</translation>
+    </message>
+    <message>
+        <source>The file has no end record: a part of it may be missing.</source>
+        <translation>文件没有结束记录：可能缺少一部分内容。</translation>
+    </message>
+    <message>
+        <source>The file has data after a blank line, where the image ends: they would not be written.</source>
+        <translation>文件在空行之后还有数据，而映像到空行为止：这些数据不会被写入。</translation>
+    </message>
+    <message>
+        <source>The file has data after a start address or an unknown record, where the image ends: they would not be written.</source>
+        <translation>文件在起始地址记录或未知记录之后还有数据，而映像到该记录为止：这些数据不会被写入。</translation>
+    </message>
+    <message>
+        <source>The file has data after its end record: they would not be written.</source>
+        <translation>文件在结束记录之后还有数据：这些数据不会被写入。</translation>
+    </message>
+    <message>
+        <source>The image does not begin at a sector of %1 bytes: what stands before it in its sector is erased, too.</source>
+        <translation>映像不是从扇区（%1 字节）的起点开始：同一扇区中位于映像之前的内容也会被擦除。</translation>
+    </message>
+    <message>
+        <source>The update before was for %1, this one is for %2.</source>
+        <translation>上次升级的地址为 %1，本次为 %2。</translation>
+    </message>
+    <message>
+        <source>The image&apos;s build of %1 is older than the device&apos;s: %2.</source>
+        <translation>映像的构建日期为 %1，早于设备的构建：%2。</translation>
+    </message>
+    <message>
+        <source>The stack pointer is no word address in RAM.</source>
+        <translation>栈指针不是 RAM 中按字对齐的地址。</translation>
+    </message>
+    <message>
+        <source>The reset vector is no Thumb address inside the image.</source>
+        <translation>复位向量不是映像内的 Thumb 地址。</translation>
+    </message>
+    <message>
+        <source>The image is very small for a firmware.</source>
+        <translation>对固件而言，此映像过小。</translation>
+    </message>
+    <message>
+        <source>Not verified: this bootloader cannot read the flash back.</source>
+        <translation>未验证：此引导程序无法回读闪存。</translation>
+    </message>
+    <message>
+        <source>Not verified: the chip is locked against reading.</source>
+        <translation>未验证：芯片已启用读保护。</translation>
+    </message>
+    <message>
+        <source>Not verified: the bootloader refused to read the flash back (status %1).</source>
+        <translation>未验证：引导程序拒绝回读闪存（状态 %1）。</translation>
+    </message>
+    <message>
+        <source>Not verified: reading the flash back did not come to its end.</source>
+        <translation>未验证：闪存回读未能完成。</translation>
+    </message>
+    <message>
+        <source>%1 packets were sent again after silence and may have been written twice: the firmware may be wrong even if it starts.</source>
+        <translation>%1 个数据包因无应答而重发，可能被写入两次：固件即使能启动，也可能有误。</translation>
+    </message>
+    <message>
+        <source>But the bootloader reported status %1.</source>
+        <translation>但引导程序报告了状态 %1。</translation>
+    </message>
+    <message>
+        <source>But the bootloader did not confirm the whole image.</source>
+        <translation>但引导程序未确认完整的映像。</translation>
+    </message>
+    <message>
+        <source>The flash was read back: it is the image.</source>
+        <translation>已回读闪存：内容与映像一致。</translation>
+    </message>
+    <message>
+        <source>%1 bytes were written in %2 s, %3 of %4 packets were sent again.</source>
+        <translation>已写入 %1 字节，用时 %2 秒；重发数据包 %3 / %4 个。</translation>
+    </message>
+    <message>
+        <source>Reading the flash back found wrong bytes: %1, the first at %2.</source>
+        <translation>回读闪存时发现错误字节：共 %1 个，首个位于 %2。</translation>
+    </message>
+    <message>
+        <source>The device was not restarted: this firmware must not run.</source>
+        <translation>设备未重启：此固件不可运行。</translation>
+    </message>
+    <message>
+        <source>The bootloader stays in the device: press Connect, then Download.</source>
+        <translation>引导程序仍保留在设备中：请点击“连接”，再点击“烧录”。</translation>
+    </message>
+    <message>
+        <source>Reading the flash back was stopped.</source>
+        <translation>闪存回读已停止。</translation>
+    </message>
+    <message>
+        <source>The connection to the device was lost.</source>
+        <translation>与设备的连接已断开。</translation>
+    </message>
+    <message>
+        <source>The image was written, but nothing proves that it is right.</source>
+        <translation>映像已写入，但无法证明其正确。</translation>
+    </message>
+    <message>
+        <source>Check the cable, open the port again and press Connect.</source>
+        <translation>请检查连接线，重新打开串口，然后点击“连接”。</translation>
+    </message>
+    <message>
+        <source>Connecting to the bootloader…</source>
+        <translation>正在连接引导程序…</translation>
+    </message>
+    <message>
+        <source>Checking the image…</source>
+        <translation>正在检查映像…</translation>
+    </message>
+    <message>
+        <source>Erasing the flash…</source>
+        <translation>正在擦除闪存…</translation>
+    </message>
+    <message>
+        <source>Writing the image…</source>
+        <translation>正在写入映像…</translation>
+    </message>
+    <message>
+        <source>Reading the flash back…</source>
+        <translation>正在回读闪存…</translation>
+    </message>
+    <message>
+        <source>Restarting the device…</source>
+        <translation>正在重启设备…</translation>
+    </message>
+    <message>
+        <source>Waiting for the device…</source>
+        <translation>正在等待设备…</translation>
+    </message>
+    <message>
+        <source>Verified</source>
+        <translation>已验证</translation>
+    </message>
+    <message>
+        <source>Not verified</source>
+        <translation>未验证</translation>
+    </message>
+    <message>
+        <source>Doubtful</source>
+        <translation>存疑</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>Same build</source>
+        <translation>版本未变</translation>
+    </message>
+    <message>
+        <source>Did not come back</source>
+        <translation>设备未恢复</translation>
+    </message>
+    <message>
+        <source>The folder takes no files: after a crash nothing would have reminded you.</source>
+        <translation>文件夹不可写：假如程序崩溃，之后不会有任何提醒。</translation>
+    </message>
+    <message>
+        <source>The device is back with its new firmware.</source>
+        <translation>设备已恢复，正在运行新固件。</translation>
+    </message>
+    <message>
+        <source>The device is back. If it does not work as it should, press Connect and download again.</source>
+        <translation>设备已恢复。如果工作不正常，请点击“连接”并重新烧录。</translation>
+    </message>
+    <message>
+        <source>Press Connect and download again, at a higher baud rate if there is one.</source>
+        <translation>请点击“连接”并重新烧录；如有更高的波特率可用，请改用。</translation>
+    </message>
+    <message>
+        <source>But the device is back with the build that it had before.</source>
+        <translation>但设备恢复后，版本仍与之前相同。</translation>
+    </message>
+    <message>
+        <source>Check that this is the file that you meant.</source>
+        <translation>请确认所选文件是否正确。</translation>
+    </message>
+    <message>
+        <source>Check that this is the file that you meant, then press Connect and download again.</source>
+        <translation>请确认所选文件是否正确，然后点击“连接”并重新烧录。</translation>
+    </message>
+    <message>
+        <source>But the device has not introduced itself since its restart.</source>
+        <translation>但设备重启后尚未报告自身信息。</translation>
+    </message>
+    <message>
+        <source>Unplug it and plug it in again, and open its port: the new firmware may use another baud rate. If its bootloader answers there, this window opens by itself.</source>
+        <translation>请拔下设备后重新插入，并打开其串口：新固件可能使用其他波特率。如果引导程序在该串口应答，此窗口会自动打开。</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>Before: %1 · Now: %2</source>
+        <translation>之前：%1 · 现在：%2</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>The update of %1 with %2, begun %3, was written to the end, but it is not proved that it is right.</source>
+        <translation>以 %2 对 %1 进行的升级（开始于 %3）已全部写入，但未能证明其正确。</translation>
+    </message>
+    <message>
+        <source>The update of %1 with %2, begun %3, was interrupted at %4 of %5 bytes.</source>
+        <translation>以 %2 对 %1 进行的升级（开始于 %3）在 %4 / %5 字节处中断。</translation>
     </message>
 </context>
 </TS>

@@ -59,6 +59,25 @@
     </message>
 </context>
 <context>
+    <name>AppearanceMenu</name>
+    <message>
+        <source>&amp;System</source>
+        <translation>システム(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>ライト(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>ダーク(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Appearance</source>
+        <translation>外観(&amp;A)</translation>
+    </message>
+</context>
+<context>
     <name>AttitudeCard</name>
     <message>
         <source>Attitude</source>
@@ -166,6 +185,13 @@
     </message>
 </context>
 <context>
+    <name>CeilingField</name>
+    <message>
+        <source>now %1</source>
+        <translation>現在 %1</translation>
+    </message>
+</context>
+<context>
     <name>ChartFilterRow</name>
     <message>
         <source>Low-pass filter</source>
@@ -188,18 +214,45 @@
     </message>
 </context>
 <context>
-    <name>ChartReadout</name>
+    <name>ChartMeasures</name>
     <message>
-        <source>t %1</source>
-        <translation>t %1</translation>
+        <source>Between A and B, %1 to %2</source>
+        <translation>A/B 間: %1～%2</translation>
+    </message>
+    <message>
+        <source>Over the view, %1 to %2</source>
+        <translation>表示範囲: %1～%2</translation>
+    </message>
+</context>
+<context>
+    <name>ChartRangeRow</name>
+    <message>
+        <source>Left end of the horizontal axis</source>
+        <translation>横軸の左端</translation>
+    </message>
+    <message>
+        <source>Right end of the horizontal axis</source>
+        <translation>横軸の右端</translation>
+    </message>
+    <message>
+        <source>Lower end of the value axis</source>
+        <translation>値軸の下限</translation>
+    </message>
+    <message>
+        <source>Upper end of the value axis</source>
+        <translation>値軸の上限</translation>
+    </message>
+    <message>
+        <source>Automatic values</source>
+        <translation>値軸を自動調整</translation>
+    </message>
+    <message>
+        <source>Fit the value axis to what is visible</source>
+        <translation>表示中の範囲に値軸を合わせる</translation>
     </message>
 </context>
 <context>
     <name>ChartSaver</name>
-    <message>
-        <source>Save the visible samples</source>
-        <translation>表示中のサンプルを保存</translation>
-    </message>
     <message>
         <source>Comma-separated values (*.csv)</source>
         <translation>CSV ファイル (*.csv)</translation>
@@ -224,6 +277,32 @@
         <source>%1 could not be written: %2</source>
         <translation>%1 に書き込めませんでした: %2</translation>
     </message>
+    <message>
+        <source>Save the samples</source>
+        <translation>サンプルを保存</translation>
+    </message>
+    <message>
+        <source>SVG picture (*.svg)</source>
+        <translation>SVG 画像 (*.svg)</translation>
+    </message>
+    <message>
+        <source>Save the samples of all charts</source>
+        <translation>すべてのグラフのサンプルを保存</translation>
+    </message>
+    <message>
+        <source>Save pictures of all charts</source>
+        <translation>すべてのグラフの画像を保存</translation>
+    </message>
+    <message>
+        <source>No chart has samples.</source>
+        <translation>サンプルのあるグラフがありません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Saved %n file(s) in %1</source>
+        <translation>
+            <numerusform>%n 個のファイルを %1 に保存しました</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>CommandSession</name>
@@ -247,12 +326,12 @@
         <translation>受信しているのはノイズです。ボーレートが違う可能性があります。</translation>
     </message>
     <message>
-        <source>&amp;Try the usual baud rates</source>
-        <translation>一般的なボーレートを試す(&amp;T)</translation>
-    </message>
-    <message>
         <source>Opens this port at one rate after the other until the device answers</source>
         <translation>デバイスが応答するまで、このポートをボーレートを変えながら開きます</translation>
+    </message>
+    <message>
+        <source>Try the &amp;usual baud rates</source>
+        <translation>一般的なボーレートを試す(&amp;U)</translation>
     </message>
 </context>
 <context>
@@ -306,6 +385,18 @@
     <message>
         <source>Open Serial Port Error.</source>
         <translation>シリアルポートを開けませんでした。</translation>
+    </message>
+    <message>
+        <source>The device may wait in its bootloader for the rest. Plug it in, then connect to it.</source>
+        <translation>デバイスはブートローダーで残りのデータを待っている可能性があります。デバイスをケーブルでつないでから、「接続」を押してください。</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>接続</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>後で</translation>
     </message>
 </context>
 <context>
@@ -748,6 +839,22 @@
         <source>Connect a wireless gateway; its nodes appear here.</source>
         <translation>無線ゲートウェイを接続すると、そのノードがここに表示されます。</translation>
     </message>
+    <message>
+        <source>Let each chart have its own time axis and cursors</source>
+        <translation>時間軸とカーソルをグラフごとに独立させる</translation>
+    </message>
+    <message>
+        <source>Couple time axes and cursors of all charts</source>
+        <translation>すべてのグラフの時間軸とカーソルを連動させる</translation>
+    </message>
+    <message>
+        <source>Save charts</source>
+        <translation>グラフを保存</translation>
+    </message>
+    <message>
+        <source>List of markers; M sets one</source>
+        <translation>マーカーの一覧（M キーでマーカーを設定）</translation>
+    </message>
 </context>
 <context>
     <name>GatewayDashboardBridge</name>
@@ -935,6 +1042,82 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>MarkerList</name>
+    <message>
+        <source>Marker %1</source>
+        <translation>マーカー %1</translation>
+    </message>
+</context>
+<context>
+    <name>MarkerPanel</name>
+    <message>
+        <source>Markers</source>
+        <translation>マーカー</translation>
+    </message>
+    <message>
+        <source>No markers</source>
+        <translation>マーカーなし</translation>
+    </message>
+    <message>
+        <source>M sets one at the pointer, or at the newest sample.</source>
+        <translation>M キーを押すと、マウスポインターの位置または最新のサンプルにマーカーを設定します。</translation>
+    </message>
+    <message>
+        <source>Show this place</source>
+        <translation>この位置を表示</translation>
+    </message>
+    <message>
+        <source>Text of the marker</source>
+        <translation>マーカーのテキスト</translation>
+    </message>
+    <message>
+        <source>Remove this marker</source>
+        <translation>このマーカーを削除</translation>
+    </message>
+</context>
+<context>
+    <name>MeasurePanel</name>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Copy the table for a spreadsheet</source>
+        <translation>表計算ソフト用に表をコピー</translation>
+    </message>
+</context>
+<context>
+    <name>MeasureTable</name>
+    <message>
+        <source>Minimum</source>
+        <translation>最小</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>最大</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>平均</translation>
+    </message>
+    <message>
+        <source>Std. dev.</source>
+        <translation>標準偏差</translation>
+    </message>
+    <message>
+        <source>RMS</source>
+        <translation>RMS</translation>
+    </message>
+    <message>
+        <source>Peak-peak</source>
+        <translation>P-P 値</translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation>点数</translation>
+    </message>
+</context>
+<context>
     <name>MeshFile</name>
     <message>
         <source>The mesh file cannot be read: %1</source>
@@ -1030,6 +1213,45 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>RecordingActions</name>
+    <message>
+        <source>Marker %1 at %2 s</source>
+        <translation>マーカー %1: %2 s</translation>
+    </message>
+    <message>
+        <source>Marker %1</source>
+        <translation>マーカー %1</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>記録</translation>
+    </message>
+    <message>
+        <source>Recording stopped: %1 records</source>
+        <translation>記録を停止しました: %1 件</translation>
+    </message>
+    <message>
+        <source>Markers go into recordings: start one first</source>
+        <translation>マーカーは記録に保存されます。先に記録を開始してください</translation>
+    </message>
+    <message>
+        <source>&amp;Stop recording</source>
+        <translation>記録を停止(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Start recording</source>
+        <translation>記録を開始(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Writes what has arrived and closes the file</source>
+        <translation>受信済みのデータを書き込み、ファイルを閉じます</translation>
+    </message>
+    <message>
+        <source>Records with the last folder and name</source>
+        <translation>前回のフォルダーと名前で記録します</translation>
+    </message>
+</context>
+<context>
     <name>RecordingBadge</name>
     <message>
         <source>Recording: trouble</source>
@@ -1038,6 +1260,57 @@ Pa</translation>
     <message>
         <source>Recording %1</source>
         <translation>記録中 %1</translation>
+    </message>
+    <message>
+        <source>Recording: waiting</source>
+        <translation>記録: 待機中</translation>
+    </message>
+</context>
+<context>
+    <name>SavePanel</name>
+    <message>
+        <source>Samples</source>
+        <translation>サンプル</translation>
+    </message>
+    <message>
+        <source>Visible</source>
+        <translation>表示範囲</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>すべて</translation>
+    </message>
+    <message>
+        <source>Save tables…</source>
+        <translation>表を保存…</translation>
+    </message>
+    <message>
+        <source>A CSV file of each chart</source>
+        <translation>グラフごとに CSV ファイルを保存</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>画像</translation>
+    </message>
+    <message>
+        <source>%1x</source>
+        <translation>%1 倍</translation>
+    </message>
+    <message>
+        <source>PNG at %1 times the size</source>
+        <translation>%1 倍サイズの PNG</translation>
+    </message>
+    <message>
+        <source>Save pictures…</source>
+        <translation>画像を保存…</translation>
+    </message>
+    <message>
+        <source>A picture of each chart</source>
+        <translation>グラフごとに画像を保存</translation>
+    </message>
+    <message>
+        <source>The buttons of each chart save that one alone in the same way.</source>
+        <translation>各グラフのボタンでは、そのグラフだけを同じ設定で保存します。</translation>
     </message>
 </context>
 <context>
@@ -1100,6 +1373,22 @@ Pa</translation>
     <message>
         <source>Choose above what to show.</source>
         <translation>表示するものを上で選択してください。</translation>
+    </message>
+    <message>
+        <source>Let each chart have its own time axis and cursors</source>
+        <translation>時間軸とカーソルをグラフごとに独立させる</translation>
+    </message>
+    <message>
+        <source>Couple time axes and cursors of all charts</source>
+        <translation>すべてのグラフの時間軸とカーソルを連動させる</translation>
+    </message>
+    <message>
+        <source>Save charts</source>
+        <translation>グラフを保存</translation>
+    </message>
+    <message>
+        <source>List of markers; M sets one</source>
+        <translation>マーカーの一覧（M キーでマーカーを設定）</translation>
     </message>
 </context>
 <context>
@@ -1250,13 +1539,17 @@ Pa</translation>
         <source>Block %1 %</source>
         <translation>ブロック %1 %</translation>
     </message>
+    <message>
+        <source>Limits of the axes</source>
+        <translation>軸の範囲</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>統計</translation>
+    </message>
 </context>
 <context>
     <name>SpectrumViewState</name>
-    <message>
-        <source>Resultant</source>
-        <translation>合成</translation>
-    </message>
     <message>
         <source>%1 Hz</source>
         <translation>%1 Hz</translation>
@@ -1317,6 +1610,120 @@ Pa</translation>
     <message>
         <source>No attitude</source>
         <translation>姿勢データなし</translation>
+    </message>
+</context>
+<context>
+    <name>TriggerRow</name>
+    <message>
+        <source>Trigger</source>
+        <translation>トリガー</translation>
+    </message>
+    <message>
+        <source>Watch %1</source>
+        <translation>%1 を監視</translation>
+    </message>
+    <message>
+        <source>Rising through the level</source>
+        <translation>上昇方向にレベルを通過</translation>
+    </message>
+    <message>
+        <source>Falling through the level</source>
+        <translation>下降方向にレベルを通過</translation>
+    </message>
+    <message>
+        <source>Crossing the level either way</source>
+        <translation>方向を問わずレベルを通過</translation>
+    </message>
+    <message>
+        <source>Band</source>
+        <translation>範囲</translation>
+    </message>
+    <message>
+        <source>Leaving the band between two levels</source>
+        <translation>2 つのレベルの範囲から外れる</translation>
+    </message>
+    <message>
+        <source>Level of the trigger; its line is dragged</source>
+        <translation>トリガーレベル（線のドラッグでも変更可能）</translation>
+    </message>
+    <message>
+        <source>Other end of the band</source>
+        <translation>範囲のもう一方の端</translation>
+    </message>
+    <message>
+        <source>Share of the picture before the event</source>
+        <translation>表示範囲のうちイベントより前の割合</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>オート</translation>
+    </message>
+    <message>
+        <source>Run live while nothing happens</source>
+        <translation>イベントがない間はリアルタイムで表示</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>ノーマル</translation>
+    </message>
+    <message>
+        <source>Hold each event until the next</source>
+        <translation>次のイベントまで各イベントをホールド</translation>
+    </message>
+    <message>
+        <source>Single</source>
+        <translation>シングル</translation>
+    </message>
+    <message>
+        <source>Hold the first event</source>
+        <translation>最初のイベントをホールド</translation>
+    </message>
+    <message>
+        <source>Set a marker</source>
+        <translation>マーカーを設定</translation>
+    </message>
+    <message>
+        <source>Mark each event that was caught</source>
+        <translation>捕捉した各イベントにマーカーを設定</translation>
+    </message>
+    <message>
+        <source>Release</source>
+        <translation>解除</translation>
+    </message>
+    <message>
+        <source>Back to the live samples; wait for the next event</source>
+        <translation>最新のサンプルに戻り、次のイベントを待つ</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNoteCard</name>
+    <message>
+        <source>The device runs its bootloader and sends no data: restart it, or choose a firmware.</source>
+        <translation>デバイスはブートローダーを実行中で、データを送りません。デバイスを再起動するか、ファームウェアを選択してください。</translation>
+    </message>
+    <message>
+        <source>The device waits in its bootloader.</source>
+        <translation>デバイスはブートローダーで待機しています。</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>続行</translation>
+    </message>
+    <message>
+        <source>Chooses the same file, connects, and downloads it</source>
+        <translation>同じファイルを選択し、接続して書き込みます</translation>
+    </message>
+    <message>
+        <source>Choose firmware</source>
+        <translation>ファームウェアを選択</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>通知を消去</translation>
+    </message>
+    <message>
+        <source>Ends the reminder of this update</source>
+        <translation>この更新についての通知を終了します</translation>
     </message>
 </context>
 <context>
@@ -1472,6 +1879,30 @@ Pa</translation>
         <source>Show this chart alone</source>
         <translation>このグラフだけを表示</translation>
     </message>
+    <message>
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>Trigger</source>
+        <translation>トリガー</translation>
+    </message>
+    <message>
+        <source>Span and limits of the axes</source>
+        <translation>時間幅と軸の範囲</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>統計</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Show %1 seconds</source>
+        <translation>%1 秒間を表示</translation>
+    </message>
 </context>
 <context>
     <name>WaveChartBridge</name>
@@ -1509,6 +1940,36 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>WaveTrigger</name>
+    <message>
+        <source>Off</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>待機中</translation>
+    </message>
+    <message>
+        <source>Catching</source>
+        <translation>捕捉中</translation>
+    </message>
+    <message>
+        <source>Held</source>
+        <translation>ホールド中</translation>
+    </message>
+</context>
+<context>
+    <name>WaveViewState</name>
+    <message>
+        <source>Trigger</source>
+        <translation>トリガー</translation>
+    </message>
+    <message>
+        <source>t %1</source>
+        <translation>t %1</translation>
+    </message>
+</context>
+<context>
     <name>chart_text</name>
     <message>
         <source>%1 Hz · last %2 s of %3 s</source>
@@ -1529,6 +1990,18 @@ Pa</translation>
     <message>
         <source>Gap</source>
         <translation>欠落</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>一時停止中</translation>
+    </message>
+    <message>
+        <source>%1 missing</source>
+        <translation>欠落 %1</translation>
+    </message>
+    <message>
+        <source>The store ends here: %1 s</source>
+        <translation>保持データの終端: %1 s</translation>
     </message>
 </context>
 <context>
@@ -1699,6 +2172,30 @@ Pa</translation>
     <message>
         <source>Ctrl+L</source>
         <translation>Ctrl+L</translation>
+    </message>
+    <message>
+        <source>Numbers and traces</source>
+        <translation>数値と波形</translation>
+    </message>
+    <message>
+        <source>&amp;Start recording</source>
+        <translation>記録を開始(&amp;S)</translation>
+    </message>
+    <message>
+        <source>F9</source>
+        <translation>F9</translation>
+    </message>
+    <message>
+        <source>Set &amp;marker</source>
+        <translation>マーカーを設定(&amp;M)</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>Marks this moment in a file beside the recording</source>
+        <translation>記録に付随するファイルに、この時点のマーカーを書き込みます</translation>
     </message>
 </context>
 <context>
@@ -2320,6 +2817,58 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <source>Starting…</source>
         <translation>開始しています…</translation>
     </message>
+    <message>
+        <source>Stop &amp;after</source>
+        <translation>時間で停止(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Longest time in minutes</source>
+        <translation>最長時間（分）</translation>
+    </message>
+    <message>
+        <source> min</source>
+        <translation> 分</translation>
+    </message>
+    <message>
+        <source>Stop a&amp;t</source>
+        <translation>サイズで停止(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Largest size of all files in MiB</source>
+        <translation>全ファイルの合計サイズの上限（MiB）</translation>
+    </message>
+    <message>
+        <source>&amp;Go on after an unplugged cable</source>
+        <translation>ケーブルが抜けた後も記録を続ける(&amp;G)</translation>
+    </message>
+    <message>
+        <source>When the connection was lost, recording goes on in a new file as soon as the port is open again</source>
+        <translation>接続が切れた場合、ポートがもう一度開くと、新しいファイルで記録を続けます</translation>
+    </message>
+    <message>
+        <source>Waiting for the connection to come back</source>
+        <translation>再接続を待っています</translation>
+    </message>
+    <message>
+        <source>Recording ended: the time is up</source>
+        <translation>設定時間に達したため、記録を終了しました</translation>
+    </message>
+    <message>
+        <source>Recording ended: the size is reached</source>
+        <translation>設定サイズに達したため、記録を終了しました</translation>
+    </message>
+    <message>
+        <source>Open the port again to go on.</source>
+        <translation>続けるには、ポートをもう一度開いてください。</translation>
+    </message>
+    <message>
+        <source>A file holds 16 nodes. Not recorded: %1</source>
+        <translation>1 つのファイルに記録できるのは 16 ノードまでです。記録されないノード: %1</translation>
+    </message>
+    <message>
+        <source>A file beside the recording cannot be written: %1</source>
+        <translation>記録に付随するファイルに書き込めません: %1</translation>
+    </message>
 </context>
 <context>
     <name>form_settings</name>
@@ -2503,6 +3052,26 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <source>The device refused at least one of %1.</source>
         <translation>デバイスが次のうち少なくとも 1 つを受け付けませんでした：%1</translation>
     </message>
+    <message>
+        <source>Save all the same</source>
+        <translation>それでも保存</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>The device does not answer, although its data arrive. Identify it again.</source>
+        <translation>データは届いていますが、デバイスが応答しません。もう一度識別してください。</translation>
+    </message>
+    <message>
+        <source>The answer was damaged on the line. Identify the device again.</source>
+        <translation>応答が回線上で壊れました。デバイスをもう一度識別してください。</translation>
+    </message>
+    <message>
+        <source>%1 Hz takes %2 % of what this line carries at %3 baud: samples get lost.</source>
+        <translation>%1 Hz では、%3 baud の回線で送れる量の %2 % に達するため、サンプルが失われます。</translation>
+    </message>
 </context>
 <context>
     <name>form_threed</name>
@@ -2668,10 +3237,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>Log</source>
         <translation>ログ</translation>
-    </message>
-    <message>
-        <source>&amp;Copy log</source>
-        <translation>ログをコピー(&amp;C)</translation>
     </message>
     <message>
         <source>Copies what is shown above together with the log, for a report</source>
@@ -2918,18 +3483,6 @@ Ready to download firmware.
         <translation>ブートローダー接続待ち</translation>
     </message>
     <message>
-        <source>Complete</source>
-        <translation>完了</translation>
-    </message>
-    <message>
-        <source>Failed</source>
-        <translation>失敗</translation>
-    </message>
-    <message>
-        <source>The file has changed since it was loaded. Choose it again to load it anew.</source>
-        <translation>読み込み後にファイルが変更されました。読み込み直すには、もう一度選択してください。</translation>
-    </message>
-    <message>
         <source>There is no file at this place: choose an image.</source>
         <translation>この場所にファイルがありません。イメージを選択してください。</translation>
     </message>
@@ -3006,40 +3559,12 @@ Ready to download firmware.
         <translation>ブートローダーはデバイスに残っています。「接続」、「書き込み」の順に押してください。</translation>
     </message>
     <message>
-        <source>Connecting to the bootloader…</source>
-        <translation>ブートローダーに接続中…</translation>
-    </message>
-    <message>
-        <source>Erasing the flash…</source>
-        <translation>フラッシュを消去中…</translation>
-    </message>
-    <message>
-        <source>Preparing to write…</source>
-        <translation>書き込みを準備中…</translation>
-    </message>
-    <message>
-        <source>Writing the image…</source>
-        <translation>イメージを書き込み中…</translation>
-    </message>
-    <message>
-        <source>Restarting the device…</source>
-        <translation>デバイスを再起動中…</translation>
-    </message>
-    <message>
         <source>The bootloader takes no data: it reports packets of %1 bytes.</source>
         <translation>ブートローダーがデータを受け付けません（通知されたパケットサイズ: %1 バイト）。</translation>
     </message>
     <message>
         <source>It had reported status %1 before.</source>
         <translation>それ以前にステータス %1 を通知していました。</translation>
-    </message>
-    <message>
-        <source>%1 bytes were written in %2 s, %3 of %4 packets were sent again.</source>
-        <translation>%1 バイトを %2 秒で書き込みました（%4 パケット中 %3 パケットを再送）。</translation>
-    </message>
-    <message>
-        <source>The device restarts with the new firmware.</source>
-        <translation>デバイスは新しいファームウェアで再起動します。</translation>
     </message>
     <message>
         <source>%1 of %2 bytes</source>
@@ -3056,38 +3581,6 @@ Ready to download firmware.
     <message>
         <source>%1 bytes from %2, stack pointer %3, reset vector %4</source>
         <translation>%2 から %1 バイト、スタックポインター %3、リセットベクター %4</translation>
-    </message>
-    <message>
-        <source>The file begins at %1, but it will be written to %2, where the first file of this run began. Restart the program to write it to its own address.</source>
-        <translation>このファイルの先頭は %1 ですが、起動後に最初に読み込んだファイルの先頭 %2 に書き込まれます。本来のアドレスに書き込むには、プログラムを再起動してください。</translation>
-    </message>
-    <message>
-        <source>The image does not fit the %1 KB of flash from this address on.</source>
-        <translation>このアドレスからでは、イメージが %1 KB のフラッシュに収まりません。</translation>
-    </message>
-    <message>
-        <source>The stack pointer is no word address in RAM.</source>
-        <translation>スタックポインターが RAM のワードアドレスではありません。</translation>
-    </message>
-    <message>
-        <source>The reset vector is no Thumb address inside the image.</source>
-        <translation>リセットベクターがイメージ内の Thumb アドレスではありません。</translation>
-    </message>
-    <message>
-        <source>The image is very small for a firmware.</source>
-        <translation>ファームウェアとしてはイメージが小さすぎます。</translation>
-    </message>
-    <message>
-        <source>But the bootloader reported status %1.</source>
-        <translation>ただし、ブートローダーがステータス %1 を通知しました。</translation>
-    </message>
-    <message>
-        <source>But the bootloader did not confirm the whole image.</source>
-        <translation>ただし、ブートローダーからイメージ全体の受信確認がありませんでした。</translation>
-    </message>
-    <message>
-        <source>If the firmware does not start, press Connect and download again.</source>
-        <translation>ファームウェアが起動しない場合は、「接続」を押してもう一度書き込んでください。</translation>
     </message>
     <message>
         <source>Restart device</source>
@@ -3150,8 +3643,80 @@ Ready to download firmware.
         <translation>書き込みを停止しました。</translation>
     </message>
     <message>
-        <source>Reading the flash back…</source>
-        <translation>フラッシュを読み戻しています…</translation>
+        <source>Download it all the same</source>
+        <translation>それでも書き込む</translation>
+    </message>
+    <message>
+        <source>&amp;Save report…</source>
+        <translation>レポートを保存(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>Copy &amp;log</source>
+        <translation>ログをコピー(&amp;L)</translation>
+    </message>
+    <message>
+        <source>The report was saved to %1.</source>
+        <translation>レポートを %1 に保存しました。</translation>
+    </message>
+    <message>
+        <source>The report could not be saved to %1: %2</source>
+        <translation>レポートを %1 に保存できませんでした: %2</translation>
+    </message>
+    <message>
+        <source>The serial port is being opened: press Connect again in a moment.</source>
+        <translation>シリアルポートを開いています。少し待ってから、もう一度「接続」を押してください。</translation>
+    </message>
+    <message>
+        <source>Nothing was erased and nothing was written: see the reasons above.</source>
+        <translation>消去も書き込みも行われていません。上に表示されている理由を確認してください。</translation>
+    </message>
+    <message>
+        <source>The file %1 is gone: choose another one.</source>
+        <translation>ファイル %1 が見つかりません。別のファイルを選択してください。</translation>
+    </message>
+    <message>
+        <source>The file is not the one that was being written: it has changed since. Press Download to write it as it is now.</source>
+        <translation>このファイルは、書き込んでいたときの内容から変更されています。現在の内容を書き込むには、「書き込み」を押してください。</translation>
+    </message>
+    <message>
+        <source>Saves what was done and what has come of it as text</source>
+        <translation>実行した内容とその結果をテキストとして保存します</translation>
+    </message>
+    <message>
+        <source>There was no update yet.</source>
+        <translation>更新はまだ行われていません。</translation>
+    </message>
+    <message>
+        <source>Something speaks against this image: tick &quot;%1&quot; to write it.</source>
+        <translation>このイメージには問題がある可能性があります。書き込むには「%1」にチェックを入れてください。</translation>
+    </message>
+    <message>
+        <source>The file has changed since it was loaded. Choose it again to load the new one.</source>
+        <translation>ファイルは読み込み後に変更されています。新しい内容を読み込むには、もう一度選択してください。</translation>
+    </message>
+    <message>
+        <source>Restart the program</source>
+        <translation>プログラムを再起動</translation>
+    </message>
+    <message>
+        <source>Use packets of %1 bytes</source>
+        <translation>%1 バイトのパケットを使用</translation>
+    </message>
+    <message>
+        <source>Erase all the same</source>
+        <translation>それでも消去</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>レポートを保存</translation>
+    </message>
+    <message>
+        <source>Text Files(*.txt)</source>
+        <translation>テキストファイル (*.txt)</translation>
+    </message>
+    <message>
+        <source>The bootloader is connected: press Download, or Restart device.</source>
+        <translation>ブートローダーに接続済みです。「書き込み」または「デバイスを再起動」を押してください。</translation>
     </message>
 </context>
 <context>
@@ -3361,6 +3926,253 @@ No frame stream detected.</source>
     <message>
         <source>TOTAL OF NODE</source>
         <translation>ノード総数</translation>
+    </message>
+</context>
+<context>
+    <name>verdict_text</name>
+    <message>
+        <source>A packet of %1 bytes cannot be acknowledged within 0.2 s at %2 baud.</source>
+        <translation>%2 baud では、%1 バイトのパケットの受信確認が 0.2 秒以内に間に合いません。</translation>
+    </message>
+    <message>
+        <source>Packets of %1 bytes can.</source>
+        <translation>%1 バイトのパケットなら間に合います。</translation>
+    </message>
+    <message>
+        <source>%1 baud or more is fast enough, too.</source>
+        <translation>%1 baud 以上でも間に合います。</translation>
+    </message>
+    <message>
+        <source>The image is empty.</source>
+        <translation>イメージが空です。</translation>
+    </message>
+    <message>
+        <source>The file begins at %1, but it would be written to %2, where the first file of this run began. Restart the program to write it to its own address.</source>
+        <translation>ファイルの開始アドレスは %1 ですが、プログラムの起動後に最初に使用したファイルの開始アドレス %2 に書き込まれることになります。本来のアドレスに書き込むには、プログラムを再起動してください。</translation>
+    </message>
+    <message>
+        <source>The bootloader takes no data: it reports packets of %1 bytes.</source>
+        <translation>ブートローダーがデータを受け付けません（通知されたパケットサイズ: %1 バイト）。</translation>
+    </message>
+    <message>
+        <source>The image does not fit the %1 KB of flash from this address on.</source>
+        <translation>このアドレスからでは、イメージが %1 KB のフラッシュに収まりません。</translation>
+    </message>
+    <message>
+        <source>This chip has not ended an erase of this size within 1.5 s before, and the protocol waits no longer: it would be erased and not written.</source>
+        <translation>このチップでは以前、このサイズの消去が 1.5 秒以内に終わりませんでした。プロトコルはそれ以上待たないため、消去されるだけで書き込まれません。</translation>
+    </message>
+    <message>
+        <source>The file has no end record: a part of it may be missing.</source>
+        <translation>ファイルに終了レコードがありません。一部が欠けている可能性があります。</translation>
+    </message>
+    <message>
+        <source>The file has data after a blank line, where the image ends: they would not be written.</source>
+        <translation>ファイルの空行より後にデータがあります。イメージは空行で終わるため、そのデータは書き込まれません。</translation>
+    </message>
+    <message>
+        <source>The file has data after a start address or an unknown record, where the image ends: they would not be written.</source>
+        <translation>ファイルの開始アドレスまたは不明なレコードより後にデータがあります。イメージはそこで終わるため、そのデータは書き込まれません。</translation>
+    </message>
+    <message>
+        <source>The file has data after its end record: they would not be written.</source>
+        <translation>ファイルの終了レコードより後にデータがあります。そのデータは書き込まれません。</translation>
+    </message>
+    <message>
+        <source>The image does not begin at a sector of %1 bytes: what stands before it in its sector is erased, too.</source>
+        <translation>イメージの先頭が %1 バイトのセクターの境界にありません。同じセクター内でイメージより前にある内容も消去されます。</translation>
+    </message>
+    <message>
+        <source>The update before was for %1, this one is for %2.</source>
+        <translation>前回の更新はアドレス %1、今回はアドレス %2 が対象です。</translation>
+    </message>
+    <message>
+        <source>The image&apos;s build of %1 is older than the device&apos;s: %2.</source>
+        <translation>イメージのビルド (%1) は、デバイスのビルド (%2) より古いものです。</translation>
+    </message>
+    <message>
+        <source>The stack pointer is no word address in RAM.</source>
+        <translation>スタックポインターが RAM のワードアドレスではありません。</translation>
+    </message>
+    <message>
+        <source>The reset vector is no Thumb address inside the image.</source>
+        <translation>リセットベクターがイメージ内の Thumb アドレスではありません。</translation>
+    </message>
+    <message>
+        <source>The image is very small for a firmware.</source>
+        <translation>ファームウェアとしてはイメージが小さすぎます。</translation>
+    </message>
+    <message>
+        <source>Not verified: this bootloader cannot read the flash back.</source>
+        <translation>未検証: このブートローダーはフラッシュを読み戻せません。</translation>
+    </message>
+    <message>
+        <source>Not verified: the chip is locked against reading.</source>
+        <translation>未検証: チップの読み出しがロックされています。</translation>
+    </message>
+    <message>
+        <source>Not verified: the bootloader refused to read the flash back (status %1).</source>
+        <translation>未検証: ブートローダーがフラッシュの読み戻しを拒否しました（ステータス %1）。</translation>
+    </message>
+    <message>
+        <source>Not verified: reading the flash back did not come to its end.</source>
+        <translation>未検証: フラッシュの読み戻しが最後まで完了しませんでした。</translation>
+    </message>
+    <message>
+        <source>%1 packets were sent again after silence and may have been written twice: the firmware may be wrong even if it starts.</source>
+        <translation>応答がなかったため %1 個のパケットを再送しました。二重に書き込まれた可能性があり、起動してもファームウェアが正しくない場合があります。</translation>
+    </message>
+    <message>
+        <source>But the bootloader reported status %1.</source>
+        <translation>ただし、ブートローダーがステータス %1 を通知しました。</translation>
+    </message>
+    <message>
+        <source>But the bootloader did not confirm the whole image.</source>
+        <translation>ただし、ブートローダーからイメージ全体の受信確認がありませんでした。</translation>
+    </message>
+    <message>
+        <source>The flash was read back: it is the image.</source>
+        <translation>フラッシュを読み戻し、イメージと一致することを確認しました。</translation>
+    </message>
+    <message>
+        <source>%1 bytes were written in %2 s, %3 of %4 packets were sent again.</source>
+        <translation>%1 バイトを %2 秒で書き込みました（%4 パケット中 %3 パケットを再送）。</translation>
+    </message>
+    <message>
+        <source>Reading the flash back found wrong bytes: %1, the first at %2.</source>
+        <translation>フラッシュの読み戻しで、誤ったバイトが %1 個見つかりました（最初の位置: %2）。</translation>
+    </message>
+    <message>
+        <source>The device was not restarted: this firmware must not run.</source>
+        <translation>このファームウェアは実行すべきでないため、デバイスを再起動していません。</translation>
+    </message>
+    <message>
+        <source>The bootloader stays in the device: press Connect, then Download.</source>
+        <translation>ブートローダーはデバイスに残っています。「接続」、「書き込み」の順に押してください。</translation>
+    </message>
+    <message>
+        <source>Reading the flash back was stopped.</source>
+        <translation>フラッシュの読み戻しを停止しました。</translation>
+    </message>
+    <message>
+        <source>The connection to the device was lost.</source>
+        <translation>デバイスとの接続が切れました。</translation>
+    </message>
+    <message>
+        <source>The image was written, but nothing proves that it is right.</source>
+        <translation>イメージは書き込まれましたが、正しいことは確認できていません。</translation>
+    </message>
+    <message>
+        <source>Check the cable, open the port again and press Connect.</source>
+        <translation>ケーブルを確認し、ポートを開き直してから「接続」を押してください。</translation>
+    </message>
+    <message>
+        <source>Connecting to the bootloader…</source>
+        <translation>ブートローダーに接続中…</translation>
+    </message>
+    <message>
+        <source>Checking the image…</source>
+        <translation>イメージを確認中…</translation>
+    </message>
+    <message>
+        <source>Erasing the flash…</source>
+        <translation>フラッシュを消去中…</translation>
+    </message>
+    <message>
+        <source>Writing the image…</source>
+        <translation>イメージを書き込み中…</translation>
+    </message>
+    <message>
+        <source>Reading the flash back…</source>
+        <translation>フラッシュを読み戻しています…</translation>
+    </message>
+    <message>
+        <source>Restarting the device…</source>
+        <translation>デバイスを再起動中…</translation>
+    </message>
+    <message>
+        <source>Waiting for the device…</source>
+        <translation>デバイスを待っています…</translation>
+    </message>
+    <message>
+        <source>Verified</source>
+        <translation>検証済み</translation>
+    </message>
+    <message>
+        <source>Not verified</source>
+        <translation>未検証</translation>
+    </message>
+    <message>
+        <source>Doubtful</source>
+        <translation>疑わしい</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>Same build</source>
+        <translation>同じビルド</translation>
+    </message>
+    <message>
+        <source>Did not come back</source>
+        <translation>復帰せず</translation>
+    </message>
+    <message>
+        <source>The folder takes no files: after a crash nothing would have reminded you.</source>
+        <translation>フォルダーにファイルを書き込めません。プログラムが異常終了しても、この更新についての通知は表示されないところでした。</translation>
+    </message>
+    <message>
+        <source>The device is back with its new firmware.</source>
+        <translation>デバイスは新しいファームウェアで復帰しました。</translation>
+    </message>
+    <message>
+        <source>The device is back. If it does not work as it should, press Connect and download again.</source>
+        <translation>デバイスは復帰しました。正常に動作しない場合は、「接続」を押して、もう一度書き込んでください。</translation>
+    </message>
+    <message>
+        <source>Press Connect and download again, at a higher baud rate if there is one.</source>
+        <translation>「接続」を押して、もう一度書き込んでください。可能であれば、より高いボーレートを使用してください。</translation>
+    </message>
+    <message>
+        <source>But the device is back with the build that it had before.</source>
+        <translation>ただし、デバイスは以前と同じビルドで復帰しました。</translation>
+    </message>
+    <message>
+        <source>Check that this is the file that you meant.</source>
+        <translation>目的のファイルであることを確認してください。</translation>
+    </message>
+    <message>
+        <source>Check that this is the file that you meant, then press Connect and download again.</source>
+        <translation>目的のファイルであることを確認してから、「接続」を押して、もう一度書き込んでください。</translation>
+    </message>
+    <message>
+        <source>But the device has not introduced itself since its restart.</source>
+        <translation>ただし、再起動後にデバイスの識別情報が届いていません。</translation>
+    </message>
+    <message>
+        <source>Unplug it and plug it in again, and open its port: the new firmware may use another baud rate. If its bootloader answers there, this window opens by itself.</source>
+        <translation>デバイスを抜いて差し直し、ポートを開いてください。新しいファームウェアではボーレートが異なる可能性があります。そこでブートローダーが応答した場合は、このウィンドウが自動的に開きます。</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>Before: %1 · Now: %2</source>
+        <translation>以前: %1 · 現在: %2</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>The update of %1 with %2, begun %3, was written to the end, but it is not proved that it is right.</source>
+        <translation>%3 に開始した %1 の更新（%2）は最後まで書き込まれましたが、正しいことは確認されていません。</translation>
+    </message>
+    <message>
+        <source>The update of %1 with %2, begun %3, was interrupted at %4 of %5 bytes.</source>
+        <translation>%3 に開始した %1 の更新（%2）は、%5 バイト中 %4 バイトの時点で中断されました。</translation>
     </message>
 </context>
 </TS>

@@ -59,6 +59,25 @@
     </message>
 </context>
 <context>
+    <name>AppearanceMenu</name>
+    <message>
+        <source>&amp;System</source>
+        <translation>시스템(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>라이트(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>다크(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Appearance</source>
+        <translation>화면 모드(&amp;A)</translation>
+    </message>
+</context>
+<context>
     <name>AttitudeCard</name>
     <message>
         <source>Attitude</source>
@@ -166,6 +185,13 @@
     </message>
 </context>
 <context>
+    <name>CeilingField</name>
+    <message>
+        <source>now %1</source>
+        <translation>현재 %1</translation>
+    </message>
+</context>
+<context>
     <name>ChartFilterRow</name>
     <message>
         <source>Low-pass filter</source>
@@ -188,18 +214,45 @@
     </message>
 </context>
 <context>
-    <name>ChartReadout</name>
+    <name>ChartMeasures</name>
     <message>
-        <source>t %1</source>
-        <translation>t %1</translation>
+        <source>Between A and B, %1 to %2</source>
+        <translation>A/B 사이: %1 ~ %2</translation>
+    </message>
+    <message>
+        <source>Over the view, %1 to %2</source>
+        <translation>표시 범위: %1 ~ %2</translation>
+    </message>
+</context>
+<context>
+    <name>ChartRangeRow</name>
+    <message>
+        <source>Left end of the horizontal axis</source>
+        <translation>가로축의 왼쪽 끝</translation>
+    </message>
+    <message>
+        <source>Right end of the horizontal axis</source>
+        <translation>가로축의 오른쪽 끝</translation>
+    </message>
+    <message>
+        <source>Lower end of the value axis</source>
+        <translation>값 축의 하한</translation>
+    </message>
+    <message>
+        <source>Upper end of the value axis</source>
+        <translation>값 축의 상한</translation>
+    </message>
+    <message>
+        <source>Automatic values</source>
+        <translation>값 축 자동 조정</translation>
+    </message>
+    <message>
+        <source>Fit the value axis to what is visible</source>
+        <translation>표시된 범위에 값 축 맞추기</translation>
     </message>
 </context>
 <context>
     <name>ChartSaver</name>
-    <message>
-        <source>Save the visible samples</source>
-        <translation>표시된 샘플 저장</translation>
-    </message>
     <message>
         <source>Comma-separated values (*.csv)</source>
         <translation>CSV 파일 (*.csv)</translation>
@@ -224,6 +277,32 @@
         <source>%1 could not be written: %2</source>
         <translation>%1 파일에 쓸 수 없습니다: %2</translation>
     </message>
+    <message>
+        <source>Save the samples</source>
+        <translation>샘플 저장</translation>
+    </message>
+    <message>
+        <source>SVG picture (*.svg)</source>
+        <translation>SVG 이미지 (*.svg)</translation>
+    </message>
+    <message>
+        <source>Save the samples of all charts</source>
+        <translation>모든 그래프의 샘플 저장</translation>
+    </message>
+    <message>
+        <source>Save pictures of all charts</source>
+        <translation>모든 그래프의 이미지 저장</translation>
+    </message>
+    <message>
+        <source>No chart has samples.</source>
+        <translation>샘플이 있는 그래프가 없습니다.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Saved %n file(s) in %1</source>
+        <translation>
+            <numerusform>파일 %n개 저장됨: %1</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>CommandSession</name>
@@ -247,12 +326,12 @@
         <translation>수신되는 것은 노이즈입니다. 보드 레이트가 잘못되었을 수 있습니다.</translation>
     </message>
     <message>
-        <source>&amp;Try the usual baud rates</source>
-        <translation>일반적인 보드 레이트 시도(&amp;T)</translation>
-    </message>
-    <message>
         <source>Opens this port at one rate after the other until the device answers</source>
         <translation>장치가 응답할 때까지 이 포트를 여러 보드 레이트로 차례로 엽니다</translation>
+    </message>
+    <message>
+        <source>Try the &amp;usual baud rates</source>
+        <translation>일반적인 보드 레이트 시도(&amp;U)</translation>
     </message>
 </context>
 <context>
@@ -306,6 +385,18 @@
     <message>
         <source>Open Serial Port Error.</source>
         <translation>시리얼 포트를 열 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The device may wait in its bootloader for the rest. Plug it in, then connect to it.</source>
+        <translation>장치가 부트로더에서 나머지 데이터를 기다리고 있을 수 있습니다. 장치의 케이블을 꽂은 다음 &apos;연결&apos;을 누르십시오.</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>연결</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>나중에</translation>
     </message>
 </context>
 <context>
@@ -748,6 +839,22 @@
         <source>Connect a wireless gateway; its nodes appear here.</source>
         <translation>무선 게이트웨이를 연결하면 해당 노드가 여기에 표시됩니다.</translation>
     </message>
+    <message>
+        <source>Let each chart have its own time axis and cursors</source>
+        <translation>그래프마다 시간 축과 커서를 따로 사용</translation>
+    </message>
+    <message>
+        <source>Couple time axes and cursors of all charts</source>
+        <translation>모든 그래프의 시간 축과 커서 연동</translation>
+    </message>
+    <message>
+        <source>Save charts</source>
+        <translation>그래프 저장</translation>
+    </message>
+    <message>
+        <source>List of markers; M sets one</source>
+        <translation>마커 목록(M 키로 마커 설정)</translation>
+    </message>
 </context>
 <context>
     <name>GatewayDashboardBridge</name>
@@ -935,6 +1042,82 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>MarkerList</name>
+    <message>
+        <source>Marker %1</source>
+        <translation>마커 %1</translation>
+    </message>
+</context>
+<context>
+    <name>MarkerPanel</name>
+    <message>
+        <source>Markers</source>
+        <translation>마커</translation>
+    </message>
+    <message>
+        <source>No markers</source>
+        <translation>마커 없음</translation>
+    </message>
+    <message>
+        <source>M sets one at the pointer, or at the newest sample.</source>
+        <translation>M 키를 누르면 마우스 포인터 위치 또는 최신 샘플에 마커를 설정합니다.</translation>
+    </message>
+    <message>
+        <source>Show this place</source>
+        <translation>이 위치 표시</translation>
+    </message>
+    <message>
+        <source>Text of the marker</source>
+        <translation>마커의 텍스트</translation>
+    </message>
+    <message>
+        <source>Remove this marker</source>
+        <translation>이 마커 삭제</translation>
+    </message>
+</context>
+<context>
+    <name>MeasurePanel</name>
+    <message>
+        <source>Copy</source>
+        <translation>복사</translation>
+    </message>
+    <message>
+        <source>Copy the table for a spreadsheet</source>
+        <translation>스프레드시트용으로 표 복사</translation>
+    </message>
+</context>
+<context>
+    <name>MeasureTable</name>
+    <message>
+        <source>Minimum</source>
+        <translation>최소</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>최대</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>평균</translation>
+    </message>
+    <message>
+        <source>Std. dev.</source>
+        <translation>표준 편차</translation>
+    </message>
+    <message>
+        <source>RMS</source>
+        <translation>RMS</translation>
+    </message>
+    <message>
+        <source>Peak-peak</source>
+        <translation>피크-피크</translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation>개수</translation>
+    </message>
+</context>
+<context>
     <name>MeshFile</name>
     <message>
         <source>The mesh file cannot be read: %1</source>
@@ -1030,6 +1213,45 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>RecordingActions</name>
+    <message>
+        <source>Marker %1 at %2 s</source>
+        <translation>마커 %1: %2 s</translation>
+    </message>
+    <message>
+        <source>Marker %1</source>
+        <translation>마커 %1</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>기록</translation>
+    </message>
+    <message>
+        <source>Recording stopped: %1 records</source>
+        <translation>기록 중지됨: %1건</translation>
+    </message>
+    <message>
+        <source>Markers go into recordings: start one first</source>
+        <translation>마커는 기록에 저장됩니다. 먼저 기록을 시작하십시오</translation>
+    </message>
+    <message>
+        <source>&amp;Stop recording</source>
+        <translation>기록 중지(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Start recording</source>
+        <translation>기록 시작(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Writes what has arrived and closes the file</source>
+        <translation>수신한 데이터를 쓰고 파일을 닫습니다</translation>
+    </message>
+    <message>
+        <source>Records with the last folder and name</source>
+        <translation>마지막으로 사용한 폴더와 이름으로 기록합니다</translation>
+    </message>
+</context>
+<context>
     <name>RecordingBadge</name>
     <message>
         <source>Recording: trouble</source>
@@ -1038,6 +1260,57 @@ Pa</translation>
     <message>
         <source>Recording %1</source>
         <translation>기록 중 %1</translation>
+    </message>
+    <message>
+        <source>Recording: waiting</source>
+        <translation>기록: 대기 중</translation>
+    </message>
+</context>
+<context>
+    <name>SavePanel</name>
+    <message>
+        <source>Samples</source>
+        <translation>샘플</translation>
+    </message>
+    <message>
+        <source>Visible</source>
+        <translation>표시 범위</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>전체</translation>
+    </message>
+    <message>
+        <source>Save tables…</source>
+        <translation>표 저장…</translation>
+    </message>
+    <message>
+        <source>A CSV file of each chart</source>
+        <translation>그래프마다 CSV 파일 저장</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>이미지</translation>
+    </message>
+    <message>
+        <source>%1x</source>
+        <translation>%1배</translation>
+    </message>
+    <message>
+        <source>PNG at %1 times the size</source>
+        <translation>%1배 크기의 PNG</translation>
+    </message>
+    <message>
+        <source>Save pictures…</source>
+        <translation>이미지 저장…</translation>
+    </message>
+    <message>
+        <source>A picture of each chart</source>
+        <translation>그래프마다 이미지 저장</translation>
+    </message>
+    <message>
+        <source>The buttons of each chart save that one alone in the same way.</source>
+        <translation>각 그래프의 버튼은 해당 그래프만 같은 설정으로 저장합니다.</translation>
     </message>
 </context>
 <context>
@@ -1100,6 +1373,22 @@ Pa</translation>
     <message>
         <source>Choose above what to show.</source>
         <translation>표시할 항목을 위에서 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>Let each chart have its own time axis and cursors</source>
+        <translation>그래프마다 시간 축과 커서를 따로 사용</translation>
+    </message>
+    <message>
+        <source>Couple time axes and cursors of all charts</source>
+        <translation>모든 그래프의 시간 축과 커서 연동</translation>
+    </message>
+    <message>
+        <source>Save charts</source>
+        <translation>그래프 저장</translation>
+    </message>
+    <message>
+        <source>List of markers; M sets one</source>
+        <translation>마커 목록(M 키로 마커 설정)</translation>
     </message>
 </context>
 <context>
@@ -1250,13 +1539,17 @@ Pa</translation>
         <source>Block %1 %</source>
         <translation>블록 %1 %</translation>
     </message>
+    <message>
+        <source>Limits of the axes</source>
+        <translation>축 범위</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>통계</translation>
+    </message>
 </context>
 <context>
     <name>SpectrumViewState</name>
-    <message>
-        <source>Resultant</source>
-        <translation>합성</translation>
-    </message>
     <message>
         <source>%1 Hz</source>
         <translation>%1 Hz</translation>
@@ -1317,6 +1610,120 @@ Pa</translation>
     <message>
         <source>No attitude</source>
         <translation>자세 데이터 없음</translation>
+    </message>
+</context>
+<context>
+    <name>TriggerRow</name>
+    <message>
+        <source>Trigger</source>
+        <translation>트리거</translation>
+    </message>
+    <message>
+        <source>Watch %1</source>
+        <translation>%1 감시</translation>
+    </message>
+    <message>
+        <source>Rising through the level</source>
+        <translation>상승하며 레벨 통과</translation>
+    </message>
+    <message>
+        <source>Falling through the level</source>
+        <translation>하강하며 레벨 통과</translation>
+    </message>
+    <message>
+        <source>Crossing the level either way</source>
+        <translation>방향에 관계없이 레벨 통과</translation>
+    </message>
+    <message>
+        <source>Band</source>
+        <translation>범위</translation>
+    </message>
+    <message>
+        <source>Leaving the band between two levels</source>
+        <translation>두 레벨 사이의 범위를 벗어남</translation>
+    </message>
+    <message>
+        <source>Level of the trigger; its line is dragged</source>
+        <translation>트리거 레벨(선을 끌어서 변경 가능)</translation>
+    </message>
+    <message>
+        <source>Other end of the band</source>
+        <translation>범위의 다른 쪽 끝</translation>
+    </message>
+    <message>
+        <source>Share of the picture before the event</source>
+        <translation>표시 범위 중 이벤트 이전의 비율</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>자동</translation>
+    </message>
+    <message>
+        <source>Run live while nothing happens</source>
+        <translation>이벤트가 없는 동안 실시간 표시</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>일반</translation>
+    </message>
+    <message>
+        <source>Hold each event until the next</source>
+        <translation>다음 이벤트까지 각 이벤트를 홀드</translation>
+    </message>
+    <message>
+        <source>Single</source>
+        <translation>단일</translation>
+    </message>
+    <message>
+        <source>Hold the first event</source>
+        <translation>첫 이벤트를 홀드</translation>
+    </message>
+    <message>
+        <source>Set a marker</source>
+        <translation>마커 설정</translation>
+    </message>
+    <message>
+        <source>Mark each event that was caught</source>
+        <translation>포착한 각 이벤트에 마커 설정</translation>
+    </message>
+    <message>
+        <source>Release</source>
+        <translation>해제</translation>
+    </message>
+    <message>
+        <source>Back to the live samples; wait for the next event</source>
+        <translation>최신 샘플로 돌아가 다음 이벤트 대기</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNoteCard</name>
+    <message>
+        <source>The device runs its bootloader and sends no data: restart it, or choose a firmware.</source>
+        <translation>장치가 부트로더를 실행 중이며 데이터를 보내지 않습니다. 장치를 다시 시작하거나 펌웨어를 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>The device waits in its bootloader.</source>
+        <translation>장치가 부트로더에서 대기하고 있습니다.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>계속</translation>
+    </message>
+    <message>
+        <source>Chooses the same file, connects, and downloads it</source>
+        <translation>같은 파일을 선택하고 연결하여 다운로드합니다</translation>
+    </message>
+    <message>
+        <source>Choose firmware</source>
+        <translation>펌웨어 선택</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>알림 지우기</translation>
+    </message>
+    <message>
+        <source>Ends the reminder of this update</source>
+        <translation>이 업데이트에 대한 알림을 끝냅니다</translation>
     </message>
 </context>
 <context>
@@ -1472,6 +1879,30 @@ Pa</translation>
         <source>Show this chart alone</source>
         <translation>이 그래프만 표시</translation>
     </message>
+    <message>
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>Trigger</source>
+        <translation>트리거</translation>
+    </message>
+    <message>
+        <source>Span and limits of the axes</source>
+        <translation>시간 폭과 축 범위</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>통계</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Show %1 seconds</source>
+        <translation>%1초 표시</translation>
+    </message>
 </context>
 <context>
     <name>WaveChartBridge</name>
@@ -1509,6 +1940,36 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>WaveTrigger</name>
+    <message>
+        <source>Off</source>
+        <translation>꺼짐</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>대기 중</translation>
+    </message>
+    <message>
+        <source>Catching</source>
+        <translation>포착 중</translation>
+    </message>
+    <message>
+        <source>Held</source>
+        <translation>홀드 중</translation>
+    </message>
+</context>
+<context>
+    <name>WaveViewState</name>
+    <message>
+        <source>Trigger</source>
+        <translation>트리거</translation>
+    </message>
+    <message>
+        <source>t %1</source>
+        <translation>t %1</translation>
+    </message>
+</context>
+<context>
     <name>chart_text</name>
     <message>
         <source>%1 Hz · last %2 s of %3 s</source>
@@ -1529,6 +1990,18 @@ Pa</translation>
     <message>
         <source>Gap</source>
         <translation>공백</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>일시 정지됨</translation>
+    </message>
+    <message>
+        <source>%1 missing</source>
+        <translation>누락 %1</translation>
+    </message>
+    <message>
+        <source>The store ends here: %1 s</source>
+        <translation>보관 데이터의 끝: %1 s</translation>
     </message>
 </context>
 <context>
@@ -1699,6 +2172,30 @@ Pa</translation>
     <message>
         <source>Ctrl+L</source>
         <translation>Ctrl+L</translation>
+    </message>
+    <message>
+        <source>Numbers and traces</source>
+        <translation>수치와 파형</translation>
+    </message>
+    <message>
+        <source>&amp;Start recording</source>
+        <translation>기록 시작(&amp;S)</translation>
+    </message>
+    <message>
+        <source>F9</source>
+        <translation>F9</translation>
+    </message>
+    <message>
+        <source>Set &amp;marker</source>
+        <translation>마커 설정(&amp;M)</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>Marks this moment in a file beside the recording</source>
+        <translation>기록과 함께 저장되는 파일에 이 시점의 마커를 씁니다</translation>
     </message>
 </context>
 <context>
@@ -2320,6 +2817,58 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <source>Starting…</source>
         <translation>시작하는 중…</translation>
     </message>
+    <message>
+        <source>Stop &amp;after</source>
+        <translation>시간 제한(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Longest time in minutes</source>
+        <translation>최대 시간(분)</translation>
+    </message>
+    <message>
+        <source> min</source>
+        <translation> 분</translation>
+    </message>
+    <message>
+        <source>Stop a&amp;t</source>
+        <translation>크기 제한(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Largest size of all files in MiB</source>
+        <translation>모든 파일의 최대 크기 합계(MiB)</translation>
+    </message>
+    <message>
+        <source>&amp;Go on after an unplugged cable</source>
+        <translation>케이블이 분리된 뒤에도 기록 계속(&amp;G)</translation>
+    </message>
+    <message>
+        <source>When the connection was lost, recording goes on in a new file as soon as the port is open again</source>
+        <translation>연결이 끊어진 경우 포트가 다시 열리면 새 파일에 기록을 계속합니다</translation>
+    </message>
+    <message>
+        <source>Waiting for the connection to come back</source>
+        <translation>다시 연결되기를 기다리는 중</translation>
+    </message>
+    <message>
+        <source>Recording ended: the time is up</source>
+        <translation>설정한 시간이 되어 기록이 종료됨</translation>
+    </message>
+    <message>
+        <source>Recording ended: the size is reached</source>
+        <translation>설정한 크기에 도달하여 기록이 종료됨</translation>
+    </message>
+    <message>
+        <source>Open the port again to go on.</source>
+        <translation>계속하려면 포트를 다시 여십시오.</translation>
+    </message>
+    <message>
+        <source>A file holds 16 nodes. Not recorded: %1</source>
+        <translation>파일 하나에는 노드를 16개까지 기록할 수 있습니다. 기록되지 않는 노드: %1</translation>
+    </message>
+    <message>
+        <source>A file beside the recording cannot be written: %1</source>
+        <translation>기록과 함께 저장되는 파일에 쓸 수 없습니다: %1</translation>
+    </message>
 </context>
 <context>
     <name>form_settings</name>
@@ -2503,6 +3052,26 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <source>The device refused at least one of %1.</source>
         <translation>장치가 다음 명령 중 하나 이상을 거부했습니다: %1.</translation>
     </message>
+    <message>
+        <source>Save all the same</source>
+        <translation>그래도 저장</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>The device does not answer, although its data arrive. Identify it again.</source>
+        <translation>데이터는 수신되지만 장치가 응답하지 않습니다. 다시 식별하십시오.</translation>
+    </message>
+    <message>
+        <source>The answer was damaged on the line. Identify the device again.</source>
+        <translation>응답이 회선에서 손상되었습니다. 장치를 다시 식별하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 Hz takes %2 % of what this line carries at %3 baud: samples get lost.</source>
+        <translation>%1 Hz는 %3 baud에서 이 회선이 전송할 수 있는 양의 %2 %를 차지하므로 샘플이 손실됩니다.</translation>
+    </message>
 </context>
 <context>
     <name>form_threed</name>
@@ -2668,10 +3237,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>Log</source>
         <translation>로그</translation>
-    </message>
-    <message>
-        <source>&amp;Copy log</source>
-        <translation>로그 복사(&amp;C)</translation>
     </message>
     <message>
         <source>Copies what is shown above together with the log, for a report</source>
@@ -2918,18 +3483,6 @@ Ready to download firmware.
         <translation>부트로더 연결 대기 중</translation>
     </message>
     <message>
-        <source>Complete</source>
-        <translation>완료</translation>
-    </message>
-    <message>
-        <source>Failed</source>
-        <translation>실패</translation>
-    </message>
-    <message>
-        <source>The file has changed since it was loaded. Choose it again to load it anew.</source>
-        <translation>파일을 불러온 후 내용이 변경되었습니다. 새로 불러오려면 다시 선택하십시오.</translation>
-    </message>
-    <message>
         <source>There is no file at this place: choose an image.</source>
         <translation>이 위치에 파일이 없습니다. 이미지를 선택하십시오.</translation>
     </message>
@@ -3006,40 +3559,12 @@ Ready to download firmware.
         <translation>부트로더는 장치에 남아 있습니다. &apos;연결&apos;, &apos;다운로드&apos;를 차례로 누르십시오.</translation>
     </message>
     <message>
-        <source>Connecting to the bootloader…</source>
-        <translation>부트로더에 연결하는 중…</translation>
-    </message>
-    <message>
-        <source>Erasing the flash…</source>
-        <translation>플래시를 지우는 중…</translation>
-    </message>
-    <message>
-        <source>Preparing to write…</source>
-        <translation>쓰기를 준비하는 중…</translation>
-    </message>
-    <message>
-        <source>Writing the image…</source>
-        <translation>이미지를 쓰는 중…</translation>
-    </message>
-    <message>
-        <source>Restarting the device…</source>
-        <translation>장치를 다시 시작하는 중…</translation>
-    </message>
-    <message>
         <source>The bootloader takes no data: it reports packets of %1 bytes.</source>
         <translation>부트로더가 데이터를 받지 않습니다(보고된 패킷 크기: %1바이트).</translation>
     </message>
     <message>
         <source>It had reported status %1 before.</source>
         <translation>그 전에 부트로더가 보고한 상태 코드: %1.</translation>
-    </message>
-    <message>
-        <source>%1 bytes were written in %2 s, %3 of %4 packets were sent again.</source>
-        <translation>%1바이트를 %2초 동안 썼습니다(패킷 %4개 중 %3개 재전송).</translation>
-    </message>
-    <message>
-        <source>The device restarts with the new firmware.</source>
-        <translation>장치가 새 펌웨어로 다시 시작됩니다.</translation>
     </message>
     <message>
         <source>%1 of %2 bytes</source>
@@ -3056,38 +3581,6 @@ Ready to download firmware.
     <message>
         <source>%1 bytes from %2, stack pointer %3, reset vector %4</source>
         <translation>%2부터 %1바이트, 스택 포인터 %3, 리셋 벡터 %4</translation>
-    </message>
-    <message>
-        <source>The file begins at %1, but it will be written to %2, where the first file of this run began. Restart the program to write it to its own address.</source>
-        <translation>이 파일의 시작 주소는 %1이지만, 실행 후 처음 불러온 파일의 시작 주소인 %2에 기록됩니다. 원래 주소에 쓰려면 프로그램을 다시 시작하십시오.</translation>
-    </message>
-    <message>
-        <source>The image does not fit the %1 KB of flash from this address on.</source>
-        <translation>이 주소부터는 이미지가 %1 KB 플래시에 들어가지 않습니다.</translation>
-    </message>
-    <message>
-        <source>The stack pointer is no word address in RAM.</source>
-        <translation>스택 포인터가 RAM의 워드 주소가 아닙니다.</translation>
-    </message>
-    <message>
-        <source>The reset vector is no Thumb address inside the image.</source>
-        <translation>리셋 벡터가 이미지 안의 Thumb 주소가 아닙니다.</translation>
-    </message>
-    <message>
-        <source>The image is very small for a firmware.</source>
-        <translation>펌웨어로는 이미지가 너무 작습니다.</translation>
-    </message>
-    <message>
-        <source>But the bootloader reported status %1.</source>
-        <translation>다만 부트로더가 보고한 상태 코드는 %1입니다.</translation>
-    </message>
-    <message>
-        <source>But the bootloader did not confirm the whole image.</source>
-        <translation>다만 부트로더가 이미지 전체의 수신을 확인하지 않았습니다.</translation>
-    </message>
-    <message>
-        <source>If the firmware does not start, press Connect and download again.</source>
-        <translation>펌웨어가 시작되지 않으면 &apos;연결&apos;을 누르고 다시 다운로드하십시오.</translation>
     </message>
     <message>
         <source>Restart device</source>
@@ -3150,8 +3643,80 @@ Ready to download firmware.
         <translation>다운로드가 중지되었습니다.</translation>
     </message>
     <message>
-        <source>Reading the flash back…</source>
-        <translation>플래시를 다시 읽는 중…</translation>
+        <source>Download it all the same</source>
+        <translation>그래도 다운로드</translation>
+    </message>
+    <message>
+        <source>&amp;Save report…</source>
+        <translation>보고서 저장(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>Copy &amp;log</source>
+        <translation>로그 복사(&amp;L)</translation>
+    </message>
+    <message>
+        <source>The report was saved to %1.</source>
+        <translation>보고서를 %1에 저장했습니다.</translation>
+    </message>
+    <message>
+        <source>The report could not be saved to %1: %2</source>
+        <translation>보고서를 %1에 저장할 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>The serial port is being opened: press Connect again in a moment.</source>
+        <translation>시리얼 포트를 여는 중입니다. 잠시 후 &apos;연결&apos;을 다시 누르십시오.</translation>
+    </message>
+    <message>
+        <source>Nothing was erased and nothing was written: see the reasons above.</source>
+        <translation>아무것도 지우거나 쓰지 않았습니다. 위에 표시된 이유를 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>The file %1 is gone: choose another one.</source>
+        <translation>%1 파일을 찾을 수 없습니다. 다른 파일을 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>The file is not the one that was being written: it has changed since. Press Download to write it as it is now.</source>
+        <translation>이 파일은 쓰던 당시의 내용에서 변경되었습니다. 현재 내용을 쓰려면 &apos;다운로드&apos;를 누르십시오.</translation>
+    </message>
+    <message>
+        <source>Saves what was done and what has come of it as text</source>
+        <translation>수행한 내용과 그 결과를 텍스트로 저장합니다</translation>
+    </message>
+    <message>
+        <source>There was no update yet.</source>
+        <translation>아직 업데이트를 수행하지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>Something speaks against this image: tick &quot;%1&quot; to write it.</source>
+        <translation>이 이미지에 문제가 있을 수 있습니다. 쓰려면 &apos;%1&apos;에 체크하십시오.</translation>
+    </message>
+    <message>
+        <source>The file has changed since it was loaded. Choose it again to load the new one.</source>
+        <translation>파일을 불러온 뒤에 변경되었습니다. 새 내용을 불러오려면 다시 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>Restart the program</source>
+        <translation>프로그램 다시 시작</translation>
+    </message>
+    <message>
+        <source>Use packets of %1 bytes</source>
+        <translation>%1바이트 패킷 사용</translation>
+    </message>
+    <message>
+        <source>Erase all the same</source>
+        <translation>그래도 지우기</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>보고서 저장</translation>
+    </message>
+    <message>
+        <source>Text Files(*.txt)</source>
+        <translation>텍스트 파일 (*.txt)</translation>
+    </message>
+    <message>
+        <source>The bootloader is connected: press Download, or Restart device.</source>
+        <translation>부트로더에 연결되었습니다. &apos;다운로드&apos; 또는 &apos;장치 다시 시작&apos;을 누르십시오.</translation>
     </message>
 </context>
 <context>
@@ -3361,6 +3926,253 @@ No frame stream detected.</source>
     <message>
         <source>TOTAL OF NODE</source>
         <translation>전체 노드 수</translation>
+    </message>
+</context>
+<context>
+    <name>verdict_text</name>
+    <message>
+        <source>A packet of %1 bytes cannot be acknowledged within 0.2 s at %2 baud.</source>
+        <translation>%2 baud에서는 %1바이트 패킷의 수신 확인이 0.2초 안에 이루어질 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Packets of %1 bytes can.</source>
+        <translation>%1바이트 패킷은 가능합니다.</translation>
+    </message>
+    <message>
+        <source>%1 baud or more is fast enough, too.</source>
+        <translation>%1 baud 이상의 속도에서도 가능합니다.</translation>
+    </message>
+    <message>
+        <source>The image is empty.</source>
+        <translation>이미지가 비어 있습니다.</translation>
+    </message>
+    <message>
+        <source>The file begins at %1, but it would be written to %2, where the first file of this run began. Restart the program to write it to its own address.</source>
+        <translation>파일의 시작 주소는 %1이지만, 이번 실행에서 처음 사용한 파일의 시작 주소인 %2에 쓰게 됩니다. 파일 자체의 주소에 쓰려면 프로그램을 다시 시작하십시오.</translation>
+    </message>
+    <message>
+        <source>The bootloader takes no data: it reports packets of %1 bytes.</source>
+        <translation>부트로더가 데이터를 받지 않습니다(보고된 패킷 크기: %1바이트).</translation>
+    </message>
+    <message>
+        <source>The image does not fit the %1 KB of flash from this address on.</source>
+        <translation>이 주소부터는 이미지가 %1 KB 플래시에 들어가지 않습니다.</translation>
+    </message>
+    <message>
+        <source>This chip has not ended an erase of this size within 1.5 s before, and the protocol waits no longer: it would be erased and not written.</source>
+        <translation>이 칩은 이전에 이 크기의 지우기를 1.5초 안에 끝내지 못했습니다. 프로토콜은 그 이상 기다리지 않으므로 지우기만 하고 쓰지 못하게 됩니다.</translation>
+    </message>
+    <message>
+        <source>The file has no end record: a part of it may be missing.</source>
+        <translation>파일에 종료 레코드가 없습니다. 일부가 누락되었을 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>The file has data after a blank line, where the image ends: they would not be written.</source>
+        <translation>파일의 빈 줄 뒤에 데이터가 있습니다. 이미지는 빈 줄에서 끝나므로 그 데이터는 쓰지 않습니다.</translation>
+    </message>
+    <message>
+        <source>The file has data after a start address or an unknown record, where the image ends: they would not be written.</source>
+        <translation>파일의 시작 주소 또는 알 수 없는 레코드 뒤에 데이터가 있습니다. 이미지는 거기서 끝나므로 그 데이터는 쓰지 않습니다.</translation>
+    </message>
+    <message>
+        <source>The file has data after its end record: they would not be written.</source>
+        <translation>파일의 종료 레코드 뒤에 데이터가 있습니다. 그 데이터는 쓰지 않습니다.</translation>
+    </message>
+    <message>
+        <source>The image does not begin at a sector of %1 bytes: what stands before it in its sector is erased, too.</source>
+        <translation>이미지가 %1바이트 섹터의 경계에서 시작하지 않습니다. 같은 섹터에서 이미지 앞에 있는 내용도 지워집니다.</translation>
+    </message>
+    <message>
+        <source>The update before was for %1, this one is for %2.</source>
+        <translation>이전 업데이트의 주소는 %1, 이번 업데이트의 주소는 %2입니다.</translation>
+    </message>
+    <message>
+        <source>The image&apos;s build of %1 is older than the device&apos;s: %2.</source>
+        <translation>이미지의 빌드(%1)가 장치의 빌드(%2)보다 오래되었습니다.</translation>
+    </message>
+    <message>
+        <source>The stack pointer is no word address in RAM.</source>
+        <translation>스택 포인터가 RAM의 워드 주소가 아닙니다.</translation>
+    </message>
+    <message>
+        <source>The reset vector is no Thumb address inside the image.</source>
+        <translation>리셋 벡터가 이미지 안의 Thumb 주소가 아닙니다.</translation>
+    </message>
+    <message>
+        <source>The image is very small for a firmware.</source>
+        <translation>펌웨어로는 이미지가 너무 작습니다.</translation>
+    </message>
+    <message>
+        <source>Not verified: this bootloader cannot read the flash back.</source>
+        <translation>검증 안 됨: 이 부트로더는 플래시를 다시 읽을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Not verified: the chip is locked against reading.</source>
+        <translation>검증 안 됨: 칩의 읽기가 잠겨 있습니다.</translation>
+    </message>
+    <message>
+        <source>Not verified: the bootloader refused to read the flash back (status %1).</source>
+        <translation>검증 안 됨: 부트로더가 플래시 다시 읽기를 거부했습니다(상태 코드 %1).</translation>
+    </message>
+    <message>
+        <source>Not verified: reading the flash back did not come to its end.</source>
+        <translation>검증 안 됨: 플래시 다시 읽기가 끝까지 완료되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>%1 packets were sent again after silence and may have been written twice: the firmware may be wrong even if it starts.</source>
+        <translation>응답이 없어 패킷 %1개를 재전송했으며 두 번 기록되었을 수 있습니다. 시작되더라도 펌웨어가 올바르지 않을 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>But the bootloader reported status %1.</source>
+        <translation>다만 부트로더가 보고한 상태 코드는 %1입니다.</translation>
+    </message>
+    <message>
+        <source>But the bootloader did not confirm the whole image.</source>
+        <translation>다만 부트로더가 이미지 전체의 수신을 확인하지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>The flash was read back: it is the image.</source>
+        <translation>플래시를 다시 읽어 이미지와 일치함을 확인했습니다.</translation>
+    </message>
+    <message>
+        <source>%1 bytes were written in %2 s, %3 of %4 packets were sent again.</source>
+        <translation>%1바이트를 %2초 동안 썼습니다(패킷 %4개 중 %3개 재전송).</translation>
+    </message>
+    <message>
+        <source>Reading the flash back found wrong bytes: %1, the first at %2.</source>
+        <translation>플래시를 다시 읽은 결과 잘못된 바이트가 %1개 발견되었습니다(첫 위치: %2).</translation>
+    </message>
+    <message>
+        <source>The device was not restarted: this firmware must not run.</source>
+        <translation>이 펌웨어는 실행하면 안 되므로 장치를 다시 시작하지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>The bootloader stays in the device: press Connect, then Download.</source>
+        <translation>부트로더는 장치에 남아 있습니다. &apos;연결&apos;, &apos;다운로드&apos;를 차례로 누르십시오.</translation>
+    </message>
+    <message>
+        <source>Reading the flash back was stopped.</source>
+        <translation>플래시 다시 읽기가 중지되었습니다.</translation>
+    </message>
+    <message>
+        <source>The connection to the device was lost.</source>
+        <translation>장치와의 연결이 끊어졌습니다.</translation>
+    </message>
+    <message>
+        <source>The image was written, but nothing proves that it is right.</source>
+        <translation>이미지를 썼지만 올바른지 확인되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>Check the cable, open the port again and press Connect.</source>
+        <translation>케이블을 확인하고 포트를 다시 연 다음 &apos;연결&apos;을 누르십시오.</translation>
+    </message>
+    <message>
+        <source>Connecting to the bootloader…</source>
+        <translation>부트로더에 연결하는 중…</translation>
+    </message>
+    <message>
+        <source>Checking the image…</source>
+        <translation>이미지를 확인하는 중…</translation>
+    </message>
+    <message>
+        <source>Erasing the flash…</source>
+        <translation>플래시를 지우는 중…</translation>
+    </message>
+    <message>
+        <source>Writing the image…</source>
+        <translation>이미지를 쓰는 중…</translation>
+    </message>
+    <message>
+        <source>Reading the flash back…</source>
+        <translation>플래시를 다시 읽는 중…</translation>
+    </message>
+    <message>
+        <source>Restarting the device…</source>
+        <translation>장치를 다시 시작하는 중…</translation>
+    </message>
+    <message>
+        <source>Waiting for the device…</source>
+        <translation>장치를 기다리는 중…</translation>
+    </message>
+    <message>
+        <source>Verified</source>
+        <translation>검증됨</translation>
+    </message>
+    <message>
+        <source>Not verified</source>
+        <translation>검증 안 됨</translation>
+    </message>
+    <message>
+        <source>Doubtful</source>
+        <translation>의심됨</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>실패</translation>
+    </message>
+    <message>
+        <source>Same build</source>
+        <translation>같은 빌드</translation>
+    </message>
+    <message>
+        <source>Did not come back</source>
+        <translation>복귀하지 않음</translation>
+    </message>
+    <message>
+        <source>The folder takes no files: after a crash nothing would have reminded you.</source>
+        <translation>폴더에 파일을 쓸 수 없습니다. 프로그램이 비정상 종료되었더라도 이 업데이트에 대한 알림이 표시되지 않았을 것입니다.</translation>
+    </message>
+    <message>
+        <source>The device is back with its new firmware.</source>
+        <translation>장치가 새 펌웨어로 복귀했습니다.</translation>
+    </message>
+    <message>
+        <source>The device is back. If it does not work as it should, press Connect and download again.</source>
+        <translation>장치가 복귀했습니다. 정상적으로 동작하지 않으면 &apos;연결&apos;을 누르고 다시 다운로드하십시오.</translation>
+    </message>
+    <message>
+        <source>Press Connect and download again, at a higher baud rate if there is one.</source>
+        <translation>&apos;연결&apos;을 누르고 다시 다운로드하십시오. 가능하면 더 높은 보드 레이트를 사용하십시오.</translation>
+    </message>
+    <message>
+        <source>But the device is back with the build that it had before.</source>
+        <translation>다만 장치가 이전과 같은 빌드로 복귀했습니다.</translation>
+    </message>
+    <message>
+        <source>Check that this is the file that you meant.</source>
+        <translation>의도한 파일이 맞는지 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>Check that this is the file that you meant, then press Connect and download again.</source>
+        <translation>의도한 파일이 맞는지 확인한 다음 &apos;연결&apos;을 누르고 다시 다운로드하십시오.</translation>
+    </message>
+    <message>
+        <source>But the device has not introduced itself since its restart.</source>
+        <translation>다만 다시 시작한 뒤 장치의 식별 정보가 수신되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>Unplug it and plug it in again, and open its port: the new firmware may use another baud rate. If its bootloader answers there, this window opens by itself.</source>
+        <translation>장치를 뽑았다가 다시 연결하고 포트를 여십시오. 새 펌웨어는 다른 보드 레이트를 사용할 수 있습니다. 그 포트에서 부트로더가 응답하면 이 창이 자동으로 열립니다.</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>알 수 없음</translation>
+    </message>
+    <message>
+        <source>Before: %1 · Now: %2</source>
+        <translation>이전: %1 · 현재: %2</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <translation>%1(%2)</translation>
+    </message>
+    <message>
+        <source>The update of %1 with %2, begun %3, was written to the end, but it is not proved that it is right.</source>
+        <translation>%3에 시작한 %1 업데이트(%2)는 끝까지 기록되었지만 올바른지 확인되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>The update of %1 with %2, begun %3, was interrupted at %4 of %5 bytes.</source>
+        <translation>%3에 시작한 %1 업데이트(%2)가 %5바이트 중 %4바이트에서 중단되었습니다.</translation>
     </message>
 </context>
 </TS>

@@ -59,6 +59,25 @@
     </message>
 </context>
 <context>
+    <name>AppearanceMenu</name>
+    <message>
+        <source>&amp;System</source>
+        <translation>跟隨系統(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>淺色(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>深色(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Appearance</source>
+        <translation>外觀(&amp;A)</translation>
+    </message>
+</context>
+<context>
     <name>AttitudeCard</name>
     <message>
         <source>Attitude</source>
@@ -166,6 +185,13 @@
     </message>
 </context>
 <context>
+    <name>CeilingField</name>
+    <message>
+        <source>now %1</source>
+        <translation>目前 %1</translation>
+    </message>
+</context>
+<context>
     <name>ChartFilterRow</name>
     <message>
         <source>Low-pass filter</source>
@@ -188,18 +214,45 @@
     </message>
 </context>
 <context>
-    <name>ChartReadout</name>
+    <name>ChartMeasures</name>
     <message>
-        <source>t %1</source>
-        <translation>t %1</translation>
+        <source>Between A and B, %1 to %2</source>
+        <translation>A 與 B 之間，%1 至 %2</translation>
+    </message>
+    <message>
+        <source>Over the view, %1 to %2</source>
+        <translation>可見區間，%1 至 %2</translation>
+    </message>
+</context>
+<context>
+    <name>ChartRangeRow</name>
+    <message>
+        <source>Left end of the horizontal axis</source>
+        <translation>橫軸左端</translation>
+    </message>
+    <message>
+        <source>Right end of the horizontal axis</source>
+        <translation>橫軸右端</translation>
+    </message>
+    <message>
+        <source>Lower end of the value axis</source>
+        <translation>數值軸下限</translation>
+    </message>
+    <message>
+        <source>Upper end of the value axis</source>
+        <translation>數值軸上限</translation>
+    </message>
+    <message>
+        <source>Automatic values</source>
+        <translation>數值軸自動</translation>
+    </message>
+    <message>
+        <source>Fit the value axis to what is visible</source>
+        <translation>使數值軸配合可見資料</translation>
     </message>
 </context>
 <context>
     <name>ChartSaver</name>
-    <message>
-        <source>Save the visible samples</source>
-        <translation>儲存可見區間的取樣資料</translation>
-    </message>
     <message>
         <source>Comma-separated values (*.csv)</source>
         <translation>逗號分隔值檔案 (*.csv)</translation>
@@ -224,6 +277,32 @@
         <source>%1 could not be written: %2</source>
         <translation>無法寫入 %1：%2</translation>
     </message>
+    <message>
+        <source>Save the samples</source>
+        <translation>儲存取樣資料</translation>
+    </message>
+    <message>
+        <source>SVG picture (*.svg)</source>
+        <translation>SVG 圖片 (*.svg)</translation>
+    </message>
+    <message>
+        <source>Save the samples of all charts</source>
+        <translation>儲存所有圖表的取樣資料</translation>
+    </message>
+    <message>
+        <source>Save pictures of all charts</source>
+        <translation>儲存所有圖表的圖片</translation>
+    </message>
+    <message>
+        <source>No chart has samples.</source>
+        <translation>所有圖表都沒有取樣資料。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Saved %n file(s) in %1</source>
+        <translation>
+            <numerusform>已將 %n 個檔案儲存至 %1</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>CommandSession</name>
@@ -247,12 +326,12 @@
         <translation>收到的是雜訊。鮑率可能不正確。</translation>
     </message>
     <message>
-        <source>&amp;Try the usual baud rates</source>
-        <translation>嘗試常用鮑率(&amp;T)</translation>
-    </message>
-    <message>
         <source>Opens this port at one rate after the other until the device answers</source>
         <translation>依序以各鮑率開啟此序列埠，直到裝置回應</translation>
+    </message>
+    <message>
+        <source>Try the &amp;usual baud rates</source>
+        <translation>嘗試常用鮑率(&amp;U)</translation>
     </message>
 </context>
 <context>
@@ -306,6 +385,18 @@
     <message>
         <source>Open Serial Port Error.</source>
         <translation>無法開啟序列埠。</translation>
+    </message>
+    <message>
+        <source>The device may wait in its bootloader for the rest. Plug it in, then connect to it.</source>
+        <translation>裝置可能停留在啟動載入程式中，等待寫入其餘部分。請接上裝置，然後進行連線。</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>連線</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>稍後</translation>
     </message>
 </context>
 <context>
@@ -748,6 +839,22 @@
         <source>Connect a wireless gateway; its nodes appear here.</source>
         <translation>請連接無線閘道器，其節點會顯示在這裡。</translation>
     </message>
+    <message>
+        <source>Let each chart have its own time axis and cursors</source>
+        <translation>各圖表使用獨立的時間軸與游標</translation>
+    </message>
+    <message>
+        <source>Couple time axes and cursors of all charts</source>
+        <translation>連動所有圖表的時間軸與游標</translation>
+    </message>
+    <message>
+        <source>Save charts</source>
+        <translation>儲存圖表</translation>
+    </message>
+    <message>
+        <source>List of markers; M sets one</source>
+        <translation>標記清單；按 M 鍵新增標記</translation>
+    </message>
 </context>
 <context>
     <name>GatewayDashboardBridge</name>
@@ -935,6 +1042,82 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>MarkerList</name>
+    <message>
+        <source>Marker %1</source>
+        <translation>標記 %1</translation>
+    </message>
+</context>
+<context>
+    <name>MarkerPanel</name>
+    <message>
+        <source>Markers</source>
+        <translation>標記</translation>
+    </message>
+    <message>
+        <source>No markers</source>
+        <translation>沒有標記</translation>
+    </message>
+    <message>
+        <source>M sets one at the pointer, or at the newest sample.</source>
+        <translation>按 M 鍵可在指標處或最新取樣處新增標記。</translation>
+    </message>
+    <message>
+        <source>Show this place</source>
+        <translation>顯示此位置</translation>
+    </message>
+    <message>
+        <source>Text of the marker</source>
+        <translation>標記文字</translation>
+    </message>
+    <message>
+        <source>Remove this marker</source>
+        <translation>移除此標記</translation>
+    </message>
+</context>
+<context>
+    <name>MeasurePanel</name>
+    <message>
+        <source>Copy</source>
+        <translation>複製</translation>
+    </message>
+    <message>
+        <source>Copy the table for a spreadsheet</source>
+        <translation>複製表格，可貼到試算表</translation>
+    </message>
+</context>
+<context>
+    <name>MeasureTable</name>
+    <message>
+        <source>Minimum</source>
+        <translation>最小值</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>最大值</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>平均值</translation>
+    </message>
+    <message>
+        <source>Std. dev.</source>
+        <translation>標準差</translation>
+    </message>
+    <message>
+        <source>RMS</source>
+        <translation>均方根</translation>
+    </message>
+    <message>
+        <source>Peak-peak</source>
+        <translation>峰對峰值</translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation>點數</translation>
+    </message>
+</context>
+<context>
     <name>MeshFile</name>
     <message>
         <source>The mesh file cannot be read: %1</source>
@@ -1030,6 +1213,45 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>RecordingActions</name>
+    <message>
+        <source>Marker %1 at %2 s</source>
+        <translation>標記 %1，位於 %2 s</translation>
+    </message>
+    <message>
+        <source>Marker %1</source>
+        <translation>標記 %1</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>記錄</translation>
+    </message>
+    <message>
+        <source>Recording stopped: %1 records</source>
+        <translation>記錄已停止：共 %1 筆</translation>
+    </message>
+    <message>
+        <source>Markers go into recordings: start one first</source>
+        <translation>標記會寫入記錄：請先開始記錄</translation>
+    </message>
+    <message>
+        <source>&amp;Stop recording</source>
+        <translation>停止記錄(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Start recording</source>
+        <translation>開始記錄(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Writes what has arrived and closes the file</source>
+        <translation>寫入已收到的資料並關閉檔案</translation>
+    </message>
+    <message>
+        <source>Records with the last folder and name</source>
+        <translation>使用上次的資料夾與名稱進行記錄</translation>
+    </message>
+</context>
+<context>
     <name>RecordingBadge</name>
     <message>
         <source>Recording: trouble</source>
@@ -1038,6 +1260,57 @@ Pa</translation>
     <message>
         <source>Recording %1</source>
         <translation>記錄中 %1</translation>
+    </message>
+    <message>
+        <source>Recording: waiting</source>
+        <translation>記錄等待中</translation>
+    </message>
+</context>
+<context>
+    <name>SavePanel</name>
+    <message>
+        <source>Samples</source>
+        <translation>取樣</translation>
+    </message>
+    <message>
+        <source>Visible</source>
+        <translation>可見區間</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Save tables…</source>
+        <translation>儲存表格…</translation>
+    </message>
+    <message>
+        <source>A CSV file of each chart</source>
+        <translation>每個圖表儲存為一個 CSV 檔案</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>圖片</translation>
+    </message>
+    <message>
+        <source>%1x</source>
+        <translation>%1 倍</translation>
+    </message>
+    <message>
+        <source>PNG at %1 times the size</source>
+        <translation>PNG，尺寸放大為 %1 倍</translation>
+    </message>
+    <message>
+        <source>Save pictures…</source>
+        <translation>儲存圖片…</translation>
+    </message>
+    <message>
+        <source>A picture of each chart</source>
+        <translation>每個圖表儲存為一張圖片</translation>
+    </message>
+    <message>
+        <source>The buttons of each chart save that one alone in the same way.</source>
+        <translation>各圖表本身的按鈕以相同方式僅儲存該圖表。</translation>
     </message>
 </context>
 <context>
@@ -1100,6 +1373,22 @@ Pa</translation>
     <message>
         <source>Choose above what to show.</source>
         <translation>請在上方選擇要顯示的內容。</translation>
+    </message>
+    <message>
+        <source>Let each chart have its own time axis and cursors</source>
+        <translation>各圖表使用獨立的時間軸與游標</translation>
+    </message>
+    <message>
+        <source>Couple time axes and cursors of all charts</source>
+        <translation>連動所有圖表的時間軸與游標</translation>
+    </message>
+    <message>
+        <source>Save charts</source>
+        <translation>儲存圖表</translation>
+    </message>
+    <message>
+        <source>List of markers; M sets one</source>
+        <translation>標記清單；按 M 鍵新增標記</translation>
     </message>
 </context>
 <context>
@@ -1250,13 +1539,17 @@ Pa</translation>
         <source>Block %1 %</source>
         <translation>資料塊 %1 %</translation>
     </message>
+    <message>
+        <source>Limits of the axes</source>
+        <translation>座標軸範圍</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>統計</translation>
+    </message>
 </context>
 <context>
     <name>SpectrumViewState</name>
-    <message>
-        <source>Resultant</source>
-        <translation>合成</translation>
-    </message>
     <message>
         <source>%1 Hz</source>
         <translation>%1 Hz</translation>
@@ -1317,6 +1610,120 @@ Pa</translation>
     <message>
         <source>No attitude</source>
         <translation>無姿態資料</translation>
+    </message>
+</context>
+<context>
+    <name>TriggerRow</name>
+    <message>
+        <source>Trigger</source>
+        <translation>觸發</translation>
+    </message>
+    <message>
+        <source>Watch %1</source>
+        <translation>監視 %1</translation>
+    </message>
+    <message>
+        <source>Rising through the level</source>
+        <translation>上升穿過位準</translation>
+    </message>
+    <message>
+        <source>Falling through the level</source>
+        <translation>下降穿過位準</translation>
+    </message>
+    <message>
+        <source>Crossing the level either way</source>
+        <translation>任一方向穿過位準</translation>
+    </message>
+    <message>
+        <source>Band</source>
+        <translation>區間</translation>
+    </message>
+    <message>
+        <source>Leaving the band between two levels</source>
+        <translation>超出兩個位準之間的區間</translation>
+    </message>
+    <message>
+        <source>Level of the trigger; its line is dragged</source>
+        <translation>觸發位準；可拖曳其水平線調整</translation>
+    </message>
+    <message>
+        <source>Other end of the band</source>
+        <translation>區間的另一端</translation>
+    </message>
+    <message>
+        <source>Share of the picture before the event</source>
+        <translation>事件之前的部分占畫面的比例</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Run live while nothing happens</source>
+        <translation>無事件時顯示即時資料</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>一般</translation>
+    </message>
+    <message>
+        <source>Hold each event until the next</source>
+        <translation>保持每個事件的畫面，直到下一個事件</translation>
+    </message>
+    <message>
+        <source>Single</source>
+        <translation>單次</translation>
+    </message>
+    <message>
+        <source>Hold the first event</source>
+        <translation>保持第一個事件的畫面</translation>
+    </message>
+    <message>
+        <source>Set a marker</source>
+        <translation>新增標記</translation>
+    </message>
+    <message>
+        <source>Mark each event that was caught</source>
+        <translation>標記擷取到的每個事件</translation>
+    </message>
+    <message>
+        <source>Release</source>
+        <translation>解除保持</translation>
+    </message>
+    <message>
+        <source>Back to the live samples; wait for the next event</source>
+        <translation>回到即時資料，等待下一個事件</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNoteCard</name>
+    <message>
+        <source>The device runs its bootloader and sends no data: restart it, or choose a firmware.</source>
+        <translation>裝置處於啟動載入程式中，不傳送資料：請重新啟動裝置，或選擇韌體。</translation>
+    </message>
+    <message>
+        <source>The device waits in its bootloader.</source>
+        <translation>裝置正在啟動載入程式中等待。</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>繼續</translation>
+    </message>
+    <message>
+        <source>Chooses the same file, connects, and downloads it</source>
+        <translation>選擇同一檔案，連線至裝置並燒錄</translation>
+    </message>
+    <message>
+        <source>Choose firmware</source>
+        <translation>選擇韌體</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>不再提醒</translation>
+    </message>
+    <message>
+        <source>Ends the reminder of this update</source>
+        <translation>不再顯示此次更新的提醒</translation>
     </message>
 </context>
 <context>
@@ -1472,6 +1879,30 @@ Pa</translation>
         <source>Show this chart alone</source>
         <translation>僅顯示此圖表</translation>
     </message>
+    <message>
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>Trigger</source>
+        <translation>觸發</translation>
+    </message>
+    <message>
+        <source>Span and limits of the axes</source>
+        <translation>時間跨度與座標軸範圍</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>統計</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Show %1 seconds</source>
+        <translation>顯示 %1 秒</translation>
+    </message>
 </context>
 <context>
     <name>WaveChartBridge</name>
@@ -1509,6 +1940,36 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>WaveTrigger</name>
+    <message>
+        <source>Off</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>等待觸發</translation>
+    </message>
+    <message>
+        <source>Catching</source>
+        <translation>擷取中</translation>
+    </message>
+    <message>
+        <source>Held</source>
+        <translation>已保持</translation>
+    </message>
+</context>
+<context>
+    <name>WaveViewState</name>
+    <message>
+        <source>Trigger</source>
+        <translation>觸發</translation>
+    </message>
+    <message>
+        <source>t %1</source>
+        <translation>t %1</translation>
+    </message>
+</context>
+<context>
     <name>chart_text</name>
     <message>
         <source>%1 Hz · last %2 s of %3 s</source>
@@ -1529,6 +1990,18 @@ Pa</translation>
     <message>
         <source>Gap</source>
         <translation>中斷</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>已暫停</translation>
+    </message>
+    <message>
+        <source>%1 missing</source>
+        <translation>遺失 %1 筆</translation>
+    </message>
+    <message>
+        <source>The store ends here: %1 s</source>
+        <translation>資料僅保留至此處：%1 s</translation>
     </message>
 </context>
 <context>
@@ -1699,6 +2172,30 @@ Pa</translation>
     <message>
         <source>Ctrl+L</source>
         <translation>Ctrl+L</translation>
+    </message>
+    <message>
+        <source>Numbers and traces</source>
+        <translation>數值與曲線</translation>
+    </message>
+    <message>
+        <source>&amp;Start recording</source>
+        <translation>開始記錄(&amp;S)</translation>
+    </message>
+    <message>
+        <source>F9</source>
+        <translation>F9</translation>
+    </message>
+    <message>
+        <source>Set &amp;marker</source>
+        <translation>新增標記(&amp;M)</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>Marks this moment in a file beside the recording</source>
+        <translation>在記錄的附屬檔案中標記此刻</translation>
     </message>
 </context>
 <context>
@@ -2320,6 +2817,58 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <source>Starting…</source>
         <translation>正在開始…</translation>
     </message>
+    <message>
+        <source>Stop &amp;after</source>
+        <translation>依時間停止(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Longest time in minutes</source>
+        <translation>最長時間（分鐘）</translation>
+    </message>
+    <message>
+        <source> min</source>
+        <translation> min</translation>
+    </message>
+    <message>
+        <source>Stop a&amp;t</source>
+        <translation>依總大小停止(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Largest size of all files in MiB</source>
+        <translation>所有檔案的總大小上限 (MiB)</translation>
+    </message>
+    <message>
+        <source>&amp;Go on after an unplugged cable</source>
+        <translation>斷線重連後繼續記錄(&amp;G)</translation>
+    </message>
+    <message>
+        <source>When the connection was lost, recording goes on in a new file as soon as the port is open again</source>
+        <translation>連線中斷後，一旦重新開啟序列埠，即在新檔案中繼續記錄</translation>
+    </message>
+    <message>
+        <source>Waiting for the connection to come back</source>
+        <translation>正在等待連線恢復</translation>
+    </message>
+    <message>
+        <source>Recording ended: the time is up</source>
+        <translation>記錄已結束：已達到設定的時間</translation>
+    </message>
+    <message>
+        <source>Recording ended: the size is reached</source>
+        <translation>記錄已結束：已達到設定的大小</translation>
+    </message>
+    <message>
+        <source>Open the port again to go on.</source>
+        <translation>重新開啟序列埠後即可繼續。</translation>
+    </message>
+    <message>
+        <source>A file holds 16 nodes. Not recorded: %1</source>
+        <translation>一個檔案最多容納 16 個節點。未記錄：%1</translation>
+    </message>
+    <message>
+        <source>A file beside the recording cannot be written: %1</source>
+        <translation>無法寫入記錄的附屬檔案：%1</translation>
+    </message>
 </context>
 <context>
     <name>form_settings</name>
@@ -2503,6 +3052,26 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <source>The device refused at least one of %1.</source>
         <translation>裝置至少拒絕了以下命令之一：%1。</translation>
     </message>
+    <message>
+        <source>Save all the same</source>
+        <translation>仍要儲存</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>The device does not answer, although its data arrive. Identify it again.</source>
+        <translation>能收到裝置的資料，但裝置沒有回應。請重新識別。</translation>
+    </message>
+    <message>
+        <source>The answer was damaged on the line. Identify the device again.</source>
+        <translation>回應在線路上損壞。請重新識別裝置。</translation>
+    </message>
+    <message>
+        <source>%1 Hz takes %2 % of what this line carries at %3 baud: samples get lost.</source>
+        <translation>鮑率為 %3 時，%1 Hz 需要占用線路傳輸能力的 %2 %：取樣會遺失。</translation>
+    </message>
 </context>
 <context>
     <name>form_threed</name>
@@ -2668,10 +3237,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>Log</source>
         <translation>日誌</translation>
-    </message>
-    <message>
-        <source>&amp;Copy log</source>
-        <translation>複製日誌(&amp;C)</translation>
     </message>
     <message>
         <source>Copies what is shown above together with the log, for a report</source>
@@ -2918,18 +3483,6 @@ Ready to download firmware.
         <translation>等待連線至啟動載入程式</translation>
     </message>
     <message>
-        <source>Complete</source>
-        <translation>完成</translation>
-    </message>
-    <message>
-        <source>Failed</source>
-        <translation>失敗</translation>
-    </message>
-    <message>
-        <source>The file has changed since it was loaded. Choose it again to load it anew.</source>
-        <translation>檔案在載入後已變更。請重新選擇以再次載入。</translation>
-    </message>
-    <message>
         <source>There is no file at this place: choose an image.</source>
         <translation>此位置沒有檔案：請選擇映像檔。</translation>
     </message>
@@ -3006,40 +3559,12 @@ Ready to download firmware.
         <translation>啟動載入程式仍保留在裝置中：請按一下「連線」，再按一下「燒錄」。</translation>
     </message>
     <message>
-        <source>Connecting to the bootloader…</source>
-        <translation>正在連線至啟動載入程式…</translation>
-    </message>
-    <message>
-        <source>Erasing the flash…</source>
-        <translation>正在抹除快閃記憶體…</translation>
-    </message>
-    <message>
-        <source>Preparing to write…</source>
-        <translation>正在準備寫入…</translation>
-    </message>
-    <message>
-        <source>Writing the image…</source>
-        <translation>正在寫入映像檔…</translation>
-    </message>
-    <message>
-        <source>Restarting the device…</source>
-        <translation>正在重新啟動裝置…</translation>
-    </message>
-    <message>
         <source>The bootloader takes no data: it reports packets of %1 bytes.</source>
         <translation>啟動載入程式無法接收資料：其回報的封包大小為 %1 位元組。</translation>
     </message>
     <message>
         <source>It had reported status %1 before.</source>
         <translation>先前它曾回報狀態 %1。</translation>
-    </message>
-    <message>
-        <source>%1 bytes were written in %2 s, %3 of %4 packets were sent again.</source>
-        <translation>已寫入 %1 位元組，耗時 %2 秒；重送封包 %3 / %4 個。</translation>
-    </message>
-    <message>
-        <source>The device restarts with the new firmware.</source>
-        <translation>裝置將以新韌體重新啟動。</translation>
     </message>
     <message>
         <source>%1 of %2 bytes</source>
@@ -3056,38 +3581,6 @@ Ready to download firmware.
     <message>
         <source>%1 bytes from %2, stack pointer %3, reset vector %4</source>
         <translation>%1 位元組，起始位址 %2，堆疊指標 %3，重置向量 %4</translation>
-    </message>
-    <message>
-        <source>The file begins at %1, but it will be written to %2, where the first file of this run began. Restart the program to write it to its own address.</source>
-        <translation>此檔案的起始位址為 %1，但將寫入 %2，即本次執行中第一個檔案的起始位址。如需寫入其自身位址，請重新啟動本程式。</translation>
-    </message>
-    <message>
-        <source>The image does not fit the %1 KB of flash from this address on.</source>
-        <translation>從此位址起，映像檔超出了 %1 KB 的快閃記憶體空間。</translation>
-    </message>
-    <message>
-        <source>The stack pointer is no word address in RAM.</source>
-        <translation>堆疊指標不是 RAM 中以字組對齊的位址。</translation>
-    </message>
-    <message>
-        <source>The reset vector is no Thumb address inside the image.</source>
-        <translation>重置向量不是映像檔內的 Thumb 位址。</translation>
-    </message>
-    <message>
-        <source>The image is very small for a firmware.</source>
-        <translation>以韌體而言，此映像檔過小。</translation>
-    </message>
-    <message>
-        <source>But the bootloader reported status %1.</source>
-        <translation>但啟動載入程式回報了狀態 %1。</translation>
-    </message>
-    <message>
-        <source>But the bootloader did not confirm the whole image.</source>
-        <translation>但啟動載入程式未確認完整的映像檔。</translation>
-    </message>
-    <message>
-        <source>If the firmware does not start, press Connect and download again.</source>
-        <translation>如果韌體無法啟動，請按一下「連線」並重新燒錄。</translation>
     </message>
     <message>
         <source>Restart device</source>
@@ -3150,8 +3643,80 @@ Ready to download firmware.
         <translation>燒錄已停止。</translation>
     </message>
     <message>
-        <source>Reading the flash back…</source>
-        <translation>正在回讀快閃記憶體…</translation>
+        <source>Download it all the same</source>
+        <translation>仍要燒錄</translation>
+    </message>
+    <message>
+        <source>&amp;Save report…</source>
+        <translation>儲存報告(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>Copy &amp;log</source>
+        <translation>複製日誌(&amp;L)</translation>
+    </message>
+    <message>
+        <source>The report was saved to %1.</source>
+        <translation>報告已儲存至 %1。</translation>
+    </message>
+    <message>
+        <source>The report could not be saved to %1: %2</source>
+        <translation>無法將報告儲存至 %1：%2</translation>
+    </message>
+    <message>
+        <source>The serial port is being opened: press Connect again in a moment.</source>
+        <translation>正在開啟序列埠：請稍後再按一下「連線」。</translation>
+    </message>
+    <message>
+        <source>Nothing was erased and nothing was written: see the reasons above.</source>
+        <translation>未抹除也未寫入任何資料：原因請見上方。</translation>
+    </message>
+    <message>
+        <source>The file %1 is gone: choose another one.</source>
+        <translation>檔案 %1 已不存在：請選擇其他檔案。</translation>
+    </message>
+    <message>
+        <source>The file is not the one that was being written: it has changed since. Press Download to write it as it is now.</source>
+        <translation>此檔案與當時寫入的檔案不同：之後已遭變更。按一下「燒錄」將寫入其目前的內容。</translation>
+    </message>
+    <message>
+        <source>Saves what was done and what has come of it as text</source>
+        <translation>將更新過程與結果儲存為文字</translation>
+    </message>
+    <message>
+        <source>There was no update yet.</source>
+        <translation>尚未進行更新。</translation>
+    </message>
+    <message>
+        <source>Something speaks against this image: tick &quot;%1&quot; to write it.</source>
+        <translation>此映像檔有疑慮：勾選「%1」後才能寫入。</translation>
+    </message>
+    <message>
+        <source>The file has changed since it was loaded. Choose it again to load the new one.</source>
+        <translation>檔案在載入後已遭變更。請重新選擇，以載入新檔案。</translation>
+    </message>
+    <message>
+        <source>Restart the program</source>
+        <translation>重新啟動程式</translation>
+    </message>
+    <message>
+        <source>Use packets of %1 bytes</source>
+        <translation>使用 %1 位元組的封包</translation>
+    </message>
+    <message>
+        <source>Erase all the same</source>
+        <translation>仍要抹除</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>儲存報告</translation>
+    </message>
+    <message>
+        <source>Text Files(*.txt)</source>
+        <translation>文字檔案 (*.txt)</translation>
+    </message>
+    <message>
+        <source>The bootloader is connected: press Download, or Restart device.</source>
+        <translation>啟動載入程式已連線：請按一下「燒錄」或「重新啟動裝置」。</translation>
     </message>
 </context>
 <context>
@@ -3361,6 +3926,253 @@ No frame stream detected.</source>
     <message>
         <source>TOTAL OF NODE</source>
         <translation>節點總數</translation>
+    </message>
+</context>
+<context>
+    <name>verdict_text</name>
+    <message>
+        <source>A packet of %1 bytes cannot be acknowledged within 0.2 s at %2 baud.</source>
+        <translation>鮑率為 %2 時，%1 位元組的封包無法在 0.2 秒內獲得確認。</translation>
+    </message>
+    <message>
+        <source>Packets of %1 bytes can.</source>
+        <translation>%1 位元組的封包則可以。</translation>
+    </message>
+    <message>
+        <source>%1 baud or more is fast enough, too.</source>
+        <translation>改用 %1 或更高的鮑率也夠快。</translation>
+    </message>
+    <message>
+        <source>The image is empty.</source>
+        <translation>映像檔是空的。</translation>
+    </message>
+    <message>
+        <source>The file begins at %1, but it would be written to %2, where the first file of this run began. Restart the program to write it to its own address.</source>
+        <translation>檔案的起始位址為 %1，但會寫入 %2，即本次執行中第一個檔案的起始位址。若要將其寫入本身的位址，請重新啟動程式。</translation>
+    </message>
+    <message>
+        <source>The bootloader takes no data: it reports packets of %1 bytes.</source>
+        <translation>啟動載入程式無法接收資料：其回報的封包大小為 %1 位元組。</translation>
+    </message>
+    <message>
+        <source>The image does not fit the %1 KB of flash from this address on.</source>
+        <translation>從此位址起，映像檔超出了 %1 KB 的快閃記憶體空間。</translation>
+    </message>
+    <message>
+        <source>This chip has not ended an erase of this size within 1.5 s before, and the protocol waits no longer: it would be erased and not written.</source>
+        <translation>此晶片先前未能在 1.5 秒內完成此大小的抹除，而協定最多等待 1.5 秒：晶片會被抹除，卻無法寫入。</translation>
+    </message>
+    <message>
+        <source>The file has no end record: a part of it may be missing.</source>
+        <translation>檔案沒有結束記錄：可能缺少一部分內容。</translation>
+    </message>
+    <message>
+        <source>The file has data after a blank line, where the image ends: they would not be written.</source>
+        <translation>檔案在空行之後還有資料，而映像檔到空行為止：這些資料不會寫入。</translation>
+    </message>
+    <message>
+        <source>The file has data after a start address or an unknown record, where the image ends: they would not be written.</source>
+        <translation>檔案在起始位址記錄或未知記錄之後還有資料，而映像檔到該記錄為止：這些資料不會寫入。</translation>
+    </message>
+    <message>
+        <source>The file has data after its end record: they would not be written.</source>
+        <translation>檔案在結束記錄之後還有資料：這些資料不會寫入。</translation>
+    </message>
+    <message>
+        <source>The image does not begin at a sector of %1 bytes: what stands before it in its sector is erased, too.</source>
+        <translation>映像檔不是從磁區（%1 位元組）的起點開始：同一磁區中位於映像檔之前的內容也會被抹除。</translation>
+    </message>
+    <message>
+        <source>The update before was for %1, this one is for %2.</source>
+        <translation>上次更新的位址為 %1，本次為 %2。</translation>
+    </message>
+    <message>
+        <source>The image&apos;s build of %1 is older than the device&apos;s: %2.</source>
+        <translation>映像檔的組建日期為 %1，早於裝置的組建：%2。</translation>
+    </message>
+    <message>
+        <source>The stack pointer is no word address in RAM.</source>
+        <translation>堆疊指標不是 RAM 中以字組對齊的位址。</translation>
+    </message>
+    <message>
+        <source>The reset vector is no Thumb address inside the image.</source>
+        <translation>重置向量不是映像檔內的 Thumb 位址。</translation>
+    </message>
+    <message>
+        <source>The image is very small for a firmware.</source>
+        <translation>以韌體而言，此映像檔過小。</translation>
+    </message>
+    <message>
+        <source>Not verified: this bootloader cannot read the flash back.</source>
+        <translation>未驗證：此啟動載入程式無法回讀快閃記憶體。</translation>
+    </message>
+    <message>
+        <source>Not verified: the chip is locked against reading.</source>
+        <translation>未驗證：晶片已啟用讀取保護。</translation>
+    </message>
+    <message>
+        <source>Not verified: the bootloader refused to read the flash back (status %1).</source>
+        <translation>未驗證：啟動載入程式拒絕回讀快閃記憶體（狀態 %1）。</translation>
+    </message>
+    <message>
+        <source>Not verified: reading the flash back did not come to its end.</source>
+        <translation>未驗證：快閃記憶體回讀未能完成。</translation>
+    </message>
+    <message>
+        <source>%1 packets were sent again after silence and may have been written twice: the firmware may be wrong even if it starts.</source>
+        <translation>%1 個封包因無回應而重送，可能寫入了兩次：韌體即使能啟動，也可能有誤。</translation>
+    </message>
+    <message>
+        <source>But the bootloader reported status %1.</source>
+        <translation>但啟動載入程式回報了狀態 %1。</translation>
+    </message>
+    <message>
+        <source>But the bootloader did not confirm the whole image.</source>
+        <translation>但啟動載入程式未確認完整的映像檔。</translation>
+    </message>
+    <message>
+        <source>The flash was read back: it is the image.</source>
+        <translation>已回讀快閃記憶體：內容與映像檔一致。</translation>
+    </message>
+    <message>
+        <source>%1 bytes were written in %2 s, %3 of %4 packets were sent again.</source>
+        <translation>已寫入 %1 位元組，耗時 %2 秒；重送封包 %3 / %4 個。</translation>
+    </message>
+    <message>
+        <source>Reading the flash back found wrong bytes: %1, the first at %2.</source>
+        <translation>回讀快閃記憶體時發現錯誤位元組：共 %1 個，第一個位於 %2。</translation>
+    </message>
+    <message>
+        <source>The device was not restarted: this firmware must not run.</source>
+        <translation>裝置未重新啟動：此韌體不可執行。</translation>
+    </message>
+    <message>
+        <source>The bootloader stays in the device: press Connect, then Download.</source>
+        <translation>啟動載入程式仍保留在裝置中：請按一下「連線」，再按一下「燒錄」。</translation>
+    </message>
+    <message>
+        <source>Reading the flash back was stopped.</source>
+        <translation>快閃記憶體回讀已停止。</translation>
+    </message>
+    <message>
+        <source>The connection to the device was lost.</source>
+        <translation>與裝置的連線已中斷。</translation>
+    </message>
+    <message>
+        <source>The image was written, but nothing proves that it is right.</source>
+        <translation>映像檔已寫入，但無法證明其正確。</translation>
+    </message>
+    <message>
+        <source>Check the cable, open the port again and press Connect.</source>
+        <translation>請檢查連接線，重新開啟序列埠，然後按一下「連線」。</translation>
+    </message>
+    <message>
+        <source>Connecting to the bootloader…</source>
+        <translation>正在連線至啟動載入程式…</translation>
+    </message>
+    <message>
+        <source>Checking the image…</source>
+        <translation>正在檢查映像檔…</translation>
+    </message>
+    <message>
+        <source>Erasing the flash…</source>
+        <translation>正在抹除快閃記憶體…</translation>
+    </message>
+    <message>
+        <source>Writing the image…</source>
+        <translation>正在寫入映像檔…</translation>
+    </message>
+    <message>
+        <source>Reading the flash back…</source>
+        <translation>正在回讀快閃記憶體…</translation>
+    </message>
+    <message>
+        <source>Restarting the device…</source>
+        <translation>正在重新啟動裝置…</translation>
+    </message>
+    <message>
+        <source>Waiting for the device…</source>
+        <translation>正在等待裝置…</translation>
+    </message>
+    <message>
+        <source>Verified</source>
+        <translation>已驗證</translation>
+    </message>
+    <message>
+        <source>Not verified</source>
+        <translation>未驗證</translation>
+    </message>
+    <message>
+        <source>Doubtful</source>
+        <translation>存疑</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>Same build</source>
+        <translation>版本未變</translation>
+    </message>
+    <message>
+        <source>Did not come back</source>
+        <translation>裝置未恢復</translation>
+    </message>
+    <message>
+        <source>The folder takes no files: after a crash nothing would have reminded you.</source>
+        <translation>資料夾無法寫入：假如程式當機，之後不會有任何提醒。</translation>
+    </message>
+    <message>
+        <source>The device is back with its new firmware.</source>
+        <translation>裝置已恢復，正在執行新韌體。</translation>
+    </message>
+    <message>
+        <source>The device is back. If it does not work as it should, press Connect and download again.</source>
+        <translation>裝置已恢復。如果運作不正常，請按一下「連線」並重新燒錄。</translation>
+    </message>
+    <message>
+        <source>Press Connect and download again, at a higher baud rate if there is one.</source>
+        <translation>請按一下「連線」並重新燒錄；如有更高的鮑率可用，請改用。</translation>
+    </message>
+    <message>
+        <source>But the device is back with the build that it had before.</source>
+        <translation>但裝置恢復後，版本仍與先前相同。</translation>
+    </message>
+    <message>
+        <source>Check that this is the file that you meant.</source>
+        <translation>請確認所選檔案是否正確。</translation>
+    </message>
+    <message>
+        <source>Check that this is the file that you meant, then press Connect and download again.</source>
+        <translation>請確認所選檔案是否正確，然後按一下「連線」並重新燒錄。</translation>
+    </message>
+    <message>
+        <source>But the device has not introduced itself since its restart.</source>
+        <translation>但裝置重新啟動後尚未回報本身的資訊。</translation>
+    </message>
+    <message>
+        <source>Unplug it and plug it in again, and open its port: the new firmware may use another baud rate. If its bootloader answers there, this window opens by itself.</source>
+        <translation>請拔下裝置後重新插入，並開啟其序列埠：新韌體可能使用其他鮑率。如果啟動載入程式在該序列埠回應，此視窗會自動開啟。</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>Before: %1 · Now: %2</source>
+        <translation>先前：%1 · 現在：%2</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>The update of %1 with %2, begun %3, was written to the end, but it is not proved that it is right.</source>
+        <translation>以 %2 對 %1 進行的更新（開始於 %3）已全部寫入，但未能證明其正確。</translation>
+    </message>
+    <message>
+        <source>The update of %1 with %2, begun %3, was interrupted at %4 of %5 bytes.</source>
+        <translation>以 %2 對 %1 進行的更新（開始於 %3）在 %4 / %5 位元組處中斷。</translation>
     </message>
 </context>
 </TS>

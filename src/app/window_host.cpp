@@ -38,6 +38,7 @@ bool WindowHost::eventFilter(QObject *watched, QEvent *event)
         if (!event->spontaneous()) {
             m_fittedSize = {};
             m_neededHeight = 0;
+            m_isPlaced = m_hasPlace || !m_window->pos().isNull();
             fit();
             fitSoon(); // the window manager tells the frame later
         }
@@ -47,6 +48,10 @@ bool WindowHost::eventFilter(QObject *watched, QEvent *event)
             window_place::store(m_window, m_key);
             m_hasPlace = true;
         }
+        break;
+    case QEvent::Move:
+        if (m_window->isVisible() && !std::exchange(m_isPlaced, true))
+            fitSoon();
         break;
     case QEvent::Resize:
         if (event->spontaneous()) // by the user
@@ -100,7 +105,9 @@ void WindowHost::fit()
     if (now.size() == m_fittedSize && m_window->isVisible())
         return;
     const QRect fitted = window_place::fitted(now, m_window->screen(), handle);
-    if (fitted != now)
+    if (!m_isPlaced)
+        m_window->resize(fitted.size());
+    else if (fitted != now)
         m_window->setGeometry(fitted);
     m_fittedSize = fitted.size();
 }

@@ -46,5 +46,6 @@ private:
     int m_neededHeight = 0;        ///< of the content; the window grows with it
     QSize m_fittedSize;            ///< it has been inside the screen with
     bool m_hasPlace = false;
+    bool m_isPlaced = false; ///< since it was shown; before, the window manager is free to place it
     bool m_isFitPending = false;
 };
