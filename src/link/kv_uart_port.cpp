@@ -41,7 +41,7 @@ KvUartPort::KvUartPort(QObject *parent)
     connect(m_kboot.get(), &KbootProtocol::pingAnswered, this, &KvUartPort::onPingAnswered);
     connect(m_secondTimer.get(), &QTimer::timeout, this, &KvUartPort::onTimer1000ms);
     m_secondTimer->setInterval(kSecondMs);
-    m_workerThread->setObjectName(QStringLiteral("KvUartPort")); // as debuggers and process lists show it
+    m_workerThread->setObjectName(QStringLiteral("KvUartPort")); // shown by debuggers and process lists
 }
 
 KvUartPort::~KvUartPort()
@@ -55,7 +55,7 @@ void KvUartPort::openUART(const QString &portName, int baud)
         stopInWorker();
         waitForWorker(QDeadlineTimer::Forever);
     }
-    clear(); // nobody is to take the last connection's figures for those of this one
+    clear(); // the last connection's figures must not pass for those of this one
     m_portName = portName;
     m_baudRate = baud;
     m_startPending = true;
@@ -89,8 +89,8 @@ bool KvUartPort::waitForWorker(QDeadlineTimer deadline)
 
 void KvUartPort::threadStarted()
 {
-    // A close right behind an open overtakes the start, which then arrives in the main thread, or in the next session
-    // as a second start. Neither may open the port.
+    // A close right after an open overtakes the start, which then arrives in the main thread, or in the next session as
+    // a second start. Neither may open the port.
     if (!m_startPending || QThread::currentThread() != m_workerThread.get())
         return;
     m_startPending = false;
@@ -123,7 +123,7 @@ void KvUartPort::threadStopped()
     m_secondTimer->stop();
     publishHealth();
     AppLog::logfile(QtInfoMsg, QStringLiteral("uart-thread stopped."));
-    if (m_bootloaderBusy) { // and waits below on this thread's stack
+    if (m_bootloaderBusy) { // and is waiting further down this thread's stack
         m_kboot->cancel();
         m_moveHomeAfterwards = true;
         return;
@@ -153,8 +153,8 @@ void KvUartPort::onReadyRead()
 
 void KvUartPort::onErrorOccurred(QSerialPort::SerialPortError error)
 {
-    // A device that has vanished stays readable and fails at every read, so that an open port would report errors by
-    // the thousand. Queued, because the port may not be closed from inside its own notifier.
+    // A device that has vanished stays readable and fails at every read, so an open port would report errors by the
+    // thousand. Queued, because the port may not be closed from inside its own notifier.
     if (isOpen() && (error == QSerialPort::ReadError || error == QSerialPort::ResourceError)) {
         close();
         m_kboot->cancel();
@@ -192,7 +192,7 @@ bool KvUartPort::serialSendBlocking(const QByteArray &data, int timeoutMs)
 {
     if (!isOpen())
         return false;
-    // Not by serialSend(), which waits as well while a bootloader is connected: a wait for bytes that are already out
+    // Not through serialSend(), which also waits while a bootloader is connected: a wait for bytes that are already out
     // fails, and counts as an error of the port.
     writeCounted(data);
     return waitForBytesWritten(timeoutMs);
@@ -332,7 +332,7 @@ void KvUartPort::cancelBootloader()
     m_kboot->cancel(BootloaderFault::Stopped);
 }
 
-/// False while another operation waits below on the stack.
+/// False while another operation is waiting further down the stack.
 bool KvUartPort::beginBootloader()
 {
     return !m_bootloaderBusy.exchange(true);
@@ -374,7 +374,7 @@ quint32 KvUartPort::loadPercent(quint64 bytes, int bitsPerSecond, int bitsPerCha
 void KvUartPort::onTimer1000ms()
 {
     publishHealth();
-    // The settings' values as the library numbers them, plus the start bit: 8 + 0 + 1 + 1 = 10 for 8N1.
+    // The values of the library's enumerators, plus the start bit: 8 + 0 + 1 + 1 = 10 for 8N1.
     const int bitsPerCharacter = int(dataBits()) + int(parity()) + int(stopBits()) + 1;
     const QMutexLocker lock(&m_statsMutex);
     m_lastSecond.txBytesLastSecond = m_txBytes;
