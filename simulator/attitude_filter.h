@@ -10,7 +10,7 @@ namespace kvsim {
 class AttitudeFilter
 {
 public:
-    /// Takes the next measurement, `stepSeconds` after the one before; the first one sets the tilt at once.
+    /// Takes the next measurement, `stepSeconds` after the previous one; the first one sets the tilt at once.
     /// @param gyr angular rate, deg/s  @param acc specific force, G
     /// @return the attitude after this measurement, always of length 1
     Quaternion update(const Vector3 &gyr, const Vector3 &acc, double stepSeconds);

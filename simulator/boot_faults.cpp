@@ -22,7 +22,7 @@ QString BootFaults::plan(Verdict verdict, const QString &text)
 
 BootFaults::Verdict BootFaults::judge()
 {
-    // The generator's own bits, because the distributions of the standard library differ between its makers.
+    // Uses the generator's raw bits, because the standard library's distributions differ between implementations.
     const bool byChance = refusedPercent > 0.0 && double(m_random() >> 11) * 0x1.0p-53 * 100.0 < refusedPercent;
     Verdict verdict = byChance ? Verdict::Refuse : Verdict::Take;
     for (int i = 0; i < int(std::size(m_plans)); ++i) {

@@ -58,7 +58,7 @@ std::optional<PacketReader::Packet> PacketReader::take(char byte)
     const auto type = PacketType(quint8(m_packet[1]));
     if (type != PacketType::Command && type != PacketType::Data) {
         m_packet.clear();
-        if (byte == kStart) // perhaps this one begins a packet
+        if (byte == kStart) // this byte may begin a packet
             m_packet += byte;
         switch (type) {
         case PacketType::Ping:

@@ -31,7 +31,7 @@ QByteArray encodeShortPacket(PacketType type);
 ///     8  u16  CRC over bytes 0..7
 QByteArray encodePingResponse();
 
-/// A response packet: framed like a data packet but for its type, and in it
+/// A response packet: framed like a data packet apart from its type, containing
 ///
 ///     0  u8   response tag: A0 generic, A3 to read-memory, A7 to get-property
 ///     1  u8   flags, 1: data packets follow
@@ -39,12 +39,12 @@ QByteArray encodePingResponse();
 ///     3  u8   parameter count
 ///     4       parameters, u32 each; generic: status and command tag; get-property: status and value
 ///
-/// @param parameters as bytes; a length that is no multiple of 4 is sent as it stands
+/// @param parameters as bytes; a length that is not a multiple of 4 is sent as is
 QByteArray encodeResponse(quint8 tag, const QByteArray &parameters, quint8 flags = 0);
 
 QByteArray littleEndian(std::initializer_list<quint32> words);
 
-/// Finds the host's packets in a stream of bytes. What is no packet is skipped.
+/// Finds the host's packets in a stream of bytes. Anything else is skipped.
 class PacketReader
 {
 public:
@@ -55,13 +55,13 @@ public:
         QByteArray payload; ///< of Command and Data
     };
 
-    /// Packets with a longer payload are Damaged as soon as their header is there.
+    /// Packets with a longer payload are Damaged as soon as their header has arrived.
     void setMaxPayload(qsizetype bytes) { m_maxPayload = bytes; }
     /// Takes the next byte. @return the packet that it completes
     std::optional<Packet> take(char byte);
-    /// Forgets the packet begun.
+    /// Forgets a packet in progress.
     void reset() { m_packet.clear(); }
-    /// No packet is begun.
+    /// No packet is in progress.
     bool isIdle() const { return m_packet.isEmpty(); }
 
 private:

@@ -37,7 +37,7 @@ enum Status : quint32 {
 
 constexpr quint32 kVersion = 0x4B020103; // 'K', 2.1.3
 constexpr quint32 kDeviceId = 0x1A2B3C4D;
-/// Bit tag - 1 for each command that is offered.
+/// Bit tag - 1 for each command offered.
 constexpr quint32 kCommands = 1U << (EraseAll - 1) | 1U << (EraseRegion - 1) | 1U << (WriteMemory - 1)
                               | 1U << (GetProperty - 1) | 1U << (Execute - 1) | 1U << (Reset - 1);
 constexpr quint32 kReadCommand = 1U << (ReadMemory - 1);
@@ -130,7 +130,7 @@ void Bootloader::handle(const PacketReader::Packet &packet)
     }
 }
 
-/// The host's answers to what is read.
+/// The host's answers to the data it reads.
 void Bootloader::handleShort(PacketReader::Kind kind)
 {
     if (!m_read.isActive())

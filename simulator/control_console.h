@@ -12,8 +12,8 @@ namespace kvsim {
 
 class Simulator;
 
-/// Run-time controls: lines of text, such as "noise 3" or "unplug". Every line has an answer whose last line is "ok" or
-/// "error: ..." with a reason; "stats" has one line before it. Controls may also be given as options of the program.
+/// Run-time controls: lines of text, such as "noise 3" or "unplug". Every line gets an answer whose last line is "ok"
+/// or "error: ..." with a reason; "stats" has one line before it. Controls may also be given as options of the program.
 class ControlConsole : public QObject
 {
     Q_OBJECT
@@ -26,7 +26,7 @@ public:
     explicit ControlConsole(Simulator &simulator, QObject *parent = nullptr);
     ~ControlConsole() override;
 
-    /// Carries one line out. @return the lines of the answer
+    /// Executes one line. @return the lines of the answer
     QStringList execute(const QString &line);
 
     /// Reads lines from a descriptor from now on; each is answered by answered().

@@ -12,10 +12,10 @@ namespace {
 
 constexpr int kMaxClockMs = std::numeric_limits<int>::max();
 
-// What kind of value stands behind a control's name.
+// The kind of value that follows a control's name.
 enum class Argument { None, Switch, Rate, Integer, Values, Packets, Text };
 
-// A control's value, read and checked by its kind.
+// A control's value, read and checked according to its kind.
 struct Value
 {
     double rate = 0.0;
@@ -29,16 +29,16 @@ struct Control
 {
     const char *name; // one word or two
     Argument argument;
-    int low; // of a number
+    int low; // range of a number
     int high;
     const char *text;
-    // Returns an empty text, or why it does not work.
+    // Returns an empty text, or why it failed.
     QString (*run)(Simulator &simulator, const Value &value);
 };
 
 QString noGateway()
 {
-    return QStringLiteral("the device is no gateway");
+    return QStringLiteral("the device is not a gateway");
 }
 
 template <typename Set> QString onNodes(Simulator &simulator, Set set)
@@ -65,16 +65,16 @@ constexpr std::array kControls{
             [](Simulator &s, const Value &v) { s.faults().setDropRate(v.rate); return QString(); }},
     Control{"insert", Argument::Rate, 0, int(FaultInjector::kMaxRate), "insert bytes, this many per kilobyte",
             [](Simulator &s, const Value &v) { s.faults().setInsertRate(v.rate); return QString(); }},
-    Control{"gap", Argument::Integer, 1, 600'000, "send and hear nothing for so many ms, once",
+    Control{"gap", Argument::Integer, 1, 600'000, "send and hear nothing for this many ms, once",
             [](Simulator &s, const Value &v) { s.silenceFor(v.integer); return QString(); }},
-    Control{"burst", Argument::Integer, 1, 64, "hold frames back, send so many at once (1: off)",
+    Control{"burst", Argument::Integer, 1, 64, "hold frames back, send this many at once (1: off)",
             [](Simulator &s, const Value &v) { s.setBurst(v.integer); return QString(); }},
     Control{"silent", Argument::Switch, 0, 0, "send and hear nothing",
             [](Simulator &s, const Value &v) { s.setSilent(v.on); return QString(); }},
     Control{"deaf", Argument::Switch, 0, 0, "stream, but hear no commands",
             [](Simulator &s, const Value &v) { s.setDeaf(v.on); return QString(); }},
     Control{"garbage", Argument::Integer, 0, GarbageSource::kMaxBytesPerSecond,
-            "random bytes per second for data, no answers (0: off)",
+            "random bytes per second instead of data, no answers (0: off)",
             [](Simulator &s, const Value &v) { s.setGarbage(v.integer); return QString(); }},
     Control{"unplug", Argument::None, 0, 0, "close the port, remove the link",
             [](Simulator &s, const Value &) { s.unplug(); return QString(); }},
@@ -84,7 +84,7 @@ constexpr std::array kControls{
             [](Simulator &s, const Value &v) {
                 return s.setNodes(v.integer) ? QString() : noGateway();
             }},
-    Control{"node miss", Argument::Text, 0, 0, "N|all:PERCENT of its records missing, by chance",
+    Control{"node miss", Argument::Text, 0, 0, "N|all:PERCENT of its records missing at random",
             [](Simulator &s, const Value &v) {
                 return onNodes(s, [&v](RadioNodes &nodes) { return nodes.setMissing(v.text); });
             }},
@@ -112,9 +112,9 @@ constexpr std::array kControls{
             [](Simulator &s, const Value &v) {
                 return onNodes(s, [&v](RadioNodes &nodes) { return nodes.setAttitude(v.text); });
             }},
-    Control{"clock set", Argument::Integer, 0, kMaxClockMs, "device time is so many ms now; 0: it restarts",
+    Control{"clock set", Argument::Integer, 0, kMaxClockMs, "set device time to this many ms; 0: it restarts",
             [](Simulator &s, const Value &v) { s.setClock(v.integer); return QString(); }},
-    Control{"clock distance", Argument::Integer, 0, kMaxClockMs, "batches 63 are so many ms ahead of batches 62",
+    Control{"clock distance", Argument::Integer, 0, kMaxClockMs, "batches 63 are this many ms ahead of batches 62",
             [](Simulator &s, const Value &v) {
                 return s.setClockDistance(v.integer) ? QString() : noGateway();
             }},
@@ -133,9 +133,9 @@ constexpr std::array kControls{
     Control{"reply", Argument::Integer, 0, DeviceModel::kMaxReplyMegabytes,
             "information reply of so many megabytes (0: off)",
             [](Simulator &s, const Value &v) { return infoReply(s, InfoReply::Huge, v.integer > 0, v.integer); }},
-    Control{"reply-delay", Argument::Integer, 0, 60'000, "text replies come so many ms later",
+    Control{"reply-delay", Argument::Integer, 0, 60'000, "text replies come this many ms later",
             [](Simulator &s, const Value &v) { s.setReplyDelay(v.integer); return QString(); }},
-    Control{"refuse", Argument::Text, 0, 0, "ERROR to commands that begin so; none: off",
+    Control{"refuse", Argument::Text, 0, 0, "ERROR to commands that begin with this; none: off",
             [](Simulator &s, const Value &v) {
                 s.device().setRefused(v.text == u"none" ? QByteArray() : v.text.toUpper().toUtf8());
                 return QString();
@@ -146,7 +146,7 @@ constexpr std::array kControls{
             [](Simulator &s, const Value &v) { return infoReply(s, InfoReply::WrongModel, v.on); }},
     Control{"restart", Argument::None, 0, 0, "cut the power for a moment",
             [](Simulator &s, const Value &) { s.restart(); return QString(); }},
-    Control{"flash dump", Argument::Text, 0, 0, "write the flash's contents into a file",
+    Control{"flash dump", Argument::Text, 0, 0, "write the contents of the flash to a file",
             [](Simulator &s, const Value &v) { return s.device().bootloader().flash().dump(v.text); }},
     Control{"bootloader mute-ping", Argument::Switch, 0, 0, "leave pings unanswered",
             [](Simulator &s, const Value &v) { bootFaults(s).mutePing = v.on; return QString(); }},
@@ -155,7 +155,7 @@ constexpr std::array kControls{
             [](Simulator &s, const Value &v) { bootFaults(s).propertyBytes = v.integer; return QString(); }},
     Control{"bootloader nak", Argument::Packets, 0, 0, "refuse the N-th data packet from now",
             [](Simulator &s, const Value &v) { return bootFaults(s).plan(BootFaults::Verdict::Refuse, v.text); }},
-    Control{"bootloader nak-share", Argument::Rate, 0, 100, "refuse so many percent by chance",
+    Control{"bootloader nak-share", Argument::Rate, 0, 100, "refuse this many percent at random",
             [](Simulator &s, const Value &v) { bootFaults(s).refusedPercent = v.rate; return QString(); }},
     Control{"bootloader abort", Argument::Packets, 0, 0, "end the data phase there",
             [](Simulator &s, const Value &v) { return bootFaults(s).plan(BootFaults::Verdict::Abort, v.text); }},
@@ -167,7 +167,7 @@ constexpr std::array kControls{
             [](Simulator &s, const Value &v) { return bootFaults(s).plan(BootFaults::Verdict::NoAck, v.text); }},
     Control{"bootloader flip", Argument::Packets, 0, 0, "take it with one bit wrong in flash",
             [](Simulator &s, const Value &v) { return bootFaults(s).plan(BootFaults::Verdict::Flip, v.text); }},
-    Control{"bootloader drop", Argument::Packets, 0, 0, "acknowledge it, and do not take it",
+    Control{"bootloader drop", Argument::Packets, 0, 0, "acknowledge it, but do not program it",
             [](Simulator &s, const Value &v) { return bootFaults(s).plan(BootFaults::Verdict::Drop, v.text); }},
     Control{"bootloader status", Argument::Packets, 0, 0, "abort there, and report status 105",
             [](Simulator &s, const Value &v) { return bootFaults(s).plan(BootFaults::Verdict::Status, v.text); }},
@@ -183,7 +183,7 @@ constexpr std::array kControls{
             [](Simulator &s, const Value &v) { bootFaults(s).eraseMs = v.integer; return QString(); }},
     Control{"bootloader trickle-ms", Argument::Integer, 0, 1000, "pause before each byte of an answer",
             [](Simulator &s, const Value &v) { bootFaults(s).trickleMs = v.integer; return QString(); }},
-    Control{"bootloader stale-ms", Argument::Integer, 0, 1000, "acknowledge again, so late (0: off)",
+    Control{"bootloader stale-ms", Argument::Integer, 0, 1000, "acknowledge again after this time (0: off)",
             [](Simulator &s, const Value &v) { bootFaults(s).staleMs = v.integer; return QString(); }},
 };
 // clang-format on

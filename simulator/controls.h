@@ -6,8 +6,8 @@ namespace kvsim {
 
 class Simulator;
 
-/// Carries out a control that changes the device, such as "noise 3" or "vibration add 50:0.2:z".
-/// @return an empty text, or why it does not work
+/// Executes a control that changes the device, such as "noise 3" or "vibration add 50:0.2:z".
+/// @return an empty text, or why it failed
 QString runControl(Simulator &simulator, const QString &line);
 
 /// Table of all controls, for the manual.

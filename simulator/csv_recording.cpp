@@ -120,7 +120,7 @@ std::optional<CsvRecording> CsvRecording::read(QIODevice &device, AxisConvention
     qint64 bytesRead = 0;
     qint64 lineNumber = 0;
     const auto nextLine = [&](QByteArray &line) {
-        // One byte more than allowed tells a line that is too long from one that just fits.
+        // One byte more than allowed distinguishes a line that is too long from one that just fits.
         line = device.readLine(kMaxLineBytes + 2);
         bytesRead += line.size();
         ++lineNumber;

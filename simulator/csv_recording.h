@@ -12,15 +12,15 @@ class QIODevice;
 
 namespace kvsim {
 
-/// A recording of an inertial sensor read from a CSV file, with an attitude worked out for each row.
+/// A recording of an inertial sensor read from a CSV file, with an attitude computed for each row.
 ///
 /// The first line names the columns; they are found by name, in any order and letter case, and others are ignored:
-/// "Time (s)", "Gyroscope X (deg/s)" and "Accelerometer X (g)" with Y and Z, and, if all three are there,
-/// "Magnetometer X (uT)" with Y and Z. Without a magnetometer the field follows from the attitude. Rows that cannot be
-/// read (missing or non-finite values, more than 1e6 in size) are left out and counted.
+/// "Time (s)", "Gyroscope X (deg/s)" and "Accelerometer X (g)" with Y and Z, and, if all three are there, "Magnetometer
+/// X (uT)" with Y and Z. Without a magnetometer the field follows from the attitude. Rows that cannot be read (missing
+/// or non-finite values, magnitudes over 1e6) are left out and counted.
 ///
 /// The file is taken as hostile: lines are at most 8 KiB, and reading ends after kMaxRows rows or kMaxBytes bytes, so
-/// memory stays below some 250 MiB whatever the file holds.
+/// memory stays below about 250 MiB whatever the file holds.
 class CsvRecording
 {
 public:
@@ -29,17 +29,17 @@ public:
 
     /// Reads a regular file. Nothing is returned on failure, and `error` says why in one sentence.
     static std::optional<CsvRecording> load(const QString &path, AxisConvention convention, QString *error);
-    /// The same from an open device; never reads beyond the limits above.
+    /// The same from an open device; never reads beyond these limits.
     static std::optional<CsvRecording> read(QIODevice &device, AxisConvention convention, QString *error);
 
     std::size_t rowCount() const { return m_rows.size(); }
     qint64 skippedRows() const { return m_skippedRows; }
-    /// The file was longer than the limits allow and its end was left out.
+    /// The file exceeded the limits and its end was left out.
     bool truncated() const { return m_truncated; }
     /// One over the median time step of the rows, within 1..2000; 100 when the times do not advance.
     double rateHz() const { return m_rateHz; }
 
-    /// The sample of a row; rows are counted round and round, so any number is valid.
+    /// The sample of a row; the row number wraps around, so any number is valid.
     ImuSample sampleAt(quint64 row) const;
 
 private:

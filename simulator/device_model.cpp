@@ -112,7 +112,7 @@ QByteArray DeviceModel::execute(const QByteArray &line, qint64 nowNs)
         return kOk;
     }
 
-    // What is left sets one number: "AT+NAME=n", or "CONFIG ATT MODE n".
+    // The remaining commands set one number: "AT+NAME=n", or "CONFIG ATT MODE n".
     constexpr char kModePrefix[] = "CONFIG ATT MODE ";
     const qsizetype equals = line.indexOf('=');
     QByteArray name = line.left(equals);
@@ -174,7 +174,7 @@ QByteArray DeviceModel::infoReply() const
     return reply + userConfigReply() + kOk;
 }
 
-/// The build that an image in the flash carries as a text, else that of the factory's firmware.
+/// The build that an image in the flash contains as text, otherwise that of the factory firmware.
 QByteArray DeviceModel::buildLine() const
 {
     constexpr qsizetype kDateBytes = 10;

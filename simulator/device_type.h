@@ -13,7 +13,7 @@ namespace kvsim {
 enum class Dialect {
     Legacy,  ///< single module with AT-style commands, forward-left-up axes
     Text,    ///< single module with text commands ("CONFIG ATT MODE 0"), right-forward-up axes
-    Gateway, ///< wireless gateway: AT-style, no settings of its own, forward-left-up axes
+    Gateway, ///< wireless gateway: AT-style, without settings, forward-left-up axes
 };
 
 /// One row of the table of devices that can be simulated. Rows live as long as the program.
@@ -37,7 +37,7 @@ std::span<const DeviceType> deviceTypes();
 /// The row with that name, or null.
 const DeviceType *findDeviceType(const QString &name);
 
-/// What a device sends. Dynamic is the gateway's: batches of both kinds in turn.
+/// What a device sends. Dynamic is for gateways: batches of both kinds alternate.
 enum class LayoutChoice { Full91, Compact93, Items, Batch62, Batch63, Dynamic };
 
 } // namespace kvsim

@@ -11,7 +11,7 @@ double FaultInjector::chance(double perKilobyte)
 
 bool FaultInjector::strikes(double probability)
 {
-    // The distributions of the standard library differ between its makers; the generator's own bits do not.
+    // The standard library's distributions differ between implementations; the generator's raw bits do not.
     return probability > 0.0 && double(m_random() >> 11) * 0x1.0p-53 < probability;
 }
 

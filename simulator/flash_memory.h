@@ -5,9 +5,9 @@
 
 namespace kvsim {
 
-/// The program memory of a device. Erased bytes are FF and programming can only clear bits, as in real flash: what is
-/// written without an erase before is damaged. It starts filled with a pattern that stands for the factory's firmware.
-/// It is found at its base address and, like on many controllers, at address 0 as well.
+/// The program memory of a device. Erased bytes are FF and programming can only clear bits, as in real flash: data
+/// written without an erase first are damaged. It starts filled with a pattern that represents the factory firmware. It
+/// appears at its base address and, as on many controllers, also at address 0.
 class FlashMemory
 {
 public:
@@ -24,9 +24,9 @@ public:
     const Geometry &geometry() const { return m_geometry; }
     const QByteArray &contents() const { return m_contents; }
 
-    /// The range lies in the flash as a whole. An empty range only has to begin in it, or at its end.
+    /// The whole range lies in the flash. An empty range only has to begin in it, or at its end.
     bool contains(quint32 address, quint32 count) const;
-    /// Erases all sectors that the range touches. @return false, with nothing done, when it is not contained
+    /// Erases all sectors that the range touches. @return false, with nothing changed, when the range is not contained
     bool erase(quint32 address, quint32 count);
     /// @return false, with nothing done, when the range is not contained
     bool program(quint32 address, QByteArrayView bytes);
@@ -34,7 +34,7 @@ public:
     /// Empty when the range is not contained.
     QByteArray read(quint32 address, quint32 count) const;
 
-    /// Writes all contents, base first, into a file. @return an empty text, or why not
+    /// Writes all contents, base first, to a file. @return an empty text, or why not
     QString dump(const QString &path) const;
 
 private:

@@ -6,12 +6,12 @@
 
 namespace kvsim {
 
-/// Says when frames are due: frame k at start + k / rate, counted and never summed up, so that no error grows however
-/// late or unevenly it is asked. Times are nanoseconds of one monotonic clock.
+/// Says when frames are due: frame k at start + k / rate, computed by counting, not by adding up, so that no error
+/// accumulates however late or irregularly it is called. Times are nanoseconds of one monotonic clock.
 class FrameClock
 {
 public:
-    /// A pause longer than this (a stopped process, a sleeping computer) is skipped instead of being caught up with.
+    /// A pause longer than this (a stopped process, a sleeping computer) is skipped instead of being caught up.
     static constexpr qint64 kLongestCatchUpNs = 500'000'000;
 
     /// Begins a new count; the first frame is due at `nowNs`.

@@ -6,7 +6,7 @@
 
 namespace kvsim {
 
-/// Random bytes at a steady rate, as a line at the wrong baud rate brings them. Times are nanoseconds of any monotonic
+/// Random bytes at a steady rate, as received on a line at the wrong baud rate. Times are nanoseconds of any monotonic
 /// clock.
 class GarbageSource
 {
@@ -18,13 +18,13 @@ public:
     /// 0: none.
     void setRate(int bytesPerSecond, qint64 nowNs);
     bool isOn() const { return m_bytesPerSecond > 0; }
-    /// What has become due since the last call; after a pause no more than a tenth of a second's bytes.
+    /// The bytes due since the last call; after a pause, at most a tenth of a second's worth.
     QByteArray take(qint64 nowNs);
 
 private:
     std::mt19937_64 m_random;
     int m_bytesPerSecond = 0;
-    qint64 m_fromNs = 0; // what was due until then is handed out
+    qint64 m_fromNs = 0; // bytes due before this have been returned
 };
 
 } // namespace kvsim

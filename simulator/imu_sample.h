@@ -9,7 +9,7 @@ namespace kvsim {
 /// What one module measures at one moment, in the units that the wire carries.
 struct ImuSample
 {
-    quint8 id = 1;                         ///< module id, or radio node id behind a gateway
+    quint8 id = 1;                         ///< module id, or radio node id on a gateway
     float temperature = 25.0F;             ///< degrees Celsius
     float pressure = 101325.0F;            ///< Pa
     quint32 timeMs = 0;                    ///< device time since its last restart

@@ -16,8 +16,8 @@ namespace {
 constexpr int kExitPort = 1;
 constexpr int kExitUsage = 2;
 
-/// Requests to end come as bytes, not by a handler that may do next to nothing.
-/// @return a descriptor that is readable when one has come, -1 when there can be none
+/// Termination requests arrive as bytes, not in a signal handler, which may do next to nothing.
+/// @return a descriptor that is readable when one has arrived, -1 when none is available
 int watchRequestsToEnd()
 {
     std::signal(SIGPIPE, SIG_IGN);
@@ -80,7 +80,7 @@ int main(int argc, char *argv[])
     QObject::connect(&simulator, &kvsim::Simulator::portOpened,
                      [](const QString &path) { printLine(QStringLiteral("port: ") + path); });
     QObject::connect(&console, &kvsim::ControlConsole::answered, printLine);
-    // Queued, so that a "quit" among the first lines finds a running event loop, and its answer comes first.
+    // Queued, so that a "quit" among the first lines meets a running event loop, and its answer comes first.
     QObject::connect(&console, &kvsim::ControlConsole::quitRequested, &application, &QCoreApplication::quit,
                      Qt::QueuedConnection);
     const QSocketNotifier endNotifier(requestsToEnd, QSocketNotifier::Read);

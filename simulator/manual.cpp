@@ -7,13 +7,13 @@ namespace kvsim {
 
 namespace {
 
-// %1 is the table of devices, %2 that of controls.
+// %1 is the table of devices, %2 the table of controls.
 constexpr char kText[] = R"manual(Simulates an inertial measurement unit on a serial line.
 
 Opens a pseudo-terminal, prints "port: /dev/pts/N" on standard output and behaves
 there like the device: it streams data packets and answers commands. Open that port
-with KVCenter at any baud rate. Nothing is sent into a port that nobody has open.
-SIGINT, SIGTERM and the control "quit" end the program; its link goes with it.
+with KVCenter at any baud rate. Nothing is sent while no one has the port open.
+SIGINT, SIGTERM and the control "quit" end the program and remove its link.
 
 Devices (--device):
 %1
@@ -22,16 +22,16 @@ Commands, one per line, answered OK or ERROR:
   AT modules    AT+ID=0..255  AT+ODR=1|2|10|50|100|200|400  AT+MODE=0|1
   text modules  AT+ODR=1|2|10|50|100|250|500  CONFIG ATT MODE 0|1  SAVECONFIG
                 REBOOT  LOG COMCONFIG  LOG USRCONFIG  LOG DISABLE  LOG ENABLE
-A restart leads through the bootloader; then output is on and device time is 0. Rate,
-id and AT+MODE are kept over it; CONFIG ATT MODE only after SAVECONFIG.
+A restart passes through the bootloader; then output is on and device time is 0. Rate,
+id and AT+MODE survive it; CONFIG ATT MODE only after SAVECONFIG.
 
 Bootloader: 50 ms after a restart it listens for --bootloader-wait ms, and starts the
-firmware when nobody talks. Once spoken to, and while the firmware is not whole, it
+firmware when no host talks. Once a host has, or while the firmware is incomplete, it
 stays until a reset or execute command. It answers ping, get property (1 3 4 5 7 11 16 17),
 erase all, erase region, read memory, write memory with its data phase, execute and
-reset. An image with the text "build YYYY-MM-DD" in it reports that build. The flash
-is found at --flash-base and at address 0; it keeps what is written while the program
-runs, and "flash dump" writes it into a file.
+reset. An image that contains "build YYYY-MM-DD" reports that build. The flash
+appears at --flash-base and at address 0; it keeps its contents while the program
+runs, and "flash dump" writes it to a file.
 
 Layouts (--layout):
   91       full record of floats, 76 bytes (default of modules)
@@ -39,7 +39,7 @@ Layouts (--layout):
   items    small items 90 A0 B0 C0 D0 D1 F0
   62       gateway batch of full records (default of the gateway)
   63       gateway batch of compact records
-  dynamic  gateway batches 62 and 63 in turn
+  dynamic  gateway batches 62 and 63 alternately
 
 Axes: AT modules and gateway x forward, y left, z up with Z-Y-X Euler angles; text
 modules x right, y forward, z up with 3-1-2 Euler angles. Level and at rest, the
@@ -53,19 +53,19 @@ to acc X. The device time runs.
 Vibration (--vibration FREQUENCY:AMPLITUDE:AXIS[:RATIO,RATIO...], repeatable): a tone
 in Hz with its peak amplitude on an axis of the accelerometer (x y z, G) or of the
 gyroscope (gx gy gz, deg/s); the ratios are the amplitudes of the 2nd, 3rd ...
-harmonic as parts of AMPLITUDE. --vibration-noise ACC[:GYR] adds normal noise of these
+harmonic as fractions of AMPLITUDE. --vibration-noise ACC[:GYR] adds normal noise of these
 standard deviations (G, deg/s). Both come on top of motion, recording or fixed values.
 Tones begin with phase 0 at device time 0.
 
 Recordings (--replay): CSV with the columns "Time (s)", "Gyroscope X (deg/s)" and
 "Accelerometer X (g)" with Y and Z each, optionally "Magnetometer X (uT)"; played
-round and round, one row per frame.
+in a loop, one row per frame.
 
 Controls (--control), one per line on standard input, each answered "ok" or
 "error: ..."; the end of the input ends the program:
 %2
 Exit codes: 0 ended on request, 1 the port or the link cannot be made, 2 the command
-line or the recording makes no sense.
+line or the recording is not valid.
 
 Examples:
   kv_simulator --device mz221 --link /tmp/imu

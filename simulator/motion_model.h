@@ -7,9 +7,10 @@ namespace kvsim {
 
 enum class MotionKind { Rest, Swing, Spin };
 
-/// A rigid body that turns about its sensor. Its Euler angles are closed functions of time, and all that the sensor
-/// reads follows from them: the angular rate is their derivative in device axes, the specific force is gravity alone
-/// (a level device at rest reads +1 G on its z axis) and the magnetic field is the earth's, both seen from the body.
+/// A rigid body that turns about its sensor. Its Euler angles are closed-form functions of time, and everything the
+/// sensor reads follows from them: the angular rate is their derivative in device axes, the specific force is gravity
+/// alone (a level device at rest reads +1 G on its z axis) and the magnetic field is the earth's, both seen from the
+/// body.
 class MotionModel
 {
 public:

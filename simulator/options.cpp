@@ -32,7 +32,7 @@ constexpr std::array<Choice<LayoutChoice>, 6> kLayouts{{
     {"dynamic", LayoutChoice::Dynamic},
 }};
 
-// Options that are control lines: "--noise 3" is "noise 3" before the first frame, given twice it is two lines.
+// Options that stand for control lines: "--noise 3" is "noise 3" before the first frame; given twice it is two lines.
 struct ControlOption
 {
     const char *option;
@@ -82,7 +82,7 @@ bool readNumber(const QCommandLineParser &parser, const QString &option, qint64 
     if (!parser.isSet(option))
         return true;
     bool ok = false;
-    value = parser.value(option).toLongLong(&ok, 0); // 0x begins a hexadecimal number
+    value = parser.value(option).toLongLong(&ok, 0); // 0x introduces a hexadecimal number
     if (ok && value >= low && value <= high)
         return true;
     *error = QStringLiteral("--%1 must be a whole number from %2 to %3").arg(option).arg(low).arg(high);
@@ -97,7 +97,7 @@ void addOptions(QCommandLineParser &parser)
     };
     add("device", "Device to simulate, see above.", "NAME", "mz221");
     add("layout", "Payload layout, see above.", "NAME");
-    add("nodes", "Radio nodes behind the gateway, 1 to 16 (default 4).", "N");
+    add("nodes", "Radio nodes of the gateway, 1 to 16 (default 4).", "N");
     add("rate", "Frames per second, 1 to 2000 (default 100, or the recording's own).", "HZ");
     add("baud",
         "Send no faster than this baud rate, 10 bits per byte; frames that do not fit are dropped whole and "
@@ -208,7 +208,7 @@ std::optional<Options> parseOptions(const QStringList &arguments, QString *error
         && readBootloader(parser, options.bootloader, error);
     if (!ok)
         return {};
-    // Tones are to be seen by themselves unless a motion is asked for.
+    // Tones are shown without motion unless a motion is requested.
     if (parser.isSet(QStringLiteral("vibration")) && !parser.isSet(QStringLiteral("motion")))
         options.motion = MotionKind::Rest;
     options.nodes = options.device->isGateway() ? int(nodes) : 1;

@@ -15,7 +15,7 @@ namespace kvsim {
 constexpr int kMaxRateHz = 2000;
 constexpr int kMaxNodes = RadioNodes::kMaxNodes;
 
-/// What the command line asks for, checked: layout and device fit together, numbers are in range.
+/// The checked command line: layout and device match, numbers are in range.
 struct Options
 {
     const DeviceType *device = nullptr;
@@ -27,15 +27,15 @@ struct Options
     MotionKind motion = MotionKind::Swing;
     QString replayPath;
     QString linkPath;
-    QString writeTimesPath; ///< empty: not wanted
+    QString writeTimesPath; ///< empty: not written
     Bootloader::Settings bootloader;
     quint64 seed = 1;
     bool control = false;
     QStringList startControls; ///< control lines that options stand for, in order
 };
 
-/// Reads the command line, program name first. Prints the manual or the version and ends the program when asked to.
-/// @return nothing, with a sentence in `error`, when it does not make sense
+/// Reads the command line, program name first. Prints the manual or the version and ends the program on request.
+/// @return nothing, with a sentence in `error`, when it is not valid
 std::optional<Options> parseOptions(const QStringList &arguments, QString *error);
 
 } // namespace kvsim

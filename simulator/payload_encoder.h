@@ -10,8 +10,8 @@ namespace kvsim {
 /// How samples are laid out in a payload. The first three belong to single modules, the last two to the gateway.
 enum class PayloadLayout { FullRecord91, CompactRecord93, Items, Batch62, Batch63 };
 
-/// Payload with one sample of a single module. All fields little-endian; integers are rounded and saturate, and what is
-/// not a number becomes 0 in them.
+/// Payload with one sample of a single module. All fields little-endian; integers are rounded and saturate, and NaN
+/// becomes 0 in them.
 ///
 ///     91, 76 bytes: 91, id, 0, i8 temperature, f32 pressure, u32 time, f32 acc x3, gyr x3, mag x3, roll, pitch, yaw,
 ///                   quaternion W X Y Z

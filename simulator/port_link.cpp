@@ -17,7 +17,7 @@ bool PortLink::pointTo(const QString &target, QString *error)
         return true;
     const QFileInfo info(m_path);
     if (info.exists() && !info.isSymbolicLink()) {
-        *error = QStringLiteral("%1 exists and is no link; it is left alone").arg(m_path);
+        *error = QStringLiteral("%1 exists and is not a link; it is left unchanged").arg(m_path);
         return false;
     }
     const QByteArray path = QFile::encodeName(m_path);

@@ -40,7 +40,7 @@ bool PtyPort::open(QString *error)
     } else {
         *error = QStringLiteral("cannot open a pseudo-terminal: %1").arg(QString::fromLocal8Bit(strerror(errno)));
     }
-    // Closing the host's end once makes the kernel report "no host" until somebody opens it.
+    // Closing the host's end once makes the kernel report "no host" until someone opens it.
     if (slave >= 0)
         ::close(slave);
     if (!ready) {
@@ -73,7 +73,7 @@ bool PtyPort::checkHost()
         m_hasHost = true;
         m_notifier->setEnabled(true);
     } else if (!hasHost) {
-        // A host that only came to write a command may have left again already.
+        // A host that only wrote a command may have left again already.
         if ((request.revents & POLLIN) != 0)
             readAvailable();
         if (m_hasHost)
@@ -87,8 +87,8 @@ void PtyPort::loseHost()
     m_hasHost = false;
     // Without a host the descriptor is readable all the time, with an error.
     m_notifier->setEnabled(false);
-    // What the host has not read would meet the next one; what it wrote last is still wanted. The kernel keeps the
-    // unread bytes in two places: on their way, and in the host's end, where only that end can discard them.
+    // What the host has not read would reach the next one; what it wrote last is still needed. The kernel keeps the
+    // unread bytes in two places: in transit, and in the host's end, where only that end can discard them.
     ::tcflush(m_master, TCOFLUSH);
     const int slave = ::open(QFile::encodeName(m_slaveName).constData(), O_RDWR | O_NOCTTY | O_CLOEXEC | O_NONBLOCK);
     if (slave >= 0) {
@@ -112,7 +112,7 @@ void PtyPort::readAvailable()
     if (count > 0)
         emit received(QByteArray(buffer, qsizetype(count)));
     else if (count == 0 || (errno != EAGAIN && errno != EINTR))
-        loseHost(); // the next one, which may be there already, is found by checkHost()
+        loseHost(); // checkHost() finds the next one, which may be there already
 }
 
 } // namespace kvsim

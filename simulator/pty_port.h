@@ -10,8 +10,8 @@ class QSocketNotifier;
 namespace kvsim {
 
 /// The master side of a pseudo-terminal: the device's end of the cable. The host opens slaveName() like a serial port.
-/// Only the host's end being open makes a connection: before and after, bytes written are refused, so that a host finds
-/// no old data when it opens the port.
+/// A connection exists only while the host's end is open: before and after, written bytes are refused, so that a host
+/// finds no old data when it opens the port.
 ///
 /// Main thread; reading is driven by the event loop, but the arrival and departure of a host are noticed by
 /// checkHost(), which the owner calls regularly.
@@ -24,7 +24,7 @@ public:
     explicit PtyPort(QObject *parent = nullptr);
     ~PtyPort() override;
 
-    /// Opens a new pseudo-terminal in raw mode, closing the one before.
+    /// Opens a new pseudo-terminal in raw mode, closing the previous one.
     /// @return false with a sentence in `error`
     bool open(QString *error);
     /// Pulls the plug: a host that has the port open gets an end of file or an input/output error.
@@ -33,9 +33,9 @@ public:
     /// Path of the host's end, such as "/dev/pts/3"; empty while closed.
     const QString &slaveName() const { return m_slaveName; }
 
-    /// Looks whether a host has the port open.
+    /// Checks whether a host has the port open.
     bool checkHost();
-    /// Writes what fits at once.
+    /// Writes as much as fits at once.
     /// @return bytes taken by the port, 0 when it is full, closed or without a host
     qsizetype write(QByteArrayView bytes);
 

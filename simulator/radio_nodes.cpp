@@ -10,7 +10,7 @@ constexpr double kMaxOffsetMs = 4e9;
 constexpr double kMaxDriftPpm = 1e6;
 constexpr int kMaxBatches = 1'000'000;
 
-// The node number at the start of a text; 0 when it is none.
+// The node number at the start of a text; 0 when there is none.
 int nodeOf(const QString &word)
 {
     bool ok = false;
@@ -109,7 +109,7 @@ QString RadioNodes::setAttitude(const QString &text)
 
 bool RadioNodes::strikes(double percent)
 {
-    // The distributions of the standard library differ between its makers; the generator's own bits do not.
+    // The standard library's distributions differ between implementations; the generator's raw bits do not.
     return percent > 0.0 && double(m_random() >> 11) * 0x1.0p-53 * 100.0 < percent;
 }
 
@@ -138,7 +138,7 @@ quint32 RadioNodes::timeMs(int node, qint64 deviceNs) const
 {
     const Node &it = at(node);
     const double ms = double(deviceNs - it.clockZeroNs) * 1e-6 * (1.0 + it.driftPpm * 1e-6) + it.offsetMs;
-    return quint32(qint64(ms)); // a clock of 32 bits wraps
+    return quint32(qint64(ms)); // a 32-bit clock wraps
 }
 
 } // namespace kvsim

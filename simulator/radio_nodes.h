@@ -11,10 +11,10 @@
 
 namespace kvsim {
 
-/// The nodes behind a gateway, each with faults that a test can ask for: records that are missing from a batch,
-/// a node that leaves and comes back, a clock of its own, an attitude of its own. Nodes are numbered from 1.
+/// The nodes of a gateway, each with faults that a test can request: records that are missing from a batch, a node that
+/// leaves and comes back, a separate clock, a separate attitude. Nodes are numbered from 1.
 ///
-/// The set...() calls take texts, return an empty text or what is wrong, and change nothing then.
+/// The set...() calls take text and return an empty text, or what is wrong, in which case nothing changes.
 class RadioNodes
 {
 public:
@@ -22,28 +22,27 @@ public:
 
     explicit RadioNodes(quint64 seed) : m_random(seed) {}
 
-    /// "N:PERCENT" or "all:PERCENT": records that are missing by chance; 0 ends it.
+    /// "N:PERCENT" or "all:PERCENT": records that are missing at random; 0 ends it.
     QString setMissing(const QString &text);
-    /// "N:K": the node is missing in every K-th batch; "lowest:K": so is the node that is the lowest of those present;
-    /// K = 0 ends it.
+    /// "N:K": the node is missing in every K-th batch; "lowest:K": the same for the lowest node present; K = 0 ends it.
     QString setSkipping(const QString &text);
     /// "N": the node leaves, or comes back.
     QString setPresent(const QString &text, bool present);
-    /// "N:OFFSET_MS[:PPM]": the node's clock is ahead of the gateway's, and runs faster by so many parts per million.
+    /// "N:OFFSET_MS[:PPM]": the node's clock is ahead of the gateway's, and runs faster by this many parts per million.
     QString setClock(const QString &text);
-    /// "N": the node's clock begins at 0 at this time of the gateway's, which goes on; the offset is 0 from now on.
+    /// "N": the node's clock restarts at 0 while the gateway's goes on; the offset is 0 from now on.
     QString restartClock(const QString &text, qint64 deviceNs);
-    /// The gateway's clock was set: the nodes' are in step with it again, but for offset and drift.
+    /// The gateway's clock was set: the nodes' clocks follow it again, apart from offset and drift.
     void restartClocks();
-    /// "N:ROLL:PITCH:YAW", degrees: the node keeps still like that, whatever moves the others; "N:off" ends it.
+    /// "N:ROLL:PITCH:YAW", degrees: the node stays still in this attitude, however the others move; "N:off" ends it.
     QString setAttitude(const QString &text);
 
-    /// Numbers of the nodes, of the first `count`, that have a record in the next batch.
+    /// Numbers of those of the first `count` nodes that have a record in the next batch.
     QList<int> nextBatch(int count);
-    /// Records that were left out so far, of nodes that are present.
+    /// Records left out so far, of nodes that are present.
     quint64 missing() const { return m_missing; }
 
-    /// What the node's clock reads at a device time.
+    /// Reading of the node's clock at a device time.
     quint32 timeMs(int node, qint64 deviceNs) const;
     std::optional<EulerAngles> attitude(int node) const { return at(node).attitude; }
 
@@ -53,7 +52,7 @@ private:
         double missingPercent = 0.0;
         int skipEvery = 0;
         bool isPresent = true;
-        qint64 clockZeroNs = 0; // the gateway's time at which its clock read 0, drift and offset left out
+        qint64 clockZeroNs = 0; // the gateway's time at which its clock read 0, without drift and offset
         double offsetMs = 0.0;
         double driftPpm = 0.0;
         std::optional<EulerAngles> attitude;

@@ -94,7 +94,7 @@ EulerAngles eulerOf(const Quaternion &q, AxisConvention convention)
 
 Vector3 bodyRate(const EulerAngles &angles, const EulerAngles &rates, AxisConvention convention)
 {
-    // Each rate acts about an axis of the frame that its rotation starts from; the later rotations carry it on.
+    // Each rate acts about an axis of the frame that its rotation starts from; the later rotations carry it along.
     Vector3 rate{};
     rate[kYawAxis] = rates.yaw;
     rate = rotatedBack(rotationAbout(pitchAxis(convention), angles.pitch), rate);

@@ -50,7 +50,7 @@ Quaternion quaternionOf(const EulerAngles &angles, AxisConvention convention);
 /// Roll and yaw within (-180, 180], pitch within +-90 degrees.
 EulerAngles eulerOf(const Quaternion &q, AxisConvention convention);
 
-/// Angular rate in device axes, deg/s, of a body whose Euler angles stand at `angles` and change by `rates`.
+/// Angular rate in device axes, deg/s, of a body whose Euler angles are `angles` and change at `rates`.
 Vector3 bodyRate(const EulerAngles &angles, const EulerAngles &rates, AxisConvention convention);
 
 /// The earth's magnetic field in world axes, uT: 20 to the north and 45 downwards.

@@ -8,7 +8,7 @@
 
 namespace kvsim {
 
-/// What the numbers of the stream are.
+/// The kind of values in the stream.
 enum class ValueKind {
     Normal, ///< the motion model or the recording
     Nan,    ///< the same with NaN and infinities among the values
@@ -16,14 +16,14 @@ enum class ValueKind {
 };
 
 /// The constant values of ValueKind::Fixed. Every field differs, so that swapped fields show; the quaternion has length
-/// 1 and is not that of the angles. Node k of a gateway reads 0.125 G more per k on its x axis.
+/// 1 and does not match the angles. Node k of a gateway reads 0.125 G more per k on its x axis.
 ImuSample fixedSample(int node);
 
-/// Where samples come from: the motion model, or a recording that is played round and round, shaken on request.
+/// The source of samples: the motion model, or a recording played in a loop, with vibration on request.
 class SampleSource
 {
 public:
-    /// @param seed of the vibration's noise
+    /// @param seed seed of the vibration noise
     SampleSource(MotionKind motion, AxisConvention convention, std::optional<CsvRecording> recording, quint64 seed);
 
     /// Rate of the recording, Hz; nothing for the motion model.
@@ -36,8 +36,8 @@ public:
     /// Added to the values of every kind.
     Vibration &vibration() { return m_vibration; }
 
-    /// The sample of one node, without id and time stamp. Nodes move differently; a recording gives each node its own
-    /// place to start from.
+    /// The sample of one node, without id and time stamp. Nodes move differently; a recording is played from a
+    /// different position for each node.
     /// @param frame running number of the frame since the device started  @param seconds device time
     ImuSample sampleAt(quint64 frame, double seconds, int node, int nodeCount) const;
 

@@ -113,7 +113,7 @@ void Simulator::setRate(int rateHz)
     takeRate();
 }
 
-// Brings the clock and the timer in line with what the device does now.
+// Adjusts the clock and the timer to what the device does now.
 void Simulator::takeRate()
 {
     const int rateHz = m_device.isStreaming() ? m_device.settings().rateHz : 0;
@@ -122,7 +122,7 @@ void Simulator::takeRate()
     m_clockRateHz = rateHz;
     if (rateHz > 0)
         m_clock.restart(now(), rateHz);
-    // A paced line and a bootloader trickle; an unlimited stream only needs to be looked at a few times per frame.
+    // A paced line and a bootloader trickle; an unlimited stream only needs checking a few times per frame.
     m_timer.start(m_options.baudRate > 0 || rateHz == 0 ? 1 : std::clamp(250 / rateHz, 1, 5));
 }
 
@@ -222,7 +222,7 @@ void Simulator::produceFrame(qint64 momentNs)
     m_held.append({result.bytes, result.intact});
     if (m_held.size() < m_burst)
         return;
-    // The line has carried bytes up to this frame's moment, even when the timer comes late.
+    // The line has carried bytes up to this frame's moment, even when the timer is late.
     m_line.advance(momentNs);
     releaseHeldFrames();
 }
@@ -292,7 +292,7 @@ void Simulator::discardUnsent()
 void Simulator::flush()
 {
     while (!m_line.ready().isEmpty()) {
-        // Before the call: a reader on another core may have the bytes before it returns.
+        // Before the call: a reader on another core may get the bytes before it returns.
         const quint64 writeNs = m_writeTimes.isOpen() ? WriteTimes::now() : 0;
         const qsizetype taken = m_port.write(m_line.ready());
         if (taken <= 0)
@@ -301,7 +301,7 @@ void Simulator::flush()
         m_line.take(taken);
         m_writeTimes.add(writeNs, m_line.sentFrames() - sentBefore);
     }
-    // The next word of the bootloader's dialogue is due when the bytes under way have arrived.
+    // The next step of the bootloader dialogue is due when the bytes in transit have arrived.
     const qint64 outNs = m_line.remainingNs();
     const qint64 inNs = m_hostLine.remainingNs();
     if (m_device.isInBootloader() && (outNs > 0 || inNs > 0))

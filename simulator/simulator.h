@@ -22,9 +22,9 @@
 
 namespace kvsim {
 
-/// The whole device on its port. A timer finds the frames that are due; each is sampled, laid out, framed, damaged as
-/// asked, queued on the line and written to the pseudo-terminal. Received bytes go to the device model when their time
-/// on the line has passed, its replies to the line.
+/// The whole device on its port. A timer finds the frames that are due; each is sampled, encoded, framed, damaged as
+/// requested, queued on the line and written to the pseudo-terminal. Received bytes go to the device model when their
+/// time on the line has passed, and its replies go to the line.
 ///
 /// Main thread, event loop needed. All controls act at once.
 class Simulator : public QObject
@@ -36,22 +36,22 @@ public:
     /// Counts since the start. At any moment frames = sent + dropped + those still waiting.
     struct Statistics
     {
-        quint64 frames = 0;  ///< that were due while a host had the port open
-        quint64 sent = 0;    ///< written to the port to the last byte
-        quint64 intact = 0;  ///< of those sent, not touched by a fault
+        quint64 frames = 0;  ///< due while a host had the port open
+        quint64 sent = 0;    ///< completely written to the port
+        quint64 intact = 0;  ///< of those sent, untouched by any fault
         quint64 dropped = 0; ///< lost: line too slow, host too slow or gone, gap, silence
-        quint64 unheard = 0; ///< that were due while no host had the port open
+        quint64 unheard = 0; ///< due while no host had the port open
         quint64 bytes = 0;   ///< written to the port, replies included
         bool inBootloader = false;
-        quint64 packets = 0; ///< data packets that the bootloader got in a data phase
-        quint64 refused = 0; ///< those of them that it did not program
-        quint64 missing = 0; ///< records that were left out of batches
+        quint64 packets = 0; ///< data packets that the bootloader received in a data phase
+        quint64 refused = 0; ///< those of them that were not programmed
+        quint64 missing = 0; ///< records left out of batches
     };
 
-    /// @param recording played instead of the motion model when given
+    /// @param recording if given, played instead of the motion model
     Simulator(const Options &options, std::optional<CsvRecording> recording);
 
-    /// Opens the port and begins. @return false with a sentence in `error`
+    /// Opens the port and starts. @return false with a sentence in `error`
     bool start(QString *error);
 
     Statistics statistics() const;
@@ -59,7 +59,7 @@ public:
     DeviceModel &device() { return m_device; }
     const DeviceModel &device() const { return m_device; }
     SampleSource &source() { return m_source; }
-    /// Null when the device is no gateway.
+    /// Null when the device is not a gateway.
     RadioNodes *radioNodes() { return m_options.device->isGateway() ? &m_radioNodes : nullptr; }
 
     /// Sends nothing and hears nothing for a while, once.
@@ -70,15 +70,16 @@ public:
     void setDeaf(bool deaf) { m_deaf = deaf; }
     /// Sends random bytes instead of frames, and hears nothing; 0 ends it.
     void setGarbage(int bytesPerSecond) { m_garbage.setRate(bytesPerSecond, now()); }
-    /// Text replies come so much later. Those under way keep their time.
+    /// Delays text replies by this much. Those already in transit keep their time.
     void setReplyDelay(int milliseconds) { m_replyDelayMs = milliseconds; }
-    /// Device time reads so many milliseconds now; nothing else changes.
+    /// Sets the device time to this many milliseconds; nothing else changes.
     void setClock(int milliseconds);
-    /// Batches 63 have a clock that is so far ahead of that of batches 62. @return false when the device is no gateway
+    /// Batches 63 use a clock that is this far ahead of that of batches 62. @return false when the device is not a
+    /// gateway
     bool setClockDistance(int milliseconds);
     /// Nanoseconds of device time.
     qint64 deviceTimeNs() const { return now() - m_clockZeroNs; }
-    /// Holds frames back and sends `frames` of them at once, over and over; 1 sends each by itself.
+    /// Holds frames back and sends `frames` of them at once, repeatedly; 1 sends each separately.
     void setBurst(int frames) { m_burst = frames; }
     /// @return false when the device is no gateway
     bool setNodes(int nodes);
@@ -119,16 +120,16 @@ private:
     DeviceModel m_device;
     FaultInjector m_faults;
     TransmitLine m_line;
-    TransmitLine m_hostLine; // the other direction: what the host has sent and is still on its way
+    TransmitLine m_hostLine; // the other direction: bytes from the host that are still in transit
     FrameClock m_clock;
     PortLink m_link;
-    WriteTimes m_writeTimes; // not open: not wanted
+    WriteTimes m_writeTimes; // not open: not written
     PtyPort m_port;
     QTimer m_timer;
     WakeTimer m_wake;
     RadioNodes m_radioNodes;
     GarbageSource m_garbage;
-    std::deque<std::pair<qint64, QByteArray>> m_delayedReplies; // with the time when they are due
+    std::deque<std::pair<qint64, QByteArray>> m_delayedReplies; // with the time at which they are due
     QElapsedTimer m_elapsed;
     Statistics m_statistics;
     QList<TransmitLine::Frame> m_held; // frames of a burst not yet complete

@@ -14,7 +14,7 @@ constexpr qsizetype kSmallestDeviceBuffer = 512;
 
 void TransmitLine::advance(qint64 nowNs)
 {
-    // The moment of a late frame may lie before that of a reply: the line has been there already.
+    // The time of a late frame may be before that of a reply: the line has already passed it.
     nowNs = std::max(nowNs, m_nowNs);
     const qsizetype waiting = m_bytes.size() - m_left;
     if (m_bytesPerSecond <= 0.0) {
@@ -23,7 +23,7 @@ void TransmitLine::advance(qint64 nowNs)
         m_credit += double(nowNs - m_nowNs) * 1e-9 * m_bytesPerSecond;
         const qsizetype leaving = qsizetype(std::min(m_credit, double(waiting)));
         m_left += leaving;
-        // An idle line saves nothing up: the next byte needs its own time.
+        // An idle line accumulates no credit: the next byte takes its full time.
         m_credit = leaving == waiting ? 0.0 : m_credit - double(leaving);
     }
     m_nowNs = nowNs;
@@ -77,7 +77,7 @@ void TransmitLine::take(qsizetype count)
         m_sentIntactFrames += m_marks.front().isIntact ? 1 : 0;
         m_marks.pop_front();
     }
-    // Moving the rest to the front costs as much as it is long, so do it only when it is short.
+    // Moving the rest to the front costs time proportional to its length, so do it only when it is short.
     if (m_taken == m_bytes.size() || m_taken > m_bytes.size() / 2) {
         m_bytes.remove(0, m_taken);
         m_left -= m_taken;

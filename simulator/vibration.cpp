@@ -49,7 +49,7 @@ std::optional<Tone> readTone(const QString &text)
     return tone;
 }
 
-// A number between 0 and 1 that belongs to the counter: a stateless generator, so that frames may be left out.
+// A number between 0 and 1 derived from the counter: a stateless generator, so that frames may be skipped.
 double uniform(quint64 counter)
 {
     quint64 bits = counter * 0x9E3779B97F4A7C15ULL;
@@ -100,7 +100,7 @@ void Vibration::clear()
 void Vibration::apply(ImuSample &sample, double seconds, quint64 frame, int node) const
 {
     for (const Tone &tone : m_tones) {
-        // Whole turns are left out before the multiplication by 2 pi, so that hours of device time cost no accuracy.
+        // Whole turns are removed before the multiplication by 2 pi, so that hours of device time cost no accuracy.
         const double turns = tone.hertz * seconds;
         double sum = 0.0;
         for (std::size_t k = 0; k < tone.amplitudes.size(); ++k)
@@ -110,7 +110,7 @@ void Vibration::apply(ImuSample &sample, double seconds, quint64 frame, int node
     }
     if (m_accNoise <= 0.0 && m_gyrNoise <= 0.0)
         return;
-    // Six numbers per node and frame; the seed sets sequences apart that would otherwise be the same.
+    // Six numbers per node and frame; the seed separates sequences that would otherwise be the same.
     const quint64 first = (m_seed << 40) + (frame * kNodeStride + quint64(node)) * 6;
     for (std::size_t axis = 0; axis < 3; ++axis) {
         sample.acc[axis] += float(m_accNoise * normal(first + axis));

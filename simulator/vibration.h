@@ -20,9 +20,9 @@ struct Tone
     std::vector<double> amplitudes;
 };
 
-/// A machine that shakes the sensor: tones and noise upon whatever the motion or the recording says. Attitude, magnetic
-/// field and the rest stay as they are. The same time gives the same tone and the same frame the same noise, whatever
-/// was sent before, so a recorded spectrum can be worked out in advance.
+/// A machine that shakes the sensor: tones and noise on top of the motion or the recording. Attitude, magnetic field
+/// and the rest stay as they are. The same time gives the same tone and the same frame the same noise, whatever was
+/// sent before, so a recorded spectrum can be computed in advance.
 class Vibration
 {
 public:
@@ -34,11 +34,11 @@ public:
     explicit Vibration(quint64 seed) : m_seed(seed) {}
 
     /// Adds "FREQUENCY:AMPLITUDE:AXIS[:RATIO,RATIO...]": Hz, peak amplitude, the axis x, y, z (G) or gx, gy, gz
-    /// (deg/s), and the amplitudes of the second, third ... harmonic as parts of AMPLITUDE.
+    /// (deg/s), and the amplitudes of the second, third ... harmonic as fractions of AMPLITUDE.
     /// @return an empty text, or what is wrong
     QString addTone(const QString &text);
-    /// Sets the noise, "ACC[:GYR]": standard deviations in G and deg/s of a normal distribution, 0 for none, each axis
-    /// and node by itself.
+    /// Sets the noise, "ACC[:GYR]": standard deviations in G and deg/s of a normal distribution, 0 for none,
+    /// independent for each axis and node.
     /// @return an empty text, or what is wrong
     QString setNoise(const QString &text);
     /// No tones, no noise.

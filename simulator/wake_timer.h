@@ -8,8 +8,8 @@ class QSocketNotifier;
 
 namespace kvsim {
 
-/// A single-shot timer finer than a millisecond. A packet of the bootloader's dialogue takes a fraction of one on a
-/// fast line, and the toolkit's timers would make that two.
+/// A single-shot timer finer than a millisecond. A packet of the bootloader dialogue takes a fraction of a millisecond
+/// on a fast line, and the toolkit's timers would stretch that to two.
 ///
 /// Event loop needed. Where the system has no such timer it never fires.
 class WakeTimer : public QObject
@@ -21,7 +21,7 @@ public:
     explicit WakeTimer(QObject *parent = nullptr);
     ~WakeTimer() override;
 
-    /// Fires once, so many nanoseconds (at least one) from now; a time set before is forgotten.
+    /// Fires once, this many nanoseconds (at least one) from now; an earlier setting is forgotten.
     void startNs(qint64 ns);
 
 signals:

@@ -74,7 +74,7 @@ QByteArray CommandBroker::executeSequence(const QList<SettingsCommand> &commands
     const QPointer<CommandBroker> self(this);
     const quint64 aborts = m_aborts;
     AppLog::logfile(QtInfoMsg, QStringLiteral("command sequence start count=%1").arg(commands.size()));
-    // A local: an event inside a window may try a command of its own, which overwrites the last result.
+    // A local: an event during a window may try a command of its own, which overwrites the last result.
     QByteArray result;
     m_lastResult.clear();
     bool cutShort = false;
@@ -140,7 +140,7 @@ CommandBroker::Window CommandBroker::runWindow(unsigned int windowMs)
     QTimer timer;
     timer.setSingleShot(true);
     timer.setTimerType(Qt::PreciseTimer); // a coarse one may end a long window 5 % early
-    // A modal loop above this one may hold the return back for as long as it likes; the reply ends here.
+    // A modal loop above this one may delay the return indefinitely; the reply ends here.
     connect(&timer, &QTimer::timeout, this, [this] { m_windowOpen = false; });
     connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);
     connect(this, &QObject::destroyed, &loop, &QEventLoop::quit);

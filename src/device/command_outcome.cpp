@@ -7,14 +7,14 @@ namespace {
 struct Answer
 {
     bool isError;
-    qsizetype window;   ///< in which it was complete
+    qsizetype window;   ///< in which it became complete
     qsizetype last = 0; ///< the latest command that it can belong to
 };
 
 QList<Answer> answersIn(const QList<QByteArray> &replies)
 {
     QList<Answer> answers;
-    QByteArray bytes; // of all windows so far, because one may end inside an answer
+    QByteArray bytes; // of all windows so far, because a window may end in the middle of an answer
     for (qsizetype window = 0; window < replies.size(); ++window) {
         bytes += replies[window];
         qsizetype count = 0;

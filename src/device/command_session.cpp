@@ -56,7 +56,7 @@ void CommandSession::suspend(bool suspended)
     emit stateChanged();
 }
 
-/// What runs waits below on the stack: it comes back at once and sends nothing more.
+/// A running operation waits further down the stack: it returns at once and sends nothing more.
 void CommandSession::endOperation()
 {
     m_operationEnded = m_busy;
@@ -119,7 +119,7 @@ QStringList CommandSession::readInfoNow()
         emit logLine(QLatin1String("< ") + tr("(noise)"));
     else
         logReply(lines);
-    m_resumesLeft = lines.isEmpty() ? 0 : kResumesAgain; // nobody is there, or somebody whose output is stopped now
+    m_resumesLeft = lines.isEmpty() ? 0 : kResumesAgain; // no device is there, or one whose output is now stopped
     if (m_connected && !sendResume(kResumeWindowMs))
         return {};
     if (connection != m_connection || m_operationEnded)
@@ -154,7 +154,7 @@ void CommandSession::save(const SettingsSaveRequest &request)
     };
     announce(0);
     m_broker->executeSequence(sequence, [&](qsizetype i, const QByteArray &reply) {
-        // Settings must not reach a device that is plugged in meanwhile.
+        // Settings must not reach a device that has been plugged in meanwhile.
         if (self == nullptr || connection != m_connection || m_operationEnded)
             return false;
         if (sequence[i].waitMs > 0) {
@@ -211,7 +211,7 @@ void CommandSession::resumeOutput(bool waitForReply)
         end();
 }
 
-/// False when this object did not outlive the wait.
+/// False when this object did not survive the wait.
 bool CommandSession::sendResume(quint32 waitMs)
 {
     m_resumeTimer.stop();
@@ -228,7 +228,7 @@ bool CommandSession::sendResume(quint32 waitMs)
 
 void CommandSession::resumeAgain()
 {
-    if (!begin()) { // a command of the user runs
+    if (!begin()) { // a command from the user is running
         if (m_connected && !m_suspended)
             m_resumeTimer.start();
         return;
@@ -254,7 +254,7 @@ void CommandSession::end()
     emit stateChanged();
 }
 
-/// Sends one command. No value when its connection, this object or the operation did not live to see the reply.
+/// Sends one command. No value when its connection, this object or the operation ended before the reply.
 std::optional<QStringList> CommandSession::execute(const QString &text, quint32 waitMs)
 {
     if (m_broker == nullptr || m_operationEnded)

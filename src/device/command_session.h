@@ -13,16 +13,16 @@
 
 class CommandBroker;
 
-/// Carries out whole commands and sequences on the open connection, one at a time, with the identified device as their
+/// Runs whole commands and sequences on the open connection, one at a time, and keeps the identified device as their
 /// result.
 ///
 /// Every command waits in a nested event loop of the broker. While one runs, all others are refused. A connection has a
-/// number: what was begun on one connection sends no more and reports nothing once another has begun. The session, the
-/// broker and the port may be destroyed inside a wait.
+/// number: an operation begun on one connection sends no more and reports nothing once another connection has begun.
+/// The session, the broker and the port may be destroyed during a wait.
 ///
-/// A command that resumes the output and is followed by nothing at all, no reply and no data, may have been lost on the
-/// line, which would leave an identified device mute. It is sent again a few times, some seconds apart, until
-/// noteData() reports that data flow.
+/// A command to resume the output that is followed by nothing at all, neither reply nor data, may have been lost on the
+/// line, which would leave an identified device mute. It is repeated a few times, some seconds apart, until noteData()
+/// reports that data are flowing.
 ///
 /// Main thread only.
 class CommandSession : public QObject
@@ -39,40 +39,41 @@ public:
     void setBroker(CommandBroker *broker);
     /// Baud rate of the connection; values below 1 are ignored.
     void setBaud(int baud);
-    /// Begins another connection, or ends the one there is.
+    /// Begins a new connection, or ends the current one.
     void setConnected(bool connected);
-    /// While suspended nothing is sent and every operation is refused: somebody else has the line, as a bootloader has.
-    /// What runs is ended first; what of it still waits on the stack sends nothing more, also after the suspension.
-    /// Read the device again afterwards: a reading that was ended has left its output stopped.
+    /// While suspended nothing is sent and every operation is refused: the line belongs to something else, such as a
+    /// bootloader. A running operation is ended first; the part of it that still waits on the stack sends nothing more,
+    /// even after the suspension. Read the device again afterwards: a reading that was cut short has left its output
+    /// stopped.
     void suspend(bool suspended);
-    /// A data packet has arrived: the output flows, so that it need not be resumed again.
+    /// A data packet has arrived: the output is flowing, so it need not be resumed again.
     void noteData();
 
     bool isConnected() const { return m_connected; }
     bool isSuspended() const { return m_suspended; }
-    /// A command runs; another one would be refused.
+    /// A command is running; another one would be refused.
     bool isBusy() const;
-    /// The command that runs, without its line end; empty when none does.
+    /// The running command, without its line end; empty when there is none.
     QString currentCommand() const { return m_currentCommand; }
-    /// The device's output was stopped by runHotkey() and not resumed since.
+    /// The device's output was stopped by runHotkey() and has not been resumed since.
     bool isOutputStopped() const { return m_outputStopped; }
 
     /// The device that answered last.
     const DetectedDevice &device() const { return m_device; }
-    /// Its profile; the catch-all one when no device was identified.
+    /// Its profile; the catch-all profile when no device was identified.
     const ProductProfile &profile() const;
     void clearDevice();
 
     /// Stops the output, reads the information, resumes the output. Returns the reply's lines, which device() resolves.
-    /// Refused or outlived by its connection: empty, and device() stays as it was.
+    /// When it is refused, or another connection has begun meanwhile: empty, and device() is unchanged.
     QStringList readInfo();
-    /// The last reading brought bytes that are no text: the baud rate may be wrong.
+    /// The last reading returned bytes that are not text: the baud rate may be wrong.
     bool lastReadWasNoise() const { return m_lastReadWasNoise; }
     /// Writes settings to the device, which restarts, and reads its information again.
     void save(const SettingsSaveRequest &request);
     /// Sends a one-click command and logs the reply.
     void runHotkey(SettingsHotkeyAction action);
-    /// Makes the device send its data again. `waitForReply` collects and logs what it answers.
+    /// Makes the device send its data again. `waitForReply` collects and logs its answer.
     void resumeOutput(bool waitForReply);
 
 signals:
@@ -105,10 +106,10 @@ private:
     bool m_connected = false;
     bool m_busy = false;
     bool m_suspended = false;
-    bool m_operationEnded = false; ///< the operation that is still on the stack may send nothing more
+    bool m_operationEnded = false; ///< the operation still on the stack may send nothing more
     bool m_outputStopped = false;
     bool m_lastReadWasNoise = false;
-    QTimer m_resumeTimer; ///< runs while a resume is to be sent again
+    QTimer m_resumeTimer; ///< runs while the resume command is to be repeated
     int m_resumesLeft = 0;
     bool m_dataSinceResume = false;
 };

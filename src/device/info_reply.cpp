@@ -16,8 +16,8 @@ constexpr qsizetype kMaxLines = 64;
 constexpr qsizetype kMaxLineLength = 256;
 constexpr qsizetype kMinReadableEnd = 4;
 
-// Bytes that may be checked in vain, as a multiple of the reply's size. A reply made of nothing but packet headers
-// would otherwise have the same bytes checked hundreds of times.
+// Limit on bytes checked in vain, as a multiple of the reply's size. Otherwise, in a reply made of nothing but packet
+// headers, the same bytes would be checked hundreds of times.
 constexpr qsizetype kMaxVainChecks = 4;
 
 /// Size of the packet that the header at `offset` announces, 0 if there is no header.
@@ -30,7 +30,7 @@ qsizetype announcedSize(const QByteArray &bytes, qsizetype offset)
     return size <= kMaxPacketSize ? size : 0;
 }
 
-/// @param packets takes the number of well formed packets, unless it is null
+/// @param packets receives the number of well-formed packets, unless it is null
 QByteArray withoutPackets(const QByteArray &reply, qsizetype *packets = nullptr)
 {
     QByteArray rest;
@@ -40,7 +40,7 @@ QByteArray withoutPackets(const QByteArray &reply, qsizetype *packets = nullptr)
     while (offset < reply.size()) {
         const qsizetype size = vainBudget > 0 ? announcedSize(reply, offset) : 0;
         if (size > reply.size() - offset) {
-            // A packet that the window's end has cut. With a line in it, it may as well be noise in front of text.
+            // A packet cut off by the end of the window. If it contains a line, it may as well be noise before text.
             if (reply.indexOf('\n', offset) < 0)
                 break;
             vainBudget -= reply.size() - offset;
@@ -62,8 +62,7 @@ QByteArray withoutPackets(const QByteArray &reply, qsizetype *packets = nullptr)
 
 bool isBad(QChar character)
 {
-    // A byte order mark is taken off a line's beginning by the toolkit; behind noise it would be an invisible
-    // beginning.
+    // The toolkit strips a byte order mark from the start of a line; after noise it would be an invisible start.
     return character == QChar::ReplacementCharacter || character == QChar::ByteOrderMark
            || (character.category() == QChar::Other_Control && character != u'\t');
 }
@@ -103,8 +102,8 @@ bool isMostlyBad(const QByteArray &text)
     return bad * 4 > characters.size() - ends;
 }
 
-/// A whole line that chance does not make: between line ends nothing but text, an acknowledge or so many characters.
-/// The pair CR LF is as rare as two more characters are.
+/// A whole line that cannot be chance: nothing but text between line ends, either an acknowledge or long enough. The
+/// pair CR LF is as rare as two more characters.
 bool hasWholeLine(const QByteArray &text)
 {
     constexpr qsizetype kMinLine = 8;
@@ -124,7 +123,7 @@ bool hasWholeLine(const QByteArray &text)
     return false;
 }
 
-/// Names and words that are too long to come about by chance.
+/// Names and words that are too long to appear by chance.
 bool hasKnownWord(const QList<QString> &lines)
 {
     const DetectedDevice device = product_resolver::resolve(lines);

@@ -16,7 +16,7 @@ QString settingsKey(ProductKey key)
 OrientationPreset orientation_override::resolve(const DetectedDevice &device, QSettings &settings)
 {
     bool isNumber = false;
-    // As a wide integer: toInt() would let the low half of a larger number pass.
+    // Read as a wide integer: toInt() would accept the low half of a larger number.
     const qlonglong stored = settings.value(settingsKey(device.key)).toLongLong(&isNumber);
     if (isNumber && stored >= 0 && stored < kPresetCount)
         return OrientationPreset(stored);

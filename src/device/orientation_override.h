@@ -9,10 +9,10 @@ class QSettings;
 namespace orientation_override {
 
 /// Preset for a device. A stored value that is not 0 or 1 is ignored; without a usable one the profile's default
-/// counts, and RfuEnu312 where the profile has none. A device without a profile has the catch-all profile.
+/// applies, and RfuEnu312 where the profile has none. A device without a profile has the catch-all profile.
 OrientationPreset resolve(const DetectedDevice &device, QSettings &settings);
 
-/// Stores the user's choice for a product. A value that is no preset is not stored.
+/// Stores the user's choice for a product. A value that is not a preset is not stored.
 void store(ProductKey key, OrientationPreset preset, QSettings &settings);
 
 } // namespace orientation_override

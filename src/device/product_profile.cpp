@@ -63,7 +63,7 @@ ProductProfile makeMz14Profile(ProductKey key, const QString &displayName, const
     profile.knownFamily = true;
     profile.supportsOutputRate = true;
     profile.supportsAttitudeMode = true;
-    // The two families share the low rates only.
+    // The two families share only the low rates.
     profile.outputRates = {QStringLiteral("1"),   QStringLiteral("2"),   QStringLiteral("10"), QStringLiteral("50"),
                            QStringLiteral("100"), QStringLiteral("250"), QStringLiteral("500")};
     profile.directSingleNode = true;

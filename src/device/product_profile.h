@@ -52,21 +52,21 @@ struct ProductProfile
     ProtocolFamily protocolFamily = ProtocolFamily::Unknown;
     PacketFormatFamily packetFormat = PacketFormatFamily::Unknown;
     bool knownFamily = false;
-    bool showFirstSettingsTab = true; ///< else the dialog opens on its second tab
+    bool showFirstSettingsTab = true; ///< otherwise the dialog opens on its second tab
     bool supportsNodeId = false;
     bool supportsOutputRate = false;
     bool supportsAttitudeMode = false;
     QList<QString> outputRates; ///< Hz as decimal text, in display order
     bool directSingleNode = false;
     bool wirelessGateway = false;
-    bool showSensorSummary = false; ///< on links that are not a gateway; gateway links always show it
+    bool showSensorSummary = false; ///< on links that are not gateway links; gateway links always show it
     OrientationPreset defaultOrientation = OrientationPreset::None;
     bool profileEnabled = true;
     HotkeyGroup hotkeyGroup = HotkeyGroup::None;
 };
 
-/// The product table and what can be asked of it. Pure, any thread. Pointers and references stay valid for the
-/// program's life. (The texts of TransportRole and OrientationPreset are declared beside those types.)
+/// The product table and its queries. Pure, any thread. Pointers and references stay valid for the program's life. (The
+/// texts of TransportRole and OrientationPreset are declared beside those types.)
 namespace product_profile {
 
 /// Name of a value; "Unknown" for any value that has none.
@@ -75,7 +75,7 @@ QString toString(ProtocolFamily family);
 QString toString(PacketFormatFamily format);
 QString toString(HotkeyGroup group);
 
-/// Form in which aliases and reply lines are compared: trimmed, runs of white space as one "_", upper case.
+/// The form in which aliases and reply lines are compared: trimmed, runs of white space as one "_", upper case.
 QString normalizeAlias(const QString &alias);
 
 /// The row with that key, or null.

@@ -14,7 +14,7 @@ QString firstLineWith(const QList<QString> &lines, QStringView word)
     return line != lines.end() ? *line : QString();
 }
 
-/// Fills in profile, key and alias of the longest match; false if no alias is in any line.
+/// Fills in profile, key and alias of the longest match; false if no line contains an alias.
 bool matchAlias(DetectedDevice &device)
 {
     QList<QString> normalizedLines;

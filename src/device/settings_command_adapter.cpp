@@ -10,7 +10,7 @@ constexpr quint32 kRestartWindowMs = 2000;
 constexpr float kReplyLatencyMs = 100.0F;
 constexpr float kStopCommandBytes = 11.0F;
 constexpr float kInfoReplyBytes = 600.0F;
-constexpr int kStopRepeats = 3; // a device that is busy streaming may miss the first
+constexpr int kStopRepeats = 3; // a device that is busy streaming may miss the first one
 
 constexpr QLatin1String kReadInfo("AT+INFO\r\n");
 constexpr QLatin1String kStopOutput("AT+EOUT=0\r\n");
@@ -78,7 +78,7 @@ QList<SettingsCommand> buildSaveSequence(const ProductProfile &profile, const Se
     } else {
         return {};
     }
-    // Both dialects understand this reset after a save.
+    // Both dialects accept this reset after a save.
     commands.append({kAtReset, kRestartWindowMs});
     commands.append({kStopOutput, 0});
     return commands;

@@ -38,14 +38,14 @@ namespace settings_command_adapter {
 /// Command that resumes the device's data output.
 QString buildResumeOutputCommand();
 
-/// Text of a one-click command; empty for a value that is none.
+/// Text of a one-click command; empty for a value that is not one.
 QString hotkeyCommand(const ProductProfile &profile, SettingsHotkeyAction action);
 
 /// Commands that write the settings, restart the device and leave it quiet. What the profile does not support is left
-/// out; a device of no known dialect gets no commands at all.
+/// out; a device without a known dialect gets no commands at all.
 QList<SettingsCommand> buildSaveSequence(const ProductProfile &profile, const SettingsSaveRequest &request);
 
-/// Commands that quiet the device and ask for its information; the sequence's result is the information reply.
+/// Commands that silence the device and ask for its information; the result of the sequence is the information reply.
 /// `byteTimeMs` is the transmission time of one byte in milliseconds: 12000 / baud rate, a margin over 10 bit times.
 QList<SettingsCommand> buildReadInfoSequence(float byteTimeMs);
 

@@ -13,7 +13,7 @@ struct BootloaderTask
         Inquire, ///< read what it offers
         Write,   ///< erase and write `image`
         Read,    ///< read `byteCount` bytes back
-        Restart, ///< let it start the firmware
+        Restart, ///< have it start the firmware
     };
 
     Kind kind = Kind::Connect;
@@ -21,10 +21,10 @@ struct BootloaderTask
     QByteArray image;
     quint32 byteCount = 0;
     int attempts = 2;   ///< for each data packet
-    int packetSize = 0; ///< bytes; 0: the largest that the target takes
+    int packetSize = 0; ///< bytes; 0: the largest that the target accepts
 };
 
-/// How it went, with all that the bootloader has told.
+/// How it went, with everything the bootloader reported.
 struct BootloaderResult
 {
     BootloaderTask::Kind kind = BootloaderTask::Kind::Connect;

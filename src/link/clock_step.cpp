@@ -2,7 +2,7 @@
 
 ClockStep ClockStep::between(quint32 previousMs, quint32 stampMs)
 {
-    const quint32 forward = stampMs - previousMs; // modulo 2^32, so that the wrap is no event
+    const quint32 forward = stampMs - previousMs; // modulo 2^32, so a wrap needs no special case
     if (forward != 0 && forward <= kMaxStepMs)
         return {Forward, forward};
     const quint32 back = previousMs - stampMs;

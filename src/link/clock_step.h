@@ -7,7 +7,7 @@ struct ClockStep
 {
     enum Kind {
         Forward,  ///< up to kMaxStepMs onwards, also across the wrap at 2^32
-        Repeated, ///< the same stamp, or less than kMaxBackMs back: a late or doubled sample
+        Repeated, ///< the same stamp, or less than kMaxBackMs back: a late or duplicate sample
         Jump,     ///< anything else: the clock was set or restarted
     };
     static constexpr quint32 kMaxStepMs = 60000;

@@ -17,7 +17,7 @@ constexpr quint8 kTypePingResponse = 0xA7;
 
 constexpr int kLengthOffset = 2;
 constexpr int kCrcOffset = 4;
-constexpr int kStartSize = 2; ///< start byte and type, all that a short packet has
+constexpr int kStartSize = 2; ///< start byte and type, which is all a short packet has
 constexpr int kHeaderSize = 6;
 
 constexpr int kMaxPacketSize = 2047; ///< header and payload

@@ -92,10 +92,10 @@ void decodeBatch63Record(const char *record, node_data_t &node)
     node.yaw = i16(record + 32) / kAngleScale;
 }
 
-// What a compact record that came too short decodes to.
+// Decoded in place of a compact record that is too short.
 constexpr char kZeroRecord[kCompactRecordLength] = {};
 
-/// The scan over one payload: the frame being built, the working sample and the raw values that short items reuse.
+/// The scan over one payload: the frame being built, the working sample, and the raw values that short items reuse.
 class PayloadScan
 {
 public:
@@ -119,7 +119,7 @@ private:
     {
         switch (const quint8 tag = m_cursor.tag()) {
         case kUserId:
-            // The id of a full record that comes too short; on its own it changes nothing.
+            // The id of a full record that is too short; on its own it changes nothing.
             if (m_cursor.has(kUserIdLength))
                 m_fullRecord[1] = m_cursor.item()[1];
             noteItem(tag, kUserIdLength);
@@ -198,7 +198,7 @@ private:
         noteItem(kCompactRecord, kCompactRecordLength);
     }
 
-    /// Three-value items: tag, then i16 x3. One that came too short reuses the raw values of the one before it.
+    /// Three-value items: tag, then i16 x3. One that is too short reuses the raw values of the previous one.
     void readTriple()
     {
         if (m_cursor.has(kTripleLength)) {

@@ -41,7 +41,7 @@ constexpr int kPropertySize = 4;
 
 constexpr int kCommandWaits = 1500;
 constexpr int kDataWaits = 200;
-constexpr int kStatusWaits = 50; // for a response that follows an abort, or has begun
+constexpr int kStatusWaits = 50; // for a response that follows an abort, or has started to arrive
 constexpr int kConfirmWaits = 1500;
 constexpr qint64 kStepNs = 1'000'000;
 constexpr int kReadAttempts = 50;
@@ -49,7 +49,7 @@ constexpr int kReadSilenceMs = 1500;
 constexpr int kReadStallMs = 30'000; // bytes come, but no packet
 constexpr unsigned int kReadQuietMs = 100;
 constexpr unsigned int kBeforeResetMs = 50;
-constexpr qsizetype kMaxPayload = 0xFFFF; // what the length field can tell
+constexpr qsizetype kMaxPayload = 0xFFFF; // limit of the length field
 
 QByteArray makePacket(quint8 type, const QByteArray &payload)
 {
@@ -84,9 +84,9 @@ bool KbootProtocol::serial_send_and_wait_resp(const QByteArray &packet, int wait
     return waitFor(sinceSent, waits, [this] { return m_responseReceived; });
 }
 
-/// Runs an event loop until the condition holds, for at most `steps` milliseconds from now on. It is looked at when
-/// whole milliseconds have passed since the packet was sent, though nothing wakes up for that while nothing comes. The
-/// rest of a millisecond is slept: the event loop rounds it up to a whole one.
+/// Runs an event loop until the condition holds, for at most `steps` milliseconds from now. The condition is checked
+/// only at whole milliseconds after the packet was sent, and nothing wakes up for that while no bytes arrive. The rest
+/// of a millisecond is slept, because the event loop would round it up to a whole one.
 bool KbootProtocol::waitFor(const QElapsedTimer &sinceSent, int steps, const std::function<bool()> &isMet)
 {
     const qint64 endNs = sinceSent.nsecsElapsed() + steps * kStepNs;
@@ -103,14 +103,14 @@ bool KbootProtocol::waitFor(const QElapsedTimer &sinceSent, int steps, const std
         if (isMet()) {
             const qint64 pastNs = sinceSent.nsecsElapsed() % kStepNs;
             std::this_thread::sleep_for(std::chrono::nanoseconds(kStepNs - pastNs));
-            loop.processEvents(); // what came meanwhile
+            loop.processEvents(); // what has arrived meanwhile
         }
     }
     m_wait = outer;
     return isMet();
 }
 
-/// Something has come, or happened, that a wait may be for.
+/// Something has arrived or happened that a wait may be waiting for.
 void KbootProtocol::wakeWait()
 {
     if (m_wait != nullptr && (isCancelled() || (*m_wait->isMet)()))
@@ -124,7 +124,7 @@ void KbootProtocol::delay(unsigned int ms)
     loop.exec();
 }
 
-/// Whatever is left of an earlier packet must neither pass for the reply nor swallow its first bytes.
+/// Leftovers of an earlier packet must neither pass for the reply nor swallow its first bytes.
 void KbootProtocol::forgetReply()
 {
     m_responseReceived = false;
@@ -194,7 +194,7 @@ bool KbootProtocol::cmd_send_data_packet(const QByteArray &payload)
     switch (dataAnswer()) {
     case kTypeAck:
         return true;
-    case kTypeCommand: // the whole write has ended, well or not: the status says how
+    case kTypeCommand: // the whole write has ended, successfully or not: see the status
         awaitStatus(kStatusWaits);
         return true;
     case kTypeNak:
@@ -211,8 +211,8 @@ bool KbootProtocol::cmd_send_data_packet(const QByteArray &payload)
     return fail(BootloaderFault::NoAnswer);
 }
 
-/// What a data packet was answered; 0 while there is nothing that could be an answer. An acknowledge is no packet to
-/// the decoder: its two bytes just stand at the start of the frame buffer.
+/// The answer to a data packet; 0 while there is nothing that could be one. To the decoder an acknowledge is not a
+/// packet: its two bytes just stand at the start of the frame buffer.
 quint8 KbootProtocol::dataAnswer() const
 {
     if (m_frameBuffer.size() < 2 || quint8(m_frameBuffer.at(0)) != kStartByte)
@@ -221,7 +221,7 @@ quint8 KbootProtocol::dataAnswer() const
     return type >= kTypeAck && type <= kTypeCommand ? type : 0;
 }
 
-/// Waits inside or behind the data phase for the target's answer to the whole write.
+/// Waits during or after the data phase for the target's answer to the whole write.
 void KbootProtocol::awaitStatus(int steps)
 {
     QElapsedTimer now;
@@ -279,7 +279,7 @@ bool KbootProtocol::connectSteps()
     return true;
 }
 
-/// A property's value, which has to have 4 bytes; else the reason is noted and it is empty.
+/// A property's value, which must have 4 bytes; otherwise the reason is noted and the result is empty.
 QByteArray KbootProtocol::propertyValue(quint8 property)
 {
     if (isCancelled())
@@ -298,7 +298,7 @@ bool KbootProtocol::download(const QByteArray &image, int startAddress, int atte
     if (complete) {
         begin(BootloaderStep::Reset);
         delay(kBeforeResetMs);
-        m_outcome.isConfirmed = noteStatus(); // the response to the whole write comes behind the last acknowledge
+        m_outcome.isConfirmed = noteStatus(); // the response to the whole write follows the last acknowledge
         complete = cmd_reset();
     }
     if (!complete && isCancelled())
@@ -370,7 +370,7 @@ bool KbootProtocol::writeSteps(const QByteArray &image, quint32 address, int att
         emit downloadProgress(int(offset * 100 / image.size()));
         emit downloadAdvanced(BootloaderStep::Data, m_outcome.acknowledgedBytes);
     }
-    m_outcome.fault = BootloaderFault::None; // of an attempt that was repeated
+    m_outcome.fault = BootloaderFault::None; // left by an attempt that was repeated
     return true;
 }
 
@@ -398,7 +398,7 @@ BootloaderOffer KbootProtocol::inquire()
     return offer;
 }
 
-/// A property that not every bootloader has.
+/// A property that some bootloaders lack.
 std::optional<quint32> KbootProtocol::offered(quint8 property)
 {
     if (isCancelled())
@@ -435,12 +435,12 @@ bool KbootProtocol::readMemory(quint32 address, quint32 byteCount)
     return m_outcome.fault == BootloaderFault::None;
 }
 
-/// One command and what follows it, into m_memory. NoAnswer stays the fault when the target falls silent.
+/// Sends one command and collects what follows into m_memory. The fault stays NoAnswer when the target falls silent.
 bool KbootProtocol::readPart(quint32 address, quint32 byteCount)
 {
     MemoryRead read(m_memory, byteCount);
     m_read = &read;
-    // Noise may come for ever; what is needed, and sent again, is far less.
+    // Noise may go on for ever; what is needed, repeats included, is far less.
     const quint64 mostBytes = m_health.receivedBytes + quint64(byteCount) * 4 + 65536;
     cmd_flash_read_memory(address, byteCount);
     QElapsedTimer sincePacket;
@@ -472,7 +472,7 @@ bool KbootProtocol::readPart(quint32 address, quint32 byteCount)
     return read.isComplete();
 }
 
-/// Takes the packet in the frame buffer while memory is read, and answers it. False when it is none of that.
+/// Takes the packet in the frame buffer while memory is being read, and answers it. False when it is not part of that.
 bool KbootProtocol::takeForRead(quint8 type, bool fits)
 {
     MemoryRead::Answer answer = MemoryRead::Answer::Nothing;
@@ -538,8 +538,8 @@ bool KbootProtocol::fail(BootloaderFault fault)
     return false;
 }
 
-/// Keeps the status word of the response in the frame buffer: the dialogue goes on, but the user shall know. False when
-/// there is no response.
+/// Keeps the status word of the response in the frame buffer: the dialogue goes on, but the user should know. False
+/// when there is no response.
 bool KbootProtocol::noteStatus()
 {
     const std::optional<quint32> status = responseStatus();
@@ -552,7 +552,7 @@ bool KbootProtocol::noteStatus()
 std::optional<quint32> KbootProtocol::responseStatus() const
 {
     constexpr int kStatusOffset = kHeaderSize + kCommandHeaderSize;
-    // A data packet counts as a response as well, and leaves nothing but its payload, which may be one byte.
+    // A data packet counts as a response too, and leaves only its payload, which may be a single byte.
     if (!m_responseReceived || m_frameBuffer.size() < kStatusOffset + kStatusSize
         || quint8(m_frameBuffer.at(1)) != kTypeCommand)
         return {};

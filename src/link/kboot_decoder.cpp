@@ -9,11 +9,11 @@ namespace {
 
 using namespace framing_packet;
 
-// While hunting, discarded bytes collect behind the last packet, because whoever waits for an acknowledge looks at the
-// first two. Noise without a single start byte must not fill the memory, so beyond this size they are let go.
+// While hunting, discarded bytes collect after the last packet, because whoever waits for an acknowledge looks at the
+// first two. Noise without a single start byte must not fill the memory, so beyond this size they are dropped.
 constexpr qsizetype kMaxDiscardedBytes = 4096;
 
-/// A letter in every response to a ping.
+/// A letter that every response to a ping contains.
 constexpr int kPingLetterOffset = 5;
 
 quint16 u16At(const QByteArray &bytes, int offset)
@@ -36,7 +36,7 @@ KbootProtocol::KbootProtocol(QObject *parent) : QObject(parent)
 
 void KbootProtocol::serial_read(const QByteArray &data)
 {
-    // A receiver of kbootRecv() may spin an event loop and so come back here: decode a copy.
+    // A receiver of kbootRecv() may spin an event loop and so re-enter this function: decode a copy.
     m_rxStaging.append(data);
     const QByteArray chunk = m_rxStaging;
     m_rxStaging.clear();
@@ -59,7 +59,7 @@ void KbootProtocol::decode(const QByteArray &data)
     for (const char byte : data)
         decodeByte(byte);
     wakeWait();
-    if (m_errorNoted) { // the clock is asked once for a chunk, and for a damaged one only
+    if (m_errorNoted) { // the clock is read once per chunk, and only for a damaged one
         m_errorNoted = false;
         m_health.lastErrorMs = QDateTime::currentMSecsSinceEpoch();
     }
@@ -94,7 +94,7 @@ void KbootProtocol::decodeByte(char byte)
         finishHeader();
         break;
     default:
-        // Looked at only when a byte arrives: a packet with an empty payload therefore waits for the byte behind it.
+        // Checked only when a byte arrives: a packet with an empty payload therefore waits for the byte after it.
         if (m_frameBuffer.size() >= m_expectedLength)
             finishPacket();
         break;
@@ -107,7 +107,7 @@ void KbootProtocol::startPacket()
         m_frameBuffer.resize(0); // keeps the capacity
         return;
     }
-    // The last payload is still on its way to the main thread and has the buffer; the next packet is likely as long.
+    // The last payload is still on its way to the main thread and owns the buffer; the next packet is probably as long.
     m_frameBuffer = QByteArray();
     m_frameBuffer.reserve(m_expectedLength);
 }
@@ -124,7 +124,7 @@ void KbootProtocol::takeType(quint8 type)
         [[fallthrough]];
     case kTypeAck:
     case kTypeNak:
-    case kTypeAckAbort: // complete with its type; what it means is for those who wait for it
+    case kTypeAckAbort: // complete with its type byte; its meaning is for whoever waits for it
         m_decodeState = Hunting;
         ++m_health.controlPackets;
         m_health.controlBytes += kStartSize;
@@ -169,7 +169,7 @@ void KbootProtocol::finishPacket()
         countData();
         m_frameBuffer.remove(0, kHeaderSize);
         emit kbootRecv(m_frameBuffer);
-    } else if (fits || type == kTypePingResponse) { // which has its check value in another place
+    } else if (fits || type == kTypePingResponse) { // whose check value is in another place
         ++m_health.controlPackets;
         m_health.controlBytes += quint64(m_frameBuffer.size());
     } else {

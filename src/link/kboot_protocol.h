@@ -25,13 +25,13 @@ class QEventLoop;
 ///     4       2      CRC-16/XMODEM over bytes 0..3 and the payload
 ///     6       n      payload
 ///
-/// Nothing is reported for bad input, it is only counted; the decoder returns to hunting from the byte that follows and
-/// never looks at a rejected packet's bytes again. A packet may be split over any number of reads.
+/// Bad input is not reported, only counted; the decoder returns to hunting from the byte that follows and never looks
+/// at a rejected packet's bytes again. A packet may be split over any number of reads.
 ///
-/// The client waits in nested event loops, and looks at what came at whole milliseconds after sending. Except while it
-/// reads memory it acknowledges nothing that the target sends. connect() and download() act on no status word; the
-/// steps of an update that is proved by reading back, writeImage() and readMemory(), end at one. A command packet's
-/// payload:
+/// The client waits in nested event loops, and checks what has arrived at whole milliseconds after sending. Except
+/// while reading memory it acknowledges nothing that the target sends. connect() and download() act on no status word;
+/// writeImage() and readMemory(), the steps of an update that is verified by reading back, stop at one. A command
+/// packet's payload:
 ///
 ///     offset  width  field
 ///     0       1      command tag
@@ -56,14 +56,14 @@ public:
     void clear();
 
     /// CRC of a packet: over bytes 0..3 and everything from byte 6 on, starting from 0. The packet's own CRC field is
-    /// passed over. A packet of fewer than 6 bytes gives the CRC of its first four bytes at most.
+    /// skipped. A packet of fewer than 6 bytes gives the CRC of its first four bytes at most.
     static quint16 do_crc_check(const QByteArray &packet);
 
     /// Running CRC-16/XMODEM (polynomial 0x1021, no reflection, no final XOR): continues from `*crc` over `length`
-    /// bytes, stores the result back and returns it.
+    /// bytes, stores the result there and returns it.
     static quint16 crc16(quint16 *crc, const quint8 *data, quint32 length);
 
-    /// Bytes of the packet in progress or just ended; while hunting, the discarded bytes behind them. The type byte of
+    /// Bytes of the packet in progress or just ended; while hunting, followed by the discarded bytes. The type byte of
     /// an acknowledge stays here for whoever waits for it.
     const QByteArray &frameBuffer() const { return m_frameBuffer; }
 
@@ -74,35 +74,35 @@ public:
     LinkHealth health() const;
 
     using QObject::connect;
-    /// Pings the bootloader and reads its facts; an unanswered ping is no fault, a property that is missing or not of 4
-    /// bytes is. Takes up to 3 s when nobody answers.
+    /// Pings the bootloader and reads its facts; an unanswered ping is not a fault, a property that is missing or does
+    /// not have 4 bytes is. Takes up to 3 s when nobody answers.
     bool connect();
 
-    /// Erases as many bytes as the image has from `startAddress` on, writes the image in packets of the target's
-    /// maximum size, each sent up to `attempts` times, and resets the target. False at the first step that fails.
+    /// Erases the size of the image from `startAddress` on, writes the image in packets of the target's maximum size,
+    /// each sent up to `attempts` times, and resets the target. False at the first step that fails.
     bool download(const QByteArray &image, int startAddress, int attempts);
 
-    /// The same without the reset, in packets of at most `packetSize` bytes (0: the target's maximum size). It ends at
-    /// the first status other than 0, and awaits the target's answer to the whole write for up to 1.5 s.
+    /// The same without the reset, in packets of at most `packetSize` bytes (0: the target's maximum size). It stops at
+    /// the first status other than 0, and waits up to 1.5 s for the target's answer to the whole write.
     bool writeImage(const QByteArray &image, quint32 address, int attempts, int packetSize);
 
-    /// The two bytes that a bootloader answers, and a firmware passes over.
+    /// The two bytes that a bootloader answers and a firmware ignores.
     static QByteArray pingPacket();
 
-    /// Asks what the bootloader offers beyond its facts. Takes up to 4.5 s when it does not answer.
+    /// Queries what the bootloader offers beyond its facts. Takes up to 4.5 s when it does not answer.
     BootloaderOffer inquire();
 
-    /// Reads flash into memory(). False when the target refuses, or what arrives makes no sense; damaged packets are
-    /// asked for again, and after 1.5 s of silence the rest is.
+    /// Reads flash into memory(). False when the target refuses or what arrives makes no sense; damaged packets are
+    /// requested again, as is the rest after 1.5 s of silence.
     bool readMemory(quint32 address, quint32 byteCount);
-    /// What the last readMemory() got, from its address on; less than asked for when it failed.
+    /// What the last readMemory() read, from its address on; less than requested when it failed.
     const QByteArray &memory() const { return m_memory; }
 
-    /// Lets the target start its firmware. Waits for the response, for at most 1500 ms.
+    /// Has the target start its firmware. Waits at most 1500 ms for the response.
     void restart();
 
-    /// Ends a connect() or download() that is waiting: it returns false at its next step, with the fault `reason`, of
-    /// which the first one counts.
+    /// Ends a connect() or download() that is waiting: it returns false at its next step, with the fault `reason`. The
+    /// first reason counts.
     void cancel(BootloaderFault reason = BootloaderFault::PortClosed);
 
     /// Notes that the port failed before connect() or download() could run.
@@ -111,7 +111,7 @@ public:
     /// Sends one command and waits 1500 ms for a response; true when one arrived.
     bool cmd_packet(unsigned char tag, unsigned char paramCount, const unsigned int *params);
     /// Value of a property: the response without framing header, command header and status word. Without a response,
-    /// whatever the frame buffer holds.
+    /// whatever is in the frame buffer.
     QByteArray cmd_get_property(unsigned char property);
     bool cmd_flash_erase_region(unsigned int address, unsigned int byteCount);
     bool cmd_flash_write_memory(unsigned int address, unsigned int byteCount);
@@ -120,7 +120,7 @@ public:
     /// Sends one data packet and waits 200 ms for its acknowledge. Payloads of up to 65535 bytes.
     bool cmd_send_data_packet(const QByteArray &payload);
 
-    /// Announces a read; memory() then takes what comes. See readMemory().
+    /// Announces a read; memory() then takes what arrives. See readMemory().
     bool cmd_flash_read_memory(unsigned int address, unsigned int byteCount);
 
     /// Sends a packet and waits for a response for at most `waits` steps of 1 ms.
@@ -128,8 +128,8 @@ public:
     /// Runs an event loop for `ms` milliseconds.
     static void delay(unsigned int ms);
 
-    /// Facts as the last connect() read them; how the last connect() or download() went. Other threads may look while
-    /// neither runs.
+    /// Facts as the last connect() read them; how the last connect() or download() went. Other threads may read them
+    /// while neither runs.
     const BootloaderFacts &facts() const { return m_facts; }
     const BootloaderOutcome &outcome() const { return m_outcome; }
 
@@ -137,13 +137,13 @@ signals:
     /// Payload of one good data packet (type 0xA5) without its header. Emitted from inside decode(), in stream order.
     void kbootRecv(QByteArray payload);
 
-    /// A whole response to a ping has come, asked for or not.
+    /// A complete response to a ping has arrived, requested or not.
     void pingAnswered();
 
     /// Bytes that this object wants written to the port.
     void serialSend(QByteArray data);
 
-    /// The target has acknowledged this share of the image, 0 to 100. After each data packet.
+    /// The target has acknowledged this percentage of the image, 0 to 100. Emitted after each data packet.
     void downloadProgress(int percent);
 
     /// A step begins, or this many bytes of the image have been acknowledged by the target, or read back.
@@ -163,7 +163,7 @@ private:
 
     // client
     enum class OnStatus { GoOn, End };
-    /// A wait that runs: what it waits for, and the loop to leave when that is there.
+    /// A wait in progress: what it waits for, and the loop to leave when that has arrived.
     struct Wait
     {
         QEventLoop *loop;

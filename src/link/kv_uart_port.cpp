@@ -50,7 +50,7 @@ void KvUartPort::openUART(const QString &portName, int baud)
         stopInWorker();
         waitForWorker(QDeadlineTimer::Forever);
     }
-    clear(); // nobody is to take the last connection's figures for those of this one
+    clear(); // the last connection's figures must not pass for those of this one
     m_portName = portName;
     m_baudRate = baud;
     m_startPending = true;
@@ -97,8 +97,8 @@ bool KvUartPort::waitForWorker(QDeadlineTimer deadline)
 
 void KvUartPort::threadStarted()
 {
-    // A close right behind an open overtakes the start, which then arrives in the main thread, or in the next session
-    // as a second start. Neither may open the port.
+    // A close right after an open overtakes the start, which then arrives in the main thread, or in the next session as
+    // a second start. Neither may open the port.
     if (!m_startPending || QThread::currentThread() != m_workerThread.get())
         return;
     m_startPending = false;
@@ -131,7 +131,7 @@ void KvUartPort::threadStopped()
     m_secondTimer->stop();
     publishHealth();
     AppLog::logfile(QtInfoMsg, QStringLiteral("uart-thread stopped."));
-    if (m_bootloaderBusy) { // and waits below on this thread's stack
+    if (m_bootloaderBusy) { // and is waiting further down this thread's stack
         m_kboot->cancel();
         m_moveHomeAfterwards = true;
         return;
@@ -161,8 +161,8 @@ void KvUartPort::onReadyRead()
 
 void KvUartPort::onErrorOccurred(QSerialPort::SerialPortError error)
 {
-    // A device that has vanished stays readable and fails at every read, so that an open port would report errors by
-    // the thousand. Queued, because the port may not be closed from inside its own notifier.
+    // A device that has vanished stays readable and fails at every read, so an open port would report errors by the
+    // thousand. Queued, because the port may not be closed from inside its own notifier.
     if (isOpen() && (error == QSerialPort::ReadError || error == QSerialPort::ResourceError)) {
         close();
         m_kboot->cancel();
@@ -200,7 +200,7 @@ bool KvUartPort::serialSendBlocking(const QByteArray &data, int timeoutMs)
 {
     if (!isOpen())
         return false;
-    // Not by serialSend(), which waits as well while a bootloader is connected: a wait for bytes that are already out
+    // Not through serialSend(), which also waits while a bootloader is connected: a wait for bytes that are already out
     // fails, and counts as an error of the port.
     writeCounted(data);
     return waitForBytesWritten(timeoutMs);
@@ -340,7 +340,7 @@ void KvUartPort::cancelBootloader()
     m_kboot->cancel(BootloaderFault::Stopped);
 }
 
-/// False while another operation waits below on the stack.
+/// False while another operation is waiting further down the stack.
 bool KvUartPort::beginBootloader()
 {
     return !m_bootloaderBusy.exchange(true);
@@ -382,7 +382,7 @@ quint32 KvUartPort::loadPercent(quint64 bytes, int bitsPerSecond, int bitsPerCha
 void KvUartPort::onTimer1000ms()
 {
     publishHealth();
-    // The settings' values as the library numbers them, plus the start bit: 8 + 0 + 1 + 1 = 10 for 8N1.
+    // The values of the library's enumerators, plus the start bit: 8 + 0 + 1 + 1 = 10 for 8N1.
     const int bitsPerCharacter = int(dataBits()) + int(parity()) + int(stopBits()) + 1;
     const QMutexLocker lock(&m_statsMutex);
     m_lastSecond.txBytesLastSecond = m_txBytes;

@@ -13,7 +13,7 @@
 
 class KbootProtocol;
 
-/// What the link carried during the last whole second. Loads are in per cent of the line's capacity.
+/// What the link carried during the last whole second. Loads are in percent of the line's capacity.
 struct LinkStatistics
 {
     quint32 framesLastSecond = 0; ///< payloads forwarded
@@ -23,17 +23,17 @@ struct LinkStatistics
     quint32 rxLoadPercent = 0;
 };
 
-/// The program's serial link. While a port is open, this object, its deframer and its one-second timer live in a worker
-/// thread of their own; while closed, they live in the application's main thread. Always 8N1 without flow control.
+/// The program's serial link. While a port is open, this object, its deframer and its one-second timer live in their
+/// own worker thread; while closed, they live in the application's main thread. Always 8N1 without flow control.
 ///
-/// openUART() and closeUART() are called from the main thread. The sending slots are for queued calls (or signals).
-/// Whether opening worked arrives as QSerialPort::errorOccurred() and errorOpenPort(). A port whose device vanishes
-/// tells so by errorOccurred() and closes itself; the thread runs on until closeUART(). Signals are emitted in the
-/// worker thread; receivers in the main thread get them queued.
+/// openUART() and closeUART() are called from the main thread. The sending slots are for queued calls (or signals). A
+/// failure to open is reported by QSerialPort::errorOccurred() and errorOpenPort(). A port whose device vanishes
+/// reports it by errorOccurred() and closes itself; the thread keeps running until closeUART(). Signals are emitted in
+/// the worker thread; receivers in the main thread get them queued.
 ///
 /// It hosts the bootloader client. A connect or download runs in the worker thread and waits in nested event loops, in
-/// which other queued work may run too; keep the line free of other commands meanwhile. A port that is closed inside
-/// such a wait ends the operation, and closeUART() returns when it has ended.
+/// which other queued work may run too; keep the line free of other commands meanwhile. Closing the port during such a
+/// wait ends the operation, and closeUART() returns when it has ended.
 class KvUartPort : public QSerialPort
 {
     Q_OBJECT
@@ -43,27 +43,27 @@ public:
     explicit KvUartPort(QObject *parent = nullptr);
     ~KvUartPort() override;
 
-    /// Starts the worker thread, which opens the port `portName` (a name or an absolute path) at `baud` baud. A port
-    /// that is open is closed first. Returns before the port is open.
+    /// Starts the worker thread, which opens the port `portName` (a name or an absolute path) at `baud` baud. An open
+    /// port is closed first. Returns before the port is open.
     void openUART(const QString &portName, int baud);
 
     /// Sends what was queued before, closes the port in its thread, and then waits at most 5 s for the thread to end.
-    /// When it returns, everything that the worker has emitted is already posted to the main thread. Nothing happens
-    /// when nothing is open.
+    /// When it returns, everything that the worker emitted has been posted to the main thread. Does nothing when
+    /// nothing is open.
     void closeUART();
 
     /// Counters of the last whole second. Any thread.
     LinkStatistics statistics() const;
 
-    /// What the deframer has decoded and lost since the last opening, as of the last whole second; as of the end once
-    /// the port is closed. Any thread.
+    /// What the deframer has decoded and lost since the port was last opened, as of the last whole second, or as of the
+    /// end once the port is closed. Any thread.
     LinkHealth health() const;
 
     /// The bootloader client, for its signals; and for its facts and outcome while isBootloaderBusy() is false.
     const KbootProtocol *kboot() const { return m_kboot.get(); }
 
     /// Connected to a bootloader, or trying to. Any thread; after a blocking call of connectBootloader() its result,
-    /// and what that call has written is seen.
+    /// and what that call wrote is visible.
     bool isInBootloaderMode() const { return m_bootloaderMode; }
     /// A connect or download runs. Any thread.
     bool isBootloaderBusy() const { return m_bootloaderBusy; }
@@ -72,8 +72,8 @@ public:
     static quint32 loadPercent(quint64 bytes, int bitsPerSecond, int bitsPerCharacter);
 
 public slots:
-    /// Writes bytes; they count when the port took them. Closed: nothing happens. With a bootloader at the other end,
-    /// waits up to 1 s until the system has taken them all.
+    /// Writes bytes, which are counted when the port has taken them. Does nothing when closed. With a bootloader at the
+    /// other end, waits up to 1 s until the system has taken them all.
     void serialSend(const QByteArray &data);
     /// Writes bytes and waits up to `timeoutMs` until the system has taken them all. Worker thread only.
     bool serialSendBlocking(const QByteArray &data, int timeoutMs);
@@ -81,24 +81,24 @@ public slots:
     void clear();
 
     /// Restarts the device into its bootloader and reads the bootloader's facts. Takes up to 4 s. For a blocking queued
-    /// call. False when the port is closed, when nobody answers and while another operation runs.
+    /// call. False when the port is closed, when nothing answers, and while another operation runs.
     bool connectBootloader();
-    /// Lets a bootloader start the device's firmware. Takes up to 1.5 s. For a blocking queued call. False when the
-    /// port is closed, when nobody confirms it and while another operation runs.
+    /// Has a bootloader start the device's firmware. Takes up to 1.5 s. For a blocking queued call. False when the port
+    /// is closed, when it is not confirmed, and while another operation runs.
     bool restartFromBootloader();
     /// Writes `image` to the connected bootloader's flash from `startAddr` on, each data packet up to `retry` times.
     /// False when the port is closed, when a step fails and while another operation runs.
     bool downloadBootloader(const QByteArray &image, int startAddr, int retry);
-    /// The same for a queued call: the result comes by bootloaderDownloadFinished(). While another operation runs the
-    /// call is dropped; that operation's end is what is told.
+    /// The same for a queued call: bootloaderDownloadFinished() reports the result. While another operation runs the
+    /// call is dropped, and the end of that operation is what is reported.
     void startDownloadBootloader(const QByteArray &image, int startAddr, int retry);
     /// Sends a ping and nothing else; bootloaderHeard() follows when a bootloader is there.
     void askForBootloader();
-    /// Does one part of an update, for a queued call; bootloaderTaskFinished() follows in any case. It fails at once
-    /// when the port is closed and while another operation runs.
+    /// Does one part of an update, for a queued call; bootloaderTaskFinished() follows in any case. Fails at once when
+    /// the port is closed and while another operation runs.
     void runBootloaderTask(const BootloaderTask &task);
-    /// Ends the connect, download or task that runs, with the fault `Stopped`; nothing happens when none does. For a
-    /// queued call, which the operation's own event loop takes.
+    /// Ends the running connect, download or task with the fault `Stopped`; does nothing when none runs. For a queued
+    /// call, which the operation's own event loop delivers.
     void cancelBootloader();
 
 signals:
@@ -106,9 +106,9 @@ signals:
     void opened();
     /// Payload of one good data packet, without its framing header.
     void kbootRecv(QByteArray payload);
-    /// Every chunk as it was read, after it has been through the deframer.
+    /// Every chunk as it was read, after it has passed through the deframer.
     void serialRecv(QByteArray data);
-    /// The port could not be opened; errorOccurred() has told why.
+    /// The port could not be opened; errorOccurred() has reported why.
     void errorOpenPort();
     /// How startDownloadBootloader() ended.
     void bootloaderDownloadFinished(bool success);
@@ -147,9 +147,10 @@ private:
     bool m_startPending = false;                ///< openUART() has asked for a start that has not run yet
     std::atomic<bool> m_bootloaderMode = false; ///< connected to a bootloader, or trying to
     bool m_hasAskedForBootloader = false;
-    bool m_moveHomeAfterwards = false;       ///< the thread was stopped inside a wait of the bootloader client
-    std::atomic<bool> m_workerEnded = false; ///< orders all that the worker did before what follows a wait for its end
-    std::atomic<bool> m_bootloaderBusy = false; ///< orders what the client has written before other threads' looks
+    bool m_moveHomeAfterwards = false; ///< the thread was stopped inside a wait of the bootloader client
+    std::atomic<bool> m_workerEnded =
+        false; ///< orders everything the worker did before what follows a wait for its end
+    std::atomic<bool> m_bootloaderBusy = false; ///< orders what the client wrote before other threads' reads
 
     mutable QMutex m_statsMutex; ///< guards all below
     LinkHealth m_health;

@@ -3,22 +3,22 @@
 #include <QMetaType>
 #include <QtGlobal>
 
-/// Kinds of damage that the decoder sees.
+/// Kinds of damage that the decoder detects.
 enum class LinkError : quint8 {
     None,
     Checksum,    ///< a packet whose bytes do not fit its CRC
     OverLong,    ///< a header that claims more than the longest packet
-    UnknownType, ///< a start byte in front of no packet type
+    UnknownType, ///< a start byte not followed by a packet type
     Noise,       ///< bytes between packets that cannot be text
 };
 
 /// What the decoder has seen since the connection was opened. A plain value.
 ///
 /// Every byte is counted in one place: in a good packet, in a rejected one, outside all packets, or in the packet that
-/// is still in progress; addsUp() says so. Bytes outside packets are no fault by themselves: a device answers commands
-/// in text on the same line. Nor is what arrives in front of the first good data packet, because a port is mostly
-/// opened in the middle of one: when that packet comes, the counts of damage begin anew and the bytes are kept as
-/// leadingBytes. Without any good packet, as at a wrong baud rate, everything stays counted as damage.
+/// is still in progress; addsUp() checks it. Bytes outside packets are not a fault in themselves: a device answers
+/// commands in text on the same line. Nor is what arrives before the first good data packet, because a port is usually
+/// opened in the middle of one: when that packet arrives, the counts of damage start again from zero and the bytes are
+/// kept as leadingBytes. Without any good packet, as at a wrong baud rate, everything stays counted as damage.
 struct LinkHealth
 {
     quint64 receivedBytes = 0;
@@ -36,7 +36,7 @@ struct LinkHealth
     quint64 unknownTypes = 0;    ///< 2 bytes each
     quint64 discardedBytes = 0;  ///< outside packets: text, the rest of a rejected packet, noise
     quint64 noiseBytes = 0;      ///< those of them that cannot be text
-    quint64 leadingBytes = 0;    ///< in front of the first good data packet, outside good ones
+    quint64 leadingBytes = 0;    ///< before the first good data packet, outside good packets
     quint64 pendingBytes = 0;    ///< of the packet in progress
 
     LinkError lastError = LinkError::None;
@@ -46,7 +46,7 @@ struct LinkHealth
     quint64 rejectedBytes() const;
     /// Rejected packets.
     quint64 errors() const { return crcErrors + overLongLengths + unknownTypes; }
-    /// No received byte is missing in the counts. Always true.
+    /// No received byte is missing from the counts. Always true.
     bool addsUp() const;
 
     bool operator==(const LinkHealth &) const = default;

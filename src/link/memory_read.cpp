@@ -34,7 +34,7 @@ MemoryRead::Answer MemoryRead::takeResponse(const QByteArray &payload)
         m_state = State::Data;
         return Answer::Acknowledge;
     }
-    // A late answer to something else is none to this.
+    // A late answer to something else is not an answer to this.
     if (m_state == State::Data && tag == kGenericResponse && payload.at(kCountOffset) == char(kReadMemory)) {
         m_status = status;
         return end(status != 0 || m_left > 0 ? BootloaderFault::Aborted : BootloaderFault::None, Answer::Acknowledge);

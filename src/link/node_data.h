@@ -5,7 +5,7 @@
 #include <QMetaType>
 
 /// One sample of one node, in the units that the views show and the recorder writes. A plain value: it crosses threads
-/// by copy. Every field that the stream did not carry is 0.
+/// by copy. A field that the stream does not carry is 0.
 struct node_data_t
 {
     quint8 id = 0;            ///< module id, or radio node id in a gateway batch
@@ -44,7 +44,7 @@ enum Value : int {
 /// The result of decoding one payload.
 struct DecodedFrame
 {
-    quint64 seq = 0;                 ///< running number, 1 for the parser's first frame
+    quint64 seq = 0;                 ///< sequence number, 1 for the parser's first frame
     int family = frame_family::None; ///< a frame_family value
     QByteArray item_tags;            ///< tags of the items found, in payload order
     quint8 gwid = 0;                 ///< gateway id of a batch, else 0

@@ -45,7 +45,7 @@ SampleFields sampleFields(const DecodedFrame &frame)
 {
     SampleFields fields;
     for (const char tag : frame.item_tags) {
-        // A compact record takes back the angles and the time of what stood before it.
+        // A compact record clears the angles and the time of the items before it.
         if (quint8(tag) == kCompactRecord)
             fields &= ~(SampleFields(SampleField::Euler) | SampleField::Time);
         fields |= fieldsOf(quint8(tag));

@@ -18,6 +18,6 @@ enum class SampleField : unsigned int {
 Q_DECLARE_FLAGS(SampleFields, SampleField)
 Q_DECLARE_OPERATORS_FOR_FLAGS(SampleFields)
 
-/// Which quantities the samples of a frame carry, by the items that it held. What is not in the set reads 0 in the
+/// Which quantities the samples of a frame carry, given the items that it held. A quantity outside the set is 0 in the
 /// sample because nothing was sent, and views show a dash for it.
 SampleFields sampleFields(const DecodedFrame &frame);

@@ -8,9 +8,9 @@
 
 namespace {
 
-constexpr int kKnownSteps = 5;   ///< steps from which the period counts as known
-constexpr double kGap = 1.5;     ///< periods that make a gap
-constexpr int kRoundedShare = 6; ///< one step in so many is longer by the rounding
+constexpr int kKnownSteps = 5;   ///< steps after which the period counts as known
+constexpr double kGap = 1.5;     ///< a step of this many periods is a gap
+constexpr int kRoundedShare = 6; ///< rounding makes one step in this many longer
 constexpr qint64 kClocksDifferMs = 1000;
 constexpr qint64 kClocksDifferShare = 20; ///< a twentieth of the time, more than any quartz
 
@@ -22,7 +22,7 @@ SampleGaps::Step SampleGaps::add(quint32 stampMs, qint64 hostMs)
     if (m_hasClock && stampMs != 0) {
         const quint32 ms = forwardMs(stampMs, hostMs, step.jumped);
         if (ms > 0) {
-            const Pace known = pace(); // before the step itself is part of it
+            const Pace known = pace(); // before it includes this step
             if (ms > known.gapMs) {
                 step.missing = quint64(std::max(std::lround(ms / known.periodMs) - 1, 0L));
                 step.gapMs = step.missing > 0 ? ms : 0;
@@ -34,7 +34,7 @@ SampleGaps::Step SampleGaps::add(quint32 stampMs, qint64 hostMs)
     } else if (stampMs != 0) {
         m_hasClock = true;
         m_stampMs = stampMs;
-        m_stepCount = 0; // those by arrival
+        m_stepCount = 0; // steps by arrival
     } else if (!m_hasClock && m_hasSample) {
         addStep(quint32(std::clamp<qint64>(hostMs - m_hostMs, 0, ClockStep::kMaxStepMs)));
     }
@@ -43,7 +43,7 @@ SampleGaps::Step SampleGaps::add(quint32 stampMs, qint64 hostMs)
     return step;
 }
 
-/// The clock's step forwards; 0 for a repeated or late stamp, and when it jumped.
+/// The clock's step forward; 0 for a repeated or late stamp, and after a jump.
 quint32 SampleGaps::forwardMs(quint32 stampMs, qint64 hostMs, bool &jumped) const
 {
     const ClockStep step = ClockStep::between(m_stampMs, stampMs);
@@ -65,7 +65,7 @@ void SampleGaps::changeClock()
 void SampleGaps::addStep(quint32 stepMs)
 {
     m_steps[size_t(m_stepCount % kSteps)] = stepMs;
-    // The count goes on as the ring's write position, in a range that it does not leave.
+    // The count continues as the ring's write position, within a fixed range.
     m_stepCount = m_stepCount + 1 < 2 * kSteps ? m_stepCount + 1 : kSteps;
 }
 
@@ -74,13 +74,13 @@ SampleGaps::Pace SampleGaps::pace() const
     const int count = std::min(m_stepCount, kSteps);
     if (count == 0)
         return {};
-    // The mean of the steps that are no gap: the median tells which, and alone it would be off by the rounding of a
-    // clock in whole milliseconds.
+    // The mean of the steps that are not gaps. The median decides which these are; by itself it would be off by the
+    // rounding of a clock in whole milliseconds.
     std::array<quint32, kSteps> sorted = m_steps;
     const auto middle = sorted.begin() + (count - 1) / 2;
     std::nth_element(sorted.begin(), middle, sorted.begin() + count);
     double limit = kGap * *middle;
-    // At periods between one and two milliseconds, steps of both come in turn.
+    // At periods between one and two milliseconds, steps of both lengths alternate.
     const auto longer = std::count(sorted.begin(), sorted.begin() + count, *middle + 1);
     const bool isRounded = longer * kRoundedShare >= count;
     if (isRounded)

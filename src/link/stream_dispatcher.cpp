@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr quint64 kLoggedFrames = 5; // enough to see what a device sends; the log must not grow with the stream
+constexpr quint64 kLoggedFrames = 5; // enough to show what a device sends; the log must not grow with the stream
 
 QString boolText(bool value)
 {

@@ -30,10 +30,9 @@ public:
     /// Takes one decoded frame: updates the state and emits the signals of its kind, the snapshot last.
     void publishFrame(const DecodedFrame &frame);
 
-    /// Selects a node by its place in the frame's node list; clamped to the list when there is one.
+    /// Selects a node by its index in the frame's node list, clamped to the list when there is one.
     void setSelectedNodeIndex(int index);
-    /// Clamps the selection to the current node list and refreshes the selected node, silently but for
-    /// selectedNodeChanged().
+    /// Clamps the selection to the current node list and refreshes the selected node; emits only selectedNodeChanged().
     void updateSelectedNode();
 
     void setLinkConnected(bool connected);
@@ -47,9 +46,9 @@ public:
     void clear();
 
 signals:
-    /// After every change of the snapshot.
+    /// Emitted after every change of the snapshot.
     void streamSnapshotChanged(const StreamSnapshot &snapshot);
-    /// After a frame with at least one node, and when the selection changes to an existing node.
+    /// Emitted after a frame with at least one node, and when the selection changes to an existing node.
     void selectedNodeChanged(const node_data_t &node);
     /// A frame of a single module.
     void singleNodeFrame(const node_data_t &node);

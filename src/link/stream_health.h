@@ -11,22 +11,22 @@
 struct NodeHealth
 {
     quint64 samples = 0;      ///< that arrived
-    quint64 missing = 0;      ///< samples that the gaps between the time stamps tell of
+    quint64 missing = 0;      ///< samples, inferred from the gaps between the time stamps
     quint32 largestGapMs = 0; ///< device time between the two samples around the longest gap
     qint64 lastGapMs = 0;     ///< the computer's clock at the end of the last gap, milliseconds since 1970; 0: none
     quint64 restarts = 0;     ///< jumps of the clock: the device restarted or its time was set
-    bool hasClock = false;    ///< the samples carry time stamps, so that what is missing can be told
+    bool hasClock = false;    ///< the samples carry time stamps, so missing ones can be counted
 
     bool operator==(const NodeHealth &) const = default;
 };
 
-/// Counts the samples of a stream and those that are missing in it, per node and for the whole link. A node is what
-/// carries one id: a module, or a radio node of a gateway. Compact gateway batches carry one stamp, the gateway's; it
-/// counts for each node in them.
+/// Counts the samples of a stream and those that are missing from it, per node and for the whole link. A node is
+/// whatever carries one id: a module, or a radio node of a gateway. Compact gateway batches carry one stamp, the
+/// gateway's, which applies to every node in them.
 ///
-/// A node that was silent and comes back has missed what its clock went on meanwhile. A node that restarts begins anew:
-/// its counts go on, but what was lost in between cannot be told and is not counted, only the restart is. See
-/// SampleGaps. A node that never comes back stays listed with what it had.
+/// A node that was silent and comes back has missed the time by which its clock advanced meanwhile. When a node
+/// restarts, its counts go on, but what was lost in between cannot be known and is not counted; only the restart is.
+/// See SampleGaps. A node that never comes back stays listed with its last figures.
 ///
 /// Bounded and without allocations: ids have 8 bits, so there are 256 places. Main thread only.
 class StreamHealth
@@ -34,8 +34,8 @@ class StreamHealth
 public:
     /// Takes one decoded frame; `hostMs` is its arrival on a steady clock, milliseconds.
     void addFrame(const DecodedFrame &frame, qint64 hostMs);
-    /// The device was told to be silent, or may restart as it was told: what the clocks say between the samples before
-    /// and after this call is no loss.
+    /// The device was ordered to be silent or to restart: a gap between the samples before and after this call is not a
+    /// loss.
     void interrupt() { ++m_interruptions; }
     /// A new connection: nothing has been heard.
     void clear() { *this = {}; }

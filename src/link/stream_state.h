@@ -6,7 +6,7 @@
 
 #include "link/node_data.h"
 
-/// What kind of link the open port is.
+/// The kind of link on the open port.
 enum class TransportRole : quint32 {
     DirectSingleNode = 0,
     WirelessGateway = 1,

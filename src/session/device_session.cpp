@@ -26,7 +26,7 @@ namespace {
 
 constexpr int kRetryMs = 2000;
 constexpr int kSilenceCheckMs = 250;
-constexpr qint64 kStreamTimeoutMs = 2500; // longer than the pause between samples at the lowest output rate, 1 Hz
+constexpr qint64 kStreamTimeoutMs = 2500; // longer than the interval between samples at the lowest output rate, 1 Hz
 constexpr double kNodeHeardMs = 5000;
 constexpr int kReadsAfterUpdate = 5;
 constexpr qint64 kNsPerMs = 1000000;
@@ -150,14 +150,14 @@ void DeviceSession::endConnection()
         leaveDeviceStreaming();
     m_port->closeUART();
     m_dispatcher->setLinkConnected(false);
-    // What the worker had posted before it ended belongs to this connection: taken now, while the session is closing,
-    // it is ignored instead of turning up in the next connection.
+    // What the worker posted before it ended belongs to this connection: handled now, while the session is closing, it
+    // is ignored instead of turning up in the next connection.
     QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
     QCoreApplication::sendPostedEvents(m_broker, QEvent::MetaCall);
     m_dispatcher->clear();
     m_commands->suspend(false);
     m_commands->setConnected(false);
-    m_recorder->setLinkOpen(false); // ends a recording: flushed and closed
+    m_recorder->setLinkOpen(false); // ends a recording: the file is flushed and closed
     m_monitor->close();
     m_bootloaderConnected = false;
     m_isLineLent = false;
@@ -167,7 +167,7 @@ void DeviceSession::endConnection()
     setState(SessionState::Closed);
 }
 
-/// The next program must not find a device that a reading in progress, or the user, has made mute.
+/// The next program must not find a device that was muted by a reading in progress or by the user.
 void DeviceSession::leaveDeviceStreaming()
 {
     if (!m_commands->isBusy() && !m_commands->isOutputStopped())
@@ -180,10 +180,10 @@ void DeviceSession::onError(QSerialPort::SerialPortError error)
 {
     if (error == QSerialPort::NoError || error == QSerialPort::NotOpenError)
         return;
-    if (m_state == SessionState::Closed || m_state == SessionState::Closing) // an echo of a failure that was reported
+    if (m_state == SessionState::Closed || m_state == SessionState::Closing) // an echo of a failure already reported
         return;
     if (m_search && m_state == SessionState::Opening && error == QSerialPort::UnsupportedOperationError)
-        return tryNextRate(); // an adapter that does not know this rate
+        return tryNextRate(); // an adapter that does not support this rate
     endSearch(false);
     m_recorder->expectLoss();
     endConnection();
@@ -196,7 +196,7 @@ bool DeviceSession::identify()
     if (!allows(SessionAction::Identify))
         return false;
     if (m_readsAfterUpdate > 0) {
-        --m_readsAfterUpdate; // the first ones may have met a device that was still starting
+        --m_readsAfterUpdate; // the device may still have been starting during the first ones
     } else if (m_infoRequested && !m_device.valid && isStreamLive()) {
         m_retryTimer.stop();
         if (!m_infoDeferred)
@@ -211,7 +211,8 @@ bool DeviceSession::identify()
 
 void DeviceSession::readInfo()
 {
-    m_infoRequested |= !m_commands->isBusy(); // else what was ended is still on the stack, and nothing is asked
+    m_infoRequested |=
+        !m_commands->isBusy(); // otherwise the cancelled command is still on the stack, and nothing is queried
     const QPointer<DeviceSession> self(this);
     const quint64 connection = m_connection;
     setState(SessionState::Identifying);
@@ -241,12 +242,13 @@ void DeviceSession::endReading(bool answered)
     } else if (!m_device.valid && !m_retryTimer.isActive()) {
         m_retryTimer.start();
     }
-    // Not after an update: a ping would hold a device that is starting in its bootloader. And noise is none.
+    // Not after an update: a ping would keep a device that is starting in its bootloader. And noise is not a
+    // bootloader.
     if (!answered && !m_search && m_readsAfterUpdate == 0 && !m_commands->lastReadWasNoise())
         lookForBootloader();
 }
 
-/// A bootloader is silent, and answers no text.
+/// A bootloader is silent and does not answer text.
 void DeviceSession::lookForBootloader()
 {
     if (m_state == SessionState::Silent && !m_commands->isBusy())
@@ -268,10 +270,10 @@ void DeviceSession::enterBootloader()
     m_retryTimer.stop();
     m_bootloaderConnected = false;
     setState(SessionState::Bootloader);
-    m_commands->suspend(true); // what runs is ended first
+    m_commands->suspend(true); // a running command is ended first
 }
 
-/// The device that somebody has read just now, here or in the settings window.
+/// The device that has just been read, here or in the settings window.
 void DeviceSession::onCommandDevice()
 {
     if (m_commands->device().valid && isOpen())
@@ -364,7 +366,7 @@ void DeviceSession::endSearch(bool found)
 bool DeviceSession::connectBootloader()
 {
     if (m_state == SessionState::Closed)
-        return m_port->connectBootloader(); // notes that the port is closed
+        return m_port->connectBootloader(); // records that the port is closed
     if (!allows(SessionAction::ConnectBootloader))
         return false;
     endSearch(false);
@@ -373,7 +375,7 @@ bool DeviceSession::connectBootloader()
     QMetaObject::invokeMethod(m_port.get(), "connectBootloader", Qt::BlockingQueuedConnection);
     const bool connected = m_port->isInBootloaderMode();
     m_bootloaderConnected = connected;
-    // A bootloader that had answered before is most likely still there: it is sent no text.
+    // A bootloader that answered before is most likely still there: no text is sent to it.
     if (!connected && !wasThere)
         leaveBootloader();
     emit stateChanged();
@@ -386,7 +388,7 @@ bool DeviceSession::restartDevice()
         return false;
     QMetaObject::invokeMethod(m_port.get(), "restartFromBootloader", Qt::BlockingQueuedConnection);
     const bool restarted = bootloaderOutcome().fault == BootloaderFault::None;
-    m_bootloaderConnected = false; // data of the firmware lead out of this state, too
+    m_bootloaderConnected = false; // data from the firmware lead out of this state, too
     if (restarted)
         leaveBootloader();
     emit stateChanged();
@@ -421,7 +423,7 @@ void DeviceSession::returnLine(LineReturn how)
         leaveBootloader();
     } else {
         m_bootloaderConnected = m_bootloaderConnected && how == LineReturn::AsBefore;
-        setState(SessionState::Bootloader); // it stays in the device, and is sent no text
+        setState(SessionState::Bootloader); // it stays active in the device, and no text is sent to it
     }
     emit stateChanged();
 }
@@ -471,7 +473,7 @@ void DeviceSession::takePayload(const QByteArray &payload)
     if (m_state == SessionState::Bootloader) {
         if (frame.nodes.isEmpty())
             return;
-        leaveBootloader(); // the firmware lives after all
+        leaveBootloader(); // the firmware is running after all
     }
     const quint64 connection = m_connection;
     m_lastFrameNs = m_sinceOpened.nsecsElapsed();
@@ -501,7 +503,7 @@ bool DeviceSession::isStreaming() const
     return isOpen() && m_lastFrameNs >= 0 && m_sinceOpened.nsecsElapsed() - m_lastFrameNs < kStreamTimeoutMs * kNsPerMs;
 }
 
-/// Frames from before the last reading do not count: it has stopped the output.
+/// Frames from before the last reading do not count: that reading stopped the output.
 bool DeviceSession::isStreamLive() const
 {
     return m_dispatcher->snapshot().has_frame_items && m_lastFrameNs > m_lastReadNs;
@@ -517,7 +519,7 @@ qint64 DeviceSession::openMs() const
     return isOpen() ? m_sinceOpened.elapsed() : 0;
 }
 
-// The flag is looked at first: it orders what the client has written before what is read here.
+// The flag is read first: it orders what the client wrote before what is read here.
 
 BootloaderFacts DeviceSession::bootloaderFacts() const
 {

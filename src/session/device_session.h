@@ -22,23 +22,23 @@ class Recorder;
 class StreamDispatcher;
 class StreamRouter;
 
-/// What a procedure leaves behind that gives the line back.
+/// The state in which a procedure returns the line.
 enum class LineReturn : quint8 {
-    AsBefore,        ///< it has changed nothing: a bootloader that was connected still is
-    BootloaderStays, ///< the device runs its bootloader, which has to be connected again
-    FirmwareStarts   ///< the device has been reset, and is asked what it is
+    AsBefore,        ///< nothing has changed: a bootloader that was connected still is
+    BootloaderStays, ///< the device runs its bootloader, which must be connected again
+    FirmwareStarts   ///< the device has been reset and is identified again
 };
 
 /// Owns one connection at a time: the port, what decodes and publishes its stream, who the device is, which node is
 /// followed, the commands, the bootloader and the recorder. It has no window; windows, dialogs and scripts are its
 /// clients, and ask it for everything that touches the line.
 ///
-/// What is allowed in which state stands in session_table. Only one at a time has the line: an identification, a
-/// command, or a bootloader. From the moment that a bootloader is asked for until the firmware runs again, no text
-/// command goes out and no payload reaches the parser; what was running is ended first.
+/// session_table defines what is allowed in which state. Only one thing at a time uses the line: an identification, a
+/// command, or a bootloader. From the moment a bootloader is requested until the firmware runs again, no text command
+/// goes out and no payload reaches the parser; whatever was running is ended first.
 ///
-/// Identification and commands wait in nested event loops. Whatever happens in such a wait, the connection may be
-/// another one when it returns, or this object gone.
+/// Identification and commands wait in nested event loops. Anything can happen during such a wait: when it returns, the
+/// connection may be a different one, or this object may be gone.
 ///
 /// Main thread only.
 class DeviceSession : public QObject
@@ -47,12 +47,12 @@ class DeviceSession : public QObject
     Q_DISABLE_COPY_MOVE(DeviceSession)
 
 public:
-    /// `owner` becomes the parent, also of dispatcher and broker; without one these are the session's.
+    /// `owner` becomes the parent, also of dispatcher and broker; without an owner the session is their parent.
     explicit DeviceSession(QObject *owner = nullptr);
     ~DeviceSession() override;
 
     SessionState state() const { return m_state; }
-    /// Why an action cannot be had now; None when it can.
+    /// Why an action is refused now; None when it is allowed.
     Refusal refusal(SessionAction action) const;
     bool allows(SessionAction action) const { return refusal(action) == Refusal::None; }
     /// A port is open, or being opened or closed.
@@ -60,23 +60,23 @@ public:
 
     // Each of these does nothing and returns false when the table refuses it.
 
-    /// Opens a port, after closing the one that is open. Identification follows by itself.
+    /// Opens a port, after closing the one that is open. Identification follows automatically.
     bool open(const QString &portName, int baudRate);
     bool close();
-    /// Asks the device what it is, in a nested event loop. A stream that flows while the device does not answer is not
+    /// Identifies the device, in a nested event loop. A stream that flows while the device does not answer is not
     /// interrupted a second time.
     bool identify();
-    /// Opens the port at one usual baud rate after the other until a device answers or data come; at the end, back to
-    /// the rate there was. baudSearchEnded() follows. Opening and closing end it.
+    /// Opens the port at one usual baud rate after the other until a device answers or data arrive; if none fits, at
+    /// the previous rate again. baudSearchEnded() follows. Opening and closing end the search.
     bool tryBaudRates();
     /// Restarts the device into its bootloader. Blocks for up to 4 s.
     bool connectBootloader();
     /// Has the bootloader start the firmware. Blocks for up to 2 s.
     bool restartDevice();
 
-    /// Lends the line to a procedure that talks to the bootloader through port() by itself, from a device's restart
-    /// into its bootloader on: nothing else is sent, and no payload is parsed, until returnLine(). Refused as
-    /// ConnectBootloader is. The line is lost when the connection ends.
+    /// Lends the line to a procedure that talks to the bootloader directly through port(), starting with the device's
+    /// restart into its bootloader: nothing else is sent, and no payload is parsed, until returnLine(). Refused like
+    /// ConnectBootloader. The line is lost when the connection ends.
     bool lendLine();
     /// While it writes, nothing may take the line away.
     void setLineWriting(bool writes);
@@ -86,42 +86,42 @@ public:
     int baudRate() const { return m_baudRate; }
     /// Milliseconds since the port was opened; 0 when it is closed.
     qint64 openMs() const;
-    /// Samples arrive.
+    /// Samples are arriving.
     bool isStreaming() const;
-    /// The search for a baud rate runs.
+    /// The search for a baud rate is running.
     bool isSearchingBaudRate() const { return m_search.has_value(); }
-    /// The last reading brought bytes that no device sends at this baud rate.
+    /// The last reading returned bytes that no device sends at this baud rate.
     bool hearsNoise() const;
-    /// A bootloader has answered and takes a download.
+    /// A bootloader has answered and accepts a download.
     bool isBootloaderConnected() const { return m_bootloaderConnected; }
 
     /// What the bootloader has reported, and how the last connect or download went; nothing while one runs.
     BootloaderFacts bootloaderFacts() const;
     BootloaderOutcome bootloaderOutcome() const;
 
-    /// The identified device; not valid when none is.
+    /// The identified device; not valid when there is none.
     const DetectedDevice &device() const { return m_device; }
     const ProductProfile &profile() const;
-    /// Reading the product was given up because data flow.
+    /// Reading the product was skipped because data are flowing.
     bool isInfoDeferred() const { return m_infoDeferred; }
-    /// Mounting of the device: the user's for this product, else the product's own.
+    /// Mounting of the device: the user's choice for this product, otherwise the product's own.
     OrientationPreset preset() const { return m_preset; }
-    /// Changes the mounting, and stores it for the product.
+    /// Changes the mounting and stores it for the product.
     void setPreset(OrientationPreset preset);
 
     /// Id of the followed node; none before the first sample.
     std::optional<quint8> followedNode() const;
     /// Follows the node with this id.
     void followNode(quint8 id);
-    /// Nodes heard in the last seconds, and the followed one, ascending.
+    /// Nodes heard in the last few seconds, and the followed one, ascending.
     QList<quint8> nodes() const;
     /// The newest sample of the followed node; none before the first.
     const std::optional<StreamSample> &newestSample() const;
 
-    /// Takes the payload of a data packet, as the port does.
+    /// Takes the payload of a data packet, as if it came from the port.
     void takePayload(const QByteArray &payload);
 
-    // The parts, for those who show or use them. Never for sending past the table.
+    // The parts, for those who show or use them. Never use them to send anything past the table.
     KvUartPort &port() const { return *m_port; }
     StreamDispatcher &dispatcher() const { return *m_dispatcher; }
     CommandSession &commands() const { return *m_commands; }
@@ -129,22 +129,22 @@ public:
     LinkMonitor &linkMonitor() const { return *m_monitor; }
 
 signals:
-    /// State, or what it allows, may have changed.
+    /// The state, or what it allows, may have changed.
     void stateChanged();
-    /// Another device, or none, is identified.
+    /// Another device, or none, is identified now.
     void deviceChanged();
     void presetChanged(OrientationPreset preset);
-    /// The connection has ended by an error of the port, or could not be made.
+    /// The connection ended with a port error, or could not be made.
     void portFailed(QSerialPort::SerialPortError error, const QString &portName, int baudRate);
-    /// The stream of the followed node starts again; before the first sample that belongs to it.
+    /// The stream of the followed node starts again; emitted before its first sample.
     void streamRestarted(const StreamRestart &restart);
-    /// A sample of the followed node, and of no other.
+    /// A sample of the followed node only.
     void sampleReceived(const StreamSample &sample);
     /// All samples of a gateway's batch.
     void batchReceived(const QList<StreamSample> &samples);
-    /// A device that was silent runs its bootloader: it has answered a ping, which is all that it was sent.
+    /// A silent device turned out to run its bootloader: it answered a ping, and nothing else was sent to it.
     void bootloaderFound();
-    /// `found`: the port is open at a rate that fits.
+    /// `found`: the port is open at a matching rate.
     void baudSearchEnded(bool found);
 
 private:
@@ -171,7 +171,7 @@ private:
     bool isStreamLive() const;
     double connectionMs() const;
 
-    /// Rates that are still to be tried.
+    /// Rates still to be tried.
     struct BaudSearch
     {
         QList<int> rates;
@@ -194,8 +194,8 @@ private:
     QString m_portName;
     int m_baudRate = 0;
     QElapsedTimer m_sinceOpened;
-    qint64 m_lastFrameNs = -1; ///< since opened; -1: none in this connection
-    qint64 m_lastReadNs = -1;  ///< since opened, when the last reading of the product ended
+    qint64 m_lastFrameNs = -1; ///< since opening; -1: none in this connection
+    qint64 m_lastReadNs = -1;  ///< since opening: when the last reading of the product ended
     bool m_infoRequested = false;
     bool m_infoDeferred = false;
     int m_readsAfterUpdate = 0; ///< readings still allowed to interrupt the stream of new firmware

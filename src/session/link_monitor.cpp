@@ -17,7 +17,7 @@ QString timeText(qint64 epochMs)
                         : QDateTime::fromMSecsSinceEpoch(epochMs).toString(u"yyyy-MM-ddThh:mm:ss");
 }
 
-/// "2:10,9:26": the nodes that miss samples, with how many.
+/// "2:10,9:26": the nodes with missing samples, and how many are missing.
 QString missingByNode(const LinkReport &report)
 {
     QStringList nodes;
@@ -39,7 +39,7 @@ LinkMonitor::LinkMonitor(const KvUartPort *port, const Recorder *recorder, QObje
     connect(&m_logTimer, &QTimer::timeout, this, &LinkMonitor::log);
     connect(recorder, &Recorder::recordingChanged, this, [this](bool recording) {
         if (!recording && m_connection.wasOpened && !m_connection.isOpen)
-            log(); // its last records were written, or not, after the port was closed
+            log(); // its last records were written, or lost, after the port was closed
     });
 }
 

@@ -13,7 +13,7 @@ class Recorder;
 /// How well a connection carries its data, from the port to the file. A plain value.
 struct LinkReport
 {
-    bool wasOpened = false; ///< there is, or was, a connection
+    bool wasOpened = false; ///< there is, or has been, a connection
     bool isOpen = false;
     QString portName;
     int baudRate = 0;
@@ -22,12 +22,12 @@ struct LinkReport
     QList<quint8> nodeIds;           ///< of a gateway's nodes, ascending; empty for a module
     QList<NodeHealth> nodes;         ///< in the order of nodeIds
     unsigned int droppedRecords = 0; ///< of the connection's recordings: the disk was too slow
-    unsigned int lostRecords = 0;    ///< of the connection's recordings: no file took them
+    unsigned int lostRecords = 0;    ///< of the connection's recordings: could not be written to a file
 };
 
-/// Watches one connection at a time: counts what its samples' clocks tell, brings together what the port and the
-/// recorder have counted, and writes that to the log once a minute and at the end, when it has changed. The figures of
-/// a closed connection stay until the next one is opened. Main thread only.
+/// Watches one connection at a time: counts missing samples by their clocks, combines that with the counts of the port
+/// and the recorder, and writes it to the log once a minute and at the end, if it has changed. The figures of a closed
+/// connection stay until the next one is opened. Main thread only.
 class LinkMonitor : public QObject
 {
     Q_OBJECT
@@ -37,17 +37,17 @@ public:
     /// `port` and `recorder` live as long as this object is used.
     LinkMonitor(const KvUartPort *port, const Recorder *recorder, QObject *parent = nullptr);
 
-    /// A connection begins: all figures begin anew.
+    /// A connection begins: all figures start again from zero.
     void open(const QString &portName, int baudRate);
     /// Takes a decoded frame of the connection.
     void addFrame(const DecodedFrame &frame) { m_stream.addFrame(frame, m_clock.elapsed()); }
-    /// Commands are on their way, which stop the output or restart the device: no loss of the line.
+    /// Commands are on their way that stop the output or restart the device: not a loss on the line.
     void interrupt() { m_stream.interrupt(); }
     /// The connection has ended and its port is closed. A recording may still be written.
     void close();
 
     LinkReport report() const;
-    /// What is known of the samples of one node.
+    /// What is known about the samples of one node.
     const NodeHealth &node(quint8 id) const { return m_stream.node(id); }
 
     /// The line for the log: "link health" and key=value pairs.
@@ -63,6 +63,6 @@ private:
     StreamHealth m_stream;
     QElapsedTimer m_clock;
     QTimer m_logTimer;
-    LinkReport m_connection; ///< what is known without asking
+    LinkReport m_connection; ///< what is known without querying port and recorder
     QString m_logged;
 };

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr double kSameRate = 0.05; // a count of packets per second is never quite steady
+constexpr double kSameRate = 0.05; // a count of packets per second is never perfectly steady
 
 } // namespace
 
@@ -23,9 +23,9 @@ RecordingDescriber::RecordingDescriber(DeviceSession *session) : QObject(session
 
 void RecordingDescriber::update()
 {
-    if (!m_session->isOpen() || m_session->state() == SessionState::Closing) // the files of before keep what was known
+    if (!m_session->isOpen() || m_session->state() == SessionState::Closing) // earlier files keep what was known
         return;
-    // A device that does not answer once more is still the one that has answered on this connection.
+    // A device that does not answer a second time is still the one that answered on this connection.
     RecordingContext context = m_session->state() == SessionState::Opening ? RecordingContext() : m_told;
     context.port = m_session->portName();
     context.baudRate = m_session->baudRate();

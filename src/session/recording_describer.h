@@ -6,7 +6,7 @@
 
 class DeviceSession;
 
-/// Keeps the recorder informed of what is known of the connection: device, rate, mounting, port. Main thread only.
+/// Keeps the recorder informed of what is known about the connection: device, rate, mounting, port. Main thread only.
 class RecordingDescriber : public QObject
 {
     Q_OBJECT

@@ -17,7 +17,7 @@ constexpr Refusal kEnds = Refusal::Closing;
 
 using Row = std::array<Refusal, kSessionStateCount>;
 
-// A row per action, a column per state, both in the order of their types.
+// One row per action, one column per state, both in the order of their enumerations.
 // clang-format off
 constexpr std::array<Row, kSessionActionCount> kTable{{
     //                      Closed    Opening   Identif.  Live     Silent   Bootload. Updating Closing

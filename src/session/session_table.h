@@ -6,20 +6,20 @@
 enum class SessionState : quint8 {
     Closed,
     Opening,     ///< the port is being opened
-    Identifying, ///< the device is asked what it is
-    Live,        ///< samples arrive
-    Silent,      ///< open, but no samples arrive
+    Identifying, ///< the device is being identified
+    Live,        ///< samples are arriving
+    Silent,      ///< open, but no samples are arriving
     Bootloader,  ///< the device runs its bootloader, or is being restarted into it
     Updating,    ///< firmware is being written
     Closing,
 };
 constexpr int kSessionStateCount = 8;
 
-/// What a user or a script may ask a session for.
+/// What a user or a script may request from a session.
 enum class SessionAction : quint8 {
-    OpenPort, ///< another one, when one is open
+    OpenPort, ///< replaces an open port
     ClosePort,
-    Identify,    ///< ask the device what it is
+    Identify,    ///< identify the device
     SendCommand, ///< settings and one-click commands
     StartRecording,
     TryBaudRates, ///< open the port at one usual rate after the other
@@ -36,18 +36,18 @@ enum class Refusal : quint8 {
     None, ///< it is allowed
     NotOpen,
     Opening,
-    CommandRuns,  ///< another command waits for its reply
-    DataFlow,     ///< samples arrive: the baud rate is right
-    InBootloader, ///< the device runs its bootloader, which takes no commands
+    CommandRuns,  ///< another command is waiting for its reply
+    DataFlow,     ///< samples are arriving: the baud rate is right
+    InBootloader, ///< the device runs its bootloader, which accepts no commands
     NoBootloader, ///< no bootloader is connected
-    NoDownload,   ///< no download runs
-    Updating,     ///< a download runs, which must end first
+    NoDownload,   ///< no download is running
+    Updating,     ///< a download is running and must end first
     Closing,
 };
 
 namespace session_table {
 
-/// What a state says to an action. The one place that decides it. Pure.
+/// The verdict of a state on an action. This is the only place that decides it. Pure.
 Refusal verdict(SessionState state, SessionAction action);
 
 } // namespace session_table

@@ -12,13 +12,13 @@ enum class StreamBreak : quint8 {
     None,
     NewConnection,  ///< a port was opened: views start empty
     OtherNode,      ///< another node is followed: views start empty
-    ClockRestarted, ///< the clock went back or jumped: the device restarted, or its time was set
+    ClockRestarted, ///< the clock went backwards or jumped: the device restarted, or its time was set
     OutputStopped,  ///< the output was held back on purpose, by a command
     Gap,            ///< silence of more than a second and more than five periods
 };
 
-/// True when nothing that a view shows belongs to what follows. After the other breaks a view keeps its picture, marks
-/// the place, and starts analysis and filter state again.
+/// True when nothing that a view shows belongs to what follows. After other breaks a view keeps its picture, marks the
+/// place, and resets its analysis and filter state.
 constexpr bool emptiesViews(StreamBreak kind)
 {
     return kind == StreamBreak::NewConnection || kind == StreamBreak::OtherNode;
@@ -39,10 +39,10 @@ struct StreamSample
     NodeSnapshot snapshot;                                   ///< `time_ms` is the stream's time, see StreamTimeline
     SampleFields fields;                                     ///< what the stream carries
     OrientationPreset preset = OrientationPreset::RfuEnu312; ///< mounting that angles are shown for
-    quint32 deviceMs = 0;                                    ///< the device's stamp as it came; 0: none
+    quint32 deviceMs = 0;                                    ///< the device's stamp as received; 0: none
     qint64 hostMs = 0;                                       ///< arrival on the session's clock
-    quint32 restart = 0;                      ///< number of the restart that it belongs to; followed node only
-    StreamBreak brokenBy = StreamBreak::None; ///< between this sample and the one before of this node
+    quint32 restart = 0;                      ///< number of the restart that it follows; followed node only
+    StreamBreak brokenBy = StreamBreak::None; ///< between this sample and the previous one of this node
 };
 
 Q_DECLARE_METATYPE(StreamRestart)

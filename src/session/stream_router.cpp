@@ -6,7 +6,7 @@ namespace {
 
 constexpr double kOtherIdMs = 1000;
 
-/// Views count in 32 bits; a stream that is older than they hold carries no time.
+/// Views count in 32 bits; a stream that has lasted longer than fits carries no time.
 quint32 viewTime(double timeMs)
 {
     return timeMs <= double(std::numeric_limits<quint32>::max()) ? quint32(timeMs) : 0;

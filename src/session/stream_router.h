@@ -9,11 +9,11 @@
 #include "session/stream_event.h"
 #include "session/stream_timeline.h"
 
-/// Takes the decoded frames of a connection, places every sample on its node's time line and passes on what views see:
+/// Takes the decoded frames of a connection, places every sample on its node's time line and passes on what views need:
 /// the samples of the node that is followed, whole batches, and the places where the followed stream starts again.
 ///
-/// A node is followed by its id, wherever it stands in a batch; a batch without it gives its viewers nothing. Nothing
-/// picked, the first node of the connection is followed. A module that comes back with another id is followed too.
+/// A node is followed by its id, wherever it stands in a batch; a batch without it gives its viewers nothing. If none
+/// is picked, the first node of the connection is followed. A module that comes back with another id is followed too.
 ///
 /// Main thread only. One per session.
 class StreamRouter : public QObject
@@ -24,11 +24,11 @@ class StreamRouter : public QObject
 public:
     explicit StreamRouter(QObject *parent = nullptr);
 
-    /// A connection begins: forgets nodes and times.
+    /// A connection begins: forgets all nodes and times.
     void start();
     /// Commands are on their way that may hold the output back or restart the device.
     void interrupt() { ++m_interruptions; }
-    /// Takes a frame that arrived `hostMs` after the connection began; angles are meant for `preset`.
+    /// Takes a frame that arrived `hostMs` after the connection began; its angles refer to the mounting `preset`.
     void takeFrame(const DecodedFrame &frame, double hostMs, OrientationPreset preset);
 
     /// Follows a node from now on, whether it has been heard or not.
@@ -43,11 +43,11 @@ public:
     quint32 restartNumber() const { return m_restarts; }
 
 signals:
-    /// Comes before the first sample of what begins.
+    /// Emitted before the first sample after the restart.
     void streamRestarted(const StreamRestart &restart);
     /// A sample of the followed node.
     void sampleReceived(const StreamSample &sample);
-    /// The samples of one gateway batch in its order; never empty.
+    /// The samples of one gateway batch, in the batch's order; never empty.
     void batchReceived(const QList<StreamSample> &samples);
 
 private:
@@ -65,7 +65,7 @@ private:
     std::optional<quint8> m_followed;
     std::optional<StreamSample> m_newest;
     double m_followedMs = 0;  ///< arrival of the newest sample of the followed node
-    bool m_isGateway = false; ///< a batch has come in this connection
+    bool m_isGateway = false; ///< a batch has arrived on this connection
     quint32 m_interruptions = 0;
     quint32 m_restarts = 0;
 };

@@ -12,19 +12,20 @@ constexpr double kGapPeriods = 5;
 constexpr double kPausePeriods = 2.5; ///< a commanded pause shows from here on
 constexpr double kPauseMs = 100;
 
-// Clocks that disagree by more than this have not just drifted. Buffers on the way hold a few seconds at most.
+// Clocks that differ by more than this have not merely drifted. Buffers on the way hold a few seconds at most.
 constexpr double kClocksDifferMs = 5000;
-constexpr double kAfterGapMs = 2000;        ///< the same for the first sample after a silence, which waits in no buffer
+constexpr double kAfterGapMs =
+    2000; ///< the same for the first sample after a silence, which has not waited in a buffer
 constexpr double kClocksDifferShare = 0.05; ///< more than any quartz
 
 // Samples without stamps follow the computer's clock slowly, so that bursts of arrivals are spread evenly.
-constexpr double kMeasureMs = 100; ///< arrivals are as they come until the pace is known
+constexpr double kMeasureMs = 100; ///< arrivals are used as they are until the pace is known
 constexpr int kMeasureArrivals = 3;
 constexpr double kTimeGain = 0.1;
 constexpr double kPeriodGain = 0.004;
 constexpr double kLostMs = 250;
 constexpr double kLostPeriods = 3;
-constexpr double kClockGain = 0.05; ///< how fast two clocks of a node are kept together
+constexpr double kClockGain = 0.05; ///< how fast the two clocks of a node are pulled together
 constexpr double kMinPeriodMs = 0.05;
 
 bool differs(double deviceMs, double hostMs)
@@ -106,7 +107,7 @@ double StreamTimeline::byArrival(double hostMs)
     const double lateMs = targetMs - predictedMs;
     if (lateMs > std::max(kLostMs, kLostPeriods * m_arrivalPeriodMs))
         return targetMs;
-    if (lateMs < -kLostMs) { // the stream is faster than it was
+    if (lateMs < -kLostMs) { // the stream has become faster
         m_arrivalPeriodMs = 0;
         m_arrivals = 0;
         return measuredArrival(hostMs, targetMs);
@@ -115,7 +116,7 @@ double StreamTimeline::byArrival(double hostMs)
     return predictedMs + kTimeGain * lateMs;
 }
 
-/// Places samples as they arrive, until enough have come to know their pace.
+/// Places samples as they arrive, until enough have arrived to know their pace.
 double StreamTimeline::measuredArrival(double hostMs, double targetMs)
 {
     if (m_arrivals == 0)

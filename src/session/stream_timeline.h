@@ -7,11 +7,11 @@
 #include "session/stream_event.h"
 
 /// The time of one node's stream in milliseconds since the connection was opened, whatever clock its samples carry: it
-/// never runs backwards, does not jump when a clock does, and goes on with the computer's clock where the device says
-/// nothing.
+/// never runs backwards, does not jump when a clock does, and continues with the computer's clock where the device
+/// sends no time.
 ///
-/// A node may have two clocks: its own (single records and full batches) and its gateway's (compact batches). Each has
-/// its place on the one time line. Stamps are 32-bit milliseconds that wrap; 0 means that the sample carries none: it
+/// A node may have two clocks: its own (single records and full batches) and its gateway's (compact batches). Each is
+/// mapped onto the common time line. Stamps are 32-bit milliseconds that wrap; 0 means that the sample carries none and
 /// is placed by the measured pace of arrival. A stamp that repeats, or is up to a second late, gets the newest time
 /// again.
 ///
@@ -24,12 +24,12 @@ public:
     struct Place
     {
         double timeMs = 0; ///< at least 1
-        double stepMs = 0; ///< since the sample before
+        double stepMs = 0; ///< since the previous sample
         StreamBreak brokenBy = StreamBreak::None;
     };
 
-    /// Places the next sample. `hostMs` is its arrival in milliseconds since the opening, on a steady clock.
-    /// `interruptions` counts the commands so far that may hold the output back.
+    /// Places the next sample. `hostMs` is its arrival in milliseconds since the port was opened, on a steady clock.
+    /// `interruptions` counts the commands so far that may have held the output back.
     Place next(Clock clock, quint32 stampMs, double hostMs, quint32 interruptions);
 
     /// Median of the newest steps between samples in milliseconds; 0 while unknown.
@@ -59,10 +59,10 @@ private:
     std::array<Anchor, 2> m_anchors;
 
     // samples without a stamp
-    double m_offsetMs = 0;        ///< stream time less host time
+    double m_offsetMs = 0;        ///< stream time minus host time
     double m_arrivalPeriodMs = 0; ///< 0: not measured yet
     double m_firstArrivalMs = 0;
-    int m_arrivals = 0; ///< while the pace is measured
+    int m_arrivals = 0; ///< while the pace is being measured
 
     std::array<float, kSteps> m_steps{}; ///< newest steps, a ring
     int m_stepCount = 0;

@@ -6,9 +6,9 @@
 
 namespace {
 
-constexpr quint32 kNoAddress = 0xFFFFFFFF; ///< no file has been loaded in this run
+constexpr quint32 kNoAddress = 0xFFFFFFFF; ///< no file loaded in this run yet
 
-/// Opens a file, never a folder, nor a pipe that would block.
+/// Opens a file, but never a folder or a pipe that would block.
 bool openImage(QFile &file)
 {
     return QFileInfo(file).isFile() && file.open(QIODevice::ReadOnly | QIODevice::Text);

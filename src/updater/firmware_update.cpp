@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int kNoteParts = 10; // of a write, after each of which the note is written
+constexpr int kNoteParts = 10; // of a write; the note is saved after each
 
 FlashState stateAfter(const BootloaderOutcome &outcome)
 {
@@ -145,7 +145,7 @@ bool FirmwareUpdate::begin(bool despiteDoubts)
     setStep(UpdateStep::Erase);
     m_note.chip = m_facts.deviceId;
     m_note.began = QDateTime::currentDateTimeUtc();
-    // Not before the note is on the disk: from then on it is the device that may be lost, and the note that finds it.
+    // Not before the note is on the disk: from then on the device may be lost, and the note is what leads back to it.
     const auto isNoted = std::make_shared<bool>(false);
     onDisk([isNoted, note = m_note, folder = m_folder] { *isNoted = note.write(folder); },
            [this, isNoted] {
@@ -208,7 +208,7 @@ void FirmwareUpdate::runTask(BootloaderTask task)
 void FirmwareUpdate::onTaskFinished(const BootloaderResult &result)
 {
     if (m_task != result.kind)
-        return; // somebody else's
+        return; // not one of this update
     m_task.reset();
     switch (result.kind) {
     case BootloaderTask::Kind::Connect:
@@ -331,7 +331,7 @@ void FirmwareUpdate::onRead(const BootloaderResult &result)
         startReset(UpdateReason::None);
         return;
     }
-    if (!std::exchange(m_readAgain, true)) { // what the line has done to the first one, it does not do twice
+    if (!std::exchange(m_readAgain, true)) { // an error on the line does not repeat in the second reading
         BootloaderTask task;
         task.kind = BootloaderTask::Kind::Read;
         task.address = m_order.subject.address;
@@ -348,7 +348,7 @@ void FirmwareUpdate::onRead(const BootloaderResult &result)
     fail(UpdateReason::Differs, FlashState::Wrong, m_result.outcome);
 }
 
-/// Lets the firmware run. `reason` is why the flash is not proved; what speaks against it weighs more.
+/// Lets the firmware run. `reason` is why the flash is not verified; evidence against it takes precedence.
 void FirmwareUpdate::startReset(UpdateReason reason)
 {
     m_result.reason = reason;
@@ -405,8 +405,8 @@ void FirmwareUpdate::finish(UpdateVerdict verdict)
     m_isEnding = true;
     m_result.verdict = verdict;
     m_result.step = m_step;
-    // A device that has come back needs no guide to its bootloader; one that may be wrong keeps its note, and so does
-    // one that nobody has heard of since.
+    // A device that has come back needs no reminder of its bootloader. The note stays if its flash may be wrong, or if
+    // nothing has been heard from it since.
     const bool isProved = m_result.flash == FlashState::Proven && verdict != UpdateVerdict::DidNotComeBack;
     const bool lives = m_step == UpdateStep::ComeBack && verdictOfFlash() == UpdateVerdict::NotVerified
                        && verdict != UpdateVerdict::DidNotComeBack && m_order.comeBackMs > 0;
@@ -414,7 +414,7 @@ void FirmwareUpdate::finish(UpdateVerdict verdict)
         setStep(UpdateStep::Done);
         emit finished(m_result);
     };
-    std::optional<UpdateNote> left = m_noteBefore; // an update that has touched nothing leaves the note before
+    std::optional<UpdateNote> left = m_noteBefore; // an update that changed nothing keeps the previous note
     if (isProved || lives) {
         left.reset();
     } else if (m_result.flash != FlashState::Untouched) {

@@ -18,14 +18,14 @@
 
 class KvUartPort;
 
-/// One firmware update from the bootloader to the device that has come back, without a window. It claims success for a
-/// flash only that it has read back. What is running is noted on disk, see UpdateNote, until it is proved.
+/// One firmware update, from the bootloader to the device's return, without a window. It claims success only for a
+/// flash that it has read back. A running update is noted on disk, see UpdateNote, until it is verified.
 ///
 ///     prepare() -> prepared(plan) -> begin() -> stepChanged(), advanced() ... -> finished(result)
 ///
-/// The work on the line is done by the port's worker thread, task by task; this object waits for queued signals only.
+/// The work on the line is done by the port's worker thread, task by task; this object only waits for queued signals.
 /// Its owner keeps the line free of anything else from prepare() to the step ComeBack. Files are read and written in a
-/// thread of its own. Lives in the thread of its owner, whose event loop runs; `port` outlives it.
+/// separate thread. Lives in its owner's thread, which runs an event loop; `port` outlives it.
 class FirmwareUpdate : public QObject
 {
     Q_OBJECT
@@ -34,14 +34,14 @@ class FirmwareUpdate : public QObject
 public:
     struct Order
     {
-        update_plan::Subject subject; ///< the note adds what is known of the update before
+        update_plan::Subject subject; ///< the note adds what is known about the previous update
         QString file;                 ///< path of the image
-        QString device;               ///< as it has introduced itself; empty: it has not
+        QString device;               ///< as it identified itself; empty: it did not
         QString port;
-        bool connects = true;     ///< restart the device into its bootloader first; else it is there and connected
-        bool erasesAgain = false; ///< although the chip has not ended such an erase in time before
+        bool connects = true;     ///< restart the device into its bootloader first; otherwise it is already connected
+        bool erasesAgain = false; ///< although an earlier erase of this kind took the chip too long
         int attempts = 2;         ///< for each data packet
-        int comeBackMs = 20000;   ///< how long the device may take to introduce itself; 0: nobody waits for that
+        int comeBackMs = 20000;   ///< how long the device may take to identify itself; 0: do not wait for it
     };
 
     /// `folder` is where the note is kept.
@@ -51,45 +51,45 @@ public:
     UpdateStep step() const { return m_step; }
     /// Between prepare() and finished().
     bool isRunning() const { return m_step != UpdateStep::Idle && m_step != UpdateStep::Done; }
-    /// What the last Check has found, and what the bootloader has told of itself.
+    /// What the last Check found, and what the bootloader reported about itself.
     const update_plan::Plan &plan() const { return m_plan; }
     const BootloaderFacts &facts() const { return m_facts; }
-    /// The note of an update before that is not proved, as of the last prepare().
+    /// The note of an earlier update that is not verified, as of the last prepare().
     const std::optional<UpdateNote> &noteBefore() const { return m_noteBefore; }
     const UpdateResult &result() const { return m_result; }
-    /// What is to be kept of the update that has ended; its owner adds the log. It can be stored where the note is.
+    /// What is to be kept of the finished update; its owner adds the log. It can be stored next to the note.
     UpdateReport report() const;
     // On the disk's thread:
     /// Stores a report in the update's folder.
     void storeReport(const UpdateReport &report);
     /// Writes a report as text for people; reportSaved() follows.
     void saveReport(const UpdateReport &report, const QString &path);
-    /// Removes the note of an update that is not proved, by its user's wish. Nothing happens while an update runs.
+    /// Removes the note of an unverified update at the user's request. Does nothing while an update runs.
     void forgetNote();
 
-    /// Connects to the bootloader and checks the order; nothing is erased. prepared() follows, or finished() when there
-    /// is no bootloader. False while an update runs.
+    /// Connects to the bootloader and checks the order; nothing is erased. prepared() follows, or finished() when no
+    /// bootloader answers. False while an update runs.
     bool prepare(const Order &order);
-    /// Erases and writes what was prepared. False, and nothing is done, without a preparation, with an obstacle in the
-    /// plan, and with a doubt unless `despiteDoubts`.
+    /// Erases and writes what was prepared. Does nothing and returns false without a preparation, with an obstacle in
+    /// the plan, or with a doubt unless `despiteDoubts`.
     bool begin(bool despiteDoubts);
-    /// Writes packets of this size instead, or as if the line had this rate. Makes the plan again, and emits
+    /// Writes packets of this size instead, or plans as if the line had this rate. Makes the plan again and emits
     /// prepared().
     void changePacketSize(int packetSize);
-    /// Ends the update at its next step, with the outcome's fault Stopped. Before begin() nothing has been done to the
-    /// flash; after the reset nobody waits for the device any longer.
+    /// Ends the update at its next step, with the outcome's fault Stopped. Before begin() the flash is untouched; after
+    /// the reset it only stops waiting for the device.
     void cancel();
-    /// The port was closed. What runs on it ends by itself, what waits for begin() ends here.
+    /// The port was closed. A task running on it ends by itself; an update waiting for begin() ends here.
     void lineLost();
 
 public slots:
-    /// The device has introduced itself after the reset; `build` is its line with the build, empty: it has none.
+    /// The device has identified itself after the reset; `build` is its build line, empty if it has none.
     void deviceCameBack(const QString &build);
 
 signals:
     void prepared(const update_plan::Plan &plan);
     void stepChanged(UpdateStep step);
-    /// Of Write and Verify: bytes done of all.
+    /// During Write and Verify: bytes done, of the total.
     void advanced(UpdateStep step, qint64 done, qint64 total);
     void finished(const UpdateResult &result);
     /// `error` is the disk's reason; empty: it is saved.
@@ -118,9 +118,9 @@ private:
     QThreadPool m_disk; ///< one thread: in order
     Order m_order;
     UpdateStep m_step = UpdateStep::Idle;
-    std::optional<BootloaderTask::Kind> m_task; ///< that runs in the port's worker
+    std::optional<BootloaderTask::Kind> m_task; ///< running in the port's worker
     bool m_isCancelled = false;
-    bool m_isEnding = false;  ///< the result stands, and is on its way
+    bool m_isEnding = false;  ///< the result is final and on its way
     bool m_readAgain = false; ///< a first reading differed
     BootloaderFacts m_facts;
     BootloaderOffer m_offer;

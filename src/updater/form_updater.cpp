@@ -88,7 +88,7 @@ void form_updater::set_serial_instance(KvUartPort *port)
     connect(port, &KvUartPort::bootloaderDownloadFinished, this, &form_updater::onBootloaderDownloadFinished);
 }
 
-/// Connected, downloading, closed: what the session is in has changed, or something else of it.
+/// The state of the session (connected, downloading, closed), or something else about it, has changed.
 void form_updater::onSessionState()
 {
     if (isConnected() == m_wasConnected && isDownloading() == m_wasDownloading && canRestart() == m_couldRestart)
@@ -121,7 +121,7 @@ bool form_updater::isDownloading() const
     return m_update.hasLine();
 }
 
-/// Nothing speaks against the image, or the user has accepted it.
+/// There are no doubts about the image, or the user has accepted them.
 bool form_updater::isAccepted() const
 {
     return m_ui->LBL_doubts->text().isEmpty() || m_ui->CHB_despite->isChecked();
@@ -129,7 +129,7 @@ bool form_updater::isAccepted() const
 
 void form_updater::sayDownloadRuns()
 {
-    showStatus(tr("The download has to end first: without it the device has no complete firmware."), true);
+    showStatus(tr("The download has to finish first: until then the device has no complete firmware."), true);
 }
 
 void form_updater::sayBootloaderFound()
@@ -169,12 +169,12 @@ void form_updater::changeEvent(QEvent *event)
     } else if (event->type() == QEvent::PaletteChange) {
         update_button_states();
     } else if (event->type() == QEvent::ActivationChange && isActiveWindow() && !isDownloading()) {
-        lookAtImage(); // it may have been built anew meanwhile
+        lookAtImage(); // it may have been rebuilt meanwhile
     }
     QDialog::changeEvent(event);
 }
 
-/// Sentences wrap, and would be cut off in a window of any size.
+/// Sentences wrap, and would be cut off if the window could have any size.
 void form_updater::fitFont()
 {
     m_ui->PTE_log->setFont(theme::fixedPitchFont(font().pointSizeF()));
@@ -192,7 +192,7 @@ void form_updater::reject()
     if (canRestart())
         m_question.ask(parentWidget() != nullptr ? parentWidget() : this,
                        tr("The device is still in its bootloader: it sends no data until it restarts."),
-                       tr("Restart device"), tr("Leave it so"), [this] { on_BTN_restart_clicked(); });
+                       tr("Restart device"), tr("Leave as is"), [this] { on_BTN_restart_clicked(); });
 }
 
 void form_updater::on_BTN_restart_clicked()
@@ -203,9 +203,9 @@ void form_updater::on_BTN_restart_clicked()
     const bool restarted = m_session->restartDevice();
     QGuiApplication::restoreOverrideCursor();
     showStatus(restarted
-                   ? tr("The device restarts with the firmware that it has.")
+                   ? tr("The device restarts with its present firmware.")
                    : tr("The bootloader did not confirm the restart. Unplug the device and plug it in again if no "
-                        "data come."),
+                        "data arrive."),
                !restarted);
 }
 
@@ -213,9 +213,9 @@ void form_updater::on_BTN_stop_clicked()
 {
     if (isDownloading() && !m_stopping)
         m_question.ask(this,
-                       tr("Stop the download? The device has no complete firmware then. Its bootloader stays: press "
+                       tr("Stop the download? The device will have no complete firmware. Its bootloader remains: press "
                           "Connect, then Download."),
-                       tr("Stop the download"), tr("Go on"), [this] {
+                       tr("Stop the download"), tr("Keep downloading"), [this] {
                            m_stopping = true;
                            update_button_states();
                            m_update.procedure().cancel();
@@ -233,7 +233,7 @@ void form_updater::on_BTN_open_file_clicked()
 
 void form_updater::chooseImage(const QString &path)
 {
-    if (isDownloading()) // it began while the user was still choosing
+    if (isDownloading()) // a download began while the user was still choosing
         return;
     m_image.choose(path);
     m_packetSize = 0;
@@ -265,7 +265,7 @@ void form_updater::on_BTN_connect_clicked()
         button->setEnabled(false);
     log(tr("\n--- Connecting to bootloader ---\n"));
     m_ui->LBL_bootloader->setText(verdict_text::step(UpdateStep::Connect));
-    repaint(); // the last chance before the wait
+    repaint(); // last chance before the blocking wait
 
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     const bool connected = m_session->connectBootloader();
@@ -277,7 +277,7 @@ void form_updater::on_BTN_connect_clicked()
         log(updater_text::connectFailureLog());
         showStatus(updater_text::connectFailure(m_session->bootloaderOutcome()), true);
     }
-    // Clicks of an impatient user during the wait: the buttons are still disabled.
+    // Drop clicks of an impatient user during the wait: the buttons are still disabled.
     QCoreApplication::processEvents();
     m_connecting = false;
     lookAtImage();
@@ -300,7 +300,7 @@ void form_updater::on_BTN_download_clicked()
         hasImage = load_hex_file();
         if (!hasImage) {
             log(tr("NO IMAGE\r\n"));
-            showStatus(tr("The image could not be loaded; the device is as it was. Choose another file."), true);
+            showStatus(tr("The image could not be loaded; the device is unchanged. Choose another file."), true);
         }
         lookAtImage();
     }
@@ -319,7 +319,7 @@ void form_updater::onUpdateProgressBar(int percent)
     m_ui->PB_progress->setValue(percent);
 }
 
-/// What is written, as far as it is known.
+/// What would be written, as far as known.
 update_plan::Subject form_updater::subject() const
 {
     update_plan::Subject subject;
@@ -349,7 +349,7 @@ void form_updater::startUpdate()
         onBootloaderDownloadFinished(false);
 }
 
-/// The bootloader was asked what it offers; nothing is erased yet.
+/// The bootloader has reported what it offers; nothing is erased yet.
 void form_updater::onPrepared(const update_plan::Plan &plan)
 {
     const QList<update_plan::Doubt> accepted = m_plan.doubts; // they were on the screen
@@ -387,7 +387,7 @@ void form_updater::onFinished(const UpdateResult &result)
 {
     if (result.step < UpdateStep::ComeBack)
         onBootloaderDownloadFinished(false);
-    if (!m_isRefused) { // of an update that was never begun there is nothing to keep
+    if (!m_isRefused) { // an update that never began leaves nothing to keep
         m_result = result;
         m_report = m_update.procedure().report();
         UpdateReport stored = m_report;
@@ -424,7 +424,7 @@ void form_updater::onBootloaderDownloadFinished(bool ok)
     update_button_states();
 }
 
-/// The update that was interrupted, once more; it stops where the user has to decide something.
+/// Repeats the interrupted update; stops where the user has to decide something.
 void form_updater::continueUpdate()
 {
     if (isDownloading() || m_connecting || !m_noteCard->note())
@@ -433,7 +433,8 @@ void form_updater::continueUpdate()
     if (m_image.path() != note.file || !m_image.isLoaded())
         chooseImage(note.file);
     if (!m_image.exists()) {
-        showStatus(tr("The file %1 is gone: choose another one.").arg(QDir::toNativeSeparators(note.file)), true);
+        showStatus(tr("The file %1 no longer exists: choose another one.").arg(QDir::toNativeSeparators(note.file)),
+                   true);
         return;
     }
     const QByteArray hash = QCryptographicHash::hash(m_image.shown(), QCryptographicHash::Sha256).toHex();
@@ -445,7 +446,7 @@ void form_updater::continueUpdate()
     if (isSame && m_ui->BTN_download->isEnabled())
         on_BTN_download_clicked();
     else if (!isSame)
-        showStatus(tr("The file is not the one that was being written: it has changed since. Press Download to write "
+        showStatus(tr("The file has changed since the interrupted update. Press Download to write "
                       "it as it is now."),
                    true);
 }
@@ -472,8 +473,8 @@ void form_updater::update_button_states()
     m_ui->CHB_despite->setEnabled(!isDownloading());
     m_noteCard->setReady(!isDownloading());
     m_ui->BTN_save->setEnabled(m_result.has_value());
-    m_ui->BTN_save->setToolTip(m_result ? tr("Saves what was done and what has come of it as text")
-                                        : tr("There was no update yet."));
+    m_ui->BTN_save->setToolTip(m_result ? tr("Saves what was done and how it ended as text")
+                                        : tr("No update has run yet."));
     m_ui->BTN_restart->setEnabled(canRestart());
     m_ui->BTN_stop->setEnabled(isDownloading() && !m_stopping);
     m_ui->BTN_connect->setText(hasBootloader ? tr("Connected") : tr("Connect"));
@@ -487,11 +488,11 @@ void form_updater::update_button_states()
         isDownloading()  ? busy
         : !isConnected() ? tr("Press Connect first.")
         : !isAccepted()
-            ? tr("Something speaks against this image: tick \"%1\" to write it.").arg(m_ui->CHB_despite->text())
+            ? tr("There are doubts about this image: tick \"%1\" to write it.").arg(m_ui->CHB_despite->text())
             : tr("Erases the device's firmware and writes the image"));
     m_ui->BTN_restart->setToolTip(isDownloading() ? busy
-                                  : canRestart() ? tr("Ends the bootloader: the device starts the firmware that it has")
-                                                 : tr("No bootloader is connected."));
+                                  : canRestart()  ? tr("Leaves the bootloader: the device starts its present firmware")
+                                                  : tr("No bootloader is connected."));
     m_ui->BTN_stop->setToolTip(m_stopping        ? tr("The download is being stopped.")
                                : isDownloading() ? tr("Stops the download; asks first")
                                                  : tr("No download is running."));
@@ -568,9 +569,9 @@ void form_updater::showImage()
     m_ui->LE_path->setToolTip(m_image.path().toHtmlEscaped());
     m_ui->LBL_image->setText(updater_text::image(m_image));
     if (isDownloading() || m_isRefused)
-        return; // what the bootloader's check has shown stays
+        return; // keep what the bootloader's check has shown
     update_plan::Plan plan = isConnected() ? update_plan::make(subject(), m_facts, {}) : update_plan::look(subject());
-    plan.obstacles.removeAll(update_plan::Obstacle::EmptyImage); // the image's own line says it
+    plan.obstacles.removeAll(update_plan::Obstacle::EmptyImage); // the line about the image says so
     if (m_image.shown().isEmpty())
         plan.doubts.clear();
     showPlan(plan);
@@ -583,9 +584,9 @@ void form_updater::showPlan(const update_plan::Plan &plan)
     QString doubts = verdict_text::doubts(plan, written, m_facts);
     if (m_image.hasChanged())
         doubts += (doubts.isEmpty() ? QString() : QStringLiteral("\n"))
-                  + tr("The file has changed since it was loaded. Choose it again to load the new one.");
+                  + tr("The file has changed since it was loaded. Choose it again to load the new version.");
     if (doubts != m_ui->LBL_doubts->text())
-        m_ui->CHB_despite->setChecked(false); // what was accepted was something else
+        m_ui->CHB_despite->setChecked(false); // the user accepted a different list
     m_ui->LBL_doubts->setText(doubts);
     m_ui->LBL_doubts->setVisible(!doubts.isEmpty());
     m_ui->CHB_despite->setVisible(!doubts.isEmpty());
@@ -598,7 +599,7 @@ void form_updater::showPlan(const update_plan::Plan &plan)
                : plan.obstacles.contains(update_plan::Obstacle::EraseTooSlow) ? Remedy::EraseAgain
                                                                               : Remedy::None;
     const QString remedies[] = {QString(), tr("Restart the program"),
-                                tr("Use packets of %1 bytes").arg(plan.fit.largest), tr("Erase all the same")};
+                                tr("Use packets of %1 bytes").arg(plan.fit.largest), tr("Erase anyway")};
     m_ui->BTN_remedy->setVisible(m_remedy != Remedy::None);
     m_ui->BTN_remedy->setText(remedies[int(m_remedy)]);
 }

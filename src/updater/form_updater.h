@@ -19,14 +19,14 @@ namespace Ui {
 class form_updater;
 }
 
-/// Firmware update: the user picks an Intel HEX image, has the device restart into its bootloader, and downloads. What
-/// makes a download impossible is refused before anything is erased, with the remedy; what is merely doubtful is listed
-/// and has to be accepted first. Results and failures end in the log and in a sentence that says what state the device
-/// is in and what to do next, never in a message box.
+/// Firmware update: the user picks an Intel HEX image, restarts the device into its bootloader, and downloads. A
+/// download that cannot work is refused before anything is erased, with a remedy; doubts are listed and have to be
+/// accepted first. Results and failures appear in the log and in a sentence that states the condition of the device and
+/// what to do next, never in a message box.
 ///
-/// The session has the line, and does what is pressed here, as far as it allows it; SessionUpdate does the update.
-/// Connecting blocks for up to 4 s. While a download runs the window stays open. The image goes to the address of the
-/// first file that this run of the program has loaded; see hex2bin.
+/// The session owns the line and carries out what is pressed here, as far as it is allowed; SessionUpdate runs the
+/// update. Connecting blocks for up to 4 s. The window stays open while a download runs. The image goes to the address
+/// of the first file that this run of the program loaded; see hex2bin.
 ///
 /// Main thread only.
 class form_updater : public QDialog
@@ -41,12 +41,12 @@ public:
 
     /// The port worker whose progress is shown; the constructor takes the session's.
     void set_serial_instance(KvUartPort *port);
-    /// Says that the running download has to end before the program can.
+    /// Shows that the running download has to finish before the program can end.
     void sayDownloadRuns();
-    /// Says that the device was found in its bootloader.
+    /// Shows that the device was found in its bootloader.
     void sayBootloaderFound();
 
-    /// Reads and converts the image; tells in the log what it is or what is wrong.
+    /// Reads and converts the image; the log shows what it is or what is wrong.
     bool load_hex_file();
 
 public slots:
@@ -60,11 +60,11 @@ public slots:
     void on_BTN_remedy_clicked();
     void onUpdateProgressBar(int percent);
     void onBootloaderDownloadFinished(bool ok);
-    /// Closes the window, unless a download runs; says so when the device is left in its bootloader.
+    /// Closes the window, unless a download runs; asks the user when the device is left in its bootloader.
     void reject() override;
 
 signals:
-    /// The user wants the program to end and to start again.
+    /// The user wants to restart the program.
     void restartWanted();
 
 protected:
@@ -72,7 +72,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    /// What the remedy's button does.
+    /// What the remedy button does.
     enum class Remedy { None, RestartProgram, SmallerPackets, EraseAgain };
 
     void update_button_states();
@@ -108,18 +108,18 @@ private:
     FirmwareImage m_image;
     SessionUpdate m_update;
     QuestionBox m_question;
-    bool m_connecting = false; ///< the session connects; all that could be pressed is disabled
+    bool m_connecting = false; ///< the session is connecting; all controls are disabled
     bool m_wasConnected = false;
     bool m_wasDownloading = false;
     bool m_couldRestart = false;
-    bool m_stopping = false;    ///< the running download is to be stopped
+    bool m_stopping = false;    ///< the running download is being stopped
     bool m_erasesAgain = false; ///< see FirmwareUpdate::Order
-    bool m_isRefused = false;   ///< the running update's check has found what forbids it
-    int m_packetSize = 0;       ///< bytes, chosen by the user; 0: the largest that the target takes
+    bool m_isRefused = false;   ///< the running update's check has found an obstacle
+    int m_packetSize = 0;       ///< bytes, chosen by the user; 0: the largest that the target accepts
 
-    // what the window shows beside the log
+    // what the window shows in addition to the log
     BootloaderFacts m_facts;
-    update_plan::Plan m_plan; ///< as far as it is known
+    update_plan::Plan m_plan; ///< as far as known
     Remedy m_remedy = Remedy::None;
     std::optional<UpdateResult> m_result; ///< of the last update, until the next is prepared
     update_plan::Subject m_written;       ///< the last update's

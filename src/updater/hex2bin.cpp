@@ -12,11 +12,11 @@ constexpr quint8 kDataRecord = 0;
 constexpr quint8 kEndRecord = 1;
 constexpr quint8 kSegmentRecord = 2;
 constexpr quint8 kLinearRecord = 4;
-/// Characters of a line, far above the 521 of the longest record: a file without line ends is no HEX file.
+/// Characters in a line, far above the 521 of the longest record: a file without line ends is not a HEX file.
 constexpr qint64 kMaxLine = 4096;
-/// Gaps that are logged one by one. A file may be made of nothing else, and every line opens the log anew.
+/// Gaps that are logged one by one. A file may consist of nothing else, and every line opens the log again.
 constexpr int kMaxGapLines = 1000;
-/// Lines behind the image's end that are looked at.
+/// Lines after the end of the image that are examined.
 constexpr int kMaxRestLines = 100'000;
 constexpr quint64 kAddressSpace = quint64(1) << 32;
 
@@ -25,10 +25,10 @@ quint32 ExLineAddr = 0;        ///< upper bits of the address
 quint32 ExStageAddr = 0;       ///< offset of the segment
 quint32 s_start_addr = kNoAddress;
 quint32 firstDataAddr = kNoAddress;
-int gapLines = 0; ///< of this conversion
+int gapLines = 0; ///< in this conversion
 hex2bin::Cut lastCut = hex2bin::Cut::None;
 
-/// What a line does to the conversion; the last four end it.
+/// The effect of a line on the conversion; the last four end it.
 enum class LineResult { Next, EndRecord, NoDigits, OtherRecord, Failed };
 
 bool isRecord(const QByteArray &bytes)
@@ -39,7 +39,7 @@ bool isRecord(const QByteArray &bytes)
     quint8 sum = 0;
     for (qsizetype i = 0; i < bytes.size() - 1; ++i)
         sum = quint8(sum + quint8(bytes.at(i)));
-    // An address record may be padded in front of its checksum; in a data record surplus bytes would be lost.
+    // An address record may be padded before its checksum; in a data record surplus bytes would be lost.
     const auto checksum = char(-sum);
     return checksum == bytes.at(kDataOffset + count)
            || (quint8(bytes.at(3)) != kDataRecord && checksum == bytes.back());
@@ -50,7 +50,7 @@ LineResult appendData(const QByteArray &record, QByteArray &image)
     const quint32 count = quint8(record.at(0));
     const quint32 offset = qFromBigEndian<quint16>(record.constData() + 1);
     const quint64 address = ExStageAddr == 0 ? offset | ExLineAddr : offset + ExStageAddr;
-    // An image that begins with the last byte there is would have the address that stands for none.
+    // An image that begins at the very last address would have the address that stands for none.
     const bool isNowhere = firstDataAddr == kNoAddress && address == kNoAddress;
     if (address + count > kAddressSpace || isNowhere) {
         AppLog::logfile(QtWarningMsg, QStringLiteral("hex2bin, record beyond the address space"));
@@ -63,7 +63,7 @@ LineResult appendData(const QByteArray &record, QByteArray &image)
     if (absoluteAddrLocal == 0)
         absoluteAddrLocal = address;
     if (address < absoluteAddrLocal) {
-        AppLog::logfile(QtWarningMsg, QStringLiteral("hex2bin, records run backwards: 0x%1 behind 0x%2")
+        AppLog::logfile(QtWarningMsg, QStringLiteral("hex2bin, records run backwards: 0x%1 after 0x%2")
                                           .arg(address, 8, 16, QLatin1Char('0'))
                                           .arg(absoluteAddrLocal, 8, 16, QLatin1Char('0')));
         return LineResult::Failed;
@@ -111,7 +111,7 @@ LineResult takeLine(const QString &line, QByteArray &image)
     return LineResult::Next;
 }
 
-/// Looks behind the line that has ended an image.
+/// Looks at what follows the line that ended an image.
 hex2bin::Cut cutBy(LineResult last, QTextStream &rest)
 {
     bool endSeen = last == LineResult::EndRecord;

@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <QTextStream>
 
-/// Loader of firmware images in Intel HEX: text lines of hexadecimal digits behind a colon, in bytes
+/// Loader of firmware images in Intel HEX: text lines of hexadecimal digits after a colon, in bytes
 ///
 ///     offset  width  field
 ///     0       1      n, number of data bytes
@@ -12,36 +12,36 @@
 ///     4       n      data
 ///     4 + n   1      two's complement of the sum of all bytes before
 ///
-/// The state is the program's, not an object's: main thread only.
+/// The state is global, not part of an object: main thread only.
 namespace hex2bin {
 
-/// Most that an image may hold, gaps included.
+/// Largest image, gaps included, in bytes.
 constexpr qint64 kMaxImageSize = qint64(64) * 1024 * 1024;
 
-/// Converts a file into one contiguous image. Characters that are no hexadecimal digits are passed over; a line without
+/// Converts a file into one contiguous image. Characters that are not hexadecimal digits are skipped; a line without
 /// any, the end of the input and every record of a type other than 0, 2 and 4 end the conversion. Gaps are filled with
 /// the character "0". A segment address counts four bytes per unit.
 ///
-/// Empty, with a line in the application log, when a checksum is wrong, a line holds less than its record, records run
+/// Empty, with a line in the application log, when a checksum is wrong, a line is shorter than its record, records run
 /// backwards or beyond 32 bits, or the image would be larger than kMaxImageSize.
 QByteArray convert(QTextStream &in);
 
-/// Load address of the first image that this run of the program has converted, for all images; 0xFFFFFFFF before.
+/// Load address of the first image that this run of the program converted, used for all images; 0xFFFFFFFF before that.
 unsigned int start_addr();
 
-/// The same conversion for looking only: start_addr() stays as it is.
+/// The same conversion for display only: start_addr() is unchanged.
 QByteArray preview(QTextStream &in);
 
-/// Address of the first data record of the last conversion or preview; 0xFFFFFFFF without one.
+/// Address of the first data record in the last conversion or preview; 0xFFFFFFFF if there is none.
 unsigned int first_data_addr();
 
-/// Why the last conversion or preview may have less than the file's maker meant.
+/// Why the last conversion or preview may hold less than the file's author intended.
 enum class Cut {
     None,
-    NoEndRecord,       ///< the file ends without an end record: perhaps a part of it is missing
-    BlankLineInside,   ///< data follow behind a line without digits, where the image ends
-    OtherRecordInside, ///< data follow behind a start address or an unknown record, where the image ends
-    DataAfterEnd       ///< data follow behind the end record
+    NoEndRecord,       ///< the file ends without an end record: part of it may be missing
+    BlankLineInside,   ///< data follow a line without digits, where the image ends
+    OtherRecordInside, ///< data follow a start address or an unknown record, where the image ends
+    DataAfterEnd       ///< data follow the end record
 };
 Cut cut();
 

@@ -8,7 +8,7 @@ namespace {
 
 // RAM of every Cortex-M chip lies in these 768 MiB: code RAM below 0x20000000, the SRAM region above.
 constexpr quint32 kRamBegin = 0x10000000;
-constexpr quint32 kRamEnd = 0x40000000; // a full stack begins right after its RAM
+constexpr quint32 kRamEnd = 0x40000000; // a stack at the top of RAM begins right after it
 
 quint32 wordAt(const QByteArray &image, qsizetype offset)
 {

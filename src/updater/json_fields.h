@@ -4,8 +4,8 @@
 #include <QString>
 #include <QStringList>
 
-/// Reads the fields of a JSON object that may hold anything. A field that is missing, of another kind or out of range
-/// is empty or 0, and makes the whole unfit.
+/// Reads the fields of a JSON object that may hold anything. A field that is missing, of another type or out of range
+/// reads as empty or 0 and makes the whole object invalid.
 class JsonFields
 {
 public:
@@ -14,11 +14,11 @@ public:
     explicit JsonFields(QJsonObject object);
 
     QString text(const char *name);
-    /// A whole number from 0 on.
+    /// A whole number, 0 or more.
     qint64 number(const char *name, double highest);
     QStringList lines(const char *name, int most);
 
-    /// All fields read so far were there, and as they should be.
+    /// All fields read so far were present and valid.
     bool fit() const { return m_fits; }
 
 private:

@@ -49,7 +49,7 @@ void SessionUpdate::onSessionState()
 {
     if (m_hasLine && !m_session->isOpen())
         m_procedure.lineLost();
-    // The bootloader again, by somebody's wish or because the firmware does not start.
+    // The bootloader again, because someone asked for it or because the firmware does not start.
     if (m_procedure.step() == UpdateStep::ComeBack && m_session->state() == SessionState::Bootloader)
         m_procedure.cancel();
 }

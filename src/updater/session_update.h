@@ -6,8 +6,8 @@
 
 class DeviceSession;
 
-/// Runs firmware updates on the line of a session: borrows the line, gives it back with what has become of the device,
-/// and waits for the device to introduce itself. Windows and scripts start updates here. Main thread only.
+/// Runs firmware updates on the line of a session: borrows the line, returns it with the state of the device, and waits
+/// for the device to identify itself. Windows and scripts start updates here. Main thread only.
 class SessionUpdate : public QObject
 {
     Q_OBJECT
@@ -18,11 +18,11 @@ public:
     SessionUpdate(DeviceSession *session, const QString &folder, QObject *parent = nullptr);
 
     FirmwareUpdate &procedure() { return m_procedure; }
-    /// The device's flash may be in work: from start() until it restarts, or the update has ended.
+    /// The device's flash may be changing: from start() until the device restarts or the update has ended.
     bool hasLine() const { return m_hasLine; }
 
-    /// Prepares an update; the procedure's signals follow. Device, port, baud rate and old build are the session's, and
-    /// the bootloader is connected first when it is not. False when the session refuses the line.
+    /// Prepares an update; the procedure's signals follow. Device, port, baud rate and old build come from the session,
+    /// and the bootloader is connected first if necessary. False when the session refuses the line.
     bool start(FirmwareUpdate::Order order);
 
 private:

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int kMargin = 16; // pixels, as the next
+constexpr int kMargin = 16; // pixels, like the next one
 constexpr int kSpacing = 8;
 
 } // namespace
@@ -72,16 +72,16 @@ void UpdateNoteCard::showTexts()
     const QString found =
         m_isBootloaderFound ? tr("The device runs its bootloader and sends no data: restart it, or choose a firmware.")
                             : QString();
-    m_text->setText(m_note
-                        ? joinSentences({verdict_text::interrupted(*m_note),
-                                         m_isBootloaderFound ? tr("The device waits in its bootloader.") : QString()})
-                        : found);
+    m_text->setText(
+        m_note ? joinSentences({verdict_text::interrupted(*m_note),
+                                m_isBootloaderFound ? tr("The device is waiting in its bootloader.") : QString()})
+               : found);
     setVisible(!m_text->text().isEmpty());
     m_continue->setText(tr("Continue"));
-    m_continue->setToolTip(tr("Chooses the same file, connects, and downloads it"));
+    m_continue->setToolTip(tr("Chooses the same file, connects and downloads it"));
     m_choose->setText(tr("Choose firmware"));
     m_forget->setText(tr("Forget"));
-    m_forget->setToolTip(tr("Ends the reminder of this update"));
+    m_forget->setToolTip(tr("Removes the reminder of this update"));
     m_continue->setVisible(m_note.has_value());
     m_forget->setVisible(m_note.has_value());
     m_choose->setVisible(!m_note);

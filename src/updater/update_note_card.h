@@ -9,8 +9,8 @@
 class QLabel;
 class QPushButton;
 
-/// Shows that an update before has not come to its end, or that a device was found in its bootloader, and what can be
-/// done about it. Hidden while there is nothing to say. Main thread only.
+/// Shows that an earlier update did not finish, or that a device was found in its bootloader, and what can be done
+/// about it. Hidden while there is nothing to say. Main thread only.
 class UpdateNoteCard : public QFrame
 {
     Q_OBJECT
@@ -21,17 +21,17 @@ public:
 
     /// None: no update is open.
     void setNote(const std::optional<UpdateNote> &note);
-    /// The device of the session was found in its bootloader without anybody here having asked for it.
+    /// The session's device was found in its bootloader although nobody requested it here.
     void setBootloaderFound(bool isFound);
-    /// Its buttons can be pressed.
+    /// Whether its buttons can be pressed.
     void setReady(bool isReady);
     const std::optional<UpdateNote> &note() const { return m_note; }
 
 signals:
-    /// Write the file of the note again.
+    /// The user wants to write the file of the note again.
     void continueAsked();
     void forgetAsked();
-    /// Choose a firmware for the device that was found.
+    /// The user wants to choose firmware for the device that was found.
     void chooseAsked();
 
 protected:

@@ -12,7 +12,7 @@ constexpr int kAcknowledgeMs = 200;
 constexpr int kTargetMs = 20; // for programming a packet, and for the system's own delays
 constexpr int kBitsPerByte = 10;
 constexpr int kPacketOverhead = 6 + 2; // header, and the acknowledge
-constexpr int kGoodPacket = 32;        // packets are multiples of it, small ones of a flash word
+constexpr int kGoodPacket = 32;        // packet sizes are multiples of it, small ones of a flash word
 constexpr int kFlashWord = 8;
 constexpr std::array kUsualRates = {9600, 19200, 38400, 57600, 115200, 230400, 460800, 921600};
 
@@ -35,7 +35,7 @@ std::optional<update_plan::Obstacle> flashObstacle(const update_plan::Subject &s
         return image_check::fitsFlash(subject.image.size(), subject.address, facts.flashSizeKb)
                    ? std::nullopt
                    : std::optional(update_plan::Obstacle::OutsideFlash);
-    // Many chips have their flash at address 0 as well.
+    // Many chips also map their flash at address 0.
     const quint64 address = subject.address;
     const quint64 offset = address >= *offer.flashStart ? address - *offer.flashStart : address;
     return offset + size > flashSize ? std::optional(update_plan::Obstacle::OutsideFlash) : std::nullopt;

@@ -16,7 +16,7 @@ namespace {
 
 constexpr int kFormat = 1;
 constexpr qint64 kMaxFileBytes = 4 * 1024 * 1024;
-constexpr double kMaxNumber = 9007199254740992.0; // whole numbers that JSON keeps
+constexpr double kMaxNumber = 9007199254740992.0; // largest whole number that JSON keeps exactly
 
 struct Text
 {

@@ -4,7 +4,7 @@
 
 namespace {
 
-// In the enumerators' order.
+// In the order of the enumerators.
 constexpr std::array kVerdicts = {"Verified", "NotVerified", "Doubtful", "Failed", "SameBuild", "DidNotComeBack"};
 constexpr std::array kReasons = {"None",         "NoReadBack",     "Locked",
                                  "ReadRefused",  "ReadIncomplete", "RepeatedAfterSilence",

@@ -36,10 +36,10 @@ QString cause(const BootloaderOutcome &outcome)
     switch (outcome.fault) {
     case BootloaderFault::PortClosed:
         if (outcome.step <= BootloaderStep::Restart)
-            return Text::tr("The serial port is closed or takes no data.");
+            return Text::tr("The serial port is closed or accepts no data.");
         return Text::tr("The connection to the device was lost.");
     case BootloaderFault::WrongAnswer:
-        return Text::tr("The device answered, but not as its bootloader does.");
+        return Text::tr("The device answered, but not like a bootloader.");
     case BootloaderFault::Refused:
         return Text::tr("The bootloader refused a packet.");
     case BootloaderFault::Aborted:
@@ -72,7 +72,7 @@ QString deviceState(const BootloaderOutcome &outcome, qint64 total)
         return Text::tr("%1 of %2 bytes were written: the firmware is incomplete and cannot start.")
             .arg(grouped(outcome.acknowledgedBytes), grouped(total));
     default:
-        return Text::tr("Nothing was written: the firmware of the device is as it was.");
+        return Text::tr("Nothing was written: the device's firmware is unchanged.");
     }
 }
 
@@ -82,7 +82,7 @@ QString nextStep(const BootloaderOutcome &outcome)
         return Text::tr("Check the cable, open the port again and press Connect.");
     if (isConnectStep(outcome.step))
         return Text::tr("Check power, port and baud rate, then press Connect again.");
-    return Text::tr("The bootloader stays in the device: press Connect, then Download.");
+    return Text::tr("The bootloader is still in the device: press Connect, then Download.");
 }
 
 QString hex8(quint32 value)
@@ -132,7 +132,7 @@ QString updater_text::downloadFailure(const BootloaderOutcome &outcome, qint64 t
 {
     QStringList sentences{cause(outcome), deviceState(outcome, total), nextStep(outcome)};
     if (outcome.fault == BootloaderFault::PacketSize)
-        sentences[0] = Text::tr("The bootloader takes no data: it reports packets of %1 bytes.").arg(packetSize);
+        sentences[0] = Text::tr("The bootloader accepts no data: it reports packets of %1 bytes.").arg(packetSize);
     if (outcome.targetStatus != 0)
         sentences.insert(1, Text::tr("It had reported status %1 before.").arg(outcome.targetStatus));
     return joinSentences(sentences);
@@ -166,10 +166,9 @@ QString updater_text::facts(const BootloaderFacts &facts)
 QString updater_text::image(const FirmwareImage &image)
 {
     if (!image.exists())
-        return Text::tr("There is no file at this place: choose an image.");
+        return Text::tr("There is no file at this path: choose an image.");
     if (image.shown().isEmpty())
-        return Text::tr("This is no Intel HEX file that can be loaded; the log file debug.log says why. Choose another "
-                        "one.");
+        return Text::tr("Not a loadable Intel HEX file. See debug.log for the reason, or choose another file.");
     const auto [stackPointer, resetVector] = image_check::vectors(image.shown());
     return Text::tr("%1 bytes from %2, stack pointer %3, reset vector %4")
         .arg(grouped(image.shown().size()), address(image.targetAddress()), address(stackPointer),

@@ -5,7 +5,7 @@
 #include "link/bootloader_state.h"
 #include "updater/firmware_image.h"
 
-/// Sentences of the firmware update for people.
+/// Sentences shown to the user during a firmware update.
 namespace updater_text {
 
 /// Lines of the log: the end of a connect, and of loading the image.
@@ -13,16 +13,16 @@ QString factsLog(const BootloaderFacts &facts);
 QString connectFailureLog();
 QString loadLog(FirmwareImage::Problem problem, const FirmwareImage &image);
 
-/// Why a connect failed, what state the device is in and what to do next.
+/// Why connecting failed, the state of the device and what to do next.
 QString connectFailure(const BootloaderOutcome &outcome);
 
-/// The same of a download of `total` bytes to a target with packets of `packetSize` bytes.
+/// The same for a download of `total` bytes to a target with packets of `packetSize` bytes.
 QString downloadFailure(const BootloaderOutcome &outcome, qint64 total, int packetSize);
 
-/// The user has stopped the download: what state the device is in and what to do next.
+/// The user stopped the download: the state of the device and what to do next.
 QString stopped(const BootloaderOutcome &outcome, qint64 total);
 
-/// "8,192 of 65,536 bytes · 40.0 KB/s · 2 s left"; rate and rest only when there is something to judge by.
+/// "8,192 of 65,536 bytes · 40.0 KB/s · 2 s left"; rate and remaining time only once they can be estimated.
 QString transfer(qint64 done, qint64 total, qint64 elapsedMs);
 
 /// "Bootloader 2.1.3, 128 KB of flash in sectors of 1,024 bytes, packets of up to 32 bytes, chip 0ab1c2d3"

@@ -28,7 +28,7 @@ QString tooSlow(const update_plan::PacketFit &fit, int packetSize, int baudRate)
     if (fit.largest > 0)
         sentences.append(Text::tr("Packets of %1 bytes can.").arg(grouped(fit.largest)));
     if (fit.higherRate > 0)
-        sentences.append(Text::tr("%1 baud or more is fast enough, too.").arg(grouped(fit.higherRate)));
+        sentences.append(Text::tr("%1 baud or more is also fast enough.").arg(grouped(fit.higherRate)));
     return joinSentences(sentences);
 }
 
@@ -44,7 +44,7 @@ QString obstacle(update_plan::Obstacle obstacle, const update_plan::Plan &plan, 
                         "Restart the program to write it to its own address.")
             .arg(updater_text::address(subject.fileAddress), updater_text::address(subject.address));
     case Obstacle::NoDataPackets:
-        return Text::tr("The bootloader takes no data: it reports packets of %1 bytes.").arg(facts.maxPacketSize);
+        return Text::tr("The bootloader accepts no data: it reports packets of %1 bytes.").arg(facts.maxPacketSize);
     case Obstacle::TooLarge:
     case Obstacle::OutsideFlash:
         return Text::tr("The image does not fit the %1 KB of flash from this address on.")
@@ -52,7 +52,7 @@ QString obstacle(update_plan::Obstacle obstacle, const update_plan::Plan &plan, 
     case Obstacle::PacketTooSlow:
         return tooSlow(plan.fit, plan.packetSize, subject.baudRate);
     case Obstacle::EraseTooSlow:
-        return Text::tr("This chip has not ended an erase of this size within 1.5 s before, and the protocol waits no "
+        return Text::tr("An earlier erase of this size took this chip more than 1.5 s, and the protocol waits no "
                         "longer: it would be erased and not written.");
     }
     return {};
@@ -64,14 +64,14 @@ QString cut(hex2bin::Cut cut)
     case hex2bin::Cut::None:
         break;
     case hex2bin::Cut::NoEndRecord:
-        return Text::tr("The file has no end record: a part of it may be missing.");
+        return Text::tr("The file has no end record: part of it may be missing.");
     case hex2bin::Cut::BlankLineInside:
-        return Text::tr("The file has data after a blank line, where the image ends: they would not be written.");
+        return Text::tr("Data after a blank line, where the image ends, would not be written.");
     case hex2bin::Cut::OtherRecordInside:
-        return Text::tr("The file has data after a start address or an unknown record, where the image ends: they "
-                        "would not be written.");
+        return Text::tr("Data after a start address or an unknown record, where the image ends, would not be "
+                        "written.");
     case hex2bin::Cut::DataAfterEnd:
-        return Text::tr("The file has data after its end record: they would not be written.");
+        return Text::tr("Data after the end record would not be written.");
     }
     return {};
 }
@@ -84,26 +84,26 @@ QString doubt(update_plan::Doubt doubt, const update_plan::Plan &plan, const upd
     case Doubt::CutFile:
         return cut(plan.cut);
     case Doubt::UnalignedStart:
-        return Text::tr("The image does not begin at a sector of %1 bytes: what stands before it in its sector is "
-                        "erased, too.")
+        return Text::tr("The image does not begin at the start of a sector (%1 bytes): what precedes it in the "
+                        "sector is erased too.")
             .arg(grouped(facts.sectorSize));
     case Doubt::OtherAddressThanLast:
-        return Text::tr("The update before was for %1, this one is for %2.")
+        return Text::tr("The previous update was for %1, this one is for %2.")
             .arg(updater_text::address(subject.lastAddress.value_or(0)), updater_text::address(subject.address));
     case Doubt::OlderBuild:
         return Text::tr("The image's build of %1 is older than the device's: %2.")
             .arg(plan.imageBuild.toString(Qt::ISODate), subject.deviceBuild);
     case Doubt::StackPointer:
-        return Text::tr("The stack pointer is no word address in RAM.");
+        return Text::tr("The stack pointer is not a word address in RAM.");
     case Doubt::ResetVector:
-        return Text::tr("The reset vector is no Thumb address inside the image.");
+        return Text::tr("The reset vector is not a Thumb address inside the image.");
     case Doubt::TooSmall:
-        return Text::tr("The image is very small for a firmware.");
+        return Text::tr("The image is very small for firmware.");
     }
     return {};
 }
 
-/// Why the flash is not proved.
+/// Why the flash is not verified.
 QString reason(const UpdateResult &result)
 {
     switch (result.reason) {
@@ -115,7 +115,7 @@ QString reason(const UpdateResult &result)
         return Text::tr("Not verified: the bootloader refused to read the flash back (status %1).")
             .arg(result.outcome.targetStatus);
     case UpdateReason::ReadIncomplete:
-        return Text::tr("Not verified: reading the flash back did not come to its end.");
+        return Text::tr("Not verified: reading the flash back did not finish.");
     case UpdateReason::RepeatedAfterSilence:
         return Text::tr("%1 packets were sent again after silence and may have been written twice: the firmware may "
                         "be wrong even if it starts.")
@@ -125,7 +125,8 @@ QString reason(const UpdateResult &result)
                    ? Text::tr("But the bootloader reported status %1.").arg(result.outcome.targetStatus)
                    : Text::tr("But the bootloader did not confirm the whole image.");
     default:
-        return result.flash == FlashState::Proven ? Text::tr("The flash was read back: it is the image.") : QString();
+        return result.flash == FlashState::Proven ? Text::tr("The flash was read back and matches the image.")
+                                                  : QString();
     }
 }
 
@@ -143,14 +144,14 @@ QString failure(const UpdateResult &result, qint64 total, quint32 address, int p
             {Text::tr("Reading the flash back found wrong bytes: %1, the first at %2.")
                  .arg(grouped(result.differingBytes), updater_text::address(address + quint32(result.firstDifference))),
              Text::tr("The device was not restarted: this firmware must not run."),
-             Text::tr("The bootloader stays in the device: press Connect, then Download.")});
+             Text::tr("The bootloader is still in the device: press Connect, then Download.")});
     if (result.flash == FlashState::Unproven)
         return joinSentences({result.outcome.fault == BootloaderFault::Stopped
                                   ? Text::tr("Reading the flash back was stopped.")
                                   : Text::tr("The connection to the device was lost."),
-                              Text::tr("The image was written, but nothing proves that it is right."),
+                              Text::tr("The image was written, but not verified."),
                               result.outcome.fault == BootloaderFault::Stopped
-                                  ? Text::tr("The bootloader stays in the device: press Connect, then Download.")
+                                  ? Text::tr("The bootloader is still in the device: press Connect, then Download.")
                                   : Text::tr("Check the cable, open the port again and press Connect.")});
     return result.outcome.fault == BootloaderFault::Stopped
                ? updater_text::stopped(result.outcome, total)
@@ -223,9 +224,10 @@ QString verdict_text::verdict(UpdateVerdict verdict)
 
 QString verdict_text::result(const UpdateResult &result, qint64 total, quint32 address, int packetSize)
 {
-    const QString unnoted = result.isNoted || result.flash == FlashState::Untouched
-                                ? QString()
-                                : Text::tr("The folder takes no files: after a crash nothing would have reminded you.");
+    const QString unnoted =
+        result.isNoted || result.flash == FlashState::Untouched
+            ? QString()
+            : Text::tr("The folder is not writable: after a crash there would have been no reminder.");
     switch (result.verdict) {
     case UpdateVerdict::Verified:
         return joinSentences(
@@ -241,14 +243,14 @@ QString verdict_text::result(const UpdateResult &result, qint64 total, quint32 a
                               unnoted});
     case UpdateVerdict::SameBuild:
         return joinSentences(
-            {written(result), reason(result), Text::tr("But the device is back with the build that it had before."),
+            {written(result), reason(result), Text::tr("But the device came back with its previous build."),
              result.flash == FlashState::Proven
-                 ? Text::tr("Check that this is the file that you meant.")
-                 : Text::tr("Check that this is the file that you meant, then press Connect and download again."),
+                 ? Text::tr("Check that this is the right file.")
+                 : Text::tr("Check that this is the right file, then press Connect and download again."),
              unnoted});
     case UpdateVerdict::DidNotComeBack:
         return joinSentences(
-            {written(result), reason(result), Text::tr("But the device has not introduced itself since its restart."),
+            {written(result), reason(result), Text::tr("But the device has not identified itself since its restart."),
              Text::tr("Unplug it and plug it in again, and open its port: the new firmware may use another baud rate. "
                       "If its bootloader answers there, this window opens by itself."),
              unnoted});
@@ -277,9 +279,8 @@ QString verdict_text::interrupted(const UpdateNote &note)
     const QString began = QLocale().toString(note.began.toLocalTime(), QLocale::ShortFormat);
     const QString who = note.device.isEmpty() ? note.port : Text::tr("%1 at %2").arg(note.device, note.port);
     if (note.done >= note.size)
-        return Text::tr("The update of %1 with %2, begun %3, was written to the end, but it is not proved that it is "
-                        "right.")
+        return Text::tr("The update of %1 with %2, started %3, was written completely but not verified.")
             .arg(who, file, began);
-    return Text::tr("The update of %1 with %2, begun %3, was interrupted at %4 of %5 bytes.")
+    return Text::tr("The update of %1 with %2, started %3, was interrupted at %4 of %5 bytes.")
         .arg(who, file, began, grouped(note.done), grouped(note.size));
 }

@@ -7,20 +7,20 @@
 #include "updater/update_plan.h"
 #include "updater/update_result.h"
 
-/// Sentences about the check and the result of a firmware update for people.
+/// Sentences shown to the user about the check and the result of a firmware update.
 namespace verdict_text {
 
 /// "Reading the flash back…"
 QString step(UpdateStep step);
 
-/// Why an update cannot work and what to do, one line for each obstacle.
+/// Why an update cannot work and what to do, one line per obstacle.
 QString obstacles(const update_plan::Plan &plan, const update_plan::Subject &subject, const BootloaderFacts &facts);
-/// One line for each doubt.
+/// One line per doubt.
 QString doubts(const update_plan::Plan &plan, const update_plan::Subject &subject, const BootloaderFacts &facts);
 
 /// One or two words: "Verified".
 QString verdict(UpdateVerdict verdict);
-/// What has come of an update of `total` bytes at `address`, what state the device is in and what to do next.
+/// The outcome of an update of `total` bytes at `address`, the state of the device and what to do next.
 QString result(const UpdateResult &result, qint64 total, quint32 address, int packetSize);
 /// The user should do something.
 bool isProblem(const UpdateResult &result);

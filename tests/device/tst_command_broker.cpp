@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Answers what the broker sends by posting to it, as the port does from its own thread.
+/// Answers what the broker sends by posting to it, like the port from its own thread.
 class Peer : public QObject
 {
 public:
@@ -56,7 +56,7 @@ private slots:
 
         QVERIFY(broker.executeCommand(QString(), 30).isEmpty() && broker.lastResult().isEmpty());
         QCOMPARE(peer.sent.size(), 1);
-        // A window of zero returns at once, and the reply finds nobody collecting.
+        // A window of zero returns at once, and nothing collects the reply.
         QCOMPARE(broker.executeCommand(u"AT+INFO\r\n"_s, 0), QByteArray());
         QVERIFY(!broker.isCollecting());
         QCoreApplication::processEvents();
@@ -72,7 +72,7 @@ private slots:
         const QList<SettingsCommand> commands = {{u"A"_s, 10}, {QString(), 5000}, {u"B"_s, 10}, {QString(), 5000}};
         QCOMPARE(broker.executeSequence(commands), QByteArray("second"));
         QCOMPARE(peer.sent, QList<QByteArray>({"A", "B"}));
-        // A silent last command leaves nothing of the one before.
+        // A silent last command leaves nothing of the previous one.
         QCOMPARE(broker.executeSequence({{u"A"_s, 10}, {u"C"_s, 10}}), QByteArray());
 
         QFile::remove(u"debug.log"_s);
@@ -108,7 +108,7 @@ private slots:
         const QString warning = u"[W]: command response truncated at 1048576 bytes\n"_s;
         peer.replies = {{"full", {QByteArray(kCap, 'x')}},
                         {"more", {QByteArray(kCap - 1, 'x'), "yz", "more", "and more"}}};
-        broker.serialRecv(QByteArray(kCap + 1, 'x')); // in no window: dropped, not kept and cut
+        broker.serialRecv(QByteArray(kCap + 1, 'x')); // outside a window: dropped, not kept and cut
         QCOMPARE(broker.sendAndCollect("full", 50).size(), kCap);
         QVERIFY(!log().contains(warning));
         for (int window = 1; window <= 2; ++window) { // once per window
@@ -133,7 +133,7 @@ private slots:
         KvUartPort first;
         KvUartPort second;
         CommandBroker broker;
-        // What arrives within a window tells who is connected.
+        // What arrives within a window shows who is connected.
         const auto heard = [&broker](KvUartPort &port) {
             QTimer::singleShot(0, &port, [&port] { emit port.serialRecv("x"); });
             return broker.sendAndCollect("?", 20).size();
@@ -146,7 +146,7 @@ private slots:
         QCOMPARE(heard(second), 0);
         broker.attachPort(nullptr);
         broker.attachPort(std::make_unique<KvUartPort>().get());
-        broker.attachPort(nullptr); // of a port that has gone
+        broker.attachPort(nullptr); // from a port that is gone
         QCOMPARE(log().count(u"[I]: command-broker attached to uart-port\n"_s), 3);
         QCOMPARE(log().count(u"[I]: command-broker detached from uart-port\n"_s), 1);
     }
@@ -178,7 +178,7 @@ private slots:
         Peer peer(broker);
         peer.replies = {{"A", {"1"}}, {"B", {"2"}}, {"C", {"3"}}};
         const QList<SettingsCommand> commands = {{u"A"_s, 10}, {QString(), 10}, {u"B"_s, 10}, {u"C"_s, 10}};
-        for (const int action : {0, 1, 2}) { // goes on, says no, aborts
+        for (const int action : {0, 1, 2}) { // continues, stops, aborts
             peer.sent.clear();
             QByteArray seen;
             broker.executeSequence(commands, [&](qsizetype i, const QByteArray &reply) {
@@ -199,7 +199,7 @@ private slots:
         QCOMPARE(dying, nullptr);
     }
 
-    // A loop above the window's, as that of a modal dialog is, holds the return back, not the window open.
+    // A loop above that of the window, such as a modal dialog's, delays the return but does not keep the window open.
     void windowClosesUnderAModalLoop()
     {
         CommandBroker broker;
@@ -215,7 +215,7 @@ private slots:
         QVERIFY(!broker.wasCutShort());
     }
 
-    void brokerMayDieInItsWindow()
+    void brokerMayBeDestroyedInItsWindow()
     {
         auto *broker = new CommandBroker;
         Peer peer(*broker);

@@ -68,12 +68,12 @@ private slots:
         const QString restart = u"AT+RST"_s;
         const QByteArray ok = "OK\r\n";
         const QByteArray error = "ERROR\r\n";
-        // The device's replies in the windows of these four commands; what was refused, and whether it is known.
+        // The device's replies in the windows of these four commands, what was refused, and whether that is certain.
         const std::tuple<const char *, Replies, QStringList, bool> rows[] = {
             {"in time", {ok, error, ok, ok}, {rate}, true},
             {"each one window late", {"", error, ok, ok + ok}, {id}, true},
             {"all late", {"", "", "", ok + error + ok + ok}, {rate}, true},
-            {"cut by the window's end", {"ERR", "OR\r" + QByteArray("\nO"), "K\r\n" + ok, ok}, {id}, true},
+            {"cut by the end of the window", {"ERR", "OR\r" + QByteArray("\nO"), "K\r\n" + ok, ok}, {id}, true},
             {"two", {error, ok, "", error + ok}, {id, mode}, true},
             {"nothing refused", {ok, ok, ok, ok}, {}, true},
             {"silence", {"", "", "", ""}, {}, true},
@@ -92,7 +92,7 @@ private slots:
         }
     }
 
-    // The refusal of the first write comes in the window of the second.
+    // The refusal of the first write arrives in the window of the second.
     void lateAnswersAreNotChargedToTheNextCommand()
     {
         Bench bench("--device mz226 --reply-delay 30 --refuse AT+ID");
@@ -107,7 +107,7 @@ private slots:
                  lines);
     }
 
-    void suspendEndsWhatRuns()
+    void suspendEndsTheRunningCommand()
     {
         Bench bench("--device mz226");
         const std::function<void()> operations[] = {[&] { QVERIFY(bench.session.readInfo().isEmpty()); },
@@ -121,10 +121,10 @@ private slots:
             bench.sent.clear();
             const auto once = Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection);
             connect(
-                &bench.broker, &CommandBroker::serialSend, &bench.session, // inside the first command's wait
+                &bench.broker, &CommandBroker::serialSend, &bench.session, // during the first command's wait
                 [&bench] {
                     bench.session.suspend(true);
-                    bench.session.suspend(false); // also one that is over before the wait's end
+                    bench.session.suspend(false); // even one that is over before the wait ends
                     bench.session.suspend(true);
                 },
                 once);
@@ -135,11 +135,11 @@ private slots:
             QCOMPARE(bench.sent.size(), 1);
             bench.session.suspend(false);
         }
-        QVERIFY(bench.session.device().valid); // as it was
+        QVERIFY(bench.session.device().valid); // unchanged
     }
 
-    // Data that flow, a suspension: nothing is sent again. Benches begin one after the other, so that the last one's
-    // repetition comes when the others' would have come.
+    // With flowing data, or a suspension, nothing is repeated. The benches start one after the other, so that the last
+    // one repeats only after the others would have.
     void resumeIsRepeatedUntilDataFlow()
     {
         Bench flowing("--rate 1 --deaf on");
@@ -147,7 +147,7 @@ private slots:
         Bench mute("--silent on");
         for (Bench *bench : {&flowing, &suspended, &mute}) {
             bench->session.resumeOutput(true);
-            while (bench->broker.lastResult().size() > 0) // the one packet of this second
+            while (bench->broker.lastResult().size() > 0) // the one packet in this second
                 bench->session.resumeOutput(true);
             bench->sent.clear();
         }
@@ -158,7 +158,7 @@ private slots:
         QVERIFY(flowing.sent.isEmpty() && suspended.sent.isEmpty());
     }
 
-    void noiseIsTold()
+    void noiseIsReported()
     {
         Bench bench("--garbage 11000");
         bench.session.setBaud(115200);
@@ -170,7 +170,7 @@ private slots:
         QVERIFY(bench.control("garbage 0"));
         QVERIFY(!bench.session.readInfo().isEmpty());
         QVERIFY(bench.outcome.kind == Outcome::Nothing && !bench.session.lastReadWasNoise());
-        QVERIFY(bench.control("deaf on")); // a stream that goes on is none
+        QVERIFY(bench.control("deaf on")); // a stream that continues is not noise
         QVERIFY(bench.session.readInfo().isEmpty());
         QVERIFY(bench.outcome.kind == Outcome::NoReply && !bench.session.lastReadWasNoise());
     }

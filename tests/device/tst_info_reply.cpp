@@ -9,9 +9,9 @@
 namespace {
 
 constexpr qsizetype kMegabyte = 1 << 20;
-constexpr qsizetype kWindowBytes = 1800; // of an information window at 115200 baud
+constexpr qsizetype kWindowBytes = 1800; // in an information window at 115200 baud
 
-/// What a receiver at another baud rate makes of bytes, sent with `idleBits` in between.
+/// What a receiver at another baud rate makes of bytes sent with `idleBits` in between.
 QByteArray resampled(const QByteArray &sent, double rateRatio, int idleBits)
 {
     std::vector<bool> line(20, true);
@@ -23,7 +23,7 @@ QByteArray resampled(const QByteArray &sent, double rateRatio, int idleBits)
     }
     QByteArray received;
     const auto level = [&line](double time) { return line[std::size_t(time)]; };
-    const double step = 1.0 / rateRatio; // of a received bit, in sent bits
+    const double step = 1.0 / rateRatio; // length of a received bit in sent bits
     for (double time = 0.5; time + 10.0 * step < double(line.size());) {
         if (level(time)) {
             time += 0.25;
@@ -34,7 +34,7 @@ QByteArray resampled(const QByteArray &sent, double rateRatio, int idleBits)
             byte = quint8(byte | (level(time + (bit + 1.4) * step) ? 1U << bit : 0U));
         received += char(byte);
         time += 9.4 * step;
-        while (time < double(line.size()) && !level(time)) // a broken stop bit: on with the next edge
+        while (time < double(line.size()) && !level(time)) // a broken stop bit: continue at the next edge
             time += 0.25;
     }
     return received;
@@ -64,21 +64,21 @@ private slots:
         row("longest packet", frames::packet(QByteArray(2041, 'x')) + "OK", {u"OK"_s});
         row("head of a packet after the text", "MZ221\r\n" + packet.left(40), {u"MZ221"_s});
         row("head of a packet with a readable piece", "OK\r\n" + packet.left(12) + "5 A?", {u"OK"_s});
-        row("what looks like the head of a packet before the text",
-            QByteArray("\x5A\xA5\x40\0\0\0", 6) + "MZ221\r\nOK\r\n", {u"MZ221"_s, u"OK"_s});
+        row("something like a packet header before the text", QByteArray("\x5A\xA5\x40\0\0\0", 6) + "MZ221\r\nOK\r\n",
+            {u"MZ221"_s, u"OK"_s});
         row("damaged packet does not swallow the text", broken + "\r\nMZ221\r\n" + packet, {u"MZ221"_s});
         row("start byte before a packet", "Z" + packet + "OK", {u"ZOK"_s});
         row("a few bad characters", "model \x01KV040\xFF!\n", {u"model  KV040 !"_s});
         row("tab is white space", "\t\tA\tB\n", {u"\t\tA\tB"_s});
         row("readable end of 4", "\x01\x02\xFEUUID\n", {u"UUID"_s});
         row("readable end of 3", "\x01\x02\xFEUID\n", {});
-        row("byte order mark behind noise", "\xFF\xFF\xFF\xEF\xBB\xBFKV999\n", {u"KV999"_s});
+        row("byte order mark after noise", "\xFF\xFF\xFF\xEF\xBB\xBFKV999\n", {u"KV999"_s});
         row("exactly a quarter", QByteArray("\0abc", 4), {u" abc"_s});
         row("more than a quarter, readable start", "MZ221\xFF\xFF\n", {});
         row("readable end that is blank", "\x01\x02\x03     \n", {});
     }
 
-    void noiseIsNoDevice()
+    void noiseIsNotADevice()
     {
         QRandomGenerator random(14);
         const auto uniform = [&random](qsizetype size) {
@@ -126,7 +126,7 @@ private slots:
             {"UUID after noise", uniform(600) + "UUID: 0A12\n" + uniform(40), info_reply::Kind::Text},
             {"acknowledge after noise", uniform(200) + "\r\nOK\r\n", info_reply::Kind::Text},
             {"text that is not ASCII", QByteArray("\xE5\x9E\x8B\xE5\x8F\xB7\xEF\xBC\x9AX1\n"), info_reply::Kind::Text},
-            {"a stream that nobody stops", packet.mid(30) + packet.repeated(20) + packet.left(30),
+            {"a stream that is not stopped", packet.mid(30) + packet.repeated(20) + packet.left(30),
              info_reply::Kind::Packets},
             {"zeros", QByteArray(200, '\0'), info_reply::Kind::Noise},
             {"one broken byte", "\xFF", info_reply::Kind::Noise}};
@@ -134,7 +134,7 @@ private slots:
             QVERIFY2(info_reply::kindOf(reply) == kind, name);
     }
 
-    void lateAnswersAreNoModel()
+    void lateAnswersAreNotAModel()
     {
         const QStringList answered{u" OK "_s, u"ERROR"_s, u"MZ221"_s, u"OK"_s};
         QCOMPARE(QStringList(info_reply::withoutLateAnswers(answered)), QStringList({u"MZ221"_s, u"OK"_s}));
@@ -160,11 +160,11 @@ private slots:
         QCOMPARE(lines.last(), QStringLiteral("line 63"));
     }
 
-    // Replies at the broker's limit, each of another kind of rubbish; a line behind it must still be read.
+    // Replies at the broker's limit, each filled with another kind of rubbish; a line after it must still be read.
     void megabytes()
     {
         const QByteArray packet = frames::packet(frames::fullRecord(1));
-        // Each header announces the longest packet, and each of them is wrong.
+        // Each header announces the longest packet, and all of them are wrong.
         const QByteArray header("\x5A\xA5\xF9\x07\x00\x00", 6);
         for (const QByteArray &piece : {QByteArray("\x5A"), QByteArray(1, '\0'), QByteArray("\xFF"), packet, header}) {
             const QByteArray reply = piece.repeated(kMegabyte / piece.size());

@@ -41,7 +41,7 @@ private slots:
         QSettings settings(folder.filePath(QStringLiteral("param.ini")), QSettings::IniFormat);
         const DetectedDevice module = product_resolver::resolve({QStringLiteral("MZ226")});
         orientation_override::store(module.key, RfuEnu312, settings);
-        orientation_override::store(module.key, None, settings); // keeps the choice before
+        orientation_override::store(module.key, None, settings); // keeps the previous choice
         QCOMPARE(settings.allKeys(), QStringList(QStringLiteral("DISPLAY_OVERRIDES/MZ226/orientation_preset")));
         QCOMPARE(orientation_override::resolve(module, settings), RfuEnu312);
     }

@@ -15,7 +15,7 @@ private slots:
         const auto row = [](const char *name, const QStringList &lines, ProductKey key, const char *alias = "") {
             const DetectedDevice device = product_resolver::resolve(lines);
             QVERIFY2(device.key == key && device.matchedAlias == QLatin1String(alias), name);
-            QVERIFY2(device.profile == &product_profile::profile(key), name); // a row of the table itself
+            QVERIFY2(device.profile == &product_profile::profile(key), name); // the very row of the table
             QVERIFY2(device.valid == (key != None), name);
             QVERIFY2(product_profile::isKnownProduct(key) == (*alias != 0), name);
         };
@@ -33,10 +33,10 @@ private slots:
         row("KV not at the start", {u"my KV999"_s}, UnknownLegacy);
         row("gateway by GW", {u"XY100gw"_s}, UnknownGateway62_63);
         row("gateway before UUID", {u"some gateway"_s, u"UUID: 12"_s}, UnknownGateway62_63);
-        row("GW counts in the first line only", {u"thing"_s, u"GW"_s}, UnknownLegacy);
+        row("GW counts only in the first line", {u"thing"_s, u"GW"_s}, UnknownLegacy);
         row("uuid in any line", {u"thing"_s, u"its uuid: 12"_s}, UnknownMz14);
         row("first blank lines do not count", {u""_s, u" \t"_s, u"KV1"_s}, UnknownMz14);
-        row("split alias is none", {u"MZ 221"_s}, UnknownLegacy);
+        row("split alias does not count", {u"MZ 221"_s}, UnknownLegacy);
         row("blank lines", {u""_s, u"  "_s, u"\t\r\n"_s}, None);
     }
 

@@ -7,7 +7,7 @@
 using namespace Qt::StringLiterals;
 using namespace settings_command_adapter;
 
-/// "text window" per command, line ends left out once checked.
+/// "text window" per command, without the line ends, which are checked.
 static QString printed(const QList<SettingsCommand> &commands)
 {
     QStringList parts;

@@ -1,17 +1,8 @@
 #pragma once
 
-#include <QApplication>
-#include <QComboBox>
-#include <QFile>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMessageBox>
-#include <QPointer>
-#include <QPushButton>
-#include <QTemporaryDir>
-#include <QTimer>
-#include <qtestsupport_core.h> // qWaitFor() for programs that are no tests
+#include <QApplication> include <QComboBox> include <QFile> include <QLabel> include <QLineEdit> include <QListWidget>
+#include <QMessageBox> include <QPointer> include <QPushButton> include <QTemporaryDir> include <QTimer> include
+# <qtestsupport_core.h> // qWaitFor() for programs that are not tests
 
 #include "session/device_session.h"
 #include "ui/form_base.h"
@@ -20,7 +11,7 @@
 #include "ui/sensor_data_panel.h"
 
 /// Opens a port as a user does: the action, the path typed into the dialog, the button. Returns when the connection is
-/// identified, silent or gone; after 15 s in any case.
+/// identified, silent or gone, and after 15 s in any case.
 inline void openPort(const form_base &window, const QString &path, int baud = 921600)
 {
     window.findChild<QAction *>(QStringLiteral("action_serial_open"))->trigger();
@@ -40,7 +31,7 @@ inline void openPort(const form_base &window, const QString &path, int baud = 92
     (void)QTest::qWaitFor(isSettled, 15000);
 }
 
-/// A user's desk: the real main window in a working folder of its own, and what the user does and sees there.
+/// A user's desk: the real main window in a separate working folder, and what the user does and sees there.
 class Desk
 {
 public:
@@ -56,7 +47,7 @@ public:
     }
     Q_DISABLE_COPY_MOVE(Desk)
 
-    /// Closes the main window and makes a new one, in the working folder. The log goes on.
+    /// Closes the main window and creates a new one in the same working folder. The log continues.
     void restart()
     {
         window.reset();
@@ -65,11 +56,11 @@ public:
     }
 
     template <typename T> T *find(const char *name) const { return window->findChild<T *>(QLatin1String(name)); }
-    /// The text of a label, without the places where it may break.
+    /// The text of a label, without its optional line breaks.
     QString label(const char *name) const { return find<QLabel>(name)->text().remove(QChar(0x200B)); }
     QString panel() const { return window->findChild<SensorDataPanel *>()->text(); }
     QMessageBox *errorBox() const { return window->findChild<QMessageBox *>(); }
-    /// The settings window; null before it was first asked for.
+    /// The settings window; null until it is first requested.
     form_settings *settings() const { return window->findChild<form_settings *>(); }
     bool isOpen() const { return find<QWidget>("page_live")->isVisible(); }
 

@@ -35,7 +35,7 @@ QStringList visibleTexts(const QWidget *window)
     return texts;
 }
 
-/// The first visible text of a window that has less room than it needs; empty when all fit.
+/// The first visible text of a window that has less room than it needs; empty when all texts fit.
 QString cutOff(const QWidget *window)
 {
     for (const auto *label : window->findChildren<QLabel *>()) {
@@ -62,7 +62,7 @@ QString cutOff(const QWidget *window)
     return {};
 }
 
-/// The left column has one scroll bar at most, which leads to the last node.
+/// The left column has at most one scroll bar, which reaches the last node.
 void checkLeftColumn(const Desk &desk, const char *font)
 {
     const auto *column = desk.find<QScrollArea>("scroll_left");
@@ -79,10 +79,11 @@ void checkLeftColumn(const Desk &desk, const char *font)
         const QRect shown(list->viewport()->mapTo(column->viewport(), place.topLeft()), place.size());
         return bars() == 1 && column->viewport()->rect().contains(shown);
     };
-    QTRY_VERIFY2(isLastReached(), font); // once the new font is laid out
+    QTRY_VERIFY2(isLastReached(), font); // once the layout with the new font is done
 }
 
-/// The first text in Asian script in any visible window, but for the names of the languages; empty when there is none.
+/// The first text in Asian script in any visible window, apart from the names of the languages; empty when there is
+/// none.
 QString foreignText()
 {
     static const QRegularExpression kForeign(QStringLiteral("[\\p{Han}\\p{Hiragana}\\p{Katakana}\\p{Hangul}]"));
@@ -161,7 +162,7 @@ private slots:
                              qPrintable(QLatin1String(font) + u' ' + window->objectName() + u' ' + cutOff(window)));
             }
         }
-        // Back to English with everything open: no word of the other language may stay.
+        // Back to English with everything open: no word of the other language may remain.
         desk.find<QAction>("action_language_EN")->trigger();
         QTRY_VERIFY2(foreignText().isEmpty(), qPrintable(foreignText()));
     }

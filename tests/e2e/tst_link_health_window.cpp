@@ -12,7 +12,7 @@
 
 namespace {
 
-/// What the window of the link's health shows, as a user sees it.
+/// What the link health window shows, as a user sees it.
 struct Panel
 {
     explicit Panel(const Desk &desk) : window(desk.window->findChild<form_link_health *>()) {}
@@ -34,7 +34,7 @@ QStringList words(const char *options)
     return QString::fromLatin1(options).split(u' ');
 }
 
-/// Lines of the log about the link's health.
+/// Lines of the log about link health.
 QList<QByteArray> loggedHealth(const Desk &desk)
 {
     QList<QByteArray> lines;
@@ -58,7 +58,7 @@ private slots:
         SimulatorProcess simulator(words("--rate 100"));
         Desk desk;
         auto *label = desk.find<QLabel>("label_traffic");
-        QVERIFY(!desk.window->findChild<form_link_health *>()); // made when first asked for
+        QVERIFY(!desk.window->findChild<form_link_health *>()); // created when first requested
         desk.find<QAction>("action_link_health")->trigger();
         const Panel panel(desk);
         QVERIFY(panel.window->isVisible() && panel.isEmpty());
@@ -76,7 +76,7 @@ private slots:
 
         QTRY_VERIFY(panel.count("LBL_data") > 100);
         QTRY_VERIFY(panel.count("LBL_samples") > 100);
-        // The replies to the identification's commands are text: no damage.
+        // The replies to the identification commands are text, not damage.
         QVERIFY(panel.count("LBL_discarded") + panel.count("LBL_leading") > 0);
         auto *line = panel.window->findChild<QWidget *>(QStringLiteral("CARD_line"));
         for (QLabel *figure : line->findChildren<QLabel *>())
@@ -87,7 +87,7 @@ private slots:
         QVERIFY(QGuiApplication::clipboard()->text().contains(QStringLiteral("Checksum errors\t0\n")));
     }
 
-    /// Damage shows, is logged, stays after the port is closed and is gone with the next connection.
+    /// Damage is shown and logged, stays after the port is closed and is gone with the next connection.
     void damagedLine()
     {
         SimulatorProcess simulator(words("--rate 200 --noise 2"));
@@ -102,7 +102,7 @@ private slots:
         QVERIFY(loggedHealth(desk).isEmpty());
         auto *timer = desk.window->session().linkMonitor().findChild<QTimer *>(QStringLiteral("timer_link_log"));
         QCOMPARE(timer->interval(), 60000);
-        timer->setInterval(10); // the same minute after minute, while the port tells news each second
+        timer->setInterval(10); // shortens the log's minute; the port still reports once a second
         QTRY_VERIFY(!loggedHealth(desk).isEmpty());
         timer->setInterval(60000);
         simulator.control("silent on");
@@ -141,7 +141,7 @@ private slots:
         const QString before = cell(0, 1);
         QTRY_VERIFY(cell(0, 1).toInt() > before.toInt() + 100);
         simulator.control("nodes 3");
-        // Silent for a while: its clock tells. A simulator on a busy machine leaves out samples of all nodes.
+        // Silent for a while: its clock shows it. A simulator on a busy machine leaves out samples of all nodes.
         QTRY_VERIFY(cell(2, 2).toInt() > cell(0, 2).toInt() + 50);
         QCOMPARE(panel.count("LBL_missing"), cell(0, 2).toInt() + cell(1, 2).toInt() + cell(2, 2).toInt());
 

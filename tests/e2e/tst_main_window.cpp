@@ -140,7 +140,7 @@ private slots:
                 texts += list->item(row)->text().mid(8);
             return texts.join(u' ');
         };
-        // The followed one is gone, but stays followed and listed; others that are gone leave the list.
+        // The followed node is gone, but stays followed and listed; others that are gone leave the list.
         QVERIFY(simulator.control("nodes 2"));
         QTRY_COMPARE_WITH_TIMEOUT(ids(), QStringLiteral("1 2 3"), 8000);
         QCOMPARE(desk.label("label_node"), QStringLiteral("Node ID:3"));
@@ -159,7 +159,7 @@ private slots:
         Desk desk;
         desk.open(simulator.port());
         auto *list = desk.find<QListWidget>("list_nodes");
-        QTRY_COMPARE(list->count(), 250); // all ids that pass by, each batch with others
+        QTRY_COMPARE(list->count(), 250); // all ids that ever appear, each batch has different ones
         for (int row = 0; row < list->count(); ++row)
             QCOMPARE(list->item(row)->text(), QStringLiteral("Node ID:%1").arg(row + 1));
         list->setCurrentRow(0);
@@ -211,7 +211,7 @@ private slots:
         QTRY_COMPARE(desk.value("Acceleration X"), QStringLiteral("+0.250 G"));
     }
 
-    void tellsWhyAPortCannotBeOpened()
+    void showsWhyAPortCannotBeOpened()
     {
         SimulatorProcess simulator(words("--fixed"));
         Desk desk;
@@ -243,7 +243,7 @@ private slots:
         Desk desk;
         desk.open(first.port());
         QCOMPARE(desk.label("label_product"), QStringLiteral("MZ221"));
-        // The second open comes while the first is still identifying.
+        // The second open arrives while the first is still identifying.
         QTimer::singleShot(100, desk.window.get(), [&] { desk.open(second.port()); });
         desk.open(first.port());
         QTRY_COMPARE_WITH_TIMEOUT(desk.label("label_product"), QStringLiteral("KV104"), 10000);
@@ -251,7 +251,7 @@ private slots:
         QTRY_COMPARE(desk.value("Acceleration X"), QStringLiteral("+0.250 G"));
         QVERIFY(!desk.errorBox());
 
-        // No tick may be left behind that goes on writing texts.
+        // No timer may be left running that goes on writing texts.
         desk.find<QAction>("action_serial_stop")->trigger();
         QVERIFY(!desk.isOpen());
         QCOMPARE(desk.label("label_connection"), QString());
@@ -262,7 +262,7 @@ private slots:
     void closesInEachState_data()
     {
         QTest::addColumn<QStringList>("options");
-        QTest::addColumn<int>("afterMs"); // behind the opening; -1: when identified
+        QTest::addColumn<int>("afterMs"); // after the opening; -1: when identified
         QTest::addColumn<bool>("unplug");
         QTest::newRow("while opening") << words("--fixed --rate 400") << 0 << false;
         QTest::newRow("while identifying") << words("--fixed --rate 400") << 150 << false;
@@ -308,11 +308,11 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(desk.log().contains("product-info"), 8000);
     }
 
-    void asksAgainWhenTheStreamHasEnded()
+    void identifiesAgainWhenTheStreamHasEnded()
     {
         SimulatorProcess simulator(words("--device mz221 --fixed --rate 400 --deaf on"));
         Desk desk;
-        // Frames arrive, and then nothing: what was is no reason not to ask again.
+        // Frames arrive, then nothing: earlier frames are no reason not to identify again.
         QTimer::singleShot(250, desk.window.get(), [&] { QVERIFY(simulator.control("silent on")); });
         desk.open(simulator.port());
         QVERIFY(desk.log().contains("stream frame seq=1"));
@@ -407,8 +407,8 @@ private slots:
 
     void leavesTheDeviceStreaming_data()
     {
-        QTest::addColumn<bool>("identifying"); // else stopped by the user
-        QTest::addColumn<bool>("quit");        // else only the port is closed
+        QTest::addColumn<bool>("identifying"); // otherwise stopped by the user
+        QTest::addColumn<bool>("quit");        // otherwise only the port is closed
         QTest::newRow("port closed while identifying") << true << false;
         QTest::newRow("window closed while identifying") << true << true;
         QTest::newRow("port closed after a stop") << false << false;
@@ -520,7 +520,7 @@ private slots:
     {
         SimulatorProcess simulator(words("--device mz221 --fixed"));
         Desk desk;
-        // Root may write everywhere, but nobody into a folder that is gone.
+        // Root may write everywhere, but no one can write into a folder that is gone.
         QTemporaryDir gone;
         QVERIFY(QDir::setCurrent(gone.path()));
         QVERIFY(gone.remove());

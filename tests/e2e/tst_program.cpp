@@ -16,7 +16,7 @@ QByteArray content(const QString &path)
 
 } // namespace
 
-/// The program itself as a user starts it.
+/// The program itself, as a user starts it.
 class TestProgram : public QObject
 {
     Q_OBJECT
@@ -27,12 +27,12 @@ private slots:
         const QTemporaryDir folder;
         QFile old(folder.filePath(QStringLiteral("debug.log")));
         QVERIFY(old.open(QIODevice::WriteOnly));
-        old.write("a line of the run before\r\n");
+        old.write("a line of the previous run\r\n");
         old.close();
 
         QFile settings(folder.filePath(QStringLiteral("param.ini")));
         QVERIFY(settings.open(QIODevice::WriteOnly));
-        settings.write("[Main]\nLANGUAGE=EN\n"); // without it the first thing is a question
+        settings.write("[Main]\nLANGUAGE=EN\n"); // without it the program first asks a question
         settings.close();
 
         QProcess program;
@@ -41,7 +41,7 @@ private slots:
         QVERIFY(program.waitForStarted());
         const QString appLog = folder.filePath(QStringLiteral("debug.log"));
         QTRY_VERIFY_WITH_TIMEOUT(content(appLog).contains("ui-thread="), 20000);
-        QVERIFY(!content(appLog).contains("a line of the run before"));
+        QVERIFY(!content(appLog).contains("a line of the previous run"));
         QTRY_VERIFY(content(folder.filePath(QStringLiteral("qt6_debug.log"))).contains("Old log file was removed."));
         program.terminate();
         QVERIFY(program.waitForFinished());
@@ -52,7 +52,7 @@ private slots:
             QVERIFY2(line.match(QString::fromUtf8(text)).hasMatch(), text.constData());
     }
 
-    // Read as they stand, these lists in lists would take more stack than there is.
+    // Read naively, these nested lists would overflow the stack.
     void startsWithDamagedSettings()
     {
         const QTemporaryDir folder;
@@ -74,7 +74,7 @@ private slots:
     {
         QTemporaryDir folder;
         QProcess program;
-        // The shell leaves its own working folder without one, and the program must not mind.
+        // The shell removes its own working folder, and the program must cope.
         program.start(
             QStringLiteral("/bin/sh"),
             {QStringLiteral("-c"),
@@ -83,7 +83,7 @@ private slots:
         QByteArray errors;
         QTRY_VERIFY_WITH_TIMEOUT((errors += program.readAllStandardError()).contains("Failed to open Qt6 log file:"),
                                  20000);
-        QVERIFY(!program.waitForFinished(1500)); // it stays up
+        QVERIFY(!program.waitForFinished(1500)); // it keeps running
         program.terminate();
         QVERIFY(program.waitForFinished());
     }

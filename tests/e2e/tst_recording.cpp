@@ -20,7 +20,7 @@ namespace {
 constexpr int kTimeoutMs = 120'000;
 constexpr int kGroups = 16;
 
-/// A device on a pseudo-terminal, recorded the way the program does it.
+/// A device on a pseudo-terminal, recorded the way the program does.
 class Pipeline
 {
 public:
@@ -36,7 +36,7 @@ public:
         m_recorder.setLinkOpen(true);
     }
 
-    /// Records `count` frames or some more, stops, and gives the file's lines.
+    /// Records at least `count` frames, stops, and returns the file's lines.
     QByteArrayList record(int count)
     {
         QByteArrayList lines;
@@ -62,7 +62,7 @@ public:
         return lines;
     }
 
-    qint64 frames = 0; ///< that have come through the port
+    qint64 frames = 0; ///< received through the port
 
 private:
     QTemporaryDir m_folder;
@@ -79,7 +79,7 @@ struct Field
     double step; ///< the file's precision
 };
 
-/// A sample's motion as the file holds it, in its order.
+/// A sample's motion values in the order of the file's columns.
 QList<Field> motionFields(const ImuSample &sample, double gyrStep)
 {
     QList<Field> fields;
@@ -95,7 +95,7 @@ QList<Field> motionFields(const ImuSample &sample, double gyrStep)
     return fields;
 }
 
-/// The place of the first cell that is not its field rounded to the file's precision; -1 when all are.
+/// The index of the first cell that is not its field rounded to the file's precision; -1 when all are.
 int firstDifference(const QByteArrayList &cells, int at, const QList<Field> &fields, double slack = 1e-6)
 {
     for (const Field &field : fields) {
@@ -132,7 +132,7 @@ class TestRecording : public QObject
     Q_OBJECT
 
 private slots:
-    /// Every value of every record against the file that the device plays. KV_REPLAY names another one.
+    /// Compares every value of every record with the file that the device plays. KV_REPLAY names another file.
     void replayedFileComesBack()
     {
         const QTemporaryDir folder;
@@ -152,7 +152,7 @@ private slots:
             const QByteArrayList cells = lines[line].split(',');
             return cells.size() != 20 ? 0 : firstDifference(cells, 2, air + motionFields(sample, 0.001));
         };
-        quint64 first = 0; // the row that was due when the port was opened
+        quint64 first = 0; // the row due when the port was opened
         const auto isThere = [&](quint64 row) {
             for (qsizetype line = 1; line < 100; ++line) {
                 if (difference(line, row + quint64(line)) >= 0)

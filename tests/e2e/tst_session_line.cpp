@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kPacket = 512;
 
-/// A desk with a module, its update window and an image whose download takes a moment for every packet.
+/// A desk with a module, its update window, and an image whose download takes a moment per packet.
 struct UpdateDesk
 {
     explicit UpdateDesk(int packets)
@@ -59,7 +59,7 @@ QMessageBox *question()
 
 } // namespace
 
-/// Who has the line: commands, a bootloader, or nobody, and what the windows say about it.
+/// Who uses the line (commands, a bootloader, or no one), and what the windows show about it.
 class TestSessionLine : public QObject
 {
     Q_OBJECT
@@ -91,7 +91,7 @@ private slots:
         QVERIFY(openDialog<form_com_select>() == nullptr);
         QVERIFY(!with.desk.window->close());
         QVERIFY(with.desk.isOpen());
-        QVERIFY(with.find<QLabel>("LBL_status")->text().contains(QLatin1String("has to end first")));
+        QVERIFY(with.find<QLabel>("LBL_status")->text().contains(QLatin1String("has to finish first")));
         QTRY_VERIFY_WITH_TIMEOUT(!with.isDownloading(), 10000);
         QTRY_COMPARE_WITH_TIMEOUT(with.end(), QStringLiteral("Verified"), 20000);
         QVERIFY(open->isEnabled());
@@ -152,8 +152,8 @@ private slots:
         QCOMPARE(with.simulator.stat("boot_text_commands"), 0);
     }
 
-    /// An answer that comes after its command's window is not charged to the next command.
-    void lateRefusalBlamesNobodyElse()
+    /// An answer that arrives after its command's window is not attributed to the next command.
+    void lateRefusalIsNotBlamedOnAnother()
     {
         SimulatorProcess simulator(words("--reply-delay 30 --refuse AT+ID"));
         Desk desk;
@@ -168,12 +168,12 @@ private slots:
         const QString status = settings->findChild<QLabel *>(QStringLiteral("LBL_status"))->text();
         QVERIFY2(status.contains(QLatin1String("refused")) && status.contains(QLatin1String("AT+ID=42")),
                  qPrintable(status));
-        // A save is a sequence too; the reading that follows it is the other one.
+        // A save is a sequence too; the reading that follows it is the second one.
         QCOMPARE(desk.log().count("command sequence start"), starts + 2);
         QCOMPARE(desk.log().count("command sequence finish"), ends + 2);
     }
 
-    void noiseIsNoDevice()
+    void noiseIsNotADevice()
     {
         SimulatorProcess simulator(words("--garbage 11000"));
         Desk desk;
@@ -199,7 +199,7 @@ private slots:
         QVERIFY(!label->isVisible() && !tryRates->isVisible());
     }
 
-    /// A stream that is slower than the wait for an answer is no reason to resume it again.
+    /// A stream that is slower than the wait for an answer is not a reason to resume it again.
     void slowStreamIsLeftAlone()
     {
         SimulatorProcess simulator(words("--rate 2"));

@@ -12,7 +12,7 @@
 namespace {
 
 constexpr double kTilt = 30;        ///< degrees
-constexpr double kTiltedAccG = 0.5; ///< on x, of a node that is tilted
+constexpr double kTiltedAccG = 0.5; ///< on x, of a tilted node
 
 /// The spectrum window of a desk, opened and used as a user does.
 struct Spectrum
@@ -41,7 +41,7 @@ struct Spectrum
     form_fftchart *window;
 };
 
-/// Measures how far a chart's axis goes while the wall clock goes on, from its first sample.
+/// Compares the progress of a chart's axis with the wall clock, from its first sample on.
 class AxisWatch : public QObject
 {
 public:
@@ -60,7 +60,7 @@ public:
         });
         m_timer.start(5);
     }
-    double wallSec = 0; ///< as of the newest sample, as the next
+    double wallSec = 0; ///< as of the newest sample, like the next one
     double axisSec = 0;
 
 private:
@@ -72,8 +72,8 @@ private:
 
 } // namespace
 
-/// What the windows make of a stream: each view gets the samples of the followed node or none, on one line of time, and
-/// the spectrum is one of the stream that flows now.
+/// What the windows make of a stream: each view gets only samples of the followed node, on one time line, and the
+/// spectrum always belongs to the current stream.
 class TestSessionSamples : public QObject
 {
     Q_OBJECT
@@ -81,14 +81,14 @@ class TestSessionSamples : public QObject
 private slots:
     void missingRecords_data()
     {
-        QTest::addColumn<int>("row"); // of the node that is picked; -1: none
+        QTest::addColumn<int>("row"); // of the picked node; -1: none
         QTest::addColumn<QByteArray>("tilt");
         QTest::addColumn<QByteArray>("fault");
         QTest::newRow("node 3 picked") << 2 << QByteArray("node attitude 3:0:30:0") << QByteArray("node skip 3:5");
         QTest::newRow("nothing picked") << -1 << QByteArray("node attitude 1:0:30:0")
                                         << QByteArray("node skip lowest:5");
     }
-    /// One node is tilted, all others are level: a sample of another one shows wherever it gets in.
+    /// One node is tilted, all others are level: a stray sample of another node is visible wherever it gets in.
     void missingRecords()
     {
         QFETCH(int, row);
@@ -133,7 +133,7 @@ private slots:
         QCOMPARE(spectrum.bridge().alarmSeverityLevel(), 0);
         QVERIFY(desk.value("Acceleration X").contains(QLatin1String("0.5")));
 
-        waves.togglePlaying(); // the picture stays as it is
+        waves.togglePlaying(); // the picture is frozen
         const int paused = acc->model().count();
         const qint64 missing = simulator.stat("records_missing");
         QTRY_VERIFY(simulator.stat("records_missing") > missing + 5);
@@ -184,7 +184,7 @@ private slots:
                  qPrintable(QStringLiteral("%1 s became %2 s").arg(watch->wallSec).arg(watch->axisSec)));
     }
 
-    /// Three seconds after whatever starts the stream again, the rate is that of what has come since.
+    /// Three seconds after anything that restarts the stream, the rate is that of the samples since then.
     void spectrumRateIsThatOfTheStream()
     {
         constexpr int kRate = 200;
@@ -269,7 +269,7 @@ private slots:
         }
     }
 
-    /// Gravity is left out of the peaks by a switch that can be seen, and hides no motion.
+    /// A visible switch leaves gravity out of the peaks, and it hides no motion.
     void steadyValueIsAChoice()
     {
         SimulatorProcess simulator(

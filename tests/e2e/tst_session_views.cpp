@@ -16,13 +16,13 @@ void chooseMounting(const Desk &desk, int index)
 
 } // namespace
 
-/// What windows show when the stream has stopped, the connection has ended, or another device is found.
+/// What the windows show when the stream has stopped, the connection has ended, or another device is found.
 class TestSessionViews : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void mountingTurnsAPictureThatStands()
+    void mountingTurnsAStandingPicture()
     {
         SimulatorProcess simulator(words("--fixed"));
         Desk desk;
@@ -79,7 +79,7 @@ private slots:
         QVERIFY(desk.settings()->isVisible());
     }
 
-    /// A commanded pause is no loss, for whoever counts.
+    /// No counter takes a commanded pause for a loss.
     void missingSamplesAreCountedOnce()
     {
         SimulatorProcess simulator(words("--device gateway --nodes 2 --layout 62 --rate 100"));

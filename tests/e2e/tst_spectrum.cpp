@@ -19,7 +19,7 @@ namespace {
 constexpr int kTimeoutMs = 60'000;
 constexpr int kRateHz = 1000;
 
-/// What one frame of spectra was judged.
+/// The verdict on one frame of spectra.
 struct Frame
 {
     FftPeakSummary peak;
@@ -105,7 +105,7 @@ private slots:
     {
         Machine machine({u"--vibration"_s, u"2:0.5:x"_s}); // below the watched frequencies
         machine.bridge().setAlarmPresetIndex(1);
-        // The alarm judges full blocks, and says so from then on.
+        // The alarm judges only full blocks, and reports from then on.
         QTRY_VERIFY_WITH_TIMEOUT(machine.bridge().alarmMeaning().contains("is outside the monitored band"_L1),
                                  kTimeoutMs);
         machine.frames.clear();
@@ -116,7 +116,7 @@ private slots:
         QVERIFY(machine.control("vibration off") && machine.control("vibration add 2:0.5:x"));
         QTRY_COMPARE_WITH_TIMEOUT(machine.bridge().alarmState(), FftAlarmState::Normal, kTimeoutMs);
 
-        // Told by the frames alone: two in a row raise it, two in a row clear it.
+        // Decided by the frames alone: two in a row raise it, two in a row clear it.
         int run = 0;
         auto state = FftAlarmState::Normal;
         for (const Frame &frame : std::as_const(machine.frames)) {
@@ -150,7 +150,7 @@ private slots:
         machine.hold(2);
         QTRY_VERIFY_WITH_TIMEOUT(machine.frames.size() > 10, kTimeoutMs);
         QVERIFY(machine.control("vibration add 62.5:0.5:x"));
-        // The mean of all spectra since it was chosen goes up slowly, and never jumps.
+        // The mean of all spectra since it was chosen rises slowly and never jumps.
         QList<double> means{machine.amplitude("xAmplitude", 62.5)};
         connect(&machine.bridge(), &FftChartBridge::fftDataChanged, &machine.bridge(),
                 [&] { means.append(machine.amplitude("xAmplitude", 62.5)); });

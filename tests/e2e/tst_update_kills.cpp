@@ -1,5 +1,5 @@
-// The program is killed while it writes firmware, and started again. This executable is both: with "--update PORT" it
-// is the program that is killed.
+// The program is killed while it writes firmware, and started again. This executable plays both parts: with "--update
+// PORT" it is the program that is killed.
 
 #include <QProcess>
 #include <QRandomGenerator>
@@ -14,12 +14,12 @@
 namespace {
 
 constexpr char kUpdateOption[] = "--update";
-constexpr char kKillsVariable[] = "KV_UPDATE_KILLS"; ///< how many; the campaign asks for 50
+constexpr char kKillsVariable[] = "KV_UPDATE_KILLS"; ///< how many; the campaign sets 50
 constexpr int kUsualKills = 2;
-constexpr int kLatestMs = 3500; ///< of a kill, after the download was begun; it takes some 3 s
+constexpr int kLatestMs = 3500; ///< of a kill, after the download began, which takes about 3 s
 constexpr int kImageBytes = 24000;
 
-/// Can run at 0x08000000, and reports a build of its own.
+/// Can run at 0x08000000 and reports its own build.
 QByteArray image()
 {
     const QByteArray start = QByteArray::fromHex("00400020C1000008") + "build 2026-05-17";
@@ -43,7 +43,7 @@ void accept(const QMessageBox *box)
     }
 }
 
-/// Opens the port, connects to the bootloader, and downloads until somebody kills this process.
+/// Opens the port, connects to the bootloader, and downloads until this process is killed.
 int updateUntilKilled(const QString &port)
 {
     form_base window;
@@ -64,7 +64,8 @@ class TestUpdateKills : public QObject
     Q_OBJECT
 
 private slots:
-    /// Whatever moment it is, the next start leads to a device that works, by what the windows say.
+    /// Whenever the program is killed, the next start leads to a working device if the user follows the windows'
+    /// advice.
     void killed()
     {
         const int kills = qMax(kUsualKills, qEnvironmentVariableIntValue(kKillsVariable));
@@ -102,7 +103,7 @@ private slots:
             else
                 desk.open(simulator.port());
             const DeviceSession &session = desk.window->session();
-            // A device that was still starting when it was asked is not asked again while its data flow.
+            // A device that was still starting when it was queried is not queried again while its data flow.
             const auto isLive = [&] { return session.device().valid || session.state() == SessionState::Live; };
             const auto isFound = [&] { return button(*desk.window, "BTN_continue") != nullptr; };
             QVERIFY2(QTest::qWaitFor([&] { return isLive() || isFound(); }, 25000), context);
@@ -111,13 +112,12 @@ private slots:
                 const auto *step = desk.find<QLabel>("LBL_step");
                 const auto isVerified = [&] { return step->text() == QLatin1String("Verified"); };
                 const auto hasEnded = [&] { return isVerified() || step->text() == QLatin1String("Failed"); };
-                // On a busy machine an acknowledge may come too late by itself; the window says what to do then.
+                // On a busy machine an acknowledge may be late without any fault; the window then says what to do.
                 for (int press = 0; press < 3 && !isVerified(); ++press) {
                     button(*desk.window, "BTN_continue")->click();
                     (void)QTest::qWaitFor(hasEnded, 30000);
                 }
-                QVERIFY2(isVerified(),
-                         context + step->text().toUtf8() + desk.label("LBL_status").toUtf8());
+                QVERIFY2(isVerified(), context + step->text().toUtf8() + desk.label("LBL_status").toUtf8());
                 QVERIFY2(!QFile::exists(QStringLiteral("update-note.json")), context);
                 ++interrupted;
             } else if (isFound()) { // connected, and nothing was erased
@@ -133,9 +133,9 @@ private slots:
             const QString dump = QDir::current().filePath(QStringLiteral("flash.bin"));
             QVERIFY(simulator.control(("flash dump " + dump.toLocal8Bit()).constData()));
             const QByteArray flash = readFile(dump);
-            QVERIFY2(flash.startsWith(image()) || !isFound(), context); // or the old firmware, which nobody has touched
+            QVERIFY2(flash.startsWith(image()) || !isFound(), context); // or the old firmware, untouched
         }
-        qInfo("%d kills: %d found before the erase, %d interrupted and continued, %d with a device that lived", kills,
+        qInfo("%d kills: %d found before the erase, %d interrupted and continued, %d with a running device", kills,
               untouched, interrupted, whole);
     }
 };

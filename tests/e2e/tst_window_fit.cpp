@@ -11,7 +11,7 @@
 
 namespace {
 
-/// A control that cannot be seen whole and cannot be scrolled into sight, empty when there is none.
+/// A control that is not fully visible and cannot be scrolled into view; empty when there is none.
 QString lostControl(QWidget *window)
 {
     for (QWidget *widget : window->findChildren<QWidget *>()) {
@@ -20,7 +20,7 @@ QString lostControl(QWidget *window)
         if (!isControl || !widget->isVisible() || widget->window() != window
             || widget->parentWidget()->inherits("QToolBar") || qobject_cast<QComboBox *>(widget->parentWidget())
             || qobject_cast<QAbstractSpinBox *>(widget->parentWidget()))
-            continue; // a toolbar has a menu of what it has no room for
+            continue; // a toolbar puts what does not fit into a menu
         const QWidget *room = widget->parentWidget();
         while (!room->isWindow()
                && !(room->parentWidget() && qobject_cast<QScrollArea *>(room->parentWidget()->parentWidget())))
@@ -28,7 +28,7 @@ QString lostControl(QWidget *window)
         const QRect place(widget->mapTo(room, QPoint()), widget->size());
         QSize least = widget->minimumSizeHint();
         if (!qobject_cast<QAbstractButton *>(widget))
-            least.setWidth(0); // it shows what it can of its content
+            least.setWidth(0); // it shows as much of its content as it can
         if (!room->rect().contains(place) || place.width() < least.width() || place.height() < least.height())
             return QStringLiteral("%1 %2x%3+%4+%5")
                 .arg(widget->objectName())
@@ -70,7 +70,7 @@ QString lostControl(QWindow *window)
     return view && view->rootObject() ? lostControl(view->rootObject(), view->rootObject()) : QString();
 }
 
-/// For people: a picture of the screen, in the folder that the environment names.
+/// For inspection: a picture of the screen, in the folder named by the environment.
 void takePicture(const QString &name)
 {
     if (const QString folder = qEnvironmentVariable("KV_PICTURES"); !folder.isEmpty())
@@ -86,7 +86,7 @@ class TestWindowFit : public QObject
 
     SimulatorProcess m_gateway{words("--device gateway --nodes 16 --rate 50 --layout 62")};
 
-    /// Waits until the window is on the screen as a whole.
+    /// Waits until the whole window is on the screen.
     void check(QWindow *window, const QString &name)
     {
         const QRect screen = window->screen()->availableGeometry();

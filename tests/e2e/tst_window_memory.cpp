@@ -6,7 +6,7 @@ namespace {
 
 constexpr double kMostMib = 60; ///< what libraries, types and glyphs may keep
 
-/// Anonymous memory of this process that is resident, MiB.
+/// Resident anonymous memory of this process, MiB.
 double anonymousMib()
 {
     QFile status(QStringLiteral("/proc/self/status"));
@@ -21,7 +21,7 @@ double anonymousMib()
 
 } // namespace
 
-/// What windows have drawn with is given back when they are closed.
+/// Closed windows release the memory they drew with.
 class TestWindowMemory : public QObject
 {
     Q_OBJECT

@@ -33,13 +33,13 @@ QList<QByteArray> recordedLines()
 
 } // namespace
 
-/// The main window with the windows that it opens, as a user works with them.
+/// The main window and the windows that it opens, as a user works with them.
 class TestWindows : public QObject
 {
     Q_OBJECT
 
 private slots:
-    /// Whatever the charts do and however a connection ends, the file holds every record.
+    /// Whatever the charts do, and however a connection ends, the file holds every record.
     void recordingIsComplete_data()
     {
         QTest::addColumn<QString>("end");
@@ -77,7 +77,7 @@ private slots:
         recorder->waitForFile();
         disconnect(dispatcher, nullptr, this, nullptr);
 
-        const QList<QByteArray> lines = recordedLines(); // header and the empty end beside the records
+        const QList<QByteArray> lines = recordedLines(); // the records, plus the header and the empty end
         QVERIFY2(lines.size() - 2 >= 300, qPrintable(QString::number(lines.size())));
         QCOMPARE(lines.size() - 2, qsizetype(recorder->recordCount()));
         QVERIFY(lines.size() - 2 <= received);
@@ -87,7 +87,7 @@ private slots:
         QVERIFY(!recorder->hasTrouble());
     }
 
-    void gatewayDashboardTellsWhoIsGone()
+    void gatewayDashboardShowsWhoIsGone()
     {
         SimulatorProcess simulator({QStringLiteral("--device"), QStringLiteral("gateway"), QStringLiteral("--nodes"),
                                     QStringLiteral("16"), QStringLiteral("--layout"), QStringLiteral("63")});
@@ -109,7 +109,7 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(stateOf(15), 2, 20000);
         QCOMPARE(model->rowCount(), 16);
         QTRY_COMPARE(stateOf(14), 0);
-        // The link breaks: the window keeps what it shows, marked as ended, until the next opening.
+        // The link breaks: the window keeps what it shows, marked as ended, until the port is opened again.
         GatewayDashboardBridge &bridge = dashboard->bridge();
         bridge.setNodeChosen(1, true);
         const auto *chart = qobject_cast<WaveChartBridge *>(
@@ -153,7 +153,7 @@ private slots:
         auto *mounting = desk.find<QComboBox>("combo_mounting");
         const int other = 1 - mounting->currentIndex();
         mounting->setCurrentIndex(other);
-        emit mounting->activated(other); // as when a user picks it
+        emit mounting->activated(other); // as if a user picked it
         QCOMPARE(int(threed->orientationPreset()), other);
     }
 
@@ -167,7 +167,7 @@ private slots:
             return QStringList{
                 dashboard->title(), dashboard->bridge().bridge(QStringLiteral("gyr"))->chartTitle(),
                 dashboard->bridge().paneStates().at(1).toMap().value(QStringLiteral("label")).toString(),
-                shownTexts(dashboard->rootObject()).filter(QStringLiteral(" Hz · ")).value(0)}; // without a sample
+                shownTexts(dashboard->rootObject()).filter(QStringLiteral(" Hz · ")).value(0)}; // no sample yet
         };
         QVERIFY(AppLanguageManager::instance().setLanguage(QStringLiteral("EN")));
         const QStringList english = texts();
@@ -190,7 +190,7 @@ private slots:
         QTRY_COMPARE(texts(), english);
     }
 
-    /// A window that is opened while a reply is awaited does not hold the broker's window open.
+    /// A window that is opened while a reply is awaited does not keep the broker's window open.
     void nothingHoldsTheBrokersWindow()
     {
         SimulatorProcess simulator({});
@@ -231,7 +231,7 @@ private slots:
         }
     }
 
-    /// Batches go on arriving while the language changes; no word of the other one stays.
+    /// Batches keep arriving while the language changes; no word of the other language remains.
     void gatewayViewsFollowTheLanguage()
     {
         SimulatorProcess simulator(
@@ -272,7 +272,8 @@ private slots:
         QCOMPARE(dashboard->bridge().nodeCount(), 4);
     }
 
-    /// While a bootloader is there nothing else talks to the device; with the firmware back it is identified anew.
+    /// While a bootloader is connected nothing else talks to the device; when the firmware is back it is identified
+    /// again.
     void firmwareUpdateKeepsTheDeviceToItself()
     {
         SimulatorProcess simulator({QStringLiteral("--bootloader-wait"), QStringLiteral("5000"),

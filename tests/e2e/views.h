@@ -14,7 +14,7 @@ inline QStringList words(const char *text)
     return QString::fromLatin1(text).split(u' ', Qt::SkipEmptyParts);
 }
 
-/// The open window of a kind, null when there is none.
+/// The open window of a type; null when there is none.
 template <class Window> Window *openWindow()
 {
     for (QWindow *window : QGuiApplication::topLevelWindows()) {
@@ -24,7 +24,7 @@ template <class Window> Window *openWindow()
     return nullptr;
 }
 
-/// A window that is open beside the main window, null when there is none.
+/// A window that is open in addition to the main window; null when there is none.
 inline QWindow *windowBeside(const form_base &main)
 {
     for (QWindow *window : QGuiApplication::topLevelWindows()) {
@@ -34,7 +34,7 @@ inline QWindow *windowBeside(const form_base &main)
     return nullptr;
 }
 
-/// The texts that a declarative view shows.
+/// The texts that a QML view shows.
 inline QStringList shownTexts(const QQuickItem *root)
 {
     QStringList texts;
@@ -48,7 +48,7 @@ inline QStringList shownTexts(const QQuickItem *root)
     return texts;
 }
 
-/// The declarative view that has a child of this kind, null when there is none.
+/// The QML view that has a child of this type; null when there is none.
 template <class Child> QQuickView *viewWith()
 {
     for (QWindow *window : QGuiApplication::allWindows()) {
@@ -59,7 +59,7 @@ template <class Child> QQuickView *viewWith()
     return nullptr;
 }
 
-/// Opens a port; true when the window shows who the device is and that it sends.
+/// Opens a port; true when the window shows which device it is and that it is sending.
 inline bool connectTo(Desk &desk, const SimulatorProcess &simulator)
 {
     desk.open(simulator.port());
@@ -73,7 +73,7 @@ inline bool connectTo(Desk &desk, const SimulatorProcess &simulator)
     return connected;
 }
 
-/// Does what a user does at a button of a window.
+/// Presses a button of a window like a user.
 inline void click(const QWidget *window, const char *button)
 {
     window->findChild<QAbstractButton *>(QLatin1String(button))->click();

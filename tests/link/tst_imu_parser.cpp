@@ -65,7 +65,7 @@ const QByteArray kCompact = hex("93") + kShared;
 const QByteArray kCompactText("acc=1,-1,0.5 gyr=200,-200,0.1 mag=50,-0.1,100");
 const QByteArray kCompactQuat(" quat=1,-1,0,0.500015 q");
 const QByteArray kRecord63 = hex("AA") + kShared + hex("E8 03  30 F8  28 23"); // 10, -20 and 90 degrees
-// Every item that is no record, once; 0xB1 is another 0xB0.
+// Every item that is not a record, once; 0xB1 is a synonym of 0xB0.
 const QByteArray kSmallItems = hex("A0 FF 7F 00 80 01 00  B0 0A 00 F6 FF 01 00  C0 F4 01 0C FE 01 00"
                                    "D0 10 27 E8 03 08 07  D1 00 00 80 3F 00 00 00 3F 00 00 00 BF 00 00 00 00"
                                    "F0 80 E6 C5 47");
@@ -100,16 +100,16 @@ private slots:
              "4 [a0 b0 c0 d0 d1 f0] q e: id=0 acc=32.767,-32.768,0.001 gyr=1,-1,0.1 mag=50,-50,0.1 p=101325 "
              "rpy=10,100,180 quat=1,0.5,-0.5,0 q e"},
             {"filler is skipped whole", '\x60' + QByteArray(32, '\xF0') + acc, "4 [a0]: id=0 " + accText},
-            {"foreign bytes are stepped over", hex("00 01 92 FF") + acc + hex("EE A1"), "4 [a0]: id=0 " + accText},
+            {"foreign bytes are skipped", hex("00 01 92 FF") + acc + hex("EE A1"), "4 [a0]: id=0 " + accText},
             {"acceleration, then full record", acc + kFull, "0 [a0 91] q e: " + kFullText},
-            {"compact record keeps temperature and pressure alone", kFull + kCompact,
+            {"compact record keeps only temperature and pressure", kFull + kCompact,
              "0 [91 93] q: id=9 t=-5 " + kCompactText + " p=101325" + kCompactQuat},
             {"angles after a compact record", kCompact + angles,
              "0 [93 d0] q e: id=9 " + kCompactText + " rpy=10,100,180" + kCompactQuat + " e"},
             {"NaN, infinities and the largest float go through",
              hex("D1 00 00 C0 7F 00 00 80 7F 00 00 80 FF FF FF 7F 7F") + hex("F0 01 00 C0 FF"),
              "4 [d1 f0] q: id=0 p=nan quat=nan,inf,-inf,3.40282e+38 q"},
-            // Items that come too short.
+            // Items that are too short.
             {"short full record is all zero", hex("F0 00 50 C3 47") + kFull.left(75), "0 [f0 91] q e: id=0 q e"},
             {"short full record has the user id", hex("90 2A") + kFull.left(4), "0 [90 91] q e: id=42 q e"},
             {"short compact record is zero", acc + kCompact.left(27), "0 [a0 93] q: id=0 q"},
@@ -148,7 +148,7 @@ private slots:
         QCOMPARE(all.nodes.size(), 2);
         const qsizetype batchAt = kEveryItem.indexOf(hex("62 01 01 00"));
         for (qsizetype size = 0; size <= kEveryItem.size(); ++size) {
-            // A copy of its own, so that a read behind the end is one that the sanitizer sees.
+            // A separate copy, so that the sanitizer sees a read past the end.
             const QByteArray cut(kEveryItem.constData(), size);
             const DecodedFrame frame = ImuParser().parseFrame(cut);
             if (size <= batchAt + 8)
@@ -158,12 +158,12 @@ private slots:
         }
     }
 
-    void runningNumber()
+    void sequenceNumber()
     {
         ImuParser parser;
         QCOMPARE(parser.parseFrame({}).seq, quint64(1));
         const QByteArray before = describe(parser.parseFrame(kEveryItem));
-        // Nothing but the number carries over.
+        // Only the number carries over.
         QCOMPARE(describe(parser.parseFrame(hex("A0"))), QByteArray("4 [a0]: id=0"));
         QCOMPARE(describe(parser.parseFrame(hex("91"))), QByteArray("0 [91] q e: id=0 q e"));
         QCOMPARE(describe(parser.parseFrame(hex("93"))), QByteArray("0 [93] q: id=0 q"));
@@ -200,7 +200,7 @@ private slots:
         QCOMPARE(fields(kSmallItems), inertial | Euler | Pressure);
         QCOMPARE(fields(hex("B1 00 00 00 00 00 00")), SampleFields(AngularRate));
         QCOMPARE(fields(kCompact), inertial);
-        QCOMPARE(fields(kFull + kCompact), inertial | Pressure | Temperature); // it takes back angles and time
+        QCOMPARE(fields(kFull + kCompact), inertial | Pressure | Temperature); // it clears angles and time
         QCOMPARE(fields(angles + kCompact), inertial);
         QCOMPARE(fields(kCompact + angles), inertial | Euler);
         QCOMPARE(fields(frames::batch(0x62, 1, 0, {kFull})), inertial | Euler | Pressure | Temperature | Time);

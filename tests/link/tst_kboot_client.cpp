@@ -21,7 +21,7 @@ using Step = BootloaderStep;
 constexpr int kAddress = 0x0000A000;
 const QByteArray kNothing("");
 
-/// The port with what its bootloader client has told the main thread. Results are handed over through an atomic,
+/// The port, with what its bootloader client reported to the main thread. Results are handed over through an atomic,
 /// because the thread sanitizer does not see how the toolkit does it.
 class TestedPort : public KvUartPort
 {
@@ -59,7 +59,7 @@ public:
         QMetaObject::invokeMethod(this, "startDownloadBootloader", Qt::QueuedConnection, Q_ARG(QByteArray, image),
                                   Q_ARG(int, kAddress), Q_ARG(int, attempts));
     }
-    /// How it went; looks at the flag first, which orders the threads.
+    /// How it went; reads the flag first, which orders the threads.
     BootloaderOutcome outcome() const { return isBootloaderBusy() ? BootloaderOutcome() : kboot()->outcome(); }
 
     QList<int> progress;
@@ -100,7 +100,7 @@ bool isCommand(const QByteArray &packet, int tag)
     return packet.size() > 6 && quint8(packet.at(1)) == 0xA4 && packet.at(6) == char(tag);
 }
 
-/// For a row that failed: how it went.
+/// How it went, for the message of a failed row.
 QByteArray told(const char *name, const TestedPort &port, const BootloaderPeer &peer)
 {
     const BootloaderOutcome outcome = port.outcome();
@@ -164,7 +164,7 @@ private slots:
     {
         const QByteArray good = BootloaderPeer::propertyReply(frames::Bytes().u32(32));
         const QByteArray badStatus = BootloaderPeer::ack() + BootloaderPeer::response(0xA7, 103, "abcd");
-        // Which packet is answered so: 0 the restart, 1 the ping, 2 to 6 the properties. No fault: it connects.
+        // The packet that gets this answer: 0 the restart, 1 the ping, 2 to 6 the properties. No fault: it connects.
         const std::tuple<const char *, int, QByteArray, Fault> rows[] = {
             {"ping ignored", 1, kNothing, Fault::None},
             {"ping half answered", 1, frames::hex("5A A7"), Fault::None},
@@ -178,7 +178,7 @@ private slots:
             {"wrong CRC", 6, good.chopped(1) + "x", Fault::NoAnswer},
             {"error status", 6, badStatus, Fault::None},
             {"four bytes of noise pass for a value", 6, "abcd", Fault::None},
-            {"noise and a stale head before", 3, frames::hex("00 5A 5A FF 5A A1 41") + good, Fault::None}};
+            {"noise and a stale header first", 3, frames::hex("00 5A 5A FF 5A A1 41") + good, Fault::None}};
         for (const auto &[name, at, answer, fault] : rows) {
             BootloaderPeer peer([at = at, answer = answer](const QByteArray &, int index) {
                 return index == at ? Answer(answer) : Answer();
@@ -197,7 +197,7 @@ private slots:
         const QByteArray nak = frames::hex("5A A2");
         const QByteArray abort = frames::hex("5A A3");
         const QByteArray badStatus = BootloaderPeer::response(0xA0, 102, "abcd");
-        // Tag of the command that is answered so, 0 for data from the second packet on; how often; attempts.
+        // Tag of the command that gets this answer, 0 for data from the second packet on; how often; attempts.
         const std::tuple<const char *, int, QByteArray, int, int, Step, Fault> rows[] = {
             {"refused once", 0, nak, 1, 2, Step::Reset, Fault::None},
             {"aborted once", 0, abort, 1, 2, Step::Reset, Fault::None},
@@ -213,7 +213,7 @@ private slots:
             {"write silent", 0x04, kNothing, 1, 2, Step::Write, Fault::NoAnswer},
             {"reset silent", 0x0B, kNothing, 1, 2, Step::Reset, Fault::None},
             {"data of one byte for erase's response", 0x02, frames::packet("a"), 1, 2, Step::Reset, Fault::None},
-            {"erase fails and goes on", 0x02, badStatus, 1, 2, Step::Reset, Fault::None}};
+            {"erase fails but the download goes on", 0x02, badStatus, 1, 2, Step::Reset, Fault::None}};
         for (const auto &[name, tag, answer, times, attempts, step, fault] : rows) {
             BootloaderPeer peer([tag = tag, answer = answer, times = times, data = 0](const QByteArray &packet,
                                                                                       int) mutable {
@@ -228,15 +228,16 @@ private slots:
             QVERIFY2(port.downloads(counting(100), attempts) == complete, told(name, port, peer));
             const BootloaderOutcome outcome = port.outcome();
             QVERIFY2(outcome.step == step && outcome.fault == fault, told(name, port, peer));
-            QVERIFY2(outcome.isConfirmed == (tag == 0 && answer == badStatus), name); // the peer does so by script only
+            QVERIFY2(outcome.isConfirmed == (tag == 0 && answer == badStatus),
+                     name); // the peer confirms only by script
             QVERIFY2(outcome.targetStatus == (answer == badStatus ? 102U : 0U), name);
-            QByteArray written; // a packet that is sent again carries the same bytes
+            QByteArray written; // a repeated packet carries the same bytes
             for (QByteArray last; const QByteArray &packet : peer.packets()) {
                 if (isData(packet) && packet != std::exchange(last, packet))
                     written += packet.mid(6);
             }
             QVERIFY2(counting(100).startsWith(written), name);
-            const bool isEnded = tag == 0 && answer == badStatus; // by the target, at the second packet
+            const bool isEnded = tag == 0 && answer == badStatus; // ended by the target, at the second packet
             const int taken = complete && !isEnded ? 100 : attempts > 0 && tag == 0 ? 32 : 0;
             QVERIFY2(outcome.acknowledgedBytes == taken && outcome.isEndedByTarget == isEnded, name);
             QVERIFY2(isCommand(peer.packets().constLast(), 0x0B) == complete, name);
@@ -251,7 +252,7 @@ private slots:
             {-1, 100, false, {}},
             {1, 3, true, {33, 66, 100}},
             {512, 1024, true, {50, 100}},
-            {0x7FFFFFFF, 70000, true, {93, 100}}}; // the length field ends it
+            {0x7FFFFFFF, 70000, true, {93, 100}}}; // limited by the length field
         for (const auto &[packetSize, size, complete, progress] : rows) {
             BootloaderPeer peer([largest = quint32(packetSize)](const QByteArray &packet, int) {
                 const bool isAsked = isCommand(packet, 0x07) && packet.at(10) == 0x0B;
@@ -266,7 +267,7 @@ private slots:
         }
     }
 
-    // The worker has to leave its nested waits, tell the end and come home, wherever it waits.
+    // The worker must leave its nested waits, report the end and return to the main thread, wherever it waits.
     void lineEnds()
     {
         for (const int at : {1, 2, 7, 8, 10, 13}) { // the packet that is not answered
@@ -311,7 +312,7 @@ private slots:
     {
         std::atomic<TestedPort *> inside = nullptr;
         BootloaderPeer peer([&](const QByteArray &packet, int) {
-            if (isData(packet) && packet.mid(6) == counting(32)) { // inside the wait for the first packet
+            if (isData(packet) && packet.mid(6) == counting(32)) { // during the wait for the first packet
                 inside.load()->start(counting(50));
                 QMetaObject::invokeMethod(inside.load(), "runConnect", Qt::QueuedConnection);
             }
@@ -326,7 +327,7 @@ private slots:
         QCOMPARE(port.finished, QList<bool>{true});
     }
 
-    // Each connect begins with its own restart command, which a bootloader that is there already passes over.
+    // Each connect begins with a restart command, which a bootloader that is already running ignores.
     void connectsAgainAndRestartsTheDevice()
     {
         SimulatorProcess simulator({});
@@ -347,7 +348,7 @@ private slots:
         SimulatorProcess simulator({});
         TestedPort port(simulator.port());
         const auto stop = [&port] { QMetaObject::invokeMethod(&port, "cancelBootloader", Qt::QueuedConnection); };
-        stop(); // nothing runs
+        stop(); // nothing is running
         for (const bool erasing : {true, false}) {
             QVERIFY(simulator.control(erasing ? "bootloader erase-ms 1000" : "bootloader erase-ms 0"));
             QVERIFY(port.connects());

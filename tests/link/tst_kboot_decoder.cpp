@@ -12,7 +12,7 @@ constexpr qsizetype kMaxPacketSize = 2047;
 
 using Payloads = QList<QByteArray>;
 
-/// A decoder with the payloads that it has emitted.
+/// A decoder and the payloads that it has emitted.
 struct Decoder : KbootProtocol
 {
     Decoder()
@@ -31,7 +31,7 @@ QByteArray counting(qsizetype size)
     return bytes;
 }
 
-/// What has been counted, without zeros: packets and bytes by fate, the kind of the last error.
+/// The non-zero counts: packets and bytes by fate, and the kind of the last error.
 QString counts(const LinkHealth &health)
 {
     const char *const errors[] = {"", "checksum", "over-long", "type", "noise"};
@@ -84,7 +84,8 @@ private slots:
         for (int bit = 0; bit < good.size() * 8; ++bit) {
             QByteArray bad = good;
             bad[bit / 8] = char(bad.at(bit / 8) ^ (1 << (bit % 8)));
-            // A length that grows, yet not beyond the limit, makes the decoder wait for bytes of the packets behind it.
+            // A length that grows without exceeding the limit makes the decoder wait for bytes of the following
+            // packets.
             const int length = quint8(bad.at(2)) | quint8(bad.at(3)) << 8;
             const bool swallows = length > payload.size() && length + 6 <= kMaxPacketSize;
 
@@ -120,7 +121,7 @@ private slots:
                 QVERIFY2((health.lastErrorMs != 0) == (health.lastError != LinkError::None), name);
             }
         };
-        const QByteArray p1 = hex("01 02 03"); // also what is left in the buffer: the header is taken off in place
+        const QByteArray p1 = hex("01 02 03"); // also what remains in the buffer: the header is removed in place
         const QByteArray p2 = hex("04 05");
         const QByteArray good = hex("5A A5 03 00 13 34") + p1;
         const QByteArray other = frames::packet(p2);
@@ -139,7 +140,7 @@ private slots:
         row("start byte in a rejected packet is lost", hex("5A A5 05 00 00 00") + good.left(5) + other, {p2}, true, p2,
             "data 1, leading 11");
         row("A0", hex("5A A0") + good, {p1}, true, p1, "data 1, leading 2");
-        row("A2, discarded bytes behind", hex("5A A2 01 02"), {}, false, hex("5A A2 01 02"),
+        row("A2, then discarded bytes", hex("5A A2 01 02"), {}, false, hex("5A A2 01 02"),
             "control 1, discarded 2, noise 2, last noise");
         row("A4", hex("5A A4 03 00 B3 71 01 02 03"), {}, true, hex("5A A4 03 00 B3 71 01 02 03"), "control 1");
         row("A4 with bad CRC", badA4, {}, false, badA4, "crc 1, last checksum");
@@ -150,14 +151,14 @@ private slots:
             "data 1, control 1");
         row("A7 of eight bytes takes two of the next", hex("5A A7 00 01 02 50 00 00") + good + other, {p2}, true, p2,
             "data 1, control 1, leading 7");
-        // An empty packet is looked at one byte late, fails for that and so costs the packet behind it.
+        // An empty packet is checked one byte late, fails for that reason and so costs the packet after it.
         row("empty, then data", frames::packet({}) + good + other, {p2}, true, p2, "data 1, leading 15");
         row("2042 is over-long", frames::packet({}, 0xA5, 2042) + good, {p1}, true, p1, "data 1, leading 6");
         row("65535 is over-long", good + frames::packet({}, 0xA4, 65535) + good, {p1, p1}, true, p1,
             "data 2, long 1, last over-long");
-        row("text of a device", hex("5A A6") + good + "Z1, AZ\r\n\t" + good, {p1, p1}, true, p1,
+        row("text from a device", hex("5A A6") + good + "Z1, AZ\r\n\t" + good, {p1, p1}, true, p1,
             "data 2, control 1, discarded 9");
-        row("damage of all kinds behind data", good + bad + hex("5A 00 00") + bad, {p1}, true, bad,
+        row("damage of all kinds after data", good + bad + hex("5A 00 00") + bad, {p1}, true, bad,
             "data 1, crc 2, type 1, discarded 1, noise 1, last checksum");
     }
 
@@ -174,7 +175,7 @@ private slots:
                 QVERIFY(decoder.frameBuffer().capacity() <= 16384);
             }
             QVERIFY(decoder.payloads.isEmpty());
-            decoder.serial_read(QByteArray(kMaxPacketSize, '\0')); // ends a packet that the noise has opened
+            decoder.serial_read(QByteArray(kMaxPacketSize, '\0')); // ends a packet that the noise has begun
             decoder.payloads.clear();
             decoder.serial_read(frames::packet(counting(76)));
             QCOMPARE(decoder.payloads, Payloads{counting(76)});
@@ -183,13 +184,13 @@ private slots:
 
     void receiverThatFeedsTheDecoder()
     {
-        // The bootloader dialogue waits in local event loops, so that bytes arrive while a payload is being handed up.
+        // The bootloader dialogue waits in local event loops, so bytes arrive while a payload is being handed on.
         Decoder decoder;
         const Payloads sent{counting(10), counting(30), counting(20)};
         connect(&decoder, &KbootProtocol::kbootRecv, &decoder, [&](const QByteArray &payload) {
             if (payload.size() == 10)
                 decoder.serial_read(frames::packet(sent[1]));
-            QVERIFY(sent.contains(payload)); // untouched by what has been decoded meanwhile
+            QVERIFY(sent.contains(payload)); // untouched by what was decoded meanwhile
         });
         decoder.serial_read(frames::packet(sent[0]) + frames::packet(sent[2]));
         QCOMPARE(decoder.payloads, sent);

@@ -17,8 +17,8 @@ namespace {
 
 constexpr int kBaud = 115200;
 
-/// The port with what it has told the main thread (a QSignalSpy would record in the port's thread) and what the tests
-/// want to know from inside its thread. The latter is called by name and answered through an atomic, because the thread
+/// The port, with what it reported to the main thread (a QSignalSpy would record in the port's thread) and queries that
+/// the tests run inside its thread. The queries are called by name and answered through an atomic, because the thread
 /// sanitizer does not see how the toolkit hands over functors and return values.
 class TestedPort : public KvUartPort
 {
@@ -77,14 +77,14 @@ void send(KvUartPort &port, const QByteArray &data)
     QMetaObject::invokeMethod(&port, "serialSend", Qt::QueuedConnection, Q_ARG(QByteArray, data));
 }
 
-/// A device that sends packets as fast as the line takes them, from a thread of its own, until that is destroyed.
+/// A device that sends packets as fast as the line takes them, from a separate thread, until it is destroyed.
 std::jthread flood(PtyPair &pty)
 {
     return std::jthread([&pty](const std::stop_token &stop) {
         const QByteArray packets = frames::packet(frames::fullRecord(1)).repeated(20);
         while (!stop.stop_requested()) {
             if (!pty.write(packets, 20))
-                std::this_thread::yield(); // nobody listens
+                std::this_thread::yield(); // no one is listening
         }
     });
 }
@@ -98,7 +98,7 @@ class TestKvUartPort : public QObject
 private slots:
     void initTestCase() { QVERIFY(QDir::setCurrent(m_folder.path())); }
 
-    void packetsInPiecesFromAThreadOfItsOwn()
+    void packetsInPiecesFromASeparateThread()
     {
         PtyPair pty;
         TestedPort port;
@@ -121,7 +121,7 @@ private slots:
         QCOMPARE(port.thread(), emitter.load());
         port.closeUART();
         QVERIFY(isIdle(port));
-        port.closeUART(); // nothing is open: nothing happens
+        port.closeUART(); // nothing is open: does nothing
         QVERIFY(isIdle(port));
     }
 
@@ -149,7 +149,7 @@ private slots:
         PtyPair pty;
         TestedPort port;
         QVERIFY(port.opens(pty));
-        // Half a line's worth: 72 packets of 80 bytes. Begun right behind a tick, so that one second holds all.
+        // Half the line's capacity: 72 packets of 80 bytes. Started right after a tick, so that one second holds all.
         const QByteArray packets = frames::packet(QByteArray(74, 'x')).repeated(72);
         QVERIFY(pty.write("-"));
         QTRY_COMPARE_WITH_TIMEOUT(port.statistics().rxBytesLastSecond, quint64(1), 5000);
@@ -170,7 +170,7 @@ private slots:
     {
         QCOMPARE(KvUartPort::loadPercent(11519, 115200, 10), 99U);
         QCOMPARE(KvUartPort::loadPercent(23040, 115200, 10), 200U);
-        QCOMPARE(KvUartPort::loadPercent(872, 9600, 11), 100U); // of 872.7, cut to an integer
+        QCOMPARE(KvUartPort::loadPercent(872, 9600, 11), 100U); // 872.7, truncated to an integer
         QCOMPARE(KvUartPort::loadPercent(500, 9, 10), 0U);
         QCOMPARE(KvUartPort::loadPercent(500, -115200, 10), 0U);
     }
@@ -183,7 +183,7 @@ private slots:
         QTRY_COMPARE(port.openErrors, 1);
         QCOMPARE(port.errors, QList{QSerialPort::DeviceNotFoundError});
         QVERIFY(!port.isOpenInItsThread());
-        // The object is ready for the next try, without a close.
+        // The object is ready for the next attempt without a close.
         QSerialPort holder;
         holder.setPortName(pty.path());
         QVERIFY(holder.open(QIODevice::ReadWrite));
@@ -212,12 +212,12 @@ private slots:
         QVERIFY(first.write(frames::packet("old")));
         QVERIFY(second.write(frames::packet("new")));
         QTRY_COMPARE(port.payloads, QList<QByteArray>{"new"});
-        QSerialPort other; // the first one has been let go
+        QSerialPort other; // the first one has been released
         other.setPortName(first.path());
         QVERIFY(other.open(QIODevice::ReadWrite));
     }
 
-    void closeRightBehindOpen()
+    void closeRightAfterOpen()
     {
         AppLog::init();
         PtyPair pty;
@@ -239,7 +239,7 @@ private slots:
         QTRY_COMPARE(port.payloads, QList<QByteArray>{"ab"});
         QVERIFY(port.errors.isEmpty());
         port.closeUART();
-        // No session has started twice, for instance by a start that belonged to the one before.
+        // No session has started twice, for instance by a start that belonged to the previous one.
         const QByteArray lines = readFile(QStringLiteral("debug.log"));
         QVERIFY(!lines.contains("[W]: "));
         QCOMPARE(lines.count("[I]: uart-thread stopped.\r\n"), 61);
@@ -257,7 +257,7 @@ private slots:
             QTRY_VERIFY(port.payloads.size() > 10);
             port.closeUART();
             QVERIFY(isIdle(port));
-            // All that the port has emitted is posted by now; nothing follows.
+            // Everything the port emitted is posted by now; nothing follows.
             QCoreApplication::sendPostedEvents();
             const qsizetype count = port.payloads.size();
             QCOMPARE(port.payloads.count(frames::fullRecord(1)), count);
@@ -296,12 +296,12 @@ private slots:
         }
         QTRY_VERIFY(!port.errors.isEmpty());
         QVERIFY(port.errors.first() == QSerialPort::ResourceError || port.errors.first() == QSerialPort::ReadError);
-        // A vanished device is told of, not reported without end.
+        // A vanished device is reported, but not endlessly.
         QTRY_VERIFY(!port.isOpenInItsThread());
         QCoreApplication::processEvents();
         const qsizetype told = port.errors.size();
         QVERIFY2(told < 10, qPrintable(QString::number(told)));
-        QVERIFY(!port.isOpenInItsThread()); // and what the worker had to tell is posted
+        QVERIFY(!port.isOpenInItsThread()); // and what the worker had to report is posted
         QCoreApplication::processEvents();
         QCOMPARE(port.errors.size(), told);
         send(port, "AT+INFO\r\n"); // a user may press a button before the link is closed

@@ -14,7 +14,7 @@ namespace {
 constexpr int kBaud = 921600;
 constexpr int kHeaderSize = 6;
 
-/// Bytes that no good data packet has taken.
+/// Bytes that are not part of a good data packet.
 quint64 lostBytes(const LinkHealth &health)
 {
     return health.receivedBytes - health.dataBytes;
@@ -68,7 +68,7 @@ private:
         for (int round = 0; round < 20; ++round) {
             QByteArray stream;
             QSet<QByteArray> payloads;
-            QSet<QByteArray> missing; // payloads of packets that were sent intact, until they arrive
+            QSet<QByteArray> missing; // payloads of intact packets that have not arrived yet
             int intactCount = 0;
             for (quint32 number = 0; number < 100; ++number) {
                 QByteArray payload = frames::Bytes().u32(number);
@@ -91,7 +91,7 @@ private:
             int others = 0;
             QObject::connect(&decoder, &KbootProtocol::kbootRecv, &decoder, [&](const QByteArray &payload) {
                 decodedBytes += quint64(payload.size()) + kHeaderSize;
-                others += payloads.contains(payload) ? 0 : 1; // a byte inserted in front does not damage a packet
+                others += payloads.contains(payload) ? 0 : 1; // a byte inserted before it does not damage a packet
                 missing.remove(payload);
             });
             for (qsizetype at = 0; at < stream.size();) {
@@ -112,7 +112,7 @@ private:
                 inPieces.errors() + inPieces.noiseBytes + inPieces.leadingBytes + inPieces.pendingBytes;
             QCOMPARE(damage > 0, intactCount < 100);
 
-            // However the bytes come, the counts are the same.
+            // However the bytes are split, the counts are the same.
             decoder.clear();
             decoder.serial_read(stream);
             inPieces.lastErrorMs = decoder.health().lastErrorMs;
@@ -120,7 +120,7 @@ private:
         }
     }
 
-    /// A real line on which the simulator makes these faults; a list of "" is none.
+    /// A real line on which the simulator makes these faults; a list of "" means none.
     static void checkLine(const QByteArrayList &faults)
     {
         const bool isFaulty = !faults.first().isEmpty();
@@ -142,7 +142,7 @@ private:
         QVERIFY(simulator.control("silent on"));
         QTRY_COMPARE(qint64(received), simulator.stat("bytes"));
         const auto isCounted = [&] { return port.health().receivedBytes == received; };
-        QTRY_VERIFY(isCounted()); // told once per second
+        QTRY_VERIFY(isCounted()); // reported once per second
         port.closeUART();
         QCoreApplication::sendPostedEvents();
 
@@ -152,7 +152,7 @@ private:
         QCOMPARE(qint64(health.dataPackets), decoded);
         const qint64 sent = simulator.stat("frames_sent");
         const qint64 intact = simulator.stat("frames_intact");
-        QVERIFY(decoded <= sent); // a byte inserted in front does not damage a frame, but it is not sent intact
+        QVERIFY(decoded <= sent); // a byte inserted before it does not damage a frame, but it was not sent intact
         const auto frameBytes = qint64(health.dataBytes / health.dataPackets);
         QVERIFY((intact - decoded) * frameBytes <= qint64(lostBytes(health)));
         QCOMPARE(intact < sent, isFaulty);

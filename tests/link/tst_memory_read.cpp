@@ -20,13 +20,13 @@ class TestMemoryRead : public QObject
     Q_OBJECT
 
 private slots:
-    // What comes: R response, D data of as many bytes as the digit says, X a damaged packet, E and F the end, good and
-    // not. The answers: A acknowledge, N repeat, S stop, - none.
+    // What arrives: R response, D data of as many bytes as the digit says, X a damaged packet, E and F the end, good
+    // and bad. The answers: A acknowledge, N repeat, S stop, - none.
     void dialogues()
     {
         const std::tuple<const char *, const char *, Fault, const char *> rows[] = {
             {"R4 D2 D2 E0", "AAAA", Fault::None, "abab"},
-            {"D2 R4 D4 E0", "-AAA", Fault::None, "abcd"}, // data of an earlier read
+            {"D2 R4 D4 E0", "-AAA", Fault::None, "abcd"}, // data from an earlier read
             {"G0 R4 D4 E0", "-AAA", Fault::None, "abcd"}, // a late response to something else
             {"R4 X0 X0 D4 E0", "ANNAA", Fault::None, "abcd"},
             {"X0 R4 D4 G0 E0", "-AA-A", Fault::None, "abcd"},
@@ -81,7 +81,7 @@ private slots:
         }
     }
 
-    // Whatever comes, what is kept stays within what was asked for, and a line that only damages comes to an end.
+    // Whatever arrives, no more is kept than was requested, and a read over a line that damages everything ends.
     void hostile()
     {
         QRandomGenerator random(11);

@@ -22,7 +22,7 @@ DecodedFrame frameOf(int family, const QList<quint8> &ids, quint64 seq = 100)
     return frame;
 }
 
-/// A dispatcher and, in order, the signals that it has emitted.
+/// A dispatcher and the signals that it has emitted, in order.
 struct Stream : StreamDispatcher
 {
     using Self = StreamDispatcher;
@@ -84,7 +84,7 @@ private slots:
 
     void families()
     {
-        using Row = std::tuple<int, QList<quint8>, const char *>; // at last the role, which was RemoteWirelessNode
+        using Row = std::tuple<int, QList<quint8>, const char *>; // last the role, which was RemoteWirelessNode
         for (const auto &[family, nodes, expected] : {
                  Row{0, {7}, "selected:7 single:7 snapshot DirectSingleNode"},
                  Row{1, {7, 8}, "selected:7 62:7:8 snapshot WirelessGateway"},
@@ -116,7 +116,7 @@ private slots:
             stream.setSelectedNodeIndex(requested);
             QCOMPARE(stream.taken(), QStringLiteral("selected:%1 snapshot").arg(10 + effective));
             QCOMPARE(stream.snapshot().selected_node_index, effective);
-            // The same place again is no change; a shorter frame clamps it anew.
+            // The same index again is not a change; a shorter frame clamps it again.
             stream.setSelectedNodeIndex(effective);
             QCOMPARE(stream.taken(), QString());
             stream.publishFrame(frameOf(2, {20}));
@@ -141,7 +141,7 @@ private slots:
         QCOMPARE(stream.facts(), QStringLiteral("00010 4 selected=0 rate=0 seq=100 gw0@4000000000 ids=0"));
         QCOMPARE(stream.currentSelectedNode().id, quint8(0));
         QVERIFY(!stream.currentSelectedSnapshot().has_quat);
-        // There is nothing to select from now.
+        // There is nothing left to select from.
         stream.setSelectedNodeIndex(3);
         QCOMPARE(stream.taken(), QStringLiteral("snapshot"));
         stream.updateSelectedNode();
@@ -156,7 +156,7 @@ private slots:
         QCOMPARE(logLines(), 5);
     }
 
-    void tellsChangesOnlyAndClearKeepsTheLink()
+    void reportsChangesOnlyAndClearKeepsTheLink()
     {
         Stream stream;
         const std::pair<bool, const char *> rounds[] = {
@@ -201,7 +201,7 @@ private slots:
 
     void receiverThatSelects()
     {
-        // A view may choose another node or clear the stream while it is told of a frame.
+        // A view may choose another node or clear the stream while it handles a frame.
         Stream stream;
         bool done = false;
         connect(&stream, &StreamDispatcher::gatewayBatch62, &stream, [&] {

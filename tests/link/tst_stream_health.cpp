@@ -87,7 +87,7 @@ private slots:
         row("wrap", run(100, 0, 50, 0xFFFFFFFFU - 200) + run(100, 53, 80, 0xFFFFFFFFU - 200), 3, 40);
         row("unsteady stamps", with({1496, 1510, 1519, 1532, 1541}), 0, 0);
         row("repeated and late", with({1490, 1490, 1480, 1500, 1500, 1510}), 0, 0);
-        row("overtaken: told as missing, the late one takes nothing back", with({1510, 1500, 1520}), 1, 20);
+        row("overtaken: counted as missing, the late one changes nothing", with({1510, 1500, 1520}), 1, 20);
         row("without stamps in between", with({0, 0, 1520}), 2, 30);
         row("restart", with({0, 12, 22, 32}), 0, 0, 1);
         row("set forward by an hour", with({3601500, 3601510, 3601520}), 0, 0, 1);
@@ -99,7 +99,7 @@ private slots:
 
     void nodesOfAGateway()
     {
-        checkGateway(frame_family::GatewayBatch62); // clocks of their own
+        checkGateway(frame_family::GatewayBatch62); // separate clocks
         checkGateway(frame_family::GatewayBatch63); // the gateway's clock
     }
 
@@ -115,7 +115,7 @@ private:
         batches(20, {1, 2, 9});
         batches(4, {1, 9}); // 2 is silent
         batches(20, {1, 2, 9});
-        batches(6, {}); // none is heard
+        batches(6, {}); // none is heard from
         batches(20, {1, 2});
         QVERIFY(health.isGateway());
         QCOMPARE(health.nodeIds(), (QList<quint8>{1, 2, 9}));
@@ -130,7 +130,7 @@ private:
         batches(1, {9});
         QCOMPARE(health.node(9).missing, 26U);
 
-        // Another layout is another clock: its stamps do not fit those before.
+        // Another layout is another clock: its stamps do not continue the earlier ones.
         const int other =
             family == frame_family::GatewayBatch62 ? frame_family::GatewayBatch63 : frame_family::GatewayBatch62;
         for (int i = 0; i < 20; ++i)
@@ -138,7 +138,7 @@ private:
         QCOMPARE(health.node(1).missing, 6U);
         QCOMPARE(health.node(1).restarts, 0U);
 
-        health.interrupt(); // told to be silent, then to go on, with its clock set anew
+        health.interrupt(); // ordered to be silent, then to go on, with its clock reset
         for (const quint32 begin : {50000U, 100U}) {
             for (quint32 i = 0; i < 20; ++i)
                 health.addFrame(batchFrame(other, {1}, begin + 10 * i), ms + begin + 10 * i);

@@ -1,6 +1,5 @@
-#!/usr/bin/env bash
-# core_without_gui.sh PROGRAM...: fails when one of the programs, each linked with a folder's core, needs a library of
-# the window system.
+# !/usr/bin/env bash core_without_gui.sh PROGRAM...: fails when one of the programs, each linked with a folder's core,
+# needs a window-system library.
 set -euo pipefail
 faults=0
 for program in "$@"; do

@@ -5,8 +5,8 @@
 #include <functional>
 
 #include "device/command_session.h"
-#include "record/recorder.h"
 #include "link/kv_uart_port.h"
+#include "record/recorder.h"
 #include "session/device_session.h"
 #include "support/session_device.h"
 
@@ -21,7 +21,7 @@ constexpr std::array kActions{
     Action::TryBaudRates, Action::ConnectBootloader, Action::Download, Action::StopDownload, Action::RestartDevice,
     Action::Quit};
 
-/// What is allowed, in the order of kActions: y for yes.
+/// The allowed actions, in the order of kActions: y for yes.
 constexpr std::pair<State, const char *> kAllowed[] = {
     {State::Closed, "y.........y"},   {State::Opening, "yy........y"}, {State::Identifying, "yy..y.y...y"},
     {State::Live, "yyyyy.y...y"},     {State::Silent, "yyyyyyy...y"},  {State::Bootloader, "yy....yy.yy"},
@@ -30,13 +30,13 @@ constexpr std::pair<State, const char *> kAllowed[] = {
 
 const QByteArray kImage(64 * 32, '\x5A');
 
-/// A session beside its device.
+/// A session and its device.
 struct Bench
 {
     SessionDevice device;
     DeviceSession session;
 
-    /// Brings the session into a state and calls `then` there, once. True when it came to it.
+    /// Brings the session into a state and calls `then` there, once. True when the state was reached.
     bool in(State state, const std::function<void()> &then)
     {
         bool done = false;
@@ -46,7 +46,7 @@ struct Bench
         };
         QMetaObject::Connection watch;
         if (state == State::Identifying || state == State::Closing) {
-            // States that are left before the caller sees them: one while a reading waits, one inside a call.
+            // States that end before the caller sees them: one while a reading waits, one during a call.
             watch = QObject::connect(&session, &DeviceSession::stateChanged, &session, [&, state] {
                 if (done || session.state() != state)
                     return;
@@ -107,12 +107,12 @@ struct Bench
         case Action::StopDownload:
         case Action::StartRecording:
         case Action::Quit:
-            break; // done by others, who ask
+            break; // done by others, who check first
         }
         return session.allows(action);
     }
 
-    /// As one who writes firmware.
+    /// As a client that writes firmware.
     bool borrow()
     {
         const bool lent = session.allows(Action::Download) && session.lendLine();
@@ -123,7 +123,7 @@ struct Bench
 
 } // namespace
 
-/// One connection with everything that users, devices and cables do to it, through a pseudo-terminal.
+/// One connection, through a pseudo-terminal, with everything that users, devices and cables do to it.
 class TestDeviceSession : public QObject
 {
     Q_OBJECT
@@ -155,7 +155,7 @@ private slots:
             }
             QCOMPARE(int(bench.session.state()), state);
         }));
-        // What is refused sends nothing; what a reading sends by itself has only its own commands.
+        // A refused action sends nothing; a reading sends only its own commands.
         for (const QByteArray &command : bench.device.takeCommands())
             QVERIFY2(command.startsWith("AT+EOUT") || command == "AT+INFO", command.constData());
         QCOMPARE(bench.device.takeStrayTexts(), QByteArrayList());
@@ -165,7 +165,7 @@ private slots:
     {
         QTest::addColumn<int>("state");
         QTest::addColumn<int>("action");
-        QTest::addColumn<int>("ends"); ///< the state that follows at last
+        QTest::addColumn<int>("ends"); ///< the state that it ends in
         const auto row = [](const char *name, State state, Action action, State ends) {
             QTest::newRow(name) << int(state) << int(action) << int(ends);
         };
@@ -196,7 +196,7 @@ private slots:
         QVERIFY(performed);
         QTRY_COMPARE_WITH_TIMEOUT(int(bench.session.state()), ends, 15000);
         QVERIFY(!bench.session.commands().isSuspended() || State(ends) == State::Bootloader);
-        if (Action(action) != Action::OpenPort) // whoever opens a port asks who is there
+        if (Action(action) != Action::OpenPort) // opening a port identifies the device
             QCOMPARE(bench.device.takeStrayTexts(), QByteArrayList());
         if (State(ends) == State::Live)
             QTRY_COMPARE_WITH_TIMEOUT(bench.session.device().key, ProductKey::MZ221, 8000);
@@ -224,7 +224,7 @@ private slots:
 
     void bootloaderHearsNoText_data()
     {
-        QTest::addColumn<int>("running"); ///< a hotkey that waits for its reply, else -1
+        QTest::addColumn<int>("running"); ///< a hotkey that waits for its reply, otherwise -1
         QTest::newRow("idle") << -1;
         QTest::newRow("a command waits") << int(SettingsHotkeyAction::ReadInfo);
         QTest::newRow("the output is stopped") << int(SettingsHotkeyAction::StopOutput);
@@ -239,10 +239,10 @@ private slots:
         QTimer::singleShot(30, &bench.session, [&] { connected = bench.session.connectBootloader(); });
         if (running >= 0)
             bench.session.commands().runHotkey(SettingsHotkeyAction(running));
-        // A device that a busy machine keeps waiting misses one connect; whoever presses again reaches it.
+        // A device delayed by a busy machine may miss one connect; pressing again reaches it.
         QTRY_VERIFY_WITH_TIMEOUT(connected || (connected = bench.session.connectBootloader()), 8000);
         QVERIFY(bench.device.isInBootloader());
-        for (int round = 0; round < 2; ++round) { // as people press it
+        for (int round = 0; round < 2; ++round) { // as users press it
             QVERIFY(bench.session.connectBootloader());
             QVERIFY(!bench.session.identify());
         }
@@ -275,8 +275,8 @@ private slots:
         QCOMPARE(bench.device.takeStrayTexts(), QByteArrayList());
     }
 
-    // Whoever has changed nothing leaves everything as it was.
-    void anUnusedLineComesBackAsItWas()
+    // A procedure that changed nothing leaves everything unchanged.
+    void anUnusedLineIsReturnedUnchanged()
     {
         for (const bool isConnected : {false, true}) {
             Bench bench;
@@ -291,7 +291,7 @@ private slots:
         }
     }
 
-    void firmwareThatLivesEndsTheBootloaderState()
+    void runningFirmwareEndsTheBootloaderState()
     {
         Bench bench;
         QVERIFY(bench.in(State::Updating, [&] { bench.session.returnLine(LineReturn::BootloaderStays); }));
@@ -345,7 +345,7 @@ private slots:
         bench.session.close();
         bench.session.open(bench.device.path(), kBaud);
         QTRY_VERIFY(bench.session.device().valid);
-        QCOMPARE(bench.session.preset(), OrientationPreset::RfuEnu312); // the user's, kept per product
+        QCOMPARE(bench.session.preset(), OrientationPreset::RfuEnu312); // the user's choice, kept per product
     }
 
 private:

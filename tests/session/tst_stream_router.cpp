@@ -5,7 +5,7 @@
 
 namespace {
 
-/// A gateway's batch of full records of these nodes; acceleration X tells them apart.
+/// A gateway's batch of full records of these nodes; they differ in acceleration X.
 DecodedFrame batch(const QList<int> &ids, quint32 timeMs)
 {
     DecodedFrame frame;
@@ -30,7 +30,7 @@ DecodedFrame single(int id, quint32 timeMs)
     return frame;
 }
 
-/// The router with what its consumers have seen.
+/// The router and what its consumers have seen.
 struct Viewer
 {
     StreamRouter router;
@@ -72,7 +72,7 @@ private slots:
     {
         Viewer viewer;
         viewer.take(batch({2, 3, 5}, 1000));
-        viewer.take(batch({3, 5}, 1010)); // the shown one is missing: nothing is shown
+        viewer.take(batch({3, 5}, 1010)); // the followed one is missing: nothing is shown
         viewer.take(batch({5, 2, 3}, 1020));
         QCOMPARE(viewer.seen, QList<int>({2, 2}));
         viewer.router.follow(3);
@@ -80,9 +80,9 @@ private slots:
             viewer.take(batch(ids, 1030));
         QCOMPARE(viewer.seen, QList<int>({2, 2, 3, 3, 3, 3}));
         QCOMPARE(viewer.restarts, Breaks({kNew, kOther}));
-        QCOMPARE(viewer.batches, 7); // an empty batch is none
+        QCOMPARE(viewer.batches, 7); // an empty batch does not count
         viewer.router.follow(3);     // again: no restart
-        viewer.router.follow(9);     // not heard yet
+        viewer.router.follow(9);     // not heard from yet
         viewer.take(batch({2, 3, 5}, 1040));
         QCOMPARE(viewer.seen.size(), 6);
         QVERIFY(!viewer.router.newest());
@@ -93,14 +93,14 @@ private slots:
     {
         Viewer viewer;
         viewer.take(single(1, 100));
-        viewer.take(single(7, 110)); // a second sender on the line is not mixed in
+        viewer.take(single(7, 110)); // a second sender on the line is ignored
         viewer.take(single(1, 120));
         QCOMPARE(viewer.seen, QList<int>({1, 1}));
-        viewer.take(single(42, 5), 2500); // the module has got another id, and restarted
+        viewer.take(single(42, 5), 2500); // the module got another id and restarted
         viewer.take(single(42, 15));
         QCOMPARE(viewer.seen, QList<int>({1, 1, 42, 42}));
         QCOMPARE(viewer.restarts, Breaks({kNew, kOther}));
-        viewer.take(batch({1, 42}, 25)); // from a gateway on, an id is a node
+        viewer.take(batch({1, 42}, 25)); // once a gateway is known, an id is a node
         viewer.take(single(1, 35), 2500);
         QCOMPARE(viewer.router.followed(), std::optional<quint8>(42));
     }

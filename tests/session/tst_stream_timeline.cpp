@@ -8,15 +8,15 @@ namespace {
 
 using Clock = StreamTimeline::Clock;
 
-/// A stream as it arrives: what is put in, and where the samples end up.
+/// A stream as it arrives: what goes in, and where the samples end up.
 struct Stream
 {
     StreamTimeline timeline;
-    double hostMs = 40; ///< of the next sample
+    double hostMs = 40; ///< arrival of the next sample
     double firstHostMs = 0;
     double firstMs = 0;
     double lastMs = 0;
-    double largestErrorMs = 0; ///< between axis and wall, over all samples
+    double largestErrorMs = 0; ///< between axis and wall clock, over all samples
     quint32 interruptions = 0;
     bool isMonotonic = true;
     QList<StreamBreak> breaks;
@@ -36,7 +36,7 @@ struct Stream
             breaks.append(place.brokenBy);
     }
 
-    /// `count` samples every `periodMs`; `stamp` gives the device's time of each from the wall's.
+    /// `count` samples every `periodMs`; `stamp` converts the wall time of each into the device's time.
     void run(int count, double periodMs, const std::function<quint32(double)> &stamp, Clock clock = Clock::Node)
     {
         for (int i = 0; i < count; ++i, hostMs += periodMs)
@@ -141,7 +141,7 @@ private slots:
             [](Stream &s) {
                 s.run(200, 10, clockFrom(1000));
                 ++s.interruptions;
-                s.run(3, 10, clockFrom(1000)); // until the device obeys
+                s.run(3, 10, clockFrom(1000)); // until the device complies
                 s.hostMs += 500;
                 ++s.interruptions;
                 s.run(200, 10, clockFrom(1000));
@@ -192,7 +192,7 @@ private slots:
 
     void evenlySpaced()
     {
-        // Bursts of arrivals are no bursts of samples.
+        // Bursts of arrivals are not bursts of samples.
         Stream stream;
         stream.runWithoutClock(800, 2.5, 8);
         double before = stream.lastMs;

@@ -44,7 +44,7 @@ QByteArray pattern(qsizetype size)
     return bytes;
 }
 
-// A bootloader of 64 KiB flash in sectors of 1 KiB, asked once a millisecond.
+// A bootloader with 64 KiB of flash in sectors of 1 KiB, polled once a millisecond.
 struct Target
 {
     Bootloader boot{Bootloader::Settings{{kBase, 64 * 1024, 1024}, 32, 1000, 1}};
@@ -116,7 +116,7 @@ private slots:
         }
     }
 
-    // Packets refused or not answered are sent again, as a host does; the flash holds the image and nothing else
+    // Packets refused or not answered are repeated, as a host does; the flash holds the image and nothing else has
     // changed.
     void updates()
     {
@@ -151,7 +151,7 @@ private slots:
         QVERIFY(!flash.dump(folder.filePath(QStringLiteral("no/flash.bin"))).isEmpty());
     }
 
-    // Text is skipped, and told apart: what begins a connect, what falls between data packets, the rest.
+    // Text is skipped and classified: text that begins a connect, text between data packets, the rest.
     void textIsRecorded()
     {
         const QByteArray write = words(4, {kBase, 40});
@@ -177,7 +177,7 @@ private slots:
         }
     }
 
-    // The answer to the packet, what of the flash is right then, and whether the data phase goes on.
+    // The answer to the packet, how much of the flash is correct then, and whether the data phase goes on.
     void faultsOfAPacket()
     {
         const QByteArray image = pattern(96);
@@ -274,7 +274,7 @@ private slots:
                     && trickling.exit() == Bootloader::Exit::None);
             QCOMPARE(trickling.boot.takeAnswers(3 * i * kMs).size(), 1);
         }
-        Target late; // programmed, but a host that waits 200 ms does not know
+        Target late; // programmed, but a host that waits 200 ms does not learn it
         late.boot.faults().lateMs = 230;
         QVERIFY(late.boot.faults().plan(Verdict::Late, QStringLiteral("1")).isEmpty());
         late.ask(words(2, {kBase, 8}) + words(4, {kBase, 8}));

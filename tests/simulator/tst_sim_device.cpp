@@ -71,7 +71,7 @@ private slots:
     void silentWhileRestarting()
     {
         DeviceModel model = make("mz221");
-        // What follows the reset in the same read is lost, too.
+        // What follows the reset in the same read is lost too.
         QCOMPARE(model.receive("AT+RST\r\nAT+INFO\r\n", 1000), QByteArray("OK\r\n"));
         QVERIFY(!model.isStreaming());
         QVERIFY(model.receive("AT+INFO\r\n", 2000).isEmpty());
@@ -81,7 +81,7 @@ private slots:
         QVERIFY(!model.receive("AT+INFO\r\n", 2000).isEmpty());
     }
 
-    // A silent host is waited for, text is no word, and a host that pings keeps the bootloader.
+    // The bootloader waits for a silent host, ignores text, and stays for a host that pings.
     void bootloaderWaits()
     {
         for (const bool talks : {false, true}) {
@@ -116,7 +116,7 @@ private slots:
         DeviceModel model = make("mz221");
         QVERIFY(model.receive("AT+EO", 0).isEmpty());
         QCOMPARE(model.receive("UT=0\rAT+EOUT=1\nAT+EOUT=0\r\n\r\n", 0), QByteArray("OK\r\nOK\r\nOK\r\n"));
-        // Bytes that are no text, such as another protocol's packet, do not spoil the next command.
+        // Bytes that are not text, such as another protocol's packet, do not spoil the next command.
         QCOMPARE(model.receive(QByteArray::fromHex("41425aa6ff") + "AT+EOUT=1\r\n", 0), QByteArray("OK\r\n"));
     }
 };

@@ -51,7 +51,7 @@ private slots:
                                   "690033ff3101"      // gyr 105 -205 305
                                   "ff7f018000400000"; // quaternion 32767 -32767 16384 0
         QCOMPARE(encodeSinglePayload(PayloadLayout::CompactRecord93, sample).toHex(), record);
-        // The batch record goes on with roll, pitch and yaw in hundredths.
+        // The batch record continues with roll, pitch and yaw in hundredths.
         const QByteArray batch = encodeBatchPayload(PayloadLayout::Batch63, 9, 0x0A0B0C0D, {sample});
         QCOMPARE(batch.toHex(), "630901000d0c0b0a" + record + "e80330f8b80b");
     }

@@ -47,7 +47,7 @@ private slots:
                 for (qsizetype k = 0; flip > 0 && k < original.size(); ++k)
                     bits += qPopulationCount(quint8(result.bytes[k] ^ original[k]));
             }
-            // Within five standard deviations of what was asked for.
+            // Within five standard deviations of the requested rate.
             const double wantedGrowth = (insert - std::min(drop, 1024.0)) * kKilobytes;
             QVERIFY(std::abs(double(growth) - wantedGrowth) <= (drop > 1024 ? 0 : 360));
             QVERIFY(std::abs(double(bits) - flip * kKilobytes) <= 360);
@@ -90,7 +90,7 @@ private slots:
         TransmitLine gateway(9600);
         for (int i = 0; i < 3; ++i) // a large batch fits twice
             QCOMPARE(gateway.pushFrames(frame(1230)), i < 2);
-        QVERIFY(gateway.pushReply("OK\r\n")); // never refused for want of room
+        QVERIFY(gateway.pushReply("OK\r\n")); // never refused for lack of room
     }
 
     void idleLineSavesNothingUp()
@@ -143,7 +143,7 @@ private slots:
         line.take(3);
         QVERIFY(line.ready().startsWith("OK\r\nff"));
         line.take(5);
-        QCOMPARE(line.clear(), 1); // half sent is lost
+        QCOMPARE(line.clear(), 1); // the half-sent one is lost
         QVERIFY(line.sentFrames() == 3 && line.sentIntactFrames() == 2 && line.sentBytes() == 18);
     }
 };

@@ -9,7 +9,7 @@ using namespace kvsim;
 
 namespace {
 
-// A rotation as textbooks write it, apart from the quaternions of the simulator: about one axis, right-handed.
+// A textbook rotation, independent of the simulator's quaternions: about one axis, right-handed.
 Vector3 turned(Vector3 v, std::size_t axis, float degrees)
 {
     const double c = std::cos(double(degrees) * kRadiansPerDegree);
@@ -65,7 +65,7 @@ private slots:
                     QVERIFY2(distance(rotated(attitude, axis), turned(pitched, 2, s.yaw)) < 1e-5,
                              QByteArray::number(t));
                 }
-                // Gravity and the earth's field are those of the world.
+                // Gravity and the earth's field are constant in world axes.
                 QVERIFY(distance(rotated(attitude, toDoubles(s.acc)), {0, 0, 1}) < 1e-5);
                 const Vector3 field = flu ? Vector3{20, 0, -45} : Vector3{0, 20, -45};
                 QVERIFY(distance(rotated(attitude, toDoubles(s.mag)), field) < 1e-4);
@@ -84,8 +84,8 @@ private slots:
         }
     }
 
-    // Fed with what a swinging body measures, the filter finds the body's tilt, from a first step on that is level only
-    // as far as gravity tells.
+    // Fed with what a swinging body measures, the filter finds the body's tilt, starting from a first step that is
+    // level only as far as gravity shows.
     void filterFollowsMotion()
     {
         const MotionModel model(MotionKind::Swing, AxisConvention::FluZyx);

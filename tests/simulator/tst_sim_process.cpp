@@ -17,13 +17,13 @@
 
 namespace {
 
-/// A host that has the port open, with plain system calls. Reading ends as soon as there is what it waits for.
+/// A host that has the port open, using plain system calls. Reading ends as soon as what it waits for has arrived.
 class Host
 {
 public:
-    QByteArray bytes;           ///< of the last reading
+    QByteArray bytes;           ///< of the last read
     QList<QByteArray> payloads; ///< of the good frames in them
-    int strangeBytes = 0;       ///< outside of the good frames
+    int strangeBytes = 0;       ///< outside the good frames
     bool lost = false;          ///< the port has gone
 
     explicit Host(const QString &path)
@@ -71,7 +71,7 @@ public:
         });
     }
     quint32 timeOf(qsizetype i) const { return qFromLittleEndian<quint32>(payloads.at(i).constData() + 8); }
-    // Of gateway batches 62: the header's time; ids, times and floats of their records.
+    // For gateway batches 62: the header's time; ids, times and floats of their records.
     quint32 batchTime(qsizetype i) const { return qFromLittleEndian<quint32>(payloads.at(i).constData() + 4); }
     quint32 recordTime(qsizetype i, int record) const
     {
@@ -152,7 +152,7 @@ private slots:
         QVERIFY(host.readUntil([&host] { return host.bytes.endsWith(frames::packet(host.bytes.last(8))); }));
     }
 
-    void clocksOfTheirOwn()
+    void separateClocks()
     {
         const QStringList distance{QStringLiteral("--clock"), QStringLiteral("distance 5000")};
         SimulatorProcess both(words("--device gateway --layout dynamic --nodes 2 --rate 200") + distance);
@@ -194,7 +194,7 @@ private slots:
         }
     }
 
-    void garbageIsNoDevice()
+    void garbageIsNotADevice()
     {
         SimulatorProcess simulator(words("--garbage 11000"));
         Host host(simulator.port());
@@ -226,7 +226,7 @@ private slots:
         SimulatorProcess simulator(words("--rate 1000 --vibration 50:0.5:z --vibration-noise 0.001"));
         Host host(simulator.port());
         QVERIFY(host.readFrames(300));
-        // Time stamps leave out a fraction of a millisecond: up to 18 degrees of the tone.
+        // Time stamps drop a fraction of a millisecond: up to 18 degrees of the tone.
         for (qsizetype i = 0; i < 300; ++i) {
             const double middle = 0.5 * std::sin((double(host.timeOf(i) % 20) + 0.5) * M_PI / 10.0);
             const double z = double(qFromLittleEndian<float>(host.payloads.at(i).constData() + 20)) - 1.0;
@@ -239,7 +239,7 @@ private slots:
         SimulatorProcess simulator({});
         Host host(simulator.port());
         QVERIFY(host.write("AT+EOUT=0\r\n") && host.readUntil([&host] { return host.bytes.endsWith("OK\r\n"); }));
-        // With the new settings and the device time from 0.
+        // With the new settings, and the device time starting from 0.
         QVERIFY(host.write("AT+ID=77\r\nAT+ODR=200\r\nAT+RST\r\n") && host.readFrames(3));
         QCOMPARE(host.payloads.first().at(1), char(77));
         QCOMPARE(host.timeOf(0), 0U);
@@ -280,7 +280,7 @@ private slots:
         QVERIFY(simulator.control(("flash dump " + QFile::encodeName(path)).constData()));
         const QByteArray flash = readFile(path);
         QVERIFY(flash.size() == 64 * 1024 && flash.mid(0x1000, image.size()) == image);
-        // The reset leads through the bootloader into the firmware, whose time begins anew.
+        // The reset leads through the bootloader into the firmware, whose time starts again from 0.
         QVERIFY(host.write(frames::packet(frames::hex("0b000000"), 0xA4)) && host.readFrames(2));
         QCOMPARE(host.timeOf(0), 0U);
     }
@@ -296,7 +296,7 @@ private slots:
                 Host host(simulator.port());
                 QVERIFY(host.readFrames(10));
                 QCOMPARE(host.strangeBytes, 0);
-                // What the host before left unread is gone.
+                // What the previous host left unread is gone.
                 QVERIFY2(visit == 0 || host.timeOf(0) > lastTime + 90, qPrintable(QString::number(host.timeOf(0))));
                 lastTime = host.timeOf(host.payloads.size() - 1);
                 const qint64 sent = simulator.stat("frames_sent");
@@ -305,7 +305,7 @@ private slots:
             const qint64 unheard = simulator.stat("unheard");
             QTRY_VERIFY(simulator.stat("unheard") > unheard + 30);
         }
-        // A host that only comes to leave a command is heard, too.
+        // A host that opens the port only to send a command is heard too.
         QVERIFY(Host(simulator.port()).write("AT+ID=42\r\n"));
         const qint64 unheard = simulator.stat("unheard");
         QTRY_VERIFY(simulator.stat("unheard") > unheard + 10);

@@ -75,7 +75,7 @@ private slots:
 
     void rateAndLoop()
     {
-        // Doubled and late rows do not disturb the median step.
+        // Duplicate and late rows do not disturb the median step.
         const CsvRecording recording = parse(kHeader
                                              + "0,1,0,0,0,0,1\n0.005,2,0,0,0,0,1\n0.005,3,0,0,0,0,1\n"
                                                "0.010,4,0,0,0,0,1\n0.9,5,0,0,0,0,1\n0.905,6,0,0,0,0,1\n")
@@ -100,7 +100,7 @@ private slots:
         QVERIFY(recording.truncated());
     }
 
-    void refusesWhatIsNoFile()
+    void refusesWhatIsNotAFile()
     {
         const QTemporaryDir folder;
         for (const QString &path :

@@ -23,7 +23,7 @@ double valueOf(const SampleSource &source, quint64 frame, std::size_t value)
     return double(value < 3 ? sample.acc[value] : sample.gyr[value - 3]);
 }
 
-// Phasor of one frequency over ten seconds that begin an hour after the start; an amplitude times sin has phase -90.
+// Phasor of one frequency over ten seconds, starting one hour in; an amplitude times sin has phase -90.
 std::complex<double> phasor(const SampleSource &source, std::size_t value, double hertz)
 {
     std::complex<double> sum;
@@ -68,7 +68,7 @@ private slots:
     {
         SampleSource source = resting();
         QCOMPARE(source.vibration().setNoise(QStringLiteral("0.1:3")), QString());
-        // Of each axis and of neighbouring axes and frames: mean, standard deviation, and that none go together.
+        // Mean and standard deviation of each axis, and that neighbouring axes and frames are uncorrelated.
         constexpr int kCount = 20'000;
         for (std::size_t axis = 0; axis < 6; ++axis) {
             double mean = 0.0, square = 0.0, acrossFrames = 0.0, acrossAxes = 0.0;

@@ -12,13 +12,13 @@
 #include "support/frames.h"
 #include "support/pty_pair.h"
 
-/// A resident bootloader on a pseudo-terminal, answering from a thread of its own: every command by an acknowledge and
-/// a response, every data packet by an acknowledge. A script may replace any answer.
+/// A resident bootloader on a pseudo-terminal, answering from a separate thread: every command with an acknowledge and
+/// a response, every data packet with an acknowledge. A script may replace any answer.
 class BootloaderPeer
 {
 public:
-    /// Given a packet (or "AT+RST\r\n") and how many came before it, the bytes to answer; none: the usual ones. Runs in
-    /// the peer's thread.
+    /// Maps a packet (or "AT+RST\r\n") and the number of packets before it to the bytes of the answer; none: the usual
+    /// answer. Runs in the peer's thread.
     using Script = std::function<std::optional<QByteArray>(const QByteArray &packet, int index)>;
 
     explicit BootloaderPeer(Script script = {})
@@ -30,7 +30,7 @@ public:
     /// Pulls the cable. For the script.
     void unplug() { m_pty.unplug(); }
 
-    /// All that was received, packet by packet.
+    /// Everything received, packet by packet.
     QList<QByteArray> packets() const
     {
         const QMutexLocker lock(&m_mutex);
@@ -45,7 +45,7 @@ public:
     static QByteArray ack() { return frames::hex("5A A1"); }
     static QByteArray propertyReply(const QByteArray &value) { return ack() + response(0xA7, 0, value); }
 
-    /// A device whose packets hold 32 bytes, 128 KiB of flash in sectors of 1 KiB, bootloader 2.1.3.
+    /// A device with packets of 32 bytes, 128 KiB of flash in sectors of 1 KiB, and bootloader 2.1.3.
     static QByteArray usual(const QByteArray &packet)
     {
         if (packet.size() == 2)
@@ -71,7 +71,7 @@ public:
         }
     }
 
-    /// Size of the command or packet that the bytes begin with; 0 or less when it is not complete.
+    /// Size of the command or packet at the start of the bytes; 0 or less when it is not complete.
     static qsizetype packetSize(const QByteArray &bytes)
     {
         if (bytes.startsWith("AT"))
@@ -115,5 +115,5 @@ private:
     Script m_script;
     mutable QMutex m_mutex; ///< guards m_packets
     QList<QByteArray> m_packets;
-    std::jthread m_thread; ///< last: ends before the rest goes
+    std::jthread m_thread; ///< last: ends before the other members are destroyed
 };

@@ -6,10 +6,10 @@
 #include <initializer_list>
 #include <utility>
 
-/// Builders of what a device sends, independent of the program's own decoder so that a shared mistake shows.
+/// Builders of what a device sends, independent of the program's decoder so that no mistake is shared.
 namespace frames {
 
-/// Bytes from a hexadecimal text; blanks are for the reader.
+/// Bytes from hexadecimal text; blanks are only for readability.
 inline QByteArray hex(const char *text)
 {
     return QByteArray::fromHex(text);
@@ -34,7 +34,7 @@ inline quint16 crc16(const QByteArray &bytes)
     return quint16(remainder);
 }
 
-/// Little-endian values in a row.
+/// Little-endian values, one after the other.
 class Bytes
 {
 public:
@@ -79,7 +79,7 @@ inline QByteArray packet(const QByteArray &payload, quint8 type = 0xA5, int leng
     return Bytes().raw(head).u16(crc16(head + payload)).raw(payload);
 }
 
-/// A full record: 76 bytes, an item of its own or a record of a 0x62 batch. All floats differ.
+/// A full record: 76 bytes, either an item or a record of a 0x62 batch. All floats differ.
 inline QByteArray fullRecord(quint8 id, quint32 timeMs = 1000)
 {
     return Bytes()

@@ -1,5 +1,5 @@
-// For the leak checker: a graphics driver that is unloaded before the end cannot be named in its report, nor suppressed
-// by name. So nothing is unloaded.
+// For the leak checker: a graphics driver that is unloaded before the end has no name in its report and cannot be
+// suppressed by name. So nothing is unloaded.
 
 extern "C" int dlclose(void *)
 {

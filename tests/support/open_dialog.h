@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QWidget>
 
-/// The dialog of a kind, null when there is none.
+/// The open dialog of a type; null when there is none.
 template <class Dialog> Dialog *openDialog()
 {
     for (QWidget *widget : QApplication::topLevelWidgets()) {

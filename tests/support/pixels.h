@@ -3,7 +3,7 @@
 #include <QColor>
 #include <QImage>
 
-/// How many pixels of an image, or of an area of it, `matches` accepts.
+/// The number of pixels in an image, or in an area of it, that `matches` accepts.
 template <typename Matches> int countPixels(const QImage &image, Matches matches, QRect area = {})
 {
     area = area.isNull() ? image.rect() : area & image.rect();
@@ -15,7 +15,7 @@ template <typename Matches> int countPixels(const QImage &image, Matches matches
     return count;
 }
 
-/// Whether a pixel is clearly red, as the charts' X is.
+/// Whether a pixel is clearly red, like X in the charts.
 inline bool isRed(const QColor &color)
 {
     return color.red() > color.green() + 60 && color.red() > color.blue() + 60;

@@ -35,7 +35,7 @@ public:
     const QString &path() const { return m_path; }
 
     /// Writes all bytes as the device, as fast as the other end reads. False when `timeoutMs` pass without progress, or
-    /// at once when the line is full and nobody has it open.
+    /// at once when the line is full and no one has it open.
     bool write(QByteArray bytes, int timeoutMs = 5000)
     {
         while (!bytes.isEmpty()) {
@@ -61,7 +61,7 @@ public:
         return bytes;
     }
 
-    /// Rate that the other end has set, bits per second; 0 for one that is not listed here.
+    /// Rate set by the other end, bits per second; 0 for one that is not listed here.
     int baudRate() const
     {
         termios mode = {};

@@ -2,7 +2,7 @@
 
 #include <QQuickItem>
 
-/// The first item with the object name `name` in and below `root`; null when there is none. Delegates are found too.
+/// The first item with the object name `name` in or below `root`; null when there is none. Delegates are found too.
 inline QQuickItem *findItem(QQuickItem *root, QAnyStringView name)
 {
     if (QAnyStringView(root->objectName()) == name)

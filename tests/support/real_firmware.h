@@ -6,8 +6,8 @@
 #include <QString>
 #include <QStringList>
 
-/// A real program for a real chip, where the machine has one: named by KV_FIRMWARE_HEX, or the one of the Debian
-/// package firmware-microbit-micropython. Cut and converted by srec_cat (Debian package srecord).
+/// A real program for a real chip, if the machine has one: named by KV_FIRMWARE_HEX, or the one from the Debian package
+/// firmware-microbit-micropython. Cut and converted by srec_cat (Debian package srecord).
 namespace real_firmware {
 
 /// Path of the HEX file; empty when it or srec_cat is missing.
@@ -21,7 +21,7 @@ inline QString path()
 
 constexpr char kMissing[] = "Needs a real HEX file (firmware-microbit-micropython, or KV_FIRMWARE_HEX) and srecord.";
 
-/// What srec_cat makes of the program in flash (records behind it configure the chip) by `options`, as a file's
+/// The program in flash (the records after it configure the chip), converted by srec_cat with `options`, as file
 /// content.
 inline QByteArray convert(const QByteArray &options, const char *format)
 {

@@ -10,24 +10,24 @@
 
 #include "support/bootloader_peer.h"
 
-/// A module with a resident bootloader on a pseudo-terminal, in a thread of its own: it streams full records, answers
-/// text commands, restarts into its bootloader by "AT+RST", and back by the bootloader's reset. It keeps what reached
-/// it in which of the two.
+/// A module with a resident bootloader on a pseudo-terminal, in a separate thread: it streams full records, answers
+/// text commands, restarts into its bootloader on "AT+RST", and back on the bootloader's reset. It records what reached
+/// which of the two.
 class SessionDevice
 {
 public:
     std::atomic<bool> isSilent = false;     ///< neither data nor answers
-    std::atomic<bool> hasBootloader = true; ///< else "AT+RST" restarts the firmware
+    std::atomic<bool> hasBootloader = true; ///< otherwise "AT+RST" restarts the firmware
     std::atomic<int> ackDelayMs = 0;        ///< before each answer of the bootloader
-    std::atomic<int> onlyAtBaud = 0;        ///< at any other rate of the line it sends noise; 0: at each
+    std::atomic<int> onlyAtBaud = 0;        ///< at any other line rate it sends noise; 0: works at every rate
 
     SessionDevice() : m_thread([this](auto stop) { run(stop); }) {}
     Q_DISABLE_COPY_MOVE(SessionDevice)
 
     QString path() const { return m_pty.path(); }
-    /// Text commands since the last call that the firmware got, without line ends.
+    /// Text commands that the firmware has received since the last call, without line ends.
     QByteArrayList takeCommands() { return take(m_commands); }
-    /// The same for the bootloader, which knows none but "AT+RST".
+    /// The same for the bootloader, which knows only "AT+RST".
     QByteArrayList takeStrayTexts() { return take(m_strayTexts); }
     bool isInBootloader() const { return m_inBootloader; }
     void unplug() { m_unplug = true; }
@@ -112,5 +112,5 @@ private:
     std::atomic<bool> m_inBootloader = false;
     std::atomic<bool> m_unplug = false;
     bool m_isStopped = false;
-    std::jthread m_thread; ///< last: ends before the rest goes
+    std::jthread m_thread; ///< last: ends before the other members are destroyed
 };

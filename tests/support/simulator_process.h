@@ -4,7 +4,7 @@
 #include <QString>
 #include <QStringList>
 
-/// The device simulator as a process of its own, taking controls. Ends with this object.
+/// The device simulator as a separate process that takes controls. Ends with this object.
 class SimulatorProcess
 {
 public:
@@ -43,7 +43,7 @@ public:
         }
     }
 
-    /// A number from the simulator's statistics, such as "frames_sent"; -1 when it is not there.
+    /// A number from the simulator's statistics, such as "frames_sent"; -1 when there is none.
     qint64 stat(const char *name)
     {
         control("stats");

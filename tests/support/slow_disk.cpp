@@ -52,7 +52,8 @@ int slow_disk::calls()
     return slowCalls;
 }
 
-// The calls that the toolkit's core library makes. A program's own functions come before those of its libraries.
+// The calls that the toolkit's core library makes. A program's own functions take precedence over those of its
+// libraries.
 extern "C" {
 
 int open64(const char *path, int flags, ...)

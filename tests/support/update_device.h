@@ -12,8 +12,8 @@
 #include "support/simulator_process.h"
 #include "updater/firmware_update.h"
 
-/// A simulated device with the update procedure on its line, and nobody else: it begins each update whatever the
-/// doubts, and asks the device for its build when it should be back. Several may run beside each other.
+/// A simulated device with only the update procedure on its line: it begins each update whatever the doubts, and
+/// queries the device's build when it should be back. Several may run side by side.
 class UpdateDevice : public QObject
 {
     Q_OBJECT
@@ -76,7 +76,7 @@ public:
     FirmwareUpdate &update() { return m_update; }
     KvUartPort &port() { return m_port; }
 
-    /// An image of so many packets that tells its build; every packet differs.
+    /// An image of this many packets that contains its build; every packet differs.
     static QByteArray image(int packets, const QByteArray &build = "2026-05-17")
     {
         QByteArray bytes(packets * kPacketBytes, '\0');
@@ -104,7 +104,7 @@ public:
             m_isDone = true;
     }
     bool isDone() const { return m_isDone; }
-    /// Runs one update to its end. False when it has not come to one.
+    /// Runs one update to its end. False when it did not end.
     bool run(const QByteArray &image, int comeBackMs = 2500, bool erasesAgain = false)
     {
         start(image, comeBackMs, erasesAgain);
@@ -112,7 +112,7 @@ public:
     }
     const UpdateResult &result() const { return m_update.result(); }
 
-    /// The flash is what the image makes of it.
+    /// The flash holds the image.
     bool isFlashRight(const QByteArray &image)
     {
         const QString path = m_dumps.filePath(QStringLiteral("flash.bin"));

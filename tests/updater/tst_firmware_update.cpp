@@ -43,7 +43,7 @@ private slots:
         QVERIFY(report.sha256.size() == 64 && report.chip == QLatin1String("4d3c2b1a") && report.writtenBytes == 256);
     }
 
-    // One fault each, with and without reading back; then the attempt that the result asks for.
+    // One fault each, with and without reading back; then the attempt that the result suggests.
     void faults()
     {
         const std::tuple<const char *, Verdict, Verdict, Reason> rows[] = {
@@ -82,7 +82,7 @@ private slots:
         }
     }
 
-    // The target's own reason is not lost: 64 bytes were taken when it stopped.
+    // The target's own reason is not lost: 64 bytes had been accepted when it stopped.
     void targetsReason()
     {
         UpdateDevice device(m_folder.path());
@@ -108,7 +108,7 @@ private slots:
         device.update().cancel();
         QTRY_VERIFY(!device.update().isRunning());
         QVERIFY(UpdateNote::remove(m_folder.path()));
-        // It may be faster now, and is tried again by its user's wish; then it is forgotten.
+        // The chip may be faster now: the user has it tried again, and then it is forgotten.
         QVERIFY(device.fault("erase-ms 0"));
         QVERIFY(device.run(image, 2500, true));
         QCOMPARE(device.result().verdict, Verdict::Verified);
@@ -125,7 +125,7 @@ private slots:
         QVERIFY(device.result().verdict == Verdict::NotVerified && device.result().reason == Reason::Locked);
         QVERIFY(device.fault("locked off"));
 
-        QByteArray silent = image; // tells no build: the device reports what it did before
+        QByteArray silent = image; // contains no build: the device reports the same as before
         silent.replace("build", "bxild");
         QVERIFY(device.run(silent));
         QVERIFY(device.result().verdict == Verdict::SameBuild && device.result().flash == FlashState::Proven);
@@ -141,7 +141,7 @@ private slots:
         QVERIFY(device.result().outcome.fault == BootloaderFault::PortClosed);
     }
 
-    // Wherever it is stopped or the cable is pulled, it ends.
+    // Wherever it is stopped or the cable is pulled, the update ends.
     void stopped()
     {
         const QByteArray image = UpdateDevice::image(kPackets);
@@ -163,7 +163,7 @@ private slots:
         }
     }
 
-    // The line damages what is read: it is read again until it is whole.
+    // The line damages what is read: it is read again until it is intact.
     void readsThroughNoise()
     {
         UpdateDevice device(m_folder.path());
@@ -195,20 +195,14 @@ private slots:
         QCOMPARE(UpdateNote::read(m_folder.path()), note);
         const QString path = m_folder.filePath(QStringLiteral("update-note.json"));
         const QByteArray good = readFile(path);
-        const std::tuple<const char *, const char *> bad[] = {{"70000", "511"},
-                                                              {"70000", "-1"},
-                                                              {"70000", "1e300"},
-                                                              {"4294967280", "4294967296"},
-                                                              {"512", "0.5"},
-                                                              {"512", "[]"},
-                                                              {"aaaaaaaa", "AAAAAAAA"},
-                                                              {"\"format\": 1", "\"format\": 2"},
-                                                              {"MZ221\"", "\""},
-                                                              {"Z\"", "x\""}};
+        const std::tuple<const char *, const char *> bad[] = {
+            {"70000", "511"},  {"70000", "-1"}, {"70000", "1e300"},       {"4294967280", "4294967296"},
+            {"512", "0.5"},    {"512", "[]"},   {"aaaaaaaa", "AAAAAAAA"}, {"\"format\": 1", "\"format\": 2"},
+            {"MZ221\"", "\""}, {"Z\"", "x\""}};
         for (const auto &[text, instead] : bad) {
             QVERIFY(good.contains(text));
             QVERIFY(writeFile(path, QByteArray(good).replace(text, instead)));
-            const bool isEmptyDevice = qstrcmp(text, "MZ221\"") == 0; // that one is fine
+            const bool isEmptyDevice = qstrcmp(text, "MZ221\"") == 0; // that one is valid
             QVERIFY2(UpdateNote::read(m_folder.path()).has_value() == isEmptyDevice, instead);
         }
         for (qsizetype size = 0; size < good.size() - 1; ++size) {

@@ -31,7 +31,7 @@ namespace {
 
 constexpr int kDownloadMs = 30000;
 
-/// A plausible image for address 0: stack in RAM, reset vector inside, and a build that is reported.
+/// A plausible image for address 0: stack in RAM, reset vector inside, and a build that the device reports.
 QByteArray goodImage(int size, const QByteArray &build = "2026-05-17")
 {
     QByteArray image = QByteArray::fromHex("00400020C1000000") + "build " + build;
@@ -40,13 +40,13 @@ QByteArray goodImage(int size, const QByteArray &build = "2026-05-17")
     return image;
 }
 
-/// Whether a widget holds pixels as dark as text that can be read.
+/// Whether a widget contains pixels as dark as readable text.
 bool hasDarkInk(QWidget *widget)
 {
     return countPixels(widget->grab().toImage(), [](const QColor &color) { return qGray(color.rgb()) < 90; }) > 20;
 }
 
-/// The dialog on the screen, with a simulated device on an open port, identified.
+/// The dialog on the screen, with an identified simulated device on an open port.
 struct Bench
 {
     SimulatorProcess device;
@@ -69,9 +69,9 @@ struct Bench
         QTRY_VERIFY(session.state() == SessionState::Live || session.state() == SessionState::Silent);
     }
     bool isConnected() const { return session.isBootloaderConnected(); }
-    /// A download has begun and its end is not shown.
+    /// A download has begun and its end is not shown yet.
     bool isRunning() const { return log().endsWith(QLatin1String("--- Starting download ---\n")); }
-    /// The window shows what has come of the last update.
+    /// The window shows the result of the last update.
     bool hasResult(const char *verdict) const
     {
         return QTest::qWaitFor([&] { return label("LBL_step") == QLatin1String(verdict); }, kDownloadMs);
@@ -79,7 +79,7 @@ struct Bench
     template <typename T> T *child(const char *name) const { return dialog.findChild<T *>(QLatin1String(name)); }
     QPushButton *button(const char *name) const { return child<QPushButton>(name); }
     void press(const char *name) const { QTest::mouseClick(button(name), Qt::LeftButton); }
-    /// Presses a button and returns what that has logged.
+    /// Presses a button and returns what that logged.
     QString logOf(const char *name) const
     {
         child<QPlainTextEdit>("PTE_log")->clear();
@@ -129,7 +129,7 @@ private slots:
         QFile::remove(QStringLiteral("update-note.json"));
     }
 
-    // First, so that its load address is the one of this run.
+    // First, so that its load address becomes that of this run.
     void realFirmware()
     {
         if (real_firmware::path().isEmpty())
@@ -141,7 +141,8 @@ private slots:
                         {QStringLiteral("--packet-size"), QStringLiteral("1024")});
             QVERIFY(bench.device.control(QByteArray("bootloader nak-share ").append(share).constData()));
             QCOMPARE(bench.label("LBL_doubts"), QString());
-            // A packet is sent twice: where one in twenty is refused, some download meets one that is refused twice.
+            // A packet is sent at most twice: when one in twenty is refused, some downloads hit one that is refused
+            // twice.
             int tries = 1;
             while (!bench.update() && tries < 20)
                 ++tries;
@@ -184,7 +185,7 @@ private slots:
         bench.dialog.hide();
         bench.dialog.show();
         QVERIFY(bench.log().endsWith(QStringLiteral("PATH: %1\n").arg(other)));
-        QVERIFY(bench.logOf("BTN_download").isEmpty()); // it is disabled: nothing is connected
+        QVERIFY(bench.logOf("BTN_download").isEmpty()); // disabled: nothing is connected
         bench.dialog.on_BTN_download_clicked();
         QCOMPARE(bench.log(),
                  QStringLiteral("\n--- Loading HEX file ---\nSIZE:3000 bytes\nSP:0x20004000\nPC:0x000000c1\n"
@@ -195,7 +196,7 @@ private slots:
     void wholeUpdate()
     {
         const QByteArray image = goodImage(20000);
-        QList<SessionState> states; // until after the session has ended
+        QList<SessionState> states; // outlives the session
         Bench bench(hex_file::file(image, 0), {QStringLiteral("--flash-size"), QStringLiteral("64")});
         connect(&bench.session, &DeviceSession::stateChanged, this, [&] {
             if (states.isEmpty() || states.constLast() != bench.session.state())
@@ -218,11 +219,11 @@ private slots:
         QVERIFY(bench.isRunning());
         for (const char *name : {"BTN_open_file", "BTN_connect", "BTN_download", "BTN_close"})
             QVERIFY2(!bench.button(name)->isEnabled() && !bench.button(name)->toolTip().isEmpty(), name);
-        QVERIFY(hasDarkInk(bench.button("BTN_connect"))); // locked, but to be read on its green
-        bench.dialog.close();                             // the window manager's way
+        QVERIFY(hasDarkInk(bench.button("BTN_connect"))); // locked, but readable on green
+        bench.dialog.close();                             // as a window manager does
         QTest::keyClick(&bench.dialog, Qt::Key_Escape);
         QVERIFY(bench.dialog.isVisible());
-        QVERIFY(bench.label("LBL_status").contains(QStringLiteral("has to end first")));
+        QVERIFY(bench.label("LBL_status").contains(QStringLiteral("has to finish first")));
         QTRY_VERIFY_WITH_TIMEOUT(!bench.isRunning(), kDownloadMs);
         QVERIFY(
             bench.log().endsWith(QStringLiteral("\n--- Starting download ---\nUpdate complete, image running...\n")));
@@ -230,11 +231,11 @@ private slots:
         QCOMPARE(bar->value(), 100);
         QVERIFY(bench.flash(image.size()) == image);
         QCOMPARE(bench.device.stat("packets"), 625);
-        QVERIFY(bench.button("BTN_connect")->isEnabled()); // while the device is awaited
+        QVERIFY(bench.button("BTN_connect")->isEnabled()); // while waiting for the device
         QVERIFY(bench.hasResult("Verified"));
         QVERIFY(bench.label("LBL_status")
-                    .endsWith(QStringLiteral("0 of 625 packets were sent again. The flash was read back: it is the "
-                                             "image. The device is back with its new firmware.")));
+                    .endsWith(QStringLiteral("0 of 625 packets were sent again. The flash was read back and "
+                                             "matches the image. The device is back with its new firmware.")));
         QCOMPARE(bench.label("LBL_builds"), QStringLiteral("Before: build 2026-03-02 · Now: build 2026-05-17"));
         QVERIFY(!QFile::exists(QStringLiteral("update-note.json")));
         QCOMPARE(states.mid(0, 3),
@@ -267,7 +268,7 @@ private slots:
         QVERIFY(!bench.dialog.isVisible());
     }
 
-    /// Restart and Stop: when they are offered, what they ask, and what they ask for.
+    /// Restart and Stop: when they are offered, what they ask the user, and what they request.
     void restartAndStop()
     {
         const auto box = [] { return openDialog<QMessageBox>(); };
@@ -304,7 +305,7 @@ private slots:
         bench.press("BTN_connect");
         bench.dialog.close();
         bench.dialog.show();
-        QVERIFY(box() == nullptr); // it is answered by coming back
+        QVERIFY(box() == nullptr); // reopening the window answers it
         bench.press("BTN_restart");
         QVERIFY(!bench.isConnected() && bench.label("LBL_status").startsWith(QStringLiteral("The device restarts")));
         QCOMPARE(bench.device.stat("bootloader"), 0);
@@ -317,8 +318,8 @@ private slots:
             bench.press("BTN_stop");
             QVERIFY(box() != nullptr && !box()->isModal());
             QCOMPARE(box()->text(),
-                     QStringLiteral("Stop the download? The device has no complete firmware then. Its bootloader "
-                                    "stays: press Connect, then Download."));
+                     QStringLiteral("Stop the download? The device will have no complete firmware. Its bootloader "
+                                    "remains: press Connect, then Download."));
             if (agreed)
                 answer(buttonWith(QMessageBox::AcceptRole));
             else
@@ -326,7 +327,7 @@ private slots:
             QVERIFY(bench.isRunning());
             QTRY_VERIFY(box() == nullptr);
             QCOMPARE(offered(), std::pair(false, !agreed));
-            QTRY_VERIFY(agreed || bench.child<QProgressBar>("PB_progress")->value() > 0); // it is being written
+            QTRY_VERIFY(agreed || bench.child<QProgressBar>("PB_progress")->value() > 0); // the image is being written
         }
         QTRY_VERIFY_WITH_TIMEOUT(!bench.isRunning(), kDownloadMs);
         QVERIFY(bench.label("LBL_status").startsWith(QStringLiteral("The download was stopped. ")));
@@ -337,13 +338,13 @@ private slots:
         bench.press("BTN_download");
         bench.press("BTN_stop");
         QTRY_VERIFY_WITH_TIMEOUT(!bench.isRunning(), kDownloadMs);
-        QVERIFY(box() == nullptr && bench.isComplete()); // there is nothing left to stop
+        QVERIFY(box() == nullptr && bench.isComplete()); // nothing is left to stop
         bench.press("BTN_connect");
         QVERIFY(bench.session.restartDevice()); // by another window
         QCOMPARE(offered(), std::pair(false, false));
     }
 
-    /// The dialog for the file stands beside the window: the call returns at once.
+    /// The file dialog is not modal to the call: it returns at once.
     void choosesAFile()
     {
         const QString other = QDir::current().filePath(QStringLiteral("other.hex"));
@@ -366,7 +367,7 @@ private slots:
                  other);
     }
 
-    // What is pressed while the window waits for the connect is dropped.
+    // Clicks while the window waits for the connection are dropped.
     void impatientClicks()
     {
         Bench bench(hex_file::file(goodImage(2000), 0));
@@ -414,7 +415,7 @@ private slots:
             {"bootloader stale-ms 20", Complete, {}, nullptr}};
         const QByteArray image = goodImage(5000);
         for (const auto &[control, ends, state, remedy] : rows) {
-            // On a busy machine an acknowledge may come too late by itself. The fault comes with each try.
+            // On a busy machine an acknowledge may be late without any fault. The fault is set for every attempt.
             std::optional<Bench> tried;
             for (int tries = 0; tries < 3; ++tries) {
                 tried.emplace(hex_file::file(image, 0));
@@ -432,7 +433,7 @@ private slots:
                                                        "  - Serial port is correct\n  - Bootloader is installed\n")));
             QVERIFY(ends != Failed
                     || bench.log().endsWith(QStringLiteral("--- Starting download ---\nDownload failed\n")));
-            // The way out that the window has named.
+            // The remedy that the window suggested.
             QVERIFY(remedy == nullptr || bench.device.control(remedy));
             QVERIFY2(ends == Complete || QTest::qWaitFor([&] { return bench.update(); }, 10000), control);
             QVERIFY2(bench.flash(image.size()) == image, control);
@@ -446,7 +447,7 @@ private slots:
         bench.press("BTN_connect");
         bench.press("BTN_download");
         QTRY_VERIFY(bench.child<QProgressBar>("PB_progress")->value() > 0);
-        QVERIFY(!bench.session.close() && bench.isRunning()); // not while a download runs
+        QVERIFY(!bench.session.close() && bench.isRunning()); // not while a download is running
         QVERIFY(bench.device.control("unplug"));
         QTRY_VERIFY(!bench.isRunning());
         QVERIFY(bench.log().endsWith(QStringLiteral("Download failed\n")));
@@ -464,13 +465,13 @@ private slots:
         QVERIFY(!bench.label("LBL_status").isEmpty());
     }
 
-    /// What speaks against an image has to be accepted; what makes a download impossible is refused.
+    /// Doubts about an image have to be accepted; a download that cannot work is refused.
     void doubtsBeforeErasing()
     {
         const QByteArray good = hex_file::file(goodImage(3000), 0);
         const qsizetype half = good.indexOf('\n', good.size() / 2) + 1;
         const std::tuple<QByteArray, const char *, bool> rows[] = {
-            // accepted: it can be downloaded then
+            // true: can be downloaded once accepted
             {hex_file::file(goodImage(3000).replace(4, 1, "\xC2"), 0), "reset vector", true},
             {hex_file::file("\xFF" + goodImage(3000), 0), "stack pointer", true},
             {hex_file::file(goodImage(100), 0), "very small", true},
@@ -532,15 +533,15 @@ private slots:
         QVERIFY(bench.label("LBL_status").contains(QLatin1String("partly erased")));
         bench.update();
         QTRY_VERIFY(bench.label("LBL_status").startsWith(QLatin1String("Nothing was erased")));
-        QVERIFY(bench.label("LBL_obstacles").contains(QLatin1String("not ended an erase")));
+        QVERIFY(bench.label("LBL_obstacles").contains(QLatin1String("An earlier erase of this size")));
         QVERIFY(bench.device.control("bootloader erase-ms 0"));
-        QCOMPARE(bench.button("BTN_remedy")->text(), QStringLiteral("Erase all the same"));
+        QCOMPARE(bench.button("BTN_remedy")->text(), QStringLiteral("Erase anyway"));
         bench.press("BTN_remedy");
         bench.press("BTN_download");
         QVERIFY(bench.hasResult("Verified"));
     }
 
-    /// Each result in the window, with what the device has then: a success is claimed for nothing but a right flash.
+    /// Each result in the window, and the flash of the device after it: success is claimed only for a correct flash.
     void results()
     {
         const std::tuple<const char *, const char *, const char *, const char *> rows[] = {
@@ -566,7 +567,7 @@ private slots:
             QVERIFY(remedy == nullptr || bench.device.control(remedy));
             if (!hasFailed)
                 continue;
-            // What the window says leads out of it.
+            // Following the window's advice leads out of it.
             if (bench.session.state() == SessionState::Closed)
                 bench.open();
             bench.press("BTN_continue");
@@ -580,15 +581,15 @@ private slots:
     {
         Bench bench(hex_file::file(goodImage(2000), 0));
         QTRY_VERIFY_WITH_TIMEOUT(bench.session.device().valid, 10000);
-        QVERIFY(bench.update()); // nobody has waited for the device yet
+        QVERIFY(bench.update()); // the device has not been awaited yet
         QVERIFY(bench.session.close());
         QVERIFY(QFile::exists(QStringLiteral("update-note.json")));
         QVERIFY(bench.device.control("restart"));
-        bench.open(); // the device sits in its bootloader again
+        bench.open(); // the device is in its bootloader again
         QVERIFY(bench.hasResult("Did not come back"));
-        QVERIFY(bench.label("LBL_status").contains(QLatin1String("not introduced itself")));
+        QVERIFY(bench.label("LBL_status").contains(QLatin1String("not identified itself")));
         bench.dialog.sayBootloaderFound();
-        QVERIFY(bench.label("LBL_note").contains(QLatin1String("was written to the end")));
+        QVERIFY(bench.label("LBL_note").contains(QLatin1String("was written completely")));
         bench.press("BTN_forget");
         QVERIFY(bench.label("LBL_note").startsWith(QLatin1String("The device runs its bootloader")));
         QVERIFY(bench.button("BTN_choose")->isVisible() && !bench.button("BTN_continue")->isVisible());
@@ -601,7 +602,7 @@ private slots:
     {
         Bench bench(":10\n");
         bench.press("BTN_connect");
-        QVERIFY(bench.label("LBL_image").contains(QLatin1String("no Intel HEX file")));
+        QVERIFY(bench.label("LBL_image").contains(QLatin1String("Not a loadable Intel HEX file")));
         bench.press("BTN_download");
         QVERIFY(!bench.isRunning());
         QFile::remove(QStringLiteral("firmware.hex"));

@@ -45,7 +45,7 @@ private slots:
     void initTestCase()
     {
         QVERIFY(QDir::setCurrent(m_folder.path()));
-        // The load address is the program's first, looks and failures aside; so this comes first.
+        // The load address is the first one of the run, apart from previews and failures; so this comes first.
         QCOMPARE(hex2bin::start_addr(), kNone);
         QCOMPARE(convert(kEnd), QByteArray());
         QTextStream looked(QByteArray(":020000040800F2\n") + data(0x20, "abcd"));
@@ -59,16 +59,16 @@ private slots:
 
     void images()
     {
-        // The file, its image, where that begins, and how many bytes were skipped.
+        // The file, its image, the image's address, and how many bytes were skipped.
         const QByteArray sixteen = "0123456789ABCDEF";
         const std::tuple<const char *, QByteArray, QByteArray, unsigned int, int> rows[] = {
             {"linear address", ":020000041000EA\n" + data(0xC0, "ab"), "ab", 0x100000C0U, 0},
             {"segment address, padded", ":02000002100000EC\n" + data(8, "ab"), "ab", 0x4008U, 0},
             {"segment address", record(2, 0, QByteArray("\x10\0", 2)) + data(8, "ab"), "ab", 0x4008U, 0},
-            {"segment behind linear", ":020000040800F2\n:02000002100000EC\n" + data(0, "ab"), "ab", 0x4000U, 0},
-            {"linear behind segment", ":02000002100000EC\n:020000040800F2\n" + data(0, "ab"), "ab", 0x08000000U, 0},
+            {"segment after linear", ":020000040800F2\n:02000002100000EC\n" + data(0, "ab"), "ab", 0x4000U, 0},
+            {"linear after segment", ":02000002100000EC\n:020000040800F2\n" + data(0, "ab"), "ab", 0x08000000U, 0},
             {"gap", data(0, sixteen) + data(0x20, sixteen) + kEnd, sixteen + QByteArray(16, '0') + sixteen, 0U, 16},
-            {"over the 64 KiB border", data(0xFFFE, "ab") + ":020000040001F9\n" + data(0, "cd"), "abcd", 0xFFFEU, 0},
+            {"across a 64 KiB boundary", data(0xFFFE, "ab") + ":020000040001F9\n" + data(0, "cd"), "abcd", 0xFFFEU, 0},
             {"no end record", data(4, "ab"), "ab", 4U, 0},
             {"no line end", data(4, "ab").trimmed(), "ab", 4U, 0},
             {"lower case, byte-order mark", "\xEF\xBB\xBF" + data(4, "\xAB\xCD").toLower(), QByteArray("\xAB\xCD"), 4U,
@@ -77,7 +77,7 @@ private slots:
             {"words end", data(4, "ab") + "xyz --\n" + data(6, "cd"), "ab", 4U, 0},
             {"start address ends", data(4, "ab") + record(5, 0, "abcd") + data(6, "cd"), "ab", 4U, 0},
             {"255 bytes", data(0, QByteArray(255, 'x')) + data(255, "y"), QByteArray(255, 'x') + "y", 0U, 0},
-            {"the last byte there is", ":02000004FFFFFC\n" + data(0xFFF0, sixteen), sixteen, 0xFFFFFFF0U, 0},
+            {"the very last byte", ":02000004FFFFFC\n" + data(0xFFF0, sixteen), sixteen, 0xFFFFFFF0U, 0},
             {"no bytes", data(4, {}) + data(4, "ab"), "ab", 4U, 0},
             {"empty", {}, {}, kNone, 0}};
         for (const auto &[name, file, image, address, skipped] : rows) {
@@ -101,12 +101,12 @@ private slots:
             {"whole, blank lines at its end", good + kEnd + "\r\n\r\n", Cut::None},
             {"blank line before the end record", good + "\r\n" + kEnd, Cut::None},
             {"half of it", good, Cut::NoEndRecord},
-            {"cut behind the start address", good + start, Cut::NoEndRecord},
+            {"cut after the start address", good + start, Cut::NoEndRecord},
             {"cut at blank lines", good + "\n\n\n", Cut::NoEndRecord},
             {"blank line inside", good + "\r\n" + data(6, "cd") + kEnd, Cut::BlankLineInside},
             {"start address inside", good + start + data(6, "cd") + kEnd, Cut::OtherRecordInside},
             {"two files in one", good + kEnd + data(6, "cd") + kEnd, Cut::DataAfterEnd},
-            {"words behind the end", good + kEnd + "made by hand\n", Cut::None}};
+            {"words after the end", good + kEnd + "made by hand\n", Cut::None}};
         for (const auto &[name, file, cut] : rows) {
             convert(file);
             QVERIFY2(hex2bin::cut() == cut, name);
@@ -129,7 +129,7 @@ private slots:
             {QByteArray(100000, '\0'), failed}, // no line ends
             {record(4, 0, "x") + good, "hex2bin, address record without an address"},
             {data(8, "abcd") + good, "hex2bin, records run backwards: 0x00000000"},
-            {good + data(3, "ab"), "backwards: 0x00000003 behind 0x00000004"},
+            {good + data(3, "ab"), "backwards: 0x00000003 after 0x00000004"},
             {good + ":020000041000EA\n" + data(0x10C0, "ab"), "image too large at 0x100010c0, gap=268439740"},
             {record(4, 0, "\xFF\xFF") + data(0xFFFE, "abc"), "hex2bin, record beyond the address space"},
             {record(4, 0, "\xFF\xFF") + data(0xFFFF, "a"), "hex2bin, record beyond the address space"},
@@ -167,7 +167,7 @@ private slots:
         QCOMPARE(logged().count('\n'), 1000);
     }
 
-    // Another program's conversion of a real firmware, where both follow the same rules.
+    // Compared with another program's conversion of real firmware, where both follow the same rules.
     void realFirmware()
     {
         if (real_firmware::path().isEmpty())
@@ -183,7 +183,7 @@ private slots:
             QCOMPARE(convert(file), expected);
         }
         logged();
-        // The whole file has records that configure the chip, far behind the program.
+        // The whole file has records that configure the chip, far after the program.
         QCOMPARE(convert(readFile(real_firmware::path())), QByteArray());
         QVERIFY(logged().contains("hex2bin, image too large at 0x100010c0"));
     }

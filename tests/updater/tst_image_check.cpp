@@ -28,7 +28,7 @@ private slots:
             {"flash elsewhere", image(0x20010000, 0x08000101), 0x08000000, {}},
             {"stack below RAM", image(0x0FFFFFFC, 0xA0C1), 0xA000, {Doubt::StackPointer}},
             {"stack beyond RAM", image(0x40000004, 0xA0C1), 0xA000, {Doubt::StackPointer}},
-            {"stack off the word", image(0x20004002, 0xA0C1), 0xA000, {Doubt::StackPointer}},
+            {"stack not word-aligned", image(0x20004002, 0xA0C1), 0xA000, {Doubt::StackPointer}},
             {"even vector", image(0x20004000, 0xA0C0), 0xA000, {Doubt::ResetVector}},
             {"vector before", image(0x20004000, 0x9FFF), 0xA000, {Doubt::ResetVector}},
             {"vector after", image(0x20004000, 0xB001, 4097), 0xA000, {Doubt::ResetVector}},
@@ -40,7 +40,7 @@ private slots:
         QVERIFY(image_check::fitsFlash(65536, 0x08000000, 64) && !image_check::fitsFlash(70000, 0x08000000, 64));
     }
 
-    void tellsTheStatusBefore()
+    void reportsTheEarlierStatus()
     {
         BootloaderOutcome outcome;
         outcome.step = BootloaderStep::Data;

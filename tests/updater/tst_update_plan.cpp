@@ -45,9 +45,9 @@ private slots:
                     {921600, 2041, true, 2041, 921600}, {0, 60000, true, 60000, 0}, {9600, 65535, false, 160, 0}};
         for (const auto &row : rows) {
             const PacketFit fit = packetFit(row.baud, row.size);
-            const QByteArray told = QByteArray::number(row.baud) + ", " + QByteArray::number(fit.largest);
-            QVERIFY2(fit.fits == row.fits && fit.largest == row.largest && fit.higherRate == row.higherRate, told);
-            QVERIFY2(fit.fits || fit.largest == 0 || packetFit(row.baud, fit.largest).fits, told);
+            const QByteArray context = QByteArray::number(row.baud) + ", " + QByteArray::number(fit.largest);
+            QVERIFY2(fit.fits == row.fits && fit.largest == row.largest && fit.higherRate == row.higherRate, context);
+            QVERIFY2(fit.fits || fit.largest == 0 || packetFit(row.baud, fit.largest).fits, context);
         }
     }
 
@@ -122,7 +122,9 @@ private slots:
         const std::tuple<const char *, Change, QList<Doubt>> rows[] = {
             {"none", [](Subject &) {}, {}},
             {"cut", [](Subject &s) { s.cut = hex2bin::Cut::NoEndRecord; }, {Doubt::CutFile}},
-            {"no sector's border", [](Subject &s) { s.address = s.fileAddress = kBase + 64; }, {Doubt::UnalignedStart}},
+            {"not at the start of a sector",
+             [](Subject &s) { s.address = s.fileAddress = kBase + 64; },
+             {Doubt::UnalignedStart}},
             {"other address than last",
              [](Subject &s) { s.lastAddress = kBase + 1024; },
              {Doubt::OtherAddressThanLast}},

@@ -15,7 +15,7 @@ class TestUpdateSession : public QObject
 private slots:
     void initTestCase() { QVERIFY(QDir::setCurrent(m_folder.path())); }
 
-    // As a window does it: the session lends the line, and identifies the device when it is back.
+    // As a window does it: the session lends the line and identifies the device when it is back.
     void updateThroughTheSession()
     {
         SimulatorProcess device({QStringLiteral("--bootloader-wait"), QStringLiteral("400")});
@@ -42,7 +42,7 @@ private slots:
         QCOMPARE(device.stat("boot_text_in_data"), 0);
     }
 
-    // Whatever ends an update early, the line comes back, and in the state that the device is in.
+    // However an update ends early, the line is returned, in the state that the device is in.
     void givesTheLineBack()
     {
         SimulatorProcess device({QStringLiteral("--bootloader-wait"), QStringLiteral("20000")});
@@ -62,21 +62,21 @@ private slots:
         QVERIFY(device.control("silent on"));
         QVERIFY(with.start(order(8)));
         QTRY_VERIFY_WITH_TIMEOUT(isEnded(), 10000);
-        QVERIFY(session.state() != SessionState::Bootloader); // nobody has answered
+        QVERIFY(session.state() != SessionState::Bootloader); // nothing has answered
         QVERIFY(device.control("silent off"));
 
         QVERIFY(prepare());
         update.cancel();
         QTRY_VERIFY(isEnded());
-        QCOMPARE(session.state(), SessionState::Bootloader); // the procedure has brought it there
+        QCOMPARE(session.state(), SessionState::Bootloader); // the procedure brought it there
         QVERIFY(session.connectBootloader());
         QVERIFY(prepare());
         update.cancel();
         QTRY_VERIFY(isEnded());
-        QVERIFY(session.allows(SessionAction::Download)); // it was connected before, and is
+        QVERIFY(session.allows(SessionAction::Download)); // it was connected before, and still is
 
         QVERIFY(prepare());
-        QVERIFY(session.close()); // while it waits for its user
+        QVERIFY(session.close()); // while it waits for the user
         QTRY_VERIFY(isEnded());
         QCOMPARE(update.result().outcome.fault, BootloaderFault::PortClosed);
         QVERIFY(session.open(device.port(), 115200));
@@ -89,7 +89,7 @@ private slots:
         QCOMPARE(update.result().verdict, UpdateVerdict::Failed);
     }
 
-    // A device that somebody has left in its bootloader is silent; it is found, and can be restarted.
+    // A device that was left in its bootloader is silent; it is found and can be restarted.
     void findsABootloader()
     {
         SimulatorProcess device({QStringLiteral("--bootloader-wait"), QStringLiteral("60000")});
