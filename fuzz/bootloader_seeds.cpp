@@ -23,7 +23,7 @@ QByteArray response(char tag, quint32 status, quint32 value)
     return answer(kAck + encodePacket(0xA4, payload));
 }
 
-/// A whole connect: ping, then version, packet size, flash size, device and sector size.
+/// A complete connect: ping, then version, packet size, flash size, device and sector size.
 QByteArray connection(quint32 packetSize)
 {
     return answer(QByteArray::fromHex("5AA70003015000000000") + '\0') + response(char(0xA7), 0, 0x4B020100)

@@ -6,7 +6,7 @@ using namespace kvsim;
 
 namespace {
 
-/// Read size and settings in front of the reply, as the target takes them.
+/// Read size and settings before the reply, as the target expects them.
 QByteArray input(int readSize, const QByteArray &reply)
 {
     return QByteArray().append(char(readSize)).append('\x64') + reply;
