@@ -180,8 +180,8 @@ const QList<scenario::Habit> &scenario::habits()
     static const QList<Habit> rows{
         {"sensor dashboard reopened", reopen<kSensorDashboard>},
         {"gateway dashboard reopened", reopen<kGatewayDashboard>},
-        {"spectrum anew", reopen<kSpectrum>},
-        {"3D view anew", reopen<kThreeD>},
+        {"spectrum reopened", reopen<kSpectrum>},
+        {"3D view reopened", reopen<kThreeD>},
         {"recording dialog reopened", reopen<kRecorder>},
         {"device settings reopened", reopen<kSettings>},
         {"firmware update reopened", reopen<kUpdater>},

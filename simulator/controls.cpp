@@ -80,7 +80,7 @@ constexpr std::array kControls{
             [](Simulator &s, const Value &) { s.unplug(); return QString(); }},
     Control{"replug", Argument::None, 0, 0, "open a new port, print its \"port: ...\" line",
             [](Simulator &s, const Value &) { QString error; s.replug(&error); return error; }},
-    Control{"nodes", Argument::Integer, 1, kMaxNodes, "nodes behind the gateway",
+    Control{"nodes", Argument::Integer, 1, kMaxNodes, "radio nodes of the gateway",
             [](Simulator &s, const Value &v) {
                 return s.setNodes(v.integer) ? QString() : noGateway();
             }},
