@@ -104,7 +104,7 @@ constexpr std::array kControls{
             [](Simulator &s, const Value &v) {
                 return onNodes(s, [&](RadioNodes &nodes) { return nodes.restartClock(v.text, s.deviceTimeNs()); });
             }},
-    Control{"node clock", Argument::Text, 0, 0, "N:OFFSET_MS[:PPM], a clock of its own (62)",
+    Control{"node clock", Argument::Text, 0, 0, "N:OFFSET_MS[:PPM], a separate clock (62)",
             [](Simulator &s, const Value &v) {
                 return onNodes(s, [&v](RadioNodes &nodes) { return nodes.setClock(v.text); });
             }},
