@@ -2,8 +2,8 @@
 
 #include <cstddef>
 
-/// Counts what the whole process takes from the heap. The program's containers allocate inside the toolkit's shared
-/// libraries, so this binary puts its own malloc family before the C library's, for all of them.
+/// Counts the heap allocations of the whole process. The program's containers allocate inside the toolkit's shared
+/// libraries, so this binary overrides the C library's malloc family for all of them.
 namespace allocation_count {
 
 /// Allocations and re-allocations of the calling thread so far.

@@ -1,5 +1,5 @@
-// kv_bare_window: a window of the toolkit with a few texts and nothing behind it. The baseline of starts: what loading
-// the toolkit, connecting to the display and finding the fonts costs any program.
+// kv_bare_window: a toolkit window with a few texts and no program around it. The baseline of starts: what loading the
+// toolkit, connecting to the display and finding the fonts costs any program.
 
 #include <QApplication>
 #include <QLabel>

@@ -19,7 +19,7 @@ namespace {
 
 constexpr int kFeedMs = 5;
 
-/// A walk, roughly: steps of 1.1 s with a hard strike, and noise.
+/// Roughly a walk: steps of 1.1 s with a hard heel strike, and noise.
 void pushSample(SensorDashboardBridge &bridge, quint64 index, unsigned int rate)
 {
     const double t = double(index) / rate;

@@ -1,7 +1,7 @@
 // kv_download_bench [--baud B] [--kib K] [--runs N]: downloads an image to the simulated bootloader with packets of 32
-// and 512 bytes, and reads it back. Prints the times of the data phase and of the reading, as multiples of the time
-// that their bytes take on the wire, and beside the least that waits in steps of 1 ms allow the data phase. Check the
-// flash with the tests: here only the time counts.
+// and 512 bytes, and reads it back. Prints the times of the data phase and of reading back, as multiples of the time
+// that their bytes take on the wire, and next to them the minimum that waits in steps of 1 ms allow for the data phase.
+// The tests check the flash: here only the time counts.
 
 #include <QCommandLineParser>
 #include <QCoreApplication>

@@ -1,8 +1,8 @@
-// kv_end_to_end [options] -- [simulator options...]: the real main window against the simulator as a process of its
-// own. Counts the frames that were sent, decoded and recorded, and measures the processor share of every thread,
-// memory, and how long a frame takes from the simulator's last write to its publication and to a picture that shows it.
-// Also a soak run: --seconds 600 --report 30. Ends with 1 when a frame was lost. See docs/performance.md, and
-// scripts/benchmark, which runs it under several loads.
+// kv_end_to_end [options] -- [simulator options...]: the real main window against the simulator in a separate process.
+// Counts the frames that were sent, decoded and recorded, and measures the processor share of every thread, memory, and
+// how long a frame takes from the simulator's last write to its publication and to a picture that shows it. Also a soak
+// run: --seconds 600 --report 30. Ends with 1 when a frame was lost. See docs/performance.md, and scripts/benchmark,
+// which runs it under several loads.
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -32,7 +32,7 @@ namespace {
 
 constexpr int kDrainMs = 2000;
 constexpr int kSettleMs = 1000;
-constexpr int kFallbackBaud = 921600; // of the host's end, where the simulated line is unlimited
+constexpr int kFallbackBaud = 921600; // for the host's end, where the simulated line is unlimited
 
 struct Plan
 {
@@ -55,7 +55,7 @@ Plan readPlan(const QApplication &application)
                                const char *standard = nullptr) {
         parser.addOption({QLatin1String(name), QLatin1String(text), QLatin1String(value), QLatin1String(standard)});
     };
-    add("seconds", "measure for so long", "S", "30");
+    add("seconds", "measure for this long", "S", "30");
     add("warm-up", "before that", "S", "5");
     add("report", "print a line every S seconds", "S", "0");
     add("record", "record into a temporary folder");
@@ -100,7 +100,7 @@ void openViews(const Plan &plan, const Desk &desk, StreamProbe &probe)
 {
     if (plan.dashboards) {
         desk.find<QAction>("action_sensor_dashboard")->trigger();
-        desk.find<QAction>("action_wireless_gateway_dashboard")->trigger(); // nothing without a gateway
+        desk.find<QAction>("action_wireless_gateway_dashboard")->trigger(); // does nothing without a gateway
     }
     if (plan.spectrum)
         desk.find<QAction>("actionFFT_Chart")->trigger();
@@ -148,13 +148,13 @@ QString rendererName()
     return QString::fromLatin1(name);
 }
 
-/// How many frames came how far, from the opening of the port to the end of the stream.
+/// How many frames got how far, from the opening of the port to the end of the stream.
 struct Counts
 {
     qint64 dropped = 0; ///< refused by the simulated line: it was too slow
     qint64 sent = 0;
     qint64 decoded = 0;
-    qint64 offered = 0;  ///< decoded while it recorded
+    qint64 offered = 0;  ///< decoded while recording
     qint64 recorded = 0; ///< lines in the files
 
     bool complete() const { return sent == decoded && recorded == offered; }
@@ -213,7 +213,7 @@ QJsonObject toJson(const Latencies &latencies)
             {QStringLiteral("dashboard_pictures_per_second"), latencies.dashboardPicturesPerSecond}};
 }
 
-/// Measures for the planned time, with a line now and then.
+/// Measures for the planned time, printing a line now and then.
 Costs measure(const Plan &plan, const Desk &desk, qint64 simulatorId, QTextStream &out)
 {
     using namespace process_figures;
@@ -331,7 +331,7 @@ int run(ProbedApplication &application, const Plan &plan)
     const Costs costs = measure(plan, desk, simulator->process().processId(), out);
 
     Counts counts;
-    counts.dropped = simulator->stat("dropped"); // before it is told to drop all
+    counts.dropped = simulator->stat("dropped"); // before it is made to drop everything
     simulator->control("silent on");
     wait(kDrainMs);
     counts.sent = simulator->stat("frames_sent");
@@ -343,7 +343,7 @@ int run(ProbedApplication &application, const Plan &plan)
         counts.offered = counts.decoded - qint64(decodedBefore);
         counts.recorded = recordedLines();
     }
-    // With a frame lost nobody knows which entry belongs to which frame.
+    // When a frame is lost it is not known which entry belongs to which frame.
     const Latencies latencies = counts.sent == counts.decoded ? latenciesOf(probe, timesPath, costs) : Latencies();
     application.setProbe(nullptr);
     print(out, counts, costs, latencies);

@@ -1,4 +1,4 @@
-// The transform beside a reference transform of the same run, and the analysis of one frame.
+// The transform next to a reference transform in the same run, and the analysis of one frame.
 
 #include <benchmark/benchmark.h>
 

@@ -12,7 +12,7 @@ latency::Summary summaryOf(std::vector<qint64> &latenciesNs)
     if (latenciesNs.empty())
         return {};
     std::sort(latenciesNs.begin(), latenciesNs.end());
-    // The smallest value that at least this share of all does not exceed.
+    // The smallest value that at least this share of all values does not exceed.
     const auto percentile = [&latenciesNs](size_t percent) {
         return double(latenciesNs[(latenciesNs.size() * percent + 99) / 100 - 1]) * 1e-6;
     };

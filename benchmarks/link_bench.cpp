@@ -1,5 +1,5 @@
-// The path of every byte from the port to the views: deframing, parsing, publishing. Each stands beside its baseline in
-// the same run, because only the ratio of two neighbours means something on a busy machine.
+// The path of every byte from the port to the views: deframing, parsing, publishing. Each is measured next to its
+// baseline in the same run, because on a busy machine only the ratio of the two is meaningful.
 
 #include <benchmark/benchmark.h>
 
@@ -51,7 +51,7 @@ private:
     std::size_t m_before;
 };
 
-// The least that any deframer has to do with a packet: keep its bytes and compute the CRC once.
+// The minimum that any deframer has to do with a packet: keep its bytes and compute the CRC once.
 void deframeBaseline(benchmark::State &state)
 {
     const QByteArray packet = frames::packet(fullPayload());
@@ -68,7 +68,7 @@ void deframeBaseline(benchmark::State &state)
 }
 BENCHMARK(deframeBaseline);
 
-/// `keep`: the receiver holds the last payload, as a queued signal does, so that the decoder must part from its buffer.
+/// `keep`: the receiver holds the last payload, as a queued signal does, so that the decoder must give its buffer away.
 void deframe(benchmark::State &state, bool keep)
 {
     const QByteArray packet = frames::packet(fullPayload());
@@ -90,7 +90,7 @@ void deframe(benchmark::State &state, bool keep)
 BENCHMARK_CAPTURE(deframe, direct, false);
 BENCHMARK_CAPTURE(deframe, kept, true);
 
-// Every float or scaled integer of the payload read once, into a sum: what no parser can avoid.
+// Every float or scaled integer of the payload is read once, into a sum: what no parser can avoid.
 void parseBaseline(benchmark::State &state, const QByteArray &payload, int nodes)
 {
     const int record = int(payload.size()) / nodes;
@@ -112,7 +112,7 @@ void parseBaseline(benchmark::State &state, const QByteArray &payload, int nodes
     state.SetItemsProcessed(state.iterations() * nodes);
 }
 
-/// A dispatcher with one receiver per signal, and the number of signals that they have got.
+/// A dispatcher with one receiver per signal, and the number of signals that they received.
 struct Receivers
 {
     Receivers()

@@ -1,5 +1,5 @@
-// The same history in a general plotting widget: the reduction that it does on its own before it draws a curve. It
-// stands beside `decimateByTime` of kv_wave_bench, which reduces as many samples for a plot of the same width.
+// The same history in a general plotting widget: the reduction that it does on its own before it draws a curve. Compare
+// it with `decimateByTime` of kv_wave_bench, which reduces as many samples for a plot of the same width.
 
 #include <benchmark/benchmark.h>
 
@@ -43,7 +43,7 @@ void adaptiveSampling(benchmark::State &state)
     plot.axisRect()->setOuterRect({0, 0, kPlotWidth, 300});
     QVector<QCPGraphData> points;
     for (auto _ : state) {
-        points.resize(0); // it appends; the memory stays
+        points.resize(0); // it appends; the memory is kept
         graph->getOptimizedLineData(&points, graph->data()->constBegin(), graph->data()->constEnd());
     }
     state.counters["points"] = double(points.size());

@@ -74,7 +74,7 @@ process_figures::Figures process_figures::look(qint64 pid)
     std::sort(tasks.begin(), tasks.end(), [](const QString &a, const QString &b) { return a.toInt() < b.toInt(); });
     for (const QString &task : tasks) {
         const QByteArray stat = contents(root + QLatin1String("task/") + task + QLatin1String("/stat"));
-        if (!stat.isEmpty()) // it has ended in between
+        if (!stat.isEmpty()) // it has ended meanwhile
             figures.threads.append(
                 {task.toInt(), task.toLongLong() == pid ? QByteArray("main") : nameIn(stat), processorNs(stat)});
     }
@@ -118,7 +118,7 @@ QList<process_figures::Share> process_figures::sharesBetween(const Figures &from
         share.percent += 100.0 * double(usedNs) / elapsedNs;
         living += 100.0 * double(usedNs) / elapsedNs;
     }
-    // The kernel rounds each figure by itself; less than a tick per thread is no ended thread.
+    // The kernel rounds each figure separately; less than a tick per thread does not mean an ended thread.
     const double rest = percentBetween(from, to) - living;
     const double rounding = 100.0 * double(to.threads.size()) * double(tickNs()) / elapsedNs;
     if (rest > rounding)

@@ -1,5 +1,5 @@
-// A sample's way into the file: queued, formatted, written. It stands beside the bare conversions of its numbers, which
-// no writer of this text can avoid.
+// A sample's path into the file: queued, formatted, written. It is compared with the bare conversions of its numbers,
+// which no writer of this text can avoid.
 
 #include <benchmark/benchmark.h>
 
@@ -98,7 +98,7 @@ template <typename Enqueue> void record(benchmark::State &state, Enqueue enqueue
         for (int i = 0; i < kRecords; ++i)
             enqueue(writer);
         writer.drainPending();
-        QCoreApplication::removePostedEvents(&writer); // the drain that it asked for has been run
+        QCoreApplication::removePostedEvents(&writer); // the drain that it requested has run
     }
     if (writer.getFrameCtr() != quint32(state.iterations() * kRecords) || writer.lostRecords() != 0)
         state.SkipWithError("records are missing");

@@ -24,7 +24,7 @@ namespace {
 
 constexpr int kFeedMs = 5;
 
-/// A resting sensor with noise; with `tone` a machine of 37 Hz with its harmonics on X and something else on Y.
+/// A resting sensor with noise; with `tone`, a machine at 37 Hz with its harmonics on X and another tone on Y.
 node_data_t sample(quint64 index, unsigned int rate, bool tone)
 {
     const double t = double(index) / rate;

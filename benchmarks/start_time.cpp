@@ -1,6 +1,6 @@
 // kv_start_time [options] PROGRAM: how long a program takes from its start to the first painted picture of its window,
-// seen from outside: the display server reports what is drawn into new windows. The program runs in a folder of its
-// own, with a language chosen there. See docs/performance.md.
+// seen from outside: the display server reports what is drawn into new windows. The program runs in a separate folder,
+// where a language has been chosen. See docs/performance.md.
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -34,8 +34,8 @@
 namespace {
 
 constexpr int kPatienceMs = 60000;
-constexpr int kSmallestWindow = 300; // pixels either way: helpers of the toolkit are smaller
-constexpr int kFewestColours = 16;   // of a picture that is more than a background
+constexpr int kSmallestWindow = 300; // pixels in either direction: helper windows of the toolkit are smaller
+constexpr int kFewestColours = 16;   // in a picture that is more than a background
 constexpr int kBetweenRunsMs = 500;
 
 template <typename T> using Reply = std::unique_ptr<T, decltype(&std::free)>;
@@ -68,7 +68,7 @@ public:
 
     bool works() const { return m_damageEvent != 0; }
 
-    /// Waits until a window of fair size has been drawn into. @return its picture and when it was reported
+    /// Waits until a window of reasonable size has been drawn into. @return its picture and when it was reported
     std::optional<std::pair<QImage, qint64>> firstPicture()
     {
         QElapsedTimer waited;
@@ -137,12 +137,12 @@ private:
 struct Run
 {
     double paintedMs = 0;
-    double processorMs = 0; ///< used in all, until it was ended right behind its first picture
-    qint64 residentKib = 0; ///< by then
+    double processorMs = 0; ///< total, until it was ended right after its first picture
+    qint64 residentKib = 0; ///< at that time
     QImage picture;
 };
 
-/// Forgets all files that are cached but in no program's use. Root only.
+/// Drops all cached files that no program is using. Root only.
 bool dropCaches()
 {
     ::sync();
@@ -216,7 +216,7 @@ int main(int argc, char **argv)
     std::vector<double> paintedMs;
     std::vector<double> processorMs;
     std::vector<qint64> residentKib;
-    for (int i = cold ? 0 : -1; i < runs; ++i) { // the first warm one only fills the caches
+    for (int i = cold ? 0 : -1; i < runs; ++i) { // the first warm start only fills the caches
         if (cold && !dropCaches()) {
             problems << "kv_start_time: caches can be dropped by root only\n";
             return 1;

@@ -63,7 +63,7 @@ void StreamProbe::onSnapshot()
 {
     const quint64 seq = m_dispatcher->snapshot().seq;
     if (seq == 0 || (!m_published.empty() && m_published.back().seq == seq))
-        return; // the snapshot changes for other reasons, too
+        return; // the snapshot also changes for other reasons
     m_published.push_back({seq, m_dispatcher->currentSelectedNode().time_ms, process_figures::monotonicNs()});
 }
 
@@ -85,7 +85,7 @@ void StreamProbe::watch(DashboardWindow &dashboard)
 {
     findCharts(*dashboard.contentItem(), m_charts);
     m_polishes = polishesOf(m_charts);
-    // While the picture is handed over, the main thread waits: its objects may be read.
+    // While the picture is handed over the main thread waits, so its objects may be read.
     connect(
         &dashboard, &QQuickWindow::beforeSynchronizing, this,
         [this] {

@@ -13,11 +13,11 @@ class StreamDispatcher;
 class ValueStrip;
 class form_base;
 
-/// Notes when samples are published and when pictures that show them are complete, all in nanoseconds of
-/// CLOCK_MONOTONIC. It watches the real windows from outside, through their signals and events; what it costs is one
-/// clock call and one entry per frame and per repaint.
+/// Records when samples are published and when pictures that show them are complete, all in nanoseconds of
+/// CLOCK_MONOTONIC. It watches the real windows from outside, through their signals and events; its cost is one clock
+/// call and one entry per frame and per repaint.
 ///
-/// Made and used in the main thread; the entries are read when the stream has ended.
+/// Created and used in the main thread; the entries are read when the stream has ended.
 class StreamProbe : public QObject
 {
     Q_OBJECT
@@ -40,10 +40,10 @@ public:
 
     explicit StreamProbe(form_base &window);
 
-    /// Notes the pictures of an open dashboard too, each when its buffers are swapped.
+    /// Also records the pictures of an open dashboard, each when its buffers are swapped.
     void watch(DashboardWindow &dashboard);
 
-    /// The event loop has delivered a request to repaint: what it painted is with the display server.
+    /// The event loop has delivered a repaint request: what it painted has reached the display server.
     void repaintDelivered();
 
     const std::vector<Published> &published() const { return m_published; }
@@ -58,7 +58,7 @@ private:
     void onSnapshot();
 
     StreamDispatcher *m_dispatcher;
-    ValueStrip *m_strip; ///< shows the device time of the sample that the panel shows
+    ValueStrip *m_strip; ///< shows the device time of the sample in the panel
     std::vector<Published> m_published;
     /// A picture of the panel: the time stamp in it, and when it was complete.
     struct Painted
@@ -72,12 +72,12 @@ private:
     // Written by the dashboard's render thread, read when the stream has ended.
     QList<SeriesItem *> m_charts;
     int m_polishes = 0;
-    quint64 m_synchronised = 0; ///< newest frame in the picture that is being drawn, 0: none of ours
+    quint64 m_synchronised = 0; ///< newest frame in the picture being drawn, 0: none of ours
     mutable QMutex m_mutex;     ///< guards the entries
     std::vector<Shown> m_swapped;
 };
 
-/// The application, which tells a probe of repaints.
+/// The application, which notifies a probe of repaints.
 class ProbedApplication : public QApplication
 {
     Q_OBJECT

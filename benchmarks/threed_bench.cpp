@@ -14,8 +14,8 @@
 #include <cstdio>
 #include <ctime>
 
-#include "app/quick_window.h"
 #include "app/application_fonts.h"
+#include "app/quick_window.h"
 #include "app/theme.h"
 #include "attitude/form_threed.h"
 
@@ -23,7 +23,7 @@ namespace {
 
 constexpr int kFeedMs = 5;
 
-/// Two degrees of a second's turn per sample at 1000 samples/s, about an axis that itself wanders.
+/// A turn about an axis that itself wanders, at 1000 samples/s.
 NormalizedAttitude attitudeAt(double seconds)
 {
     NodeSnapshot node;

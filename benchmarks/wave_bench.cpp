@@ -1,5 +1,5 @@
-// What a chart costs: taking a sample in, and reducing its history to the points of a repaint. The reduction stands
-// beside a bare pass for minimum and maximum over as many values, the least that any reduction has to do.
+// What a chart costs: taking a sample in, and reducing its history to the points of a repaint. The reduction is
+// compared with a bare pass for minimum and maximum over as many values, the minimum that any reduction has to do.
 
 #include <benchmark/benchmark.h>
 
@@ -18,7 +18,7 @@ constexpr int kSamples = WaveformDataModel::kCapacity;
 constexpr int kPoints = 2000;
 constexpr double kWholeHistorySec = 3600;
 
-/// A sine with noise on it, the same in every run.
+/// A sine with added noise, the same in every run.
 float signal(int index)
 {
     static quint32 state = 1;
@@ -26,7 +26,7 @@ float signal(int index)
     return std::sin(float(index) * 0.01F) + float(state >> 8) * 1e-8F;
 }
 
-/// A full store at 1000 samples/s; a third more than fits, so that the storage's end lies within the history.
+/// A full store at 1000 samples/s; a third more than fits, so that the end of the storage lies within the history.
 std::unique_ptr<WaveformDataModel> fullModel()
 {
     auto model = std::make_unique<WaveformDataModel>(4);

@@ -15,8 +15,8 @@
 
 namespace {
 
-constexpr int kStartMs = 3000; // nobody opens a window before
-constexpr int kLookMs = 800;   // till what was closed is gone
+constexpr int kStartMs = 3000; // no user opens a window earlier
+constexpr int kLookMs = 800;   // until closed windows are gone
 constexpr int kFirstOpeningMs = 800;
 constexpr int kOpenMs = 8000;
 constexpr int kStreamMs = 8000;
@@ -26,7 +26,7 @@ constexpr quint64 kFramesInOrder = 20;
 
 constexpr int kFaultsPerRound = 8;
 constexpr int kFaultsPerQuickRound = 4;
-// What may lie in the system's buffers between simulator and program when a port is closed.
+// What may be in the system's buffers between simulator and program when a port is closed.
 constexpr quint64 kPipeBytes = 64 * 1024;
 
 bool isLive(const form_base &window)
@@ -34,7 +34,7 @@ bool isLive(const form_base &window)
     return window.findChild<QWidget *>(QStringLiteral("page_live"))->isVisible();
 }
 
-/// A deck that is dealt to its last card, so that everything has its turn, and then shuffled anew.
+/// A deck that is dealt to the last card, so that everything has its turn, and then shuffled again.
 template <class Card> void fill(QList<Card> &deck, const QList<Card> &cards, QRandomGenerator &random)
 {
     deck = cards;
@@ -118,7 +118,7 @@ void Campaign::openEverything()
         const bool isFirst = m_report.rounds == 1;
         act((isFirst ? QLatin1String("first opening of ") : QLatin1String("open ")) + QLatin1String(opening.name),
             opening.run);
-        // Later all at once; for the first time one by one, so that the report tells what each takes.
+        // Later all at once; the first time one by one, so that the report shows what each takes.
         if (isFirst && !m_options.isQuick)
             pause(kFirstOpeningMs, kFirstOpeningMs);
         else
@@ -132,7 +132,7 @@ void Campaign::misbehave(const scenario::Device &device)
     for (int i = 0; i < (m_options.isQuick ? kFaultsPerQuickRound : kFaultsPerRound); ++i) {
         if (m_faults.isEmpty())
             fill(m_faults, scenario::faults(), m_random);
-        // The next one that suits the device; the others keep their turn.
+        // The next one that suits the device; the others keep their place.
         const auto next = std::find_if(m_faults.begin(), m_faults.end(), [&device](const scenario::Fault &fault) {
             return fault.suits == scenario::Suits::All || device.isGateway;
         });
@@ -149,7 +149,7 @@ void Campaign::misbehave(const scenario::Device &device)
     }
 }
 
-/// All faults are over: waits until frames arrive as they should. False, and noted, when they do not.
+/// All faults are over: waits until frames arrive properly. False, and reported, when they do not.
 bool Campaign::backToOrder()
 {
     if (!m_user.waitForCalm(kOpenMs))
@@ -165,7 +165,7 @@ bool Campaign::backToOrder()
     return false;
 }
 
-/// The device falls silent and all that is under way arrives; then every number has to agree.
+/// The device falls silent and everything in transit arrives; then all numbers must agree.
 void Campaign::settleBooks(bool bytesWereDamaged)
 {
     control("silent on");
@@ -174,7 +174,7 @@ void Campaign::settleBooks(bool bytesWereDamaged)
     QElapsedTimer clock;
     clock.start();
     bool isSettled = false;
-    do { // until nothing moves any more and the program's own counters have followed, which they do once a second
+    do { // until nothing changes any more and the program's own counters have caught up, which they do once a second
         now = sent();
         taken = counts();
         pause(kSettleMs, kSettleMs);
@@ -204,7 +204,7 @@ void Campaign::settleBooks(bool bytesWereDamaged)
     if (round.payloads != round.published && round.closings == 0)
         fail(QStringLiteral("of %1 good packets %2 were shown").arg(round.payloads).arg(round.published));
     if (round.countedBytes != round.bytesRead || round.countedPackets != round.payloads)
-        fail(QStringLiteral("the link's counters say %1 bytes and %2 packets; there were %3 and %4")
+        fail(QStringLiteral("the link's counters show %1 bytes and %2 packets; there were %3 and %4")
                  .arg(round.countedBytes)
                  .arg(round.countedPackets)
                  .arg(round.bytesRead)
@@ -216,8 +216,8 @@ void Campaign::settleBooks(bool bytesWereDamaged)
                  .arg(round.closings));
     if (!bytesWereDamaged && round.payloads > now.intact)
         fail(QStringLiteral("%1 good packets of %2 frames").arg(round.payloads).arg(now.intact));
-    // Of a frame that a closing cuts in two one part is read and counted, the other never read. Beside damaged frames
-    // whole intact ones may be swallowed; their bytes are counted as lost.
+    // When closing cuts a frame in two, one part is read and counted, the other is never read. Damaged frames may
+    // swallow whole intact neighbours; their bytes are counted as lost.
     const quint64 cutOff = now.bytes - round.bytesRead;
     const quint64 explained =
         round.closings + (cutOff + (bytesWereDamaged ? round.lostBytes : 0)) / quint64(m_account.smallestPacket());
@@ -227,7 +227,7 @@ void Campaign::settleBooks(bool bytesWereDamaged)
                  .arg(explained));
 }
 
-/// The port is closed, or the cable pulled.
+/// The port is closed, or the cable is pulled.
 void Campaign::endConnection()
 {
     if (m_random.bounded(2) == 0) {
@@ -392,7 +392,7 @@ void Campaign::fail(const QString &what)
     m_report.failures.append(QStringLiteral("round %1: %2").arg(m_report.rounds).arg(what));
 }
 
-/// At once on the disk, so that a crash does not take the last words with it.
+/// Written to disk at once, so that a crash does not lose the last lines.
 void Campaign::log(const QString &line)
 {
     m_log << QString::number(double(m_clock.elapsed()) / 1000, 'f', 3) << ' ' << line << Qt::endl;

@@ -16,10 +16,10 @@
 #include "support/simulator_process.h"
 
 /// A user who works with the running program while one device after the other misbehaves. Each round connects a device,
-/// opens every window, records, lets a few things go wrong while habits of a user go on, and ends with the books:
-/// bytes, frames and records that were sent against those that arrived; memory, handles and threads in equal states.
+/// opens every window, records, makes a few things go wrong while the user continues to work, and ends by settling
+/// accounts: bytes, frames and records sent against those that arrived; memory, handles and threads in equal states.
 ///
-/// run() is for a thread of its own; the program's main thread only carries out what it posts.
+/// run() needs its own thread; the program's main thread only executes what it posts.
 class Campaign
 {
 public:
@@ -41,15 +41,15 @@ public:
     /// After run(), and after the program has ended.
     CampaignReport &report() { return m_report; }
 
-    // What faults are made of. Each takes its time, with habits of the user in between.
+    // The building blocks of faults. Each takes its time, with actions of the user in between.
 
-    /// Sends the simulator controls, lets time pass and sends those that end them.
+    /// Sends controls to the simulator, lets time pass, and sends those that end them.
     void during(std::initializer_list<const char *> begin, std::initializer_list<const char *> end);
     void control(const char *line);
     void openPort();
     void closePort();
     void reopenPort();
-    /// Presses the settings' button.
+    /// Presses the button of the settings.
     void identify();
 
 private:

@@ -8,14 +8,14 @@
 
 namespace {
 
-// What two looks at one state may differ by. Where OpenGL draws, each window keeps buffers to use them again and the
-// shapes of all characters that it has shown, and without a GPU the driver's textures are in this memory, too.
+// The allowed difference between two samples of one state. Where OpenGL draws, each window keeps buffers for reuse and
+// the shapes of all characters that it has shown; without a GPU the driver's textures are in this memory too.
 constexpr int kResidentSlackKib = 8 * 1024;
 constexpr int kHeapSlackKib = 2 * 1024;
 constexpr int kDriverSlackKib = 8 * 1024;
 constexpr int kShownStalls = 12;
 
-// Six samples per pixel are asked for, and a renderer may have no more than four; and replies that are no text hold
+// Six samples per pixel are requested, but a renderer may have only four; and replies that are not text contain
 // characters that a font has no rules for.
 constexpr QLatin1String kToleratedWarnings[] = {QLatin1String("Requested MSAA sample count"),
                                                 QLatin1String("OpenType support missing for")};
@@ -30,7 +30,7 @@ double median(QList<double> values)
 struct Figure
 {
     const char *name;
-    qsizetype fewestLooks; ///< with fewer it is not judged: what was shown last makes memory swing
+    qsizetype fewestLooks; ///< with fewer it is not judged: memory fluctuates with what was shown last
     double slack;
     bool isMemory;
     double (*of)(const CampaignReport::Look &look);
@@ -45,7 +45,7 @@ constexpr Figure kFigures[] = {
     {"threads", 4, 0, false, [](const CampaignReport::Look &look) { return double(look.threads); }},
 };
 
-/// The looks at each state behind the warm-up, in order of time.
+/// The samples of each state after the warm-up, in chronological order.
 QMap<QString, QList<CampaignReport::Look>> byState(const CampaignReport &report)
 {
     QMap<QString, QList<CampaignReport::Look>> states;
@@ -56,7 +56,7 @@ QMap<QString, QList<CampaignReport::Look>> byState(const CampaignReport &report)
     return states;
 }
 
-/// Medians of a figure in the first and in the second half of the looks; needs two of them.
+/// Medians of a figure in the first and the second half of the samples; needs two of them.
 std::pair<double, double> halves(const QList<CampaignReport::Look> &looks, const Figure &figure)
 {
     QList<double> first;
@@ -112,13 +112,13 @@ void CampaignReport::print(QTextStream &out) const
 {
     out << rounds << " rounds, " << actions << " actions of the user, " << faultsDone.size() << " faults\n\n";
 
-    out << "Events of the main thread, by the time that they waited:\n";
+    out << "Events of the main thread, by waiting time:\n";
     for (std::size_t i = 0; i < waits.histogram.size(); ++i) {
         const bool isLast = i == Watchdog::kClassesMs.size();
         out << (isLast ? "  from " : "  below ") << Watchdog::kClassesMs[isLast ? i - 1 : i]
             << " ms: " << waits.histogram[i] << '\n';
     }
-    out << "Longest stalls, ms (of them on a processor; ready, but without one):\n";
+    out << "Longest stalls, ms (of which on a processor; ready, but without one):\n";
     for (const Watchdog::Stall &stall : waits.stalls.first(std::min<qsizetype>(kShownStalls, waits.stalls.size()))) {
         out << "  " << qRound(stall.ms) << " (" << qRound(stall.ranMs) << "; " << qRound(stall.queuedMs) << ") at "
             << qRound(stall.atSeconds) << " s: " << stall.during << '\n';
@@ -135,11 +135,11 @@ void CampaignReport::print(QTextStream &out) const
         << "Records: " << books.recordings.cameIn << " came in, " << books.recordings.written << " written in "
         << books.recordings.count << " recordings, " << books.linesInFiles << " lines in the files\n\n";
 
-    out << "Views: " << views.looks << " values looked at, " << views.strangers << " of them another node's; "
+    out << "Views: " << views.looks << " values checked, " << views.strangers << " of them another node's; "
         << views.spans << " stretches of an axis, " << views.wrongSpans << " of them off by more than 5 %\n"
         << "Table of states: " << cells << " cells\n\n";
 
-    out << "Medians of the first and second half behind the warm-up of " << warmUpRounds << " rounds:\n";
+    out << "Medians of the first and second half after the warm-up of " << warmUpRounds << " rounds:\n";
     for (const auto &[state, its] : byState(*this).toStdMap()) {
         if (its.size() < 2)
             continue;

@@ -10,14 +10,14 @@
 
 class QTextStream;
 
-/// What a campaign has found, and whether its goals were met.
+/// What a campaign found, and whether its goals were met.
 struct CampaignReport
 {
-    /// The link's books over all rounds: what the simulator sent, and what became of it.
+    /// The link's accounts over all rounds: what the simulator sent, and what became of it.
     struct Books
     {
         quint64 framesSent = 0;
-        quint64 framesIntact = 0; ///< of them; no fault touched them
+        quint64 framesIntact = 0; ///< of them, untouched by any fault
         quint64 bytesSent = 0;
         quint64 dropped = 0; ///< frames not sent: silent, or the line too slow
         quint64 unheard = 0; ///< frames not sent: no port open
@@ -26,13 +26,13 @@ struct CampaignReport
         quint64 linesInFiles = 0;
     };
 
-    /// The process in a state that comes again and again.
+    /// The process in a recurring state.
     struct Look
     {
         QString state;
         int round = 0;
         qint64 residentKib = 0;
-        qint64 heapKib = 0; ///< in use, by the allocator's books
+        qint64 heapKib = 0; ///< in use, according to the allocator
         int handles = 0;
         int threads = 0;
     };

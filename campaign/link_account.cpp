@@ -77,7 +77,7 @@ void LinkAccount::takeFrame()
         ++m_recordings.cameIn;
 }
 
-/// When the link is told to be closed the port's thread has ended and its counters are final.
+/// When the link is reported closed, the port's thread has ended and its counters are final.
 void LinkAccount::takeLinkState(bool isConnected)
 {
     if (m_wasConnected && !isConnected) {

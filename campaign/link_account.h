@@ -10,10 +10,10 @@ class form_base;
 class Recorder;
 
 /// What the running program takes from its link, counted at its own signals: bytes as the port's thread reads them,
-/// payloads as they leave the deframer, frames as the dispatcher hands them to views and recorder; beside them what the
-/// program's own counters say. All counts run on over openings and closings.
+/// payloads as they leave the deframer, frames as the dispatcher passes them to views and recorder; plus the program's
+/// own counters. All counts continue across openings and closings.
 ///
-/// Main thread. Made after the window, and destroyed after the port's thread has ended.
+/// Main thread. Created after the window and destroyed after the port's thread has ended.
 class LinkAccount : public QObject
 {
     Q_OBJECT
@@ -26,10 +26,10 @@ public:
         quint64 payloads = 0;
         quint64 published = 0;
         quint64 closings = 0;
-        // by the program's counters, as of its last whole second
+        // from the program's counters, as of its last whole second
         quint64 countedBytes = 0;
         quint64 countedPackets = 0;
-        quint64 lostBytes = 0; ///< in rejected packets or outside packets; replies in text among them
+        quint64 lostBytes = 0; ///< in rejected packets or outside packets, text replies included
 
         bool operator==(const Counts &) const = default;
         Counts operator-(const Counts &before) const;
@@ -39,15 +39,15 @@ public:
     struct Recordings
     {
         int count = 0;
-        int troubled = 0;    ///< ended with a complaint of the recorder
+        int troubled = 0;    ///< ended with trouble reported by the recorder
         quint64 cameIn = 0;  ///< frames while one was running
-        quint64 written = 0; ///< by the recorder's words
+        quint64 written = 0; ///< as reported by the recorder
     };
 
     explicit LinkAccount(form_base &window);
 
     Counts counts() const;
-    /// Over all that have ended.
+    /// Over all recordings that have ended.
     const Recordings &recordings() const { return m_recordings; }
     /// Bytes with header; the largest possible before the first.
     int smallestPacket() const { return m_smallestPacket; }

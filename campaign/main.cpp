@@ -1,5 +1,5 @@
 // kv_campaign [--minutes M | --quick | --table] [--seed N] [--stall-limit MS]: the program itself, src/main.cpp with
-// all that it starts, and at its side a user and devices that do everything wrong. Ends with a report, and with 1 when
+// everything it starts, plus a simulated user and devices that do everything wrong. Ends with a report, and with 1 when
 // a goal was not met. See docs/fault-campaign.md.
 
 #include <QApplication>
@@ -15,7 +15,7 @@
 
 #include "campaign/campaign.h"
 
-/// The main() of src/main.cpp, which is compiled under this name here.
+/// The main() of src/main.cpp, compiled under this name here.
 int kvcenterMain(int argc, char **argv);
 
 namespace {
@@ -36,7 +36,7 @@ void work()
     }
 }
 
-/// The first thing in the program's event loop.
+/// Runs first in the program's event loop.
 void begin()
 {
     for (QWidget *widget : QApplication::topLevelWidgets()) {
@@ -79,7 +79,8 @@ int main(int argc, char **argv)
     QTemporaryDir folder;
     QDir::setCurrent(folder.path());
     QFile settings(QStringLiteral("param.ini"));
-    if (!settings.open(QIODevice::WriteOnly) || settings.write("[Main]\nLANGUAGE=EN\n") < 0) { // else it asks first
+    if (!settings.open(QIODevice::WriteOnly)
+        || settings.write("[Main]\nLANGUAGE=EN\n") < 0) { // otherwise the program first asks
         out << "nothing can be written into " << folder.path() << '\n';
         return EXIT_FAILURE;
     }
@@ -90,7 +91,7 @@ int main(int argc, char **argv)
     const int exitCode = kvcenterMain(1, argv);
     programEnded.release();
     if (!worker) {
-        out << "the program has not come up\n";
+        out << "the program did not start\n";
         return EXIT_FAILURE;
     }
     worker->wait();
@@ -99,7 +100,7 @@ int main(int argc, char **argv)
         report.failures.append(QStringLiteral("the program ended with %1").arg(exitCode));
     report.judge(parser.value(stallLimit).toInt(), QStringLiteral("qt6_debug.log"));
     report.print(out);
-    folder.setAutoRemove(report.failures.isEmpty()); // else its logs may tell more
+    folder.setAutoRemove(report.failures.isEmpty()); // otherwise its logs may show more
     QDir::setCurrent(QDir::rootPath());
     return report.failures.isEmpty() ? EXIT_SUCCESS : EXIT_FAILURE;
 }

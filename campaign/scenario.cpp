@@ -14,7 +14,7 @@ namespace {
 
 void trigger(form_base &window, const char *action)
 {
-    window.findChild<QAction *>(QLatin1String(action))->trigger(); // nothing when it is disabled
+    window.findChild<QAction *>(QLatin1String(action))->trigger(); // does nothing when it is disabled
 }
 
 // A window's class and the action that opens it.
@@ -24,7 +24,7 @@ struct WindowRow
     const char *action;
 };
 
-/// Closes a window when it is open, and opens it.
+/// Closes a window if it is open, then opens it.
 template <const WindowRow &row> void reopen(form_base &window)
 {
     if (windows::isOpen(row.className))
@@ -136,14 +136,14 @@ const QList<scenario::Fault> &scenario::faults()
              c.during({}, {"reply 0"});
              c.identify();
          }},
-        {"reply that is no text", Suits::All, true,
+        {"reply that is not text", Suits::All, true,
          [](Campaign &c) {
              c.control("reply-binary on");
              c.identify();
              c.during({}, {"reply-binary off"});
              c.identify();
          }},
-        {"values that are no numbers", Suits::All, false,
+        {"values that are not numbers", Suits::All, false,
          [](Campaign &c) { c.during({"values nan"}, {"values normal"}); }},
         {"restart of the device", Suits::All, false, [](Campaign &c) { c.during({"restart"}, {}); }},
         {"cable pulled and plugged in", Suits::All, false,
@@ -178,15 +178,15 @@ const QList<scenario::Fault> &scenario::faults()
 const QList<scenario::Habit> &scenario::habits()
 {
     static const QList<Habit> rows{
-        {"sensor dashboard anew", reopen<kSensorDashboard>},
-        {"gateway dashboard anew", reopen<kGatewayDashboard>},
-        {"spectrum anew", reopen<kSpectrum>},
-        {"3D view anew", reopen<kThreeD>},
-        {"recording dialog anew", reopen<kRecorder>},
-        {"device settings anew", reopen<kSettings>},
-        {"firmware update anew", reopen<kUpdater>},
-        {"about box anew", reopen<kAbout>},
-        {"link health anew", reopen<kLinkHealth>},
+        {"sensor dashboard reopened", reopen<kSensorDashboard>},
+        {"gateway dashboard reopened", reopen<kGatewayDashboard>},
+        {"spectrum reopened", reopen<kSpectrum>},
+        {"3D view reopened", reopen<kThreeD>},
+        {"recording dialog reopened", reopen<kRecorder>},
+        {"device settings reopened", reopen<kSettings>},
+        {"firmware update reopened", reopen<kUpdater>},
+        {"about box reopened", reopen<kAbout>},
+        {"link health reopened", reopen<kLinkHealth>},
         {"English", [](form_base &w) { trigger(w, "action_language_EN"); }},
         {"Simplified Chinese", [](form_base &w) { trigger(w, "action_language_CN"); }},
         {"Traditional Chinese", [](form_base &w) { trigger(w, "action_language_TC"); }},

@@ -7,7 +7,7 @@
 class Campaign;
 class form_base;
 
-/// What a campaign is made of: devices that are connected, things that go wrong, and things that a user does meanwhile.
+/// What a campaign consists of: devices that are connected, things that go wrong, and what a user does meanwhile.
 namespace scenario {
 
 struct Device
@@ -23,8 +23,8 @@ struct Fault
 {
     const char *name;
     Suits suits;
-    bool damagesBytes;           ///< frames may be hurt that the simulator counts as intact
-    void (*run)(Campaign &with); ///< begins it, lets time pass, and ends it
+    bool damagesBytes;           ///< may damage frames that the simulator counts as intact
+    void (*run)(Campaign &with); ///< starts it, lets time pass, and ends it
 };
 
 struct Habit
@@ -37,10 +37,10 @@ const QList<Device> &devices();
 const QList<Fault> &faults();
 const QList<Habit> &habits();
 
-/// Opens every window, or those that are closed of them; the gateway's is opened where its action is enabled.
-/// One action each, as a user would.
+/// Opens every window that is not open; the gateway's is opened if its action is enabled. One action each, as a user
+/// would.
 const QList<Habit> &openings();
-/// Language, font, sizes and choices in which memory is compared.
+/// Language, font, sizes and choices for which memory is compared.
 void setPlainLook(form_base &window);
 void startRecording(form_base &window);
 

@@ -20,7 +20,7 @@ using Action = SessionAction;
 
 constexpr int kBaud = 921600;
 constexpr int kBringMs = 10000;
-constexpr int kEndMs = 25000; ///< a download without a device takes its time to fail
+constexpr int kEndMs = 25000; ///< a download without a device takes this long to fail
 constexpr int kEffectMs = 400;
 constexpr int kPacket = 512;
 constexpr int kPackets = 250;
@@ -39,17 +39,17 @@ void pressUpdater(form_base &window, const char *button)
 
 void trigger(form_base &window, const char *action)
 {
-    window.findChild<QAction *>(QLatin1String(action))->trigger(); // nothing when it is disabled
+    window.findChild<QAction *>(QLatin1String(action))->trigger(); // does nothing when it is disabled
 }
 
-/// A deed of the user's, by the window, or of the device's, by controls of the simulator.
+/// An action of the user, through the window, or of the device, through controls of the simulator.
 struct Deed
 {
     const char *name;
-    int action; ///< a SessionAction; -1: nobody is asked
+    int action; ///< a SessionAction; -1: needs no permission
     void (*act)(form_base &window, const QString &port);
     const char *controls; ///< separated by semicolons
-    /// Letters of the states that the connection may end in, by the state before; null: the table refuses the deed.
+    /// Letters of the states that the connection may end in, by the state before; null: the table refuses the action.
     const char *closed, *identifying, *live, *silent, *bootloader, *updating;
 
     const char *ends(State state) const
@@ -134,7 +134,7 @@ void StateTable::run()
         for (int deed = 0; deed < int(std::size(kDeeds)); ++deed)
             runCell(state, deed);
     }
-    for (const State state : {State::Opening, State::Closing}) // gone before a user can do anything
+    for (const State state : {State::Opening, State::Closing}) // over before a user can do anything
         runCell(state, -1);
 }
 
@@ -183,7 +183,7 @@ void StateTable::runCell(SessionState state, int deed)
                           .arg(QLatin1Char(letter(stateNow())))
                           .arg(QLatin1String(ends)));
         }
-        // A connection that ends, or begins, does not know of a bootloader that nobody has asked for in it.
+        // A connection that ends, or begins, does not know about a bootloader that was not requested on it.
         const bool isKnown =
             state == State::Bootloader || state == State::Updating || what->action == int(Action::ConnectBootloader);
         const bool startsAgain = what->action == int(Action::OpenPort) || what->action == int(Action::ClosePort);
@@ -256,7 +256,7 @@ bool StateTable::bringTo(SessionState state)
     return stateNow() == state;
 }
 
-/// Main thread: session and window say what the table says.
+/// Main thread: session and window agree with the table.
 void StateTable::checkRefusals(SessionState state)
 {
     form_base &window = m_user.window();
@@ -264,7 +264,7 @@ void StateTable::checkRefusals(SessionState state)
     for (int i = 0; i < kSessionActionCount; ++i) {
         const Refusal verdict = session_table::verdict(state, Action(i));
         const Refusal refusal = session.refusal(Action(i));
-        // Within a state that allows it something may still be missing.
+        // Even in a state that allows it something may still be missing.
         const bool isFiner =
             verdict == Refusal::None && (refusal == Refusal::CommandRuns || refusal == Refusal::NoBootloader);
         if (refusal != verdict && !isFiner)
@@ -288,7 +288,7 @@ void StateTable::checkRefusals(SessionState state)
     }
 }
 
-/// The device goes away, and everything is closed.
+/// The device goes away and everything is closed.
 void StateTable::cleanUp()
 {
     m_simulator.reset();
@@ -299,7 +299,7 @@ void StateTable::cleanUp()
     m_user.act(QStringLiteral("clean up"), [](form_base &window) {
         qDeleteAll(window.findChildren<QMessageBox *>());
         windows::closeAllBut(window);
-        qDeleteAll(window.findChildren<QMessageBox *>()); // closing may have asked
+        qDeleteAll(window.findChildren<QMessageBox *>()); // closing may have asked a question
     });
     m_user.waitForCalm(kBringMs);
 }

@@ -12,15 +12,15 @@ class User;
 class form_base;
 
 /// Every state of a connection against everything that a user, a device or a cable may do in it, in the real window: a
-/// fresh device is brought into the state, the window has to allow what session_table says and to refuse the rest, the
-/// deed is done, and the connection has to end in one of the states that the table of outcomes names. No text command
+/// fresh device is brought into the state, the window must allow what session_table allows and refuse the rest, the
+/// action is done, and the connection must end in one of the states that the table of outcomes names. No text command
 /// reaches a bootloader.
 ///
-/// For the thread that orders; see User.
+/// For the ordering thread; see User.
 class StateTable
 {
 public:
-    /// `log` takes every cell as it begins, `fail` a sentence for each that is wrong. All outlive this object.
+    /// `log` receives every cell as it begins, `fail` a sentence for each that is wrong. All outlive this object.
     StateTable(User &user, std::function<void(const QString &)> log, std::function<void(const QString &)> fail);
 
     void run();

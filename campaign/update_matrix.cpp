@@ -17,7 +17,7 @@ constexpr char kSlowErase[] = "erase-ms";
 constexpr int kSlowEraseMs = 1600;
 constexpr int kAttemptsAfter = 3;
 
-/// A fault of a packet, and how many in a row have it.
+/// A fault of a packet, and how many packets in a row have it.
 struct Fault
 {
     const char *control;
@@ -52,7 +52,7 @@ public:
         m_deadline.setRemainingTime(kLongMs);
     }
 
-    /// Carries the case on; counts it when it is over.
+    /// Continues the case; counts it when it is over.
     void poll(UpdateMatrix::Counts &counts)
     {
         if (m_device.refusal && m_device.update().isRunning()) {
@@ -76,7 +76,7 @@ public:
             return;
         }
         m_stage = Stage::Idle;
-        if (isSlowErase()) { // which is not to be erased a second time
+        if (isSlowErase()) { // which must not be erased a second time
             counts.refused += m_device.refusal ? 1 : 0;
             counts.notRecovered += m_device.refusal ? 0 : 1;
             m_device.fault(plan(0, 1));
@@ -89,7 +89,7 @@ public:
         if (works)
             return;
         tell("next attempt");
-        if (m_attemptsLeft > 0) { // the machine may have been late: the words on screen ask for another one
+        if (m_attemptsLeft > 0) { // the machine may have been late: the text on screen asks for another attempt
             ++counts.furtherAttempts;
             startAfter();
             return;

@@ -1,7 +1,7 @@
 // kv_update_matrix [--packets N] [--devices N] [--kills N] [--seed N]: every fault of the bootloader at every packet of
 // a small image, with and without reading back, and after each the next attempt; then updates whose program is killed
-// at random moments. Prints the counts. Ends with 1 when an update was said to be verified and was not, when a device
-// did not work after the next attempt, or when one came to no end.
+// at random moments. Prints the counts. Ends with 1 when an update was wrongly reported as verified, when a device did
+// not work after the next attempt, or when an update did not end.
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -21,7 +21,7 @@ constexpr int kKillPackets = 400; // long enough to be hit in the middle
 constexpr int kLongestRunMs = 1200;
 constexpr int kChildEndsMs = 10000;
 
-/// The program that is killed: one update on a port that somebody else has made.
+/// The program that is killed: one update on a port that another process created.
 int runChild(const QString &portName, const QString &folder)
 {
     KvUartPort port;
@@ -71,7 +71,7 @@ KillCounts runKills(int kills, quint32 seed)
         counts.noted += isRead ? 1 : 0;
         counts.broken += isThere && !isRead ? 1 : 0;
         device.open();
-        QTest::qWait(400); // a firmware that is whole has started by now
+        QTest::qWait(400); // complete firmware has started by now
         counts.alone += !isThere && device.simulator().stat("bootloader") == 1 && !device.isFlashRight(image) ? 1 : 0;
         const bool works = device.run(image) && device.result().verdict == UpdateVerdict::Verified
                            && device.isFlashRight(image) && !QFile::exists(notePath);
@@ -97,11 +97,11 @@ int main(int argc, char **argv)
                                      QStringLiteral("N"), QStringLiteral("8"));
     const QCommandLineOption kills(QStringLiteral("kills"), QStringLiteral("Updates that are killed."),
                                    QStringLiteral("N"), QStringLiteral("50"));
-    const QCommandLineOption seed(QStringLiteral("seed"), QStringLiteral("Of the moments of the kills."),
+    const QCommandLineOption seed(QStringLiteral("seed"), QStringLiteral("Seed for the times of the kills."),
                                   QStringLiteral("N"), QStringLiteral("1"));
     parser.addOptions({packets, devices, kills, seed});
     parser.process(application);
-    const QTemporaryDir folder; // for the application's log
+    const QTemporaryDir folder; // for the application log
     QDir::setCurrent(folder.path());
 
     const int count = qBound(1, parser.value(packets).toInt(), 64);
@@ -124,7 +124,7 @@ int main(int argc, char **argv)
                .arg(counts.notEnded)
         << Qt::flush;
     const KillCounts killed = runKills(qMax(0, parser.value(kills).toInt()), quint32(parser.value(seed).toUInt()));
-    out << QStringLiteral("kills: %1, of these %2 left a note; notes that cannot be read %3, left alone %4, not "
+    out << QStringLiteral("kills: %1, of which %2 left a note; notes that cannot be read %3, left alone %4, not "
                           "recovered %5\n")
                .arg(killed.kills)
                .arg(killed.noted)

@@ -96,7 +96,7 @@ void windows::press(const char *className, const char *button)
     if (window == nullptr || !isOpen(className))
         return;
     if (auto *found = window->findChild<QAbstractButton *>(QLatin1String(button)))
-        found->click(); // nothing when it is disabled
+        found->click(); // does nothing when it is disabled
 }
 
 void windows::pick(const char *className, const char *comboBox, int index)

@@ -12,9 +12,9 @@
 
 class Watchdog;
 
-/// The hands of a user at the running program: actions that another thread orders and the main thread carries out. Like
-/// a real user it does not wait: an action that goes on in a nested event loop, as opening a port does, may meet the
-/// next one.
+/// A user of the running program: actions ordered by another thread and executed by the main thread. Like a real user
+/// it does not wait: an action that continues in a nested event loop, such as opening a port, may overlap with the next
+/// one.
 class User
 {
 public:
@@ -27,12 +27,12 @@ public:
     /// Main thread.
     form_base &window() const { return m_window; }
 
-    // All below is for the ordering thread.
+    // Everything below is for the ordering thread.
 
-    /// Has the main thread do something; goes on when it is done, or after a moment.
+    /// Has the main thread do something; continues when it is done, or after a moment.
     void act(const QString &what, const Action &action);
 
-    /// Asks the main thread for a value.
+    /// Gets a value from the main thread.
     template <class T> T ask(const std::function<T(form_base &)> &question)
     {
         T answer{};
@@ -41,7 +41,7 @@ public:
         return answer;
     }
 
-    /// Waits until something is true in the main thread. False when it does not come true in time.
+    /// Waits until something is true in the main thread. False when it does not become true in time.
     bool waitUntil(int timeoutMs, const std::function<bool(form_base &)> &condition);
     /// Waits until every action has ended, nested loops included.
     bool waitForCalm(int timeoutMs);
@@ -52,17 +52,17 @@ private:
     std::shared_ptr<std::atomic<int>> m_running = std::make_shared<std::atomic<int>>(0);
 };
 
-/// What of the program's windows can be seen and done by name. Main thread.
+/// Access to the program's windows by name. Main thread.
 namespace windows {
 
-/// The window of a class, such as "form_threed"; null when it was not made yet.
+/// The window of a class, such as "form_threed"; null when it has not been created yet.
 QObject *find(const char *className);
 bool isOpen(const char *className);
 /// Closes every window but the main one.
 void closeAllBut(const form_base &window);
-/// Presses a button of a window that is open, by the button's name.
+/// Presses a button of an open window, by the button's name.
 void press(const char *className, const char *button);
-/// Picks an entry of a selector as a user does, also when its window is closed.
+/// Picks an entry of a selector as a user does, even when its window is closed.
 void pick(const char *className, const char *comboBox, int index);
 void pickNext(const char *className, const char *comboBox);
 

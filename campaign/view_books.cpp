@@ -21,7 +21,7 @@ constexpr int kLooksPerPose = 10;
 constexpr double kRememberedSec = 1.5;
 constexpr double kSpanSec = 5;
 constexpr double kSpanShare = 0.05;
-constexpr double kSpanSlackSec = 0.5; // frames that a device holds back and sends at once
+constexpr double kSpanSlackSec = 0.5; // for frames that a device holds back and sends at once
 constexpr double kExact = 1e-6;
 constexpr double kShown = 6e-4; // the numbers have three decimals
 constexpr double kSamePose = 0.9999;
@@ -68,13 +68,13 @@ void ViewBooks::remember(const node_data_t &node)
     std::deque<Sent> &sent = m_sent[node.id];
     const double now = wallSec();
     sent.push_back({now, node});
-    // The one before a long silence too: windows show it until they look again.
+    // Including the one before a long silence: windows show it until they refresh.
     while (sent.size() > 1 && sent[1].wallSec < now - kRememberedSec)
         sent.pop_front();
 }
 
-/// A window may be late and show what was sent long ago. What another node has sent just now, and the followed one has
-/// not, is a stranger.
+/// A window may be late and show an old value. A value that another node has just sent, and the followed one has not,
+/// is a stranger.
 void ViewBooks::judge(const Test &isOf, const char *where)
 {
     ++m_findings.looks;
@@ -95,11 +95,11 @@ void ViewBooks::judge(const Test &isOf, const char *where)
 
 void ViewBooks::judge(const Vector &acc, double tolerance, const char *where)
 {
-    if (!isFinite(acc)) // says nothing of its node
+    if (!isFinite(acc)) // does not identify its node
         return;
     judge(
         [&](const node_data_t &node) {
-            // Written so that what is no number is nobody's.
+            // Written so that NaN matches no node.
             return std::abs(double(node.acc[0]) - acc[0]) <= tolerance
                    && std::abs(double(node.acc[1]) - acc[1]) <= tolerance
                    && std::abs(double(node.acc[2]) - acc[2]) <= tolerance;
@@ -107,7 +107,7 @@ void ViewBooks::judge(const Vector &acc, double tolerance, const char *where)
         where);
 }
 
-/// The acceleration that the main window shows; nothing when it shows none, or what is no number.
+/// The acceleration that the main window shows; nothing when it shows none, or something that is not a number.
 std::optional<ViewBooks::Vector> ViewBooks::numbersOfPanel() const
 {
     static const QRegularExpression number(QStringLiteral("\\t([^\\t]+) G$"), QRegularExpression::MultilineOption);

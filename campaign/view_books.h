@@ -17,9 +17,9 @@ class DeviceSession;
 class WaveChartBridge;
 class form_base;
 
-/// The books of what the windows show, held against what the dispatcher has published: the numbers, the sensor
-/// dashboard, the 3D view, and the stream that feeds the spectrum show samples of the followed node and of no other;
-/// and the axis of every chart goes on as the wall clock does, whatever happens to the line. Main thread.
+/// Checks what the windows show against what the dispatcher has published: the numbers, the sensor dashboard, the 3D
+/// view, and the stream that feeds the spectrum show samples of the followed node only; and the axis of every chart
+/// keeps pace with the wall clock, whatever happens to the line. Main thread.
 class ViewBooks : public QObject
 {
     Q_OBJECT
@@ -28,8 +28,8 @@ class ViewBooks : public QObject
 public:
     struct Findings
     {
-        quint64 looks = 0;      ///< at a value in a window, while several nodes were heard
-        quint64 strangers = 0;  ///< of them, another node's
+        quint64 looks = 0;      ///< at a value in a window, while several nodes were heard from
+        quint64 strangers = 0;  ///< of them, values of another node
         quint64 spans = 0;      ///< stretches of an axis that were measured
         quint64 wrongSpans = 0; ///< of them, more than 5 % off
         QStringList examples;   ///< of what is wrong
@@ -40,11 +40,11 @@ public:
     const Findings &findings() const { return m_findings; }
 
 private:
-    /// A stretch of a chart's axis beside the wall clock.
+    /// A stretch of a chart's axis compared with the wall clock.
     struct Span
     {
         bool isOpen = false;
-        double wallSec = 0; ///< at its beginning, as the next
+        double wallSec = 0; ///< at its beginning, like the next one
         double axisSec = 0;
         double newestSec = 0;
     };

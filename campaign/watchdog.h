@@ -11,28 +11,29 @@
 #include <mutex>
 #include <thread>
 
-/// Measures how long the program's main thread lets its events wait. A thread of its own posts an event, waits until
-/// it is served, pauses for a few milliseconds and posts the next. What was going on at the time of a stall is told by
-/// the labels that doing() sets.
+/// Measures how long the program's main thread keeps its events waiting. A separate thread posts an event, waits until
+/// it is served, pauses for a few milliseconds and posts the next. The labels that doing() sets show what was going on
+/// at the time of a stall.
 ///
-/// A main thread that serves nothing for a minute hangs: the process is then ended with a message, as no other thread
-/// could do anything about it.
+/// A main thread that serves nothing for a minute hangs: the process is then ended with a message, since no other
+/// thread could do anything about it.
 class Watchdog
 {
 public:
     using Clock = std::chrono::steady_clock;
 
-    /// Upper ends of the histogram's classes in milliseconds; the last class is all beyond.
+    /// Upper limits of the histogram's bins in milliseconds; the last bin is everything beyond.
     static constexpr std::array<int, 8> kClassesMs{5, 10, 20, 50, 100, 200, 500, 1000};
-    /// Stalls from this length on are kept with their circumstances.
+    /// Stalls of at least this length are kept with their circumstances.
     static constexpr double kNotableMs = 80;
 
     struct Stall
     {
         double atSeconds = 0; ///< since the watchdog began
         double ms = 0;
-        double ranMs = 0;    ///< of it, the main thread had a processor
-        double queuedMs = 0; ///< of it, the main thread was ready and waited for one: the machine's, not the program's
+        double ranMs = 0;    ///< part of it during which the main thread had a processor
+        double queuedMs = 0; ///< part of it during which the main thread was ready but waited for one: the machine's
+                             ///< share, not the program's
         QString during;
     };
 
@@ -42,12 +43,12 @@ public:
         QList<Stall> stalls; ///< notable ones, longest first
     };
 
-    /// Begins. To be made in the main thread, with an application.
+    /// Starts the measurement. Create it in the main thread, with an application.
     Watchdog();
     ~Watchdog();
     Q_DISABLE_COPY_MOVE(Watchdog)
 
-    /// What the main thread begins to do, or has just done. Any thread.
+    /// What the main thread is about to do, or has just done. Any thread.
     void doing(const QString &what);
 
     /// Ends the measurement.

@@ -1,11 +1,11 @@
-// What a bootloader answers, through the client's dialogue. Input:
+// A bootloader's answers, fed into the client's dialogue. Input:
 //
 //     0  u8  bit 0: download only, without connecting before; bits 1 and 2: attempts per packet - 1
 //     1  u8  size of the image in units of 16 bytes
-//     2      answers, each behind its length (u8)
+//     2      answers, each after its length (u8)
 //
-// Every packet of the client is followed by answers until one of them counts; when there are no more, the port is
-// closed. So nothing is waited for.
+// Every packet of the client is followed by answers until one of them counts; when there are none left, the port is
+// closed. So the client never has to wait.
 
 #include <QCoreApplication>
 #include <QtEndian>
@@ -46,7 +46,7 @@ public:
 
     void acknowledge(qint64 bytes)
     {
-        require(bytes >= m_written.size(), "progress does not run back");
+        require(bytes >= m_written.size(), "progress does not run backwards");
         if (bytes > m_written.size())
             m_written += m_chunk;
         require(bytes == m_written.size(), "progress is what was written");
@@ -55,8 +55,8 @@ public:
     const QByteArray &written() const { return m_written; }
 
 private:
-    /// Whether the client goes on at once: a data packet wants an acknowledge or a refusal, all else a packet. So does
-    /// an end of the data phase, whose reason is waited for.
+    /// Whether the client continues at once: a data packet needs an acknowledge or a refusal, everything else a packet.
+    /// So does an end of the data phase, because the client waits for the reason.
     bool isAnswered() const
     {
         const QByteArray &buffer = m_client.frameBuffer();
@@ -70,7 +70,7 @@ private:
     FuzzInput &m_answers;
     QByteArray m_chunk;
     QByteArray m_written;
-    bool m_isData = false; ///< the last packet was one
+    bool m_isData = false; ///< the last packet was a data packet
 };
 
 QByteArray imageOf(qsizetype size)
@@ -101,7 +101,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     if ((choice & 1) == 0) {
         const bool connected = client.connect();
         require(connected == (client.outcome().fault == BootloaderFault::None), "a failure has a reason");
-        require(!connected || client.facts().deviceId.size() == 8, "a connected target has been asked everything");
+        require(!connected || client.facts().deviceId.size() == 8, "a connected target has answered everything");
     }
     int percent = 0;
     QObject::connect(&client, &KbootProtocol::downloadProgress, [&percent](int now) {

@@ -23,7 +23,7 @@ QByteArray response(char tag, quint32 status, quint32 value)
     return answer(kAck + encodePacket(0xA4, payload));
 }
 
-/// A whole connect: ping, then version, packet size, flash size, device and sector size.
+/// A complete connect: ping, then version, packet size, flash size, device and sector size.
 QByteArray connection(quint32 packetSize)
 {
     return answer(QByteArray::fromHex("5AA70003015000000000") + '\0') + response(char(0xA7), 0, 0x4B020100)
@@ -47,7 +47,7 @@ QList<seeds::Seed> seeds::bootloader()
         {"bootloader", "refused_once", with(2, 8, update + answer("\x5A\xA2") + ended + ended)},
         {"bootloader", "aborted", with(0, 8, update + answer("\x5A\xA3") + answer("\x5A\xA3"))},
         {"bootloader", "status_of_erase", with(0, 1, connection(32) + response(char(0xA0), 0x2718, 2))},
-        {"bootloader", "silent_behind_ping", with(0, 4, connection(32).left(11))},
+        {"bootloader", "silent_after_ping", with(0, 4, connection(32).left(11))},
         {"bootloader", "packet_size_zero", with(0, 4, connection(0) + started)},
         {"bootloader", "short_property", with(0, 4, connection(32).left(12) + answer(encodePacket(0xA4, "\x07")))},
         {"bootloader", "data_of_one_byte_for_a_response",

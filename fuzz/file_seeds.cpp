@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Little-endian values in a row, padded as mesh files are.
+/// Little-endian values, one after the other, padded like mesh files.
 class MeshBytes
 {
 public:
@@ -29,7 +29,7 @@ public:
         m_bytes += bytes;
         return *this;
     }
-    /// Up to the next multiple of 4 in the file, by 4 bytes on one.
+    /// Pads to the next multiple of 4 in the file, by 4 bytes if already on one.
     MeshBytes &pad() { return raw(QByteArray(4 - m_bytes.size() % 4, '\0')); }
     const QByteArray &bytes() const { return m_bytes; }
 

@@ -1,4 +1,4 @@
-// A firmware file through the HEX loader and the checks of its image. Input:
+// A firmware file, fed into the HEX loader and the checks of its image. Input:
 //
 //     0  u8     selects the flash size, and with bit 7 reading from a device instead of a text
 //     1  u8 x4  load address that the image is judged for, big-endian
@@ -70,9 +70,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 
     if (image.isEmpty() || image.size() > kRewrittenBytes)
         return 0;
-    // Written anew by other code, at an address that this code can write, the image has to come back.
+    // Rewritten by other code, at an address that this code can write, the image must come back.
     QTextStream text(hex_file::file(image, address & 0xFFFF0000));
-    require((address & 0xFFFF0000) >= 0xFFFE0000 || hex2bin::convert(text) == image, "a file written anew is the same");
+    require((address & 0xFFFF0000) >= 0xFFFE0000 || hex2bin::convert(text) == image,
+            "a rewritten file gives the same image");
     require(startBefore == kNone || hex2bin::start_addr() == startBefore, "the load address is the first image's");
     return 0;
 }

@@ -7,7 +7,7 @@ using hex_file::record;
 
 namespace {
 
-/// An image that begins as a program does: stack pointer and reset vector.
+/// An image that begins like a program: stack pointer and reset vector.
 QByteArray program(quint32 address, qsizetype size)
 {
     QByteArray image(size, '\0');
@@ -18,7 +18,7 @@ QByteArray program(quint32 address, qsizetype size)
     return image;
 }
 
-/// Flash size and load address in front of the file, as the target takes them.
+/// Flash size and load address before the file, as the target expects them.
 QByteArray input(int choice, quint32 loadAddress, const QByteArray &file)
 {
     char address[sizeof loadAddress];

@@ -1,5 +1,5 @@
-// Writes the seeds of every target's corpus: kv_fuzz_seeds FOLDER. Files that stand there already are overwritten when
-// they have the same name, all others stay.
+// Writes the seeds of every target's corpus: kv_fuzz_seeds FOLDER. Existing files with the same name are overwritten,
+// all others are kept.
 
 #include <QDir>
 #include <QFile>

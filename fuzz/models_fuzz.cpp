@@ -1,4 +1,4 @@
-// A model file, through the reader of OBJ files and the check of mesh files. Input: the file.
+// A model file, fed into the OBJ reader and the mesh file check. Input: the file.
 
 #include <QUrl>
 
@@ -28,7 +28,7 @@ void checkMesh(const TriangleMesh &mesh)
 {
     const qsizetype vertices = mesh.vertices.size() / TriangleMesh::kStride;
     require(vertices > 0 && vertices % 3 == 0 && mesh.vertices.size() % TriangleMesh::kStride == 0,
-            "a model is whole triangles");
+            "a model consists of whole triangles");
     require(vertices / 3 <= ObjReader::kMaxTriangles, "triangles are bounded");
     require(isBox(mesh.minimum, mesh.maximum), "a model has a box");
     for (qsizetype i = 0; i < vertices; ++i) {
@@ -51,7 +51,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 
     QString error;
     const std::optional<TriangleMesh> model = ObjReader::read(file.path(), &error);
-    require(model.has_value() == error.isEmpty(), "what cannot be shown is told");
+    require(model.has_value() == error.isEmpty(), "what cannot be shown is reported");
     if (model)
         checkMesh(*model);
 

@@ -1,7 +1,7 @@
-// What a device answers to a command, through broker, reply lines and resolver. Input:
+// A device's answer to a command, fed into broker, reply lines and resolver. Input:
 //
 //     0  u8  size of the reads; 0 counts as 256
-//     1  u8  settings that are written to the device which was found
+//     1  u8  settings that are written to the identified device
 //     2      the reply
 
 #include <algorithm>
@@ -44,7 +44,7 @@ void checkDevice(const DetectedDevice &device, const QList<QString> &lines)
     require(device.matchedAlias.isEmpty() || device.profile->aliases.contains(device.matchedAlias),
             "the alias is the profile's");
     require(device.infoLines.size() == lines.size(), "no line is lost");
-    require(!device.valid || device.modelLine == device.infoLines.first(), "the model stands in the first line");
+    require(!device.valid || device.modelLine == device.infoLines.first(), "the model is in the first line");
     require(product_resolver::resolve(device.infoLines).key == device.key, "the device does not depend on white space");
 }
 
@@ -78,7 +78,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     });
     const QByteArray reply = broker.executeSequence({{QStringLiteral("AT+INFO\r\n"), 0}, {QString(), 0}});
     require(commands == 1 && !broker.isCollecting(), "a command is sent once");
-    require(reply == sent, "a reply is what came");
+    require(reply == sent, "a reply is what arrived");
     require(broker.lastResult() == reply, "the reply is kept");
     require(counted_log::lines() <= kMaxLogLines, "the log is bounded");
 

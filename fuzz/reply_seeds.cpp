@@ -6,7 +6,7 @@ using namespace kvsim;
 
 namespace {
 
-/// Read size and settings in front of the reply, as the target takes them.
+/// Read size and settings before the reply, as the target expects them.
 QByteArray input(int readSize, const QByteArray &reply)
 {
     return QByteArray().append(char(readSize)).append('\x64') + reply;
@@ -31,7 +31,7 @@ QList<seeds::Seed> seeds::reply()
         {"reply", "long_line", input(0, QByteArray(300, 'x') + '\n')},
         {"reply", "broken_characters",
          input(3, "\xF0\x9F\x98\nMZ14\x01\x02 \xC2\xA0 kv040\xE2\x80\xA8\n\t\xEF\xBB\xBF")},
-        {"reply", "byte_order_mark_behind_noise", input(0, "\xFF\xFF\xFF\xEF\xBB\xBFKV999\n")},
+        {"reply", "byte_order_mark_after_noise", input(0, "\xFF\xFF\xFF\xEF\xBB\xBFKV999\n")},
         {"reply", "nothing", input(1, {})},
     };
 }

@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <QList>
 
-/// Inputs that fuzzing begins with, built by the simulator's encoders and the program's own exporters.
+/// Inputs that fuzzing starts from, built by the simulator's encoders and the program's own exporters.
 namespace seeds {
 
 struct Seed

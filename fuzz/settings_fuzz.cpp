@@ -1,4 +1,4 @@
-// The settings file, through the functions that read it. Input: "param.ini".
+// The settings file, fed into the functions that read it. Input: "param.ini".
 
 #include <QRect>
 #include <QSettings>
@@ -86,7 +86,7 @@ void checkLanguage(const QSettings &settings)
     require(found == nullptr || found->setting == stored.trimmed().toUpper(), "a language is the one that was stored");
 }
 
-/// All values are of the kinds that the guard lets pass: no others are decoded.
+/// All values are of the types that the guard accepts: no others are decoded.
 void checkKinds(const QSettings &settings)
 {
     for (const QString &key : settings.allKeys()) {
@@ -109,7 +109,7 @@ void checkKinds(const QSettings &settings)
     }
 }
 
-/// The settings that windows read in one line each, in the way in which they do.
+/// The settings that windows read in one line each, read in the same way.
 void readTheRest(QSettings &settings)
 {
     (void)settings.value(settings_keys::kFontSize).toInt();

@@ -12,7 +12,7 @@ namespace {
 constexpr int kSummaryEntries = 9;
 constexpr size_t kFilesApart = 16; ///< reading a file takes a large buffer, which is slow under the sanitizers
 
-/// Exported again, a summary's facts have to be imported as they are.
+/// Exported again, a summary's facts must be imported unchanged.
 void checkRoundTrip(const QVariantMap &summary)
 {
     FftSnapshot snapshot;

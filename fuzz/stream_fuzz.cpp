@@ -1,4 +1,4 @@
-// What a serial line delivers, through decoder, parser and dispatcher. Input:
+// What a serial line delivers, fed into decoder, parser and dispatcher. Input:
 //
 //     0      u8    n, number of read sizes
 //     1      u8    node that the user selects
@@ -64,8 +64,8 @@ Outcome decode(const QByteArray &line, const QByteArray &readSizes)
     return outcome;
 }
 
-/// The bytes that a device has to send for this payload. The decoder looks for a packet's end only when a byte arrives:
-/// one that claims to be empty takes the byte behind it as its payload.
+/// The bytes that a device has to send for this payload. The decoder checks for the end of a packet only when a byte
+/// arrives: one that claims to be empty takes the byte after it as its payload.
 bool wasSent(const QByteArray &line, const QByteArray &payload)
 {
     if (line.contains(kvsim::encodeFrame(payload)))
@@ -110,7 +110,7 @@ void checkPublished(const StreamDispatcher &dispatcher, const DecodedFrame &fram
     require(emitted.batches62 == (is62 ? 1 : 0) && emitted.batches63 == (is63 ? 1 : 0)
                 && emitted.single == (!is62 && !is63 && hasNodes ? 1 : 0),
             "a frame is announced once, as what it is");
-    require(emitted.batchNodes == (is62 || is63 ? frame.nodes.size() : 0), "a batch is announced whole");
+    require(emitted.batchNodes == (is62 || is63 ? frame.nodes.size() : 0), "a batch is announced as a whole");
     require(emitted.snapshots == 1 && emitted.selected == (hasNodes ? 1 : 0), "state is announced once");
     require(snapshot.seq == frame.seq && snapshot.node_ids.size() == frame.nodes.size()
                 && dispatcher.currentNodes().size() == frame.nodes.size(),
@@ -155,13 +155,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     quint64 seq = 0;
     for (const QByteArray &payload : whole.payloads) {
         require(payload.size() <= kMaxPayload, "no payload is longer than a packet holds");
-        require(wasSent(line, payload), "a payload comes with its right checksum");
+        require(wasSent(line, payload), "a payload has the right checksum");
         const DecodedFrame frame = parser.parseFrame(payload);
         checkFrame(frame, payload, ++seq);
         emitted = {};
         dispatcher.publishFrame(frame);
         checkPublished(dispatcher, frame, emitted);
-        dispatcher.setSelectedNodeIndex(selected - 1); // also one that cannot be
+        dispatcher.setSelectedNodeIndex(selected - 1); // even an invalid one
     }
     return 0;
 }

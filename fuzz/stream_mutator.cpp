@@ -1,5 +1,5 @@
-// Lets the fuzzer's changes reach the parser: half of the changed inputs get the right checksum in every packet that
-// has room, because guessing one would take 65536 attempts.
+// Makes the fuzzer's changes reach the parser: half of the changed inputs get the right checksum in every packet that
+// has room for it, because guessing one would take 65536 attempts.
 
 #include <QtEndian>
 

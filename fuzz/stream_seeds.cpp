@@ -29,7 +29,7 @@ QByteArray batch(PayloadLayout layout, int count)
     return encodeBatchPayload(layout, 7, 1000, nodes);
 }
 
-/// Read sizes and the selected node in front of the bytes of the line, as the target takes them.
+/// Read sizes and the selected node before the bytes of the line, as the target expects them.
 QByteArray input(const QByteArray &readSizes, int selected, const QByteArray &line)
 {
     return QByteArray().append(char(readSizes.size())).append(char(selected)) + readSizes + line;

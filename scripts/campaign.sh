@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # campaign.sh [--minutes M | --quick | --table] [--seed N] ...: the faults of firmware updates (kv_update_matrix), the
-# program killed in 50 updates, then the fault campaign, on the release build and a display of its own; further words go to kv_campaign. docs/fault-campaign.md
-# tells what they do. Ends with 1 when a goal was not met, or with the program's signal when it crashed. Its log of actions
-# is campaign.log in the folder that the first line names.
+# program killed in 50 updates, then the fault campaign, on the release build and a separate display; further words go
+# to kv_campaign. docs/fault-campaign.md explains them. Ends with 1 when a goal was not met, or with the program's
+# signal when it crashed. Its log of actions is campaign.log in the folder that the first line names.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 

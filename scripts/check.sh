@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # check.sh: checks of form: the folder graph, colours outside the palette, links of the documents, formatting, qmllint,
 # clang-tidy. Needs a configured dev build (./test makes one). Prints only what is wrong, and a line when all is well.
-# Takes some minutes.
+# Takes several minutes.
 set -euo pipefail
 if [ $# -gt 0 ]; then
   sed -n '2,/^set /{/^set /d;s/^# \{0,1\}//;p}' "${BASH_SOURCE[0]}"
@@ -21,7 +21,7 @@ lint=$(mktemp)
 trap 'rm -f "$lint"' EXIT
 if ! cmake --build build/dev --target all_qmllint >"$lint" 2>&1; then
   cat "$lint" >&2
-  echo "check: qmllint is not content, see above" >&2
+  echo "check: qmllint found problems, see above" >&2
   exit 1
 fi
 
@@ -31,7 +31,7 @@ trap 'rm -f "$lint" "$remarks"' EXIT
 if ! printf '%s\0' "${sources[@]}" |
   xargs -0 -P 2 -n 4 clang-tidy-14 -p build/dev --quiet --extra-arg=-Wno-unknown-warning-option 2>"$remarks"; then
   cat "$remarks" >&2
-  echo "check: clang-tidy is not content, see above" >&2
+  echo "check: clang-tidy found problems, see above" >&2
   exit 1
 fi
 echo "check: folders, colours, links, formatting, qmllint and clang-tidy are in order"

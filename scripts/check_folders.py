@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Checks that no folder includes one on its own floor or above (src/, and qml/ by its imports), that the simulator
-stands alone, that programs beside the house use nothing of each other, and that no window starts an event loop of its
+stands alone, that the other programs use nothing of each other, and that no window starts an event loop of its
 own: a command that waits for its reply meanwhile would wait for the user as well."""
 
 import pathlib
@@ -16,7 +16,7 @@ INCLUDE = re.compile(r'^\s*#\s*include\s+"([a-z_]+)/')
 MODULES = {"controls": 1, "chart": 2, "wave": 3, "fft": 3, "threed": 3, "": 4}
 IMPORT = re.compile(r"^\s*import\s+KVCenter\.(\w+)")
 
-# Programs beside the house: what they may include besides src/ and their own files. Nothing of src/ includes them.
+# Other programs: what they may include besides src/ and their own files. Nothing in src/ includes them.
 BESIDE = {"campaign": {"tests", "support", "e2e"}, "fuzz": {"simulator", "tests"}, "benchmarks": {"support", "e2e"}, "simulator": None}
 
 # What runs a nested event loop. Use open(), show() or popup() and signals.

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Refuses links in the documents that lead nowhere: files, pictures and headings; pictures that no page shows, or that
+"""Rejects dead links in the documents: files, pictures and headings; also pictures that no page shows, or that
 are larger than 150 KiB."""
 import re
 import subprocess
@@ -11,7 +11,7 @@ LARGEST_PICTURE = 150 * 1024
 
 
 def headings(page):
-    """Anchors as the usual viewers make them: lower case, blanks to dashes, punctuation dropped."""
+    """Anchors as common viewers generate them: lower case, blanks to dashes, punctuation dropped."""
     text = re.sub(r"^```.*?^```", "", page.read_text(encoding="utf-8"), flags=re.M | re.S)
     titles = re.findall(r"^#+ (.+)$", text, flags=re.M)
     return {re.sub(r"[^\w\- ]", "", title.lower()).replace(" ", "-") for title in titles}

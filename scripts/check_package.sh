@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# check_package.sh: makes the Debian package of build/release, which is built already, and looks at it without installing
-# it: the files, what it depends on, the menu entry, the descriptions, Debian's own checks. Prints what is wrong, or the
+# check_package.sh: makes the Debian package of build/release, which must be built already, and checks it without
+# installing it: files, dependencies, menu entry, descriptions, Debian's own checks. Prints what is wrong, or the
 # package's path and size.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
@@ -51,10 +51,10 @@ usr/share/metainfo/kvcenter.metainfo.xml
 LIST
 dpkg-deb --extract "$package" "$work/tree"
 (cd "$work/tree" && find . ! -type d -printf '%P\n' | LC_ALL=C sort) >"$work/found"
-diff "$work/wanted" "$work/found" >&2 || fail "other files than wanted (<), see above"
+diff "$work/wanted" "$work/found" >&2 || fail "files differ from the expected list (<), see above"
 for size in 16 24 32 48 64 128 256 512; do
   file "$work/tree/usr/share/icons/hicolor/${size}x$size/apps/kvcenter.png" | grep -q " $size x $size," ||
-    fail "the icon of $size pixels has another size"
+    fail "the icon of $size pixels has the wrong size"
 done
 
 depends=$(dpkg-deb --field "$package" Depends)
@@ -64,7 +64,7 @@ done
 desktop-file-validate "$work/tree/usr/share/applications/kvcenter.desktop"
 appstreamcli validate --no-net --override=cid-desktopapp-is-not-rdns=info \
   "$work/tree/usr/share/metainfo/kvcenter.metainfo.xml" >"$work/log" || { cat "$work/log" >&2; fail "bad descriptions"; }
-# The toolkit's translated texts hold messages of a library, which lintian takes for the library itself.
+# The toolkit's translated texts contain messages of a library, which lintian takes for the library itself.
 lintian --fail-on error,warning --suppress-tags embedded-library "$package" >"$work/log" 2>&1 ||
-  { cat "$work/log" >&2; fail "lintian is not content"; }
+  { cat "$work/log" >&2; fail "lintian found problems"; }
 echo "check_package: $package, $(stat -c %s "$package") bytes, is in order"

@@ -4,7 +4,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/../resources/images"
 rsvg-convert --width 256 --height 256 mainicon.svg --output mainicon.png
-for size in 16 24 32 48 64 128 512; do # 256 is there already
+for size in 16 24 32 48 64 128 512; do # 256 exists already
   rsvg-convert --width "$size" --height "$size" mainicon.svg --output "../icons/kvcenter-$size.png"
 done
 for name in chevron-down chevron-up chevron-dark-down chevron-dark-up; do

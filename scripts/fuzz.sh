@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# Runs the fuzz targets, one after the other, and tells what came of it.
+# Runs the fuzz targets, one after the other, and reports the results.
 #
 #   scripts/fuzz.sh                        every target for 20 minutes
 #   scripts/fuzz.sh --minutes 5 hex        only the target hex, for 5 minutes
 #
-# New inputs are kept in build/fuzz/corpus/TARGET for the next time, what failed in build/fuzz/crashes/TARGET, what was
-# said in build/fuzz/TARGET.log. A target ends early when an input fails. The exit code tells whether any did.
+# New inputs are kept in build/fuzz/corpus/TARGET for the next run, failing ones in build/fuzz/crashes/TARGET, the
+# output in build/fuzz/TARGET.log. A target ends early when an input fails. The exit code shows whether any did.
 set -euo pipefail
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$top"
@@ -55,7 +55,7 @@ for target in "${targets[@]}"; do
   [ ! -f "fuzz/dictionaries/$target.dict" ] || options+=("-dict=$top/fuzz/dictionaries/$target.dict")
   report="$out/$target.log"
   before=$SECONDS
-  cd "$out/run/$target" # what a target writes stays there
+  cd "$out/run/$target" # files that a target writes stay there
   cpu=$({ time nice -n 5 "$out/bin/kv_fuzz_$target" "${options[@]}" "$out/corpus/$target" "$top/fuzz/corpus/$target" \
     >"$report" 2>&1; } 2>&1) || failed=1
   cd "$top"

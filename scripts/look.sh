@@ -17,7 +17,7 @@ cleanup() {
 trap cleanup EXIT
 read -r -t 20 number <&"$display"
 export DISPLAY=":$number" QT_QPA_PLATFORM=xcb
-# A language, so that the first thing is not a question. LOOK_LANGUAGE chooses another one than the last.
+# A language, so that the program does not first ask for one. LOOK_LANGUAGE chooses a language other than the last.
 settings="$top/build/run/param.ini"
 mkdir -p "${settings%/*}" && touch "$settings"
 if [ -n "${LOOK_LANGUAGE:-}" ] || ! grep -q '^LANGUAGE=' "$settings"; then

@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# screenshots.sh [NAME...]: takes the pictures of docs/images anew, all or those named: the real program beside the
-# simulator on a display without a screen, driven by keys and mouse as a user would. Each picture starts from fresh
-# settings, so that it can be repeated; the figures in it depend on when it was taken.
+# screenshots.sh [NAME...]: retakes the pictures of docs/images, all or those named: the real program with the simulator
+# on a display without a screen, driven by keys and mouse as a user would. Each picture starts from fresh settings, so
+# that it can be repeated; the figures in it depend on when it was taken.
 set -euo pipefail
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 images="$top/docs/images"
 programs="$top/build/release/bin"
-work=/tmp/kvcenter # stands in some pictures
+work=/tmp/kvcenter # appears in some pictures
 limit=$((150 * 1024))
 
 "$top/scripts/setup.sh"
@@ -55,13 +55,13 @@ device() {
   read -r -t 10 _ <&"$answers"
 }
 
-# control WORDS...: changes the device while it runs
+# control WORDS...: changes the device while it is running
 control() {
   echo "$@" >&"$controls"
   read -r -t 10 _ <&"$answers"
 }
 
-# program [KEY=VALUE...]: KVCenter with fresh settings; its window is up and has the keyboard
+# program [KEY=VALUE...]: KVCenter with fresh settings; its window is open and has the focus
 program() {
   rm -rf "$work/settings" && mkdir "$work/settings"
   ln -s "$top/build/release/objModel" "$work/settings/objModel"
@@ -72,7 +72,7 @@ program() {
   window '^ORVEL-IMU'
 }
 
-# window PATTERN: waits for a window and makes it the one that keys go to
+# window PATTERN: waits for a window and gives it the focus
 window() {
   for _ in $(seq 200); do
     window=$(xdotool search --onlyvisible --name "$1" 2>/dev/null | tail -1) && [ -n "$window" ] && break
@@ -85,7 +85,7 @@ window() {
 
 keys() { for key in "$@"; do xdotool key "$key"; sleep 0.3; done; }
 click() { xdotool mousemove --window "$window" "$1" "$2" click 1; sleep 0.3; }
-enter() { click "$1" "$2"; keys ctrl+a; xdotool type "$3"; keys Tab; } # X Y TEXT: into the field there
+enter() { click "$1" "$2"; keys ctrl+a; xdotool type "$3"; keys Tab; } # X Y TEXT: into the field at that place
 rest_mouse() { xdotool mousemove 1365 767; }
 
 # connected: opens the remembered port
@@ -96,14 +96,14 @@ connected() {
   sleep 3
 }
 
-# take NAME [CONVERT OPTIONS...]: the picture of the window, with its frame, and the end of the scene
+# take NAME [CONVERT OPTIONS...]: takes the picture of the window, with its frame, and ends the scene
 take() {
   local file="$images/$1.png"
   shift
   rest_mouse
   sleep 1
   import -frame -window "$window" "$work/picture.png"
-  # Few colours are enough, and no time of the day goes into the file.
+  # Few colours are enough, and no time of day goes into the file.
   convert "$work/picture.png" "$@" -strip +dither -colors 200 -define png:exclude-chunks=date,time \
     -define png:compression-level=9 "PNG8:$file"
   [ "$(stat -c %s "$file")" -le "$limit" ] || { echo "screenshots: $file is too large" >&2; exit 1; }
@@ -212,7 +212,7 @@ spectrum() {
   keys ctrl+f
   window '^FFT Analysis'
   click 45 24 # Start
-  sleep 2     # the status text gets a row of its own
+  sleep 2     # the status text gets its own row
   click 633 102 # Fit
 }
 

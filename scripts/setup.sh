@@ -13,7 +13,7 @@ packages=(
   qml6-module-qtquick-window qml6-module-qtquick-shapes qml6-module-qtqml qml6-module-qtqml-workerscript
   qt6-quick3d-dev qt6-quick3d-dev-tools qml6-module-quick3d qml6-module-quick3d-assetutils
   qml6-module-quick3d-helpers qt6-quick3d-assetimporters-plugin libtinyobjloader-dev qt6-translations-l10n
-  # benchmarks, a plotting library to compare with, and the display server's reports of what is drawn
+  # benchmarks, a plotting library to compare with, and the display server's drawing reports
   libbenchmark-dev libqcustomplot-dev libxcb1-dev libxcb-damage0-dev
   # fonts: the interface in Latin and in Chinese, Japanese and Korean, and the two built-in fixed-pitch fonts
   fonts-noto-core fonts-noto-cjk fonts-noto-mono fonts-hack
@@ -21,7 +21,7 @@ packages=(
   xvfb xauth libfftw3-dev srecord
   # checks
   clang-format-14 clang-tidy-14 python3
-  # the Debian package and its checks; a bare system to install it in, and eyes and hands there
+  # the Debian package and its checks; a bare system to install it in, and tools to see and use its windows
   dpkg-dev file desktop-file-utils appstream lintian debootstrap openbox xdotool imagemagick
   # fuzzing
   clang-14 libclang-rt-14-dev

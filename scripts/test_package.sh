@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# test_package.sh [FOLDER]: builds the Debian package, makes a bare Debian 12 in a temporary folder, installs the package
-# there without recommended packages, starts the program as an ordinary user beside the installed simulator, looks for
-# live data, windows and a recording, and removes the package again. Pictures of the windows, logs and figures go into
-# FOLDER (default build/package-test): look at them. Needs root, a Debian mirror and about 1.5 GB; takes some minutes.
-# The bare system has mounts and processes of its own, which end with this script, however it ends.
+# test_package.sh [FOLDER]: builds the Debian package, makes a bare Debian 12 in a temporary folder, installs the
+# package there without recommended packages, starts the program as an ordinary user with the installed simulator,
+# checks for live data, windows and a recording, and removes the package again. Pictures of the windows, logs and
+# figures go into FOLDER (default build/package-test): look at them. Needs root, a Debian mirror and about 1.5 GB; takes
+# some minutes. The bare system has its own mounts and processes, which end with this script, however it ends.
 set -euo pipefail
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 mirror=${KV_DEBIAN_MIRROR:-http://deb.debian.org/debian}
@@ -50,7 +50,7 @@ fail() {
 inside() { # a command as root
   env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LANG=C.UTF-8 DEBIAN_FRONTEND=noninteractive chroot "$root" "$@"
 }
-as_user() { # VARIABLE=VALUE... COMMAND...: as the ordinary user, in a shell's place
+as_user() { # VARIABLE=VALUE... COMMAND...: as the ordinary user, replacing the shell
   exec env -i PATH=/usr/bin:/bin HOME=/home/tester USER=tester LANG=en_US.UTF-8 DISPLAY="$DISPLAY" \
     /usr/sbin/chroot --userspec=tester:tester "$root" env "$@"
 }
@@ -65,7 +65,7 @@ wait_for() { # SECONDS COMMAND...
     sleep 0.2
   done
 }
-visible() { # TITLE: the number of the visible window; a search is lost when a tooltip goes meanwhile
+visible() { # TITLE: the number of the visible window; a search fails when a tooltip disappears meanwhile
   xdotool search --onlyvisible --name "$1" 2>/dev/null | grep -m 1 .
 }
 to_front() { # TITLE
@@ -78,7 +78,7 @@ window() { # TITLE: waits for the visible window, brings it to the front
 picture() { # TITLE FILE COLOURS: its picture; one with fewer colours shows nothing
   local colours
   window "$1"
-  sleep 4 # until it has drawn some seconds of data
+  sleep 4 # until it has drawn a few seconds of data
   import -window "$(visible "$1")" "$out/$2.png" || fail "no picture of \"$1\""
   colours=$(identify -format %k "$out/$2.png")
   step "window \"$1\": $(identify -format '%wx%h' "$out/$2.png"), $colours colours"
@@ -142,7 +142,7 @@ xdotool key ctrl+r
 picture 'Record to file' 3-record 100
 xdotool key alt+s
 sleep 1
-xdotool key alt+c # the recording goes on
+xdotool key alt+c # the recording continues
 picture 'ORVEL-IMU' 4-live 500
 xdotool key ctrl+d
 picture 'Sensor Dashboard' 5-waves 2500
@@ -155,7 +155,7 @@ window 'ORVEL-IMU'
 xdotool key ctrl+3
 picture '3D view' 7-threed 2500
 window 'ORVEL-IMU'
-xdotool key ctrl+w # ends the recording, too
+xdotool key ctrl+w # also ends the recording
 sleep 2
 xdotool key ctrl+q
 wait "$program" || fail "the second run ended with $?"
@@ -182,4 +182,4 @@ inside apt-get purge -qy kvcenter >"$out/purge.log" 2>&1 || fail "apt-get purge,
 left=$(find "$root" -xdev \( -iname '*kvcenter*' -o -name 'kv_simulator*' \) ! -path "$root/home/tester/*" -printf '/%P\n')
 [ -z "$left" ] || fail "left after purge: $left"
 [ -f "$data/param.ini" ] || fail "the user's settings are gone"
-step "purged: nothing left but what is the user's"
+step "purged: nothing left but the user's files"

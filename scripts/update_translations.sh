@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Brings the sources of the translations up to date with the texts of the program: new ones are marked unfinished, ones
+# Brings the sources of the translations up to date with the texts of the program: new ones are marked unfinished, those
 # that are gone are dropped. English holds plural forms only; all its other texts are those in the program.
 #
 #   scripts/update_translations.sh [FOLDER]   folder of the .ts files, resources/translations when not given

@@ -80,7 +80,7 @@ constexpr std::array kControls{
             [](Simulator &s, const Value &) { s.unplug(); return QString(); }},
     Control{"replug", Argument::None, 0, 0, "open a new port, print its \"port: ...\" line",
             [](Simulator &s, const Value &) { QString error; s.replug(&error); return error; }},
-    Control{"nodes", Argument::Integer, 1, kMaxNodes, "nodes behind the gateway",
+    Control{"nodes", Argument::Integer, 1, kMaxNodes, "radio nodes of the gateway",
             [](Simulator &s, const Value &v) {
                 return s.setNodes(v.integer) ? QString() : noGateway();
             }},
@@ -104,7 +104,7 @@ constexpr std::array kControls{
             [](Simulator &s, const Value &v) {
                 return onNodes(s, [&](RadioNodes &nodes) { return nodes.restartClock(v.text, s.deviceTimeNs()); });
             }},
-    Control{"node clock", Argument::Text, 0, 0, "N:OFFSET_MS[:PPM], a clock of its own (62)",
+    Control{"node clock", Argument::Text, 0, 0, "N:OFFSET_MS[:PPM], a separate clock (62)",
             [](Simulator &s, const Value &v) {
                 return onNodes(s, [&v](RadioNodes &nodes) { return nodes.setClock(v.text); });
             }},

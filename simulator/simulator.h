@@ -81,7 +81,7 @@ public:
     qint64 deviceTimeNs() const { return now() - m_clockZeroNs; }
     /// Holds frames back and sends `frames` of them at once, repeatedly; 1 sends each separately.
     void setBurst(int frames) { m_burst = frames; }
-    /// @return false when the device is no gateway
+    /// @return false when the device is not a gateway
     bool setNodes(int nodes);
     /// Every batch brings new node ids, running through 1..250.
     void setRotateIds(bool rotate) { m_rotateIds = rotate; }

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Decodes the bytes that a device has sent and prints its samples as CSV.
 
-    stty -F /dev/ttyUSB0 115200 raw -echo        # as docs/user-guide/device-formats.md tells
+    stty -F /dev/ttyUSB0 115200 raw -echo        # see docs/user-guide/device-formats.md
     timeout 5 cat /dev/ttyUSB0 > stream.bin
     decode_stream.py stream.bin > samples.csv    # "-" reads standard input
 """
@@ -22,7 +22,7 @@ COLUMNS = ("item", "gateway", "node", "time_ms", "temperature", "pressure", "acc
 
 
 def payloads(stream):
-    """The payloads of all good data packets. After a bad one the search goes on at its second byte."""
+    """The payloads of all good data packets. After a bad one the search continues at its second byte."""
     at = stream.find(0x5A)
     while at >= 0:
         end = at + HEADER.size

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """demo_firmware.py FILE.hex [KIB]: writes an Intel HEX image for trying the firmware update with the simulator.
 
-It looks like a firmware (stack pointer, reset vector, numbers up to its end), but no chip can run it: never load it into
+It looks like firmware (stack pointer, reset vector, numbers up to its end), but no chip can run it: never load it into
 a real device.
 """
 import struct

@@ -1,7 +1,7 @@
 #pragma once
 
 /// The application log of fuzz targets: counts instead of writing, because a log that grew with the input would fill
-/// the disk. It takes the place of AppLog's own source file.
+/// the disk. It replaces AppLog's own source file.
 namespace counted_log {
 
 /// Lines since the last reset.

@@ -5,8 +5,8 @@
 #include <cstddef>
 #include <cstdint>
 
-/// A fuzzer's input, taken from the front: some bytes that choose how the code is used, then the data itself. Past its
-/// end everything is 0.
+/// A fuzzer's input, consumed from the front: some bytes that choose how the code is used, then the data itself. Past
+/// its end everything reads as 0.
 class FuzzInput
 {
 public:

@@ -4,16 +4,15 @@
 #include <QString>
 #include <QTemporaryDir>
 
-/// A file that code under test opens by its path, in a folder of its own that is kept in memory. A failure ends the
-/// program.
+/// A file that code under test opens by its path, in a separate folder in memory. A failure ends the program.
 class MemoryFile
 {
 public:
     MemoryFile();
 
-    /// Replaces the content. The file's time moves on each time, so that readers who remember it read again.
+    /// Replaces the content. The file's time advances with each call, so that readers that cache it read again.
     void write(const QByteArray &content);
-    /// Moves only the time on.
+    /// Advances only the time.
     void touch();
     const QString &path() const { return m_path; }
 

@@ -66,7 +66,7 @@ struct ProductProfile
 };
 
 /// The product table and its queries. Pure, any thread. Pointers and references stay valid for the program's life. (The
-/// texts of TransportRole and OrientationPreset are declared beside those types.)
+/// texts of TransportRole and OrientationPreset are declared with those types.)
 namespace product_profile {
 
 /// Name of a value; "Unknown" for any value that has none.

@@ -75,7 +75,7 @@ public:
 
     using QObject::connect;
     /// Pings the bootloader and reads its facts; an unanswered ping is not a fault, a property that is missing or does
-    /// not have 4 bytes is. Takes up to 3 s when nobody answers.
+    /// not have 4 bytes is. Takes up to 3 s when nothing answers.
     bool connect();
 
     /// Erases the size of the image from `startAddress` on, writes the image in packets of the target's maximum size,

@@ -144,7 +144,7 @@ private:
     std::unique_ptr<QThread> m_workerThread; ///< of the connection; renewed for the next one
     QString m_portName;
     int m_baudRate = 0;
-    bool m_startPending = false;                ///< openUART() has asked for a start that has not run yet
+    bool m_startPending = false;                ///< openUART() has requested a start that has not run yet
     std::atomic<bool> m_bootloaderMode = false; ///< connected to a bootloader, or trying to
     bool m_hasAskedForBootloader = false;
     bool m_moveHomeAfterwards = false; ///< the thread was stopped inside a wait of the bootloader client

@@ -388,7 +388,7 @@ bool DeviceSession::restartDevice()
         return false;
     QMetaObject::invokeMethod(m_port.get(), "restartFromBootloader", Qt::BlockingQueuedConnection);
     const bool restarted = bootloaderOutcome().fault == BootloaderFault::None;
-    m_bootloaderConnected = false; // data from the firmware lead out of this state, too
+    m_bootloaderConnected = false; // data from the firmware also lead out of this state
     if (restarted)
         leaveBootloader();
     emit stateChanged();

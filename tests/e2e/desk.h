@@ -1,8 +1,17 @@
 #pragma once
 
-#include <QApplication> include <QComboBox> include <QFile> include <QLabel> include <QLineEdit> include <QListWidget>
-#include <QMessageBox> include <QPointer> include <QPushButton> include <QTemporaryDir> include <QTimer> include
-# <qtestsupport_core.h> // qWaitFor() for programs that are not tests
+#include <QApplication>
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <qtestsupport_core.h> // qWaitFor() for programs that are not tests
 
 #include "session/device_session.h"
 #include "ui/form_base.h"

@@ -1,5 +1,6 @@
-# !/usr/bin/env bash core_without_gui.sh PROGRAM...: fails when one of the programs, each linked with a folder's core,
-# needs a window-system library.
+#!/usr/bin/env bash
+# core_without_gui.sh PROGRAM...: fails when one of the programs, each linked with a folder's core, needs a
+# window-system library.
 set -euo pipefail
 faults=0
 for program in "$@"; do

@@ -1,6 +1,6 @@
-# !/usr/bin/env bash with_display.sh PROGRAM [ARGUMENTS...]: runs a test with windows on a separate display. Without a
-# window manager the keyboard has one owner; with a display each, such tests can run in parallel. KV_SCREEN is its size
-# in pixels.
+#!/usr/bin/env bash
+# with_display.sh PROGRAM [ARGUMENTS...]: runs a test with windows on a separate display. Without a window manager the
+# keyboard has one owner; with a display each, such tests can run in parallel. KV_SCREEN is its size in pixels.
 set -euo pipefail
 exec {numbers}< <(exec Xvfb -displayfd 1 -screen 0 "${KV_SCREEN:-1366x768}x24" -nolisten tcp 2>/dev/null)
 server=$!
