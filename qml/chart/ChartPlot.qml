@@ -271,8 +271,11 @@ Item {
             id: readout
 
             objectName: "readout"
+            // From above the value axis on: a narrow plot needs the room.
+            x: -plotArea.anchors.leftMargin + 4
             y: -height - 1
-            width: parent.width
+            width: plot.width - 4
+            height: implicitHeight
             visible: crosshair.visible
             viewState: plot.viewState
         }

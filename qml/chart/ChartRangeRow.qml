@@ -14,10 +14,6 @@ Flow {
     property string yUnit
     property alias presets: presetRow.data
 
-    function shown(value: real): real {
-        return Number(value.toPrecision(6));
-    }
-
     spacing: 6
 
     Row {
@@ -28,7 +24,7 @@ Flow {
     NumberField {
         implicitWidth: Math.round(font.pointSize * 7)
         objectName: "xFrom"
-        value: row.shown(row.viewState.xViewMin)
+        value: Math.round(row.viewState.xViewMin * 1e6) / 1e6
         from: -1e9
         to: 1e9
         unit: row.xUnit
@@ -38,7 +34,7 @@ Flow {
     NumberField {
         implicitWidth: Math.round(font.pointSize * 7)
         objectName: "xTo"
-        value: row.shown(row.viewState.xViewMax)
+        value: Math.round(row.viewState.xViewMax * 1e6) / 1e6
         from: -1e9
         to: 1e9
         unit: row.xUnit
@@ -48,7 +44,7 @@ Flow {
     NumberField {
         implicitWidth: Math.round(font.pointSize * 7)
         objectName: "yFrom"
-        value: row.shown(row.viewState.yViewMin)
+        value: Math.round(row.viewState.yViewMin * 1e6) / 1e6
         from: -1e30
         to: 1e30
         unit: row.yUnit
@@ -58,7 +54,7 @@ Flow {
     NumberField {
         implicitWidth: Math.round(font.pointSize * 7)
         objectName: "yTo"
-        value: row.shown(row.viewState.yViewMax)
+        value: Math.round(row.viewState.yViewMax * 1e6) / 1e6
         from: -1e30
         to: 1e30
         unit: row.yUnit

@@ -19,8 +19,14 @@ Item {
         font: Theme.fixedSmallFont
         text: readout.visible ? readout.viewState.hoverLine : ""
     }
+    FontMetrics {
+        id: metrics
+
+        font: Theme.fixedSmallFont
+    }
     clip: true
-    implicitHeight: line.height
+    // The same whether it is seen or not, so that the plot below does not jump.
+    implicitHeight: Math.ceil(metrics.height)
 
     Row {
         id: line

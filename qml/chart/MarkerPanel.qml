@@ -22,7 +22,7 @@ Rectangle {
         list.itemAtIndex(row)?.edit();
     }
 
-    width: Math.round(Theme.font.pointSize * 24)
+    width: Math.round(Theme.font.pointSize * 32)
     radius: 8
     color: Theme.surface
     border.width: 1
@@ -97,6 +97,7 @@ Rectangle {
                 rightPadding: 6
                 verticalAlignment: TextInput.AlignVCenter
                 selectByMouse: true
+                autoScroll: activeFocus // the beginning is what is read
                 text: entry.markerText
                 font: Theme.font
                 color: Theme.text

@@ -60,7 +60,7 @@ Item {
 
             x: 12
             y: 8
-            width: parent.width - status.width - linkButton.width - markerButton.width - saveButton.width - 60
+            width: parent.width - status.width - tools.width - 52
             spacing: 8
 
             ActionButton {
@@ -91,47 +91,17 @@ Item {
                 }
             }
         }
-        ActionButton {
-            id: linkButton
+        ChartBarTools {
+            id: tools
 
-            objectName: "linkButton"
             anchors {
                 right: status.left
                 rightMargin: 16
                 verticalCenter: parent.verticalCenter
             }
-            checked: chartLink.linked
-            iconName: "link"
-            hint: chartLink.linked ? qsTr("Let each chart have its own time axis and cursors") : qsTr("Couple time axes and cursors of all charts")
-            onClicked: dashboard.bridge.linked = !chartLink.linked
-        }
-        ActionButton {
-            id: saveButton
-
-            objectName: "saveButton"
-            anchors {
-                right: markerButton.left
-                rightMargin: 4
-                verticalCenter: parent.verticalCenter
-            }
-            checked: savePanel.visible
-            iconName: "save"
-            hint: qsTr("Save charts")
-            onClicked: savePanel.visible = !savePanel.visible
-        }
-        ActionButton {
-            id: markerButton
-
-            objectName: "markerButton"
-            anchors {
-                right: linkButton.left
-                rightMargin: 4
-                verticalCenter: parent.verticalCenter
-            }
-            checkable: true
-            iconName: "marker"
-            text: dashboard.bridge.markers.count > 0 ? String(dashboard.bridge.markers.count) : ""
-            hint: qsTr("List of markers; M sets one")
+            link: chartLink
+            markers: dashboard.bridge.markers
+            onLinkRequested: linked => dashboard.bridge.linked = linked
         }
         Text {
             id: status
@@ -174,7 +144,7 @@ Item {
             objectName: "markerPanel"
             anchors.right: parent.right
             height: parent.height
-            visible: markerButton.checked
+            visible: tools.listing
             markers: dashboard.bridge.markers
             onPicked: time => {
                 for (const pane of charts.panes())
@@ -242,7 +212,7 @@ Item {
                     link: chartLink
                     markers: dashboard.bridge.markers
                     onMarkerAdded: row => {
-                        markerButton.checked = true;
+                        tools.listing = true;
                         Qt.callLater(markerPanel.edit, row); // when it has been laid out
                     }
                     maximized: dashboard.maximizedSlot === index
@@ -283,7 +253,7 @@ Item {
         objectName: "savePanel"
         x: parent.width - width - 8
         y: bar.height
-        visible: false
+        visible: tools.saving
         saver: dashboard.saver
         onAboutToSave: savePanel.charts = charts.panes()
     }

@@ -64,7 +64,7 @@ Item {
 
             x: 12
             y: 8
-            width: parent.width - (status.visible ? status.width : 0) - linkButton.width - markerButton.width - saveButton.width - 60
+            width: parent.width - (status.visible ? status.width : 0) - tools.width - 52
             spacing: 8
 
             ActionButton {
@@ -95,47 +95,17 @@ Item {
                 }
             }
         }
-        ActionButton {
-            id: linkButton
+        ChartBarTools {
+            id: tools
 
-            objectName: "linkButton"
             anchors {
                 right: status.visible ? status.left : parent.right
                 rightMargin: 16
                 verticalCenter: parent.verticalCenter
             }
-            checked: charts.linked
-            iconName: "link"
-            hint: charts.linked ? qsTr("Let each chart have its own time axis and cursors") : qsTr("Couple time axes and cursors of all charts")
-            onClicked: dashboard.bridge.linked = !charts.linked
-        }
-        ActionButton {
-            id: saveButton
-
-            objectName: "saveButton"
-            anchors {
-                right: markerButton.left
-                rightMargin: 4
-                verticalCenter: parent.verticalCenter
-            }
-            checked: savePanel.visible
-            iconName: "save"
-            hint: qsTr("Save charts")
-            onClicked: savePanel.visible = !savePanel.visible
-        }
-        ActionButton {
-            id: markerButton
-
-            objectName: "markerButton"
-            anchors {
-                right: linkButton.left
-                rightMargin: 4
-                verticalCenter: parent.verticalCenter
-            }
-            checkable: true
-            iconName: "marker"
-            text: dashboard.bridge.markers.count > 0 ? String(dashboard.bridge.markers.count) : ""
-            hint: qsTr("List of markers; M sets one")
+            link: charts
+            markers: dashboard.bridge.markers
+            onLinkRequested: linked => dashboard.bridge.linked = linked
         }
         Text {
             id: status
@@ -161,7 +131,7 @@ Item {
             right: parent.right
             margins: 8
         }
-        visible: markerButton.checked
+        visible: tools.listing
         markers: dashboard.bridge.markers
         onPicked: time => {
             for (const chart of charts.linked ? [dashboard.current] : dashboard.chartItems())
@@ -205,7 +175,7 @@ Item {
                 link: charts
                 markers: dashboard.bridge.markers
                 onMarkerAdded: row => {
-                    markerButton.checked = true;
+                    tools.listing = true;
                     Qt.callLater(markerPanel.edit, row); // when it has been laid out
                 }
                 maximized: dashboard.maximizedType === modelData
@@ -236,7 +206,7 @@ Item {
         objectName: "savePanel"
         x: parent.width - width - 8
         y: bar.height
-        visible: false
+        visible: tools.saving
         saver: dashboard.saver
         onAboutToSave: savePanel.charts = dashboard.chartItems().filter(chart => chart.visible)
     }

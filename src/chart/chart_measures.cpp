@@ -113,8 +113,8 @@ QVariantList ChartMeasures::rows() const
 {
     QVariantList list;
     for (int row = 0; row < int(m_table.rows.size()); ++row) {
-        list += m_table.texts(row, [this](int r, double value, bool isDifference) {
-            return std::isnan(value) ? QString() : m_viewState->valueText(m_series.at(r), value, isDifference);
+        list += m_table.texts(row, [this](int r, double value, MeasureTable::Figure figure) {
+            return std::isnan(value) ? QString() : m_viewState->valueText(m_series.at(r), value, figure);
         });
     }
     return list;

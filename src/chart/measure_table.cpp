@@ -6,7 +6,8 @@
 
 namespace {
 
-constexpr int kDigits = 9; ///< brings a 32-bit value back exactly
+constexpr int kMagnitudes = 3; ///< the last figures: deviation, RMS, peak to peak
+constexpr int kDigits = 9;     ///< brings a 32-bit value back exactly
 
 QString word(const char *text)
 {
@@ -51,7 +52,10 @@ QStringList MeasureTable::texts(int row, const ValueText &text) const
     const QList<double> figures = numbers(rows.at(row));
     QStringList cells{rows.at(row).name};
     for (qsizetype i = 0; i < figures.size(); ++i)
-        cells += text(row, figures.at(i), hasA && hasB && i == 2);
+        cells += text(row, figures.at(i),
+                      i + kMagnitudes >= figures.size() ? Figure::Magnitude
+                      : hasA && hasB && i == 2          ? Figure::Difference
+                                                        : Figure::Value);
     return cells << QString::number(rows.at(row).statistics.count);
 }
 

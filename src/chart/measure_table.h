@@ -25,8 +25,10 @@ struct MeasureTable
     bool hasB = false;
     QList<Row> rows;
 
-    /// Says a value of a row; `signedAlways` for differences.
-    using ValueText = std::function<QString(int row, double value, bool isDifference)>;
+    /// What a figure is, which decides whether it carries a sign.
+    enum class Figure { Value, Difference, Magnitude };
+    /// Says a figure of a row.
+    using ValueText = std::function<QString(int row, double value, Figure figure)>;
 
     /// The words over the columns; the first is empty, over the names.
     QStringList header() const;

@@ -13,6 +13,7 @@
 #include "chart/chart_link.h"
 #include "chart/chart_range.h"
 #include "chart/marker_list.h"
+#include "chart/measure_table.h"
 
 class ChartSource;
 
@@ -90,7 +91,7 @@ public:
     virtual QString hoverTitle() const = 0;
     virtual QStringList hoverTexts() const = 0;
     /// A value of a series with its unit's digits, a position with its unit.
-    virtual QString valueText(int series, double value, bool isDifference) const = 0;
+    virtual QString valueText(int series, double value, MeasureTable::Figure figure) const = 0;
     virtual QString positionText(double position) const = 0;
     /// Where the cursors are and what lies between them, one text per quantity.
     virtual QStringList measurement() const = 0;

@@ -8,7 +8,7 @@ void CeilingField::setMaximumInForce(double maximum)
         return;
     m_maximumInForce = maximum;
     if (!hasFocus())
-        showAnew();
+        refreshText();
 }
 
 QString CeilingField::textFromValue(double value) const
@@ -20,6 +20,6 @@ QString CeilingField::textFromValue(double value) const
 
 void CeilingField::focusInEvent(QFocusEvent *event)
 {
-    showAnew();
+    refreshText();
     QDoubleSpinBox::focusInEvent(event);
 }

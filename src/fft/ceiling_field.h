@@ -20,8 +20,8 @@ protected:
     void focusInEvent(QFocusEvent *event) override;
 
 private:
-    /// Makes the text anew.
-    void showAnew() { setSuffix(suffix()); }
+    /// Makes the text again.
+    void refreshText() { setSuffix(suffix()); }
 
     double m_maximumInForce = 0;
 };

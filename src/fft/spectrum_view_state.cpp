@@ -103,9 +103,10 @@ double SpectrumViewState::fitFromX() const
     return m_bridge ? m_bridge->steadyEndHz() : 0;
 }
 
-QString SpectrumViewState::valueText(int, double value, bool isDifference) const
+QString SpectrumViewState::valueText(int, double value, MeasureTable::Figure figure) const
 {
-    return isDifference ? value_format::signedNumber(value, 2) : value_format::number(value, 2);
+    return figure == MeasureTable::Figure::Difference ? value_format::signedNumber(value, 2)
+                                                      : value_format::number(value, 2);
 }
 
 QString SpectrumViewState::positionText(double frequency) const

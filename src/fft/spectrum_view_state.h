@@ -63,7 +63,7 @@ public:
     QStringList measurement() const override;
 
     /// An amplitude, also where levels are shown: statistics of decibels would mean nothing.
-    QString valueText(int series, double value, bool isDifference) const override;
+    QString valueText(int series, double value, MeasureTable::Figure figure) const override;
     QString positionText(double frequency) const override;
     QString fileStem() const override { return QStringLiteral("spectrum"); }
     /// All spectra: they are short.

@@ -53,7 +53,10 @@ SensorDashboardBridge::SensorDashboardBridge(QObject *parent) : QObject(parent)
 {
     for (const SensorType &type : ::sensorTypes()) {
         m_sensorTypes += type.key;
-        m_bridges.insert(type.key, new WaveChartBridge(type.key, this));
+        auto *chart = new WaveChartBridge(type.key, this);
+        connect(chart->trigger(), &WaveTrigger::caught, this,
+                [this, key = QString(type.key)](double eventSec) { emit caught(key, eventSec); });
+        m_bridges.insert(type.key, chart);
         m_selected.insert(type.key, true);
     }
     retranslate();

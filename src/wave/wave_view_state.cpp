@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "app/app_language_manager.h"
+#include "app/value_format.h"
 #include "wave/chart_text.h"
 #include "wave/wave_csv.h"
 
@@ -122,11 +123,19 @@ QStringList WaveViewState::hoverTexts() const
     return texts;
 }
 
-QString WaveViewState::valueText(int channel, double value, bool isDifference) const
+QString WaveViewState::valueText(int channel, double value, MeasureTable::Figure figure) const
 {
     if (!m_bridge)
         return {};
-    return isDifference ? chart_text::difference(*m_bridge, value) : chart_text::value(*m_bridge, channel, value);
+    switch (figure) {
+    case MeasureTable::Figure::Difference:
+        return chart_text::difference(*m_bridge, value);
+    case MeasureTable::Figure::Magnitude:
+        return value_format::number(value, chart_text::decimals(m_bridge->sensorType()));
+    case MeasureTable::Figure::Value:
+        break;
+    }
+    return chart_text::value(*m_bridge, channel, value);
 }
 
 QString WaveViewState::positionText(double seconds) const

@@ -108,7 +108,7 @@ public:
     /// samples.
     Q_INVOKABLE int addMarker();
 
-    QString valueText(int channel, double value, bool isDifference) const override;
+    QString valueText(int channel, double value, MeasureTable::Figure figure) const override;
     QString positionText(double seconds) const override;
     QString fileStem() const override;
     QByteArray table(bool all) const override;

@@ -93,13 +93,16 @@ private slots:
     {
         MeasureTable table;
         table.rows = {{QStringLiteral("X"), 1.5, -2, {4, -1, 3, 0.25, 1e-7, kNaN}}};
-        const auto text = [](int, double value, bool isDifference) {
-            return (isDifference ? u"d"_qs : QString()) + QString::number(value);
+        const auto text = [](int, double value, MeasureTable::Figure figure) {
+            return (figure == MeasureTable::Figure::Difference  ? u"d"_qs
+                    : figure == MeasureTable::Figure::Magnitude ? u"m"_qs
+                                                                : QString())
+                   + QString::number(value);
         };
         const std::tuple<bool, bool, QString, QString> rows[] = {
-            {false, false, u"X|-1|3|0.25|1e-07|nan|4|4"_qs, u"X\t-1\t3\t0.25\t1e-07\t\t4\t4\n"_qs},
-            {true, false, u"X|1.5|-1|3|0.25|1e-07|nan|4|4"_qs, u"X\t1.5\t-1\t3\t0.25\t1e-07\t\t4\t4\n"_qs},
-            {true, true, u"X|1.5|-2|d-3.5|-1|3|0.25|1e-07|nan|4|4"_qs,
+            {false, false, u"X|-1|3|0.25|m1e-07|mnan|m4|4"_qs, u"X\t-1\t3\t0.25\t1e-07\t\t4\t4\n"_qs},
+            {true, false, u"X|1.5|-1|3|0.25|m1e-07|mnan|m4|4"_qs, u"X\t1.5\t-1\t3\t0.25\t1e-07\t\t4\t4\n"_qs},
+            {true, true, u"X|1.5|-2|d-3.5|-1|3|0.25|m1e-07|mnan|m4|4"_qs,
              u"X\t1.5\t-2\t-3.5\t-1\t3\t0.25\t1e-07\t\t4\t4\n"_qs}};
         for (const auto &[a, b, screen, clipboard] : rows) {
             table.hasA = a;

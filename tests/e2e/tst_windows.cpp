@@ -123,9 +123,9 @@ private slots:
         QTRY_COMPARE(stateOf(1), int(NodeState::Ended));
         QVERIFY(simulator.control("replug"));
         desk.open(simulator.port());
-        QVERIFY(bridge.chosenNodes().isEmpty());
         QTRY_COMPARE(model->rowCount(), 15);
         QCOMPARE(stateOf(1), int(NodeState::Live));
+        QCOMPARE(bridge.chosenNodes(), QList<int>{1}); // it is remembered
     }
 
     void spectrumAndThreeDShowTheSelectedNode()

@@ -213,6 +213,7 @@ private slots:
         bench.push(1, 20000);
         QTRY_VERIFY(bench.view->hasData());
         bench.window.bridge().setPlaying(false);
+        const double plotHeight = bench.plot->height();
 
         bench.wheel(0.5, Qt::NoModifier);
         QVERIFY2(bench.view->xViewMax() == 0 && bench.view->xViewMin() > -9.5, "a live view stays live");
@@ -228,6 +229,10 @@ private slots:
         QTest::mouseRelease(&bench.window, Qt::LeftButton, {}, bench.at(0.7, 0.5));
         QVERIFY2(std::abs(bench.view->xViewMax() + 5) < 0.1, qPrintable(QString::number(bench.view->xViewMax())));
         QVERIFY(bench.view->hoverTexts().size() == 4);
+        const QQuickItem *readout = findItem(bench.chart, "readout");
+        QVERIFY(readout->isVisible());
+        QVERIFY2(readout->mapRectToItem(bench.plot, readout->boundingRect()).bottom() <= 0, "it covers no curve");
+        QVERIFY2(bench.plot->height() == plotHeight, "and moves none");
 
         QTest::keyClick(&bench.window, Qt::Key_B);
         QVERIFY(std::abs(bench.view->cursors().at(1) - bench.view->hoverX()) < 1e-9);
