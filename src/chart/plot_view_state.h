@@ -26,7 +26,7 @@ class PlotViewState : public QObject
     QML_UNCREATABLE("the base of the states of charts")
     Q_PROPERTY(ChartLink *link READ link WRITE setLink NOTIFY linkChanged)
     Q_PROPERTY(QStringList seriesNames READ seriesNames NOTIFY seriesChanged)
-    Q_PROPERTY(QVariantList seriesColors READ seriesColors NOTIFY seriesChanged)
+    Q_PROPERTY(QVariantList seriesColors READ seriesColors NOTIFY colorsChanged)
     Q_PROPERTY(QList<bool> visibleSeries READ visibleSeries NOTIFY seriesChanged)
     Q_PROPERTY(double xViewMin READ xViewMin NOTIFY viewChanged)
     Q_PROPERTY(double xViewMax READ xViewMax NOTIFY viewChanged)
@@ -56,7 +56,7 @@ public:
     /// What is drawn; null while there is none.
     virtual const ChartSource *source() const = 0;
     QStringList seriesNames() const;
-    /// QColors.
+    /// QColors, as they are drawn now; they follow source and appearance.
     QVariantList seriesColors() const;
     /// One flag per series.
     virtual QList<bool> visibleSeries() const = 0;
@@ -132,6 +132,7 @@ public:
 signals:
     void linkChanged();
     void seriesChanged();
+    void colorsChanged();
     void viewChanged();
     void cursorsChanged();
     void hoverChanged();
