@@ -8,6 +8,7 @@
 #include <limits>
 #include <memory>
 
+#include "chart/series_statistics.h"
 #include "wave/wave_chart_bridge.h"
 #include "wave/waveform_data_model.h"
 
@@ -63,6 +64,43 @@ void decimateByTime(benchmark::State &state)
     state.counters["points"] = double(points.size());
 }
 BENCHMARK(decimateByTime);
+
+/// One pass over the values for the same figures, in a way that loses digits on large offsets.
+void onePassBaseline(benchmark::State &state)
+{
+    QList<double> values(kSamples);
+    std::generate(values.begin(), values.end(), [i = 0]() mutable { return double(signal(i++)); });
+    for (auto _ : state) {
+        double low = std::numeric_limits<double>::max();
+        double high = -low;
+        double sum = 0;
+        double squares = 0;
+        int count = 0;
+        for (const double value : std::as_const(values)) {
+            if (!std::isfinite(value))
+                continue;
+            low = value < low ? value : low;
+            high = value > high ? value : high;
+            sum += value;
+            squares += value * value;
+            ++count;
+        }
+        benchmark::DoNotOptimize(low + high + sum + squares + count);
+    }
+}
+BENCHMARK(onePassBaseline);
+
+void statistics(benchmark::State &state)
+{
+    const auto model = fullModel();
+    for (auto _ : state) {
+        StatisticsSum sum;
+        for (const std::span<const double> run : model->runs(0, 0, model->count()))
+            sum.add(run);
+        benchmark::DoNotOptimize(sum.result());
+    }
+}
+BENCHMARK(statistics);
 
 void pushSample(benchmark::State &state)
 {

@@ -8,7 +8,8 @@ import KVCenter.Chart
 /// about the pointer, with Ctrl the other one, and pans sideways; dragging pans, with Shift it draws a box to zoom to; a
 /// double click resets.
 ///
-/// What a kind of chart adds lies under the grid (`underlay`) or over the lines (`overlay`), in the pixels of `area`.
+/// What a kind of chart adds lies under the grid (`underlay`), over the lines (`overlay`), or over all as something to be
+/// dragged (`handles`), in the pixels of `area`.
 Item {
     id: plot
 
@@ -20,6 +21,7 @@ Item {
     property int resetButtons: Qt.LeftButton
     property alias underlay: under.data
     property alias overlay: over.data
+    property alias handles: grips.data
     readonly property alias area: plotArea
     readonly property real xSpan: viewState.xViewMax - viewState.xViewMin
     readonly property real ySpan: viewState.yViewMax - viewState.yViewMin
@@ -34,6 +36,9 @@ Item {
     }
     function toY(level: real): real {
         return (1 - (level - viewState.yViewMin) / ySpan) * plotArea.height;
+    }
+    function toLevel(y: real): real {
+        return viewState.yViewMin + (1 - y / plotArea.height) * ySpan;
     }
 
     FontMetrics {
@@ -137,6 +142,34 @@ Item {
             anchors.margins: -2 // ChartLines::kBleed: a line on the edge is not cut
             viewState: plot.viewState
         }
+        // What the user marked: a flag at the foot, so that it stands apart from cursors and breaks.
+        Repeater {
+            model: plot.viewState.markerPlaces.length
+
+            Rectangle {
+                id: marker
+
+                required property int index
+
+                objectName: "marker"
+                x: Math.round(plot.toX(plot.viewState.markerPlaces[index] ?? NaN))
+                width: 1
+                height: plotArea.height
+                color: Theme.accentDark
+
+                Text {
+                    x: 3
+                    y: plotArea.height - height
+                    width: Math.min(implicitWidth, plot.toX(plot.viewState.markerPlaces[marker.index + 1] ?? plot.viewState.xViewMax) - marker.x - 6)
+                    visible: width > 12
+                    elide: Text.ElideRight
+                    text: plot.viewState.markerTexts[marker.index] ?? ""
+                    textFormat: Text.PlainText
+                    font: Theme.smallFont
+                    color: Theme.accentDark
+                }
+            }
+        }
         Item {
             id: over
 
@@ -228,6 +261,11 @@ Item {
                 height: plotArea.height
                 onMoved: x => plot.viewState.placeCursor(index, plot.toPosition(x))
             }
+        }
+        Item {
+            id: grips
+
+            anchors.fill: parent
         }
         ChartReadout {
             id: readout

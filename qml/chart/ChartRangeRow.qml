@@ -14,7 +14,7 @@ Flow {
     property string yUnit
     property alias presets: presetRow.data
 
-    function shown(value: real): double {
+    function shown(value: real): real {
         return Number(value.toPrecision(6));
     }
 

@@ -17,7 +17,7 @@ Item {
         id: full
 
         font: Theme.fixedSmallFont
-        text: readout.visible ? readout.viewState.hoverTitle + readout.viewState.hoverTexts.join("  ") + readout.viewState.seriesNames.join("   ") : ""
+        text: readout.visible ? readout.viewState.hoverLine : ""
     }
     clip: true
     implicitHeight: line.height

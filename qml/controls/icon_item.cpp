@@ -40,6 +40,8 @@ constexpr std::array kIcons{
     Row{QLatin1String("link"), false,
         QLatin1String(
             "M 2 2 L 2 6 M 2 10 L 2 14 M 14 2 L 14 6 M 14 10 L 14 14 M 2 4 L 14 4 M 2 12 L 14 12 M 8 4 L 8 12")},
+    Row{QLatin1String("marker"), false, QLatin1String("M 4 14 L 4 2.5 L 12.5 5.5 L 4 8.5")},
+    Row{QLatin1String("trigger"), false, QLatin1String("M 2 13 L 7 13 L 7 3 L 14 3 M 4.5 9.5 L 7 7 L 9.5 9.5")},
     Row{QLatin1String("range"), false,
         QLatin1String(
             "M 3 2 L 3 13 L 14 13 M 1.5 4 L 3 2 L 4.5 4 M 12 11.5 L 14 13 L 12 14.5 M 6 9 L 11 9 M 6 6 L 11 6")},

@@ -139,7 +139,7 @@ FocusScope {
                 enabled: chart.bridge.hasData
                 iconName: "picture"
                 hint: qsTr("Save a picture of the chart")
-                onClicked: chart.files.savePictureAs("spectrum", chart)
+                onClicked: chart.files.savePicture(view, chart)
             }
             ActionButton {
                 objectName: "saveCsv"

@@ -34,6 +34,7 @@ Item {
         id: chartLink
 
         objectName: "link"
+        linked: dashboard.bridge.linked
     }
     FontMetrics {
         id: metrics
@@ -59,7 +60,7 @@ Item {
 
             x: 12
             y: 8
-            width: parent.width - status.width - linkButton.width - 52
+            width: parent.width - status.width - linkButton.width - markerButton.width - saveButton.width - 60
             spacing: 8
 
             ActionButton {
@@ -102,7 +103,35 @@ Item {
             checked: chartLink.linked
             iconName: "link"
             hint: chartLink.linked ? qsTr("Let each chart have its own time axis and cursors") : qsTr("Couple time axes and cursors of all charts")
-            onClicked: chartLink.linked = !chartLink.linked
+            onClicked: dashboard.bridge.linked = !chartLink.linked
+        }
+        ActionButton {
+            id: saveButton
+
+            objectName: "saveButton"
+            anchors {
+                right: markerButton.left
+                rightMargin: 4
+                verticalCenter: parent.verticalCenter
+            }
+            checked: savePanel.visible
+            iconName: "save"
+            hint: qsTr("Save charts")
+            onClicked: savePanel.visible = !savePanel.visible
+        }
+        ActionButton {
+            id: markerButton
+
+            objectName: "markerButton"
+            anchors {
+                right: linkButton.left
+                rightMargin: 4
+                verticalCenter: parent.verticalCenter
+            }
+            checkable: true
+            iconName: "marker"
+            text: dashboard.bridge.markers.count > 0 ? String(dashboard.bridge.markers.count) : ""
+            hint: qsTr("List of markers; M sets one")
         }
         Text {
             id: status
@@ -139,8 +168,32 @@ Item {
             bridge: dashboard.bridge
         }
 
+        MarkerPanel {
+            id: markerPanel
+
+            objectName: "markerPanel"
+            anchors.right: parent.right
+            height: parent.height
+            visible: markerButton.checked
+            markers: dashboard.bridge.markers
+            onPicked: time => {
+                for (const pane of charts.panes())
+                    pane.viewState?.showTime(time);
+            }
+            onDone: table.forceActiveFocus()
+        }
+
         Flickable {
             id: charts
+
+            function panes(): var {
+                const items = [];
+                for (let i = 0; i < paneRepeater.count; ++i) {
+                    if (paneRepeater.itemAt(i).visible)
+                        items.push(paneRepeater.itemAt(i));
+                }
+                return items;
+            }
 
             function scroll(distance: real) {
                 contentY = Math.max(0, Math.min(contentY + distance, contentHeight - height));
@@ -156,7 +209,8 @@ Item {
             anchors {
                 left: table.right
                 leftMargin: 8
-                right: parent.right
+                right: markerPanel.visible ? markerPanel.left : parent.right
+                rightMargin: markerPanel.visible ? 8 : 0
                 top: parent.top
                 bottom: parent.bottom
             }
@@ -174,6 +228,8 @@ Item {
             }
 
             Repeater {
+                id: paneRepeater
+
                 model: dashboard.bridge.maxPaneCount
 
                 GatewayPane {
@@ -184,9 +240,15 @@ Item {
                     bridge: dashboard.panes.find(pane => pane.slot === index)?.backend ?? null
                     saver: dashboard.saver
                     link: chartLink
+                    markers: dashboard.bridge.markers
+                    onMarkerAdded: row => {
+                        markerButton.checked = true;
+                        Qt.callLater(markerPanel.edit, row); // when it has been laid out
+                    }
                     maximized: dashboard.maximizedSlot === index
                     canMaximize: maximized || dashboard.shownPanes.length > 1
-                    visible: place >= 0
+                    // What has been scrolled away costs nothing.
+                    visible: place >= 0 && y + height > charts.contentY && y < charts.contentY + charts.height
                     x: Math.round((place % charts.columns) * (charts.cellWidth + charts.gap))
                     y: Math.round(Math.floor(place / charts.columns) * (charts.cellHeight + charts.gap))
                     width: Math.round(charts.cellWidth)
@@ -215,6 +277,16 @@ Item {
         detail: qsTr("Connect a wireless gateway; its nodes appear here.")
     }
 
+    SavePanel {
+        id: savePanel
+
+        objectName: "savePanel"
+        x: parent.width - width - 8
+        y: bar.height
+        visible: false
+        saver: dashboard.saver
+        onAboutToSave: savePanel.charts = charts.panes()
+    }
     MessageRow {
         id: message
 

@@ -12,12 +12,18 @@ Item {
     required property WaveChartBridge bridge
     required property ChartSaver saver
     required property ChartLink link
+    required property MarkerList markers
     required property bool maximized
     required property bool canMaximize
 
     signal maximizeRequested
+    signal markerAdded(int row)
+
+    readonly property WaveViewState viewState: chartRepeater.count > 0 ? (chartRepeater.itemAt(0) as WaveChart)?.viewState ?? null : null
 
     Repeater {
+        id: chartRepeater
+
         // The chart keeps its bridge to its own end.
         model: pane.bridge !== null ? [pane.bridge] : []
 
@@ -30,6 +36,8 @@ Item {
             anchors.fill: parent
             bridge: modelData
             link: pane.link
+            markers: pane.markers
+            onMarkerAdded: row => pane.markerAdded(row)
             maximized: pane.maximized
             canMaximize: pane.canMaximize
             onPictureRequested: pane.saver.savePicture(viewState, chart)

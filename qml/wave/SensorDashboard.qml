@@ -20,6 +20,13 @@ Item {
     readonly property int columns: shownTypes.length > 1 ? bridge.gridColumns : 1
     readonly property int gridRows: shownTypes.length > 1 ? bridge.gridRows : 1
 
+    function chartItems(): var {
+        const items = [];
+        for (let i = 0; i < panes.count; ++i)
+            items.push(panes.itemAt(i));
+        return items;
+    }
+
     Keys.onPressed: event => {
         event.accepted = true;
         if (event.key === Qt.Key_Space)
@@ -37,6 +44,7 @@ Item {
         id: charts
 
         objectName: "link"
+        linked: dashboard.bridge.linked
     }
     Rectangle {
         id: bar
@@ -56,7 +64,7 @@ Item {
 
             x: 12
             y: 8
-            width: parent.width - (status.visible ? status.width : 0) - linkButton.width - 52
+            width: parent.width - (status.visible ? status.width : 0) - linkButton.width - markerButton.width - saveButton.width - 60
             spacing: 8
 
             ActionButton {
@@ -99,7 +107,35 @@ Item {
             checked: charts.linked
             iconName: "link"
             hint: charts.linked ? qsTr("Let each chart have its own time axis and cursors") : qsTr("Couple time axes and cursors of all charts")
-            onClicked: charts.linked = !charts.linked
+            onClicked: dashboard.bridge.linked = !charts.linked
+        }
+        ActionButton {
+            id: saveButton
+
+            objectName: "saveButton"
+            anchors {
+                right: markerButton.left
+                rightMargin: 4
+                verticalCenter: parent.verticalCenter
+            }
+            checked: savePanel.visible
+            iconName: "save"
+            hint: qsTr("Save charts")
+            onClicked: savePanel.visible = !savePanel.visible
+        }
+        ActionButton {
+            id: markerButton
+
+            objectName: "markerButton"
+            anchors {
+                right: linkButton.left
+                rightMargin: 4
+                verticalCenter: parent.verticalCenter
+            }
+            checkable: true
+            iconName: "marker"
+            text: dashboard.bridge.markers.count > 0 ? String(dashboard.bridge.markers.count) : ""
+            hint: qsTr("List of markers; M sets one")
         }
         Text {
             id: status
@@ -115,6 +151,24 @@ Item {
         }
     }
 
+    MarkerPanel {
+        id: markerPanel
+
+        objectName: "markerPanel"
+        anchors {
+            top: bar.bottom
+            bottom: message.top
+            right: parent.right
+            margins: 8
+        }
+        visible: markerButton.checked
+        markers: dashboard.bridge.markers
+        onPicked: time => {
+            for (const chart of charts.linked ? [dashboard.current] : dashboard.chartItems())
+                chart?.viewState.showTime(time);
+        }
+        onDone: dashboard.current?.forceActiveFocus()
+    }
     Item {
         id: grid
 
@@ -122,13 +176,15 @@ Item {
 
         anchors {
             left: parent.left
-            right: parent.right
+            right: markerPanel.visible ? markerPanel.left : parent.right
             top: bar.bottom
             bottom: message.top
             margins: 8
         }
 
         Repeater {
+            id: panes
+
             model: dashboard.bridge.sensorTypes
 
             WaveChart {
@@ -147,6 +203,11 @@ Item {
                 height: Math.round(cellHeight)
                 bridge: dashboard.bridge.backend(modelData)
                 link: charts
+                markers: dashboard.bridge.markers
+                onMarkerAdded: row => {
+                    markerButton.checked = true;
+                    Qt.callLater(markerPanel.edit, row); // when it has been laid out
+                }
                 maximized: dashboard.maximizedType === modelData
                 canMaximize: maximized || dashboard.shownTypes.length > 1
                 onTouched: dashboard.current = pane
@@ -169,6 +230,16 @@ Item {
         }
     }
 
+    SavePanel {
+        id: savePanel
+
+        objectName: "savePanel"
+        x: parent.width - width - 8
+        y: bar.height
+        visible: false
+        saver: dashboard.saver
+        onAboutToSave: savePanel.charts = dashboard.chartItems().filter(chart => chart.visible)
+    }
     MessageRow {
         id: message
 

@@ -14,19 +14,22 @@ FocusScope {
 
     property WaveChartBridge bridge: null
     property ChartLink link: null
+    property MarkerList markers: null
     property bool maximized: false
     property bool canMaximize: true
     readonly property string emptyText: bridge === null || bridge.playing ? qsTr("Waiting for samples") : qsTr("Paused")
     readonly property alias viewState: view
     /// Too low for live values beside the names, and too narrow for all buttons.
     readonly property bool low: height < Theme.font.pointSize * 24
-    readonly property bool narrow: width < Theme.font.pointSize * 34
+    readonly property bool narrow: width < Theme.font.pointSize * 36
 
     signal pictureRequested
     signal dataRequested
     signal maximizeRequested
     /// The keyboard came to this chart: by the pointer, a click or the Tab key.
     signal touched
+    /// The M key set a marker.
+    signal markerAdded(int row)
 
     activeFocusOnTab: true
     Accessible.role: Accessible.Chart
@@ -35,7 +38,15 @@ FocusScope {
         if (activeFocus)
             touched();
     }
-    Keys.onPressed: event => event.accepted = view.handleKey(event.key, event.modifiers)
+    Keys.onPressed: event => {
+        event.accepted = view.handleKey(event.key, event.modifiers);
+        if (event.key === Qt.Key_M && event.modifiers === Qt.NoModifier && markers !== null) {
+            const row = view.addMarker();
+            event.accepted = true;
+            if (row >= 0)
+                markerAdded(row);
+        }
+    }
 
     WaveViewState {
         id: view
@@ -43,6 +54,7 @@ FocusScope {
         bridge: chart.bridge
         active: chart.visible
         link: chart.link
+        markers: chart.markers
     }
 
     HoverHandler {
@@ -131,6 +143,16 @@ FocusScope {
                 // A filter that is on does not hide.
                 onClicked: checked = checked || chart.bridge.filterOn
                 Component.onCompleted: checked = chart.bridge !== null && chart.bridge.filterOn
+            }
+            ActionButton {
+                id: triggerButton
+
+                objectName: "triggerButton"
+                bare: true
+                visible: !chart.narrow
+                checkable: true
+                iconName: "trigger"
+                hint: qsTr("Trigger")
             }
             ActionButton {
                 id: rangeButton
@@ -261,6 +283,18 @@ FocusScope {
                 }
             }
         }
+        Repeater {
+            model: chart.bridge !== null && (triggerButton.checked || chart.bridge.trigger.on) ? [chart.bridge] : []
+
+            TriggerRow {
+                required property WaveChartBridge modelData
+
+                objectName: "triggerRow"
+                width: rows.width
+                viewState: view
+                bridge: modelData
+            }
+        }
         ChartMeasurement {
             width: parent.width
             viewState: view
@@ -293,6 +327,17 @@ FocusScope {
             anchors.fill: parent
             plot: plot
             viewState: view
+        }
+        handles: Repeater {
+            model: chart.bridge !== null && chart.bridge.trigger.on ? [chart.bridge.trigger] : []
+
+            TriggerLevel {
+                required property WaveTrigger modelData
+
+                anchors.fill: parent
+                plot: plot
+                trigger: modelData
+            }
         }
         onPressed: chart.forceActiveFocus()
     }

@@ -11,9 +11,39 @@
 #include <QStandardPaths>
 #include <QWindow>
 
+#include <algorithm>
+#include <memory>
+
 #include "app/app_language_manager.h"
 #include "app/settings_keys.h"
+#include "chart/chart_source.h"
+#include "chart/svg_picture.h"
 #include "chart/whole_file.h"
+
+namespace {
+
+constexpr int kMaxScale = 4;
+
+struct Shown
+{
+    PlotViewState *view;
+    QQuickItem *item;
+};
+
+/// The charts with data among items of a view.
+QList<Shown> shownCharts(const QVariantList &items)
+{
+    QList<Shown> shown;
+    for (const QVariant &entry : items) {
+        auto *item = entry.value<QQuickItem *>();
+        auto *view = item ? item->property("viewState").value<PlotViewState *>() : nullptr;
+        if (view && view->source() && view->source()->hasData())
+            shown += {view, item};
+    }
+    return shown;
+}
+
+} // namespace
 
 ChartSaver::ChartSaver(QWindow *window, QLatin1String settingsGroup, QObject *parent)
     : QObject(parent), m_window(window), m_settingsGroup(settingsGroup)
@@ -22,37 +52,79 @@ ChartSaver::ChartSaver(QWindow *window, QLatin1String settingsGroup, QObject *pa
             [this] { tell(m_sentence, m_failed); });
 }
 
+void ChartSaver::setPictureScale(int scale)
+{
+    const int usable = std::clamp(scale, 0, kMaxScale);
+    if (usable == m_pictureScale)
+        return;
+    m_pictureScale = usable;
+    emit optionsChanged();
+}
+
 void ChartSaver::saveData(PlotViewState *view)
 {
     if (view && view->source())
-        save(tr("Save the visible samples"), suggestedName(view->fileStem(), QLatin1String(".csv")),
-             tr("Comma-separated values (*.csv)"), view->visibleTable());
+        save(tr("Save the samples"), suggestedName(view->fileStem(), QLatin1String(".csv")),
+             tr("Comma-separated values (*.csv)"), view->table(m_allSamples));
 }
 
 void ChartSaver::savePicture(PlotViewState *view, QQuickItem *item)
 {
-    if (view)
-        savePictureAs(view->fileStem(), item);
+    takePicture(view, item, [this](const File &file) {
+        save(tr("Save a picture of the chart"), file.name,
+             file.name.endsWith(QLatin1String(".svg")) ? tr("SVG picture (*.svg)") : tr("PNG picture (*.png)"),
+             file.content);
+    });
 }
 
-void ChartSaver::savePictureAs(const QString &stem, QQuickItem *item)
+void ChartSaver::saveAllData(const QVariantList &charts)
 {
-    if (!item)
+    QList<File> files;
+    for (const Shown &chart : shownCharts(charts))
+        files += {suggestedName(chart.view->fileStem(), QLatin1String(".csv")), chart.view->table(m_allSamples)};
+    saveInFolder(tr("Save the samples of all charts"), files);
+}
+
+void ChartSaver::saveAllPictures(const QVariantList &charts)
+{
+    // The pictures come one by one; with the last of them the folder is asked for.
+    const QList<Shown> shown = shownCharts(charts);
+    auto files = std::make_shared<QList<File>>();
+    for (const Shown &chart : shown) {
+        takePicture(chart.view, chart.item, [this, files, count = shown.size()](const File &file) {
+            *files += file;
+            if (files->size() == count)
+                saveInFolder(tr("Save pictures of all charts"), *files);
+        });
+    }
+    if (shown.isEmpty())
+        saveInFolder({}, {});
+}
+
+void ChartSaver::takePicture(PlotViewState *view, QQuickItem *item, const Taken &taken)
+{
+    if (!view || !item)
         return;
-    const auto grab = item->grabToImage((item->size() * m_window->devicePixelRatio()).toSize());
+    if (m_svg) {
+        taken({suggestedName(view->fileStem(), QLatin1String(".svg")),
+               svg_picture::draw(*view, view->pictureTitle(), view->xUnit(), item->size())});
+        return;
+    }
+    const double scale = m_pictureScale > 0 ? m_pictureScale : m_window->devicePixelRatio();
+    const auto grab = item->grabToImage((item->size() * scale).toSize());
     if (!grab) {
         tell([] { return tr("The picture could not be taken."); }, true);
         return;
     }
     // The result lives until its signal has been handled, and no longer.
-    const QString name = suggestedName(stem, QLatin1String(".png"));
+    const QString name = suggestedName(view->fileStem(), QLatin1String(".png"));
     connect(
         grab.get(), &QQuickItemGrabResult::ready, this,
-        [this, grab, name] {
+        [this, grab, name, taken] {
             QBuffer png;
             png.open(QIODevice::WriteOnly);
             grab->image().save(&png, "PNG");
-            save(tr("Save a picture of the chart"), name, tr("PNG picture (*.png)"), png.data());
+            taken({name, png.data()});
             grab->disconnect(this);
         },
         Qt::QueuedConnection);
@@ -61,14 +133,9 @@ void ChartSaver::savePictureAs(const QString &stem, QQuickItem *item)
 void ChartSaver::save(const QString &title, const QString &fileName, const QString &filter, const QByteArray &content)
 {
     auto *dialog = new QFileDialog(nullptr, title, folder(), filter);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setDefaultSuffix(QFileInfo(fileName).suffix());
     dialog->selectFile(fileName);
-    dialog->setWindowModality(Qt::WindowModal);
-    dialog->winId(); // creates the window, so that it can belong to ours
-    dialog->windowHandle()->setTransientParent(m_window);
-    connect(this, &QObject::destroyed, dialog, &QObject::deleteLater);
     connect(dialog, &QFileDialog::fileSelected, this, [this, content](const QString &path) {
         const QString shownPath = QDir::toNativeSeparators(path);
         QString reason;
@@ -77,11 +144,53 @@ void ChartSaver::save(const QString &title, const QString &fileName, const QStri
             return;
         }
         tell([=] { return tr("Saved %1").arg(shownPath); }, false);
-        QSettings store(settings_keys::kFile, QSettings::IniFormat);
-        store.beginGroup(m_settingsGroup);
-        store.setValue(settings_keys::kDashboardFolder, QFileInfo(path).absolutePath());
+        rememberFolder(QFileInfo(path).absolutePath());
     });
+    openDialog(dialog);
+}
+
+void ChartSaver::saveInFolder(const QString &title, const QList<File> &files)
+{
+    if (files.isEmpty()) {
+        tell([] { return tr("No chart has samples."); }, true);
+        return;
+    }
+    auto *dialog = new QFileDialog(nullptr, title, folder());
+    dialog->setFileMode(QFileDialog::Directory);
+    dialog->setOption(QFileDialog::ShowDirsOnly);
+    connect(dialog, &QFileDialog::fileSelected, this, [this, files](const QString &path) {
+        for (const File &file : files) {
+            const QString filePath = QDir(path).filePath(file.name);
+            QString reason;
+            if (!whole_file::write(filePath, file.content, reason)) {
+                const QString shownPath = QDir::toNativeSeparators(filePath);
+                tell([=] { return tr("%1 could not be written: %2").arg(shownPath, reason); }, true);
+                return;
+            }
+        }
+        const QString shownPath = QDir::toNativeSeparators(path);
+        const auto count = int(files.size());
+        tell([=] { return tr("Saved %n file(s) in %1", nullptr, count).arg(shownPath); }, false);
+        rememberFolder(path);
+    });
+    openDialog(dialog);
+}
+
+void ChartSaver::openDialog(QFileDialog *dialog)
+{
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowModality(Qt::WindowModal);
+    dialog->winId(); // creates the window, so that it can belong to ours
+    dialog->windowHandle()->setTransientParent(m_window);
+    connect(this, &QObject::destroyed, dialog, &QObject::deleteLater);
     dialog->open();
+}
+
+void ChartSaver::rememberFolder(const QString &path)
+{
+    QSettings store(settings_keys::kFile, QSettings::IniFormat);
+    store.beginGroup(m_settingsGroup);
+    store.setValue(settings_keys::kDashboardFolder, path);
 }
 
 QString ChartSaver::suggestedName(const QString &stem, QLatin1String suffix)

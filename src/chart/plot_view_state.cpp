@@ -49,6 +49,50 @@ void PlotViewState::setLink(ChartLink *link)
     emit linkChanged();
 }
 
+void PlotViewState::setMarkers(MarkerList *markers)
+{
+    if (markers == m_markers)
+        return;
+    if (m_markers)
+        m_markers->disconnect(this);
+    m_markers = markers;
+    if (markers)
+        connect(markers, &MarkerList::markersChanged, this, &PlotViewState::markersChanged);
+    emit markersChanged();
+}
+
+QList<double> PlotViewState::markerPlaces() const
+{
+    QList<double> places;
+    if (m_markers) {
+        for (const ChartMarker &marker : m_markers->markers()) {
+            const double place = marker.timeSec - clock();
+            if (place >= m_x.min && place <= m_x.max)
+                places += place;
+        }
+    }
+    return places;
+}
+
+QStringList PlotViewState::markerTexts() const
+{
+    QStringList texts;
+    if (m_markers) {
+        for (const ChartMarker &marker : m_markers->markers()) {
+            const double place = marker.timeSec - clock();
+            if (place >= m_x.min && place <= m_x.max)
+                texts += marker.text;
+        }
+    }
+    return texts;
+}
+
+void PlotViewState::showTime(double clockTime)
+{
+    const double place = clockTime - clock();
+    setXRange(place - m_x.span() / 2, place + m_x.span() / 2);
+}
+
 void PlotViewState::takeCursors(const QList<double> &cursors, double shift)
 {
     const std::array before = m_cursors;
@@ -74,6 +118,18 @@ QVariantList PlotViewState::seriesColors() const
     for (int series = 0; source() && series < source()->seriesCount(); ++series)
         colors += theme::colors().drawn(QColor::fromRgb(source()->seriesRgb(series)));
     return colors;
+}
+
+QString PlotViewState::hoverLine() const
+{
+    QString line = hoverTitle();
+    const QStringList names = seriesNames();
+    const QStringList texts = hoverTexts();
+    for (qsizetype i = 0; i < texts.size(); ++i) {
+        if (isSeriesVisible(int(i)))
+            line += QStringLiteral("  ") + names.value(i) + u' ' + texts.at(i);
+    }
+    return line;
 }
 
 double PlotViewState::fitFromX() const

@@ -12,6 +12,7 @@
 
 #include "chart/chart_link.h"
 #include "chart/chart_range.h"
+#include "chart/marker_list.h"
 
 class ChartSource;
 
@@ -25,6 +26,9 @@ class PlotViewState : public QObject
     QML_ELEMENT
     QML_UNCREATABLE("the base of the states of charts")
     Q_PROPERTY(ChartLink *link READ link WRITE setLink NOTIFY linkChanged)
+    Q_PROPERTY(MarkerList *markers READ markers WRITE setMarkers NOTIFY markersChanged)
+    Q_PROPERTY(QList<double> markerPlaces READ markerPlaces NOTIFY markersChanged)
+    Q_PROPERTY(QStringList markerTexts READ markerTexts NOTIFY markersChanged)
     Q_PROPERTY(QStringList seriesNames READ seriesNames NOTIFY seriesChanged)
     Q_PROPERTY(QVariantList seriesColors READ seriesColors NOTIFY colorsChanged)
     Q_PROPERTY(QList<bool> visibleSeries READ visibleSeries NOTIFY seriesChanged)
@@ -37,6 +41,7 @@ class PlotViewState : public QObject
     Q_PROPERTY(bool hasCursors READ hasCursors NOTIFY cursorsChanged)
     Q_PROPERTY(double hoverX READ hoverX WRITE setHoverX NOTIFY hoverChanged)
     Q_PROPERTY(QString hoverTitle READ hoverTitle NOTIFY hoverChanged)
+    Q_PROPERTY(QString hoverLine READ hoverLine NOTIFY hoverChanged)
     Q_PROPERTY(QStringList hoverTexts READ hoverTexts NOTIFY hoverChanged)
     Q_PROPERTY(QStringList measurement READ measurement NOTIFY cursorsChanged)
 
@@ -52,6 +57,15 @@ public:
     virtual bool isAtNewest() const { return false; }
     /// Takes the cursors of a coupled chart, `shift` later.
     void takeCursors(const QList<double> &cursors, double shift);
+
+    /// The markers that are drawn in this chart; null for none.
+    MarkerList *markers() const { return m_markers; }
+    void setMarkers(MarkerList *markers);
+    /// Those that are visible, and their texts.
+    QList<double> markerPlaces() const;
+    QStringList markerTexts() const;
+    /// Shows the surroundings of a place on the clock, as wide as what is shown.
+    Q_INVOKABLE void showTime(double clockTime);
 
     /// What is drawn; null while there is none.
     virtual const ChartSource *source() const = 0;
@@ -70,6 +84,8 @@ public:
     /// `low` is above `high`.
     virtual void fitValues(double low, double high) = 0;
 
+    /// All that is said about the pointer in one line, with names.
+    QString hoverLine() const;
     /// The position under the pointer, and the value of each series there; empty where there is none.
     virtual QString hoverTitle() const = 0;
     virtual QStringList hoverTexts() const = 0;
@@ -79,9 +95,13 @@ public:
     /// Where the cursors are and what lies between them, one text per quantity.
     virtual QStringList measurement() const = 0;
 
-    /// How names of files begin, and what is visible as a table for a file.
+    /// How names of files begin, with the device and node where they are known.
     virtual QString fileStem() const = 0;
-    virtual QByteArray visibleTable() const = 0;
+    /// What is visible as a table for a file, or all that there is.
+    virtual QByteArray table(bool all) const = 0;
+    /// The words over a picture, and the unit of the horizontal axis in it.
+    virtual QString pictureTitle() const = 0;
+    virtual QString xUnit() const = 0;
 
     double xViewMin() const { return m_x.min; }
     double xViewMax() const { return m_x.max; }
@@ -131,6 +151,7 @@ public:
 
 signals:
     void linkChanged();
+    void markersChanged();
     void seriesChanged();
     void colorsChanged();
     void viewChanged();
@@ -177,5 +198,15 @@ private:
 
     const MainAxis m_mainAxis;
     QPointer<ChartLink> m_link;
+    QPointer<MarkerList> m_markers;
     int m_activeCursor = 0; ///< the one that keys move
+};
+
+/// Makes the list of markers known to views, which get it from their window.
+struct MarkerListForeign
+{
+    Q_GADGET
+    QML_FOREIGN(MarkerList)
+    QML_NAMED_ELEMENT(MarkerList)
+    QML_UNCREATABLE("comes with the window")
 };

@@ -1,5 +1,6 @@
 #include "fft/fft_chart_bridge.h"
 
+#include <QCoreApplication>
 #include <QCryptographicHash>
 
 #include <algorithm>
@@ -202,7 +203,8 @@ QString FftChartBridge::seriesName(int series) const
 {
     constexpr std::array kNames{"X", "Y", "Z"};
     return series >= 0 && size_t(series) < kNames.size() ? QString(QLatin1String(kNames[size_t(series)]))
-                                                         : tr("Resultant");
+
+                                                         : QCoreApplication::translate("FftAlarm", "Resultant");
 }
 
 quint32 FftChartBridge::seriesRgb(int series) const

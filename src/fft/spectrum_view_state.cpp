@@ -124,9 +124,14 @@ void SpectrumViewState::setManualY(chart_range::Range range)
     setY(range);
 }
 
-QByteArray SpectrumViewState::visibleTable() const
+QByteArray SpectrumViewState::table(bool) const
 {
     return m_bridge ? m_bridge->exportSnapshotCsv().toUtf8() : QByteArray();
+}
+
+QString SpectrumViewState::pictureTitle() const
+{
+    return m_bridge ? m_bridge->chartTitle() + QStringLiteral(" · ") + m_bridge->valueAxisTitle() : QString();
 }
 
 QVariantList SpectrumViewState::marks() const

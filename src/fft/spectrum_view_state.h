@@ -67,7 +67,9 @@ public:
     QString positionText(double frequency) const override;
     QString fileStem() const override { return QStringLiteral("spectrum"); }
     /// All spectra: they are short.
-    QByteArray visibleTable() const override;
+    QByteArray table(bool all) const override;
+    QString pictureTitle() const override;
+    QString xUnit() const override { return QStringLiteral("Hz"); }
 
     void zoomY(double factor, double anchor) override;
     void panY(double fraction) override;

@@ -30,10 +30,6 @@ KvUartPort::KvUartPort(QObject *parent)
     : QSerialPort(parent), m_kboot(std::make_unique<KbootProtocol>()), m_secondTimer(std::make_unique<QTimer>()),
       m_workerThread(std::make_unique<QThread>())
 {
-    connect(m_workerThread.get(), &QThread::started, this, &KvUartPort::threadStarted, Qt::QueuedConnection);
-    connect(
-        m_workerThread.get(), &QThread::finished, m_workerThread.get(), [this] { m_workerEnded = true; },
-        Qt::DirectConnection);
     connect(this, &QIODevice::readyRead, this, &KvUartPort::onReadyRead, Qt::QueuedConnection);
     connect(this, &QSerialPort::errorOccurred, this, &KvUartPort::onErrorOccurred, Qt::QueuedConnection);
     connect(m_kboot.get(), &KbootProtocol::kbootRecv, this, &KvUartPort::onKbootRecv);
@@ -41,7 +37,6 @@ KvUartPort::KvUartPort(QObject *parent)
     connect(m_kboot.get(), &KbootProtocol::pingAnswered, this, &KvUartPort::onPingAnswered);
     connect(m_secondTimer.get(), &QTimer::timeout, this, &KvUartPort::onTimer1000ms);
     m_secondTimer->setInterval(kSecondMs);
-    m_workerThread->setObjectName(QStringLiteral("KvUartPort")); // as debuggers and process lists show it
 }
 
 KvUartPort::~KvUartPort()
@@ -60,8 +55,21 @@ void KvUartPort::openUART(const QString &portName, int baud)
     m_baudRate = baud;
     m_startPending = true;
     m_workerEnded = false;
+    renewThread();
     moveAllTo(m_workerThread.get());
     m_workerThread->start(QThread::InheritPriority);
+}
+
+/// A thread for each connection: this toolkit version (6.4) gives an object that is moved to a QThread that has run
+/// before the thread-local property bindings of the earlier run, whose memory may be gone.
+void KvUartPort::renewThread()
+{
+    m_workerThread = std::make_unique<QThread>();
+    m_workerThread->setObjectName(QStringLiteral("KvUartPort")); // as debuggers and process lists show it
+    connect(m_workerThread.get(), &QThread::started, this, &KvUartPort::threadStarted, Qt::QueuedConnection);
+    connect(
+        m_workerThread.get(), &QThread::finished, m_workerThread.get(), [this] { m_workerEnded = true; },
+        Qt::DirectConnection);
 }
 
 void KvUartPort::closeUART()

@@ -127,6 +127,7 @@ private slots:
     void onTimer1000ms();
 
 private:
+    void renewThread();
     void stopInWorker();
     /// False when the worker thread has not ended in time.
     bool waitForWorker(QDeadlineTimer deadline);
@@ -140,7 +141,7 @@ private:
 
     std::unique_ptr<KbootProtocol> m_kboot;
     std::unique_ptr<QTimer> m_secondTimer;
-    std::unique_ptr<QThread> m_workerThread;
+    std::unique_ptr<QThread> m_workerThread; ///< of the connection; renewed for the next one
     QString m_portName;
     int m_baudRate = 0;
     bool m_startPending = false;                ///< openUART() has asked for a start that has not run yet

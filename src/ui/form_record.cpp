@@ -18,7 +18,6 @@
 #include "record/recorder.h"
 #include "record/recording_target.h"
 #include "ui/device_text.h"
-#include "ui/fit_height.h"
 #include "ui/recording_text.h"
 #include "ui_form_record.h"
 

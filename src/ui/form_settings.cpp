@@ -17,7 +17,6 @@
 #include "link/kv_uart_port.h"
 #include "session/device_session.h"
 #include "ui/device_text.h"
-#include "ui/fit_height.h"
 #include "ui/session_text.h"
 #include "ui_form_settings.h"
 
@@ -138,14 +137,6 @@ form_settings::~form_settings() = default;
 QStringList form_settings::get_prod_info()
 {
     return m_session->allows(SessionAction::Identify) ? m_commands->readInfo() : QStringList();
-}
-
-bool form_settings::event(QEvent *event)
-{
-    const bool handled = QDialog::event(event);
-    if (event->type() == QEvent::LayoutRequest)
-        fitHeight(this);
-    return handled;
 }
 
 void form_settings::showEvent(QShowEvent *event)

@@ -11,17 +11,20 @@ RecordingBadge::RecordingBadge(const Recorder *recorder, QWidget *parent) : QToo
     setAutoRaise(true);
     hide();
     connect(recorder, &Recorder::recordingChanged, this, &RecordingBadge::refresh);
+    connect(recorder, &Recorder::stateChanged, this, &RecordingBadge::refresh);
     connect(recorder, &Recorder::troubleChanged, this, &RecordingBadge::refresh);
 }
 
 void RecordingBadge::refresh()
 {
     const bool trouble = m_recorder->hasTrouble();
-    setVisible(m_recorder->isRecording() || trouble);
+    const bool waits = m_recorder->isWaitingForLink();
+    setVisible(m_recorder->isRecording() || waits || trouble);
     if (isHidden())
         return;
-    const QString text =
-        trouble ? tr("Recording: trouble") : tr("Recording %1").arg(recording_text::elapsed(m_recorder->elapsedMs()));
+    const QString text = waits     ? tr("Recording: waiting")
+                         : trouble ? tr("Recording: trouble")
+                                   : tr("Recording %1").arg(recording_text::elapsed(m_recorder->elapsedMs()));
     if (QToolButton::text() != text)
         setText(text);
 }

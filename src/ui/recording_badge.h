@@ -4,8 +4,8 @@
 
 class Recorder;
 
-/// The recording in the status bar: how long it has been running, or that it is in trouble. Hidden when there is
-/// nothing to say.
+/// The recording in the status bar: how long it has been running, that it waits for the connection, or that it is in
+/// trouble. Hidden when there is nothing to say.
 class RecordingBadge : public QToolButton
 {
     Q_OBJECT

@@ -94,8 +94,9 @@ void SensorDataPanel::retranslate()
 void SensorDataPanel::appendSample(const StreamSample &sample)
 {
     const node_data_t &node = sample.snapshot.sample;
-    const SampleGaps::Step step = m_gaps.add(sample.deviceMs, sample.hostMs);
-    // A shorter gap is less than a trace can show.
+    // By the stream's time, which is one for both clocks of a node; without a clock, a pause of the computer would be
+    // taken for a gap. A shorter gap is less than a trace can show.
+    const SampleGaps::Step step = sample.deviceMs != 0 ? m_gaps.add(node.time_ms, sample.hostMs) : SampleGaps::Step();
     const bool isGap = step.missing > 0 && step.gapMs > TraceBuffer::kBucketMs;
     const bool isBroken = isGap || sample.brokenBy != StreamBreak::None;
     const qint64 nowMs = m_clock.place(node.time_ms, sample.hostMs);

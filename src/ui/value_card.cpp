@@ -243,7 +243,7 @@ void ValueCard::paintRow(QPainter &painter, int row, const QRect &area, double r
     const double zero = channel.isNorm ? ground.left() : ground.center().x();
     const double full = channel.isNorm ? ground.width() : ground.width() / 2.0;
     QRectF bar(zero, ground.top(), fraction * full, ground.height());
-    painter.setBrush(theme::colors().*channel.color);
+    painter.setBrush(isEnabled() ? theme::colors().*channel.color : theme::colors().textDisabled);
     painter.drawRect(bar.normalized());
 }
 

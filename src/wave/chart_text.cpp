@@ -64,6 +64,22 @@ QString chart_text::fileUnit(const WaveChartBridge &bridge)
     return bridge.sensorType() == QLatin1String("quat") ? QString() : unit(bridge.chartTitle());
 }
 
+QString chart_text::fileStem(const WaveChartBridge &bridge)
+{
+    const SampleOrigin &origin = bridge.origin();
+    QString device;
+    for (const QChar c : origin.device.left(40)) {
+        if (c.isLetterOrNumber() || c == u'-' || c == u'_')
+            device += c;
+    }
+    QStringList words{bridge.sensorType()};
+    if (!device.isEmpty())
+        words += device;
+    if (origin.node >= 0)
+        words += QStringLiteral("node%1").arg(origin.node);
+    return words.join(u'_');
+}
+
 int chart_text::decimals(const QString &sensorType)
 {
     return digits(sensorType).decimals;

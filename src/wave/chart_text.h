@@ -18,6 +18,9 @@ QString unit(const QString &chartTitle);
 /// The unit for files: as unit(), empty for a quantity that has none.
 QString fileUnit(const WaveChartBridge &bridge);
 
+/// How names of files begin: "acc_HI14_node3", without what file systems refuse.
+QString fileStem(const WaveChartBridge &bridge);
+
 /// Digits behind the point that values of a sensor type deserve.
 int decimals(const QString &sensorType);
 

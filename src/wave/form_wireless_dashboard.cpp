@@ -12,6 +12,7 @@ form_wireless_dashboard::form_wireless_dashboard(QWindow *parent)
     : DashboardWindow(settings_keys::kWirelessDashboard, parent)
 {
     setLeastSize(kLeastSize);
+    m_bridge.loadChoices(settings_keys::kFile);
     setTitle(m_bridge.windowTitle());
     showView(QStringLiteral("GatewayDashboard"), {{QStringLiteral("bridge"), QVariant::fromValue(&m_bridge)}});
 }
@@ -27,4 +28,11 @@ void form_wireless_dashboard::retranslate()
     m_bridge.retranslate();
     setTitle(m_bridge.windowTitle());
     DashboardWindow::retranslate();
+}
+
+void form_wireless_dashboard::setOpen(bool open)
+{
+    m_bridge.setDashboardActive(open);
+    if (!open)
+        m_bridge.saveChoices(settings_keys::kFile);
 }

@@ -24,13 +24,13 @@ public:
     void setFrameRate(unsigned int batchesPerSecond) { m_bridge.setFrameRate(batchesPerSecond); }
     /// The connection has ended: everything stays, marked as ended, until clear() at the next opening.
     void setEnded(bool ended) { m_bridge.setEnded(ended); }
-    /// Forgets the gateway: nodes, charts and choices.
+    /// Forgets the gateway: nodes and charts.
     void clear() { m_bridge.clear(); }
 
     void retranslate() override;
 
 protected:
-    void setOpen(bool open) override { m_bridge.setDashboardActive(open); }
+    void setOpen(bool open) override;
 
 private:
     GatewayDashboardBridge m_bridge;

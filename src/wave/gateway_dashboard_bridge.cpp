@@ -1,15 +1,21 @@
 #include "wave/gateway_dashboard_bridge.h"
 
+#include <QSettings>
+
 #include <algorithm>
 #include <chrono>
 #include <utility>
 
+#include "app/settings_keys.h"
 #include "wave/sensor_dashboard_bridge.h"
 #include "wave/sensor_types.h"
 
 namespace {
 
 constexpr std::chrono::milliseconds kRefreshInterval{250};
+constexpr QLatin1String kNodesKey("NODES");
+constexpr QLatin1String kTypesKey("TYPES");
+constexpr QLatin1String kLinkedKey("LINKED");
 
 } // namespace
 
@@ -38,8 +44,10 @@ QString GatewayDashboardBridge::summary() const
 QList<int> GatewayDashboardBridge::chosenNodes() const
 {
     QList<int> ids;
-    for (const NodeCharts &node : m_charts)
-        ids += int(node.id);
+    for (const NodeCharts &node : m_charts) {
+        if (node.isChosen())
+            ids += int(node.id);
+    }
     return ids;
 }
 
@@ -57,7 +65,12 @@ QVariantList GatewayDashboardBridge::typeStates() const
 
 QVariantList GatewayDashboardBridge::panes() const
 {
-    const size_t nodeCount = m_charts.size();
+    QList<const NodeCharts *> nodes;
+    for (const NodeCharts &node : m_charts) {
+        if (node.isChosen())
+            nodes += &node;
+    }
+    const auto nodeCount = size_t(nodes.size());
     const size_t typeCount = size_t(selectedTypeCount());
     const bool rowPerNode = typeCount == 2 && nodeCount > 2;
     QList<size_t> types;
@@ -67,7 +80,7 @@ QVariantList GatewayDashboardBridge::panes() const
     }
     QVariantList panes;
     for (size_t i = 0; i < nodeCount * typeCount; ++i) {
-        const NodeCharts &node = m_charts[rowPerNode ? i / typeCount : i % nodeCount];
+        const NodeCharts &node = *nodes.at(qsizetype(rowPerNode ? i / typeCount : i % nodeCount));
         const size_t type = types.at(qsizetype(rowPerNode ? i % typeCount : i / nodeCount));
         panes += QVariantMap{{QStringLiteral("slot"), node.slot * kSensorTypeCount + int(type)},
                              {QStringLiteral("nodeId"), int(node.id)},
@@ -79,27 +92,32 @@ QVariantList GatewayDashboardBridge::panes() const
 
 int GatewayDashboardBridge::paneColumns() const
 {
-    return int(m_charts.size()) * selectedTypeCount() <= 3 ? 1 : 2;
+    const int count = chosenCount() * selectedTypeCount();
+    return count <= 3 ? 1 : count <= 8 ? 2 : 3;
 }
 
 bool GatewayDashboardBridge::setNodeChosen(int nodeId, bool chosen)
 {
-    const auto found = findCharts(nodeId);
-    if (chosen == (found != m_charts.end()))
+    NodeCharts *node = findCharts(nodeId);
+    if (chosen == (node && node->isChosen()))
         return true;
     if (chosen) {
-        if (nodeId < 0 || nodeId > 255 || m_charts.size() >= kMaxChosenNodes)
+        if (nodeId < 0 || nodeId > 255 || chosenCount() >= kMaxChosenNodes)
             return false;
-        const auto place = std::find_if(m_charts.begin(), m_charts.end(),
-                                        [nodeId](const NodeCharts &node) { return int(node.id) > nodeId; });
-        m_charts.insert(place, makeCharts(quint8(nodeId)));
+        if (!node)
+            node = insertNode(quint8(nodeId));
+        node->slot = freeSlot();
+        if (!m_wanted.contains(nodeId))
+            m_wanted += nodeId;
         syncObserved();
         notifyChosen();
     } else {
-        const NodeCharts dropped = *found;
-        m_charts.erase(found);
+        node->slot = -1;
+        m_wanted.removeAll(nodeId);
+        syncObserved();
         notifyChosen();
-        dropCharts(dropped);
+        if (!m_active) // nothing is collected, so there is nothing to keep
+            dropUnchosen();
     }
     return true;
 }
@@ -123,8 +141,10 @@ void GatewayDashboardBridge::setPlaying(bool playing)
         return;
     m_playing = playing;
     for (const NodeCharts &node : m_charts) {
-        for (WaveChartBridge *chart : node.charts)
-            chart->setPlaying(playing);
+        for (WaveChartBridge *chart : node.charts) {
+            if (chart)
+                chart->setPlaying(playing);
+        }
     }
     emit playingChanged();
 }
@@ -141,16 +161,29 @@ void GatewayDashboardBridge::updateGatewaySamples(const QList<GatewaySample> &sa
         return;
     m_tracker.addSamples(samples, hostMs);
     for (const GatewaySample &sample : samples) {
-        const auto node = findCharts(sample.node.id);
-        if (node == m_charts.end())
+        NodeCharts *node = collect(sample.node.id);
+        if (!node)
             continue;
         const std::array euler{sample.node.roll, sample.node.pitch, sample.node.yaw};
         if (sample.brokenBy != StreamBreak::None) {
-            for (WaveChartBridge *chart : node->charts)
-                chart->markBreak(sample.brokenBy);
+            for (WaveChartBridge *chart : node->charts) {
+                if (chart)
+                    chart->markBreak(sample.brokenBy);
+            }
         }
         for (const ChartSample &values : ChartSamples(sample.node, euler, sample.fields))
-            node->charts[size_t(values.type)]->pushSample(values.values.data(), values.count, sample.timestampMs);
+            chartOf(*node, size_t(values.type))->pushSample(values.values.data(), values.count, sample.timestampMs);
+    }
+}
+
+void GatewayDashboardBridge::setDevice(const QString &device)
+{
+    m_device = device;
+    for (const NodeCharts &node : m_charts) {
+        for (WaveChartBridge *chart : node.charts) {
+            if (chart)
+                chart->setOrigin({m_device, node.id});
+        }
     }
 }
 
@@ -160,8 +193,10 @@ void GatewayDashboardBridge::setFrameRate(unsigned int samplesPerSecond)
         return;
     m_frameRate = samplesPerSecond;
     for (const NodeCharts &node : m_charts) {
-        for (WaveChartBridge *chart : node.charts)
-            chart->setFrameRate(samplesPerSecond);
+        for (WaveChartBridge *chart : node.charts) {
+            if (chart)
+                chart->setFrameRate(samplesPerSecond);
+        }
     }
     emit frameRateChanged();
 }
@@ -174,13 +209,19 @@ void GatewayDashboardBridge::setDashboardActive(bool active)
     syncObserved();
     if (active) {
         // A chosen node that does not come back is shown as gone, and can be dropped.
-        for (const NodeCharts &node : m_charts)
+        for (const NodeCharts &node : m_charts) {
             m_tracker.expect(node.id);
+            for (WaveChartBridge *chart : node.charts) {
+                if (chart)
+                    chart->restoreFilter();
+            }
+        }
         updateRefreshing();
         refresh();
     } else {
         updateRefreshing();
         forgetSamples();
+        dropUnchosen();
     }
 }
 
@@ -205,6 +246,7 @@ void GatewayDashboardBridge::updateRefreshing()
 void GatewayDashboardBridge::clear()
 {
     setEnded(false);
+    m_markers.clear();
     const std::vector<NodeCharts> dropped = std::exchange(m_charts, {});
     forgetSamples();
     notifyChosen();
@@ -219,25 +261,119 @@ void GatewayDashboardBridge::refresh(qint64 hostMs)
 
 void GatewayDashboardBridge::retranslate()
 {
-    std::for_each(m_charts.begin(), m_charts.end(), nameCharts);
+    for (const NodeCharts &node : m_charts) {
+        for (WaveChartBridge *chart : node.charts) {
+            if (chart)
+                nameChart(chart, node.id);
+        }
+    }
     m_nodeModel.retranslate();
     emit textsChanged();
     emit nodesRefreshed();
     emit panesChanged();
 }
 
-GatewayDashboardBridge::NodeCharts GatewayDashboardBridge::makeCharts(quint8 id)
+/// The entry of a node that was heard; null when there are too many.
+GatewayDashboardBridge::NodeCharts *GatewayDashboardBridge::collect(quint8 id)
 {
+    NodeCharts *node = findCharts(id);
+    if (node || m_charts.size() >= kMaxChosenNodes)
+        return node;
+    node = insertNode(id);
+    if (m_wanted.contains(int(id))) {
+        node->slot = freeSlot();
+        syncObserved();
+        notifyChosen();
+    }
+    return node;
+}
+
+/// Makes an entry, in place of one that is not chosen when there are too many.
+GatewayDashboardBridge::NodeCharts *GatewayDashboardBridge::insertNode(quint8 id)
+{
+    if (m_charts.size() >= kMaxChosenNodes) {
+        const auto unchosen =
+            std::find_if_not(m_charts.begin(), m_charts.end(), [](const NodeCharts &node) { return node.isChosen(); });
+        if (unchosen != m_charts.end()) {
+            dropCharts(*unchosen);
+            m_charts.erase(unchosen);
+        }
+    }
+    const auto place =
+        std::find_if(m_charts.begin(), m_charts.end(), [id](const NodeCharts &node) { return node.id > id; });
     NodeCharts node;
     node.id = id;
-    node.slot = freeSlot();
-    for (size_t i = 0; i < node.charts.size(); ++i) {
-        node.charts[i] = new WaveChartBridge(sensorTypes()[i].key, this);
-        node.charts[i]->setFrameRate(m_frameRate);
-        node.charts[i]->setPlaying(m_playing);
+    return &*m_charts.insert(place, node);
+}
+
+WaveChartBridge *GatewayDashboardBridge::chartOf(NodeCharts &node, size_t type)
+{
+    WaveChartBridge *&chart = node.charts[type];
+    if (!chart) {
+        chart = new WaveChartBridge(sensorTypes()[type].key, this);
+        chart->setFrameRate(m_frameRate);
+        chart->setPlaying(m_playing);
+        chart->setOrigin({m_device, node.id});
+        nameChart(chart, node.id);
     }
-    nameCharts(node);
-    return node;
+    return chart;
+}
+
+void GatewayDashboardBridge::dropUnchosen()
+{
+    const auto first =
+        std::stable_partition(m_charts.begin(), m_charts.end(), [](const NodeCharts &node) { return node.isChosen(); });
+    std::for_each(first, m_charts.end(), dropCharts);
+    m_charts.erase(first, m_charts.end());
+}
+
+int GatewayDashboardBridge::chosenCount() const
+{
+    return int(std::count_if(m_charts.begin(), m_charts.end(), [](const NodeCharts &node) { return node.isChosen(); }));
+}
+
+void GatewayDashboardBridge::setLinked(bool linked)
+{
+    if (linked == m_linked)
+        return;
+    m_linked = linked;
+    emit linkedChanged();
+}
+
+void GatewayDashboardBridge::loadChoices(const QString &iniPath)
+{
+    QSettings settings(iniPath, QSettings::IniFormat);
+    settings.beginGroup(settings_keys::kWirelessDashboard);
+    setLinked(settings.value(kLinkedKey).toBool());
+    const QStringList nodes = settings.value(kNodesKey).toStringList();
+    for (const QString &text : nodes) {
+        bool isNumber = false;
+        const int id = text.toInt(&isNumber);
+        if (isNumber && id >= 0 && id <= 255 && !m_wanted.contains(id) && m_wanted.size() < kMaxChosenNodes)
+            m_wanted += id;
+    }
+    if (!settings.contains(kTypesKey))
+        return;
+    const QStringList types = settings.value(kTypesKey).toStringList();
+    for (const SensorType &type : sensorTypes())
+        setTypeSelected(type.key, types.contains(type.key));
+}
+
+void GatewayDashboardBridge::saveChoices(const QString &iniPath) const
+{
+    QSettings settings(iniPath, QSettings::IniFormat);
+    settings.beginGroup(settings_keys::kWirelessDashboard);
+    QStringList nodes;
+    for (const int id : m_wanted)
+        nodes += QString::number(id);
+    QStringList types;
+    for (size_t i = 0; i < m_selectedTypes.size(); ++i) {
+        if (m_selectedTypes[i])
+            types += sensorTypes()[i].key;
+    }
+    settings.setValue(kLinkedKey, m_linked);
+    settings.setValue(kNodesKey, nodes);
+    settings.setValue(kTypesKey, types);
 }
 
 int GatewayDashboardBridge::freeSlot() const
@@ -248,16 +384,17 @@ int GatewayDashboardBridge::freeSlot() const
     return slot;
 }
 
-void GatewayDashboardBridge::nameCharts(const NodeCharts &node)
+void GatewayDashboardBridge::nameChart(WaveChartBridge *chart, int nodeId)
 {
-    for (WaveChartBridge *chart : node.charts)
-        chart->setTitlePrefix(tr("Node %1").arg(int(node.id)) + QStringLiteral(" · "));
+    chart->setTitlePrefix(tr("Node %1").arg(nodeId) + QStringLiteral(" · "));
 }
 
 void GatewayDashboardBridge::dropCharts(const NodeCharts &node)
 {
     // Later, because the view lets go of its delegates later too.
     for (WaveChartBridge *chart : node.charts) {
+        if (!chart)
+            continue;
         chart->setObserved(false);
         chart->deleteLater();
     }
@@ -269,10 +406,11 @@ void GatewayDashboardBridge::notifyChosen()
     emit panesChanged();
 }
 
-std::vector<GatewayDashboardBridge::NodeCharts>::iterator GatewayDashboardBridge::findCharts(int nodeId)
+GatewayDashboardBridge::NodeCharts *GatewayDashboardBridge::findCharts(int nodeId)
 {
-    return std::find_if(m_charts.begin(), m_charts.end(),
-                        [nodeId](const NodeCharts &node) { return int(node.id) == nodeId; });
+    const auto found = std::find_if(m_charts.begin(), m_charts.end(),
+                                    [nodeId](const NodeCharts &node) { return int(node.id) == nodeId; });
+    return found == m_charts.end() ? nullptr : &*found;
 }
 
 void GatewayDashboardBridge::forgetSamples()
@@ -280,17 +418,24 @@ void GatewayDashboardBridge::forgetSamples()
     m_tracker.clear();
     m_nodeModel.clear();
     for (NodeCharts &node : m_charts) {
-        for (WaveChartBridge *chart : node.charts)
-            chart->reset();
+        for (WaveChartBridge *chart : node.charts) {
+            if (chart)
+                chart->reset();
+        }
     }
     emit nodesRefreshed();
 }
 
 void GatewayDashboardBridge::syncObserved()
 {
-    for (const NodeCharts &node : m_charts) {
-        for (size_t i = 0; i < node.charts.size(); ++i)
-            node.charts[i]->setObserved(m_active && m_selectedTypes[i]);
+    for (NodeCharts &node : m_charts) {
+        for (size_t i = 0; i < node.charts.size(); ++i) {
+            const bool isPane = node.isChosen() && m_selectedTypes[i];
+            if (isPane)
+                chartOf(node, i);
+            if (node.charts[i])
+                node.charts[i]->setObserved(m_active && isPane);
+        }
     }
 }
 

@@ -7,18 +7,20 @@
 #include <QTimer>
 #include <QVariantList>
 
+#include "chart/marker_list.h"
 #include "wave/gateway_node_model.h"
 #include "wave/gateway_node_tracker.h"
 #include "wave/sample_feed.h"
 #include "wave/wave_chart_bridge.h"
 
 /// The object behind the dashboard of a wireless gateway: the table of its radio nodes, and a set of charts (one per
-/// sensor type) for each of the nodes that the user chose, at most four. The table is refreshed four times a second
-/// while the dashboard is active. While it is not, samples are dropped at once and nothing is kept but the choices.
+/// sensor type) for each of them, at most 16. All nodes are collected from the first sample on, those that the user
+/// chose are shown: choosing one shows its history. The table is refreshed four times a second while the dashboard is
+/// active. While it is not, samples are dropped at once and nothing is kept but the choices.
 ///
 /// A pane is a map of "nodeId", "type" (key), "backend" (the WaveChartBridge, titled "Node 3 · Acceleration (G)") and
 /// "slot": a number from 0 to maxPaneCount - 1 that stays with the chart, so that the view can leave it alone while
-/// others come and go. Chart bridges live from choosing a node to dropping it. Main thread only.
+/// others come and go. A node that was chosen once is chosen again when it is heard. Main thread only.
 class GatewayDashboardBridge : public QObject
 {
     Q_OBJECT
@@ -34,11 +36,13 @@ class GatewayDashboardBridge : public QObject
     Q_PROPERTY(QVariantList panes READ panes NOTIFY panesChanged)
     Q_PROPERTY(int paneColumns READ paneColumns NOTIFY panesChanged)
     Q_PROPERTY(bool ended READ isEnded NOTIFY nodesRefreshed)
+    Q_PROPERTY(bool linked READ isLinked WRITE setLinked NOTIFY linkedChanged)
+    Q_PROPERTY(MarkerList *markers READ markers CONSTANT)
     Q_PROPERTY(bool playing READ playing NOTIFY playingChanged)
     Q_PROPERTY(int frameRate READ frameRate NOTIFY frameRateChanged)
 
 public:
-    static constexpr int kMaxChosenNodes = 4;
+    static constexpr int kMaxChosenNodes = 16;
 
     explicit GatewayDashboardBridge(QObject *parent = nullptr);
 
@@ -56,15 +60,21 @@ public:
     /// The charts to show, in the order in which they fill the grid row by row: type by type, or node by node where
     /// that makes a row of each node.
     QVariantList panes() const;
-    /// Columns of the grid: up to three panes are stacked, so that their time axes compare; more stand in two columns.
+    /// Columns of the grid: up to three panes are stacked, so that their time axes compare; more stand in two columns,
+    /// more than eight in three.
     int paneColumns() const;
     /// What is shown is of a connection that has ended.
     bool isEnded() const { return m_ended; }
     bool playing() const { return m_playing; }
+    /// The time axes and cursors of all charts are coupled.
+    bool isLinked() const { return m_linked; }
+    void setLinked(bool linked);
+    /// What the user marked in the streams of the nodes, which share a clock; forgotten when another gateway comes.
+    MarkerList *markers() { return &m_markers; }
     int frameRate() const { return int(m_frameRate); }
     bool dashboardActive() const { return m_active; }
 
-    /// Shows or drops the charts of a node; false when four are chosen already or the id is out of 0 to 255.
+    /// Shows or hides the charts of a node; false when 16 are chosen already or the id is out of 0 to 255.
     Q_INVOKABLE bool setNodeChosen(int nodeId, bool chosen);
     Q_INVOKABLE void setTypeSelected(const QString &type, bool selected);
     /// A paused dashboard keeps the pictures of its charts; the table goes on.
@@ -74,6 +84,8 @@ public:
     static qint64 hostNowMs();
     /// Takes the samples of a batch that arrived at `hostMs`.
     void updateGatewaySamples(const QList<GatewaySample> &samples, qint64 hostMs = hostNowMs());
+    /// The gateway's product, for files and pictures.
+    void setDevice(const QString &device);
     /// Batches per second, and so each node's samples per second.
     void setFrameRate(unsigned int samplesPerSecond);
     /// Active while the dashboard is open. Becoming inactive forgets nodes and samples; the choices stay.
@@ -81,7 +93,11 @@ public:
     /// The connection has ended: nodes, curves and choices stay as they are, marked as ended, and samples are ignored.
     /// clear() at the next opening ends that too.
     void setEnded(bool ended);
-    /// Forgets nodes, samples and the chosen nodes: another gateway may come.
+    /// Reads and writes nodes, types and linking as chosen in the settings file at `iniPath`; what makes no sense in it
+    /// is ignored.
+    void loadChoices(const QString &iniPath);
+    void saveChoices(const QString &iniPath) const;
+    /// Forgets nodes and samples: another gateway may come.
     void clear();
     /// Brings the table up to date as of `hostMs`; runs by itself while active.
     void refresh(qint64 hostMs = hostNowMs());
@@ -91,6 +107,7 @@ public:
 signals:
     void nodesRefreshed();
     void panesChanged();
+    void linkedChanged();
     void playingChanged();
     void frameRateChanged();
     void textsChanged();
@@ -99,15 +116,21 @@ private:
     struct NodeCharts
     {
         quint8 id = 0;
-        int slot = 0; ///< 0 to kMaxChosenNodes - 1, free again when the node is dropped
-        std::array<WaveChartBridge *, kSensorTypeCount> charts{}; ///< owned as children of the dashboard
+        int slot = -1;                                            ///< 0 to kMaxChosenNodes - 1 while it is chosen
+        std::array<WaveChartBridge *, kSensorTypeCount> charts{}; ///< owned as children; null until there is use for it
+
+        bool isChosen() const { return slot >= 0; }
     };
 
-    NodeCharts makeCharts(quint8 id);
+    NodeCharts *collect(quint8 id);
+    NodeCharts *insertNode(quint8 id);
+    WaveChartBridge *chartOf(NodeCharts &node, size_t type);
     int freeSlot() const;
-    static void nameCharts(const NodeCharts &node);
+    static void nameChart(WaveChartBridge *chart, int nodeId);
     static void dropCharts(const NodeCharts &node);
-    std::vector<NodeCharts>::iterator findCharts(int nodeId);
+    void dropUnchosen();
+    NodeCharts *findCharts(int nodeId);
+    int chosenCount() const;
     void notifyChosen();
     void updateRefreshing();
     void forgetSamples();
@@ -116,8 +139,12 @@ private:
 
     GatewayNodeTracker m_tracker;
     GatewayNodeModel m_nodeModel;
-    std::vector<NodeCharts> m_charts; ///< by ascending id
+    std::vector<NodeCharts> m_charts; ///< at most kMaxChosenNodes, by ascending id
+    QList<int> m_wanted;              ///< ids that are chosen as soon as they are heard
+    bool m_linked = false;
     std::array<bool, kSensorTypeCount> m_selectedTypes;
+    MarkerList m_markers;
+    QString m_device;
     bool m_playing = true;
     bool m_active = false;
     bool m_ended = false;

@@ -9,6 +9,43 @@
 namespace {
 
 const QString kSelectionKey = QStringLiteral("SENSOR_DASHBOARD/SELECTED_SENSORS");
+const QString kLinkedKey = QStringLiteral("SENSOR_DASHBOARD/LINKED");
+constexpr double kMinSpan = 0.01; ///< seconds
+constexpr double kMaxSpan = 60;
+constexpr double kMaxFilterHz = 1e6;
+
+/// Keys of a chart's choices: "SENSOR_DASHBOARD/ACC_SPAN" and so on.
+QString choiceKey(const QString &type, QLatin1String what)
+{
+    return QStringLiteral("SENSOR_DASHBOARD/%1_%2").arg(type.toUpper(), what);
+}
+
+ViewChoices readChoices(const QSettings &settings, const QString &type)
+{
+    ViewChoices choices;
+    const double span = settings.value(choiceKey(type, QLatin1String("SPAN"))).toDouble();
+    if (span >= kMinSpan && span <= kMaxSpan)
+        choices.spanSec = span;
+    const QStringList hidden = settings.value(choiceKey(type, QLatin1String("HIDDEN"))).toStringList();
+    for (int channel = 0; channel < 4; ++channel) {
+        if (hidden.contains(QString::number(channel)))
+            choices.hidden += channel;
+    }
+    const double filterHz = settings.value(choiceKey(type, QLatin1String("FILTER_HZ"))).toDouble();
+    if (filterHz > 0 && filterHz <= kMaxFilterHz)
+        choices.filterHz = filterHz;
+    return choices;
+}
+
+void writeChoices(QSettings &settings, const QString &type, const ViewChoices &choices)
+{
+    QStringList hidden;
+    for (const int channel : choices.hidden)
+        hidden += QString::number(channel);
+    settings.setValue(choiceKey(type, QLatin1String("SPAN")), choices.spanSec);
+    settings.setValue(choiceKey(type, QLatin1String("HIDDEN")), hidden);
+    settings.setValue(choiceKey(type, QLatin1String("FILTER_HZ")), choices.filterHz);
+}
 
 } // namespace
 
@@ -108,6 +145,20 @@ void SensorDashboardBridge::setPlaying(bool playing)
     emit playingChanged();
 }
 
+void SensorDashboardBridge::setLinked(bool linked)
+{
+    if (linked == m_linked)
+        return;
+    m_linked = linked;
+    emit linkedChanged();
+}
+
+void SensorDashboardBridge::setOrigin(const SampleOrigin &origin)
+{
+    for (WaveChartBridge *chart : std::as_const(m_bridges))
+        chart->setOrigin(origin);
+}
+
 void SensorDashboardBridge::setFrameRate(unsigned int samplesPerSecond)
 {
     for (WaveChartBridge *chart : std::as_const(m_bridges))
@@ -120,8 +171,12 @@ void SensorDashboardBridge::setDashboardActive(bool active)
         return;
     m_dashboardActive = active;
     syncObservedStates();
-    if (!active)
+    if (!active) {
         resetBackends();
+        return;
+    }
+    for (WaveChartBridge *chart : std::as_const(m_bridges))
+        chart->restoreFilter();
 }
 
 void SensorDashboardBridge::resetBackends()
@@ -132,6 +187,8 @@ void SensorDashboardBridge::resetBackends()
 
 void SensorDashboardBridge::restartStream(StreamBreak kind)
 {
+    if (emptiesViews(kind))
+        m_markers.clear();
     for (WaveChartBridge *chart : std::as_const(m_bridges)) {
         if (emptiesViews(kind))
             chart->restart();
@@ -149,6 +206,9 @@ void SensorDashboardBridge::syncObservedStates()
 void SensorDashboardBridge::loadSelectionState(const QString &iniPath)
 {
     const QSettings settings(iniPath, QSettings::IniFormat);
+    setLinked(settings.value(kLinkedKey).toBool());
+    for (const QString &type : std::as_const(m_sensorTypes))
+        m_bridges.value(type)->restoreChoices(readChoices(settings, type));
     if (!settings.contains(kSelectionKey))
         return;
     const QStringList stored = settings.value(kSelectionKey).toStringList();
@@ -169,6 +229,9 @@ void SensorDashboardBridge::saveSelectionState(const QString &iniPath) const
 {
     QSettings settings(iniPath, QSettings::IniFormat);
     settings.setValue(kSelectionKey, selectedSensorTypes());
+    settings.setValue(kLinkedKey, m_linked);
+    for (const QString &type : m_sensorTypes)
+        writeChoices(settings, type, m_bridges.value(type)->choices());
     settings.sync();
 }
 

@@ -7,6 +7,7 @@
 #include <QStringList>
 #include <QVariantList>
 
+#include "chart/marker_list.h"
 #include "wave/sensor_types.h"
 #include "wave/wave_chart_bridge.h"
 
@@ -31,6 +32,8 @@ class SensorDashboardBridge : public QObject
     Q_PROPERTY(int selectedCount READ selectedCount NOTIFY selectionChanged)
     Q_PROPERTY(int gridRows READ gridRows NOTIFY selectionChanged)
     Q_PROPERTY(int gridColumns READ gridColumns NOTIFY selectionChanged)
+    Q_PROPERTY(bool linked READ isLinked WRITE setLinked NOTIFY linkedChanged)
+    Q_PROPERTY(MarkerList *markers READ markers CONSTANT)
     Q_PROPERTY(bool playing READ playing NOTIFY playingChanged)
 
 public:
@@ -48,6 +51,11 @@ public:
     int gridRows() const { return layoutForCount(selectedCount()).height(); }
     int gridColumns() const { return layoutForCount(selectedCount()).width(); }
     bool playing() const { return m_playing; }
+    /// The time axes and cursors of all charts are coupled.
+    bool isLinked() const { return m_linked; }
+    void setLinked(bool linked);
+    /// What the user marked in the stream; forgotten when another stream begins.
+    MarkerList *markers() { return &m_markers; }
     bool dashboardActive() const { return m_dashboardActive; }
 
     /// Columns (width) and rows (height) of the grid for `count` panes; empty below 1.
@@ -74,6 +82,8 @@ public:
     /// Routes all values of one sample.
     void pushSamples(const ChartSamples &samples, unsigned int timestampMs);
     void setPlaying(bool playing);
+    /// Whose samples they are, for files and pictures.
+    void setOrigin(const SampleOrigin &origin);
     /// Samples per second.
     void setFrameRate(unsigned int samplesPerSecond);
     /// Active while the dashboard is open. Becoming inactive empties the charts.
@@ -84,8 +94,8 @@ public:
     /// Tells every chart whether it is on the screen; runs by itself after each change.
     void syncObservedStates();
 
-    /// Reads and writes the selection in the settings file at `iniPath`. Without an entry the selection stays; unknown
-    /// keys in it are ignored.
+    /// Reads and writes the selection in the settings file at `iniPath`, with spans, hidden channels and filters of the
+    /// charts and whether they are linked. Without an entry the selection stays; what it does not know is ignored.
     void loadSelectionState(const QString &iniPath);
     void saveSelectionState(const QString &iniPath) const;
 
@@ -97,6 +107,7 @@ signals:
     void paneStatesChanged();
     void selectionChanged();
     void layoutChanged();
+    void linkedChanged();
     void playingChanged();
     void playToggleRequested(bool playing);
 
@@ -106,6 +117,8 @@ private:
     QStringList m_sensorTypes;
     QHash<QString, WaveChartBridge *> m_bridges; ///< owned as children
     QHash<QString, bool> m_selected;
+    bool m_linked = false;
+    MarkerList m_markers;
     bool m_playing = true;
     bool m_dashboardActive = false;
     QHash<QString, QString> m_paneLabels;

@@ -1,5 +1,7 @@
 #include "wave/wave_chart_bridge.h"
 
+#include <QDateTime>
+
 #include <algorithm>
 #include <chrono>
 #include <cmath>
@@ -73,7 +75,7 @@ bool WaveChartBridge::hasFilter() const
 QList<QPointF> WaveChartBridge::getDecimatedPoints(int channel, double tMin, double tMax, int maxPoints) const
 {
     QList<QPointF> points;
-    m_model.getDecimatedPointsByTime(channel, tMin, tMax, maxPoints, points);
+    model().getDecimatedPointsByTime(channel, tMin, tMax, maxPoints, points);
     return points;
 }
 
@@ -93,18 +95,18 @@ quint32 WaveChartBridge::seriesRgb(int channel) const
 
 void WaveChartBridge::seriesPoints(int channel, double xMin, double xMax, int maxPoints, QList<QPointF> &out) const
 {
-    m_model.getCurve(channel, xMin, xMax, maxPoints, out);
+    model().getCurve(channel, xMin, xMax, maxPoints, out);
 }
 
 QList<double> WaveChartBridge::valuesAt(double timeSec) const
 {
-    const int offset = m_model.sampleOffsetAtTime(timeSec);
+    const int offset = model().sampleOffsetAtTime(timeSec);
     if (offset < 0)
         return {};
-    const int slot = (m_model.head() + offset) % WaveformDataModel::kCapacity;
+    const int slot = (model().head() + offset) % WaveformDataModel::kCapacity;
     QList<double> values;
     for (int channel = 0; channel < channelCount(); ++channel)
-        values += m_model.rawValue(channel, slot);
+        values += model().rawValue(channel, slot);
     return values;
 }
 
@@ -112,9 +114,9 @@ SeriesStatistics WaveChartBridge::statistics(int channel, double xMin, double xM
 {
     int first = 0;
     int last = 0;
-    m_model.resolveTimeWindow(xMin, xMax, first, last);
+    model().resolveTimeWindow(xMin, xMax, first, last);
     StatisticsSum sum;
-    for (const std::span<const double> run : m_model.runs(channel, first, last))
+    for (const std::span<const double> run : model().runs(channel, first, last))
         sum.add(run);
     return sum.result();
 }
@@ -137,15 +139,19 @@ void WaveChartBridge::pushSample(const float *values, int n, unsigned int timest
         missing = step.missing;
     }
     m_model.pushSample(values, std::min(n, channelCount()), timestampMs);
+    m_newestUtcMs = QDateTime::currentMSecsSinceEpoch();
+    const double nowSec = double(m_model.timestampAtSampleOffset(0)) / 1000.0;
     if (m_pendingBreak)
-        addMark(m_breakMarks, {newestTimeSec(), *std::exchange(m_pendingBreak, std::nullopt)});
+        addMark(m_breakMarks, {nowSec, *std::exchange(m_pendingBreak, std::nullopt)});
     else if (missing > 0)
-        addMark(m_missingMarks, {newestTimeSec(), CurveBreak::Missing, missing});
+        addMark(m_missingMarks, {nowSec, CurveBreak::Missing, missing});
     forgetOldMarks(m_breakMarks);
     forgetOldMarks(m_missingMarks);
+    if (m_trigger.isOn())
+        feedTrigger();
     if (!m_model.shouldRedraw())
         return;
-    if (m_observed && !m_updatePosted) {
+    if (m_observed && !m_updatePosted && !m_caught) {
         m_updatePosted = true;
         QMetaObject::invokeMethod(
             this,
@@ -157,6 +163,55 @@ void WaveChartBridge::pushSample(const float *values, int n, unsigned int timest
             Qt::QueuedConnection);
     }
     m_model.markRedrawn();
+}
+
+void WaveChartBridge::feedTrigger()
+{
+    if (m_model.timestampAtSampleOffset(1) != 0 && m_model.isParted(0))
+        m_trigger.interrupt();
+    const double value = m_model.rawValue(m_trigger.channel(), m_model.head());
+    switch (m_trigger.feed(value, double(m_model.timestampAtSampleOffset(0)) / 1000.0)) {
+    case WaveTrigger::Step::Caught:
+        hold();
+        break;
+    case WaveTrigger::Step::Lapsed:
+        drop();
+        break;
+    case WaveTrigger::Step::Nothing:
+        break;
+    }
+}
+
+void WaveChartBridge::hold()
+{
+    const double newestSec = double(m_model.timestampAtSampleOffset(0)) / 1000.0;
+    int first = 0;
+    int last = 0;
+    m_model.resolveTimeWindow(m_trigger.eventSec() - m_trigger.beforeSec() - newestSec, 0, first, last);
+    const bool held = holds();
+    if (!held)
+        m_caught = std::make_unique<WaveformDataModel>(m_model.channelCount());
+    m_caught->takeSamples(m_model, 0, last);
+    if (!held)
+        emit holdsChanged();
+    if (m_observed)
+        notifyView();
+}
+
+void WaveChartBridge::drop()
+{
+    if (!m_caught)
+        return;
+    m_caught.reset();
+    emit holdsChanged();
+    if (m_observed)
+        notifyView();
+}
+
+void WaveChartBridge::release()
+{
+    m_trigger.rearm();
+    drop();
 }
 
 void WaveChartBridge::setPlaying(bool playing)
@@ -205,6 +260,8 @@ void WaveChartBridge::reset()
     m_missingMarks.clear();
     m_pendingBreak.reset();
     m_gaps = {};
+    m_trigger.interrupt();
+    drop();
     m_updatePosted = false;
     if (wasFiltered)
         emit filterChanged();
@@ -237,7 +294,8 @@ void WaveChartBridge::addMark(QList<BreakMark> &marks, const BreakMark &mark)
 
 void WaveChartBridge::forgetOldMarks(QList<BreakMark> &marks) const
 {
-    while (!marks.isEmpty() && marks.constFirst().timeSec < newestTimeSec() + xHistoryMin())
+    const double oldestSec = double(m_model.timestampAtSampleOffset(0)) / 1000.0 - m_model.historyDurationSec();
+    while (!marks.isEmpty() && marks.constFirst().timeSec < oldestSec)
         marks.removeFirst();
 }
 
@@ -269,8 +327,30 @@ QString WaveChartBridge::trySetFilter(bool on, double hz)
             problem = tr("The cutoff frequency is too low for %1 samples per second.").arg(m_appliedFrameRate);
         }
     }
+    m_choices.filterHz = filterOn() ? hz : 0;
     emit filterChanged();
     return problem;
+}
+
+void WaveChartBridge::setChosenView(double spanSec, const QList<int> &hidden)
+{
+    m_choices.spanSec = spanSec;
+    m_choices.hidden = hidden;
+}
+
+void WaveChartBridge::restoreChoices(const ViewChoices &choices)
+{
+    m_choices = choices;
+    restoreFilter();
+}
+
+void WaveChartBridge::restoreFilter()
+{
+    const double cutoffHz = m_choices.filterHz;
+    if (!hasFilter() || !(cutoffHz > 0) || filterOn())
+        return;
+    trySetFilter(true, cutoffHz);
+    m_choices.filterHz = cutoffHz; // a rate that is too low for it now may rise
 }
 
 bool WaveChartBridge::filterOn() const

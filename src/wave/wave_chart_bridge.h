@@ -7,12 +7,16 @@
 #include <QStringList>
 #include <QVariantList>
 
+#include <memory>
 #include <optional>
 
 #include "chart/chart_source.h"
 #include "link/sample_gaps.h"
 #include "session/stream_event.h"
 #include "wave/curve_break.h"
+#include "wave/sample_origin.h"
+#include "wave/view_choices.h"
+#include "wave/wave_trigger.h"
 #include "wave/waveform_data_model.h"
 
 struct SensorType;
@@ -39,6 +43,8 @@ class WaveChartBridge : public QObject, public ChartSource
     Q_PROPERTY(bool filterOn READ filterOn NOTIFY filterChanged)
     Q_PROPERTY(double filterCutoffHz READ filterCutoffHz NOTIFY filterChanged)
     Q_PROPERTY(bool hasData READ hasData NOTIFY dataChanged)
+    Q_PROPERTY(WaveTrigger *trigger READ trigger CONSTANT)
+    Q_PROPERTY(bool holds READ holds NOTIFY holdsChanged)
     Q_PROPERTY(unsigned int framerate READ framerate NOTIFY framerateChanged)
     Q_PROPERTY(double xLimitMin READ xLimitMin CONSTANT)
     Q_PROPERTY(double xLimitMax READ xLimitMax CONSTANT)
@@ -63,14 +69,14 @@ public:
     double yMax() const;
     bool playing() const { return m_playing; }
     bool hasFilter() const;
-    bool hasData() const override { return m_model.hasData(); }
+    bool hasData() const override { return model().hasData(); }
     /// Samples per second as applied; a change that came during a pause waits for its end.
     unsigned int framerate() const { return m_appliedFrameRate; }
 
     double xLimitMin() const { return -60; }
     double xLimitMax() const { return 0; }
     /// Time of the oldest sample in seconds.
-    double xHistoryMin() const { return -m_model.historyDurationSec(); }
+    double xHistoryMin() const { return -model().historyDurationSec(); }
     double xDefaultMin() const { return -10; }
     double xMaxViewDuration() const { return 60; }
     double xMinZoom() const { return 0.01; }
@@ -81,19 +87,39 @@ public:
     Q_INVOKABLE QList<QPointF> getDecimatedPoints(int channel, double tMin, double tMax, int maxPoints) const;
     /// Values of all channels of the sample nearest to `timeSec`; empty without data.
     Q_INVOKABLE QVariantList getValuesAtTime(double timeSec) const;
-    Q_INVOKABLE int headIndex() const { return m_model.head(); }
+    Q_INVOKABLE int headIndex() const { return model().head(); }
     /// Stamp of the newest sample in seconds: tells by how much the picture moved.
-    Q_INVOKABLE double newestTimeSec() const { return double(m_model.timestampAtSampleOffset(0)) / 1000.0; }
+    Q_INVOKABLE double newestTimeSec() const { return double(model().timestampAtSampleOffset(0)) / 1000.0; }
     int seriesCount() const override { return channelCount(); }
     QString seriesName(int channel) const override { return channelNames().value(channel); }
     quint32 seriesRgb(int channel) const override;
     void seriesPoints(int channel, double xMin, double xMax, int maxPoints, QList<QPointF> &out) const override;
     QList<double> valuesAt(double timeSec) const override;
     SeriesStatistics statistics(int channel, double xMin, double xMax) const override;
-    quint64 revision() const override { return m_model.revision(); }
+    quint64 revision() const override { return model().revision() ^ (holds() ? kHeldBit : 0); }
 
-    /// The samples, for export.
-    const WaveformDataModel &model() const { return m_model; }
+    /// What the user chose. The view reports span and channels, the filter is kept up to date here; restoring them
+    /// switches the filter, where the rate allows it.
+    const ViewChoices &choices() const { return m_choices; }
+    void setChosenView(double spanSec, const QList<int> &hidden);
+    void restoreChoices(const ViewChoices &choices);
+    void restoreFilter();
+
+    /// Whose samples they are, as far as the owner knows.
+    const SampleOrigin &origin() const { return m_origin; }
+    void setOrigin(const SampleOrigin &origin) { m_origin = origin; }
+    /// When a sample came, milliseconds since 1970 in UTC, by the computer's clock at the newest one.
+    qint64 utcMsAt(double timeSec) const { return m_newestUtcMs + qRound64((timeSec - liveLagSec()) * 1000); }
+
+    /// The samples that are shown: all, or what the trigger has caught.
+    const WaveformDataModel &model() const { return m_caught ? *m_caught : m_model; }
+
+    /// What waits for an event in the samples. What it catches is shown instead of the live samples, which go on being
+    /// stored, until release().
+    WaveTrigger *trigger() { return &m_trigger; }
+    bool holds() const { return m_caught != nullptr; }
+    /// Shows the live samples again, and waits for the next event.
+    Q_INVOKABLE void release();
 
     /// Appends a sample of up to channelCount() values; dropped while paused, so that a paused chart keeps its picture.
     void pushSample(const float *values, int n, unsigned int timestampMs);
@@ -116,7 +142,7 @@ public:
     const QList<BreakMark> &breakMarks() const { return m_breakMarks; }
     const QList<BreakMark> &missingMarks() const { return m_missingMarks; }
     /// The store is full: what is older is gone, though the axis may reach further.
-    bool isStoreFull() const { return m_model.count() == WaveformDataModel::kCapacity; }
+    bool isStoreFull() const { return model().count() == WaveformDataModel::kCapacity; }
 
     /// Filter of one channel; both may throw, see WaveformDataModel.
     void setFilterEnabled(int channel, bool enabled);
@@ -143,8 +169,19 @@ signals:
     void framerateChanged();
     void viewLimitsChanged();
     void filterChanged();
+    void holdsChanged();
 
 private:
+    static constexpr quint64 kHeldBit = quint64(1) << 63;
+
+    /// Seconds from the newest sample that is shown to the newest of all.
+    double liveLagSec() const
+    {
+        return m_caught ? double(m_model.timestampAtSampleOffset(0)) / 1000.0 - newestTimeSec() : 0;
+    }
+    void feedTrigger();
+    void hold();
+    void drop();
     void notifyView();
     void switchFilters(bool on);
     static void addMark(QList<BreakMark> &marks, const BreakMark &mark);
@@ -162,6 +199,11 @@ private:
     QList<BreakMark> m_missingMarks;
     std::optional<CurveBreak> m_pendingBreak; ///< waits for the first sample after it
     SampleGaps m_gaps;
+    qint64 m_newestUtcMs = 0;
+    SampleOrigin m_origin;
+    ViewChoices m_choices;
+    WaveTrigger m_trigger;
+    std::unique_ptr<WaveformDataModel> m_caught; ///< shown instead
     bool m_observed = false;
     bool m_updatePosted = false;
 };

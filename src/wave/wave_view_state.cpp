@@ -31,7 +31,7 @@ WaveViewState::WaveViewState(QObject *parent) : PlotViewState(MainAxis::X, {-10,
         if (m_bridge && m_bridge->newestTimeSec() != m_newest) // too few yet for the bridge to tell
             samplesChanged();
         else
-            setStale(m_bridge && m_bridge->hasData() && m_bridge->playing());
+            setStale(m_bridge && m_bridge->hasData() && m_bridge->playing() && !m_bridge->holds());
     });
     connect(&AppLanguageManager::instance(), &AppLanguageManager::languageChanged, this,
             &WaveViewState::rangeTextChanged);
@@ -41,13 +41,28 @@ void WaveViewState::setBridge(WaveChartBridge *bridge)
 {
     if (bridge == m_bridge)
         return;
-    if (m_bridge)
+    if (m_bridge) {
         m_bridge->disconnect(this);
+        m_bridge->trigger()->disconnect(this);
+    }
     m_bridge = bridge;
     m_visibleChannels = QList<bool>(bridge ? bridge->channelCount() : 0, true);
     if (bridge) {
+        for (const int hidden : bridge->choices().hidden) {
+            if (hidden >= 0 && hidden < m_visibleChannels.size())
+                m_visibleChannels[hidden] = false;
+        }
         connect(bridge, &WaveChartBridge::dataChanged, this, &WaveViewState::samplesChanged);
         connect(bridge, &WaveChartBridge::chartTitleChanged, this, &WaveViewState::titleChanged);
+        connect(bridge->trigger(), &WaveTrigger::caught, this, [this](double eventSec) {
+            if (m_marksCatches && markers())
+                markers()->add({eventSec, m_bridge->utcMsAt(eventSec - m_bridge->newestTimeSec()), tr("Trigger")});
+        });
+        connect(bridge, &WaveChartBridge::holdsChanged, this, [this] {
+            goLive(); // what was caught is as long as the view, or the newest samples are wanted again
+            setStale(false);
+            awaitSamples();
+        });
         connect(bridge, &WaveChartBridge::playingChanged, this, [this] {
             setStale(false);
             awaitSamples();
@@ -121,12 +136,21 @@ QString WaveViewState::positionText(double seconds) const
 
 QString WaveViewState::fileStem() const
 {
-    return m_bridge ? m_bridge->sensorType() : QStringLiteral("chart");
+    return m_bridge ? chart_text::fileStem(*m_bridge) : QStringLiteral("chart");
 }
 
-QByteArray WaveViewState::visibleTable() const
+QByteArray WaveViewState::table(bool all) const
 {
-    return m_bridge ? wave_csv::table(*m_bridge, m_x.min, m_x.max) : QByteArray();
+    if (!m_bridge)
+        return {};
+    return all ? wave_csv::table(*m_bridge, m_bridge->xHistoryMin(), 0) : wave_csv::table(*m_bridge, m_x.min, m_x.max);
+}
+
+QString WaveViewState::pictureTitle() const
+{
+    return m_bridge
+               ? QStringList{m_bridge->chartTitle(), m_bridge->origin().text()}.join(QStringLiteral("  ")).trimmed()
+               : QString();
 }
 
 QList<BreakMark> WaveViewState::visibleMarks(const QList<BreakMark> &marks) const
@@ -165,6 +189,41 @@ int WaveViewState::majorBreaks() const
     return m_bridge ? int(visibleMarks(m_bridge->breakMarks()).size()) : 0;
 }
 
+void WaveViewState::reportChoices()
+{
+    if (!m_bridge)
+        return;
+    QList<int> hidden;
+    for (int channel = 0; channel < m_visibleChannels.size(); ++channel) {
+        if (!m_visibleChannels.at(channel))
+            hidden += channel;
+    }
+    m_bridge->setChosenView(m_x.span(), hidden);
+}
+
+void WaveViewState::setTriggerOn(bool on)
+{
+    if (!m_bridge)
+        return;
+    WaveTrigger &trigger = *m_bridge->trigger();
+    if (on) {
+        trigger.setSpan(m_x.span());
+        if (trigger.level() <= m_y.min || trigger.level() >= m_y.max)
+            trigger.setLevel((m_y.min + m_y.max) / 2);
+    }
+    trigger.setOn(on);
+    if (!on)
+        m_bridge->release();
+}
+
+void WaveViewState::setMarksCatches(bool mark)
+{
+    if (mark == m_marksCatches)
+        return;
+    m_marksCatches = mark;
+    emit marksCatchesChanged();
+}
+
 double WaveViewState::storeEnd() const
 {
     return m_bridge && m_bridge->isStoreFull() && m_x.min < m_bridge->xHistoryMin() ? m_bridge->xHistoryMin() : kNone;
@@ -180,6 +239,7 @@ void WaveViewState::setSeriesVisible(int channel, bool visible)
     if (channel < 0 || channel >= m_visibleChannels.size() || m_visibleChannels.at(channel) == visible)
         return;
     m_visibleChannels[channel] = visible;
+    reportChoices();
     emit seriesChanged();
     emit pictureChanged();
 }
@@ -230,7 +290,8 @@ void WaveViewState::reset()
 {
     m_yAutomatic = true;
     m_x = {m_bridge ? m_bridge->xDefaultMin() : -10.0, 0};
-    marksChanged();
+    reportChoices();
+    moveMarks();
     emit viewChanged();
     emit rangeTextChanged();
     emit pictureChanged();
@@ -240,6 +301,19 @@ void WaveViewState::reset()
 double WaveViewState::cursorPlace(double seconds) const
 {
     return m_bridge && m_bridge->hasData() ? std::clamp(seconds, m_bridge->xHistoryMin(), 0.0) : kNone;
+}
+
+ChartMarker WaveViewState::markerHere() const
+{
+    if (!m_bridge || !m_bridge->hasData())
+        return {kNone, 0, {}};
+    const double place = std::isnan(m_hoverX) ? 0 : std::clamp(m_hoverX, m_bridge->xHistoryMin(), 0.0);
+    return {m_newest + place, m_bridge->utcMsAt(place), {}};
+}
+
+int WaveViewState::addMarker()
+{
+    return markers() ? markers()->add(markerHere()) : -1;
 }
 
 double WaveViewState::placeBeside(double seconds, int direction) const
@@ -282,11 +356,11 @@ void WaveViewState::samplesChanged()
     setStale(false);
     if (!std::isnan(m_hoverX))
         emit hoverChanged();
-    marksChanged();
+    moveMarks();
     emit pictureChanged();
 }
 
-void WaveViewState::marksChanged()
+void WaveViewState::moveMarks()
 {
     const bool hasBreaks = m_bridge && (!m_bridge->breakMarks().isEmpty() || !m_bridge->missingMarks().isEmpty());
     if (hasBreaks || m_hasBreaks)
@@ -296,6 +370,8 @@ void WaveViewState::marksChanged()
     if (storeEndSeen || m_storeEndSeen)
         emit storeEndChanged();
     m_storeEndSeen = storeEndSeen;
+    if (markers() && markers()->count() > 0)
+        emit markersChanged();
 }
 
 void WaveViewState::followTime()
@@ -326,7 +402,9 @@ void WaveViewState::startOver()
 {
     removeCursors();
     m_y = m_bridge ? chart_range::Range{m_bridge->yMin(), m_bridge->yMax()} : chart_range::Range{-1, 1};
+    const double span = m_bridge ? m_bridge->choices().spanSec : 0;
     reset();
+    setSpan(span);
 }
 
 void WaveViewState::updateLiveTexts()
@@ -380,7 +458,10 @@ void WaveViewState::setX(chart_range::Range window)
     if (next == m_x)
         return;
     m_x = next;
-    marksChanged();
+    reportChoices();
+    if (m_bridge && m_bridge->trigger()->isOn() && !m_bridge->holds())
+        m_bridge->trigger()->setSpan(m_x.span());
+    moveMarks();
     emit viewChanged();
     emit rangeTextChanged();
     emit pictureChanged();

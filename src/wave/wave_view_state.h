@@ -39,6 +39,7 @@ class WaveViewState : public PlotViewState
     Q_PROPERTY(QList<double> breakSeconds READ breakSeconds NOTIFY breaksChanged)
     Q_PROPERTY(QStringList breakTexts READ breakTexts NOTIFY breaksChanged)
     Q_PROPERTY(int majorBreaks READ majorBreaks NOTIFY breaksChanged)
+    Q_PROPERTY(bool marksCatches READ marksCatches WRITE setMarksCatches NOTIFY marksCatchesChanged)
     Q_PROPERTY(double storeEnd READ storeEnd NOTIFY storeEndChanged)
     Q_PROPERTY(QString storeEndText READ storeEndText NOTIFY storeEndChanged)
 
@@ -89,6 +90,13 @@ public:
     QStringList breakTexts() const;
     int majorBreaks() const;
 
+    /// Switches the bridge's trigger. Switched on, it catches as many seconds as are seen, at a level in the middle of
+    /// the values that are seen when its own is not among them.
+    Q_INVOKABLE void setTriggerOn(bool on);
+    /// A marker is set at each event that the trigger catches.
+    bool marksCatches() const { return m_marksCatches; }
+    void setMarksCatches(bool mark);
+
     /// Where the axis shows times that the full store no longer holds, their end; else NaN. And what is said there.
     double storeEnd() const;
     QString storeEndText() const;
@@ -96,10 +104,16 @@ public:
     QString hoverTitle() const override;
     QStringList hoverTexts() const override;
 
+    /// Adds a marker under the pointer, or at the newest sample while it is elsewhere. Its row, -1 without
+    /// samples.
+    Q_INVOKABLE int addMarker();
+
     QString valueText(int channel, double value, bool isDifference) const override;
     QString positionText(double seconds) const override;
     QString fileStem() const override;
-    QByteArray visibleTable() const override;
+    QByteArray table(bool all) const override;
+    QString pictureTitle() const override;
+    QString xUnit() const override { return QStringLiteral("s"); }
 
     /// Makes the value axis manual.
     void zoomY(double factor, double anchor) override;
@@ -119,6 +133,7 @@ signals:
     void rangeTextChanged();
     void breaksChanged();
     void storeEndChanged();
+    void marksCatchesChanged();
 
 protected:
     void setX(chart_range::Range window) override;
@@ -139,7 +154,9 @@ private:
     void updateLiveTexts();
     void setStale(bool stale);
     void awaitSamples();
-    void marksChanged();
+    void moveMarks();
+    void reportChoices();
+    ChartMarker markerHere() const;
     QList<BreakMark> visibleMarks(const QList<BreakMark> &marks) const;
     chart_range::TimeLimits timeLimits() const;
     chart_range::ValueLimits valueLimits() const;
@@ -151,6 +168,7 @@ private:
     bool m_stale = false;
     bool m_hasBreaks = false;
     bool m_storeEndSeen = false;
+    bool m_marksCatches = false;
     bool m_yAutomatic = true;
     double m_newest = 0; ///< stamp of the newest sample when time was last followed, seconds
     QList<bool> m_visibleChannels;
@@ -167,4 +185,12 @@ struct WaveChartBridgeForeign
     QML_FOREIGN(WaveChartBridge)
     QML_NAMED_ELEMENT(WaveChartBridge)
     QML_UNCREATABLE("owned by a dashboard")
+};
+
+struct WaveTriggerForeign
+{
+    Q_GADGET
+    QML_FOREIGN(WaveTrigger)
+    QML_NAMED_ELEMENT(WaveTrigger)
+    QML_UNCREATABLE("comes with the bridge")
 };

@@ -91,6 +91,27 @@ void WaveformDataModel::pushSample(const float *values, int n, unsigned int time
     }
 }
 
+void WaveformDataModel::takeSamples(const WaveformDataModel &from, int first, int last)
+{
+    reset();
+    first = std::max(first, 0);
+    last = std::min(last, from.m_count);
+    if (first >= last || from.channelCount() != channelCount())
+        return;
+    m_count = last - first;
+    m_hasData = true;
+    for (int slot = 0; slot < m_count; ++slot) {
+        const int source = from.slotAt(first + slot);
+        m_timestamps[slot] = from.m_timestamps.at(source);
+        m_parts[size_t(slot)] = from.m_parts[size_t(source)];
+        m_partCount += m_parts[size_t(slot)] != char(Part::None);
+        for (int channel = 0; channel < channelCount(); ++channel)
+            m_values[channel][slot] = from.m_values.at(channel).at(source);
+    }
+    m_lastTimestamp = m_timestamps.at(0);
+    m_frameRate = from.m_frameRate;
+}
+
 void WaveformDataModel::reset()
 {
     m_head = 0;

@@ -50,6 +50,10 @@ public:
         Cut, ///< another stretch of the stream: a curve is always broken
     };
     void breakLine(Part part) { m_nextPart = std::max(m_nextPart, part); }
+    /// The sample at an offset is parted from the one before it.
+    bool isParted(int offset) const { return m_parts[size_t(slotAt(offset))] != char(Part::None); }
+    /// Holds the offsets `first` to `last` - 1 of another store of as many channels, and nothing else.
+    void takeSamples(const WaveformDataModel &from, int first, int last);
     /// Forgets samples and filter settings; the frame rate stays.
     void reset();
 

@@ -1,9 +1,11 @@
+#include <QSignalSpy>
 #include <QTest>
 
 #include <cmath>
 #include <limits>
 #include <vector>
 
+#include "chart/marker_list.h"
 #include "chart/measure_table.h"
 #include "chart/series_statistics.h"
 
@@ -60,6 +62,31 @@ private slots:
                 QVERIFY2(near(found[i], expected[i]), qPrintable(QStringLiteral("%1: %2").arg(i).arg(found[i])));
             QVERIFY(near(s.peakToPeak(), expected[2] - expected[1]));
         }
+    }
+
+    void listsMarkersByTime()
+    {
+        MarkerList list;
+        QSignalSpy added(&list, &MarkerList::markerAdded);
+        QCOMPARE(list.add({12.5, 1000, u" say \"when\"\n, now "_qs}), 0);
+        QCOMPARE(list.add({2, 0, {}}), 0);
+        QCOMPARE(list.add({12.5, 1001, {}}), 2);
+        QCOMPARE(list.add({kNaN, 0, {}}), -1);
+        QCOMPARE(added.size(), 3);
+        list.setText(0, u"\t \n"_qs); // nothing to say: it keeps its text
+        list.setText(2, QString(5000, u'x'));
+        QCOMPARE(list.markers()[2].text.size(), MarkerList::kMaxText);
+        list.setText(2, u"c"_qs);
+        QCOMPARE(list.csv(), QByteArray("time (s),UTC,text\n2.000,1970-01-01T00:00:00.000Z,\"Marker 1\"\n"
+                                        "12.500,1970-01-01T00:00:01.000Z,\"say \"\"when\"\" , now\"\n"
+                                        "12.500,1970-01-01T00:00:01.001Z,\"c\"\n"));
+        for (int i = 0; i < 2 * MarkerList::kMaxMarkers; ++i)
+            list.add({100.0 + i, 0, {}});
+        QCOMPARE(list.count(), MarkerList::kMaxMarkers);
+        QCOMPARE(list.markers().first().timeSec, 100.0 + MarkerList::kMaxMarkers);
+        list.remove(-1);
+        list.clear();
+        QVERIFY(list.count() == 0 && list.rowCount() == 0);
     }
 
     void makesATable()

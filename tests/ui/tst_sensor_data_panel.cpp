@@ -121,6 +121,31 @@ private slots:
         QVERIFY(panel.grab().toImage() != shown);
     }
 
+    void oldNumbersCanBeRead()
+    {
+        ShownPanel panel;
+        panel.setModel(sampleModel());
+        const auto contrast = [&panel] { // of the darkest pixel among the numbers, which is in the middle of a stroke
+            const QImage image = panel.findChild<ValueCard *>()->grab().toImage();
+            double darkest = 1;
+            for (int x = 50; x < 120; ++x) {
+                for (int y = 40; y < 120; ++y) {
+                    const auto linear = [](double c) {
+                        return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+                    };
+                    const QColor p = image.pixelColor(x, y);
+                    darkest = std::min(darkest, 0.2126 * linear(p.redF()) + 0.7152 * linear(p.greenF())
+                                                    + 0.0722 * linear(p.blueF()));
+                }
+            }
+            return 1.05 / (darkest + 0.05);
+        };
+        const double live = contrast();
+        panel.setEnabled(false);
+        const double old = contrast();
+        QVERIFY2(old >= 4.5 && old < live / 2, qPrintable(QString::number(old)));
+    }
+
     void movesTheTraceUnderASteadyStream()
     {
         ShownPanel panel;

@@ -1,11 +1,13 @@
 #include <QAbstractItemModelTester>
 #include <QPointer>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <algorithm>
 #include <cmath>
 
+#include "support/files.h"
 #include "wave/gateway_dashboard_bridge.h"
 
 namespace {
@@ -169,15 +171,21 @@ private slots:
         bridge.setNodeChosen(255, true);
         QCOMPARE(panes(), QLatin1String("6:2acc 11:2prs 0:9acc 5:9prs 12:255acc 17:255prs/2"));
         QVERIFY(!bridge.setNodeChosen(256, true) && !bridge.setNodeChosen(-1, true));
-        QVERIFY(bridge.setNodeChosen(0, true) && !bridge.setNodeChosen(1, true));
+        QVERIFY(bridge.setNodeChosen(0, true));
         QCOMPARE(bridge.chosenNodes(), QList<int>({0, 2, 9, 255}));
+        for (int id = 100; id < 112; ++id)
+            QVERIFY(bridge.setNodeChosen(id, true));
+        QVERIFY(!bridge.setNodeChosen(1, true)); // 16 are enough
+        QCOMPARE(bridge.paneColumns(), 3);
+        for (int id = 100; id < 112; ++id)
+            bridge.setNodeChosen(id, false);
         bridge.setTypeSelected(QStringLiteral("prs"), false);
         bridge.setNodeChosen(9, false);
         bridge.setNodeChosen(3, true); // takes the place that got free
         QCOMPARE(panes(), QLatin1String("18:0acc 6:2acc 0:3acc 12:255acc/2"));
         bridge.setTypeSelected(QStringLiteral("acc"), false);
         QCOMPARE(panes(), QLatin1String("/1"));
-        QCOMPARE(changes.count(), 9);
+        QCOMPARE(changes.count(), 9 + 24);
     }
 
     void letsTheViewGoBeforeTheCharts()
@@ -230,6 +238,75 @@ private slots:
         QCOMPARE(bridge.chosenNodes(), QList<int>{1});
         bridge.clear();
         QVERIFY(bridge.chosenNodes().isEmpty() && !bridge.isEnded());
+        bridge.setDashboardActive(true); // it is chosen again as soon as it is heard
+        bridge.updateGatewaySamples({sampleOf(1, 100), sampleOf(2, 100)});
+        QCOMPARE(bridge.chosenNodes(), QList<int>{1});
+    }
+
+    /// A node's history begins when it is heard, not when it is chosen, and outlives its choice.
+    void collectsAllNodes()
+    {
+        GatewayDashboardBridge bridge;
+        bridge.setDashboardActive(true);
+        for (unsigned int stamp = 10; stamp <= 1000; stamp += 10) {
+            QList<GatewaySample> samples;
+            for (int id = 0; id < 200; ++id) // far more than there can be
+                samples += sampleOf(id, stamp);
+            bridge.updateGatewaySamples(samples);
+        }
+        const auto acceleration = [&bridge] {
+            return bridge.panes().isEmpty()
+                       ? nullptr
+                       : qobject_cast<WaveChartBridge *>(
+                           bridge.panes().constFirst().toMap().value(QStringLiteral("backend")).value<QObject *>());
+        };
+        bridge.setNodeChosen(7, true);
+        QVERIFY(acceleration());
+        QCOMPARE(acceleration()->model().count(), 100);
+        bridge.setNodeChosen(7, false);
+        bridge.updateGatewaySamples({sampleOf(7, 1010)});
+        bridge.setNodeChosen(7, true);
+        QCOMPARE(acceleration()->model().count(), 101);
+        QCOMPARE(bridge.findChildren<WaveChartBridge *>().size() % 16, 0); // 16 nodes at most, and what they send
+        bridge.setNodeChosen(7, false);
+        bridge.setNodeChosen(180, true); // takes the room of one that nobody chose
+        QVERIFY(!acceleration()->hasData());
+        bridge.updateGatewaySamples({sampleOf(180, 1010)});
+        QVERIFY(acceleration()->hasData());
+        bridge.setDashboardActive(false);
+        // What was collected for nobody goes.
+        QTRY_VERIFY(bridge.findChildren<WaveChartBridge *>().size() <= kSensorTypeCount);
+        QCOMPARE(bridge.panes().size(), 1);
+    }
+
+    void remembersChoices()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("param.ini"));
+        // What the file holds; nodes that are chosen when they are heard; types.
+        const std::tuple<QByteArray, QList<int>, QString> rows[] = {
+            {"", {}, QStringLiteral("acc")},
+            {"[WIRELESS_DASHBOARD]\nNODES=3, 250\nTYPES=gyr, prs\nLINKED=true\n", {3, 250}, QStringLiteral("gyr prs")},
+            {"[WIRELESS_DASHBOARD]\nNODES=-1, 256, x, 3, 3\nTYPES=bogus\nLINKED=0\n", {3}, QString()},
+        };
+        for (const auto &[content, nodes, types] : rows) {
+            QVERIFY(writeFile(path, content));
+            for (int run = 0; run < 2; ++run) { // the second reads what the first has written
+                GatewayDashboardBridge bridge;
+                bridge.loadChoices(path);
+                bridge.setDashboardActive(true);
+                bridge.updateGatewaySamples({sampleOf(3, 10), sampleOf(250, 10)});
+                QCOMPARE(bridge.chosenNodes(), nodes);
+                QStringList selected;
+                for (const QVariant &type : bridge.typeStates()) {
+                    if (type.toMap().value(QStringLiteral("selected")).toBool())
+                        selected += type.toMap().value(QStringLiteral("type")).toString();
+                }
+                QCOMPARE(selected.join(u' '), types);
+                QCOMPARE(bridge.isLinked(), content.contains("true"));
+                bridge.saveChoices(path);
+            }
+        }
     }
 };
 

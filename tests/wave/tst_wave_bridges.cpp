@@ -205,6 +205,95 @@ private slots:
         }
     }
 
+    /// What the trigger sees in a row of samples, one each 10 ms.
+    void triggersOnEvents()
+    {
+        using Edge = WaveTrigger::Edge;
+        const double nan = qQNaN();
+        const std::tuple<const char *, Edge, QList<double>, QList<double>> rows[] = {
+            // Level 1, band from -1 to 1; samples; times of the events, in samples.
+            {"rises", Edge::Rising, {0, 0.5, 1, 2, 0, 0, 3}, {2, 6}},
+            {"above at first", Edge::Rising, {2, 2, 2}, {}},
+            {"falls", Edge::Falling, {0, 2, 1, 0, 2, -5}, {2, 5}},
+            {"either", Edge::Either, {0, 2, 2, 0}, {1, 3}},
+            {"touches from above", Edge::Rising, {2, 1, 2}, {}},
+            {"leaves the band", Edge::OutsideBand, {0, 1, 1.5, 5, -1, -1.5, -3}, {2, 5}},
+            {"outside at first", Edge::OutsideBand, {5, 5, 0}, {}},
+            {"no number crosses nothing", Edge::Rising, {0, nan, qInf(), 2}, {3}},
+        };
+        for (const auto &[name, edge, samples, expected] : rows) {
+            WaveTrigger trigger;
+            trigger.setEdge(edge);
+            trigger.setLevel(1);
+            trigger.setBandEnd(-1);
+            trigger.setPreShare(1); // nothing is awaited after the event
+            trigger.setOn(true);
+            QList<double> events;
+            for (qsizetype i = 0; i < samples.size(); ++i) {
+                if (trigger.feed(samples[i], 0.01 * double(i)) != WaveTrigger::Step::Caught)
+                    continue;
+                events += std::round(100 * trigger.eventSec());
+                trigger.feed(samples[i], 0.01 * double(i)); // the next edge starts here
+            }
+            QVERIFY2(events == expected, name);
+        }
+    }
+
+    /// What is shown while samples go on, in each mode.
+    void holdsWhatWasCaught()
+    {
+        using Mode = WaveTrigger::Mode;
+        for (const Mode mode : {Mode::Auto, Mode::Normal, Mode::Single}) {
+            WaveChartBridge chart(QStringLiteral("acc"));
+            QSignalSpy caught(chart.trigger(), &WaveTrigger::caught);
+            const auto run = [&chart](unsigned int fromMs, unsigned int toMs, float x) {
+                for (unsigned int ms = fromMs; ms < toMs; ms += 10) {
+                    const float values[] = {x, 0, 0, 0};
+                    chart.pushSample(values, 4, ms);
+                }
+            };
+            chart.trigger()->setLevel(0.5);
+            chart.trigger()->setSpan(1);
+            chart.trigger()->setPreShare(0.25);
+            chart.trigger()->setMode(mode);
+            chart.trigger()->setOn(true);
+            run(10, 3000, 0);
+            QVERIFY(!chart.holds());
+            run(3000, 3750, 1);
+            QVERIFY(!chart.holds()); // what follows the event is not complete
+            run(3750, 3760, 1);
+            QVERIFY(chart.holds());
+            QCOMPARE(chart.newestTimeSec(), 3.75);
+            QCOMPARE(chart.xHistoryMin(), -1.0);
+            QCOMPARE(chart.valuesAt(-0.76).at(0), 0.0);
+            QCOMPARE(chart.valuesAt(-0.75).at(0), 1.0);
+            QCOMPARE(chart.statistics(0, -60, 0).count, 101);
+
+            run(3760, 4500, 0);
+            run(4500, 5260, 1); // a second event
+            QCOMPARE(chart.newestTimeSec(), mode == Mode::Single ? 3.75 : 5.25);
+            run(5260, 9000, 1);
+            QCOMPARE(chart.holds(), mode != Mode::Auto); // nothing happened for long
+            chart.release();
+            QVERIFY(!chart.holds());
+            QCOMPARE(chart.newestTimeSec(), 8.99); // nothing was lost
+            QCOMPARE(chart.model().count(), 899);
+            run(9000, 9500, 0);
+            run(9500, 10300, 1);
+            QVERIFY(chart.holds());
+            QCOMPARE(caught.size(), mode == Mode::Single ? 2 : 3);
+
+            run(10300, 10400, 0); // an edge over a break is none
+            chart.release();
+            run(10400, 10500, 0);
+            chart.markBreak(StreamBreak::Gap);
+            run(12000, 14000, 1);
+            QVERIFY(!chart.holds());
+            chart.restart();
+            QVERIFY(!chart.holds() && !chart.hasData());
+        }
+    }
+
     void keepsMarksWithinTheHistory()
     {
         WaveChartBridge chart(QStringLiteral("acc"));
@@ -311,6 +400,36 @@ private slots:
             SensorDashboardBridge again;
             again.loadSelectionState(path);
             QCOMPARE(again.selectedSensorTypes(), expected);
+        }
+    }
+
+    void remembersWhatIsShown()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("param.ini"));
+        const QString acc = QStringLiteral("acc");
+        // What the file holds, and what is made of it.
+        const std::tuple<QByteArray, ViewChoices, bool> rows[] = {
+            {"", {}, false},
+            {"[SENSOR_DASHBOARD]\nACC_SPAN=30\nACC_HIDDEN=1, 3\nACC_FILTER_HZ=5\nLINKED=true\n", {30, {1, 3}, 5}, true},
+            {"[SENSOR_DASHBOARD]\nACC_SPAN=-1\nACC_HIDDEN=x, 9, 2\nACC_FILTER_HZ=nan\nLINKED=x\n", {10, {2}, 0}, true},
+            {"[SENSOR_DASHBOARD]\nACC_SPAN=1e99\nACC_HIDDEN=@Invalid()\nACC_FILTER_HZ=1e99\n", {}, false},
+        };
+        for (const auto &[content, expected, linked] : rows) {
+            QVERIFY(writeFile(path, content));
+            for (int run = 0; run < 2; ++run) { // the second reads what the first has written
+                SensorDashboardBridge dashboard;
+                dashboard.loadSelectionState(path);
+                QVERIFY(dashboard.bridge(acc)->choices() == expected);
+                QCOMPARE(dashboard.bridge(acc)->filterOn(), expected.filterHz > 0);
+                QCOMPARE(dashboard.isLinked(), linked);
+                dashboard.setDashboardActive(true);
+                dashboard.setDashboardActive(false); // drops the filter, not the choice
+                QVERIFY(!dashboard.bridge(acc)->filterOn());
+                dashboard.setDashboardActive(true);
+                QCOMPARE(dashboard.bridge(acc)->filterOn(), expected.filterHz > 0);
+                dashboard.saveSelectionState(path);
+            }
         }
     }
 

@@ -1,5 +1,6 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QXmlStreamReader>
 #include <QtTest>
 
 #include <cmath>
@@ -10,9 +11,9 @@
 #include "chart/chart_measures.h"
 #include "chart/chart_range.h"
 #include "chart/series_geometry.h"
+#include "chart/svg_picture.h"
 #include "chart/whole_file.h"
 #include "wave/chart_text.h"
-#include "wave/wave_csv.h"
 #include "wave/wave_view_state.h"
 
 using chart_range::Range;
@@ -405,15 +406,63 @@ private slots:
         QCOMPARE(strip.at(2).y, -1.0F);
     }
 
-    void exportsWhatIsVisible()
+    void exportsSamples()
     {
         Chart chart;
         push(chart.bridge, 1000, 30);
         const float broken[] = {float(kNaN), -0.125F, 1e-20F, float(kInf)};
         chart.bridge.pushSample(broken, 4, 4000);
-        QCOMPARE(wave_csv::table(chart.bridge, -0.2, 0),
-                 QByteArray("time (s),X (G),Y (G),Z (G),Norm (G)\n-0.200,3800,1,1,1\n-0.100,3900,1,1,1\n"
-                            "0.000,nan,-0.125,9.99999968e-21,inf\n"));
+        chart.view.setXRange(-0.2, 0);
+        // Times of day are those of the computer at the newest sample.
+        const auto utc = [&](int ms) {
+            return QDateTime::fromMSecsSinceEpoch(chart.bridge.utcMsAt(0) + ms, Qt::UTC)
+                .toString(Qt::ISODateWithMs)
+                .toLatin1();
+        };
+        const QByteArray table = "time (s),UTC,X (G),Y (G),Z (G),Norm (G)\n3.800," + utc(-200) + ",3800,1,1,1\n3.900,"
+                                 + utc(-100) + ",3900,1,1,1\n4.000," + utc(0) + ",nan,-0.125,9.99999968e-21,inf\n";
+        QCOMPARE(chart.view.table(false), table);
+        QCOMPARE(chart.view.table(true).count('\n'), 32);
+        QVERIFY(std::abs(QDateTime::currentMSecsSinceEpoch() - chart.bridge.utcMsAt(0)) < 60000);
+        const std::tuple<SampleOrigin, QByteArray, QString> rows[] = {
+            {{}, table, QStringLiteral("acc")},
+            {{QStringLiteral("HI14\n"), -1}, "# HI14\n" + table, QStringLiteral("acc_HI14")},
+            {{QStringLiteral("A/../B:*"), 3}, "# A/../B:* node 3\n" + table, QStringLiteral("acc_AB_node3")}};
+        for (const auto &[origin, content, stem] : rows) {
+            chart.bridge.setOrigin(origin);
+            QCOMPARE(chart.view.table(false), content);
+            QCOMPARE(chart.view.fileStem(), stem);
+        }
+    }
+
+    void drawsVectorPictures()
+    {
+        Chart chart;
+        push(chart.bridge, 1000, 30);
+        chart.bridge.markBreak(StreamBreak::Gap);
+        push(chart.bridge, 8000, 30);
+        chart.view.setSeriesVisible(3, false);
+        const QByteArray picture =
+            svg_picture::draw(chart.view, QStringLiteral("A <&> B"), QStringLiteral("s"), {640, 400});
+        QXmlStreamReader reader(picture);
+        int lines = 0;
+        QStringList texts;
+        while (!reader.atEnd()) {
+            if (reader.readNext() != QXmlStreamReader::StartElement)
+                continue;
+            lines += reader.name() == u"polyline";
+            if (reader.name() == u"text")
+                texts += reader.readElementText();
+        }
+        QVERIFY2(!reader.hasError(), qPrintable(reader.errorString()));
+        QCOMPARE(lines, 6); // three series, broken once
+        for (const char *text : {"A <&> B", "X", "Y", "Z", "−10 s", "0 s"})
+            QVERIFY2(texts.contains(QString::fromUtf8(text)), text);
+        QVERIFY(!texts.contains(QStringLiteral("Norm")));
+    }
+
+    void writesFilesWhole()
+    {
         const QTemporaryDir folder;
         const QString path = folder.filePath(QStringLiteral("a.csv"));
         QString reason;

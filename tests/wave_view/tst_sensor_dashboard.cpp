@@ -1,3 +1,4 @@
+#include <QClipboard>
 #include <QFileDialog>
 #include <QPointer>
 #include <QQuickItem>
@@ -159,6 +160,52 @@ private slots:
         QTRY_VERIFY(findItem(bench.chart, "breakMark") == nullptr);
     }
 
+    void marksByAKey()
+    {
+        Bench bench({QStringLiteral("acc"), QStringLiteral("gyr")});
+        QVERIFY(bench.isShown());
+        bench.push(1, 20000);
+        QTRY_VERIFY(bench.view->hasData());
+        bench.chart->forceActiveFocus();
+        QTest::keyClick(&bench.window, Qt::Key_M);
+        QTRY_VERIFY(bench.window.activeFocusItem() && bench.window.activeFocusItem()->objectName() == u"markerText");
+        for (const char letter : {'H', 'i'}) // into its text, which is selected
+            QTest::keyClick(&bench.window, letter);
+        QTest::keyClick(&bench.window, Qt::Key_Return);
+        const MarkerList &markers = *bench.window.bridge().markers();
+        QCOMPARE(markers.count(), 1);
+        QCOMPARE(markers.markers()[0].text, QStringLiteral("Hi"));
+        QCOMPARE(markers.markers()[0].timeSec, bench.view->clock());
+        QTRY_VERIFY(bench.chart->hasActiveFocus());
+        for (const char *chart : {"chart_acc", "chart_gyr"})
+            QTRY_VERIFY2(findItem(findItem(bench.window.rootObject(), chart), "marker") != nullptr || chart[6] == 'g',
+                         chart);
+        bench.push(20000, 45000);
+        QTRY_VERIFY(bench.view->markerPlaces().isEmpty()); // it has left the view
+        bench.click(findItem(bench.window.rootObject(), "showMarker"));
+        QTRY_COMPARE(bench.view->markerPlaces().size(), 1);
+        QVERIFY(!bench.view->isFollowing() && std::abs(bench.view->markerPlaces()[0] + 25) < 0.02);
+        bench.window.bridge().restartStream(StreamBreak::OtherNode);
+        QCOMPARE(markers.count(), 0);
+    }
+
+    void copiesWhatIsMeasured()
+    {
+        Bench bench;
+        QVERIFY(bench.isShown());
+        bench.push(1, 20000);
+        QTRY_VERIFY(bench.view->hasData());
+        bench.window.bridge().setPlaying(false);
+        bench.view->placeCursor(0, -3);
+        bench.view->placeCursor(1, -1);
+        QTRY_VERIFY(findItem(bench.chart, "copyMeasures")->isVisible());
+        bench.click(findItem(bench.chart, "copyMeasures"));
+        const QStringList lines = QGuiApplication::clipboard()->text().split(u'\n');
+        QCOMPARE(lines.size(), 7);
+        QCOMPARE(lines[3].left(12), QStringLiteral("Y\t0.5\t0.5\t0\t")); // A, B, difference
+        QCOMPARE(lines[3].section(u'\t', -1), QStringLiteral("201"));
+    }
+
     void followsTheMouse()
     {
         Bench bench;
@@ -220,6 +267,87 @@ private slots:
         QCOMPARE(
             QSettings(settings_keys::kFile, QSettings::IniFormat).value(QStringLiteral("SENSOR_DASHBOARD/SAVE_FOLDER")),
             folder.path());
+    }
+
+    void catchesEvents()
+    {
+        Bench bench;
+        QVERIFY(bench.isShown());
+        bench.push(1, 4000);
+        QTRY_VERIFY(bench.view->hasData());
+        bench.view->setSpan(2);
+        bench.click(findItem(bench.chart, "triggerButton"));
+        QTRY_VERIFY(findItem(bench.chart, "triggerSwitch") && findItem(bench.chart, "triggerSwitch")->isVisible());
+        bench.click(findItem(bench.chart, "triggerSwitch"));
+        WaveTrigger &trigger = *bench.view->bridge()->trigger();
+        QVERIFY(trigger.isOn());
+        QCOMPARE(trigger.span(), 2.0);
+        QQuickItem *handle = nullptr;
+        QTRY_VERIFY((handle = findItem(bench.chart, "triggerHandle")));
+        const double before = trigger.level();
+        const QPoint grip = handle->mapToScene(handle->boundingRect().center()).toPoint();
+        QTest::mousePress(&bench.window, Qt::LeftButton, {}, grip);
+        QTest::mouseMove(&bench.window, grip - QPoint(0, 20));
+        QTest::mouseRelease(&bench.window, Qt::LeftButton, {}, grip - QPoint(0, 20));
+        QVERIFY2(trigger.level() > before, "the level is dragged");
+        trigger.setLevel(0.9);
+        bench.view->setMarksCatches(true);
+        bench.push(6000, 12000); // sin(3 t) rises through it every 2.1 s
+        QTRY_VERIFY(bench.view->bridge()->holds() && findItem(bench.chart, "releaseButton")->isVisible());
+        QVERIFY(bench.window.bridge().markers()->count() > 0);
+        const double held = bench.view->clock();
+        bench.view->bridge()->trigger()->setMode(WaveTrigger::Mode::Single);
+        bench.push(12000, 12100);
+        QCOMPARE(bench.view->clock(), held);
+        QVERIFY(!bench.view->isStale());
+        bench.click(findItem(bench.chart, "releaseButton"));
+        QTRY_VERIFY(!bench.view->bridge()->holds());
+        QTRY_COMPARE(bench.view->clock(), 12.09);
+        QVERIFY(bench.view->isFollowing());
+    }
+
+    void savesAllCharts()
+    {
+        Bench bench({QStringLiteral("acc"), QStringLiteral("gyr"), QStringLiteral("mag")});
+        QVERIFY(bench.isShown());
+        bench.push(1, 20000);
+        const float values[] = {1, 2, 3, 4};
+        for (unsigned int ms = 10; ms <= 100; ms += 10)
+            bench.window.bridge().pushSample(QStringLiteral("gyr"), values, 4, ms);
+        QTRY_VERIFY(bench.view->hasData());
+        bench.window.bridge().setOrigin({QStringLiteral("HI14"), 7});
+        bench.click(findItem(bench.window.rootObject(), "saveButton"));
+        // What is chosen, what is clicked, the suffix.
+        const std::tuple<const char *, const char *, QString> rows[] = {
+            {"allSamples", "saveAllData", QStringLiteral("csv")},
+            {"scale_2", "saveAllPictures", QStringLiteral("png")},
+            {"svg", "saveAllPictures", QStringLiteral("svg")}};
+        for (const auto &[option, button, suffix] : rows) {
+            const QTemporaryDir folder;
+            QTRY_VERIFY(findItem(bench.window.rootObject(), option)->isVisible());
+            bench.click(findItem(bench.window.rootObject(), option));
+            bench.click(findItem(bench.window.rootObject(), button));
+            QFileDialog *dialog = nullptr;
+            QTRY_VERIFY((dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget())));
+            emit dialog->fileSelected(folder.path());
+            dialog->close();
+            QTRY_VERIFY2(!QApplication::activeModalWidget(), button);
+            QVERIFY2(!bench.window.saver()->hasFailed(), qPrintable(bench.window.saver()->message()));
+            const QFileInfoList files = QDir(folder.path()).entryInfoList({}, QDir::Files, QDir::Name);
+            QCOMPARE(files.size(), 2); // the third has no samples
+            QVERIFY2(files[0].fileName().startsWith(QLatin1String("acc_HI14_node7_"))
+                         && files[1].fileName().startsWith(QLatin1String("gyr_")),
+                     qPrintable(files[0].fileName()));
+            for (const QFileInfo &file : files)
+                QCOMPARE(file.suffix(), suffix);
+            if (suffix == u"png")
+                QCOMPARE(QImage(files[0].filePath()).size(), (bench.chart->size() * 2).toSize());
+            if (suffix != u"csv")
+                continue;
+            QFile csv(files[0].filePath());
+            QVERIFY(csv.open(QIODevice::ReadOnly));
+            QCOMPARE(csv.readAll().count('\n'), 2002); // all of them, and two lines over them
+        }
     }
 
     void tellsWhyAFilterIsRefused()

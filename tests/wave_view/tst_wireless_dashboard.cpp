@@ -96,8 +96,7 @@ private slots:
         click(node(6));
         click(node(7));
         click(node(8));
-        QVERIFY(isChosen(7) && !isChosen(8));
-        QVERIFY(item(QStringLiteral("foot"))->property("text").toString().contains(QLatin1String("drop one")));
+        QVERIFY(isChosen(7) && isChosen(8));
         click(node(5));
         QTRY_VERIFY(!item(QStringLiteral("chart_6"))); // the second place
         QCOMPARE(item(QStringLiteral("chart_0")), first);
