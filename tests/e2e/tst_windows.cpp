@@ -9,13 +9,14 @@
 #include "app/palette.h"
 #include "attitude/form_threed.h"
 #include "chart/chart_saver.h"
-#include "chart/plot_view_state.h"
+#include "chart/series_item.h"
 #include "e2e/views.h"
 #include "fft/form_fftchart.h"
 #include "fft/spectrum_view_state.h"
 #include "link/stream_dispatcher.h"
 #include "record/recorder.h"
 #include "support/hex_file.h"
+#include "support/quick_items.h"
 #include "updater/form_updater.h"
 #include "wave/form_sensor_dashboard.h"
 #include "wave/form_wireless_dashboard.h"
@@ -110,8 +111,9 @@ private slots:
                 spectrum.styleSheet(),
                 dark ? QStringLiteral("background-color:%1; color:%2;").arg(colors.surface.name(), colors.text.name())
                      : QStringLiteral("background-color:white; color:black;"));
-            const auto *chart = dashboard->findChild<PlotViewState *>();
-            QCOMPARE(chart->seriesColors().first().value<QColor>(), colors.axisX);
+            const auto *series = qobject_cast<SeriesItem *>(findItem(dashboard->rootObject(), "series"));
+            QVERIFY(series != nullptr);
+            QCOMPARE(series->viewState()->seriesColors().first().value<QColor>(), colors.axisX);
             QVERIFY(desk.find<QAction>(dark ? "action_appearance_dark" : "action_appearance_light")->isChecked());
         }
     }
