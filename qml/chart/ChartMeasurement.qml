@@ -24,7 +24,7 @@ Flow {
             text: modelData
             textFormat: Text.PlainText
             font: Theme.fixedSmallFont
-            color: Theme.accentDark
+            color: Theme.accentText
         }
     }
 }

@@ -155,7 +155,7 @@ Item {
                 x: Math.round(plot.toX(plot.viewState.markerPlaces[index] ?? NaN))
                 width: 1
                 height: plotArea.height
-                color: Theme.accentDark
+                color: Theme.accentText
 
                 Text {
                     x: 3
@@ -166,7 +166,7 @@ Item {
                     text: plot.viewState.markerTexts[marker.index] ?? ""
                     textFormat: Text.PlainText
                     font: Theme.smallFont
-                    color: Theme.accentDark
+                    color: Theme.accentText
                 }
             }
         }

@@ -6,7 +6,7 @@ Rectangle {
     id: mark
 
     property alias text: label.text
-    property color ink: Theme.accentDark
+    property color ink: Theme.accentText
     property real progress: 0
 
     width: label.implicitWidth + 16

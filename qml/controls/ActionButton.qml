@@ -12,7 +12,7 @@ T.Button {
     property string iconName
     property string hint
     property string keys
-    readonly property color ink: !enabled ? Theme.textDisabled : primary ? Theme.surface : checked ? Theme.accentDark : Theme.textSecondary
+    readonly property color ink: !enabled ? (primary ? Theme.onAccentFaint : Theme.textDisabled) : primary ? Theme.onAccent : checked ? Theme.accentText : Theme.textSecondary
 
     implicitWidth: Math.max(implicitHeight, contentItem.implicitWidth + leftPadding + rightPadding)
     implicitHeight: Math.round(Theme.font.pointSize * 2.4 + (bare ? 2 : 8))
@@ -52,9 +52,9 @@ T.Button {
         radius: 6
         color: {
             if (control.primary)
-                return !control.enabled ? "#BFDBFE" : control.down || control.hovered ? Theme.accentDark : Theme.accent;
+                return !control.enabled ? Theme.accentFaint : control.down || control.hovered ? Theme.accentPressed : Theme.accent;
             if (control.down)
-                return Theme.line;
+                return Theme.pressed;
             if (control.checked)
                 return Theme.accentSoft;
             return control.hovered ? Theme.background : control.bare ? "transparent" : Theme.surface;

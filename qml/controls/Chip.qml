@@ -25,7 +25,7 @@ T.Button {
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         font: Theme.font
-        color: !control.enabled ? Theme.textDisabled : control.checked ? Theme.accentDark : Theme.textSecondary
+        color: !control.enabled ? Theme.textDisabled : control.checked ? Theme.accentText : Theme.textSecondary
     }
     background: Rectangle {
         radius: height / 2

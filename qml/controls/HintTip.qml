@@ -21,10 +21,10 @@ T.ToolTip {
         textFormat: Text.PlainText
         wrapMode: Text.Wrap
         font: Theme.smallFont
-        color: Theme.surface
+        color: Theme.toolTipText
     }
     background: Rectangle {
         radius: 4
-        color: Theme.text
+        color: Theme.toolTip
     }
 }

@@ -22,7 +22,7 @@ T.Switch {
         width: 30
         height: 16
         radius: 8
-        color: control.checked ? Theme.accent : Theme.textDisabled
+        color: control.checked ? Theme.accent : Theme.borderStrong
         border.width: control.visualFocus ? 2 : 0
         border.color: Theme.text
 

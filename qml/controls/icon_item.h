@@ -31,5 +31,5 @@ signals:
 
 private:
     QString m_name;
-    QColor m_color = Qt::black;
+    QColor m_color; ///< set by every user
 };

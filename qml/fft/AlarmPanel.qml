@@ -10,14 +10,14 @@ PanelSection {
 
     required property FftChartBridge bridge
     readonly property int severity: bridge.alarmSeverityLevel
-    readonly property color ink: ["#15803D", Theme.warning, "#B91C1C"][severity]
+    readonly property color ink: [Theme.good, Theme.warning, Theme.bad][severity]
 
     title: qsTr("Alarm")
     aside: Rectangle {
         width: statusText.implicitWidth + 20
         height: statusText.implicitHeight + 6
         radius: height / 2
-        color: ["#F0FDF4", "#FFFBEB", "#FEF2F2"][panel.severity]
+        color: [Theme.goodSoft, Theme.warningSoft, Theme.badSoft][panel.severity]
         border.width: 1
         border.color: panel.ink
 
@@ -94,7 +94,7 @@ PanelSection {
         text: panel.bridge.alarmRecommendedAction
         textFormat: Text.PlainText
         font: Theme.font
-        color: Theme.accentDark
+        color: Theme.accentText
     }
     Text {
         width: parent.width
@@ -123,7 +123,7 @@ PanelSection {
                     width: 8
                     height: 8
                     radius: 4
-                    color: event.modelData.active ? "#B91C1C" : "#15803D"
+                    color: event.modelData.active ? Theme.bad : Theme.good
                 }
                 Text {
                     text: event.modelData.time

@@ -29,7 +29,7 @@ Item {
             x: from
             width: Math.max(0, to - from)
             height: levels.height
-            color: index % 2 === 0 ? "#F9FAFB" : Theme.surface
+            color: index % 2 === 0 ? Theme.surfaceAlt : Theme.surface
 
             Text {
                 anchors.right: parent.right
@@ -53,7 +53,7 @@ Item {
             },
             {
                 level: levels.viewState.alarmLevel,
-                color: "#B91C1C"
+                color: String(Theme.bad)
             }
         ]
 

@@ -54,7 +54,7 @@ Item {
                 anchors.fill: markText
                 visible: markText.visible
                 anchors.margins: -2
-                color: "#E6FFFFFF"
+                color: Qt.alpha(Theme.surface, 0.9)
             }
             Text {
                 id: markText
@@ -66,7 +66,7 @@ Item {
                 text: mark.modelData.label
                 textFormat: Text.PlainText
                 font: Theme.fixedSmallFont
-                color: Theme.accentDark
+                color: Theme.accentText
             }
         }
     }

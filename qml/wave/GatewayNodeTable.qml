@@ -173,7 +173,7 @@ FocusScope {
             }
 
             background: Rectangle {
-                color: row.nodeState === 2 ? "#FDECEC" : row.nodeState === 1 ? "#FFF4DE" : row.chosen ? Theme.accentSoft : row.hovered ? Theme.background : Theme.surface
+                color: row.nodeState === 2 ? Theme.badSoft : row.nodeState === 1 ? Theme.warningSoft : row.chosen ? Theme.accentSoft : row.hovered ? Theme.background : Theme.surface
                 border.width: row.ListView.isCurrentItem && list.activeFocus ? 2 : 0
                 border.color: Theme.accent
 

@@ -9,7 +9,7 @@ Row {
     /// 0 live, 1 late, 2 gone, 3 ended.
     required property int nodeState
     required property string text
-    readonly property color ink: ["#0D8B4D", "#B45309", "#B91C1C"][nodeState] ?? Theme.textSecondary
+    readonly property color ink: [Theme.good, Theme.warning, Theme.bad][nodeState] ?? Theme.textSecondary
 
     spacing: 8
 

@@ -121,6 +121,15 @@ QTreeView::item:selected, QListView::item:selected, QTableView::item:selected { 
 QHeaderView::section {
     background: @surface; color: @textSecondary; border: none; border-bottom: 1px solid @line; padding: 5px 8px; }
 
+QCheckBox { spacing: 8px; }
+QCheckBox::indicator { width: 14px; height: 14px; border: 1px solid @borderStrong; border-radius: 3px;
+    background: @surface; }
+QCheckBox::indicator:hover, QCheckBox::indicator:focus { border-color: @accent; }
+QCheckBox::indicator:checked { background: @accent; border-color: @accent; image: url(:/images/@check.png); }
+QCheckBox::indicator:disabled { border-color: @border; background: @surfaceAlt; }
+QCheckBox::indicator:checked:disabled { background: @accentFaint; border-color: @accentFaint; }
+QCheckBox:disabled { color: @textDisabled; }
+
 QFrame[card="true"] { background: @surface; border: 1px solid @line; border-radius: 8px; }
 QLabel[role="title"] { color: @textSecondary; font-weight: 600; }
 QLabel[role="headline"] { font-weight: 600; font-size: 16pt; }
@@ -143,6 +152,7 @@ QTabBar::tab { padding: 6px 16px; border: 1px solid transparent; color: @textSec
 QTabBar::tab:selected { color: @accentText; border-bottom: 2px solid @accent; }
 )");
     const Palette &c = colors();
+    sheet.replace(QStringLiteral("@check"), c.isDark ? QStringLiteral("check-dark") : QStringLiteral("check"));
     sheet.replace(QStringLiteral("@chevron"), c.isDark ? QStringLiteral("chevron-dark") : QStringLiteral("chevron"));
     // The longer names first: "@accent" begins others.
     const std::pair<const char *, QColor> roles[] = {{"@accentPressed", c.accentPressed},

@@ -53,7 +53,6 @@ class UiTheme : public QObject
     Q_PROPERTY(QColor sceneGrid READ sceneGrid NOTIFY colorsChanged)
     Q_PROPERTY(QColor sceneNorth READ sceneNorth NOTIFY colorsChanged)
     Q_PROPERTY(QColor sceneBody READ sceneBody NOTIFY colorsChanged)
-    Q_PROPERTY(QColor accentDark READ accentText NOTIFY colorsChanged)
     Q_PROPERTY(int grid READ grid CONSTANT)
     Q_PROPERTY(QFont font READ font NOTIFY fontsChanged)
     Q_PROPERTY(QFont smallFont READ smallFont NOTIFY fontsChanged)

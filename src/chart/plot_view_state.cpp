@@ -5,6 +5,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "app/appearance.h"
+#include "app/palette.h"
+#include "app/theme.h"
 #include "chart/chart_source.h"
 
 namespace {
@@ -21,7 +24,13 @@ constexpr double kSmallestBox = 0.01; ///< of the plot
 
 PlotViewState::PlotViewState(MainAxis mainAxis, chart_range::Range x, chart_range::Range y, QObject *parent)
     : QObject(parent), m_x(x), m_y(y), m_mainAxis(mainAxis)
-{}
+{
+    connect(this, &PlotViewState::seriesChanged, this, &PlotViewState::colorsChanged);
+    connect(&Appearance::instance(), &Appearance::changed, this, [this] {
+        emit colorsChanged();
+        emit pictureChanged();
+    });
+}
 
 PlotViewState::~PlotViewState()
 {
@@ -107,7 +116,7 @@ QVariantList PlotViewState::seriesColors() const
 {
     QVariantList colors;
     for (int series = 0; source() && series < source()->seriesCount(); ++series)
-        colors += QColor::fromRgb(source()->seriesRgb(series));
+        colors += theme::colors().drawn(QColor::fromRgb(source()->seriesRgb(series)));
     return colors;
 }
 

@@ -31,7 +31,7 @@ class PlotViewState : public QObject
     Q_PROPERTY(QList<double> markerPlaces READ markerPlaces NOTIFY markersChanged)
     Q_PROPERTY(QStringList markerTexts READ markerTexts NOTIFY markersChanged)
     Q_PROPERTY(QStringList seriesNames READ seriesNames NOTIFY seriesChanged)
-    Q_PROPERTY(QVariantList seriesColors READ seriesColors NOTIFY seriesChanged)
+    Q_PROPERTY(QVariantList seriesColors READ seriesColors NOTIFY colorsChanged)
     Q_PROPERTY(QList<bool> visibleSeries READ visibleSeries NOTIFY seriesChanged)
     Q_PROPERTY(double xViewMin READ xViewMin NOTIFY viewChanged)
     Q_PROPERTY(double xViewMax READ xViewMax NOTIFY viewChanged)
@@ -71,7 +71,7 @@ public:
     /// What is drawn; null while there is none.
     virtual const ChartSource *source() const = 0;
     QStringList seriesNames() const;
-    /// QColors.
+    /// QColors, as they are drawn now; they follow source and appearance.
     QVariantList seriesColors() const;
     /// One flag per series.
     virtual QList<bool> visibleSeries() const = 0;
@@ -154,6 +154,7 @@ signals:
     void linkChanged();
     void markersChanged();
     void seriesChanged();
+    void colorsChanged();
     void viewChanged();
     void cursorsChanged();
     void hoverChanged();

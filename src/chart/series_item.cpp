@@ -4,6 +4,8 @@
 #include <cmath>
 #include <limits>
 
+#include "app/palette.h"
+#include "app/theme.h"
 #include "chart/chart_source.h"
 
 void SeriesItem::setViewState(PlotViewState *viewState)
@@ -33,7 +35,7 @@ bool SeriesItem::collect(Content &content, int maxPoints)
     double high = -low;
     for (size_t layer = 0; layer < count; ++layer) {
         const int series = source->seriesAtLayer(int(layer));
-        content.colors[layer] = QColor::fromRgb(source->seriesRgb(series));
+        content.colors[layer] = theme::colors().drawn(QColor::fromRgb(source->seriesRgb(series)));
         QList<QPointF> &points = content.points[layer];
         points.clear();
         if (!visible.value(series))

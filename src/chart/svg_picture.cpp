@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "app/palette.h"
 #include "app/theme.h"
 #include "app/value_format.h"
 #include "chart/axis_ticks.h"
@@ -122,6 +123,7 @@ private:
 
 QByteArray svg_picture::draw(const PlotViewState &view, const QString &title, const QString &xUnit, QSizeF size)
 {
+    const Palette &colors = theme::colors();
     size = size.expandedTo(kLeast);
     const QRectF area(kLeft, kTop, size.width() - kLeft - kRight, size.height() - kTop - kBottom);
     const series_geometry::Plot plot{{view.xViewMin(), view.xViewMax()},
@@ -132,29 +134,30 @@ QByteArray svg_picture::draw(const PlotViewState &view, const QString &title, co
     QByteArray out;
     {
         Drawing drawing(out, size);
-        drawing.rectangle(QRectF(QPointF(), size), theme::kSurface);
-        drawing.text({kLeft, 16}, title, theme::kText);
+        drawing.rectangle(QRectF(QPointF(), size), colors.surface);
+        drawing.text({kLeft, 16}, title, colors.text);
         const double xStep = axis_ticks::step(plot.x.span(), int(area.width() / kTickX));
         for (const double tick : axis_ticks::values(plot.x.min, plot.x.max, xStep)) {
             const double x = area.left() + (tick - plot.x.min) / plot.x.span() * area.width();
-            drawing.line({x, area.top()}, {x, area.bottom()}, theme::kLine);
+            drawing.line({x, area.top()}, {x, area.bottom()}, colors.line);
             drawing.text({x, area.bottom() + 16},
-                         value_format::number(tick, axis_ticks::decimals(xStep)) + u' ' + xUnit, theme::kTextSecondary,
+                         value_format::number(tick, axis_ticks::decimals(xStep)) + u' ' + xUnit, colors.textSecondary,
                          "middle");
         }
         const double yStep = axis_ticks::step(plot.y.span(), int(area.height() / kTickY));
         for (const double tick : axis_ticks::values(plot.y.min, plot.y.max, yStep)) {
             const double y = area.bottom() - (tick - plot.y.min) / plot.y.span() * area.height();
-            drawing.line({area.left(), y}, {area.right(), y}, theme::kLine);
+            drawing.line({area.left(), y}, {area.right(), y}, colors.line);
             drawing.text({area.left() - 6, y + 4}, value_format::number(tick, axis_ticks::decimals(yStep)),
-                         theme::kTextSecondary, "end");
+                         colors.textSecondary, "end");
         }
         const ChartSource *source = view.source();
         double legend = kLeft;
         for (int series = 0; source && series < source->seriesCount(); ++series) {
             if (!view.isSeriesVisible(series))
                 continue;
-            drawing.text({legend, 34}, source->seriesName(series), QColor::fromRgb(source->seriesRgb(series)));
+            drawing.text({legend, 34}, source->seriesName(series),
+                         colors.drawn(QColor::fromRgb(source->seriesRgb(series))));
             legend += kLegendStep;
         }
         constexpr double kBleed = ChartLines::kBleed;
@@ -173,7 +176,8 @@ QByteArray svg_picture::draw(const PlotViewState &view, const QString &title, co
             const auto end = pixels.cend();
             for (auto first = std::find_if_not(pixels.cbegin(), end, isBreak); first != end;) {
                 const auto last = std::find_if(first, end, isBreak);
-                drawing.polyline(&*first, &*first + (last - first), QColor::fromRgb(source->seriesRgb(series)));
+                drawing.polyline(&*first, &*first + (last - first),
+                                 colors.drawn(QColor::fromRgb(source->seriesRgb(series))));
                 first = std::find_if_not(last, end, isBreak);
             }
         }

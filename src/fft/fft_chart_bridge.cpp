@@ -8,7 +8,7 @@
 #include <span>
 
 #include "app/app_language_manager.h"
-#include "app/theme.h"
+#include "app/palette.h"
 #include "fft/band_power.h"
 #include "fft/fft_window.h"
 #include "fft/spectrum_points.h"
@@ -209,8 +209,8 @@ QString FftChartBridge::seriesName(int series) const
 
 quint32 FftChartBridge::seriesRgb(int series) const
 {
-    constexpr std::array kColors{theme::kAxisX, theme::kAxisY, theme::kAxisZ, theme::kNorm};
-    return kColors.at(size_t(series)).rgb() & 0xFFFFFF;
+    const std::array natural{palette::kLight.axisX, palette::kLight.axisY, palette::kLight.axisZ, palette::kLight.norm};
+    return natural.at(size_t(series)).rgb() & 0xFFFFFF;
 }
 
 void FftChartBridge::seriesPoints(int series, double xMin, double xMax, int maxPoints, QList<QPointF> &out) const

@@ -9,9 +9,12 @@
 #include <chrono>
 #include <utility>
 
+#include "app/appearance.h"
 #include "app/content_area.h"
+#include "app/palette.h"
 #include "app/quick_window.h"
 #include "app/settings_keys.h"
+#include "app/theme.h"
 #include "app/window_host.h"
 #include "fft/fft_files.h"
 #include "fft/fft_trans.h"
@@ -30,7 +33,8 @@ constexpr QSize kDefaultSize{1280, 690};
 form_fftchart::form_fftchart(QWidget *parent) : QWidget(parent, Qt::Window), m_controls(new SpectrumControls(this))
 {
     setObjectName(QStringLiteral("form_fftchart"));
-    setStyleSheet(QStringLiteral("background-color:white; color:black;"));
+    applyLook();
+    connect(&Appearance::instance(), &Appearance::changed, this, &form_fftchart::applyLook);
     configureControls();
     m_timer.setInterval(kTickInterval);
     connect(&m_timer, &QTimer::timeout, this, &form_fftchart::onTimer50ms);
@@ -44,6 +48,14 @@ form_fftchart::~form_fftchart()
 {
     releaseResources();
     endView(); // before the bridge that it is bound to
+}
+
+void form_fftchart::applyLook()
+{
+    const Palette &colors = theme::colors();
+    setStyleSheet(colors.isDark
+                      ? QStringLiteral("background-color:%1; color:%2;").arg(colors.surface.name(), colors.text.name())
+                      : QStringLiteral("background-color:white; color:black;"));
 }
 
 void form_fftchart::configureControls()

@@ -69,6 +69,7 @@ private slots:
     void onTimer50ms();
 
 private:
+    void applyLook();
     void configureControls();
     void retranslateDynamicUi();
     void initChartParam();

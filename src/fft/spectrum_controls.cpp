@@ -11,6 +11,8 @@
 
 #include <algorithm>
 
+#include "app/appearance.h"
+#include "app/palette.h"
 #include "app/theme.h"
 #include "fft/ceiling_field.h"
 #include "fft/fft_window.h"
@@ -79,10 +81,8 @@ void SpectrumControls::configureControls()
     m_start->setObjectName(QStringLiteral("BTN_start"));
     m_ignoreSteady->setObjectName(QStringLiteral("CK_ignore_steady"));
     m_status->setObjectName(QStringLiteral("label_status"));
-    // The window's own colours would take the accent from the button.
-    m_start->setStyleSheet(QStringLiteral("QPushButton { background-color:%1; border-color:%1; color:%2; }"
-                                          "QPushButton:focus { border-color:%3; }")
-                               .arg(theme::kAccent.name(), theme::kSurface.name(), theme::kText.name()));
+    applyLook();
+    connect(&Appearance::instance(), &Appearance::changed, this, &SpectrumControls::applyLook);
 
     for (int log2 = kMinPointsLog2; log2 <= kMaxPointsLog2; ++log2)
         m_points->addItem(QString::number(1 << log2));
@@ -114,6 +114,15 @@ void SpectrumControls::configureControls()
         emit yAxisMaxChosen(value);
     });
     connect(m_ignoreSteady, &QCheckBox::toggled, this, &SpectrumControls::ignoreSteadyValueChosen);
+}
+
+/// The window's own colours would take the accent from the button.
+void SpectrumControls::applyLook()
+{
+    const Palette &colors = theme::colors();
+    m_start->setStyleSheet(QStringLiteral("QPushButton { background-color:%1; border-color:%1; color:%2; }"
+                                          "QPushButton:focus { border-color:%3; }")
+                               .arg(colors.accent.name(), colors.onAccent.name(), colors.text.name()));
 }
 
 void SpectrumControls::layOut()

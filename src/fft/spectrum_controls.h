@@ -55,6 +55,7 @@ protected:
 
 private:
     void configureControls();
+    void applyLook();
     void layOut();
     void placeTail();
     void updateYAxisControl();

@@ -39,6 +39,7 @@ namespace {
 
 constexpr int kUiTickMs = 20;
 constexpr int kLeftWidthPerPoint = 29;
+constexpr int kNumbersWidthPerPoint = 24; ///< that a card can be read in
 
 } // namespace
 
@@ -325,6 +326,7 @@ void form_base::applyFontSize(int points)
     AppLanguageManager::instance().applyCurrentFont(points);
     m_statusLine->setFontSize(points);
     m_ui->scroll_left->setFixedWidth(points * kLeftWidthPerPoint);
+    m_ui->sensorDataScrollArea->setMinimumWidth(points * kNumbersWidthPerPoint);
     m_ui->actionFontSmall->setChecked(points == font_size::kSmall);
     m_ui->actionFontMedium->setChecked(points == font_size::kMedium);
     m_ui->actionFontBig->setChecked(points == font_size::kBig);

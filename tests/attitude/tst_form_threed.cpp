@@ -12,6 +12,7 @@
 
 #include "app/quick_window.h"
 #include "app/settings_keys.h"
+#include "app/value_format.h"
 #include "attitude/form_threed.h"
 #include "attitude/qt6_model_asset.h"
 #include "support/files.h"
@@ -212,7 +213,7 @@ private slots:
     void homeIsCapturedComparedAndCleared()
     {
         Window window;
-        const QString dash = QStringLiteral("—");
+        const QString dash = value_format::absent();
         QVERIFY(window.text("LBL_home").startsWith(QLatin1String("Capture the current live pose as Home")));
         window.show(pitched(10));
         window.click("BTNSetHome");

@@ -6,14 +6,17 @@
 #include <QToolButton>
 
 #include "app/app_language_manager.h"
+#include "app/palette.h"
 #include "attitude/form_threed.h"
 #include "chart/chart_saver.h"
+#include "chart/series_item.h"
 #include "e2e/views.h"
 #include "fft/form_fftchart.h"
 #include "fft/spectrum_view_state.h"
 #include "link/stream_dispatcher.h"
 #include "record/recorder.h"
 #include "support/hex_file.h"
+#include "support/quick_items.h"
 #include "updater/form_updater.h"
 #include "wave/form_sensor_dashboard.h"
 #include "wave/form_wireless_dashboard.h"
@@ -85,6 +88,34 @@ private slots:
         for (qsizetype i = 1; i < lines.size() - 1; ++i)
             QCOMPARE(lines.at(i).count(','), 19);
         QVERIFY(!recorder->hasTrouble());
+    }
+
+    /// Open windows change at once, and so do those that are opened afterwards.
+    void windowsFollowTheAppearance()
+    {
+        SimulatorProcess simulator(words("--rate 100"));
+        Desk desk;
+        QVERIFY(connectTo(desk, simulator));
+        desk.find<QAction>("action_sensor_dashboard")->trigger();
+        auto *dashboard = openWindow<form_sensor_dashboard>();
+        QVERIFY(QTest::qWaitForWindowExposed(dashboard));
+        form_fftchart spectrum;
+        spectrum.show();
+        for (const bool dark : {true, false, true, false}) {
+            desk.find<QAction>(dark ? "action_appearance_dark" : "action_appearance_light")->trigger();
+            const Palette &colors = dark ? palette::kDark : palette::kLight;
+            QTRY_COMPARE(dashboard->grabWindow().pixelColor(3, dashboard->height() - 3), colors.background);
+            QTRY_COMPARE(dashboard->grabWindow().pixelColor(3, 3), colors.surface);
+            QTRY_COMPARE(desk.window->grab().toImage().pixelColor(desk.window->width() / 2, 3), colors.surface);
+            QCOMPARE(
+                spectrum.styleSheet(),
+                dark ? QStringLiteral("background-color:%1; color:%2;").arg(colors.surface.name(), colors.text.name())
+                     : QStringLiteral("background-color:white; color:black;"));
+            const auto *series = qobject_cast<SeriesItem *>(findItem(dashboard->rootObject(), "series"));
+            QVERIFY(series != nullptr);
+            QCOMPARE(series->viewState()->seriesColors().first().value<QColor>(), colors.axisX);
+            QVERIFY(desk.find<QAction>(dark ? "action_appearance_dark" : "action_appearance_light")->isChecked());
+        }
     }
 
     void gatewayDashboardShowsWhoIsGone()
