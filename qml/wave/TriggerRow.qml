@@ -143,6 +143,13 @@ Flow {
         checked: row.viewState.marksCatches
         onToggled: row.viewState.marksCatches = checked
     }
+    SwitchBox {
+        objectName: "recordCatches"
+        text: qsTr("Record")
+        hint: qsTr("Start a recording with the event, with the last folder and name")
+        checked: row.trigger.records
+        onToggled: row.trigger.records = checked
+    }
     Text {
         objectName: "triggerState"
         topPadding: 4

@@ -1,11 +1,15 @@
 #include "ui/view_windows.h"
 
+#include <QDateTime>
+
 #include "app/window_host.h"
 #include "attitude/attitude_convention.h"
 #include "attitude/form_threed.h"
+#include "chart/marker_list.h"
 #include "device/product_profile.h"
 #include "fft/form_fftchart.h"
 #include "link/stream_dispatcher.h"
+#include "record/recorder.h"
 #include "session/device_session.h"
 #include "session/link_monitor.h"
 #include "wave/form_sensor_dashboard.h"
@@ -32,6 +36,9 @@ ViewWindows::ViewWindows(DeviceSession *session, QObject *parent) : QObject(pare
     connect(session, &DeviceSession::stateChanged, this, &ViewWindows::onState);
     connect(session, &DeviceSession::presetChanged, this, &ViewWindows::showMounting);
     connect(session, &DeviceSession::deviceChanged, this, &ViewWindows::showMounting);
+    connect(session, &DeviceSession::deviceChanged, this, &ViewWindows::showOrigin);
+    connect(&session->recorder(), &Recorder::markerAdded, this,
+            [this](unsigned int, const QString &text, double timeS) { addMarker(text, timeS); });
     connect(&session->dispatcher(), &StreamDispatcher::streamSnapshotChanged, this, &ViewWindows::onSnapshot);
 }
 
@@ -43,6 +50,12 @@ void ViewWindows::openSensorDashboard()
         m_sensorDashboard = std::make_unique<form_sensor_dashboard>();
         if (m_frameRate > 0)
             m_sensorDashboard->bridge().setFrameRate(m_frameRate);
+        followMarkers(m_sensorDashboard->bridge().markers());
+        connect(&m_sensorDashboard->bridge(), &SensorDashboardBridge::recordingWanted, &m_session->recorder(), [this] {
+            if (m_session->allows(SessionAction::StartRecording) && !m_session->recorder().isRecording())
+                m_session->recorder().startAgain();
+        });
+        showOrigin();
     }
     WindowHost::bringUp(m_sensorDashboard.get());
 }
@@ -53,6 +66,8 @@ void ViewWindows::openGatewayDashboard()
         m_wirelessDashboard = std::make_unique<form_wireless_dashboard>();
         if (m_frameRate > 0)
             m_wirelessDashboard->setFrameRate(m_frameRate);
+        followMarkers(m_wirelessDashboard->bridge().markers());
+        showOrigin();
     }
     WindowHost::bringUp(m_wirelessDashboard.get());
 }
@@ -94,8 +109,48 @@ void ViewWindows::showMounting()
         m_threed->setMounting(product_profile::toString(m_session->profile().key), m_session->preset());
 }
 
+/// Whose samples the charts show, for their files.
+void ViewWindows::showOrigin()
+{
+    const QString device = m_session->device().valid ? product_profile::toString(m_session->profile().key) : QString();
+    if (m_sensorDashboard)
+        m_sensorDashboard->bridge().setOrigin({device, m_session->followedNode().value_or(-1)});
+    if (m_wirelessDashboard)
+        m_wirelessDashboard->bridge().setDevice(device);
+}
+
+/// Markers of charts go into the recording that runs. One that gets another text is written once more.
+void ViewWindows::followMarkers(MarkerList *markers)
+{
+    const auto record = [this](const ChartMarker &marker) {
+        if (m_isRelaying)
+            return;
+        m_isRelaying = true;
+        m_session->recorder().addMarker(marker.text, marker.timeSec);
+        m_isRelaying = false;
+    };
+    connect(markers, &MarkerList::markerAdded, this, record);
+    connect(markers, &MarkerList::markerChanged, this, record);
+}
+
+/// A marker that was set elsewhere goes into the charts.
+void ViewWindows::addMarker(const QString &text, double timeS)
+{
+    if (m_isRelaying)
+        return;
+    m_isRelaying = true;
+    const ChartMarker marker{timeS, QDateTime::currentMSecsSinceEpoch(), text};
+    if (m_sensorDashboard)
+        m_sensorDashboard->bridge().markers()->add(marker);
+    if (m_wirelessDashboard)
+        m_wirelessDashboard->bridge().markers()->add(marker);
+    m_isRelaying = false;
+}
+
 void ViewWindows::onRestart(const StreamRestart &restart)
 {
+    if (restart.kind != StreamBreak::ClockRestarted)
+        showOrigin(); // another node may be followed
     if (m_spectrum)
         m_spectrum->restartStream();
     if (m_sensorDashboard)

@@ -7,6 +7,7 @@
 #include "session/stream_event.h"
 
 class DeviceSession;
+class MarkerList;
 class form_fftchart;
 class form_sensor_dashboard;
 class form_threed;
@@ -43,6 +44,9 @@ private:
     void onSnapshot(const StreamSnapshot &snapshot);
     void onState();
     void showMounting();
+    void showOrigin();
+    void followMarkers(MarkerList *markers);
+    void addMarker(const QString &text, double timeS);
     QList<GatewaySample> gatewaySamples(const QList<StreamSample> &samples) const;
 
     DeviceSession *m_session;
@@ -50,5 +54,6 @@ private:
     std::unique_ptr<form_fftchart> m_spectrum;
     std::unique_ptr<form_sensor_dashboard> m_sensorDashboard;
     std::unique_ptr<form_wireless_dashboard> m_wirelessDashboard;
+    bool m_isRelaying = false;    ///< a marker, which is not to come back
     unsigned int m_frameRate = 0; ///< last known one, 0: none yet
 };

@@ -54,8 +54,10 @@ SensorDashboardBridge::SensorDashboardBridge(QObject *parent) : QObject(parent)
     for (const SensorType &type : ::sensorTypes()) {
         m_sensorTypes += type.key;
         auto *chart = new WaveChartBridge(type.key, this);
-        connect(chart->trigger(), &WaveTrigger::caught, this,
-                [this, key = QString(type.key)](double eventSec) { emit caught(key, eventSec); });
+        connect(chart->trigger(), &WaveTrigger::caught, this, [this, chart] {
+            if (chart->trigger()->records())
+                emit recordingWanted();
+        });
         m_bridges.insert(type.key, chart);
         m_selected.insert(type.key, true);
     }

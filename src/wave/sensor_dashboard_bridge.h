@@ -108,8 +108,8 @@ signals:
     void selectionChanged();
     void layoutChanged();
     void linkedChanged();
-    /// The trigger of a chart caught an event at this time of the stream, in seconds: a recording may start.
-    void caught(const QString &type, double eventSec);
+    /// The trigger of a chart that starts recordings caught an event.
+    void recordingWanted();
     void playingChanged();
     void playToggleRequested(bool playing);
 

@@ -64,6 +64,12 @@ void WaveTrigger::setPreShare(double share)
         set(m_preShare, std::clamp(share, 0.0, 1.0));
 }
 
+void WaveTrigger::setRecords(bool records)
+{
+    if (std::exchange(m_records, records) != records)
+        emit settingsChanged();
+}
+
 void WaveTrigger::setSpan(double seconds)
 {
     if (std::isfinite(seconds))

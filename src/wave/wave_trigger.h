@@ -22,6 +22,7 @@ class WaveTrigger : public QObject
     Q_PROPERTY(double bandEnd READ bandEnd WRITE setBandEnd NOTIFY settingsChanged)
     Q_PROPERTY(double preShare READ preShare WRITE setPreShare NOTIFY settingsChanged)
     Q_PROPERTY(double span READ span WRITE setSpan NOTIFY settingsChanged)
+    Q_PROPERTY(bool records READ records WRITE setRecords NOTIFY settingsChanged)
     Q_PROPERTY(State state READ state NOTIFY stateChanged)
     Q_PROPERTY(QString stateText READ stateText NOTIFY stateChanged)
 
@@ -67,6 +68,10 @@ public:
     double span() const { return m_span; }
     void setSpan(double seconds);
 
+    /// An event starts a recording, for whoever hears caught().
+    bool records() const { return m_records; }
+    void setRecords(bool records);
+
     State state() const { return m_state; }
     QString stateText() const;
     /// Time of the last event on the stream's clock in seconds.
@@ -99,6 +104,7 @@ private:
     double m_bandEnd = 1;
     double m_preShare = 0.5;
     double m_span = 10;
+    bool m_records = false;
     State m_state = State::Off;
     bool m_hasLast = false;
     double m_last = 0;     ///< value before
