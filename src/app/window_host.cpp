@@ -39,7 +39,7 @@ bool WindowHost::eventFilter(QObject *watched, QEvent *event)
             m_fittedSize = {};
             m_neededHeight = 0;
             fit();
-            fitSoon(); // the window manager tells the frame later
+            fitSoon(); // the window manager reports the frame later
         }
         break;
     case QEvent::Hide:
@@ -56,10 +56,8 @@ bool WindowHost::eventFilter(QObject *watched, QEvent *event)
         break;
     case QEvent::FontChange:
     case QEvent::LanguageChange:
-    case QEvent::ScreenChangeInternal:
-        fitSoon();
-        break;
     case QEvent::LayoutRequest: // a larger content has made the window larger
+    case QEvent::ScreenChangeInternal:
         fitSoon();
         break;
     default:
