@@ -40,7 +40,7 @@ bool WindowHost::eventFilter(QObject *watched, QEvent *event)
             m_neededHeight = 0;
             m_isPlaced = m_hasPlace || !m_window->pos().isNull();
             fit();
-            fitSoon(); // the window manager tells the frame later
+            fitSoon(); // the window manager reports the frame later
         }
         break;
     case QEvent::Hide:
@@ -61,10 +61,8 @@ bool WindowHost::eventFilter(QObject *watched, QEvent *event)
         break;
     case QEvent::FontChange:
     case QEvent::LanguageChange:
-    case QEvent::ScreenChangeInternal:
-        fitSoon();
-        break;
     case QEvent::LayoutRequest: // a larger content has made the window larger
+    case QEvent::ScreenChangeInternal:
         fitSoon();
         break;
     default:
