@@ -192,6 +192,25 @@
     </message>
 </context>
 <context>
+    <name>ChartBarTools</name>
+    <message>
+        <source>Save charts</source>
+        <translation>保存图表</translation>
+    </message>
+    <message>
+        <source>List of markers; M sets one</source>
+        <translation>标记列表；按 M 键添加标记</translation>
+    </message>
+    <message>
+        <source>Let each chart have its own time axis and cursors</source>
+        <translation>各图表使用独立的时间轴和光标</translation>
+    </message>
+    <message>
+        <source>Couple time axes and cursors of all charts</source>
+        <translation>联动所有图表的时间轴和光标</translation>
+    </message>
+</context>
+<context>
     <name>ChartFilterRow</name>
     <message>
         <source>Low-pass filter</source>
@@ -839,22 +858,6 @@
         <source>Connect a wireless gateway; its nodes appear here.</source>
         <translation>请连接无线网关，其节点会显示在这里。</translation>
     </message>
-    <message>
-        <source>Let each chart have its own time axis and cursors</source>
-        <translation>各图表使用独立的时间轴和光标</translation>
-    </message>
-    <message>
-        <source>Couple time axes and cursors of all charts</source>
-        <translation>联动所有图表的时间轴和光标</translation>
-    </message>
-    <message>
-        <source>Save charts</source>
-        <translation>保存图表</translation>
-    </message>
-    <message>
-        <source>List of markers; M sets one</source>
-        <translation>标记列表；按 M 键添加标记</translation>
-    </message>
 </context>
 <context>
     <name>GatewayDashboardBridge</name>
@@ -1374,22 +1377,6 @@ Pa</translation>
         <source>Choose above what to show.</source>
         <translation>请在上方选择要显示的内容。</translation>
     </message>
-    <message>
-        <source>Let each chart have its own time axis and cursors</source>
-        <translation>各图表使用独立的时间轴和光标</translation>
-    </message>
-    <message>
-        <source>Couple time axes and cursors of all charts</source>
-        <translation>联动所有图表的时间轴和光标</translation>
-    </message>
-    <message>
-        <source>Save charts</source>
-        <translation>保存图表</translation>
-    </message>
-    <message>
-        <source>List of markers; M sets one</source>
-        <translation>标记列表；按 M 键添加标记</translation>
-    </message>
 </context>
 <context>
     <name>SensorDashboardBridge</name>
@@ -1694,6 +1681,14 @@ Pa</translation>
         <source>Back to the live samples; wait for the next event</source>
         <translation>回到实时数据，等待下一个事件</translation>
     </message>
+    <message>
+        <source>Record</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start a recording with the event, with the last folder and name</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>UpdateNoteCard</name>
@@ -1702,16 +1697,8 @@ Pa</translation>
         <translation>设备处于引导程序中，不发送数据：请重启设备，或选择固件。</translation>
     </message>
     <message>
-        <source>The device waits in its bootloader.</source>
-        <translation>设备正在引导程序中等待。</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>继续</translation>
-    </message>
-    <message>
-        <source>Chooses the same file, connects, and downloads it</source>
-        <translation>选择同一文件，连接设备并烧录</translation>
     </message>
     <message>
         <source>Choose firmware</source>
@@ -1722,8 +1709,16 @@ Pa</translation>
         <translation>不再提醒</translation>
     </message>
     <message>
-        <source>Ends the reminder of this update</source>
-        <translation>不再显示此次升级的提醒</translation>
+        <source>The device is waiting in its bootloader.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chooses the same file, connects and downloads it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Removes the reminder of this update</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3263,10 +3258,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
 </translation>
     </message>
     <message>
-        <source>The download has to end first: without it the device has no complete firmware.</source>
-        <translation>必须等待烧录结束，否则设备中没有完整的固件。</translation>
-    </message>
-    <message>
         <source>Text Files(*.hex)</source>
         <translation>HEX 文件 (*.hex)</translation>
     </message>
@@ -3413,10 +3404,6 @@ Ready to download firmware.
 </translation>
     </message>
     <message>
-        <source>The image could not be loaded; the device is as it was. Choose another file.</source>
-        <translation>无法加载映像；设备未被改动。请选择其他文件。</translation>
-    </message>
-    <message>
         <source>
 --- Starting download ---
 </source>
@@ -3483,24 +3470,8 @@ Ready to download firmware.
         <translation>等待连接引导程序</translation>
     </message>
     <message>
-        <source>There is no file at this place: choose an image.</source>
-        <translation>此位置没有文件：请选择映像文件。</translation>
-    </message>
-    <message>
-        <source>This is no Intel HEX file that can be loaded; the log file debug.log says why. Choose another one.</source>
-        <translation>这不是可加载的 Intel HEX 文件，原因请查看日志文件 debug.log。请选择其他文件。</translation>
-    </message>
-    <message>
-        <source>The serial port is closed or takes no data.</source>
-        <translation>串口已关闭，或无法发送数据。</translation>
-    </message>
-    <message>
         <source>The connection to the device was lost.</source>
         <translation>与设备的连接已断开。</translation>
-    </message>
-    <message>
-        <source>The device answered, but not as its bootloader does.</source>
-        <translation>设备有应答，但并非引导程序的应答。</translation>
     </message>
     <message>
         <source>The bootloader refused a packet.</source>
@@ -3543,24 +3514,12 @@ Ready to download firmware.
         <translation>已写入 %1 / %2 字节：固件不完整，无法启动。</translation>
     </message>
     <message>
-        <source>Nothing was written: the firmware of the device is as it was.</source>
-        <translation>未写入任何数据：设备的固件未被改动。</translation>
-    </message>
-    <message>
         <source>Check the cable, open the port again and press Connect.</source>
         <translation>请检查连接线，重新打开串口，然后点击“连接”。</translation>
     </message>
     <message>
         <source>Check power, port and baud rate, then press Connect again.</source>
         <translation>请检查电源、串口和波特率，然后再次点击“连接”。</translation>
-    </message>
-    <message>
-        <source>The bootloader stays in the device: press Connect, then Download.</source>
-        <translation>引导程序仍保留在设备中：请点击“连接”，再点击“烧录”。</translation>
-    </message>
-    <message>
-        <source>The bootloader takes no data: it reports packets of %1 bytes.</source>
-        <translation>引导程序无法接收数据：其报告的数据包大小为 %1 字节。</translation>
     </message>
     <message>
         <source>It had reported status %1 before.</source>
@@ -3595,32 +3554,8 @@ Ready to download firmware.
         <translation>设备仍处于引导程序中：重启之前不会发送数据。</translation>
     </message>
     <message>
-        <source>Leave it so</source>
-        <translation>保持不变</translation>
-    </message>
-    <message>
-        <source>The device restarts with the firmware that it has.</source>
-        <translation>设备以现有固件重新启动。</translation>
-    </message>
-    <message>
-        <source>The bootloader did not confirm the restart. Unplug the device and plug it in again if no data come.</source>
-        <translation>引导程序未确认重启。如果没有数据，请拔下设备后重新插入。</translation>
-    </message>
-    <message>
-        <source>Stop the download? The device has no complete firmware then. Its bootloader stays: press Connect, then Download.</source>
-        <translation>要停止烧录吗？停止后设备中没有完整的固件，但引导程序仍在：请点击“连接”，然后点击“烧录”。</translation>
-    </message>
-    <message>
         <source>Stop the download</source>
         <translation>停止烧录</translation>
-    </message>
-    <message>
-        <source>Go on</source>
-        <translation>继续</translation>
-    </message>
-    <message>
-        <source>Ends the bootloader: the device starts the firmware that it has</source>
-        <translation>结束引导程序：设备启动现有固件</translation>
     </message>
     <message>
         <source>No bootloader is connected.</source>
@@ -3641,10 +3576,6 @@ Ready to download firmware.
     <message>
         <source>The download was stopped.</source>
         <translation>烧录已停止。</translation>
-    </message>
-    <message>
-        <source>Download it all the same</source>
-        <translation>仍然烧录</translation>
     </message>
     <message>
         <source>&amp;Save report…</source>
@@ -3671,40 +3602,12 @@ Ready to download firmware.
         <translation>未擦除也未写入任何数据：原因见上方。</translation>
     </message>
     <message>
-        <source>The file %1 is gone: choose another one.</source>
-        <translation>文件 %1 已不存在：请选择其他文件。</translation>
-    </message>
-    <message>
-        <source>The file is not the one that was being written: it has changed since. Press Download to write it as it is now.</source>
-        <translation>该文件与当时写入的文件不同：此后已被更改。点击“烧录”将写入其当前内容。</translation>
-    </message>
-    <message>
-        <source>Saves what was done and what has come of it as text</source>
-        <translation>将升级过程和结果保存为文本</translation>
-    </message>
-    <message>
-        <source>There was no update yet.</source>
-        <translation>尚未进行升级。</translation>
-    </message>
-    <message>
-        <source>Something speaks against this image: tick &quot;%1&quot; to write it.</source>
-        <translation>此映像存在疑点：勾选“%1”后才能写入。</translation>
-    </message>
-    <message>
-        <source>The file has changed since it was loaded. Choose it again to load the new one.</source>
-        <translation>文件在加载后已被更改。请重新选择，以加载新文件。</translation>
-    </message>
-    <message>
         <source>Restart the program</source>
         <translation>重启程序</translation>
     </message>
     <message>
         <source>Use packets of %1 bytes</source>
         <translation>使用 %1 字节的数据包</translation>
-    </message>
-    <message>
-        <source>Erase all the same</source>
-        <translation>仍然擦除</translation>
     </message>
     <message>
         <source>Save Report</source>
@@ -3717,6 +3620,98 @@ Ready to download firmware.
     <message>
         <source>The bootloader is connected: press Download, or Restart device.</source>
         <translation>引导程序已连接：请点击“烧录”或“重启设备”。</translation>
+    </message>
+    <message>
+        <source>Download anyway</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The download has to finish first: until then the device has no complete firmware.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave as is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The device restarts with its present firmware.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bootloader did not confirm the restart. Unplug the device and plug it in again if no data arrive.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop the download? The device will have no complete firmware. Its bootloader remains: press Connect, then Download.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep downloading</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The image could not be loaded; the device is unchanged. Choose another file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file %1 no longer exists: choose another one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has changed since the interrupted update. Press Download to write it as it is now.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saves what was done and how it ended as text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No update has run yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are doubts about this image: tick &quot;%1&quot; to write it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leaves the bootloader: the device starts its present firmware</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has changed since it was loaded. Choose it again to load the new version.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Erase anyway</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The serial port is closed or accepts no data.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The device answered, but not like a bootloader.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was written: the device&apos;s firmware is unchanged.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bootloader is still in the device: press Connect, then Download.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bootloader accepts no data: it reports packets of %1 bytes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no file at this path: choose an image.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not a loadable Intel HEX file. See debug.log for the reason, or choose another file.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3939,10 +3934,6 @@ No frame stream detected.</source>
         <translation>%1 字节的数据包则可以。</translation>
     </message>
     <message>
-        <source>%1 baud or more is fast enough, too.</source>
-        <translation>改用 %1 或更高的波特率也足够快。</translation>
-    </message>
-    <message>
         <source>The image is empty.</source>
         <translation>映像为空。</translation>
     </message>
@@ -3951,56 +3942,12 @@ No frame stream detected.</source>
         <translation>文件的起始地址为 %1，但会被写入 %2，即本次运行中首个文件的起始地址。要将其写入自身的地址，请重启程序。</translation>
     </message>
     <message>
-        <source>The bootloader takes no data: it reports packets of %1 bytes.</source>
-        <translation>引导程序无法接收数据：其报告的数据包大小为 %1 字节。</translation>
-    </message>
-    <message>
         <source>The image does not fit the %1 KB of flash from this address on.</source>
         <translation>从该地址起，映像超出了 %1 KB 的闪存空间。</translation>
     </message>
     <message>
-        <source>This chip has not ended an erase of this size within 1.5 s before, and the protocol waits no longer: it would be erased and not written.</source>
-        <translation>此芯片此前未能在 1.5 秒内完成这一大小的擦除，而协议最多等待 1.5 秒：芯片会被擦除，却无法写入。</translation>
-    </message>
-    <message>
-        <source>The file has no end record: a part of it may be missing.</source>
-        <translation>文件没有结束记录：可能缺少一部分内容。</translation>
-    </message>
-    <message>
-        <source>The file has data after a blank line, where the image ends: they would not be written.</source>
-        <translation>文件在空行之后还有数据，而映像到空行为止：这些数据不会被写入。</translation>
-    </message>
-    <message>
-        <source>The file has data after a start address or an unknown record, where the image ends: they would not be written.</source>
-        <translation>文件在起始地址记录或未知记录之后还有数据，而映像到该记录为止：这些数据不会被写入。</translation>
-    </message>
-    <message>
-        <source>The file has data after its end record: they would not be written.</source>
-        <translation>文件在结束记录之后还有数据：这些数据不会被写入。</translation>
-    </message>
-    <message>
-        <source>The image does not begin at a sector of %1 bytes: what stands before it in its sector is erased, too.</source>
-        <translation>映像不是从扇区（%1 字节）的起点开始：同一扇区中位于映像之前的内容也会被擦除。</translation>
-    </message>
-    <message>
-        <source>The update before was for %1, this one is for %2.</source>
-        <translation>上次升级的地址为 %1，本次为 %2。</translation>
-    </message>
-    <message>
         <source>The image&apos;s build of %1 is older than the device&apos;s: %2.</source>
         <translation>映像的构建日期为 %1，早于设备的构建：%2。</translation>
-    </message>
-    <message>
-        <source>The stack pointer is no word address in RAM.</source>
-        <translation>栈指针不是 RAM 中按字对齐的地址。</translation>
-    </message>
-    <message>
-        <source>The reset vector is no Thumb address inside the image.</source>
-        <translation>复位向量不是映像内的 Thumb 地址。</translation>
-    </message>
-    <message>
-        <source>The image is very small for a firmware.</source>
-        <translation>对固件而言，此映像过小。</translation>
     </message>
     <message>
         <source>Not verified: this bootloader cannot read the flash back.</source>
@@ -4015,10 +3962,6 @@ No frame stream detected.</source>
         <translation>未验证：引导程序拒绝回读闪存（状态 %1）。</translation>
     </message>
     <message>
-        <source>Not verified: reading the flash back did not come to its end.</source>
-        <translation>未验证：闪存回读未能完成。</translation>
-    </message>
-    <message>
         <source>%1 packets were sent again after silence and may have been written twice: the firmware may be wrong even if it starts.</source>
         <translation>%1 个数据包因无应答而重发，可能被写入两次：固件即使能启动，也可能有误。</translation>
     </message>
@@ -4029,10 +3972,6 @@ No frame stream detected.</source>
     <message>
         <source>But the bootloader did not confirm the whole image.</source>
         <translation>但引导程序未确认完整的映像。</translation>
-    </message>
-    <message>
-        <source>The flash was read back: it is the image.</source>
-        <translation>已回读闪存：内容与映像一致。</translation>
     </message>
     <message>
         <source>%1 bytes were written in %2 s, %3 of %4 packets were sent again.</source>
@@ -4047,20 +3986,12 @@ No frame stream detected.</source>
         <translation>设备未重启：此固件不可运行。</translation>
     </message>
     <message>
-        <source>The bootloader stays in the device: press Connect, then Download.</source>
-        <translation>引导程序仍保留在设备中：请点击“连接”，再点击“烧录”。</translation>
-    </message>
-    <message>
         <source>Reading the flash back was stopped.</source>
         <translation>闪存回读已停止。</translation>
     </message>
     <message>
         <source>The connection to the device was lost.</source>
         <translation>与设备的连接已断开。</translation>
-    </message>
-    <message>
-        <source>The image was written, but nothing proves that it is right.</source>
-        <translation>映像已写入，但无法证明其正确。</translation>
     </message>
     <message>
         <source>Check the cable, open the port again and press Connect.</source>
@@ -4119,10 +4050,6 @@ No frame stream detected.</source>
         <translation>设备未恢复</translation>
     </message>
     <message>
-        <source>The folder takes no files: after a crash nothing would have reminded you.</source>
-        <translation>文件夹不可写：假如程序崩溃，之后不会有任何提醒。</translation>
-    </message>
-    <message>
         <source>The device is back with its new firmware.</source>
         <translation>设备已恢复，正在运行新固件。</translation>
     </message>
@@ -4133,22 +4060,6 @@ No frame stream detected.</source>
     <message>
         <source>Press Connect and download again, at a higher baud rate if there is one.</source>
         <translation>请点击“连接”并重新烧录；如有更高的波特率可用，请改用。</translation>
-    </message>
-    <message>
-        <source>But the device is back with the build that it had before.</source>
-        <translation>但设备恢复后，版本仍与之前相同。</translation>
-    </message>
-    <message>
-        <source>Check that this is the file that you meant.</source>
-        <translation>请确认所选文件是否正确。</translation>
-    </message>
-    <message>
-        <source>Check that this is the file that you meant, then press Connect and download again.</source>
-        <translation>请确认所选文件是否正确，然后点击“连接”并重新烧录。</translation>
-    </message>
-    <message>
-        <source>But the device has not introduced itself since its restart.</source>
-        <translation>但设备重启后尚未报告自身信息。</translation>
     </message>
     <message>
         <source>Unplug it and plug it in again, and open its port: the new firmware may use another baud rate. If its bootloader answers there, this window opens by itself.</source>
@@ -4167,12 +4078,96 @@ No frame stream detected.</source>
         <translation>%1（%2）</translation>
     </message>
     <message>
-        <source>The update of %1 with %2, begun %3, was written to the end, but it is not proved that it is right.</source>
-        <translation>以 %2 对 %1 进行的升级（开始于 %3）已全部写入，但未能证明其正确。</translation>
+        <source>%1 baud or more is also fast enough.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The update of %1 with %2, begun %3, was interrupted at %4 of %5 bytes.</source>
-        <translation>以 %2 对 %1 进行的升级（开始于 %3）在 %4 / %5 字节处中断。</translation>
+        <source>The bootloader accepts no data: it reports packets of %1 bytes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An earlier erase of this size took this chip more than 1.5 s, and the protocol waits no longer: it would be erased and not written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has no end record: part of it may be missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data after a blank line, where the image ends, would not be written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data after a start address or an unknown record, where the image ends, would not be written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data after the end record would not be written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The image does not begin at the start of a sector (%1 bytes): what precedes it in the sector is erased too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The previous update was for %1, this one is for %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The stack pointer is not a word address in RAM.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The reset vector is not a Thumb address inside the image.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The image is very small for firmware.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not verified: reading the flash back did not finish.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The flash was read back and matches the image.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bootloader is still in the device: press Connect, then Download.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The image was written, but not verified.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder is not writable: after a crash there would have been no reminder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>But the device came back with its previous build.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check that this is the right file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check that this is the right file, then press Connect and download again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>But the device has not identified itself since its restart.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The update of %1 with %2, started %3, was written completely but not verified.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The update of %1 with %2, started %3, was interrupted at %4 of %5 bytes.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

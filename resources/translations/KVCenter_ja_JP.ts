@@ -192,6 +192,25 @@
     </message>
 </context>
 <context>
+    <name>ChartBarTools</name>
+    <message>
+        <source>Save charts</source>
+        <translation>グラフを保存</translation>
+    </message>
+    <message>
+        <source>List of markers; M sets one</source>
+        <translation>マーカーの一覧（M キーでマーカーを設定）</translation>
+    </message>
+    <message>
+        <source>Let each chart have its own time axis and cursors</source>
+        <translation>時間軸とカーソルをグラフごとに独立させる</translation>
+    </message>
+    <message>
+        <source>Couple time axes and cursors of all charts</source>
+        <translation>すべてのグラフの時間軸とカーソルを連動させる</translation>
+    </message>
+</context>
+<context>
     <name>ChartFilterRow</name>
     <message>
         <source>Low-pass filter</source>
@@ -839,22 +858,6 @@
         <source>Connect a wireless gateway; its nodes appear here.</source>
         <translation>無線ゲートウェイを接続すると、そのノードがここに表示されます。</translation>
     </message>
-    <message>
-        <source>Let each chart have its own time axis and cursors</source>
-        <translation>時間軸とカーソルをグラフごとに独立させる</translation>
-    </message>
-    <message>
-        <source>Couple time axes and cursors of all charts</source>
-        <translation>すべてのグラフの時間軸とカーソルを連動させる</translation>
-    </message>
-    <message>
-        <source>Save charts</source>
-        <translation>グラフを保存</translation>
-    </message>
-    <message>
-        <source>List of markers; M sets one</source>
-        <translation>マーカーの一覧（M キーでマーカーを設定）</translation>
-    </message>
 </context>
 <context>
     <name>GatewayDashboardBridge</name>
@@ -1374,22 +1377,6 @@ Pa</translation>
         <source>Choose above what to show.</source>
         <translation>表示するものを上で選択してください。</translation>
     </message>
-    <message>
-        <source>Let each chart have its own time axis and cursors</source>
-        <translation>時間軸とカーソルをグラフごとに独立させる</translation>
-    </message>
-    <message>
-        <source>Couple time axes and cursors of all charts</source>
-        <translation>すべてのグラフの時間軸とカーソルを連動させる</translation>
-    </message>
-    <message>
-        <source>Save charts</source>
-        <translation>グラフを保存</translation>
-    </message>
-    <message>
-        <source>List of markers; M sets one</source>
-        <translation>マーカーの一覧（M キーでマーカーを設定）</translation>
-    </message>
 </context>
 <context>
     <name>SensorDashboardBridge</name>
@@ -1694,6 +1681,14 @@ Pa</translation>
         <source>Back to the live samples; wait for the next event</source>
         <translation>最新のサンプルに戻り、次のイベントを待つ</translation>
     </message>
+    <message>
+        <source>Record</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start a recording with the event, with the last folder and name</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>UpdateNoteCard</name>
@@ -1702,16 +1697,8 @@ Pa</translation>
         <translation>デバイスはブートローダーを実行中で、データを送りません。デバイスを再起動するか、ファームウェアを選択してください。</translation>
     </message>
     <message>
-        <source>The device waits in its bootloader.</source>
-        <translation>デバイスはブートローダーで待機しています。</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>続行</translation>
-    </message>
-    <message>
-        <source>Chooses the same file, connects, and downloads it</source>
-        <translation>同じファイルを選択し、接続して書き込みます</translation>
     </message>
     <message>
         <source>Choose firmware</source>
@@ -1722,8 +1709,16 @@ Pa</translation>
         <translation>通知を消去</translation>
     </message>
     <message>
-        <source>Ends the reminder of this update</source>
-        <translation>この更新についての通知を終了します</translation>
+        <source>The device is waiting in its bootloader.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chooses the same file, connects and downloads it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Removes the reminder of this update</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3263,10 +3258,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
 </translation>
     </message>
     <message>
-        <source>The download has to end first: without it the device has no complete firmware.</source>
-        <translation>書き込みが終わるまで閉じることはできません。中断すると、デバイスのファームウェアが不完全になります。</translation>
-    </message>
-    <message>
         <source>Text Files(*.hex)</source>
         <translation>HEX ファイル (*.hex)</translation>
     </message>
@@ -3413,10 +3404,6 @@ Ready to download firmware.
 </translation>
     </message>
     <message>
-        <source>The image could not be loaded; the device is as it was. Choose another file.</source>
-        <translation>イメージを読み込めませんでした。デバイスは元のままです。別のファイルを選択してください。</translation>
-    </message>
-    <message>
         <source>
 --- Starting download ---
 </source>
@@ -3483,24 +3470,8 @@ Ready to download firmware.
         <translation>ブートローダー接続待ち</translation>
     </message>
     <message>
-        <source>There is no file at this place: choose an image.</source>
-        <translation>この場所にファイルがありません。イメージを選択してください。</translation>
-    </message>
-    <message>
-        <source>This is no Intel HEX file that can be loaded; the log file debug.log says why. Choose another one.</source>
-        <translation>Intel HEX ファイルとして読み込めません（理由はログファイル debug.log を参照）。別のファイルを選択してください。</translation>
-    </message>
-    <message>
-        <source>The serial port is closed or takes no data.</source>
-        <translation>シリアルポートが閉じているか、データを送信できません。</translation>
-    </message>
-    <message>
         <source>The connection to the device was lost.</source>
         <translation>デバイスとの接続が切れました。</translation>
-    </message>
-    <message>
-        <source>The device answered, but not as its bootloader does.</source>
-        <translation>デバイスは応答しましたが、ブートローダーの応答ではありません。</translation>
     </message>
     <message>
         <source>The bootloader refused a packet.</source>
@@ -3543,24 +3514,12 @@ Ready to download firmware.
         <translation>%2 バイト中 %1 バイトを書き込みました。ファームウェアは不完全で、起動できません。</translation>
     </message>
     <message>
-        <source>Nothing was written: the firmware of the device is as it was.</source>
-        <translation>何も書き込まれていません。デバイスのファームウェアは元のままです。</translation>
-    </message>
-    <message>
         <source>Check the cable, open the port again and press Connect.</source>
         <translation>ケーブルを確認し、ポートを開き直してから「接続」を押してください。</translation>
     </message>
     <message>
         <source>Check power, port and baud rate, then press Connect again.</source>
         <translation>電源、ポート、ボーレートを確認して、もう一度「接続」を押してください。</translation>
-    </message>
-    <message>
-        <source>The bootloader stays in the device: press Connect, then Download.</source>
-        <translation>ブートローダーはデバイスに残っています。「接続」、「書き込み」の順に押してください。</translation>
-    </message>
-    <message>
-        <source>The bootloader takes no data: it reports packets of %1 bytes.</source>
-        <translation>ブートローダーがデータを受け付けません（通知されたパケットサイズ: %1 バイト）。</translation>
     </message>
     <message>
         <source>It had reported status %1 before.</source>
@@ -3595,32 +3554,8 @@ Ready to download firmware.
         <translation>デバイスはまだブートローダーの状態です。再起動するまでデータを送りません。</translation>
     </message>
     <message>
-        <source>Leave it so</source>
-        <translation>そのままにする</translation>
-    </message>
-    <message>
-        <source>The device restarts with the firmware that it has.</source>
-        <translation>デバイスは現在のファームウェアで再起動します。</translation>
-    </message>
-    <message>
-        <source>The bootloader did not confirm the restart. Unplug the device and plug it in again if no data come.</source>
-        <translation>ブートローダーが再起動を確認しませんでした。データが届かない場合は、デバイスを抜いて差し直してください。</translation>
-    </message>
-    <message>
-        <source>Stop the download? The device has no complete firmware then. Its bootloader stays: press Connect, then Download.</source>
-        <translation>書き込みを停止しますか？停止するとデバイスのファームウェアは不完全になります。ブートローダーは残るので、「接続」、「書き込み」の順に押してください。</translation>
-    </message>
-    <message>
         <source>Stop the download</source>
         <translation>書き込みを停止</translation>
-    </message>
-    <message>
-        <source>Go on</source>
-        <translation>続ける</translation>
-    </message>
-    <message>
-        <source>Ends the bootloader: the device starts the firmware that it has</source>
-        <translation>ブートローダーを終了し、現在のファームウェアを起動します</translation>
     </message>
     <message>
         <source>No bootloader is connected.</source>
@@ -3641,10 +3576,6 @@ Ready to download firmware.
     <message>
         <source>The download was stopped.</source>
         <translation>書き込みを停止しました。</translation>
-    </message>
-    <message>
-        <source>Download it all the same</source>
-        <translation>それでも書き込む</translation>
     </message>
     <message>
         <source>&amp;Save report…</source>
@@ -3671,40 +3602,12 @@ Ready to download firmware.
         <translation>消去も書き込みも行われていません。上に表示されている理由を確認してください。</translation>
     </message>
     <message>
-        <source>The file %1 is gone: choose another one.</source>
-        <translation>ファイル %1 が見つかりません。別のファイルを選択してください。</translation>
-    </message>
-    <message>
-        <source>The file is not the one that was being written: it has changed since. Press Download to write it as it is now.</source>
-        <translation>このファイルは、書き込んでいたときの内容から変更されています。現在の内容を書き込むには、「書き込み」を押してください。</translation>
-    </message>
-    <message>
-        <source>Saves what was done and what has come of it as text</source>
-        <translation>実行した内容とその結果をテキストとして保存します</translation>
-    </message>
-    <message>
-        <source>There was no update yet.</source>
-        <translation>更新はまだ行われていません。</translation>
-    </message>
-    <message>
-        <source>Something speaks against this image: tick &quot;%1&quot; to write it.</source>
-        <translation>このイメージには問題がある可能性があります。書き込むには「%1」にチェックを入れてください。</translation>
-    </message>
-    <message>
-        <source>The file has changed since it was loaded. Choose it again to load the new one.</source>
-        <translation>ファイルは読み込み後に変更されています。新しい内容を読み込むには、もう一度選択してください。</translation>
-    </message>
-    <message>
         <source>Restart the program</source>
         <translation>プログラムを再起動</translation>
     </message>
     <message>
         <source>Use packets of %1 bytes</source>
         <translation>%1 バイトのパケットを使用</translation>
-    </message>
-    <message>
-        <source>Erase all the same</source>
-        <translation>それでも消去</translation>
     </message>
     <message>
         <source>Save Report</source>
@@ -3717,6 +3620,98 @@ Ready to download firmware.
     <message>
         <source>The bootloader is connected: press Download, or Restart device.</source>
         <translation>ブートローダーに接続済みです。「書き込み」または「デバイスを再起動」を押してください。</translation>
+    </message>
+    <message>
+        <source>Download anyway</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The download has to finish first: until then the device has no complete firmware.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave as is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The device restarts with its present firmware.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bootloader did not confirm the restart. Unplug the device and plug it in again if no data arrive.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop the download? The device will have no complete firmware. Its bootloader remains: press Connect, then Download.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep downloading</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The image could not be loaded; the device is unchanged. Choose another file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file %1 no longer exists: choose another one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has changed since the interrupted update. Press Download to write it as it is now.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saves what was done and how it ended as text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No update has run yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are doubts about this image: tick &quot;%1&quot; to write it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leaves the bootloader: the device starts its present firmware</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has changed since it was loaded. Choose it again to load the new version.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Erase anyway</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The serial port is closed or accepts no data.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The device answered, but not like a bootloader.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was written: the device&apos;s firmware is unchanged.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bootloader is still in the device: press Connect, then Download.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bootloader accepts no data: it reports packets of %1 bytes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no file at this path: choose an image.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not a loadable Intel HEX file. See debug.log for the reason, or choose another file.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3939,10 +3934,6 @@ No frame stream detected.</source>
         <translation>%1 バイトのパケットなら間に合います。</translation>
     </message>
     <message>
-        <source>%1 baud or more is fast enough, too.</source>
-        <translation>%1 baud 以上でも間に合います。</translation>
-    </message>
-    <message>
         <source>The image is empty.</source>
         <translation>イメージが空です。</translation>
     </message>
@@ -3951,56 +3942,12 @@ No frame stream detected.</source>
         <translation>ファイルの開始アドレスは %1 ですが、プログラムの起動後に最初に使用したファイルの開始アドレス %2 に書き込まれることになります。本来のアドレスに書き込むには、プログラムを再起動してください。</translation>
     </message>
     <message>
-        <source>The bootloader takes no data: it reports packets of %1 bytes.</source>
-        <translation>ブートローダーがデータを受け付けません（通知されたパケットサイズ: %1 バイト）。</translation>
-    </message>
-    <message>
         <source>The image does not fit the %1 KB of flash from this address on.</source>
         <translation>このアドレスからでは、イメージが %1 KB のフラッシュに収まりません。</translation>
     </message>
     <message>
-        <source>This chip has not ended an erase of this size within 1.5 s before, and the protocol waits no longer: it would be erased and not written.</source>
-        <translation>このチップでは以前、このサイズの消去が 1.5 秒以内に終わりませんでした。プロトコルはそれ以上待たないため、消去されるだけで書き込まれません。</translation>
-    </message>
-    <message>
-        <source>The file has no end record: a part of it may be missing.</source>
-        <translation>ファイルに終了レコードがありません。一部が欠けている可能性があります。</translation>
-    </message>
-    <message>
-        <source>The file has data after a blank line, where the image ends: they would not be written.</source>
-        <translation>ファイルの空行より後にデータがあります。イメージは空行で終わるため、そのデータは書き込まれません。</translation>
-    </message>
-    <message>
-        <source>The file has data after a start address or an unknown record, where the image ends: they would not be written.</source>
-        <translation>ファイルの開始アドレスまたは不明なレコードより後にデータがあります。イメージはそこで終わるため、そのデータは書き込まれません。</translation>
-    </message>
-    <message>
-        <source>The file has data after its end record: they would not be written.</source>
-        <translation>ファイルの終了レコードより後にデータがあります。そのデータは書き込まれません。</translation>
-    </message>
-    <message>
-        <source>The image does not begin at a sector of %1 bytes: what stands before it in its sector is erased, too.</source>
-        <translation>イメージの先頭が %1 バイトのセクターの境界にありません。同じセクター内でイメージより前にある内容も消去されます。</translation>
-    </message>
-    <message>
-        <source>The update before was for %1, this one is for %2.</source>
-        <translation>前回の更新はアドレス %1、今回はアドレス %2 が対象です。</translation>
-    </message>
-    <message>
         <source>The image&apos;s build of %1 is older than the device&apos;s: %2.</source>
         <translation>イメージのビルド (%1) は、デバイスのビルド (%2) より古いものです。</translation>
-    </message>
-    <message>
-        <source>The stack pointer is no word address in RAM.</source>
-        <translation>スタックポインターが RAM のワードアドレスではありません。</translation>
-    </message>
-    <message>
-        <source>The reset vector is no Thumb address inside the image.</source>
-        <translation>リセットベクターがイメージ内の Thumb アドレスではありません。</translation>
-    </message>
-    <message>
-        <source>The image is very small for a firmware.</source>
-        <translation>ファームウェアとしてはイメージが小さすぎます。</translation>
     </message>
     <message>
         <source>Not verified: this bootloader cannot read the flash back.</source>
@@ -4015,10 +3962,6 @@ No frame stream detected.</source>
         <translation>未検証: ブートローダーがフラッシュの読み戻しを拒否しました（ステータス %1）。</translation>
     </message>
     <message>
-        <source>Not verified: reading the flash back did not come to its end.</source>
-        <translation>未検証: フラッシュの読み戻しが最後まで完了しませんでした。</translation>
-    </message>
-    <message>
         <source>%1 packets were sent again after silence and may have been written twice: the firmware may be wrong even if it starts.</source>
         <translation>応答がなかったため %1 個のパケットを再送しました。二重に書き込まれた可能性があり、起動してもファームウェアが正しくない場合があります。</translation>
     </message>
@@ -4029,10 +3972,6 @@ No frame stream detected.</source>
     <message>
         <source>But the bootloader did not confirm the whole image.</source>
         <translation>ただし、ブートローダーからイメージ全体の受信確認がありませんでした。</translation>
-    </message>
-    <message>
-        <source>The flash was read back: it is the image.</source>
-        <translation>フラッシュを読み戻し、イメージと一致することを確認しました。</translation>
     </message>
     <message>
         <source>%1 bytes were written in %2 s, %3 of %4 packets were sent again.</source>
@@ -4047,20 +3986,12 @@ No frame stream detected.</source>
         <translation>このファームウェアは実行すべきでないため、デバイスを再起動していません。</translation>
     </message>
     <message>
-        <source>The bootloader stays in the device: press Connect, then Download.</source>
-        <translation>ブートローダーはデバイスに残っています。「接続」、「書き込み」の順に押してください。</translation>
-    </message>
-    <message>
         <source>Reading the flash back was stopped.</source>
         <translation>フラッシュの読み戻しを停止しました。</translation>
     </message>
     <message>
         <source>The connection to the device was lost.</source>
         <translation>デバイスとの接続が切れました。</translation>
-    </message>
-    <message>
-        <source>The image was written, but nothing proves that it is right.</source>
-        <translation>イメージは書き込まれましたが、正しいことは確認できていません。</translation>
     </message>
     <message>
         <source>Check the cable, open the port again and press Connect.</source>
@@ -4119,10 +4050,6 @@ No frame stream detected.</source>
         <translation>復帰せず</translation>
     </message>
     <message>
-        <source>The folder takes no files: after a crash nothing would have reminded you.</source>
-        <translation>フォルダーにファイルを書き込めません。プログラムが異常終了しても、この更新についての通知は表示されないところでした。</translation>
-    </message>
-    <message>
         <source>The device is back with its new firmware.</source>
         <translation>デバイスは新しいファームウェアで復帰しました。</translation>
     </message>
@@ -4133,22 +4060,6 @@ No frame stream detected.</source>
     <message>
         <source>Press Connect and download again, at a higher baud rate if there is one.</source>
         <translation>「接続」を押して、もう一度書き込んでください。可能であれば、より高いボーレートを使用してください。</translation>
-    </message>
-    <message>
-        <source>But the device is back with the build that it had before.</source>
-        <translation>ただし、デバイスは以前と同じビルドで復帰しました。</translation>
-    </message>
-    <message>
-        <source>Check that this is the file that you meant.</source>
-        <translation>目的のファイルであることを確認してください。</translation>
-    </message>
-    <message>
-        <source>Check that this is the file that you meant, then press Connect and download again.</source>
-        <translation>目的のファイルであることを確認してから、「接続」を押して、もう一度書き込んでください。</translation>
-    </message>
-    <message>
-        <source>But the device has not introduced itself since its restart.</source>
-        <translation>ただし、再起動後にデバイスの識別情報が届いていません。</translation>
     </message>
     <message>
         <source>Unplug it and plug it in again, and open its port: the new firmware may use another baud rate. If its bootloader answers there, this window opens by itself.</source>
@@ -4167,12 +4078,96 @@ No frame stream detected.</source>
         <translation>%1 (%2)</translation>
     </message>
     <message>
-        <source>The update of %1 with %2, begun %3, was written to the end, but it is not proved that it is right.</source>
-        <translation>%3 に開始した %1 の更新（%2）は最後まで書き込まれましたが、正しいことは確認されていません。</translation>
+        <source>%1 baud or more is also fast enough.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The update of %1 with %2, begun %3, was interrupted at %4 of %5 bytes.</source>
-        <translation>%3 に開始した %1 の更新（%2）は、%5 バイト中 %4 バイトの時点で中断されました。</translation>
+        <source>The bootloader accepts no data: it reports packets of %1 bytes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An earlier erase of this size took this chip more than 1.5 s, and the protocol waits no longer: it would be erased and not written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has no end record: part of it may be missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data after a blank line, where the image ends, would not be written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data after a start address or an unknown record, where the image ends, would not be written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data after the end record would not be written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The image does not begin at the start of a sector (%1 bytes): what precedes it in the sector is erased too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The previous update was for %1, this one is for %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The stack pointer is not a word address in RAM.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The reset vector is not a Thumb address inside the image.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The image is very small for firmware.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not verified: reading the flash back did not finish.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The flash was read back and matches the image.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bootloader is still in the device: press Connect, then Download.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The image was written, but not verified.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder is not writable: after a crash there would have been no reminder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>But the device came back with its previous build.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check that this is the right file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check that this is the right file, then press Connect and download again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>But the device has not identified itself since its restart.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The update of %1 with %2, started %3, was written completely but not verified.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The update of %1 with %2, started %3, was interrupted at %4 of %5 bytes.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -192,6 +192,25 @@
     </message>
 </context>
 <context>
+    <name>ChartBarTools</name>
+    <message>
+        <source>Save charts</source>
+        <translation>그래프 저장</translation>
+    </message>
+    <message>
+        <source>List of markers; M sets one</source>
+        <translation>마커 목록(M 키로 마커 설정)</translation>
+    </message>
+    <message>
+        <source>Let each chart have its own time axis and cursors</source>
+        <translation>그래프마다 시간 축과 커서를 따로 사용</translation>
+    </message>
+    <message>
+        <source>Couple time axes and cursors of all charts</source>
+        <translation>모든 그래프의 시간 축과 커서 연동</translation>
+    </message>
+</context>
+<context>
     <name>ChartFilterRow</name>
     <message>
         <source>Low-pass filter</source>
@@ -839,22 +858,6 @@
         <source>Connect a wireless gateway; its nodes appear here.</source>
         <translation>무선 게이트웨이를 연결하면 해당 노드가 여기에 표시됩니다.</translation>
     </message>
-    <message>
-        <source>Let each chart have its own time axis and cursors</source>
-        <translation>그래프마다 시간 축과 커서를 따로 사용</translation>
-    </message>
-    <message>
-        <source>Couple time axes and cursors of all charts</source>
-        <translation>모든 그래프의 시간 축과 커서 연동</translation>
-    </message>
-    <message>
-        <source>Save charts</source>
-        <translation>그래프 저장</translation>
-    </message>
-    <message>
-        <source>List of markers; M sets one</source>
-        <translation>마커 목록(M 키로 마커 설정)</translation>
-    </message>
 </context>
 <context>
     <name>GatewayDashboardBridge</name>
@@ -1374,22 +1377,6 @@ Pa</translation>
         <source>Choose above what to show.</source>
         <translation>표시할 항목을 위에서 선택하십시오.</translation>
     </message>
-    <message>
-        <source>Let each chart have its own time axis and cursors</source>
-        <translation>그래프마다 시간 축과 커서를 따로 사용</translation>
-    </message>
-    <message>
-        <source>Couple time axes and cursors of all charts</source>
-        <translation>모든 그래프의 시간 축과 커서 연동</translation>
-    </message>
-    <message>
-        <source>Save charts</source>
-        <translation>그래프 저장</translation>
-    </message>
-    <message>
-        <source>List of markers; M sets one</source>
-        <translation>마커 목록(M 키로 마커 설정)</translation>
-    </message>
 </context>
 <context>
     <name>SensorDashboardBridge</name>
@@ -1694,6 +1681,14 @@ Pa</translation>
         <source>Back to the live samples; wait for the next event</source>
         <translation>최신 샘플로 돌아가 다음 이벤트 대기</translation>
     </message>
+    <message>
+        <source>Record</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start a recording with the event, with the last folder and name</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>UpdateNoteCard</name>
@@ -1702,16 +1697,8 @@ Pa</translation>
         <translation>장치가 부트로더를 실행 중이며 데이터를 보내지 않습니다. 장치를 다시 시작하거나 펌웨어를 선택하십시오.</translation>
     </message>
     <message>
-        <source>The device waits in its bootloader.</source>
-        <translation>장치가 부트로더에서 대기하고 있습니다.</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>계속</translation>
-    </message>
-    <message>
-        <source>Chooses the same file, connects, and downloads it</source>
-        <translation>같은 파일을 선택하고 연결하여 다운로드합니다</translation>
     </message>
     <message>
         <source>Choose firmware</source>
@@ -1722,8 +1709,16 @@ Pa</translation>
         <translation>알림 지우기</translation>
     </message>
     <message>
-        <source>Ends the reminder of this update</source>
-        <translation>이 업데이트에 대한 알림을 끝냅니다</translation>
+        <source>The device is waiting in its bootloader.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chooses the same file, connects and downloads it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Removes the reminder of this update</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3263,10 +3258,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
 </translation>
     </message>
     <message>
-        <source>The download has to end first: without it the device has no complete firmware.</source>
-        <translation>다운로드가 끝나야 닫을 수 있습니다. 중단하면 장치의 펌웨어가 불완전해집니다.</translation>
-    </message>
-    <message>
         <source>Text Files(*.hex)</source>
         <translation>HEX 파일 (*.hex)</translation>
     </message>
@@ -3413,10 +3404,6 @@ Ready to download firmware.
 </translation>
     </message>
     <message>
-        <source>The image could not be loaded; the device is as it was. Choose another file.</source>
-        <translation>이미지를 불러올 수 없습니다. 장치는 변경되지 않았습니다. 다른 파일을 선택하십시오.</translation>
-    </message>
-    <message>
         <source>
 --- Starting download ---
 </source>
@@ -3483,24 +3470,8 @@ Ready to download firmware.
         <translation>부트로더 연결 대기 중</translation>
     </message>
     <message>
-        <source>There is no file at this place: choose an image.</source>
-        <translation>이 위치에 파일이 없습니다. 이미지를 선택하십시오.</translation>
-    </message>
-    <message>
-        <source>This is no Intel HEX file that can be loaded; the log file debug.log says why. Choose another one.</source>
-        <translation>Intel HEX 파일로 불러올 수 없습니다(이유는 로그 파일 debug.log 참조). 다른 파일을 선택하십시오.</translation>
-    </message>
-    <message>
-        <source>The serial port is closed or takes no data.</source>
-        <translation>시리얼 포트가 닫혀 있거나 데이터를 보낼 수 없습니다.</translation>
-    </message>
-    <message>
         <source>The connection to the device was lost.</source>
         <translation>장치와의 연결이 끊어졌습니다.</translation>
-    </message>
-    <message>
-        <source>The device answered, but not as its bootloader does.</source>
-        <translation>장치가 응답했지만 부트로더의 응답이 아닙니다.</translation>
     </message>
     <message>
         <source>The bootloader refused a packet.</source>
@@ -3543,24 +3514,12 @@ Ready to download firmware.
         <translation>%2바이트 중 %1바이트를 썼습니다. 펌웨어가 불완전하여 시작할 수 없습니다.</translation>
     </message>
     <message>
-        <source>Nothing was written: the firmware of the device is as it was.</source>
-        <translation>아무것도 쓰지 않았습니다. 장치의 펌웨어는 변경되지 않았습니다.</translation>
-    </message>
-    <message>
         <source>Check the cable, open the port again and press Connect.</source>
         <translation>케이블을 확인하고 포트를 다시 연 다음 &apos;연결&apos;을 누르십시오.</translation>
     </message>
     <message>
         <source>Check power, port and baud rate, then press Connect again.</source>
         <translation>전원, 포트, 보드 레이트를 확인한 다음 &apos;연결&apos;을 다시 누르십시오.</translation>
-    </message>
-    <message>
-        <source>The bootloader stays in the device: press Connect, then Download.</source>
-        <translation>부트로더는 장치에 남아 있습니다. &apos;연결&apos;, &apos;다운로드&apos;를 차례로 누르십시오.</translation>
-    </message>
-    <message>
-        <source>The bootloader takes no data: it reports packets of %1 bytes.</source>
-        <translation>부트로더가 데이터를 받지 않습니다(보고된 패킷 크기: %1바이트).</translation>
     </message>
     <message>
         <source>It had reported status %1 before.</source>
@@ -3595,32 +3554,8 @@ Ready to download firmware.
         <translation>장치가 아직 부트로더 상태입니다. 다시 시작할 때까지 데이터를 보내지 않습니다.</translation>
     </message>
     <message>
-        <source>Leave it so</source>
-        <translation>그대로 두기</translation>
-    </message>
-    <message>
-        <source>The device restarts with the firmware that it has.</source>
-        <translation>장치가 현재 펌웨어로 다시 시작합니다.</translation>
-    </message>
-    <message>
-        <source>The bootloader did not confirm the restart. Unplug the device and plug it in again if no data come.</source>
-        <translation>부트로더가 다시 시작을 확인하지 않았습니다. 데이터가 오지 않으면 장치를 뽑았다가 다시 연결하십시오.</translation>
-    </message>
-    <message>
-        <source>Stop the download? The device has no complete firmware then. Its bootloader stays: press Connect, then Download.</source>
-        <translation>다운로드를 중지하시겠습니까? 중지하면 장치의 펌웨어가 불완전해집니다. 부트로더는 남아 있으므로 &apos;연결&apos;, &apos;다운로드&apos;를 차례로 누르십시오.</translation>
-    </message>
-    <message>
         <source>Stop the download</source>
         <translation>다운로드 중지</translation>
-    </message>
-    <message>
-        <source>Go on</source>
-        <translation>계속</translation>
-    </message>
-    <message>
-        <source>Ends the bootloader: the device starts the firmware that it has</source>
-        <translation>부트로더를 끝내고 현재 펌웨어를 시작합니다</translation>
     </message>
     <message>
         <source>No bootloader is connected.</source>
@@ -3641,10 +3576,6 @@ Ready to download firmware.
     <message>
         <source>The download was stopped.</source>
         <translation>다운로드가 중지되었습니다.</translation>
-    </message>
-    <message>
-        <source>Download it all the same</source>
-        <translation>그래도 다운로드</translation>
     </message>
     <message>
         <source>&amp;Save report…</source>
@@ -3671,40 +3602,12 @@ Ready to download firmware.
         <translation>아무것도 지우거나 쓰지 않았습니다. 위에 표시된 이유를 확인하십시오.</translation>
     </message>
     <message>
-        <source>The file %1 is gone: choose another one.</source>
-        <translation>%1 파일을 찾을 수 없습니다. 다른 파일을 선택하십시오.</translation>
-    </message>
-    <message>
-        <source>The file is not the one that was being written: it has changed since. Press Download to write it as it is now.</source>
-        <translation>이 파일은 쓰던 당시의 내용에서 변경되었습니다. 현재 내용을 쓰려면 &apos;다운로드&apos;를 누르십시오.</translation>
-    </message>
-    <message>
-        <source>Saves what was done and what has come of it as text</source>
-        <translation>수행한 내용과 그 결과를 텍스트로 저장합니다</translation>
-    </message>
-    <message>
-        <source>There was no update yet.</source>
-        <translation>아직 업데이트를 수행하지 않았습니다.</translation>
-    </message>
-    <message>
-        <source>Something speaks against this image: tick &quot;%1&quot; to write it.</source>
-        <translation>이 이미지에 문제가 있을 수 있습니다. 쓰려면 &apos;%1&apos;에 체크하십시오.</translation>
-    </message>
-    <message>
-        <source>The file has changed since it was loaded. Choose it again to load the new one.</source>
-        <translation>파일을 불러온 뒤에 변경되었습니다. 새 내용을 불러오려면 다시 선택하십시오.</translation>
-    </message>
-    <message>
         <source>Restart the program</source>
         <translation>프로그램 다시 시작</translation>
     </message>
     <message>
         <source>Use packets of %1 bytes</source>
         <translation>%1바이트 패킷 사용</translation>
-    </message>
-    <message>
-        <source>Erase all the same</source>
-        <translation>그래도 지우기</translation>
     </message>
     <message>
         <source>Save Report</source>
@@ -3717,6 +3620,98 @@ Ready to download firmware.
     <message>
         <source>The bootloader is connected: press Download, or Restart device.</source>
         <translation>부트로더에 연결되었습니다. &apos;다운로드&apos; 또는 &apos;장치 다시 시작&apos;을 누르십시오.</translation>
+    </message>
+    <message>
+        <source>Download anyway</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The download has to finish first: until then the device has no complete firmware.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave as is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The device restarts with its present firmware.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bootloader did not confirm the restart. Unplug the device and plug it in again if no data arrive.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop the download? The device will have no complete firmware. Its bootloader remains: press Connect, then Download.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep downloading</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The image could not be loaded; the device is unchanged. Choose another file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file %1 no longer exists: choose another one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has changed since the interrupted update. Press Download to write it as it is now.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saves what was done and how it ended as text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No update has run yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are doubts about this image: tick &quot;%1&quot; to write it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leaves the bootloader: the device starts its present firmware</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has changed since it was loaded. Choose it again to load the new version.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Erase anyway</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The serial port is closed or accepts no data.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The device answered, but not like a bootloader.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was written: the device&apos;s firmware is unchanged.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bootloader is still in the device: press Connect, then Download.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bootloader accepts no data: it reports packets of %1 bytes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no file at this path: choose an image.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not a loadable Intel HEX file. See debug.log for the reason, or choose another file.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3939,10 +3934,6 @@ No frame stream detected.</source>
         <translation>%1바이트 패킷은 가능합니다.</translation>
     </message>
     <message>
-        <source>%1 baud or more is fast enough, too.</source>
-        <translation>%1 baud 이상의 속도에서도 가능합니다.</translation>
-    </message>
-    <message>
         <source>The image is empty.</source>
         <translation>이미지가 비어 있습니다.</translation>
     </message>
@@ -3951,56 +3942,12 @@ No frame stream detected.</source>
         <translation>파일의 시작 주소는 %1이지만, 이번 실행에서 처음 사용한 파일의 시작 주소인 %2에 쓰게 됩니다. 파일 자체의 주소에 쓰려면 프로그램을 다시 시작하십시오.</translation>
     </message>
     <message>
-        <source>The bootloader takes no data: it reports packets of %1 bytes.</source>
-        <translation>부트로더가 데이터를 받지 않습니다(보고된 패킷 크기: %1바이트).</translation>
-    </message>
-    <message>
         <source>The image does not fit the %1 KB of flash from this address on.</source>
         <translation>이 주소부터는 이미지가 %1 KB 플래시에 들어가지 않습니다.</translation>
     </message>
     <message>
-        <source>This chip has not ended an erase of this size within 1.5 s before, and the protocol waits no longer: it would be erased and not written.</source>
-        <translation>이 칩은 이전에 이 크기의 지우기를 1.5초 안에 끝내지 못했습니다. 프로토콜은 그 이상 기다리지 않으므로 지우기만 하고 쓰지 못하게 됩니다.</translation>
-    </message>
-    <message>
-        <source>The file has no end record: a part of it may be missing.</source>
-        <translation>파일에 종료 레코드가 없습니다. 일부가 누락되었을 수 있습니다.</translation>
-    </message>
-    <message>
-        <source>The file has data after a blank line, where the image ends: they would not be written.</source>
-        <translation>파일의 빈 줄 뒤에 데이터가 있습니다. 이미지는 빈 줄에서 끝나므로 그 데이터는 쓰지 않습니다.</translation>
-    </message>
-    <message>
-        <source>The file has data after a start address or an unknown record, where the image ends: they would not be written.</source>
-        <translation>파일의 시작 주소 또는 알 수 없는 레코드 뒤에 데이터가 있습니다. 이미지는 거기서 끝나므로 그 데이터는 쓰지 않습니다.</translation>
-    </message>
-    <message>
-        <source>The file has data after its end record: they would not be written.</source>
-        <translation>파일의 종료 레코드 뒤에 데이터가 있습니다. 그 데이터는 쓰지 않습니다.</translation>
-    </message>
-    <message>
-        <source>The image does not begin at a sector of %1 bytes: what stands before it in its sector is erased, too.</source>
-        <translation>이미지가 %1바이트 섹터의 경계에서 시작하지 않습니다. 같은 섹터에서 이미지 앞에 있는 내용도 지워집니다.</translation>
-    </message>
-    <message>
-        <source>The update before was for %1, this one is for %2.</source>
-        <translation>이전 업데이트의 주소는 %1, 이번 업데이트의 주소는 %2입니다.</translation>
-    </message>
-    <message>
         <source>The image&apos;s build of %1 is older than the device&apos;s: %2.</source>
         <translation>이미지의 빌드(%1)가 장치의 빌드(%2)보다 오래되었습니다.</translation>
-    </message>
-    <message>
-        <source>The stack pointer is no word address in RAM.</source>
-        <translation>스택 포인터가 RAM의 워드 주소가 아닙니다.</translation>
-    </message>
-    <message>
-        <source>The reset vector is no Thumb address inside the image.</source>
-        <translation>리셋 벡터가 이미지 안의 Thumb 주소가 아닙니다.</translation>
-    </message>
-    <message>
-        <source>The image is very small for a firmware.</source>
-        <translation>펌웨어로는 이미지가 너무 작습니다.</translation>
     </message>
     <message>
         <source>Not verified: this bootloader cannot read the flash back.</source>
@@ -4015,10 +3962,6 @@ No frame stream detected.</source>
         <translation>검증 안 됨: 부트로더가 플래시 다시 읽기를 거부했습니다(상태 코드 %1).</translation>
     </message>
     <message>
-        <source>Not verified: reading the flash back did not come to its end.</source>
-        <translation>검증 안 됨: 플래시 다시 읽기가 끝까지 완료되지 않았습니다.</translation>
-    </message>
-    <message>
         <source>%1 packets were sent again after silence and may have been written twice: the firmware may be wrong even if it starts.</source>
         <translation>응답이 없어 패킷 %1개를 재전송했으며 두 번 기록되었을 수 있습니다. 시작되더라도 펌웨어가 올바르지 않을 수 있습니다.</translation>
     </message>
@@ -4029,10 +3972,6 @@ No frame stream detected.</source>
     <message>
         <source>But the bootloader did not confirm the whole image.</source>
         <translation>다만 부트로더가 이미지 전체의 수신을 확인하지 않았습니다.</translation>
-    </message>
-    <message>
-        <source>The flash was read back: it is the image.</source>
-        <translation>플래시를 다시 읽어 이미지와 일치함을 확인했습니다.</translation>
     </message>
     <message>
         <source>%1 bytes were written in %2 s, %3 of %4 packets were sent again.</source>
@@ -4047,20 +3986,12 @@ No frame stream detected.</source>
         <translation>이 펌웨어는 실행하면 안 되므로 장치를 다시 시작하지 않았습니다.</translation>
     </message>
     <message>
-        <source>The bootloader stays in the device: press Connect, then Download.</source>
-        <translation>부트로더는 장치에 남아 있습니다. &apos;연결&apos;, &apos;다운로드&apos;를 차례로 누르십시오.</translation>
-    </message>
-    <message>
         <source>Reading the flash back was stopped.</source>
         <translation>플래시 다시 읽기가 중지되었습니다.</translation>
     </message>
     <message>
         <source>The connection to the device was lost.</source>
         <translation>장치와의 연결이 끊어졌습니다.</translation>
-    </message>
-    <message>
-        <source>The image was written, but nothing proves that it is right.</source>
-        <translation>이미지를 썼지만 올바른지 확인되지 않았습니다.</translation>
     </message>
     <message>
         <source>Check the cable, open the port again and press Connect.</source>
@@ -4119,10 +4050,6 @@ No frame stream detected.</source>
         <translation>복귀하지 않음</translation>
     </message>
     <message>
-        <source>The folder takes no files: after a crash nothing would have reminded you.</source>
-        <translation>폴더에 파일을 쓸 수 없습니다. 프로그램이 비정상 종료되었더라도 이 업데이트에 대한 알림이 표시되지 않았을 것입니다.</translation>
-    </message>
-    <message>
         <source>The device is back with its new firmware.</source>
         <translation>장치가 새 펌웨어로 복귀했습니다.</translation>
     </message>
@@ -4133,22 +4060,6 @@ No frame stream detected.</source>
     <message>
         <source>Press Connect and download again, at a higher baud rate if there is one.</source>
         <translation>&apos;연결&apos;을 누르고 다시 다운로드하십시오. 가능하면 더 높은 보드 레이트를 사용하십시오.</translation>
-    </message>
-    <message>
-        <source>But the device is back with the build that it had before.</source>
-        <translation>다만 장치가 이전과 같은 빌드로 복귀했습니다.</translation>
-    </message>
-    <message>
-        <source>Check that this is the file that you meant.</source>
-        <translation>의도한 파일이 맞는지 확인하십시오.</translation>
-    </message>
-    <message>
-        <source>Check that this is the file that you meant, then press Connect and download again.</source>
-        <translation>의도한 파일이 맞는지 확인한 다음 &apos;연결&apos;을 누르고 다시 다운로드하십시오.</translation>
-    </message>
-    <message>
-        <source>But the device has not introduced itself since its restart.</source>
-        <translation>다만 다시 시작한 뒤 장치의 식별 정보가 수신되지 않았습니다.</translation>
     </message>
     <message>
         <source>Unplug it and plug it in again, and open its port: the new firmware may use another baud rate. If its bootloader answers there, this window opens by itself.</source>
@@ -4167,12 +4078,96 @@ No frame stream detected.</source>
         <translation>%1(%2)</translation>
     </message>
     <message>
-        <source>The update of %1 with %2, begun %3, was written to the end, but it is not proved that it is right.</source>
-        <translation>%3에 시작한 %1 업데이트(%2)는 끝까지 기록되었지만 올바른지 확인되지 않았습니다.</translation>
+        <source>%1 baud or more is also fast enough.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The update of %1 with %2, begun %3, was interrupted at %4 of %5 bytes.</source>
-        <translation>%3에 시작한 %1 업데이트(%2)가 %5바이트 중 %4바이트에서 중단되었습니다.</translation>
+        <source>The bootloader accepts no data: it reports packets of %1 bytes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An earlier erase of this size took this chip more than 1.5 s, and the protocol waits no longer: it would be erased and not written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has no end record: part of it may be missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data after a blank line, where the image ends, would not be written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data after a start address or an unknown record, where the image ends, would not be written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data after the end record would not be written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The image does not begin at the start of a sector (%1 bytes): what precedes it in the sector is erased too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The previous update was for %1, this one is for %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The stack pointer is not a word address in RAM.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The reset vector is not a Thumb address inside the image.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The image is very small for firmware.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not verified: reading the flash back did not finish.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The flash was read back and matches the image.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bootloader is still in the device: press Connect, then Download.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The image was written, but not verified.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder is not writable: after a crash there would have been no reminder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>But the device came back with its previous build.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check that this is the right file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check that this is the right file, then press Connect and download again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>But the device has not identified itself since its restart.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The update of %1 with %2, started %3, was written completely but not verified.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The update of %1 with %2, started %3, was interrupted at %4 of %5 bytes.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

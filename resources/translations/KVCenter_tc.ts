@@ -192,6 +192,25 @@
     </message>
 </context>
 <context>
+    <name>ChartBarTools</name>
+    <message>
+        <source>Save charts</source>
+        <translation>儲存圖表</translation>
+    </message>
+    <message>
+        <source>List of markers; M sets one</source>
+        <translation>標記清單；按 M 鍵新增標記</translation>
+    </message>
+    <message>
+        <source>Let each chart have its own time axis and cursors</source>
+        <translation>各圖表使用獨立的時間軸與游標</translation>
+    </message>
+    <message>
+        <source>Couple time axes and cursors of all charts</source>
+        <translation>連動所有圖表的時間軸與游標</translation>
+    </message>
+</context>
+<context>
     <name>ChartFilterRow</name>
     <message>
         <source>Low-pass filter</source>
@@ -839,22 +858,6 @@
         <source>Connect a wireless gateway; its nodes appear here.</source>
         <translation>請連接無線閘道器，其節點會顯示在這裡。</translation>
     </message>
-    <message>
-        <source>Let each chart have its own time axis and cursors</source>
-        <translation>各圖表使用獨立的時間軸與游標</translation>
-    </message>
-    <message>
-        <source>Couple time axes and cursors of all charts</source>
-        <translation>連動所有圖表的時間軸與游標</translation>
-    </message>
-    <message>
-        <source>Save charts</source>
-        <translation>儲存圖表</translation>
-    </message>
-    <message>
-        <source>List of markers; M sets one</source>
-        <translation>標記清單；按 M 鍵新增標記</translation>
-    </message>
 </context>
 <context>
     <name>GatewayDashboardBridge</name>
@@ -1374,22 +1377,6 @@ Pa</translation>
         <source>Choose above what to show.</source>
         <translation>請在上方選擇要顯示的內容。</translation>
     </message>
-    <message>
-        <source>Let each chart have its own time axis and cursors</source>
-        <translation>各圖表使用獨立的時間軸與游標</translation>
-    </message>
-    <message>
-        <source>Couple time axes and cursors of all charts</source>
-        <translation>連動所有圖表的時間軸與游標</translation>
-    </message>
-    <message>
-        <source>Save charts</source>
-        <translation>儲存圖表</translation>
-    </message>
-    <message>
-        <source>List of markers; M sets one</source>
-        <translation>標記清單；按 M 鍵新增標記</translation>
-    </message>
 </context>
 <context>
     <name>SensorDashboardBridge</name>
@@ -1694,6 +1681,14 @@ Pa</translation>
         <source>Back to the live samples; wait for the next event</source>
         <translation>回到即時資料，等待下一個事件</translation>
     </message>
+    <message>
+        <source>Record</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start a recording with the event, with the last folder and name</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>UpdateNoteCard</name>
@@ -1702,16 +1697,8 @@ Pa</translation>
         <translation>裝置處於啟動載入程式中，不傳送資料：請重新啟動裝置，或選擇韌體。</translation>
     </message>
     <message>
-        <source>The device waits in its bootloader.</source>
-        <translation>裝置正在啟動載入程式中等待。</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>繼續</translation>
-    </message>
-    <message>
-        <source>Chooses the same file, connects, and downloads it</source>
-        <translation>選擇同一檔案，連線至裝置並燒錄</translation>
     </message>
     <message>
         <source>Choose firmware</source>
@@ -1722,8 +1709,16 @@ Pa</translation>
         <translation>不再提醒</translation>
     </message>
     <message>
-        <source>Ends the reminder of this update</source>
-        <translation>不再顯示此次更新的提醒</translation>
+        <source>The device is waiting in its bootloader.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chooses the same file, connects and downloads it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Removes the reminder of this update</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3263,10 +3258,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
 </translation>
     </message>
     <message>
-        <source>The download has to end first: without it the device has no complete firmware.</source>
-        <translation>必須等待燒錄結束，否則裝置中沒有完整的韌體。</translation>
-    </message>
-    <message>
         <source>Text Files(*.hex)</source>
         <translation>HEX 檔案 (*.hex)</translation>
     </message>
@@ -3413,10 +3404,6 @@ Ready to download firmware.
 </translation>
     </message>
     <message>
-        <source>The image could not be loaded; the device is as it was. Choose another file.</source>
-        <translation>無法載入映像檔；裝置未受變更。請選擇其他檔案。</translation>
-    </message>
-    <message>
         <source>
 --- Starting download ---
 </source>
@@ -3483,24 +3470,8 @@ Ready to download firmware.
         <translation>等待連線至啟動載入程式</translation>
     </message>
     <message>
-        <source>There is no file at this place: choose an image.</source>
-        <translation>此位置沒有檔案：請選擇映像檔。</translation>
-    </message>
-    <message>
-        <source>This is no Intel HEX file that can be loaded; the log file debug.log says why. Choose another one.</source>
-        <translation>這不是可載入的 Intel HEX 檔案，原因請查看日誌檔 debug.log。請選擇其他檔案。</translation>
-    </message>
-    <message>
-        <source>The serial port is closed or takes no data.</source>
-        <translation>序列埠已關閉，或無法傳送資料。</translation>
-    </message>
-    <message>
         <source>The connection to the device was lost.</source>
         <translation>與裝置的連線已中斷。</translation>
-    </message>
-    <message>
-        <source>The device answered, but not as its bootloader does.</source>
-        <translation>裝置有回應，但並非啟動載入程式的回應。</translation>
     </message>
     <message>
         <source>The bootloader refused a packet.</source>
@@ -3543,24 +3514,12 @@ Ready to download firmware.
         <translation>已寫入 %1 / %2 位元組：韌體不完整，無法啟動。</translation>
     </message>
     <message>
-        <source>Nothing was written: the firmware of the device is as it was.</source>
-        <translation>未寫入任何資料：裝置的韌體未受變更。</translation>
-    </message>
-    <message>
         <source>Check the cable, open the port again and press Connect.</source>
         <translation>請檢查連接線，重新開啟序列埠，然後按一下「連線」。</translation>
     </message>
     <message>
         <source>Check power, port and baud rate, then press Connect again.</source>
         <translation>請檢查電源、序列埠與鮑率，然後再按一下「連線」。</translation>
-    </message>
-    <message>
-        <source>The bootloader stays in the device: press Connect, then Download.</source>
-        <translation>啟動載入程式仍保留在裝置中：請按一下「連線」，再按一下「燒錄」。</translation>
-    </message>
-    <message>
-        <source>The bootloader takes no data: it reports packets of %1 bytes.</source>
-        <translation>啟動載入程式無法接收資料：其回報的封包大小為 %1 位元組。</translation>
     </message>
     <message>
         <source>It had reported status %1 before.</source>
@@ -3595,32 +3554,8 @@ Ready to download firmware.
         <translation>裝置仍處於啟動載入程式中：重新啟動之前不會傳送資料。</translation>
     </message>
     <message>
-        <source>Leave it so</source>
-        <translation>保持不變</translation>
-    </message>
-    <message>
-        <source>The device restarts with the firmware that it has.</source>
-        <translation>裝置以現有韌體重新啟動。</translation>
-    </message>
-    <message>
-        <source>The bootloader did not confirm the restart. Unplug the device and plug it in again if no data come.</source>
-        <translation>啟動載入程式未確認重新啟動。如果沒有資料，請拔下裝置後重新插入。</translation>
-    </message>
-    <message>
-        <source>Stop the download? The device has no complete firmware then. Its bootloader stays: press Connect, then Download.</source>
-        <translation>要停止燒錄嗎？停止後裝置中沒有完整的韌體，但啟動載入程式仍在：請按一下「連線」，然後按一下「燒錄」。</translation>
-    </message>
-    <message>
         <source>Stop the download</source>
         <translation>停止燒錄</translation>
-    </message>
-    <message>
-        <source>Go on</source>
-        <translation>繼續</translation>
-    </message>
-    <message>
-        <source>Ends the bootloader: the device starts the firmware that it has</source>
-        <translation>結束啟動載入程式：裝置啟動現有韌體</translation>
     </message>
     <message>
         <source>No bootloader is connected.</source>
@@ -3641,10 +3576,6 @@ Ready to download firmware.
     <message>
         <source>The download was stopped.</source>
         <translation>燒錄已停止。</translation>
-    </message>
-    <message>
-        <source>Download it all the same</source>
-        <translation>仍要燒錄</translation>
     </message>
     <message>
         <source>&amp;Save report…</source>
@@ -3671,40 +3602,12 @@ Ready to download firmware.
         <translation>未抹除也未寫入任何資料：原因請見上方。</translation>
     </message>
     <message>
-        <source>The file %1 is gone: choose another one.</source>
-        <translation>檔案 %1 已不存在：請選擇其他檔案。</translation>
-    </message>
-    <message>
-        <source>The file is not the one that was being written: it has changed since. Press Download to write it as it is now.</source>
-        <translation>此檔案與當時寫入的檔案不同：之後已遭變更。按一下「燒錄」將寫入其目前的內容。</translation>
-    </message>
-    <message>
-        <source>Saves what was done and what has come of it as text</source>
-        <translation>將更新過程與結果儲存為文字</translation>
-    </message>
-    <message>
-        <source>There was no update yet.</source>
-        <translation>尚未進行更新。</translation>
-    </message>
-    <message>
-        <source>Something speaks against this image: tick &quot;%1&quot; to write it.</source>
-        <translation>此映像檔有疑慮：勾選「%1」後才能寫入。</translation>
-    </message>
-    <message>
-        <source>The file has changed since it was loaded. Choose it again to load the new one.</source>
-        <translation>檔案在載入後已遭變更。請重新選擇，以載入新檔案。</translation>
-    </message>
-    <message>
         <source>Restart the program</source>
         <translation>重新啟動程式</translation>
     </message>
     <message>
         <source>Use packets of %1 bytes</source>
         <translation>使用 %1 位元組的封包</translation>
-    </message>
-    <message>
-        <source>Erase all the same</source>
-        <translation>仍要抹除</translation>
     </message>
     <message>
         <source>Save Report</source>
@@ -3717,6 +3620,98 @@ Ready to download firmware.
     <message>
         <source>The bootloader is connected: press Download, or Restart device.</source>
         <translation>啟動載入程式已連線：請按一下「燒錄」或「重新啟動裝置」。</translation>
+    </message>
+    <message>
+        <source>Download anyway</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The download has to finish first: until then the device has no complete firmware.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave as is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The device restarts with its present firmware.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bootloader did not confirm the restart. Unplug the device and plug it in again if no data arrive.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop the download? The device will have no complete firmware. Its bootloader remains: press Connect, then Download.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep downloading</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The image could not be loaded; the device is unchanged. Choose another file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file %1 no longer exists: choose another one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has changed since the interrupted update. Press Download to write it as it is now.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saves what was done and how it ended as text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No update has run yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are doubts about this image: tick &quot;%1&quot; to write it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leaves the bootloader: the device starts its present firmware</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has changed since it was loaded. Choose it again to load the new version.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Erase anyway</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The serial port is closed or accepts no data.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The device answered, but not like a bootloader.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was written: the device&apos;s firmware is unchanged.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bootloader is still in the device: press Connect, then Download.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bootloader accepts no data: it reports packets of %1 bytes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no file at this path: choose an image.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not a loadable Intel HEX file. See debug.log for the reason, or choose another file.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3939,10 +3934,6 @@ No frame stream detected.</source>
         <translation>%1 位元組的封包則可以。</translation>
     </message>
     <message>
-        <source>%1 baud or more is fast enough, too.</source>
-        <translation>改用 %1 或更高的鮑率也夠快。</translation>
-    </message>
-    <message>
         <source>The image is empty.</source>
         <translation>映像檔是空的。</translation>
     </message>
@@ -3951,56 +3942,12 @@ No frame stream detected.</source>
         <translation>檔案的起始位址為 %1，但會寫入 %2，即本次執行中第一個檔案的起始位址。若要將其寫入本身的位址，請重新啟動程式。</translation>
     </message>
     <message>
-        <source>The bootloader takes no data: it reports packets of %1 bytes.</source>
-        <translation>啟動載入程式無法接收資料：其回報的封包大小為 %1 位元組。</translation>
-    </message>
-    <message>
         <source>The image does not fit the %1 KB of flash from this address on.</source>
         <translation>從此位址起，映像檔超出了 %1 KB 的快閃記憶體空間。</translation>
     </message>
     <message>
-        <source>This chip has not ended an erase of this size within 1.5 s before, and the protocol waits no longer: it would be erased and not written.</source>
-        <translation>此晶片先前未能在 1.5 秒內完成此大小的抹除，而協定最多等待 1.5 秒：晶片會被抹除，卻無法寫入。</translation>
-    </message>
-    <message>
-        <source>The file has no end record: a part of it may be missing.</source>
-        <translation>檔案沒有結束記錄：可能缺少一部分內容。</translation>
-    </message>
-    <message>
-        <source>The file has data after a blank line, where the image ends: they would not be written.</source>
-        <translation>檔案在空行之後還有資料，而映像檔到空行為止：這些資料不會寫入。</translation>
-    </message>
-    <message>
-        <source>The file has data after a start address or an unknown record, where the image ends: they would not be written.</source>
-        <translation>檔案在起始位址記錄或未知記錄之後還有資料，而映像檔到該記錄為止：這些資料不會寫入。</translation>
-    </message>
-    <message>
-        <source>The file has data after its end record: they would not be written.</source>
-        <translation>檔案在結束記錄之後還有資料：這些資料不會寫入。</translation>
-    </message>
-    <message>
-        <source>The image does not begin at a sector of %1 bytes: what stands before it in its sector is erased, too.</source>
-        <translation>映像檔不是從磁區（%1 位元組）的起點開始：同一磁區中位於映像檔之前的內容也會被抹除。</translation>
-    </message>
-    <message>
-        <source>The update before was for %1, this one is for %2.</source>
-        <translation>上次更新的位址為 %1，本次為 %2。</translation>
-    </message>
-    <message>
         <source>The image&apos;s build of %1 is older than the device&apos;s: %2.</source>
         <translation>映像檔的組建日期為 %1，早於裝置的組建：%2。</translation>
-    </message>
-    <message>
-        <source>The stack pointer is no word address in RAM.</source>
-        <translation>堆疊指標不是 RAM 中以字組對齊的位址。</translation>
-    </message>
-    <message>
-        <source>The reset vector is no Thumb address inside the image.</source>
-        <translation>重置向量不是映像檔內的 Thumb 位址。</translation>
-    </message>
-    <message>
-        <source>The image is very small for a firmware.</source>
-        <translation>以韌體而言，此映像檔過小。</translation>
     </message>
     <message>
         <source>Not verified: this bootloader cannot read the flash back.</source>
@@ -4015,10 +3962,6 @@ No frame stream detected.</source>
         <translation>未驗證：啟動載入程式拒絕回讀快閃記憶體（狀態 %1）。</translation>
     </message>
     <message>
-        <source>Not verified: reading the flash back did not come to its end.</source>
-        <translation>未驗證：快閃記憶體回讀未能完成。</translation>
-    </message>
-    <message>
         <source>%1 packets were sent again after silence and may have been written twice: the firmware may be wrong even if it starts.</source>
         <translation>%1 個封包因無回應而重送，可能寫入了兩次：韌體即使能啟動，也可能有誤。</translation>
     </message>
@@ -4029,10 +3972,6 @@ No frame stream detected.</source>
     <message>
         <source>But the bootloader did not confirm the whole image.</source>
         <translation>但啟動載入程式未確認完整的映像檔。</translation>
-    </message>
-    <message>
-        <source>The flash was read back: it is the image.</source>
-        <translation>已回讀快閃記憶體：內容與映像檔一致。</translation>
     </message>
     <message>
         <source>%1 bytes were written in %2 s, %3 of %4 packets were sent again.</source>
@@ -4047,20 +3986,12 @@ No frame stream detected.</source>
         <translation>裝置未重新啟動：此韌體不可執行。</translation>
     </message>
     <message>
-        <source>The bootloader stays in the device: press Connect, then Download.</source>
-        <translation>啟動載入程式仍保留在裝置中：請按一下「連線」，再按一下「燒錄」。</translation>
-    </message>
-    <message>
         <source>Reading the flash back was stopped.</source>
         <translation>快閃記憶體回讀已停止。</translation>
     </message>
     <message>
         <source>The connection to the device was lost.</source>
         <translation>與裝置的連線已中斷。</translation>
-    </message>
-    <message>
-        <source>The image was written, but nothing proves that it is right.</source>
-        <translation>映像檔已寫入，但無法證明其正確。</translation>
     </message>
     <message>
         <source>Check the cable, open the port again and press Connect.</source>
@@ -4119,10 +4050,6 @@ No frame stream detected.</source>
         <translation>裝置未恢復</translation>
     </message>
     <message>
-        <source>The folder takes no files: after a crash nothing would have reminded you.</source>
-        <translation>資料夾無法寫入：假如程式當機，之後不會有任何提醒。</translation>
-    </message>
-    <message>
         <source>The device is back with its new firmware.</source>
         <translation>裝置已恢復，正在執行新韌體。</translation>
     </message>
@@ -4133,22 +4060,6 @@ No frame stream detected.</source>
     <message>
         <source>Press Connect and download again, at a higher baud rate if there is one.</source>
         <translation>請按一下「連線」並重新燒錄；如有更高的鮑率可用，請改用。</translation>
-    </message>
-    <message>
-        <source>But the device is back with the build that it had before.</source>
-        <translation>但裝置恢復後，版本仍與先前相同。</translation>
-    </message>
-    <message>
-        <source>Check that this is the file that you meant.</source>
-        <translation>請確認所選檔案是否正確。</translation>
-    </message>
-    <message>
-        <source>Check that this is the file that you meant, then press Connect and download again.</source>
-        <translation>請確認所選檔案是否正確，然後按一下「連線」並重新燒錄。</translation>
-    </message>
-    <message>
-        <source>But the device has not introduced itself since its restart.</source>
-        <translation>但裝置重新啟動後尚未回報本身的資訊。</translation>
     </message>
     <message>
         <source>Unplug it and plug it in again, and open its port: the new firmware may use another baud rate. If its bootloader answers there, this window opens by itself.</source>
@@ -4167,12 +4078,96 @@ No frame stream detected.</source>
         <translation>%1（%2）</translation>
     </message>
     <message>
-        <source>The update of %1 with %2, begun %3, was written to the end, but it is not proved that it is right.</source>
-        <translation>以 %2 對 %1 進行的更新（開始於 %3）已全部寫入，但未能證明其正確。</translation>
+        <source>%1 baud or more is also fast enough.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The update of %1 with %2, begun %3, was interrupted at %4 of %5 bytes.</source>
-        <translation>以 %2 對 %1 進行的更新（開始於 %3）在 %4 / %5 位元組處中斷。</translation>
+        <source>The bootloader accepts no data: it reports packets of %1 bytes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An earlier erase of this size took this chip more than 1.5 s, and the protocol waits no longer: it would be erased and not written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has no end record: part of it may be missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data after a blank line, where the image ends, would not be written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data after a start address or an unknown record, where the image ends, would not be written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data after the end record would not be written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The image does not begin at the start of a sector (%1 bytes): what precedes it in the sector is erased too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The previous update was for %1, this one is for %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The stack pointer is not a word address in RAM.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The reset vector is not a Thumb address inside the image.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The image is very small for firmware.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not verified: reading the flash back did not finish.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The flash was read back and matches the image.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bootloader is still in the device: press Connect, then Download.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The image was written, but not verified.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder is not writable: after a crash there would have been no reminder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>But the device came back with its previous build.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check that this is the right file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check that this is the right file, then press Connect and download again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>But the device has not identified itself since its restart.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The update of %1 with %2, started %3, was written completely but not verified.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The update of %1 with %2, started %3, was interrupted at %4 of %5 bytes.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>
