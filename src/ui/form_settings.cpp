@@ -179,7 +179,7 @@ void form_settings::on_BTN_save_clicked()
     if (problem.isEmpty())
         save();
     else
-        m_question.ask(this, problem, tr("Save all the same"), tr("Cancel"), [this] { save(); });
+        m_question.ask(this, problem, tr("Save anyway"), tr("Cancel"), [this] { save(); });
 }
 
 void form_settings::save()

@@ -33,7 +33,7 @@ QString session_text::refusal(Refusal refusal)
     case Refusal::NoDownload:
         return Text::tr("No download runs.");
     case Refusal::Updating:
-        return Text::tr("A firmware download runs. It has to end first.");
+        return Text::tr("A firmware download runs. It has to finish first.");
     case Refusal::Closing:
         return Text::tr("The port is being closed.");
     }

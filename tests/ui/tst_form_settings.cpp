@@ -258,7 +258,7 @@ private slots:
         QVERIFY(question != nullptr && question->text().contains(load));
         const bool isSaved = load.startsWith(u'2');
         for (QAbstractButton *button : question->buttons()) {
-            if (button->text() == QLatin1String(isSaved ? "Save all the same" : "Cancel"))
+            if (button->text() == QLatin1String(isSaved ? "Save anyway" : "Cancel"))
                 button->click();
         }
         QCOMPARE(bench.peer.received.contains("AT+ODR=" + rate.toLatin1()), isSaved);
