@@ -16,7 +16,7 @@ FOLDER = ROOT / "resources" / "translations"
 ENGLISH = "KVCenter_en_US.ts"
 # Words that are the same everywhere: units, names, abbreviations.
 SAME = re.compile(r"^(?:[^A-Za-z]|KVCenter|kv_simulator|X|Y|Z|W|Norm|G|dB|GB|MB|KB|kB|Hz|ms|s|uT|Pa|deg|min|A|B|CSV|PNG|UUID|ID|OK|AT|"
-                  r"IMU|ORVEL|baud|UTC|Fn|PPS|Ctrl|Esc|Home|End|F[0-9]+|M|\bt\b|Δ|%n|RFU|ENU|FLU|NWU|SP|PC|0x|SDID|KBOOT|Ctrl\+(?:Shift\+)?[A-Z0-9])+$")
+                  r"IMU|ORVEL|baud|UTC|Fn|PPS|Ctrl|Esc|Home|End|F[0-9]+|M|RMS|\bt\b|Δ|%n|RFU|ENU|FLU|NWU|SP|PC|0x|SDID|KBOOT|Ctrl\+(?:Shift\+)?[A-Z0-9])+$")
 
 
 def messages(path):

@@ -1683,11 +1683,11 @@ Pa</translation>
     </message>
     <message>
         <source>Record</source>
-        <translation type="unfinished"></translation>
+        <translation>记录</translation>
     </message>
     <message>
         <source>Start a recording with the event, with the last folder and name</source>
-        <translation type="unfinished"></translation>
+        <translation>事件发生时开始记录，使用上次的文件夹和名称</translation>
     </message>
 </context>
 <context>
@@ -1710,15 +1710,15 @@ Pa</translation>
     </message>
     <message>
         <source>The device is waiting in its bootloader.</source>
-        <translation type="unfinished"></translation>
+        <translation>设备正在引导程序中等待。</translation>
     </message>
     <message>
         <source>Chooses the same file, connects and downloads it</source>
-        <translation type="unfinished"></translation>
+        <translation>选择同一文件，连接设备并烧录</translation>
     </message>
     <message>
         <source>Removes the reminder of this update</source>
-        <translation type="unfinished"></translation>
+        <translation>移除此次升级的提醒</translation>
     </message>
 </context>
 <context>
@@ -3048,10 +3048,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <translation>设备至少拒绝了以下命令之一：%1。</translation>
     </message>
     <message>
-        <source>Save all the same</source>
-        <translation>仍然保存</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
@@ -3066,6 +3062,10 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>%1 Hz takes %2 % of what this line carries at %3 baud: samples get lost.</source>
         <translation>波特率为 %3 时，%1 Hz 需要占用线路传输能力的 %2 %：采样会丢失。</translation>
+    </message>
+    <message>
+        <source>Save anyway</source>
+        <translation>仍然保存</translation>
     </message>
 </context>
 <context>
@@ -3623,95 +3623,95 @@ Ready to download firmware.
     </message>
     <message>
         <source>Download anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>仍然烧录</translation>
     </message>
     <message>
         <source>The download has to finish first: until then the device has no complete firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>须等待烧录完成：在此之前，设备中没有完整的固件。</translation>
     </message>
     <message>
         <source>Leave as is</source>
-        <translation type="unfinished"></translation>
+        <translation>保持现状</translation>
     </message>
     <message>
         <source>The device restarts with its present firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>设备将以现有固件重启。</translation>
     </message>
     <message>
         <source>The bootloader did not confirm the restart. Unplug the device and plug it in again if no data arrive.</source>
-        <translation type="unfinished"></translation>
+        <translation>引导程序未确认重启。如果收不到数据，请拔下设备后重新插入。</translation>
     </message>
     <message>
         <source>Stop the download? The device will have no complete firmware. Its bootloader remains: press Connect, then Download.</source>
-        <translation type="unfinished"></translation>
+        <translation>要停止烧录吗？设备中将没有完整的固件。引导程序会保留：之后请点击“连接”，再点击“烧录”。</translation>
     </message>
     <message>
         <source>Keep downloading</source>
-        <translation type="unfinished"></translation>
+        <translation>继续烧录</translation>
     </message>
     <message>
         <source>The image could not be loaded; the device is unchanged. Choose another file.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法加载映像；设备未被更改。请选择其他文件。</translation>
     </message>
     <message>
         <source>The file %1 no longer exists: choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>文件 %1 已不存在：请选择其他文件。</translation>
     </message>
     <message>
         <source>The file has changed since the interrupted update. Press Download to write it as it is now.</source>
-        <translation type="unfinished"></translation>
+        <translation>自升级中断后，文件已被更改。点击“烧录”将写入其当前内容。</translation>
     </message>
     <message>
         <source>Saves what was done and how it ended as text</source>
-        <translation type="unfinished"></translation>
+        <translation>将升级过程和结果保存为文本</translation>
     </message>
     <message>
         <source>No update has run yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>尚未进行升级。</translation>
     </message>
     <message>
         <source>There are doubts about this image: tick &quot;%1&quot; to write it.</source>
-        <translation type="unfinished"></translation>
+        <translation>此映像存在疑点：勾选“%1”后才能写入。</translation>
     </message>
     <message>
         <source>Leaves the bootloader: the device starts its present firmware</source>
-        <translation type="unfinished"></translation>
+        <translation>退出引导程序：设备启动现有固件</translation>
     </message>
     <message>
         <source>The file has changed since it was loaded. Choose it again to load the new version.</source>
-        <translation type="unfinished"></translation>
+        <translation>文件在加载后已被更改。请重新选择，以加载新版本。</translation>
     </message>
     <message>
         <source>Erase anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>仍然擦除</translation>
     </message>
     <message>
         <source>The serial port is closed or accepts no data.</source>
-        <translation type="unfinished"></translation>
+        <translation>串口已关闭或不接收数据。</translation>
     </message>
     <message>
         <source>The device answered, but not like a bootloader.</source>
-        <translation type="unfinished"></translation>
+        <translation>设备有应答，但不是引导程序的应答。</translation>
     </message>
     <message>
         <source>Nothing was written: the device&apos;s firmware is unchanged.</source>
-        <translation type="unfinished"></translation>
+        <translation>未写入任何数据：设备中的固件未被更改。</translation>
     </message>
     <message>
         <source>The bootloader is still in the device: press Connect, then Download.</source>
-        <translation type="unfinished"></translation>
+        <translation>引导程序仍在设备中：请点击“连接”，然后点击“烧录”。</translation>
     </message>
     <message>
         <source>The bootloader accepts no data: it reports packets of %1 bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>引导程序不接收数据：其报告的数据包大小为 %1 字节。</translation>
     </message>
     <message>
         <source>There is no file at this path: choose an image.</source>
-        <translation type="unfinished"></translation>
+        <translation>此路径下没有文件：请选择映像文件。</translation>
     </message>
     <message>
         <source>Not a loadable Intel HEX file. See debug.log for the reason, or choose another file.</source>
-        <translation type="unfinished"></translation>
+        <translation>不是可加载的 Intel HEX 文件。原因请见 debug.log，或选择其他文件。</translation>
     </message>
 </context>
 <context>
@@ -3826,10 +3826,6 @@ Ready to download firmware.
         <translation>没有正在进行的烧录。</translation>
     </message>
     <message>
-        <source>A firmware download runs. It has to end first.</source>
-        <translation>正在烧录固件，须等待其结束。</translation>
-    </message>
-    <message>
         <source>The port is being closed.</source>
         <translation>正在关闭串口。</translation>
     </message>
@@ -3848,6 +3844,10 @@ Do not unplug the device.</source>
     <message>
         <source>Trying %1 baud...</source>
         <translation>正在尝试 %1 波特...</translation>
+    </message>
+    <message>
+        <source>A firmware download runs. It has to finish first.</source>
+        <translation>正在烧录固件，须等待其结束。</translation>
     </message>
 </context>
 <context>
@@ -4079,95 +4079,95 @@ No frame stream detected.</source>
     </message>
     <message>
         <source>%1 baud or more is also fast enough.</source>
-        <translation type="unfinished"></translation>
+        <translation>改用 %1 或更高的波特率也足够快。</translation>
     </message>
     <message>
         <source>The bootloader accepts no data: it reports packets of %1 bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>引导程序不接收数据：其报告的数据包大小为 %1 字节。</translation>
     </message>
     <message>
         <source>An earlier erase of this size took this chip more than 1.5 s, and the protocol waits no longer: it would be erased and not written.</source>
-        <translation type="unfinished"></translation>
+        <translation>此芯片此前擦除这一大小耗时超过 1.5 秒，而协议最多等待 1.5 秒：芯片会被擦除，却无法写入。</translation>
     </message>
     <message>
         <source>The file has no end record: part of it may be missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>文件没有结束记录：可能缺少一部分内容。</translation>
     </message>
     <message>
         <source>Data after a blank line, where the image ends, would not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>映像到空行为止，空行之后的数据不会被写入。</translation>
     </message>
     <message>
         <source>Data after a start address or an unknown record, where the image ends, would not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>映像到起始地址记录或未知记录为止，该记录之后的数据不会被写入。</translation>
     </message>
     <message>
         <source>Data after the end record would not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>结束记录之后的数据不会被写入。</translation>
     </message>
     <message>
         <source>The image does not begin at the start of a sector (%1 bytes): what precedes it in the sector is erased too.</source>
-        <translation type="unfinished"></translation>
+        <translation>映像不是从扇区（%1 字节）的起点开始：同一扇区中位于映像之前的内容也会被擦除。</translation>
     </message>
     <message>
         <source>The previous update was for %1, this one is for %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>上次升级的地址为 %1，本次为 %2。</translation>
     </message>
     <message>
         <source>The stack pointer is not a word address in RAM.</source>
-        <translation type="unfinished"></translation>
+        <translation>栈指针不是 RAM 中按字对齐的地址。</translation>
     </message>
     <message>
         <source>The reset vector is not a Thumb address inside the image.</source>
-        <translation type="unfinished"></translation>
+        <translation>复位向量不是映像范围内的 Thumb 地址。</translation>
     </message>
     <message>
         <source>The image is very small for firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>作为固件，此映像过小。</translation>
     </message>
     <message>
         <source>Not verified: reading the flash back did not finish.</source>
-        <translation type="unfinished"></translation>
+        <translation>未验证：闪存回读未能完成。</translation>
     </message>
     <message>
         <source>The flash was read back and matches the image.</source>
-        <translation type="unfinished"></translation>
+        <translation>已回读闪存：内容与映像一致。</translation>
     </message>
     <message>
         <source>The bootloader is still in the device: press Connect, then Download.</source>
-        <translation type="unfinished"></translation>
+        <translation>引导程序仍在设备中：请点击“连接”，然后点击“烧录”。</translation>
     </message>
     <message>
         <source>The image was written, but not verified.</source>
-        <translation type="unfinished"></translation>
+        <translation>映像已写入，但未经验证。</translation>
     </message>
     <message>
         <source>The folder is not writable: after a crash there would have been no reminder.</source>
-        <translation type="unfinished"></translation>
+        <translation>文件夹不可写：假如升级期间程序崩溃，就不会有任何提醒。</translation>
     </message>
     <message>
         <source>But the device came back with its previous build.</source>
-        <translation type="unfinished"></translation>
+        <translation>但设备恢复后，版本仍与之前相同。</translation>
     </message>
     <message>
         <source>Check that this is the right file.</source>
-        <translation type="unfinished"></translation>
+        <translation>请确认所选文件是否正确。</translation>
     </message>
     <message>
         <source>Check that this is the right file, then press Connect and download again.</source>
-        <translation type="unfinished"></translation>
+        <translation>请确认所选文件是否正确，然后点击“连接”并重新烧录。</translation>
     </message>
     <message>
         <source>But the device has not identified itself since its restart.</source>
-        <translation type="unfinished"></translation>
+        <translation>但设备重启后尚未报告自身信息。</translation>
     </message>
     <message>
         <source>The update of %1 with %2, started %3, was written completely but not verified.</source>
-        <translation type="unfinished"></translation>
+        <translation>以 %2 对 %1 进行的升级（开始于 %3）已全部写入，但未经验证。</translation>
     </message>
     <message>
         <source>The update of %1 with %2, started %3, was interrupted at %4 of %5 bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>以 %2 对 %1 进行的升级（开始于 %3）在 %4 / %5 字节处中断。</translation>
     </message>
 </context>
 </TS>

@@ -1683,11 +1683,11 @@ Pa</translation>
     </message>
     <message>
         <source>Record</source>
-        <translation type="unfinished"></translation>
+        <translation>記録</translation>
     </message>
     <message>
         <source>Start a recording with the event, with the last folder and name</source>
-        <translation type="unfinished"></translation>
+        <translation>イベントと同時に、前回のフォルダーと名前で記録を開始</translation>
     </message>
 </context>
 <context>
@@ -1710,15 +1710,15 @@ Pa</translation>
     </message>
     <message>
         <source>The device is waiting in its bootloader.</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスはブートローダーで待機しています。</translation>
     </message>
     <message>
         <source>Chooses the same file, connects and downloads it</source>
-        <translation type="unfinished"></translation>
+        <translation>同じファイルを選択し、接続して書き込みます</translation>
     </message>
     <message>
         <source>Removes the reminder of this update</source>
-        <translation type="unfinished"></translation>
+        <translation>この更新についての通知を消去します</translation>
     </message>
 </context>
 <context>
@@ -3048,10 +3048,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <translation>デバイスが次のうち少なくとも 1 つを受け付けませんでした：%1</translation>
     </message>
     <message>
-        <source>Save all the same</source>
-        <translation>それでも保存</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>キャンセル</translation>
     </message>
@@ -3066,6 +3062,10 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>%1 Hz takes %2 % of what this line carries at %3 baud: samples get lost.</source>
         <translation>%1 Hz では、%3 baud の回線で送れる量の %2 % に達するため、サンプルが失われます。</translation>
+    </message>
+    <message>
+        <source>Save anyway</source>
+        <translation>それでも保存</translation>
     </message>
 </context>
 <context>
@@ -3623,95 +3623,95 @@ Ready to download firmware.
     </message>
     <message>
         <source>Download anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>それでも書き込む</translation>
     </message>
     <message>
         <source>The download has to finish first: until then the device has no complete firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>先に書き込みを完了する必要があります。完了するまで、デバイスのファームウェアは不完全な状態です。</translation>
     </message>
     <message>
         <source>Leave as is</source>
-        <translation type="unfinished"></translation>
+        <translation>このままにする</translation>
     </message>
     <message>
         <source>The device restarts with its present firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスは現在のファームウェアで再起動します。</translation>
     </message>
     <message>
         <source>The bootloader did not confirm the restart. Unplug the device and plug it in again if no data arrive.</source>
-        <translation type="unfinished"></translation>
+        <translation>ブートローダーが再起動を確認しませんでした。データが届かない場合は、デバイスを抜いて差し直してください。</translation>
     </message>
     <message>
         <source>Stop the download? The device will have no complete firmware. Its bootloader remains: press Connect, then Download.</source>
-        <translation type="unfinished"></translation>
+        <translation>書き込みを停止しますか？デバイスのファームウェアは不完全な状態になります。ブートローダーは残るため、「接続」、「書き込み」の順に押せば、もう一度書き込めます。</translation>
     </message>
     <message>
         <source>Keep downloading</source>
-        <translation type="unfinished"></translation>
+        <translation>書き込みを続行</translation>
     </message>
     <message>
         <source>The image could not be loaded; the device is unchanged. Choose another file.</source>
-        <translation type="unfinished"></translation>
+        <translation>イメージを読み込めませんでした。デバイスは変更されていません。別のファイルを選択してください。</translation>
     </message>
     <message>
         <source>The file %1 no longer exists: choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル %1 はもう存在しません。別のファイルを選択してください。</translation>
     </message>
     <message>
         <source>The file has changed since the interrupted update. Press Download to write it as it is now.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルは、中断された更新の後に変更されています。現在の内容を書き込むには、「書き込み」を押してください。</translation>
     </message>
     <message>
         <source>Saves what was done and how it ended as text</source>
-        <translation type="unfinished"></translation>
+        <translation>実行した内容とその結果をテキストとして保存します</translation>
     </message>
     <message>
         <source>No update has run yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>更新はまだ行われていません。</translation>
     </message>
     <message>
         <source>There are doubts about this image: tick &quot;%1&quot; to write it.</source>
-        <translation type="unfinished"></translation>
+        <translation>このイメージには疑わしい点があります。書き込むには「%1」にチェックを入れてください。</translation>
     </message>
     <message>
         <source>Leaves the bootloader: the device starts its present firmware</source>
-        <translation type="unfinished"></translation>
+        <translation>ブートローダーを終了し、デバイスの現在のファームウェアを起動します</translation>
     </message>
     <message>
         <source>The file has changed since it was loaded. Choose it again to load the new version.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルは読み込み後に変更されています。新しい内容を読み込むには、もう一度選択してください。</translation>
     </message>
     <message>
         <source>Erase anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>それでも消去</translation>
     </message>
     <message>
         <source>The serial port is closed or accepts no data.</source>
-        <translation type="unfinished"></translation>
+        <translation>シリアルポートが閉じているか、データを受け付けません。</translation>
     </message>
     <message>
         <source>The device answered, but not like a bootloader.</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスは応答しましたが、ブートローダーの応答ではありません。</translation>
     </message>
     <message>
         <source>Nothing was written: the device&apos;s firmware is unchanged.</source>
-        <translation type="unfinished"></translation>
+        <translation>何も書き込まれていません。デバイスのファームウェアは変更されていません。</translation>
     </message>
     <message>
         <source>The bootloader is still in the device: press Connect, then Download.</source>
-        <translation type="unfinished"></translation>
+        <translation>ブートローダーはデバイスに残っています。「接続」、「書き込み」の順に押してください。</translation>
     </message>
     <message>
         <source>The bootloader accepts no data: it reports packets of %1 bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>ブートローダーがデータを受け付けません。通知されたパケットサイズは %1 バイトです。</translation>
     </message>
     <message>
         <source>There is no file at this path: choose an image.</source>
-        <translation type="unfinished"></translation>
+        <translation>このパスにファイルがありません。イメージを選択してください。</translation>
     </message>
     <message>
         <source>Not a loadable Intel HEX file. See debug.log for the reason, or choose another file.</source>
-        <translation type="unfinished"></translation>
+        <translation>読み込める Intel HEX ファイルではありません。debug.log で原因を確認するか、別のファイルを選択してください。</translation>
     </message>
 </context>
 <context>
@@ -3826,10 +3826,6 @@ Ready to download firmware.
         <translation>書き込みは行われていません。</translation>
     </message>
     <message>
-        <source>A firmware download runs. It has to end first.</source>
-        <translation>ファームウェアを書き込み中です。終わるまでお待ちください。</translation>
-    </message>
-    <message>
         <source>The port is being closed.</source>
         <translation>ポートを閉じています。</translation>
     </message>
@@ -3848,6 +3844,10 @@ Do not unplug the device.</source>
     <message>
         <source>Trying %1 baud...</source>
         <translation>%1 ボーを試しています...</translation>
+    </message>
+    <message>
+        <source>A firmware download runs. It has to finish first.</source>
+        <translation>ファームウェアを書き込み中です。終わるまでお待ちください。</translation>
     </message>
 </context>
 <context>
@@ -4079,95 +4079,95 @@ No frame stream detected.</source>
     </message>
     <message>
         <source>%1 baud or more is also fast enough.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 baud 以上でも間に合います。</translation>
     </message>
     <message>
         <source>The bootloader accepts no data: it reports packets of %1 bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>ブートローダーがデータを受け付けません。通知されたパケットサイズは %1 バイトです。</translation>
     </message>
     <message>
         <source>An earlier erase of this size took this chip more than 1.5 s, and the protocol waits no longer: it would be erased and not written.</source>
-        <translation type="unfinished"></translation>
+        <translation>このチップでは以前、このサイズの消去に 1.5 秒を超える時間がかかりました。プロトコルはそれ以上待たないため、消去されるだけで書き込まれません。</translation>
     </message>
     <message>
         <source>The file has no end record: part of it may be missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルに終了レコードがありません。一部が欠けている可能性があります。</translation>
     </message>
     <message>
         <source>Data after a blank line, where the image ends, would not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>イメージは空行で終わるため、空行より後のデータは書き込まれません。</translation>
     </message>
     <message>
         <source>Data after a start address or an unknown record, where the image ends, would not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>イメージは開始アドレスまたは不明なレコードで終わるため、それより後のデータは書き込まれません。</translation>
     </message>
     <message>
         <source>Data after the end record would not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>終了レコードより後のデータは書き込まれません。</translation>
     </message>
     <message>
         <source>The image does not begin at the start of a sector (%1 bytes): what precedes it in the sector is erased too.</source>
-        <translation type="unfinished"></translation>
+        <translation>イメージの先頭がセクター（%1 バイト）の先頭にありません。同じセクター内でイメージより前にある内容も消去されます。</translation>
     </message>
     <message>
         <source>The previous update was for %1, this one is for %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>前回の更新はアドレス %1、今回はアドレス %2 が対象です。</translation>
     </message>
     <message>
         <source>The stack pointer is not a word address in RAM.</source>
-        <translation type="unfinished"></translation>
+        <translation>スタックポインターが RAM 内のワードアドレスではありません。</translation>
     </message>
     <message>
         <source>The reset vector is not a Thumb address inside the image.</source>
-        <translation type="unfinished"></translation>
+        <translation>リセットベクターがイメージ内の Thumb アドレスではありません。</translation>
     </message>
     <message>
         <source>The image is very small for firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファームウェアとしてはイメージが非常に小さいです。</translation>
     </message>
     <message>
         <source>Not verified: reading the flash back did not finish.</source>
-        <translation type="unfinished"></translation>
+        <translation>未検証: フラッシュの読み戻しが完了しませんでした。</translation>
     </message>
     <message>
         <source>The flash was read back and matches the image.</source>
-        <translation type="unfinished"></translation>
+        <translation>フラッシュを読み戻し、イメージと一致することを確認しました。</translation>
     </message>
     <message>
         <source>The bootloader is still in the device: press Connect, then Download.</source>
-        <translation type="unfinished"></translation>
+        <translation>ブートローダーはデバイスに残っています。「接続」、「書き込み」の順に押してください。</translation>
     </message>
     <message>
         <source>The image was written, but not verified.</source>
-        <translation type="unfinished"></translation>
+        <translation>イメージは書き込まれましたが、検証されていません。</translation>
     </message>
     <message>
         <source>The folder is not writable: after a crash there would have been no reminder.</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダーに書き込めません。プログラムが異常終了しても、この更新についての通知は表示されないところでした。</translation>
     </message>
     <message>
         <source>But the device came back with its previous build.</source>
-        <translation type="unfinished"></translation>
+        <translation>ただし、デバイスは以前のビルドで復帰しました。</translation>
     </message>
     <message>
         <source>Check that this is the right file.</source>
-        <translation type="unfinished"></translation>
+        <translation>正しいファイルであることを確認してください。</translation>
     </message>
     <message>
         <source>Check that this is the right file, then press Connect and download again.</source>
-        <translation type="unfinished"></translation>
+        <translation>正しいファイルであることを確認してから、「接続」を押して、もう一度書き込んでください。</translation>
     </message>
     <message>
         <source>But the device has not identified itself since its restart.</source>
-        <translation type="unfinished"></translation>
+        <translation>ただし、再起動後にデバイスの識別情報が届いていません。</translation>
     </message>
     <message>
         <source>The update of %1 with %2, started %3, was written completely but not verified.</source>
-        <translation type="unfinished"></translation>
+        <translation>%3 に開始した %1 の更新（%2）は最後まで書き込まれましたが、検証されていません。</translation>
     </message>
     <message>
         <source>The update of %1 with %2, started %3, was interrupted at %4 of %5 bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>%3 に開始した %1 の更新（%2）は、%5 バイト中 %4 バイトの時点で中断されました。</translation>
     </message>
 </context>
 </TS>

@@ -1683,11 +1683,11 @@ Pa</translation>
     </message>
     <message>
         <source>Record</source>
-        <translation type="unfinished"></translation>
+        <translation>기록</translation>
     </message>
     <message>
         <source>Start a recording with the event, with the last folder and name</source>
-        <translation type="unfinished"></translation>
+        <translation>이벤트 발생 시 마지막으로 사용한 폴더와 이름으로 기록 시작</translation>
     </message>
 </context>
 <context>
@@ -1710,15 +1710,15 @@ Pa</translation>
     </message>
     <message>
         <source>The device is waiting in its bootloader.</source>
-        <translation type="unfinished"></translation>
+        <translation>장치가 부트로더에서 대기하고 있습니다.</translation>
     </message>
     <message>
         <source>Chooses the same file, connects and downloads it</source>
-        <translation type="unfinished"></translation>
+        <translation>같은 파일을 선택하고 연결하여 다운로드합니다</translation>
     </message>
     <message>
         <source>Removes the reminder of this update</source>
-        <translation type="unfinished"></translation>
+        <translation>이 업데이트에 대한 알림을 지웁니다</translation>
     </message>
 </context>
 <context>
@@ -3048,10 +3048,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <translation>장치가 다음 명령 중 하나 이상을 거부했습니다: %1.</translation>
     </message>
     <message>
-        <source>Save all the same</source>
-        <translation>그래도 저장</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>취소</translation>
     </message>
@@ -3066,6 +3062,10 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>%1 Hz takes %2 % of what this line carries at %3 baud: samples get lost.</source>
         <translation>%1 Hz는 %3 baud에서 이 회선이 전송할 수 있는 양의 %2 %를 차지하므로 샘플이 손실됩니다.</translation>
+    </message>
+    <message>
+        <source>Save anyway</source>
+        <translation>그래도 저장</translation>
     </message>
 </context>
 <context>
@@ -3623,95 +3623,95 @@ Ready to download firmware.
     </message>
     <message>
         <source>Download anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>그래도 다운로드</translation>
     </message>
     <message>
         <source>The download has to finish first: until then the device has no complete firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>먼저 다운로드를 완료해야 합니다. 완료될 때까지 장치의 펌웨어는 불완전한 상태입니다.</translation>
     </message>
     <message>
         <source>Leave as is</source>
-        <translation type="unfinished"></translation>
+        <translation>그대로 두기</translation>
     </message>
     <message>
         <source>The device restarts with its present firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>장치가 현재 펌웨어로 다시 시작됩니다.</translation>
     </message>
     <message>
         <source>The bootloader did not confirm the restart. Unplug the device and plug it in again if no data arrive.</source>
-        <translation type="unfinished"></translation>
+        <translation>부트로더가 다시 시작을 확인하지 않았습니다. 데이터가 수신되지 않으면 장치를 뽑았다가 다시 연결하십시오.</translation>
     </message>
     <message>
         <source>Stop the download? The device will have no complete firmware. Its bootloader remains: press Connect, then Download.</source>
-        <translation type="unfinished"></translation>
+        <translation>다운로드를 중지하시겠습니까? 장치의 펌웨어가 불완전한 상태가 됩니다. 부트로더는 남아 있으므로 &apos;연결&apos;을 누른 다음 &apos;다운로드&apos;를 누르면 다시 다운로드할 수 있습니다.</translation>
     </message>
     <message>
         <source>Keep downloading</source>
-        <translation type="unfinished"></translation>
+        <translation>다운로드 계속</translation>
     </message>
     <message>
         <source>The image could not be loaded; the device is unchanged. Choose another file.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지를 불러올 수 없습니다. 장치는 변경되지 않았습니다. 다른 파일을 선택하십시오.</translation>
     </message>
     <message>
         <source>The file %1 no longer exists: choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 파일이 더 이상 존재하지 않습니다. 다른 파일을 선택하십시오.</translation>
     </message>
     <message>
         <source>The file has changed since the interrupted update. Press Download to write it as it is now.</source>
-        <translation type="unfinished"></translation>
+        <translation>업데이트가 중단된 뒤에 파일이 변경되었습니다. 현재 내용을 쓰려면 &apos;다운로드&apos;를 누르십시오.</translation>
     </message>
     <message>
         <source>Saves what was done and how it ended as text</source>
-        <translation type="unfinished"></translation>
+        <translation>수행한 내용과 그 결과를 텍스트로 저장합니다</translation>
     </message>
     <message>
         <source>No update has run yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>아직 업데이트를 수행하지 않았습니다.</translation>
     </message>
     <message>
         <source>There are doubts about this image: tick &quot;%1&quot; to write it.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 이미지에 의심스러운 점이 있습니다. 쓰려면 &apos;%1&apos;에 체크하십시오.</translation>
     </message>
     <message>
         <source>Leaves the bootloader: the device starts its present firmware</source>
-        <translation type="unfinished"></translation>
+        <translation>부트로더를 종료하고 장치의 현재 펌웨어를 시작합니다</translation>
     </message>
     <message>
         <source>The file has changed since it was loaded. Choose it again to load the new version.</source>
-        <translation type="unfinished"></translation>
+        <translation>파일을 불러온 뒤에 변경되었습니다. 새 내용을 불러오려면 다시 선택하십시오.</translation>
     </message>
     <message>
         <source>Erase anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>그래도 지우기</translation>
     </message>
     <message>
         <source>The serial port is closed or accepts no data.</source>
-        <translation type="unfinished"></translation>
+        <translation>시리얼 포트가 닫혀 있거나 데이터를 받지 않습니다.</translation>
     </message>
     <message>
         <source>The device answered, but not like a bootloader.</source>
-        <translation type="unfinished"></translation>
+        <translation>장치가 응답했지만 부트로더의 응답이 아닙니다.</translation>
     </message>
     <message>
         <source>Nothing was written: the device&apos;s firmware is unchanged.</source>
-        <translation type="unfinished"></translation>
+        <translation>아무것도 쓰지 않았습니다. 장치의 펌웨어는 변경되지 않았습니다.</translation>
     </message>
     <message>
         <source>The bootloader is still in the device: press Connect, then Download.</source>
-        <translation type="unfinished"></translation>
+        <translation>부트로더는 장치에 남아 있습니다. &apos;연결&apos;을 누른 다음 &apos;다운로드&apos;를 누르십시오.</translation>
     </message>
     <message>
         <source>The bootloader accepts no data: it reports packets of %1 bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>부트로더가 데이터를 받지 않습니다. 부트로더가 보고한 패킷 크기는 %1바이트입니다.</translation>
     </message>
     <message>
         <source>There is no file at this path: choose an image.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 경로에 파일이 없습니다. 이미지를 선택하십시오.</translation>
     </message>
     <message>
         <source>Not a loadable Intel HEX file. See debug.log for the reason, or choose another file.</source>
-        <translation type="unfinished"></translation>
+        <translation>불러올 수 있는 Intel HEX 파일이 아닙니다. debug.log에서 원인을 확인하거나 다른 파일을 선택하십시오.</translation>
     </message>
 </context>
 <context>
@@ -3826,10 +3826,6 @@ Ready to download firmware.
         <translation>진행 중인 다운로드가 없습니다.</translation>
     </message>
     <message>
-        <source>A firmware download runs. It has to end first.</source>
-        <translation>펌웨어 다운로드가 진행 중입니다. 끝날 때까지 기다리십시오.</translation>
-    </message>
-    <message>
         <source>The port is being closed.</source>
         <translation>포트를 닫는 중입니다.</translation>
     </message>
@@ -3848,6 +3844,10 @@ Do not unplug the device.</source>
     <message>
         <source>Trying %1 baud...</source>
         <translation>%1 보드를 시도하는 중...</translation>
+    </message>
+    <message>
+        <source>A firmware download runs. It has to finish first.</source>
+        <translation>펌웨어 다운로드가 진행 중입니다. 끝날 때까지 기다리십시오.</translation>
     </message>
 </context>
 <context>
@@ -4079,95 +4079,95 @@ No frame stream detected.</source>
     </message>
     <message>
         <source>%1 baud or more is also fast enough.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 baud 이상의 속도에서도 가능합니다.</translation>
     </message>
     <message>
         <source>The bootloader accepts no data: it reports packets of %1 bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>부트로더가 데이터를 받지 않습니다. 부트로더가 보고한 패킷 크기는 %1바이트입니다.</translation>
     </message>
     <message>
         <source>An earlier erase of this size took this chip more than 1.5 s, and the protocol waits no longer: it would be erased and not written.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 칩은 이전에 이 크기를 지우는 데 1.5초 넘게 걸렸습니다. 프로토콜은 그 이상 기다리지 않으므로 지우기만 하고 쓰지 못하게 됩니다.</translation>
     </message>
     <message>
         <source>The file has no end record: part of it may be missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>파일에 종료 레코드가 없습니다. 일부가 누락되었을 수 있습니다.</translation>
     </message>
     <message>
         <source>Data after a blank line, where the image ends, would not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지는 빈 줄에서 끝나므로 빈 줄 뒤의 데이터는 쓰지 않습니다.</translation>
     </message>
     <message>
         <source>Data after a start address or an unknown record, where the image ends, would not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지는 시작 주소 또는 알 수 없는 레코드에서 끝나므로 그 뒤의 데이터는 쓰지 않습니다.</translation>
     </message>
     <message>
         <source>Data after the end record would not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>종료 레코드 뒤의 데이터는 쓰지 않습니다.</translation>
     </message>
     <message>
         <source>The image does not begin at the start of a sector (%1 bytes): what precedes it in the sector is erased too.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지가 섹터(%1바이트)의 시작 위치에서 시작하지 않습니다. 같은 섹터에서 이미지 앞에 있는 내용도 지워집니다.</translation>
     </message>
     <message>
         <source>The previous update was for %1, this one is for %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>이전 업데이트의 주소는 %1, 이번 업데이트의 주소는 %2입니다.</translation>
     </message>
     <message>
         <source>The stack pointer is not a word address in RAM.</source>
-        <translation type="unfinished"></translation>
+        <translation>스택 포인터가 RAM 내의 워드 주소가 아닙니다.</translation>
     </message>
     <message>
         <source>The reset vector is not a Thumb address inside the image.</source>
-        <translation type="unfinished"></translation>
+        <translation>리셋 벡터가 이미지 내의 Thumb 주소가 아닙니다.</translation>
     </message>
     <message>
         <source>The image is very small for firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>펌웨어치고는 이미지가 매우 작습니다.</translation>
     </message>
     <message>
         <source>Not verified: reading the flash back did not finish.</source>
-        <translation type="unfinished"></translation>
+        <translation>검증 안 됨: 플래시 다시 읽기가 완료되지 않았습니다.</translation>
     </message>
     <message>
         <source>The flash was read back and matches the image.</source>
-        <translation type="unfinished"></translation>
+        <translation>플래시를 다시 읽어 이미지와 일치함을 확인했습니다.</translation>
     </message>
     <message>
         <source>The bootloader is still in the device: press Connect, then Download.</source>
-        <translation type="unfinished"></translation>
+        <translation>부트로더는 장치에 남아 있습니다. &apos;연결&apos;을 누른 다음 &apos;다운로드&apos;를 누르십시오.</translation>
     </message>
     <message>
         <source>The image was written, but not verified.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지를 썼지만 검증되지 않았습니다.</translation>
     </message>
     <message>
         <source>The folder is not writable: after a crash there would have been no reminder.</source>
-        <translation type="unfinished"></translation>
+        <translation>폴더에 쓸 수 없습니다. 프로그램이 비정상 종료되었더라도 이 업데이트에 대한 알림이 표시되지 않았을 것입니다.</translation>
     </message>
     <message>
         <source>But the device came back with its previous build.</source>
-        <translation type="unfinished"></translation>
+        <translation>다만 장치가 이전 빌드로 복귀했습니다.</translation>
     </message>
     <message>
         <source>Check that this is the right file.</source>
-        <translation type="unfinished"></translation>
+        <translation>올바른 파일인지 확인하십시오.</translation>
     </message>
     <message>
         <source>Check that this is the right file, then press Connect and download again.</source>
-        <translation type="unfinished"></translation>
+        <translation>올바른 파일인지 확인한 다음 &apos;연결&apos;을 누르고 다시 다운로드하십시오.</translation>
     </message>
     <message>
         <source>But the device has not identified itself since its restart.</source>
-        <translation type="unfinished"></translation>
+        <translation>다만 다시 시작한 뒤 장치의 식별 정보가 수신되지 않았습니다.</translation>
     </message>
     <message>
         <source>The update of %1 with %2, started %3, was written completely but not verified.</source>
-        <translation type="unfinished"></translation>
+        <translation>%3에 시작한 %1 업데이트(%2)는 끝까지 기록되었지만 검증되지 않았습니다.</translation>
     </message>
     <message>
         <source>The update of %1 with %2, started %3, was interrupted at %4 of %5 bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>%3에 시작한 %1 업데이트(%2)가 %5바이트 중 %4바이트에서 중단되었습니다.</translation>
     </message>
 </context>
 </TS>

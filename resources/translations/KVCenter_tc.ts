@@ -1683,11 +1683,11 @@ Pa</translation>
     </message>
     <message>
         <source>Record</source>
-        <translation type="unfinished"></translation>
+        <translation>記錄</translation>
     </message>
     <message>
         <source>Start a recording with the event, with the last folder and name</source>
-        <translation type="unfinished"></translation>
+        <translation>事件發生時開始記錄，使用上次的資料夾與名稱</translation>
     </message>
 </context>
 <context>
@@ -1710,15 +1710,15 @@ Pa</translation>
     </message>
     <message>
         <source>The device is waiting in its bootloader.</source>
-        <translation type="unfinished"></translation>
+        <translation>裝置正在啟動載入程式中等待。</translation>
     </message>
     <message>
         <source>Chooses the same file, connects and downloads it</source>
-        <translation type="unfinished"></translation>
+        <translation>選擇同一檔案，連線至裝置並燒錄</translation>
     </message>
     <message>
         <source>Removes the reminder of this update</source>
-        <translation type="unfinished"></translation>
+        <translation>移除此次更新的提醒</translation>
     </message>
 </context>
 <context>
@@ -3048,10 +3048,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <translation>裝置至少拒絕了以下命令之一：%1。</translation>
     </message>
     <message>
-        <source>Save all the same</source>
-        <translation>仍要儲存</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
@@ -3066,6 +3062,10 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>%1 Hz takes %2 % of what this line carries at %3 baud: samples get lost.</source>
         <translation>鮑率為 %3 時，%1 Hz 需要占用線路傳輸能力的 %2 %：取樣會遺失。</translation>
+    </message>
+    <message>
+        <source>Save anyway</source>
+        <translation>仍然儲存</translation>
     </message>
 </context>
 <context>
@@ -3623,95 +3623,95 @@ Ready to download firmware.
     </message>
     <message>
         <source>Download anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>仍要燒錄</translation>
     </message>
     <message>
         <source>The download has to finish first: until then the device has no complete firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>必須等待燒錄完成：在此之前，裝置中沒有完整的韌體。</translation>
     </message>
     <message>
         <source>Leave as is</source>
-        <translation type="unfinished"></translation>
+        <translation>維持現狀</translation>
     </message>
     <message>
         <source>The device restarts with its present firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>裝置將以現有韌體重新啟動。</translation>
     </message>
     <message>
         <source>The bootloader did not confirm the restart. Unplug the device and plug it in again if no data arrive.</source>
-        <translation type="unfinished"></translation>
+        <translation>啟動載入程式未確認重新啟動。如果收不到資料，請拔下裝置後重新插入。</translation>
     </message>
     <message>
         <source>Stop the download? The device will have no complete firmware. Its bootloader remains: press Connect, then Download.</source>
-        <translation type="unfinished"></translation>
+        <translation>要停止燒錄嗎？裝置中將沒有完整的韌體。啟動載入程式會保留：之後請按一下「連線」，再按一下「燒錄」。</translation>
     </message>
     <message>
         <source>Keep downloading</source>
-        <translation type="unfinished"></translation>
+        <translation>繼續燒錄</translation>
     </message>
     <message>
         <source>The image could not be loaded; the device is unchanged. Choose another file.</source>
-        <translation type="unfinished"></translation>
+        <translation>無法載入映像檔；裝置未變更。請選擇其他檔案。</translation>
     </message>
     <message>
         <source>The file %1 no longer exists: choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>檔案 %1 已不存在：請選擇其他檔案。</translation>
     </message>
     <message>
         <source>The file has changed since the interrupted update. Press Download to write it as it is now.</source>
-        <translation type="unfinished"></translation>
+        <translation>自更新中斷後，檔案已遭變更。按一下「燒錄」將寫入其目前的內容。</translation>
     </message>
     <message>
         <source>Saves what was done and how it ended as text</source>
-        <translation type="unfinished"></translation>
+        <translation>將更新過程與結果儲存為文字</translation>
     </message>
     <message>
         <source>No update has run yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>尚未進行更新。</translation>
     </message>
     <message>
         <source>There are doubts about this image: tick &quot;%1&quot; to write it.</source>
-        <translation type="unfinished"></translation>
+        <translation>此映像檔有疑慮：勾選「%1」後才能寫入。</translation>
     </message>
     <message>
         <source>Leaves the bootloader: the device starts its present firmware</source>
-        <translation type="unfinished"></translation>
+        <translation>離開啟動載入程式：裝置啟動現有韌體</translation>
     </message>
     <message>
         <source>The file has changed since it was loaded. Choose it again to load the new version.</source>
-        <translation type="unfinished"></translation>
+        <translation>檔案在載入後已遭變更。請重新選擇，以載入新版本。</translation>
     </message>
     <message>
         <source>Erase anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>仍要抹除</translation>
     </message>
     <message>
         <source>The serial port is closed or accepts no data.</source>
-        <translation type="unfinished"></translation>
+        <translation>序列埠已關閉或不接收資料。</translation>
     </message>
     <message>
         <source>The device answered, but not like a bootloader.</source>
-        <translation type="unfinished"></translation>
+        <translation>裝置有回應，但不是啟動載入程式的回應。</translation>
     </message>
     <message>
         <source>Nothing was written: the device&apos;s firmware is unchanged.</source>
-        <translation type="unfinished"></translation>
+        <translation>未寫入任何資料：裝置中的韌體未變更。</translation>
     </message>
     <message>
         <source>The bootloader is still in the device: press Connect, then Download.</source>
-        <translation type="unfinished"></translation>
+        <translation>啟動載入程式仍在裝置中：請按一下「連線」，然後按一下「燒錄」。</translation>
     </message>
     <message>
         <source>The bootloader accepts no data: it reports packets of %1 bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>啟動載入程式不接收資料：其回報的封包大小為 %1 位元組。</translation>
     </message>
     <message>
         <source>There is no file at this path: choose an image.</source>
-        <translation type="unfinished"></translation>
+        <translation>此路徑下沒有檔案：請選擇映像檔。</translation>
     </message>
     <message>
         <source>Not a loadable Intel HEX file. See debug.log for the reason, or choose another file.</source>
-        <translation type="unfinished"></translation>
+        <translation>不是可載入的 Intel HEX 檔案。原因請見 debug.log，或選擇其他檔案。</translation>
     </message>
 </context>
 <context>
@@ -3826,10 +3826,6 @@ Ready to download firmware.
         <translation>沒有正在進行的燒錄。</translation>
     </message>
     <message>
-        <source>A firmware download runs. It has to end first.</source>
-        <translation>正在燒錄韌體，須等待其結束。</translation>
-    </message>
-    <message>
         <source>The port is being closed.</source>
         <translation>正在關閉序列埠。</translation>
     </message>
@@ -3848,6 +3844,10 @@ Do not unplug the device.</source>
     <message>
         <source>Trying %1 baud...</source>
         <translation>正在嘗試 %1 鮑...</translation>
+    </message>
+    <message>
+        <source>A firmware download runs. It has to finish first.</source>
+        <translation>正在燒錄韌體，須等待其結束。</translation>
     </message>
 </context>
 <context>
@@ -4079,95 +4079,95 @@ No frame stream detected.</source>
     </message>
     <message>
         <source>%1 baud or more is also fast enough.</source>
-        <translation type="unfinished"></translation>
+        <translation>改用 %1 或更高的鮑率也夠快。</translation>
     </message>
     <message>
         <source>The bootloader accepts no data: it reports packets of %1 bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>啟動載入程式不接收資料：其回報的封包大小為 %1 位元組。</translation>
     </message>
     <message>
         <source>An earlier erase of this size took this chip more than 1.5 s, and the protocol waits no longer: it would be erased and not written.</source>
-        <translation type="unfinished"></translation>
+        <translation>此晶片先前抹除此大小耗時超過 1.5 秒，而協定最多等待 1.5 秒：晶片會被抹除，卻無法寫入。</translation>
     </message>
     <message>
         <source>The file has no end record: part of it may be missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>檔案沒有結束記錄：可能缺少一部分內容。</translation>
     </message>
     <message>
         <source>Data after a blank line, where the image ends, would not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>映像檔到空行為止，空行之後的資料不會寫入。</translation>
     </message>
     <message>
         <source>Data after a start address or an unknown record, where the image ends, would not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>映像檔到起始位址記錄或未知記錄為止，該記錄之後的資料不會寫入。</translation>
     </message>
     <message>
         <source>Data after the end record would not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>結束記錄之後的資料不會寫入。</translation>
     </message>
     <message>
         <source>The image does not begin at the start of a sector (%1 bytes): what precedes it in the sector is erased too.</source>
-        <translation type="unfinished"></translation>
+        <translation>映像檔不是從磁區（%1 位元組）的起點開始：同一磁區中位於映像檔之前的內容也會被抹除。</translation>
     </message>
     <message>
         <source>The previous update was for %1, this one is for %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>上次更新的位址為 %1，本次為 %2。</translation>
     </message>
     <message>
         <source>The stack pointer is not a word address in RAM.</source>
-        <translation type="unfinished"></translation>
+        <translation>堆疊指標不是 RAM 中以字組對齊的位址。</translation>
     </message>
     <message>
         <source>The reset vector is not a Thumb address inside the image.</source>
-        <translation type="unfinished"></translation>
+        <translation>重置向量不是映像檔範圍內的 Thumb 位址。</translation>
     </message>
     <message>
         <source>The image is very small for firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>以韌體而言，此映像檔過小。</translation>
     </message>
     <message>
         <source>Not verified: reading the flash back did not finish.</source>
-        <translation type="unfinished"></translation>
+        <translation>未驗證：快閃記憶體回讀未能完成。</translation>
     </message>
     <message>
         <source>The flash was read back and matches the image.</source>
-        <translation type="unfinished"></translation>
+        <translation>已回讀快閃記憶體：內容與映像檔一致。</translation>
     </message>
     <message>
         <source>The bootloader is still in the device: press Connect, then Download.</source>
-        <translation type="unfinished"></translation>
+        <translation>啟動載入程式仍在裝置中：請按一下「連線」，然後按一下「燒錄」。</translation>
     </message>
     <message>
         <source>The image was written, but not verified.</source>
-        <translation type="unfinished"></translation>
+        <translation>映像檔已寫入，但未經驗證。</translation>
     </message>
     <message>
         <source>The folder is not writable: after a crash there would have been no reminder.</source>
-        <translation type="unfinished"></translation>
+        <translation>資料夾無法寫入：假如更新期間程式當機，就不會有任何提醒。</translation>
     </message>
     <message>
         <source>But the device came back with its previous build.</source>
-        <translation type="unfinished"></translation>
+        <translation>但裝置恢復後，版本仍與先前相同。</translation>
     </message>
     <message>
         <source>Check that this is the right file.</source>
-        <translation type="unfinished"></translation>
+        <translation>請確認所選檔案是否正確。</translation>
     </message>
     <message>
         <source>Check that this is the right file, then press Connect and download again.</source>
-        <translation type="unfinished"></translation>
+        <translation>請確認所選檔案是否正確，然後按一下「連線」並重新燒錄。</translation>
     </message>
     <message>
         <source>But the device has not identified itself since its restart.</source>
-        <translation type="unfinished"></translation>
+        <translation>但裝置重新啟動後尚未回報本身的資訊。</translation>
     </message>
     <message>
         <source>The update of %1 with %2, started %3, was written completely but not verified.</source>
-        <translation type="unfinished"></translation>
+        <translation>以 %2 對 %1 進行的更新（開始於 %3）已全部寫入，但未經驗證。</translation>
     </message>
     <message>
         <source>The update of %1 with %2, started %3, was interrupted at %4 of %5 bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>以 %2 對 %1 進行的更新（開始於 %3）在 %4 / %5 位元組處中斷。</translation>
     </message>
 </context>
 </TS>
