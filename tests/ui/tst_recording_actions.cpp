@@ -76,7 +76,7 @@ private slots:
     /// Markers of charts and recordings are the same ones, and a trigger starts a recording.
     void chartsMarkAndStartRecordings()
     {
-        SimulatorProcess simulator(words("--rate 100"));
+        SimulatorProcess simulator(words("--rate 100 --vibration 5:0.5:z"));
         Desk desk;
         Recorder &recorder = desk.window->session().recorder();
         QVERIFY(connectTo(desk, simulator));
@@ -86,9 +86,9 @@ private slots:
         QTRY_VERIFY(chart->model().count() > 10);
         chart->trigger()->setRecords(true);
         chart->trigger()->setSpan(0.2);
-        chart->trigger()->setEdge(WaveTrigger::Edge::OutsideBand);
-        chart->trigger()->setLevel(100);
-        chart->trigger()->setBandEnd(99);
+        chart->trigger()->setEdge(WaveTrigger::Edge::Either);
+        chart->trigger()->setChannel(2);
+        chart->trigger()->setLevel(1); // G, about which it shakes
         chart->trigger()->setOn(true);
         QTRY_COMPARE(recorder.state(), Recorder::State::Recording);
         QVERIFY(recorder.addMarker(QStringLiteral("by key"), 1.5));
