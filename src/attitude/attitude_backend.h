@@ -8,8 +8,8 @@
 
 #include "attitude/attitude_convention.h"
 
-/// The device's axes as vectors of the display frame (X forward, Y up, Z to the right) while the body stands level and
-/// looks forward.
+/// The device's axes as vectors of the display frame (X forward, Y up, Z to the right) while the body is level and
+/// faces forward.
 struct BodyAxesBasis
 {
     QVector3D x{1, 0, 0};
@@ -22,7 +22,7 @@ struct BodyAxesBasis
     bool operator==(const BodyAxesBasis &) const = default;
 };
 
-/// What the 3D scene shows: it binds to these properties, which are set by the window. Setters that change nothing emit
+/// What the 3D scene shows: it binds to these properties, which the window sets. Setters that change nothing emit
 /// nothing; values that are not finite are ignored. Main thread.
 class AttitudeBackend : public QObject
 {
@@ -49,7 +49,7 @@ public:
     QVector3D euler() const { return m_euler; }
     QQuaternion homeQuaternion() const { return m_homeQuaternion; }
     bool homeReferenceActive() const { return m_homeReferenceActive; }
-    /// Display angles relative to the home reference, degrees; of the last setRelativeEuler().
+    /// Display angles relative to the home reference, degrees, as given to the last setRelativeEuler().
     QVector3D relativeEuler() const { return m_relativeEuler; }
     QUrl objSource() const { return m_objSource; }
     QVector3D bodyAxisX() const { return m_bodyAxes.x; }
@@ -61,7 +61,7 @@ public:
     void setBodyAxes(const BodyAxesBasis &axes);
     void setHomeReference(const QQuaternion &quaternion, bool active);
     void setRelativeEuler(const QVector3D &euler);
-    /// Puts the view's camera back to where it began.
+    /// Puts the view's camera back to its initial place.
     void resetCamera() { emit cameraResetRequested(); }
 
 signals:
