@@ -9,7 +9,7 @@ public:
     /// `capacity` is at least 1.
     explicit CircularSampleBuffer(int capacity = 1);
 
-    /// Keeps the newest samples that fit, in their order. `capacity` is at least 1; smaller values change nothing.
+    /// Keeps the newest samples that fit, in their order. `capacity` is at least 1; smaller values are ignored.
     void setCapacity(int capacity);
     int capacity() const { return m_capacity; }
     /// Samples held, 0 to capacity().
