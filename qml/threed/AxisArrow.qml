@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick3D
 
-/// An arrow from the origin along `direction`; without a direction there is none.
+/// An arrow from the origin along `direction`; without a direction it is hidden.
 Node {
     id: arrow
 
