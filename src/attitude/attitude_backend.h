@@ -34,7 +34,7 @@ class AttitudeBackend : public QObject
     Q_PROPERTY(QQuaternion quaternion READ quaternion NOTIFY orientationChanged)
     Q_PROPERTY(QQuaternion homeQuaternion READ homeQuaternion NOTIFY homeReferenceChanged)
     Q_PROPERTY(bool homeReferenceActive READ homeReferenceActive NOTIFY homeReferenceChanged)
-    /// The model: ".qml" a built-in scene, ".obj" read at run time, ".mesh" taken as it is.
+    /// The model: ".qml" a built-in scene, ".obj" read at run time, ".mesh" used unchanged.
     Q_PROPERTY(QUrl objSource READ objSource NOTIFY objSourceChanged)
     /// The device's axes fixed to the body, see BodyAxesBasis.
     Q_PROPERTY(QVector3D bodyAxisX READ bodyAxisX NOTIFY bodyAxesChanged)

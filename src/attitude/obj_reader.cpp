@@ -31,7 +31,7 @@ struct Collected
     bool hasTooMany = false;
 };
 
-/// Indices of the file count from 1, negative ones from the newest backwards; 0 stands for a missing one.
+/// Indices of the file count from 1, negative ones from the newest backwards; 0 means a missing one.
 int fromZero(int index, size_t count)
 {
     if (index > 0)

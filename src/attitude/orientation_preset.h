@@ -7,7 +7,7 @@
 enum class OrientationPreset : quint32 {
     RfuEnu312 = 0, ///< x right, y forward, z up; Euler sequence 3-1-2
     FluNwuZyx = 1, ///< x forward, y left, z up; Euler sequence Z-Y-X
-    None = 2,      ///< no preset: device axes are taken as they are
+    None = 2,      ///< no preset: device axes are used unchanged
 };
 
 namespace product_profile {
