@@ -10,7 +10,7 @@ class QThread;
 /// What is known about a folder on a disk. A plain value.
 struct FolderFacts
 {
-    QString folder;     ///< the one that was asked about; empty: nothing is known
+    QString folder;     ///< the queried folder; empty: nothing is known
     quint64 number = 0; ///< of the question
     bool exists = false;
     bool isFolder = false;
@@ -32,7 +32,7 @@ public:
     ~FolderProbe() override;
 
     /// answered() follows. A question that is not being answered yet is replaced by this one. Returns its number, which
-    /// grows; 0: the folder is empty and nobody is asked.
+    /// grows; 0: the folder is empty and nothing is queried.
     quint64 ask(const QString &folder);
 
 signals:

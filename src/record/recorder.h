@@ -19,9 +19,9 @@ class RecordingRun;
 /// Records the samples of a connection into files, one recording after the other.
 ///
 /// A recording takes samples in from start() on, while its file is still being opened, until stop(), until the link
-/// closes, until its options end it, or until it turns out that there can be no file. After a lost link it goes on with
-/// the next one, if the options say so: in another file, with the same name and the same limits. What was taken in is
-/// written, also when this object is destroyed. Folder, file and disk are handled by a separate thread: nothing here
+/// closes, until its options end it, or until it turns out that no file can be created. After a lost link it goes on
+/// with the next one, if the options say so: in another file, with the same name and the same limits. What was taken in
+/// is written, also when this object is destroyed. Folder, file and disk are handled by a separate thread: nothing here
 /// waits for them except waitForFile() and the destructor, which waits for an open file as long as it takes, and for a
 /// file to be opened at most ten seconds.
 ///

@@ -26,7 +26,7 @@ NameState nameState(const QString &name);
 /// The absolute folder from the typed or stored text; empty when there is none.
 QString folder(const QString &typed);
 
-/// Longest path that can be typed or is taken from the settings file, in characters.
+/// Longest path that can be typed or is accepted from the settings file, in characters.
 constexpr int kMaxPathLength = 4096;
 
 struct Target
