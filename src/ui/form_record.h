@@ -13,7 +13,7 @@ namespace Ui {
 class form_record;
 }
 
-/// The window of the recorder: asks for folder and name, starts and stops, and shows how the recording goes. The
+/// The window of the recorder: asks for folder and name, starts and stops, and shows the progress of the recording. The
 /// recording belongs to the Recorder and goes on while this window is closed. While the window is open, the disk is
 /// queried about the typed folder, and its answer is shown when it arrives.
 ///
