@@ -32,7 +32,7 @@ public:
     bool isActive() const { return m_active; }
     void setActive(bool active);
 
-    /// What the statistics are taken over, a sentence.
+    /// What the statistics cover, as a sentence.
     QString extent() const;
     QStringList header() const { return m_table.rows.isEmpty() ? QStringList() : m_table.header(); }
     /// A list of texts per visible series, in the order of the header.
