@@ -15,7 +15,7 @@ class ChartSaver;
 ///
 /// A dashboard derives from it, creates its bridge, calls showView() with the bridge in the properties at the end of
 /// its constructor and reacts in setOpen(); retranslate() updates its bridge first and then calls the base. Its
-/// destructor calls close(), which reaches setOpen() only from there, and ends the view before the bridge goes. Main
+/// destructor calls close(), which reaches setOpen() only from there, and destroys the view before the bridge. Main
 /// thread only.
 class DashboardWindow : public QuickWindow
 {

@@ -24,7 +24,7 @@ public:
     void setFrameRate(unsigned int batchesPerSecond) { m_bridge.setFrameRate(batchesPerSecond); }
     /// The connection has ended: everything stays, marked as ended, until clear() at the next opening.
     void setEnded(bool ended) { m_bridge.setEnded(ended); }
-    /// Forgets the gateway: nodes and charts.
+    /// Clears the data of the gateway: nodes and charts.
     void clear() { m_bridge.clear(); }
 
     void retranslate() override;

@@ -25,8 +25,8 @@ struct SensorType;
 /// it when to repaint and answers its queries. The time axis counts seconds before the newest sample: 0 is the newest,
 /// negative is older.
 ///
-/// dataChanged() comes at most once per pass of the event loop, about 30 times a second for fast streams, and never
-/// while nobody observes the chart. Main thread only.
+/// dataChanged() is emitted at most once per pass of the event loop, about 30 times a second for fast streams, and
+/// never while nobody observes the chart. Main thread only.
 class WaveChartBridge : public QObject, public ChartSource
 {
     Q_OBJECT
