@@ -19,11 +19,11 @@
 /// resultant, bands, coherence, alarm) and reports the results to the view as numbers and as sentences in the
 /// interface's language.
 ///
-/// Spectra come axis by axis through setFftResult() and count as one frame with commitResults(), which is also one step
-/// of the alarm. A list may begin with a point that anchors the drawn curve at (0, 0), recognised by its first two
+/// Spectra arrive axis by axis through setFftResult() and count as one frame with commitResults(), which is also one
+/// step of the alarm. A list may begin with a point that anchors the drawn curve at (0, 0), recognised by its first two
 /// frequencies being equal: it is drawn but neither analysed nor exported. Amplitudes that are not finite count as 0.
 ///
-/// Main thread only; the signals come on change only.
+/// Main thread only; signals are emitted on change only.
 class FftChartBridge : public QObject, public ChartSource
 {
     Q_OBJECT
