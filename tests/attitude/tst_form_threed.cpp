@@ -273,7 +273,7 @@ private slots:
         QVERIFY(!window.backend().homeReferenceActive());
     }
 
-    /// No samples come: the last pose is shown in the new axes as soon as it is given in them.
+    /// No samples arrive: the last pose is shown in the new axes as soon as it is given in them.
     void mountingChangesWithoutSamples()
     {
         Window window;

@@ -72,7 +72,7 @@ private slots:
             {"stamps that stand still", {1000, 1000, 1000}, 0, 1000},
             {"stamps that run back", {5000, 4000, 4500, 5001}, 0, 1000},
             {"the ring knows the newest 8 only", {10, 20, 30, 40, 45, 50, 55, 60, 65, 70, 75}, 0, 200},
-            // 20 ms pass between samples on the host's clock, which stands in for stamps of 0.
+            // 20 ms pass between samples on the host's clock, which replaces stamps of 0.
             {"no clock", {0, 0, 0}, 0, 50},
             {"clock that stops", {7000, 7020, 0, 0}, 0, 50}};
         for (const auto &[name, stamps, givenHz, rateHz] : rows) {
@@ -93,7 +93,7 @@ private slots:
 
     void restartsKnowTheNewStreamAlone()
     {
-        // Each stream begins again where its clock then stands, after `lullMs` on the host's clock.
+        // Each stream restarts at the current value of its clock, after `lullMs` on the host's clock.
         struct Row
         {
             const char *name;

@@ -61,7 +61,7 @@ struct Bench
             window.appendData(node, 1000);
         }
     }
-    /// One tick without its timer, and the spectra that it asks for.
+    /// One tick without its timer, and the spectra that it requests.
     bool tick()
     {
         QSignalSpy frames(&bridge(), &FftChartBridge::fftDataChanged);

@@ -153,7 +153,7 @@ private slots:
         panel.setModel(model);
         PaintCounter counter(panel.findChild<ValueCard *>());
         QTRY_VERIFY(!panel.testAttribute(Qt::WA_PendingUpdate));
-        // The values stand still: what is painted is the trace, once per step of its time, samples or not.
+        // The values do not change: only the trace is painted, once per step of its time, with or without samples.
         for (qint64 now = 1000; now < 1000 + 10 * TraceBuffer::kBucketMs; ++now) {
             panel.appendSample(sampleAt(now, now, 0));
             panel.advance(now);

@@ -175,7 +175,7 @@ private slots:
     void breaksWhereNothingCame()
     {
         const std::tuple<const char *, bool, unsigned int, int, int, int> rows[] = {
-            // Paused meanwhile, stamp after it; breaks of the curve, marks, missing.
+            // Paused in between, stamp after it; breaks of the curve, marks, missing.
             {"steady", false, 510, 0, 0, 0},
             {"one is missing", false, 520, 1, 0, 1},
             {"many are missing", false, 1500, 1, 0, 99},

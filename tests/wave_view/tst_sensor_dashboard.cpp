@@ -140,7 +140,7 @@ private slots:
         QVERIFY(bench.isShown());
         bench.push(1, 5000);
         bench.window.bridge().restartStream(StreamBreak::ClockRestarted);
-        bench.push(8000, 11000); // ten seconds are seen: the mark stands 3 s before the newest sample
+        bench.push(8000, 11000); // ten seconds are visible: the mark is 3 s before the newest sample
         QQuickItem *mark = nullptr;
         QTRY_VERIFY((mark = findItem(bench.chart, "breakMark")) != nullptr && mark->isVisible());
         QVERIFY2(bench.red(0.05, 0.38) > 0 && bench.red(0.42, 0.6) == 0, "nothing is drawn over the silence");
