@@ -14,5 +14,5 @@ struct GatewaySample
     SampleFields fields{};                    ///< what the sample carries
     quint64 missing = 0;                      ///< samples of this node that are missing in this connection so far
     StreamBreak brokenBy = StreamBreak::None; ///< between this sample and the previous one of this node
-    bool hasClock = false; ///< the node's samples carry time stamps, so that `missing` is meaningful
+    bool hasClock = false;                    ///< the node's samples carry time stamps, so that `missing` is meaningful
 };
