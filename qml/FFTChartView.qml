@@ -4,8 +4,9 @@ import QtQuick
 import KVCenter.Controls
 import KVCenter.Fft
 
-/// The spectrum view: the chart, and beside it the panels of the analysis. The window sets what is not bound: whether it
-/// is `running`, how much of a block has come, from 0 to 1, whether the stream is `stale`, and the `guide`.
+/// The spectrum view: the chart, and beside it the panels of the analysis. The window sets the properties that are not
+/// bound: whether it is `running`, how much of a block has arrived, from 0 to 1, whether the stream is `stale`, and the
+/// `guide`.
 Item {
     id: view
 
@@ -76,7 +77,7 @@ Item {
                 title: qsTr("Quality")
 
                 Repeater {
-                    // The summary is made of parts.
+                    // The summary consists of several parts.
                     model: view.bridge.healthSummary.split(" | ")
 
                     Text {
@@ -123,7 +124,8 @@ Item {
 
         PointHandler {
             acceptedButtons: Qt.AllButtons
-            // The window around the view has the keyboard; a click in here has to bring it, or fields stay dead.
+            // The window around the view has the focus; a click in here has to fetch it, or fields do not respond to
+            // keys.
             onActiveChanged: {
                 if (active)
                     view.Window.window.requestActivate();

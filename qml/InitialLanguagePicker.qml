@@ -1,5 +1,6 @@
-// The first thing that a new user sees: which language? It stands alone, without the program's other components, so that
-// nothing else has to work for it. Every name is written in its own language; the few other words are English.
+// The first thing that a new user sees: the choice of the language. It is independent of the program's other
+// components, so that nothing else has to work for it. Every name is written in its own language; the few other words
+// are English.
 import QtQuick
 
 Rectangle {

@@ -1,8 +1,8 @@
 import QtQuick
 import QtQuick.Controls.Basic
 
-/// Holds a view that needs more room than its window has. It scrolls by its bars and follows the keyboard; the wheel and
-/// drags are the view's.
+/// Holds a view that needs more room than its window has. It scrolls by its bars and follows the focus; the wheel and
+/// drags belong to the view.
 Flickable {
     id: stage
 

@@ -3,7 +3,7 @@ import QtQuick
 import KVCenter.ThreeD
 
 Item {
-    /// What is wrong with the model of the backend; empty when it is shown.
+    /// What is wrong with the backend's model; empty when it is shown.
     readonly property string modelError: scene.modelError
 
     ThreeDScene {

@@ -1,4 +1,4 @@
-// The program's entry point: the start-up order, and nothing else.
+// The program's entry point: only the start-up order.
 
 #include <QApplication>
 #include <QDebug>

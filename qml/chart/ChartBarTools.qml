@@ -2,8 +2,8 @@ import QtQuick
 import KVCenter.Controls
 import KVCenter.Chart
 
-/// The buttons in the bar of a window with several charts: save them all, list the markers, couple the charts. The window
-/// shows its panels as `saving` and `listing` say, and couples on `linkRequested`.
+/// The buttons in the bar of a window with several charts: save them all, list the markers, couple the charts. The
+/// window shows its panels according to `saving` and `listing`, and couples on `linkRequested`.
 Row {
     id: tools
 

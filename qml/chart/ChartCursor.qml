@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import KVCenter.Controls
 
-/// A measuring cursor: a dashed line with a flag that is dragged. `moved` gives the new place in the parent's pixels.
+/// A measuring cursor: a dashed line with a flag to drag it by. `moved` gives the new place in the parent's pixels.
 Item {
     id: cursor
 

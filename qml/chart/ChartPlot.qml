@@ -8,14 +8,14 @@ import KVCenter.Chart
 /// about the pointer, with Ctrl the other one, and pans sideways; dragging pans, with Shift it draws a box to zoom to; a
 /// double click resets.
 ///
-/// What a kind of chart adds lies under the grid (`underlay`), over the lines (`overlay`), or over all as something to be
-/// dragged (`handles`), in the pixels of `area`.
+/// Items that a kind of chart adds are under the grid (`underlay`), over the lines (`overlay`), or over everything as
+/// something to be dragged (`handles`), in the pixels of `area`.
 Item {
     id: plot
 
     required property PlotViewState viewState
     property string xUnit
-    /// Dragging moves both axes; else the horizontal one, with Ctrl the vertical one.
+    /// Whether dragging moves both axes; otherwise it moves the horizontal one, with Ctrl the vertical one.
     property bool pansBothAxes: false
     /// Buttons whose double click resets.
     property int resetButtons: Qt.LeftButton
@@ -125,7 +125,7 @@ Item {
                     color: Theme.line
                 }
                 Text {
-                    // The last one keeps inside the card.
+                    // The last one stays inside the card.
                     x: Math.min(-Math.round(width / 2), plotArea.width - xTick.x + plotArea.anchors.rightMargin - width)
                     y: plotArea.height + 4
                     text: xAxis.labels[xTick.index] ?? ""
@@ -142,7 +142,7 @@ Item {
             anchors.margins: -2 // ChartLines::kBleed: a line on the edge is not cut
             viewState: plot.viewState
         }
-        // What the user marked: a flag at the foot, so that it stands apart from cursors and breaks.
+        // The user's markers: a flag at the foot distinguishes them from cursors and breaks.
         Repeater {
             model: plot.viewState.markerPlaces.length
 
@@ -271,7 +271,7 @@ Item {
             id: readout
 
             objectName: "readout"
-            // From above the value axis on: a narrow plot needs the room.
+            // Starts above the value axis: a narrow plot needs the room.
             x: -plotArea.anchors.leftMargin + 4
             y: -height - 1
             width: plot.width - 4

@@ -4,7 +4,7 @@ import QtQuick
 import KVCenter.Controls
 import KVCenter.Chart
 
-/// The ranges of a chart, to be typed: both ends of each axis, and whether the vertical one fits itself. A kind of chart
+/// Fields for the ranges of a chart: both ends of each axis, and whether the vertical one fits itself. A kind of chart
 /// puts its own choices in front (`presets`).
 Flow {
     id: row

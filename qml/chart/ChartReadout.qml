@@ -5,14 +5,14 @@ import KVCenter.Controls
 import KVCenter.Chart
 
 /// One line over the plot, so that no curve is covered and a low plot has room for it: the position under the pointer
-/// and the value of each visible series there. Where it is narrow the values stand in their colours without names.
+/// and the value of each visible series there. In a narrow chart the values are shown in their colours without names.
 Item {
     id: readout
 
     required property PlotViewState viewState
     readonly property bool terse: full.width > width
 
-    /// Lays out nothing that is seen: how much room the names would take.
+    /// Invisible: measures how much room the names would take.
     TextMetrics {
         id: full
 
@@ -25,7 +25,7 @@ Item {
         font: Theme.fixedSmallFont
     }
     clip: true
-    // The same whether it is seen or not, so that the plot below does not jump.
+    // The same whether it is visible or not, so that the plot below does not jump.
     implicitHeight: Math.ceil(metrics.height)
 
     Row {

@@ -5,8 +5,8 @@ import QtQuick.Templates as T
 import KVCenter.Controls
 import KVCenter.Chart
 
-/// The list of markers: each with its time of day and a text to write, a button that shows it in the charts, and one that
-/// removes it. edit() gives the keyboard to a text; Return and Esc give it back (`done`).
+/// The list of markers: each with its time of day and an editable text, a button that shows it in the charts, and one
+/// that removes it. edit() gives the focus to a text; Return and Esc give it back (`done`).
 Rectangle {
     id: panel
 
@@ -15,7 +15,7 @@ Rectangle {
     signal picked(double time)
     signal done
 
-    /// Gives the keyboard to the text of a marker.
+    /// Gives the focus to the text of a marker.
     function edit(row: int) {
         list.forceLayout();
         list.positionViewAtIndex(row, ListView.Contain);
@@ -97,7 +97,7 @@ Rectangle {
                 rightPadding: 6
                 verticalAlignment: TextInput.AlignVCenter
                 selectByMouse: true
-                autoScroll: activeFocus // the beginning is what is read
+                autoScroll: activeFocus // without the focus it shows the beginning
                 text: entry.markerText
                 font: Theme.font
                 color: Theme.text

@@ -5,7 +5,7 @@ import QtQuick.Templates as T
 import KVCenter.Controls
 import KVCenter.Chart
 
-/// What is measured on a chart, as a table: values at the cursors and statistics; a button copies it.
+/// The measurements on a chart, as a table: values at the cursors and statistics; a button copies it.
 Item {
     id: panel
 
@@ -14,7 +14,7 @@ Item {
 
     visible: table.header.length > 0
     implicitHeight: visible ? head.height + Math.min(grid.height, maximumHeight) + 2 : 0
-    /// More rows scroll.
+    /// With more rows it scrolls.
     property real maximumHeight: 120
 
     ChartMeasures {
@@ -83,7 +83,7 @@ Item {
                 Text {
                     required property string modelData
 
-                    text: modelData || " " // what is empty takes no place in a grid
+                    text: modelData || " " // an empty item takes no place in a grid
                     textFormat: Text.PlainText
                     font: Theme.smallFont
                     color: Theme.textSecondary

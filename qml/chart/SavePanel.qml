@@ -4,8 +4,8 @@ import QtQuick
 import KVCenter.Controls
 import KVCenter.Chart
 
-/// Saves all charts of a window at once: how much of the samples, how large a picture. `charts` are
-/// its items, each with its `viewState`.
+/// Saves all charts of a window at once: which samples, how large a picture. `charts` are its items, each with its
+/// `viewState`.
 Rectangle {
     id: panel
 
@@ -23,7 +23,7 @@ Rectangle {
     border.color: Theme.border
 
     MouseArea {
-        anchors.fill: parent // what is under the panel gets no click
+        anchors.fill: parent // items under the panel get no clicks
         onWheel: event => event.accepted = true
     }
     Column {

@@ -2,8 +2,8 @@ import QtQuick
 import QtQuick.Templates as T
 import KVCenter.Controls
 
-/// The one button: with text, icon or both. `primary` fills it with the accent; `bare` leaves frame and background to
-/// the moment of hovering, for buttons inside cards. `hint` is the tooltip, `keys` the shortcut named in it.
+/// The one button: with text, icon or both. `primary` fills it with the accent; `bare` shows frame and background only
+/// on hovering, for buttons inside cards. `hint` is the tooltip, `keys` the shortcut named in it.
 T.Button {
     id: control
 

@@ -1,7 +1,7 @@
 import QtQuick
 import KVCenter.Controls
 
-/// What an empty place says: a heading, and under it what to do next.
+/// The text in an empty view: a heading, and under it what to do next.
 Column {
     id: control
 

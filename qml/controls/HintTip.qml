@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import KVCenter.Controls
 
-/// The one tooltip: put it into an item and bind `visible` to its hovering.
+/// The one tooltip: put it into an item and bind `visible` to the item's hovered state.
 T.ToolTip {
     id: control
 

@@ -1,8 +1,8 @@
 import QtQuick
 import KVCenter.Controls
 
-/// One sentence at the edge of a window, until it is dismissed; good news go by themselves. Without a text it takes no
-/// room.
+/// One sentence at the edge of a window, until it is dismissed; messages of success disappear on their own. Without a
+/// text it takes no room.
 Rectangle {
     id: row
 

@@ -2,8 +2,9 @@ import QtQuick
 import QtQuick.Templates as T
 import KVCenter.Controls
 
-/// A number with its unit, with a decimal point in every language. `value` is what was accepted last; `entered(number)`
-/// tells a new one after Return or when the field is left. A text that is no number from `from` to `to` is put back.
+/// A number with its unit, with a decimal point in every language. `value` is the last accepted number;
+/// `entered(number)` reports a new one after Return or when the field loses the focus. A text that is not a number from
+/// `from` to `to` is reverted.
 T.TextField {
     id: control
 

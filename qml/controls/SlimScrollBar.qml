@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import KVCenter.Controls
 
-/// A narrow bar that is there only while there is something to scroll.
+/// A narrow bar that is visible only while there is something to scroll.
 T.ScrollBar {
     id: bar
 

@@ -4,7 +4,7 @@ import QtQuick
 import KVCenter.Controls
 import KVCenter.Fft
 
-/// The alarm: status, what it means and what to do, its thresholds, what happened; preset or custom rule.
+/// The alarm: status, what it means and what to do, its thresholds and events; preset or custom rule.
 PanelSection {
     id: panel
 

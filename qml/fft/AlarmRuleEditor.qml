@@ -4,7 +4,7 @@ import QtQuick
 import KVCenter.Controls
 import KVCenter.Fft
 
-/// Fields for a rule of the user's own. done() comes when a rule was taken.
+/// Fields for a custom rule. done() is emitted when a rule has been accepted.
 Column {
     id: editor
 
@@ -110,7 +110,7 @@ Column {
         primary: true
         text: qsTr("Use this rule")
         onClicked: {
-            forceActiveFocus(); // the field that is being edited gives its number
+            forceActiveFocus(); // makes the field being edited commit its number
             editor.problem = editor.bridge.tryAlarmRule(editor.draft);
             if (editor.problem === "")
                 editor.done();

@@ -2,7 +2,7 @@ import QtQuick
 import KVCenter.Controls
 import KVCenter.Fft
 
-/// Fields for a band of the user's own. done() comes when the band was taken.
+/// Fields for a custom band. done() is emitted when the band has been accepted.
 Column {
     id: editor
 
@@ -60,7 +60,7 @@ Column {
         primary: true
         text: qsTr("Measure this band")
         onClicked: {
-            forceActiveFocus(); // the field that is being edited gives its number
+            forceActiveFocus(); // makes the field being edited commit its number
             editor.problem = editor.bridge.tryCustomBand(nameField.text, editor.low, editor.high);
             if (editor.problem === "")
                 editor.done();

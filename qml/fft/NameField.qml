@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import KVCenter.Controls
 
-/// A short text to enter.
+/// A field for a short text.
 T.TextField {
     id: control
 

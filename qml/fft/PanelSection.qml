@@ -1,7 +1,7 @@
 import QtQuick
 import KVCenter.Controls
 
-/// A card of the side panel: a title, with what belongs beside it, and a column of contents.
+/// A card of the side panel: a title, with items beside it, and a column of contents.
 Rectangle {
     id: section
 

@@ -5,8 +5,8 @@ import KVCenter.Chart
 import KVCenter.Controls
 import KVCenter.Fft
 
-/// What lies under the curves of the spectrum: the bands with their names, and the levels of the alarm as far as its
-/// frequencies reach.
+/// Drawn under the curves of the spectrum: the bands with their names, and the levels of the alarm over its range of
+/// frequencies.
 Item {
     id: levels
 

@@ -12,7 +12,7 @@ Item {
     required property ChartPlot plot
     required property SpectrumViewState viewState
     readonly property var list: viewState.marks
-    /// Where the labels would stand, and which of them have room: a harmonic gives way to the peak and to lower ones.
+    /// Where the labels would be, and which of them have room: a harmonic gives way to the peak and to lower harmonics.
     readonly property var places: list.map(mark => {
         const labelWidth = metrics.advanceWidth(mark.label) + 4;
         const x = Math.round(plot.toX(mark.frequency));

@@ -1,14 +1,14 @@
 import QtQuick
 import QtQuick3D
 
-/// An arrow from the origin along `direction`; without a direction there is none.
+/// An arrow from the origin along `direction`; without a direction it is hidden.
 Node {
     id: arrow
 
     property vector3d direction
     property color color
     readonly property vector3d unit: direction.normalized()
-    // Turns +Y, along which the toolkit's bodies lie, into the direction.
+    // Turns +Y, the axis of the toolkit's bodies, into the direction.
     readonly property vector3d turnAxis: Math.abs(unit.y) > 0.9999 ? Qt.vector3d(1, 0, 0) : Qt.vector3d(0, 1, 0).crossProduct(unit)
 
     visible: direction.length() > 0.5

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick3D
 import KVCenter.ThreeD
 
-/// The model of a source: a built-in scene, whose size is right, or one of the two files, fitted to it.
+/// The model of a source: a built-in scene, which has the right size, or a file of one of the two kinds, fitted to it.
 Node {
     id: body
 

@@ -1,6 +1,6 @@
 import QtQuick
 
-/// Mouse and keys of the picture.
+/// Mouse and key input of the picture.
 MouseArea {
     id: area
 
@@ -13,7 +13,7 @@ MouseArea {
     onPressed: event => {
         last = Qt.point(event.x, event.y);
         forceActiveFocus();
-        Window.window.requestActivate(); // keys come here after a click
+        Window.window.requestActivate(); // keys are handled here after a click
     }
     onPositionChanged: event => {
         const dx = event.x - last.x;

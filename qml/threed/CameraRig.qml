@@ -32,7 +32,7 @@ QtObject {
         elevation = Math.max(-89, Math.min(89, elevation + dElevation));
         changed();
     }
-    /// A factor above 1 goes closer.
+    /// A factor above 1 moves closer.
     function zoom(factor: real) {
         distance = Math.max(90, Math.min(1200, distance / factor));
         changed();

@@ -3,7 +3,7 @@ import QtQuick3D
 import KVCenter.Controls
 import QtQuick3D.Helpers
 
-/// The ground below the body: a grid that lies level, and an arrow to the north (+X).
+/// The ground below the body: a level grid, and an arrow to the north (+X).
 Node {
     y: -58
 

@@ -11,10 +11,10 @@ Item {
 
     required property View3D view
     required property AttitudeBackend attitude
-    /// Raised when the camera or the size has changed: places are worked out again.
+    /// Incremented when the camera or the size has changed: places are computed again.
     property int revision: 0
 
-    // Places are known from the first frame on.
+    // Places are not known before the first frame.
     Connections {
         target: marks.Window.window
         enabled: !first.seen

@@ -7,7 +7,7 @@ import KVCenter.ThreeD
 /// north, Y up, Z to the right or east. A unit is 1/50 of a model's radius.
 ///
 /// Left drag and arrow keys turn the camera around the body, right or middle drag moves it, the wheel and + and - zoom;
-/// a double-click and Home put it back.
+/// a double-click and Home reset it.
 Item {
     id: scene
 
@@ -47,7 +47,7 @@ Item {
             position: rig.position
             rotation: rig.rotation
 
-            // From over the left shoulder, so that no side is without form.
+            // From over the left shoulder, so that every side shows its shape.
             DirectionalLight {
                 eulerRotation: Qt.vector3d(-18, -24, 0)
                 brightness: 0.4
@@ -75,7 +75,7 @@ Item {
                 attitude: scene.attitude
             }
         }
-        // The home reference: a shade of the body in the stored pose.
+        // The home reference: a ghost of the body in the stored pose.
         Node {
             rotation: scene.attitude.homeQuaternion
             visible: scene.attitude.homeReferenceActive
@@ -101,7 +101,8 @@ Item {
             }
         }
     }
-    // Behind the world, so that it goes after it: what of the world has not been drawn yet takes itself off its list.
+    // After the world, so that it is destroyed after it: parts of the world that have not been drawn yet remove
+    // themselves from its list.
     View3D {
         id: view
 
@@ -110,7 +111,7 @@ Item {
         camera: camera
         importScene: world
         renderMode: View3D.Inline
-        // Without a picture of its own in between: that costs more than the scene where there is no GPU.
+        // Without an intermediate image, which costs more than the scene where there is no GPU.
         environment: SceneEnvironment {
             backgroundMode: SceneEnvironment.Transparent
         }

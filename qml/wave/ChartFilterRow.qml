@@ -2,7 +2,7 @@ import QtQuick
 import KVCenter.Controls
 import KVCenter.Wave
 
-/// Switch and cutoff of a chart's low-pass filter. A refused setting is told beside them.
+/// Switch and cutoff of a chart's low-pass filter. A refused setting is explained beside them.
 Flow {
     id: row
 
@@ -16,7 +16,7 @@ Flow {
     }
 
     spacing: 8
-    // A chart that comes back finds its filter as it was left.
+    // A chart that is shown again finds its filter as it was left.
     Component.onCompleted: {
         if (bridge !== null && bridge.filterOn) {
             cutoffHz = bridge.filterCutoffHz;
@@ -29,7 +29,7 @@ Flow {
         function onFilterChanged() {
             toggle.checked = row.bridge.filterOn;
         }
-        // The title changes with the language, and so has the sentence to.
+        // The title changes with the language, and so must the sentence.
         function onChartTitleChanged() {
             if (row.problem !== "")
                 row.apply(true, row.cutoffHz);
@@ -46,7 +46,7 @@ Flow {
         objectName: "filterCutoff"
         implicitWidth: Math.round(font.pointSize * 10)
         value: row.cutoffHz
-        // No number is put back in silence: the filter says what it refuses.
+        // No number is reverted silently: the filter says what it refuses.
         from: -1e99
         to: 1e99
         unit: "Hz"

@@ -6,8 +6,8 @@ import KVCenter.Chart
 import KVCenter.Controls
 import KVCenter.Wave
 
-/// The dashboard of a wireless gateway: a bar with play and the choice of charts, the nodes at the left, the charts of
-/// the chosen nodes at the right.
+/// The dashboard of a wireless gateway: a bar with play and the choice of charts, the nodes on the left, the charts of
+/// the chosen nodes on the right.
 Item {
     id: dashboard
 
@@ -217,7 +217,7 @@ Item {
                     }
                     maximized: dashboard.maximizedSlot === index
                     canMaximize: maximized || dashboard.shownPanes.length > 1
-                    // What has been scrolled away costs nothing.
+                    // Charts that have been scrolled out of view cost nothing.
                     visible: place >= 0 && y + height > charts.contentY && y < charts.contentY + charts.height
                     x: Math.round((place % charts.columns) * (charts.cellWidth + charts.gap))
                     y: Math.round(Math.floor(place / charts.columns) * (charts.cellHeight + charts.gap))

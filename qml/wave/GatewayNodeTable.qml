@@ -6,12 +6,12 @@ import KVCenter.Controls
 import KVCenter.Wave
 
 /// The radio nodes of a gateway, one row each, sixteen of them without scrolling. A click or Space chooses a node for the
-/// charts. Rows stay at their place, whatever becomes of their nodes.
+/// charts. Rows keep their place, whatever happens to their nodes.
 FocusScope {
     id: table
 
     required property GatewayDashboardBridge bridge
-    /// A node more than allowed was asked for.
+    /// More nodes than allowed were requested.
     property bool refused: false
     readonly property int fullRows: 16
 

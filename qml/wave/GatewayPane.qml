@@ -4,7 +4,7 @@ import QtQuick
 import KVCenter.Chart
 import KVCenter.Wave
 
-/// A place for a chart that is there only while it has a bridge.
+/// A place for a chart that exists only while it has a bridge.
 Item {
     id: pane
 
@@ -24,7 +24,7 @@ Item {
     Repeater {
         id: chartRepeater
 
-        // The chart keeps its bridge to its own end.
+        // The chart keeps its bridge until it is destroyed.
         model: pane.bridge !== null ? [pane.bridge] : []
 
         WaveChart {

@@ -1,8 +1,8 @@
 import QtQuick
 import KVCenter.Controls
 
-/// How a radio node does, by shape, colour and word: a green disc is live, an amber diamond late, a red ring gone, a grey bar
-/// ended.
+/// The state of a radio node, by shape, colour and word: a green disc is live, an amber diamond late, a red ring gone,
+/// a grey bar ended.
 Row {
     id: mark
 

@@ -13,7 +13,7 @@ Item {
     required property SensorDashboardBridge bridge
     required property ChartSaver saver
     property string maximizedType
-    /// The chart that the bar tells about and that keys go to: the last one with the keyboard.
+    /// The chart that the bar describes and that keys go to: the last one with the focus.
     property WaveChart current
     readonly property var selectedTypes: bridge.selectedSensorTypes
     readonly property var shownTypes: selectedTypes.includes(maximizedType) ? [maximizedType] : selectedTypes
@@ -77,7 +77,7 @@ Item {
                 onClicked: dashboard.bridge.togglePlaying()
             }
             Repeater {
-                // A number, so that the chips stay, and one keeps the keyboard, when their states change.
+                // A number, so that the chips stay, and one keeps the focus, when their states change.
                 model: dashboard.bridge.sensorCount
 
                 Chip {

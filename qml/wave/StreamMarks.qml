@@ -5,7 +5,7 @@ import KVCenter.Chart
 import KVCenter.Controls
 import KVCenter.Wave
 
-/// What is said about the stream over the lines of a chart: where they are broken, and why, and where the store ends.
+/// Notes about the stream over the lines of a chart: where they are broken, and why, and where the store ends.
 Item {
     id: marks
 
@@ -28,7 +28,7 @@ Item {
             x: Math.round(marks.plot.toX(seconds))
             y: major ? 0 : marks.height - height
             width: 1
-            // What is missing is marked at the axis only: there may be many.
+            // Missing samples are marked at the axis only: there may be many such places.
             height: major ? marks.height : Math.min(marks.height, 8)
             color: Theme.warning
 

@@ -5,7 +5,7 @@ import KVCenter.Chart
 import KVCenter.Controls
 import KVCenter.Wave
 
-/// The level of a chart's trigger as a line across the plot, and the other end of a band; both are dragged at their
+/// The level of a chart's trigger as a line across the plot, and the other end of a band; both are dragged by their
 /// handles.
 Item {
     id: levels

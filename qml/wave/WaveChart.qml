@@ -8,7 +8,7 @@ import KVCenter.Wave
 
 /// A chart as a card: title, legend with live values, plot with axes, crosshair and cursors, and its own buttons.
 /// Give it a `bridge`. The window around it answers the requests: pictureRequested() and dataRequested() with a file
-/// dialog, maximizeRequested() by laying out. What it shows of the bridge is in `viewState`.
+/// dialog, maximizeRequested() by its layout. What it shows of the bridge is in `viewState`.
 FocusScope {
     id: chart
 
@@ -26,7 +26,7 @@ FocusScope {
     signal pictureRequested
     signal dataRequested
     signal maximizeRequested
-    /// The keyboard came to this chart: by the pointer, a click or the Tab key.
+    /// This chart got the focus: by the pointer, a click or the Tab key.
     signal touched
     /// The M key set a marker.
     signal markerAdded(int row)
@@ -58,7 +58,7 @@ FocusScope {
     }
 
     HoverHandler {
-        // Keys go to the chart under the pointer, but never out of a field that is being filled in, nor from a button
+        // Keys go to the chart under the pointer, but never take the focus from a field being edited, nor from a button
         // that was reached by keys: it may have moved the charts below a resting pointer.
         onHoveredChanged: {
             const item = chart.Window.activeFocusItem;
@@ -73,7 +73,7 @@ FocusScope {
         border.width: 1
         border.color: chart.activeFocus ? Theme.accent : Theme.line
     }
-    // A rounded surface is blended, pixel by pixel; what lies behind this plain one is not drawn at all.
+    // A rounded surface is blended, pixel by pixel; items behind this plain one are not drawn at all.
     Rectangle {
         anchors.fill: parent
         anchors.margins: 8
@@ -140,7 +140,7 @@ FocusScope {
                 checkable: true
                 iconName: "filter"
                 hint: qsTr("Low-pass filter")
-                // A filter that is on does not hide.
+                // A filter that is on stays visible.
                 onClicked: checked = checked || chart.bridge.filterOn
                 Component.onCompleted: checked = chart.bridge !== null && chart.bridge.filterOn
             }
@@ -342,7 +342,7 @@ FocusScope {
         onPressed: chart.forceActiveFocus()
     }
 
-    // Over the lines that stand, so that the title keeps its room.
+    // Over the frozen lines, so that the title keeps its room.
     PlotMark {
         objectName: "staleMark"
         anchors {

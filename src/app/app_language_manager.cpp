@@ -14,7 +14,7 @@ namespace {
 
 constexpr QLatin1String kManifestPath(":/translations/languages.json");
 
-// Marks widgets whose font comes from here, as against those that chose their own.
+// Marks widgets whose font comes from here, as opposed to those that chose their own.
 constexpr char kFollowsLanguage[] = "kvFontFollowsLanguage";
 
 } // namespace
@@ -101,7 +101,7 @@ void AppLanguageManager::store(const AppLanguageSpec &language) const
 
 bool AppLanguageManager::applyLanguage(const AppLanguageSpec &language, bool keep)
 {
-    // Tried beside the one in use, which stays when the new one is broken.
+    // Loaded alongside the one in use, which stays if the new one is broken.
     if (QTranslator trial; !trial.load(language.qmResourcePath())) {
         qWarning().noquote() << "Translation cannot be loaded:" << language.qmResourcePath();
         return false;
@@ -136,8 +136,8 @@ void AppLanguageManager::applyCurrentFont(int pointSize)
         QStringList families = font.families().mid(0, 1);
         if (!m_fontFamily.isEmpty())
             families = {m_fontFamily};
-        // Han characters are drawn differently in each of the four languages: what the family lacks comes from the
-        // right one of the system's fonts, not from the first that has the character.
+        // Han characters are drawn differently in each of the four languages: characters that the family lacks come
+        // from the right system font, not from the first font that has them.
         font.setFamilies(families + application_fonts::hanFallback(m_current.setting));
     }
     QApplication::setFont(font);

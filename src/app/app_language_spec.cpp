@@ -13,11 +13,11 @@ constexpr QLatin1String kResource(":/translations/%1.qm");
 
 struct LocalePrefix
 {
-    QLatin1String prefix; ///< of a locale's name in small letters, written with "-"
+    QLatin1String prefix; ///< of a locale's name in lower case, written with "-"
     QLatin1String setting;
 };
 
-// Chinese without a script or place is read in simplified characters by most.
+// Most readers of Chinese without a script or region expect simplified characters.
 constexpr LocalePrefix kLocalePrefixes[] = {
     {QLatin1String("zh-hant"), QLatin1String("TC")}, {QLatin1String("zh-tw"), QLatin1String("TC")},
     {QLatin1String("zh-hk"), QLatin1String("TC")},   {QLatin1String("zh-mo"), QLatin1String("TC")},

@@ -29,21 +29,21 @@ struct LanguageManifest
     QString defaultLanguage; ///< normalised code; names an entry of `languages`
     QList<AppLanguageSpec> languages;
 
-    /// Entry of a code, which is normalised first; null when there is none. Valid while the manifest is.
+    /// Entry for a code, which is normalised first; null when there is none. Valid as long as the manifest.
     const AppLanguageSpec *find(const QString &setting) const;
 };
 
 namespace language_manifest {
 
-/// Codes are compared without blanks around them and in capitals.
+/// Codes are trimmed and converted to upper case before they are compared.
 QString normalizeSetting(const QString &setting);
 
-/// Reads a manifest. On failure the list of languages is empty and `error` says why. A manifest without languages, with
-/// two of one code, with an entry that lacks a text, with a stem that is not a plain file name, or whose default is
-/// none of its languages is refused.
+/// Reads a manifest. On failure the list of languages is empty and `error` says why. A manifest is refused if it has no
+/// languages, two with the same code, an entry that lacks a text, a stem that is not a plain file name, or a default
+/// that is not one of its languages.
 LanguageManifest parse(const QByteArray &json, QString *error);
 
-/// The code that fits a person's system: `uiLanguages` as the system lists them ("zh-Hant-TW"), in order, then
+/// The code that fits the user's system: `uiLanguages` as the system lists them ("zh-Hant-TW"), in order, then
 /// `localeName` ("zh_TW"); empty when none is known here.
 QString recommendedSetting(const QStringList &uiLanguages, const QString &localeName);
 

@@ -12,7 +12,7 @@
 
 namespace {
 
-/// As the settings file has them, in the order of Appearance::Choice.
+/// As written in the settings file, in the order of Appearance::Choice.
 constexpr std::array kNames{QLatin1String("system"), QLatin1String("light"), QLatin1String("dark")};
 
 QSettings settingsFile()
@@ -40,7 +40,7 @@ bool Appearance::isDark() const
 
 void Appearance::start()
 {
-    m_isSystemDark = isDark(QApplication::palette()); // before there is one of ours
+    m_isSystemDark = isDark(QApplication::palette()); // before there is one of our own
     const QString stored = settingsFile().value(settings_keys::kAppearance).toString();
     for (size_t i = 0; i < kNames.size(); ++i) {
         if (stored == kNames.at(i))
@@ -67,7 +67,7 @@ void Appearance::apply()
     emit changed();
 }
 
-/// The system has another theme: each window is told. Its palette is to be seen only while the program has none.
+/// The system theme has changed: each window is notified. Its palette is visible only while the program has none.
 bool Appearance::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::ThemeChange && watched->isWindowType() && !m_isAsking) {

@@ -4,9 +4,9 @@
 
 class QPalette;
 
-/// Whether the program is drawn light or dark: as the system is, by the lightness of its palette, or as the user has
-/// chosen in View. The choice is kept in the settings file. Widgets and declarative views follow at once, views through
-/// `Theme`; what draws by itself asks theme::colors() when it draws. Main thread only. Needs a QApplication.
+/// Whether the program is drawn light or dark: like the system, judged by the lightness of its palette, or as the user
+/// chose in the View menu. The choice is kept in the settings file. Widgets and declarative views follow at once, views
+/// through `Theme`; custom-painted widgets ask theme::colors() when they paint. Main thread only. Needs a QApplication.
 class Appearance : public QObject
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ public:
 
     static Appearance &instance();
 
-    /// Gives the application the look of the stored choice, and follows the system from here on.
+    /// Gives the application the look of the stored choice, and follows the system from then on.
     void start();
 
     Choice choice() const { return m_choice; }
@@ -29,7 +29,7 @@ public:
     static bool isDark(const QPalette &palette);
 
 signals:
-    /// theme::colors() are others. Widgets get a PaletteChange event in addition.
+    /// theme::colors() has changed. Widgets get a PaletteChange event in addition.
     void changed();
     void choiceChanged();
 
@@ -43,5 +43,5 @@ private:
 
     Choice m_choice = Choice::System;
     bool m_isSystemDark = false;
-    bool m_isAsking = false; ///< the system for its palette
+    bool m_isAsking = false; ///< the system's palette
 };

@@ -14,8 +14,8 @@ ContentArea::ContentArea(QWidget *content, QWidget *parent) : QScrollArea(parent
 {
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
-    setFocusPolicy(Qt::NoFocus);               // what gets the keyboard inside is scrolled into sight
-    QWidget *focused = content->focusWidget(); // is lost on the way
+    setFocusPolicy(Qt::NoFocus);               // an item inside that gets the focus is scrolled into view
+    QWidget *focused = content->focusWidget(); // is lost in the move
     setWidget(content);
     if (focused)
         focused->setFocus();
@@ -32,7 +32,7 @@ ContentArea *ContentArea::wrap(QWidget *window)
     }
     QWidget *focused = window->focusWidget();
     auto *content = new QWidget;
-    content->setLayout(window->layout()); // takes the widgets along
+    content->setLayout(window->layout()); // takes the widgets with it
     auto *frame = new QVBoxLayout(window);
     frame->setContentsMargins(0, 0, 0, 0);
     auto *area = new ContentArea(content);
@@ -65,7 +65,7 @@ int ContentArea::neededHeight() const
     return widget()->hasHeightForWidth() ? qMax(least, widget()->heightForWidth(width())) : least;
 }
 
-/// What the window may use of the screen, without its bars.
+/// What the window may use of the screen, excluding the system's bars.
 QSize ContentArea::room() const
 {
     QSize room = window_place::room(screen(), window()->windowHandle());

@@ -2,9 +2,9 @@
 
 #include <QScrollArea>
 
-/// Holds the content of a window, so that the window can be as small as the screen asks. As long as there is room the
-/// area is as if it were not there: its hints are those of the content. Scroll bars appear where the content needs more
-/// than the screen has, or than the user gives it.
+/// Holds the content of a window, so that the window can be as small as the screen requires. As long as there is room
+/// the area is transparent to the layout: its size hints are those of the content. Scroll bars appear where the content
+/// needs more room than the screen has, or than the user gives it.
 class ContentArea : public QScrollArea
 {
     Q_OBJECT
@@ -13,7 +13,7 @@ class ContentArea : public QScrollArea
 public:
     explicit ContentArea(QWidget *content, QWidget *parent = nullptr);
 
-    /// Puts all that `window` lays out into an area; of a main window its central widget.
+    /// Puts everything that `window` lays out into an area; for a main window its central widget.
     static ContentArea *wrap(QWidget *window);
 
     QSize sizeHint() const override;

@@ -7,7 +7,7 @@
 
 namespace {
 
-// A window whose frame takes longer, or never ends, does not stop the others for good.
+// A window whose frame takes longer, or never ends, does not block the others for good.
 constexpr int kPatienceMs = 1000;
 
 QSemaphore &gate()

@@ -6,10 +6,10 @@
 
 class QQuickWindow;
 
-/// Lets windows draw one after the other where a program stands in for the graphics processor. Each window draws in a
-/// thread of its own. Mesa's renderer without a GPU looks from one of these threads at what the others are drawing,
-/// without a lock, and now and then at memory that they have just released: the program could crash. On a few cores one
-/// frame after the other is no slower either. Windows that a GPU draws do not wait for each other.
+/// Lets windows draw one after the other where rendering is done in software. Each window draws in a thread of its own.
+/// From one of these threads, Mesa's software renderer reads what the others are drawing, without a lock, and sometimes
+/// memory that they have just released: the program could crash. On a few cores, drawing one frame after the other is
+/// no slower either. Windows that a GPU draws do not wait for each other.
 ///
 /// Made in the main thread before the window is shown for the first time, and owned by the window.
 class FrameGate : public QObject

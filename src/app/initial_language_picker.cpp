@@ -16,7 +16,7 @@ namespace {
 
 constexpr double kShareOfScreen = 0.92; // leaves room for the window's frame
 
-/// A size that the view asks for, such as "preferredDialogWidth" and "preferredDialogHeight", inside the screen.
+/// A size that the view requests, such as "preferredDialogWidth" and "preferredDialogHeight", inside the screen.
 QSize wantedSize(const QQuickItem &view, const char *which, const QSize &screen)
 {
     const QByteArray name(which);
@@ -24,7 +24,7 @@ QSize wantedSize(const QQuickItem &view, const char *which, const QSize &screen)
         .boundedTo(screen);
 }
 
-/// What the view is drawn with. It stands alone, without the module that has `Theme`.
+/// The colours for the view. It stands alone, without the module that provides `Theme`.
 QVariantMap pickerColors(const Palette &palette)
 {
     return {{QStringLiteral("background"), palette.pickerBackground}, {QStringLiteral("surface"), palette.surface},

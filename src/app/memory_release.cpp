@@ -10,7 +10,7 @@
 namespace {
 
 constexpr int kMomentMs = 500;
-constexpr int kLargeBlock = 1024 * 1024; ///< bytes; what is asked for with every frame is smaller
+constexpr int kLargeBlock = 1024 * 1024; ///< bytes; blocks that are allocated for every frame are smaller
 
 } // namespace
 

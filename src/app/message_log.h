@@ -6,15 +6,15 @@
 /// "[hh:mm:ss.zzz] LEVEL: message (file:line)" each, UTF-8.
 namespace message_log {
 
-/// Opens `fileName` in the working folder, emptied. On failure one warning is written to the handler that is then
-/// installed and false returned; the program goes on without the file.
+/// Opens `fileName` in the working folder, emptied. On failure one warning is written to the handler installed at that
+/// time and false is returned; the program goes on without the file.
 bool open(const QString &fileName);
 
-/// Makes the toolkit's messages go to the open file. A fatal message aborts the program, with or without a file.
+/// Redirects the toolkit's messages to the open file. A fatal message aborts the program, with or without a file.
 /// Messages may come from any thread.
 void install();
 
-/// Gives the toolkit its own handler back and closes the file. No other thread may be logging any more.
+/// Restores the toolkit's own handler and closes the file. No other thread may be logging any more.
 void close();
 
 } // namespace message_log

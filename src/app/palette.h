@@ -3,20 +3,20 @@
 #include <QColor>
 
 /// All colours of one appearance: what widgets, declarative views, charts and pictures are drawn with. There are two,
-/// palette::kLight and palette::kDark. Nothing else in the program names a colour, except those that a quantity has by
-/// its nature, see drawn().
+/// palette::kLight and palette::kDark. Nothing else in the program names a colour, except for the inherent colours of
+/// quantities, see drawn().
 ///
-/// Texts reach a contrast of 4.5 to 1 on every ground that they stand on, curves, marks and coloured figures 3 to 1.
+/// Texts reach a contrast of 4.5 to 1 on every background they appear on; curves, marks and coloured figures 3 to 1.
 struct Palette
 {
     bool isDark = false;
 
-    // Grounds.
+    // Backgrounds.
     QColor background;  ///< of windows, behind cards
     QColor surface;     ///< cards, fields, menus, charts
     QColor surfaceAlt;  ///< every second row, a control under the pointer
     QColor pressed;     ///< a control that is held down
-    QColor accentSoft;  ///< what is chosen
+    QColor accentSoft;  ///< the selection
     QColor accentFaint; ///< a primary control that is not available
     QColor goodSoft, warningSoft, badSoft;
     QColor toolTip;
@@ -24,19 +24,19 @@ struct Palette
     // Edges.
     QColor line;          ///< of cards, and grid lines
     QColor border;        ///< of buttons and fields
-    QColor borderStrong;  ///< of those under the pointer, and of what is seen by its edge alone
-    QColor focusOnAccent; ///< of a primary control that has the keyboard
+    QColor borderStrong;  ///< of those under the pointer, and of items that only their edge makes visible
+    QColor focusOnAccent; ///< of a primary control that has the focus
 
     // Texts and marks.
     QColor text;
     QColor textSecondary;
-    QColor textDisabled; ///< of what is not available, and numbers that are not of now
+    QColor textDisabled; ///< of unavailable items, and of outdated numbers
     QColor accentText;   ///< on accentSoft
     QColor toolTipText;
     QColor good, warning, bad;
 
-    // The accent, and what stands on it.
-    QColor accent;        ///< ground of primary controls, focus, progress
+    // The accent, and texts on it.
+    QColor accent;        ///< background of primary controls, focus, progress
     QColor accentPressed; ///< the same under the pointer
     QColor onAccent;
     QColor onAccentFaint;
@@ -58,8 +58,8 @@ struct Palette
     // The 3D view.
     QColor sceneLight, sceneGrid, sceneNorth, sceneBody;
 
-    /// How a colour that a quantity has by its nature is drawn here: as it is in the light, as this palette's own where
-    /// it has one, else lighter until it can be seen.
+    /// How the inherent colour of a quantity is drawn in this palette: unchanged in the light one; else as this
+    /// palette's own where it has one, or lightened until it can be seen.
     QColor drawn(const QColor &natural) const;
 };
 

@@ -8,7 +8,7 @@ void QuestionBox::withdraw()
     if (m_box == nullptr)
         return;
     m_box->hide();
-    m_box->deleteLater(); // it may be its own answer that takes it back
+    m_box->deleteLater(); // it may be withdrawn by its own answer
     m_box.clear();
 }
 

@@ -8,8 +8,8 @@
 class QMessageBox;
 class QWidget;
 
-/// Asks the user beside everything else that goes on: nothing is blocked, and no nested event loop runs. One question
-/// at a time; a new one takes the place of the last. Main thread only.
+/// Asks the user while everything else goes on: nothing is blocked, and no nested event loop runs. One question at a
+/// time; a new one replaces the last. Main thread only.
 class QuestionBox
 {
 public:
@@ -17,11 +17,11 @@ public:
     ~QuestionBox() { withdraw(); }
     Q_DISABLE_COPY_MOVE(QuestionBox)
 
-    /// Shows `question` above `parent`, with a button that runs `then`, and the default one that changes nothing.
-    /// Whatever `then` uses has to live as long as this object.
+    /// Shows `question` over `parent`, with a button that runs `then`, and a default button that changes nothing.
+    /// Whatever `then` uses must live as long as this object.
     void ask(QWidget *parent, const QString &question, const QString &yes, const QString &no,
              const std::function<void()> &then);
-    /// Takes a question back that no longer makes sense.
+    /// Withdraws a question that no longer makes sense.
     void withdraw();
 
 private:

@@ -19,7 +19,7 @@
 
 namespace {
 
-constexpr int kFrame = 48; ///< a window that is new leaves that much of the screen free
+constexpr int kFrame = 48; ///< a new window leaves that much of the screen free
 
 } // namespace
 
@@ -30,7 +30,7 @@ QuickWindow::QuickWindow(int samples, QWindow *parent) : QQuickView(parent)
     surface.setSamples(samples);
     setFormat(surface);
     new FrameGate(this);
-    // What is hidden is unloaded, and has nothing to keep.
+    // Hidden views are unloaded, and have nothing to keep.
     setPersistentSceneGraph(false);
     setPersistentGraphics(false);
     setColor(theme::colors().background);
@@ -43,7 +43,7 @@ QuickWindow::QuickWindow(int samples, QWindow *parent) : QQuickView(parent)
 
 QuickWindow::~QuickWindow()
 {
-    unload(); // while what the items are bound to is still here
+    unload(); // while the objects that the items are bound to still exist
 }
 
 void QuickWindow::setGround(QColor Palette::*role)
@@ -112,7 +112,7 @@ void QuickWindow::showEvent(QShowEvent *event)
 {
     QQuickView::showEvent(event);
     if (isTopLevel())
-        QMetaObject::invokeMethod(this, &QuickWindow::fit, Qt::QueuedConnection); // when the frame is known
+        QMetaObject::invokeMethod(this, &QuickWindow::fit, Qt::QueuedConnection); // once the frame is known
 }
 
 void QuickWindow::fit()
@@ -125,7 +125,7 @@ void QuickWindow::fit()
         setGeometry(fitted);
 }
 
-/// The view is as large as the window, or as it has to be.
+/// The view is as large as the window, or as large as it needs to be.
 void QuickWindow::layOut()
 {
     QQuickItem *view = rootObject();

@@ -2,6 +2,6 @@
 
 #include <QStringList>
 
-/// Puts sentences behind each other: with a blank between them, but not behind a full-width stop, which brings its own
-/// room. Empty ones are left out.
+/// Joins sentences: with a blank between them, but not after a full-width stop, which has its own space. Empty ones are
+/// left out.
 QString joinSentences(const QStringList &sentences);

@@ -15,8 +15,8 @@ uint digit(char character)
     return at != nullptr ? uint(at - kDigits) % 16 : 16;
 }
 
-/// What words are left of a text when the toolkit has read it: "\x40" and "\100" are "@". Everything that may fall out
-/// between two letters is gone: quotation marks, white space, other escapes.
+/// The words left of a text once the toolkit has read it: "\x40" and "\100" are "@". Everything that the reader may
+/// drop between two letters is removed: quotation marks, white space, other escapes.
 QByteArray wordsOf(const QByteArray &text)
 {
     QByteArray words;
@@ -33,7 +33,7 @@ QByteArray wordsOf(const QByteArray &text)
         if (isHex || (i < text.size() && digit(text.at(i)) >= base))
             ++i;
         const qsizetype first = i;
-        quint16 value = 0; // a number of any length may follow, its last 16 bits count
+        quint16 value = 0; // a number of any length may follow; its last 16 bits count
         for (; i < text.size() && digit(text.at(i)) < base; ++i)
             value = quint16(value * base + digit(text.at(i)));
         if (i > first && value < 0x80)

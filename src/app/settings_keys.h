@@ -2,9 +2,9 @@
 
 #include <QLatin1String>
 
-/// The settings file and its keys. It lies in the working folder, is read and written through QSettings in INI format,
-/// and may be missing, unwritable or hold anything: every reader checks what it gets (and settings_file, at the start,
-/// that it can be read at all).
+/// The settings file and its keys. It is in the working folder, is read and written through QSettings in INI format,
+/// and may be missing, unwritable or hold anything: every reader checks what it gets (and at the start settings_file
+/// checks that the file can be read at all).
 namespace settings_keys {
 
 constexpr QLatin1String kFile("param.ini");
@@ -18,8 +18,8 @@ constexpr QLatin1String kBaudRate("SERIAL/BAUDRATE");    ///< last baud rate
 constexpr QLatin1String kPortVendor("SERIAL/VENDOR_ID"); ///< USB identity of the last port, decimal
 constexpr QLatin1String kPortProduct("SERIAL/PRODUCT_ID");
 constexpr QLatin1String kPortSerial("SERIAL/SERIAL_NUMBER");
-constexpr QLatin1String kPortGeometry("SERIAL/GEOMETRY");       ///< size and place of the dialog that asks for it
-constexpr QLatin1String kSettingsGeometry("SETTINGS/GEOMETRY"); ///< of the device settings
+constexpr QLatin1String kPortGeometry("SERIAL/GEOMETRY");       ///< size and place of the port dialog
+constexpr QLatin1String kSettingsGeometry("SETTINGS/GEOMETRY"); ///< of the device settings window
 constexpr QLatin1String kRecordPath("RECORD/PATH"); ///< folder and name of the last recording, "<folder>/data.csv"
 constexpr QLatin1String kRecordStopsByTime("RECORD/STOP_BY_TIME"); ///< true: after kRecordMinutes
 constexpr QLatin1String kRecordMinutes("RECORD/MINUTES");

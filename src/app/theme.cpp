@@ -154,7 +154,7 @@ QTabBar::tab:selected { color: @accentText; border-bottom: 2px solid @accent; }
     const Palette &c = colors();
     sheet.replace(QStringLiteral("@check"), c.isDark ? QStringLiteral("check-dark") : QStringLiteral("check"));
     sheet.replace(QStringLiteral("@chevron"), c.isDark ? QStringLiteral("chevron-dark") : QStringLiteral("chevron"));
-    // The longer names first: "@accent" begins others.
+    // The longer names first: "@accent" is a prefix of others.
     const std::pair<const char *, QColor> roles[] = {{"@accentPressed", c.accentPressed},
                                                      {"@accentFaint", c.accentFaint},
                                                      {"@accentSoft", c.accentSoft},

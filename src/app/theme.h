@@ -12,15 +12,15 @@ struct Palette;
 /// only.
 namespace theme {
 
-/// The colours of now; see Appearance.
+/// The current colours; see Appearance.
 const Palette &colors();
-/// Takes the other colours. What has been given to the application before stays: call apply().
+/// Switches the colours. What the application has been given before stays until apply() is called.
 void setDark(bool isDark);
 
 /// Distance unit in device-independent pixels.
 inline constexpr int kGrid = 8;
 
-/// The colours of now for widgets.
+/// The current colours for widgets.
 QPalette palette();
 
 /// Style sheet of the application's widgets; independent of the font size.

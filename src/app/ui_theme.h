@@ -8,8 +8,8 @@
 #include "app/palette.h"
 #include "app/theme.h"
 
-/// The look for declarative views, singleton `Theme` of the module KVCenter.Controls: the colours of now and fonts
-/// that follow the application's font. Text items do not follow a changed application font by themselves, so every text
+/// The look for declarative views, singleton `Theme` of the module KVCenter.Controls: the current colours, and fonts
+/// that follow the application's font. Text items do not follow a changed application font on their own, so every text
 /// binds its font to one of these.
 class UiTheme : public QObject
 {
@@ -100,8 +100,8 @@ public:
     QColor sceneGrid() const { return theme::colors().sceneGrid; }
     QColor sceneNorth() const { return theme::colors().sceneNorth; }
     QColor sceneBody() const { return theme::colors().sceneBody; }
-    /// A colour that a quantity has by its nature, as it is drawn now. Bind it as drawn(color, Theme.dark), so that it
-    /// follows the appearance.
+    /// The inherent colour of a quantity, as it is drawn now. Bind it as drawn(color, Theme.dark), so that it follows
+    /// the appearance.
     Q_INVOKABLE static QColor drawn(const QColor &natural, bool isDark);
     /// Distance unit in device-independent pixels.
     int grid() const;

@@ -61,7 +61,7 @@ bool WindowHost::eventFilter(QObject *watched, QEvent *event)
         break;
     case QEvent::FontChange:
     case QEvent::LanguageChange:
-    case QEvent::LayoutRequest: // a larger content has made the window larger
+    case QEvent::LayoutRequest: // larger content has made the window larger
     case QEvent::ScreenChangeInternal:
         fitSoon();
         break;
@@ -98,7 +98,7 @@ void WindowHost::fit()
         if (needed > std::exchange(m_neededHeight, needed) && needed > m_area->height())
             m_window->resize(m_window->width(), m_window->height() + needed - m_area->height());
     }
-    // A user may move a window half out of sight; only what has another size than it had comes back.
+    // A user may move a window half off the screen; only a window whose size has changed is brought back.
     const QRect now = m_window->geometry();
     if (now.size() == m_fittedSize && m_window->isVisible())
         return;

@@ -10,8 +10,8 @@
 
 namespace {
 
-/// What a frame usually takes, until the window manager says it. A window is moved by its title bar, so that has to be
-/// on the screen.
+/// The usual size of a frame, until the window manager reports it. A window is moved by its title bar, which must
+/// therefore be on the screen.
 constexpr QMargins kUsualFrame{0, 32, 0, 0};
 
 QMargins frameOf(const QWindow *window)

@@ -15,16 +15,17 @@ namespace window_place {
 /// `window` that is shown already knows its frame (null: none is).
 QSize room(const QScreen *screen, const QWindow *window = nullptr);
 
-/// `wanted`, a window's geometry without its frame, made small enough for `screen` and moved inside it.
+/// `wanted`, a window's geometry without its frame, shrunk to fit `screen` and moved inside it.
 QRect fitted(QRect wanted, const QScreen *screen, const QWindow *window = nullptr);
 
-/// Gives a window the size and place stored under `key`. False, with the window left alone, when there is none that can
+/// Gives a window the size and place stored under `key`. False, with the window unchanged, when there is none that can
 /// be read. Call it before the window is shown for the first time.
 bool restore(QWidget *window, QLatin1String key);
 /// Stores them.
 void store(const QWidget *window, QLatin1String key);
 
-/// The same for windows without widgets. `group` keeps two values: the place while not maximised, and whether it was.
+/// The same for windows without widgets. `group` holds two values: the place while not maximised, and whether it was
+/// maximised.
 bool restore(QWindow *window, QLatin1String group);
 void store(const QWindow *window, QLatin1String group);
 

@@ -4,7 +4,7 @@
 #include <QRectF>
 #include <QSizeF>
 
-/// Where the parts of the attitude indicator stand in a widget of a given size. Lengths are device-independent pixels.
+/// Where the parts of the attitude indicator are in a widget of a given size. Lengths are device-independent pixels.
 struct AdiLayout
 {
     QPointF center;            ///< of the ball, on whole pixels so that a level horizon is sharp

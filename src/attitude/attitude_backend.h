@@ -8,8 +8,8 @@
 
 #include "attitude/attitude_convention.h"
 
-/// The device's axes as vectors of the display frame (X forward, Y up, Z to the right) while the body stands level and
-/// looks forward.
+/// The device's axes as vectors of the display frame (X forward, Y up, Z to the right) while the body is level and
+/// faces forward.
 struct BodyAxesBasis
 {
     QVector3D x{1, 0, 0};
@@ -22,7 +22,7 @@ struct BodyAxesBasis
     bool operator==(const BodyAxesBasis &) const = default;
 };
 
-/// What the 3D scene shows: it binds to these properties, which are set by the window. Setters that change nothing emit
+/// What the 3D scene shows: it binds to these properties, which the window sets. Setters that change nothing emit
 /// nothing; values that are not finite are ignored. Main thread.
 class AttitudeBackend : public QObject
 {
@@ -34,7 +34,7 @@ class AttitudeBackend : public QObject
     Q_PROPERTY(QQuaternion quaternion READ quaternion NOTIFY orientationChanged)
     Q_PROPERTY(QQuaternion homeQuaternion READ homeQuaternion NOTIFY homeReferenceChanged)
     Q_PROPERTY(bool homeReferenceActive READ homeReferenceActive NOTIFY homeReferenceChanged)
-    /// The model: ".qml" a built-in scene, ".obj" read at run time, ".mesh" taken as it is.
+    /// The model: ".qml" a built-in scene, ".obj" read at run time, ".mesh" used unchanged.
     Q_PROPERTY(QUrl objSource READ objSource NOTIFY objSourceChanged)
     /// The device's axes fixed to the body, see BodyAxesBasis.
     Q_PROPERTY(QVector3D bodyAxisX READ bodyAxisX NOTIFY bodyAxesChanged)
@@ -49,7 +49,7 @@ public:
     QVector3D euler() const { return m_euler; }
     QQuaternion homeQuaternion() const { return m_homeQuaternion; }
     bool homeReferenceActive() const { return m_homeReferenceActive; }
-    /// Display angles relative to the home reference, degrees; of the last setRelativeEuler().
+    /// Display angles relative to the home reference, degrees, as given to the last setRelativeEuler().
     QVector3D relativeEuler() const { return m_relativeEuler; }
     QUrl objSource() const { return m_objSource; }
     QVector3D bodyAxisX() const { return m_bodyAxes.x; }
@@ -61,7 +61,7 @@ public:
     void setBodyAxes(const BodyAxesBasis &axes);
     void setHomeReference(const QQuaternion &quaternion, bool active);
     void setRelativeEuler(const QVector3D &euler);
-    /// Puts the view's camera back to where it began.
+    /// Puts the view's camera back to its initial place.
     void resetCamera() { emit cameraResetRequested(); }
 
 signals:

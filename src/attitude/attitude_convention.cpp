@@ -37,7 +37,8 @@ float wrapped(float degrees)
 
 bool isUsable(const QQuaternion &quaternion)
 {
-    // The length is checked for infinity apart: a long quaternion's square overflows, its direction is still good.
+    // Infinity is checked separately from the length: a long quaternion's square overflows, but its direction is still
+    // good.
     return quaternion.lengthSquared() > kMinQuaternionLengthSquared && std::isfinite(quaternion.length());
 }
 
@@ -63,8 +64,8 @@ NormalizedAttitude attitude_convention::normalizeAttitude(const NodeSnapshot &no
         result.quaternion = inDisplayAxes(device, result.axisMatrix);
         result.euler = displayEulerFromQuaternion(result.quaternion);
     } else if (node.has_euler) {
-        // Yaw of FluNwuZyx is negated here for the report and once more for the rotation: the numbers that users know
-        // from these devices have that sign, while the rotation follows the device.
+        // Yaw of FluNwuZyx is negated here for the reported angles and once more for the rotation: the numbers that
+        // users know from these devices have that sign, while the rotation follows the device.
         const float sign = preset == OrientationPreset::FluNwuZyx ? -1.0F : 1.0F;
         result.valid = true;
         result.euler = QVector3D(node.sample.roll, sign * node.sample.pitch, sign * node.sample.yaw);

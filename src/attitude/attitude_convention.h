@@ -21,7 +21,7 @@ struct NormalizedAttitude
     AxisMatrix axisMatrix = {};  ///< matrix A of the preset: v_display = transposed(A) * v_device
 };
 
-/// The part of a NormalizedAttitude that follows from three angles and a preset.
+/// The part of a NormalizedAttitude that is derived from three angles and a preset.
 struct DisplayAttitude
 {
     QQuaternion quaternion;
@@ -34,8 +34,8 @@ struct DisplayAttitude
 /// the rotation turns the nose to the left (counter-clockwise seen from above).
 namespace attitude_convention {
 
-/// Display attitude of a node. A quaternion is preferred; one that is all but zero or not finite does not count.
-/// Euler angles are reported as given, but for FluNwuZyx with pitch and yaw negated; they are not wrapped.
+/// Display attitude of a node. A quaternion is preferred; one that is nearly zero or not finite does not count. Euler
+/// angles are reported as given, except that FluNwuZyx negates pitch and yaw; they are not wrapped.
 NormalizedAttitude normalizeAttitude(const NodeSnapshot &node, OrientationPreset preset);
 
 /// Display attitude of roll, pitch and yaw. For FluNwuZyx the yaw turns the other way. Without a preset the result is

@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::array kQuaternionColors{&Palette::axisW, &Palette::axisX, &Palette::axisY, &Palette::axisZ};
 
-/// With a sign, all equally wide; a dash for what is no number.
+/// With a sign, all equally wide; a dash for anything that is not a number.
 QString figure(float value, int decimals, const QString &unit)
 {
     if (!std::isfinite(value))
@@ -122,7 +122,7 @@ void AttitudeFigures::setColors()
 void AttitudeFigures::setFonts()
 {
     const QFont fixed = theme::fixedPitchFont(font().pointSizeF());
-    // The longest number keeps its place.
+    // Leaves room for the longest number.
     const int width = QFontMetrics(fixed).horizontalAdvance(QStringLiteral("W  +0.1234"));
     for (QLabel *label : m_values) {
         label->setFont(fixed);

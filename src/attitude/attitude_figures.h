@@ -10,7 +10,7 @@
 class QLabel;
 
 /// Numbers of an attitude: roll, pitch and yaw in degrees, live and relative to the home reference, and the display
-/// quaternion. What there is no number for shows a dash; nothing moves as numbers change.
+/// quaternion. Missing numbers are shown as a dash; nothing moves as numbers change.
 class AttitudeFigures : public QWidget
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ class AttitudeFigures : public QWidget
 public:
     explicit AttitudeFigures(QWidget *parent = nullptr);
 
-    /// `relative` are display angles from home, nothing without a home reference.
+    /// `relative` holds display angles from home; empty without a home reference.
     void show(const NormalizedAttitude &live, const std::optional<QVector3D> &relative);
 
 protected:

@@ -28,7 +28,7 @@
 namespace {
 
 constexpr int kReplotMs = 25;
-constexpr int kSamplesPerPixel = 4; // all that drawing without a GPU can do
+constexpr int kSamplesPerPixel = 4; // the most that drawing without a GPU can do
 constexpr QSize kSmallestView{160, 120};
 constexpr QLatin1String kDefaultModel("jet.obj");
 /// In the order of the selector's entries.
@@ -60,7 +60,7 @@ form_threed::form_threed(QWidget *parent) : QWidget(parent, Qt::Window), m_ui(st
 form_threed::~form_threed()
 {
     close();
-    endView(); // before the backend that it is bound to
+    endView(); // goes before the backend that it is bound to
 }
 
 void form_threed::initView()
@@ -107,8 +107,9 @@ void form_threed::showDefaultModel()
     }
 }
 
-/// A geometry that has changed since the last picture stands in the scene's list of changes, and the toolkit does not
-/// take it out when both go: what goes after it would write into freed memory. Without a model it leaves the list.
+/// A geometry that has changed since the last picture is in the scene's list of changes, and the toolkit does not
+/// remove it when both are destroyed: whatever is destroyed after it would write into freed memory. Without a model it
+/// leaves the list.
 void form_threed::releaseGeometries()
 {
     if (m_view == nullptr || m_view->rootObject() == nullptr)
@@ -365,7 +366,7 @@ void form_threed::showEvent(QShowEvent *event)
 {
     if (!m_view && !m_noPicture) {
         initView();
-        if (!modelError().isEmpty()) // its file has changed meanwhile
+        if (!modelError().isEmpty()) // its file has changed in the meantime
             showDefaultModel();
     }
     QWidget::showEvent(event);

@@ -18,11 +18,10 @@ class form_threed;
 /// The 3D window: a model in the pose of the selected node, its numbers, a home reference to compare with, and the
 /// choices of mounting and model.
 ///
-/// The newest attitude is stored at any rate and shown every 25 ms while the window is visible; nothing is drawn while
-/// it is closed, hidden or minimised. Where the picture cannot be drawn a sentence stands in its place and the numbers
-/// go on. Closing hides the window; it keeps model and home, and gives back
-/// what the picture was drawn with. Place, mounting and their like are in the settings file,
-/// group "THREED". Main thread only.
+/// The newest attitude is stored as fast as it arrives and shown every 25 ms while the window is visible; nothing is
+/// drawn while it is closed, hidden or minimised. Where the picture cannot be drawn, a sentence takes its place and the
+/// numbers go on. Closing hides the window; it keeps model and home, and releases the graphics resources. Place,
+/// mounting and the like are in the settings file, group "THREED". Main thread only.
 class form_threed : public QWidget
 {
     Q_OBJECT
@@ -39,8 +38,8 @@ public:
     void setAttitude(const NormalizedAttitude &attitude);
 
     /// Shows another mounting, or another product's (its key; empty: none is known), without storing or reporting it.
-    /// Each mounting has a home reference of its own, see HomeReferences. The attitude that is shown stays as it was
-    /// given: give it again as it is in the new axes.
+    /// Each mounting has a home reference of its own, see HomeReferences. The displayed attitude stays as it was given:
+    /// pass it again, expressed in the new axes.
     void setMounting(const QString &product, OrientationPreset preset);
     /// Another mounting of the same product.
     void setOrientationPreset(OrientationPreset preset);
@@ -50,7 +49,7 @@ public:
     void stopThreeDPlot();
     bool isPlotting() const { return m_replotTimer.isActive(); }
 
-    /// Forgets the home reference of this mounting, and that one was to be captured.
+    /// Forgets the home reference of this mounting, and a pending request to capture one.
     void clearHomeReference();
 
     /// Shows another model. On failure the model stays, with a sentence for the user in `error` (may be null).
@@ -86,7 +85,7 @@ private:
     void initView();
     void endView();
     void showDefaultModel();
-    /// What is wrong with the model that is to be shown; empty when nothing is known.
+    /// What is wrong with the model to be shown; empty when nothing is known to be wrong.
     QString modelError() const;
     void releaseGeometries();
     /// Puts a sentence, not yet translated, in place of the picture.
@@ -96,7 +95,7 @@ private:
     void captureHome();
     void showHome();
     void chooseFile(const QString &path);
-    /// loadobj() for the user: a failure is told in the window.
+    /// loadobj() for the user: a failure is reported in the window.
     void chooseModel(const QString &path);
     OrientationPreset loadRotationPreset() const;
     void saveRotationPreset() const;

@@ -9,19 +9,19 @@
 #include "attitude/orientation_preset.h"
 
 /// The poses that the 3D window compares with. A home reference belongs to a product's mounting: it was captured in
-/// that product's axes, stays when the connection is closed or another product comes, and is there again when its own
-/// does. Kept until it is cleared or the program ends. Main thread only.
+/// that product's axes, stays when the connection is closed or another product is connected, and is used again when its
+/// own product returns. Kept until it is cleared or the program ends. Main thread only.
 class HomeReferences
 {
 public:
-    /// From now on this mounting's home counts. `product` is the product's key; empty: none is known.
+    /// From now on this mounting's home is used. `product` is the product's key; empty: none is known.
     void setMounting(const QString &product, OrientationPreset preset);
     const QString &product() const { return m_product; }
 
-    /// The home of the current mounting, in display axes; nothing when none was captured.
+    /// The home of the current mounting, in display axes; empty when none was captured.
     std::optional<QQuaternion> current() const;
     void capture(const QQuaternion &pose) { m_homes.insert(key(), pose); }
-    /// Forgets the current mounting's home alone.
+    /// Forgets the current mounting's home only.
     void clear() { m_homes.remove(key()); }
 
 private:

@@ -22,7 +22,7 @@ constexpr quint32 kFloat32 = 10;
 constexpr quint32 kTriangles = 7;
 constexpr quint32 kFloatBytes = 4;
 
-/// Reads numbers of the file in order. After the first one that is missing everything is 0 and `good` false.
+/// Reads numbers of the file in order. After the first missing one everything is 0 and `good` is false.
 class Cursor
 {
 public:
@@ -78,7 +78,7 @@ bool hasFrame(Cursor &cursor, qint64 fileSize)
            && cursor.next<quint32>() == fileSize - kHeaderBytes - kDirectoryBytes;
 }
 
-/// Numbers of the mesh and its attributes, up to where the vertices begin.
+/// The numbers describing the mesh and its attributes, up to where the vertices begin.
 bool readShape(Cursor &cursor, Shape &shape)
 {
     std::array<quint32, 14> numbers{};

@@ -6,12 +6,12 @@
 #include <QVector3D>
 #include <QtQml/qqmlregistration.h>
 
-/// Gatekeeper for models in the toolkit's binary format (.mesh, as balsam writes it): the renderer loads such a file by
-/// itself and trusts every number in it, so this checks them first. On failure `error` holds a sentence for the user
-/// and the file must not be shown.
+/// Gatekeeper for models in the toolkit's binary format (.mesh, as balsam writes it): the renderer loads such a file
+/// itself and trusts every number in it, so this class checks them first. On failure `error` holds a sentence for the
+/// user and the file must not be shown.
 ///
-/// A file holds one mesh of triangles of format version 5, at most 64 MiB. Little endian; every part is followed by
-/// padding to the next multiple of 4, by 4 bytes where it ends on one:
+/// A file holds one triangle mesh of format version 5, at most 64 MiB. Little endian; every part is followed by padding
+/// to the next multiple of 4, or by 4 bytes where it already ends on one:
 ///
 ///     bytes   part
 ///     12      header: u32 0xC8A07F4D, u16 version, u16 flags, u32 size of what follows up to the directory

@@ -22,7 +22,7 @@ struct Corner
     int normal = kNone;
 };
 
-/// What the parser has delivered so far. Corners count from 0; a bad one is noticed when it is looked up.
+/// What the parser has delivered so far. Corners count from 0; a bad one is detected when it is looked up.
 struct Collected
 {
     std::vector<QVector3D> positions;
@@ -31,7 +31,7 @@ struct Collected
     bool hasTooMany = false;
 };
 
-/// Indices of the file count from 1, negative ones from the newest backwards; 0 stands for a missing one.
+/// Indices of the file count from 1, negative ones from the newest backwards; 0 means a missing one.
 int fromZero(int index, size_t count)
 {
     if (index > 0)
@@ -72,9 +72,9 @@ bool isUsable(const QVector3D &position)
            && std::abs(position.z()) <= kMaxCoordinate;
 }
 
-/// The text in the one form that the parser reads: without a byte order mark and comments, with line feeds, and with
-/// lines that "\" continues in one piece. Empty lines after these keep the numbers of the others. A comment ends with
-/// its line, even after a "\": it may be a folder's name.
+/// The text in the one form that the parser reads: without byte order mark and comments, with line feeds, and with
+/// lines continued by "\" joined. Empty lines after these preserve the line numbers. A comment ends with its line, even
+/// after a "\", which may end a folder's name.
 std::string plainText(QByteArrayView text)
 {
     static constexpr QByteArrayView kByteOrderMark("\xEF\xBB\xBF");
@@ -106,7 +106,7 @@ std::string plainText(QByteArrayView text)
     return plain;
 }
 
-/// The parser takes a word that is no number for 0. Returns the number of the first such line, 0 when there is none.
+/// The parser reads a word that is not a number as 0. Returns the number of the first such line, 0 when there is none.
 qsizetype badCoordinateLine(QByteArrayView text)
 {
     qsizetype number = 0;

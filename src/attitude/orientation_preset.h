@@ -3,11 +3,11 @@
 #include <QString>
 #include <QtGlobal>
 
-/// How a device's axes lie in the body that carries it, and how its Euler angles are meant.
+/// How a device's axes lie in the body that carries it, and the convention of its Euler angles.
 enum class OrientationPreset : quint32 {
     RfuEnu312 = 0, ///< x right, y forward, z up; Euler sequence 3-1-2
     FluNwuZyx = 1, ///< x forward, y left, z up; Euler sequence Z-Y-X
-    None = 2,      ///< no preset: device axes are taken as they are
+    None = 2,      ///< no preset: device axes are used unchanged
 };
 
 namespace product_profile {

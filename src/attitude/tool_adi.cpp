@@ -105,7 +105,7 @@ int wrappedHeading(int degrees)
 ToolADI::ToolADI(QWidget *parent) : QWidget(parent)
 {
     setAccessibleName(tr("Attitude indicator"));
-    setAttribute(Qt::WA_OpaquePaintEvent); // else everything beneath is painted too, each time
+    setAttribute(Qt::WA_OpaquePaintEvent); // otherwise everything beneath is repainted each time, too
 }
 
 void ToolADI::setAttitude(const NormalizedAttitude &attitude)
@@ -198,7 +198,7 @@ void ToolADI::drawLadder(QPainter &painter, const AdiLayout &layout) const
     constexpr qreal kMinSpacing = 4.0;
     const qreal r = layout.radius;
     const qreal ppd = layout.pixelsPerDegree;
-    const qreal reach = 0.78 * r; // beyond it the roll pointer has its way
+    const qreal reach = 0.78 * r; // beyond it is the path of the roll pointer
     const int step = kStep * ppd >= kMinSpacing ? kStep : 2 * kStep;
 
     painter.save();
@@ -216,13 +216,13 @@ void ToolADI::drawLadder(QPainter &painter, const AdiLayout &layout) const
         const bool major = angle % 10 == 0;
         const qreal y = (m_shown.pitch - angle) * ppd;
         const qreal half = (major ? 0.22 : 0.11) * r;
-        // Lines come and go softly at the end of the ladder.
+        // Lines fade in and out at the ends of the ladder.
         painter.setOpacity(qBound(0.0, (reach - qAbs(y)) / (0.1 * r), 1.0));
         painter.setPen(QPen(theme::colors().dial, qMax(1.0, r * 0.013), Qt::SolidLine, Qt::FlatCap));
         painter.drawLine(QPointF(-half, y), QPointF(half, y));
         if (!major || layout.ladderFontPixels == 0)
             continue;
-        // Behind the zenith the numbers count down again.
+        // Beyond the zenith the numbers count down again.
         const int shownAngle = qAbs(angle) > 90 ? 180 - qAbs(angle) : qAbs(angle);
         const QString text = QString::number(shownAngle);
         const qreal width = metrics.horizontalAdvance(text);
@@ -326,7 +326,7 @@ void ToolADI::drawHeading(QPainter &painter, const AdiLayout &layout) const
     const qreal boxWidth = figureMetrics.horizontalAdvance(QStringLiteral("000°")) + 0.5 * tape.height();
     const QRectF box(layout.center.x() - boxWidth / 2, tape.top(), boxWidth, tape.height());
 
-    const bool hasTape = tape.width() > 2.6 * boxWidth; // else the box alone
+    const bool hasTape = tape.width() > 2.6 * boxWidth; // otherwise only the box
     if (hasTape) {
         painter.setPen(QPen(theme::colors().line, 1));
         painter.setBrush(theme::colors().background);

@@ -7,9 +7,9 @@
 struct AdiLayout;
 class QPainter;
 
-/// Attitude indicator as in aircraft: a ball with sky and ground, pitch ladder, bank scale with a pointer that points
-/// at the sky, fixed aircraft symbol, and a heading tape below. Scales to any size; what does not fit is left out.
-/// The background is transparent. Main thread, like every widget.
+/// Attitude indicator as in an aircraft: a ball with sky and ground, pitch ladder, bank scale with a sky pointer, fixed
+/// aircraft symbol, and a heading tape below. Scales to any size; parts that do not fit are left out. The background is
+/// transparent. Main thread, like every widget.
 ///
 /// Senses: a positive pitch is nose up (the horizon sinks), a positive roll is right wing down (the horizon turns
 /// counter-clockwise on the screen), headings count clockwise from north, 000 to 359 degrees.
@@ -21,9 +21,9 @@ class ToolADI : public QWidget
 public:
     explicit ToolADI(QWidget *parent = nullptr);
 
-    /// Shows an attitude; repaints only when it differs from the one shown. Its display quaternion is what counts: its
-    /// Euler angles are for reading and their yaw sign depends on where they came from. An attitude that is not valid,
-    /// or whose quaternion is not finite, greys the instrument.
+    /// Shows an attitude; repaints only when it differs from the one shown. Only its display quaternion is used: its
+    /// Euler angles are for display as numbers, and their yaw sign depends on their source. An attitude that is not
+    /// valid, or whose quaternion is not finite, greys the instrument.
     void setAttitude(const NormalizedAttitude &attitude);
 
     /// An attitude is shown (not the grey "No attitude" state).

@@ -16,7 +16,7 @@ double axis_ticks::step(double span, int maxIntervals)
     const double least = span / std::max(maxIntervals, 1);
     const double decade = std::pow(10.0, std::floor(std::log10(least)));
     for (const double factor : {1.0, 2.0, 5.0}) {
-        // What misses by rounding alone is meant.
+        // Accept candidates that miss only by rounding.
         if (factor * decade >= least * (1 - 1e-9))
             return factor * decade;
     }

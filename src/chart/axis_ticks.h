@@ -13,7 +13,7 @@ double step(double span, int maxIntervals);
 QList<double> values(double min, double max, double step);
 inline constexpr int kMaxTicks = 64;
 
-/// Digits behind the point that texts need to tell neighbours `step` apart.
+/// Digits after the point that texts need to distinguish neighbours `step` apart.
 int decimals(double step);
 
 } // namespace axis_ticks

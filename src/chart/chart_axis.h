@@ -27,7 +27,7 @@ public:
     /// Ends of the axis.
     void setMin(double min) { set(m_min, min); }
     void setMax(double max) { set(m_max, max); }
-    /// Pixels that the axis has, and that two ticks are at least apart.
+    /// Length of the axis and minimum distance between two ticks, in pixels.
     void setLength(double length) { set(m_length, length); }
     void setSpacing(double spacing) { set(m_spacing, spacing); }
     /// Appended to each text after a blank.

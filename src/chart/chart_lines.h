@@ -11,9 +11,9 @@
 #include "chart/chart_range.h"
 #include "chart/series_geometry.h"
 
-/// Base of the items that draw a chart's lines: turns points into strips when something changed and it is visible, and
-/// hands them to the scene graph. A subclass says in collect() what to draw and calls schedule() when that changed. An
-/// invisible item does nothing.
+/// Base of the items that draw a chart's lines: turns points into strips when something has changed while it is
+/// visible, and passes them to the scene graph. A subclass says in collect() what to draw and calls schedule() when
+/// that has changed. An invisible item does nothing.
 ///
 /// Works with every renderer: without a GPU interface (the software scene graph) the same lines are painted.
 /// Buffers are kept between frames; a steady stream allocates nothing.
@@ -26,10 +26,10 @@ class ChartLines : public QQuickItem
 public:
     static constexpr double kLineWidth = 1.5; ///< device-independent pixels
     static constexpr int kMinPoints = 256;
-    /// The item reaches that far beyond the plot on all sides, so that a line on the edge is not cut in half.
+    /// The item extends this far beyond the plot on all sides, so that a line on the edge is not cut in half.
     static constexpr int kBleed = 2;
 
-    /// A line as it is handed on.
+    /// A line as it is passed to the scene graph.
     struct Line
     {
         QColor color;
@@ -54,8 +54,8 @@ protected:
         chart_range::Range y;
     };
 
-    /// Fills `content`, with at most `maxPoints` points per line; what it changes about the view is drawn by the same
-    /// frame. Nothing is drawn anew when it returns false.
+    /// Fills `content`, with at most `maxPoints` points per line; its changes to the view are drawn in the same frame.
+    /// Nothing is redrawn when it returns false.
     virtual bool collect(Content &content, int maxPoints) = 0;
     /// Asks for a new frame.
     void schedule();

@@ -56,7 +56,7 @@ void ChartLink::spread(PlotViewState *from, void (ChartLink::*take)(PlotViewStat
 
 void ChartLink::takeRange(PlotViewState &to, const PlotViewState &from)
 {
-    // What follows its newest sample has the others follow theirs.
+    // A chart that follows its newest sample makes the others follow theirs.
     const double shift = from.isAtNewest() ? 0 : from.clock() - to.clock();
     to.setXRange(from.xViewMin() + shift, from.xViewMax() + shift);
 }

@@ -6,9 +6,9 @@
 
 class PlotViewState;
 
-/// Couples the horizontal axes, the cursors and the pointers of charts that stand side by side: what changes in one is
-/// taken over by the others, at the same time of the stream and not at the same distance from their newest samples.
-/// While it is not linked the charts are on their own. Main thread only; the charts are not owned.
+/// Couples the horizontal axes, the cursors and the pointers of charts that are side by side: a change in one is taken
+/// over by the others, at the same stream time and not at the same distance from their newest samples. While it is not
+/// linked the charts are independent. Main thread only; the charts are not owned.
 class ChartLink : public QObject
 {
     Q_OBJECT

@@ -10,8 +10,8 @@
 #include "chart/plot_view_state.h"
 
 /// The table of what is measured on a chart, for a view: values at the cursors, and the statistics between both cursors
-/// or, without both, over what is seen. It follows the chart four times a second while it is active, and computes only
-/// when the data or the places have changed. Main thread only.
+/// or, unless both are placed, over the visible range. It follows the chart four times a second while it is active, and
+/// computes only when the data or the positions have changed. Main thread only.
 class ChartMeasures : public QObject
 {
     Q_OBJECT
@@ -32,10 +32,10 @@ public:
     bool isActive() const { return m_active; }
     void setActive(bool active);
 
-    /// What the statistics are taken over, a sentence.
+    /// What the statistics cover, as a sentence.
     QString extent() const;
     QStringList header() const { return m_table.rows.isEmpty() ? QStringList() : m_table.header(); }
-    /// A list of texts per visible series, under the header.
+    /// A list of texts per visible series, in the order of the header.
     QVariantList rows() const;
     const MeasureTable &table() const { return m_table; }
     /// Brings the table up to date at once.
@@ -43,7 +43,7 @@ public:
     /// How often statistics were computed, for measurements.
     int computations() const { return m_computations; }
 
-    /// The table on the clipboard, for a spreadsheet.
+    /// Copies the table to the clipboard, for a spreadsheet.
     Q_INVOKABLE void copy();
 
 signals:

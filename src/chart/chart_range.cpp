@@ -8,10 +8,10 @@
 namespace {
 
 constexpr double kAir = 0.04;        ///< of the data's span, on both sides
-constexpr double kEdge = 0.01;       ///< of a range: what lies nearer to its end is cut by a line's width
+constexpr double kEdge = 0.01;       ///< of a range: a line nearer to its end than this is cut off by its own width
 constexpr double kShrinkBelow = 0.5; ///< a new range must be that much smaller before it replaces the current one
 constexpr int kIntervals = 6;
-constexpr double kMaxMagnitude = 1e30; ///< beyond, differences of doubles are no use on an axis
+constexpr double kMaxMagnitude = 1e30; ///< beyond this, differences of doubles are of no use on an axis
 
 double snapped(double value, double step)
 {

@@ -12,7 +12,7 @@ struct Range
     bool operator==(const Range &) const = default;
 };
 
-/// What a time window must keep to, in seconds before the newest sample.
+/// The limits of a time window, in seconds before the newest sample.
 struct TimeLimits
 {
     double history = 0; ///< oldest sample, at most 0; a window longer than the history still ends at `newest`
@@ -32,17 +32,17 @@ Range zoomed(Range window, double factor, double anchor);
 /// Moves the window by `fraction` of its span.
 Range moved(Range window, double fraction);
 
-/// What a value axis must keep to.
+/// The limits of a value axis.
 struct ValueLimits
 {
-    double min = -1; ///< usual range of the quantity: an automatic range exceeds it by no more than what keeps data off
+    double min = -1; ///< usual range of the quantity: an automatic range exceeds it just enough to keep data off
                      ///< the edges, while they do not leave it
     double max = 1;
     double minSpan = 0.1;
 };
 
-/// The range that shows values from `low` to `high`: ends at 1-2-5 steps with a little air. It has hysteresis against
-/// trembling: `current` stays as long as it holds the values and they fill a fair part of it.
+/// The range that shows values from `low` to `high`: ends at 1-2-5 steps with a small margin. It has hysteresis against
+/// jitter: `current` stays as long as it holds the values and they fill a fair part of it.
 Range fitted(Range current, double low, double high, const ValueLimits &limits);
 
 } // namespace chart_range

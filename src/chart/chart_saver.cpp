@@ -87,7 +87,7 @@ void ChartSaver::saveAllData(const QVariantList &charts)
 
 void ChartSaver::saveAllPictures(const QVariantList &charts)
 {
-    // The pictures come one by one; with the last of them the folder is asked for.
+    // The pictures arrive one by one; after the last of them the user is asked for the folder.
     const QList<Shown> shown = shownCharts(charts);
     auto files = std::make_shared<QList<File>>();
     for (const Shown &chart : shown) {
@@ -116,7 +116,7 @@ void ChartSaver::takePicture(PlotViewState *view, QQuickItem *item, const Taken 
         tell([] { return tr("The picture could not be taken."); }, true);
         return;
     }
-    // The result lives until its signal has been handled, and no longer.
+    // The grab result lives only until its signal has been handled.
     const QString name = suggestedName(view->fileStem(), QLatin1String(".png"));
     connect(
         grab.get(), &QQuickItemGrabResult::ready, this,

@@ -13,8 +13,8 @@
 class QFileDialog;
 class QWindow;
 
-/// Saves what a chart shows into files that the user names. What is saved is what was visible when it was asked for:
-/// the picture goes on meanwhile. The result stands in `message`; the folder is remembered. Main thread only.
+/// Saves what a chart shows into files that the user names. It saves what was visible at the time of the request: the
+/// chart keeps running in the meantime. The result is in `message`; the folder is remembered. Main thread only.
 class ChartSaver : public QObject
 {
     Q_OBJECT
@@ -28,15 +28,15 @@ class ChartSaver : public QObject
     Q_PROPERTY(bool svg MEMBER m_svg NOTIFY optionsChanged)
 
 public:
-    /// `window` is the one that dialogs belong to; `settingsGroup` keeps the folder.
+    /// `window` is the parent of dialogs; `settingsGroup` stores the folder.
     ChartSaver(QWindow *window, QLatin1String settingsGroup, QObject *parent = nullptr);
 
-    /// What the last save led to, a sentence for the user in the language of the interface; empty before.
+    /// The result of the last save, a sentence for the user in the language of the interface; empty before the first.
     const QString &message() const { return m_message; }
     bool hasFailed() const { return m_failed; }
 
-    /// How it is saved: `allSamples` that there are instead of the visible ones, pictures as `svg` or as PNG with
-    /// `pictureScale` pixels (1 to 4; 0: as on the screen) to each pixel that is independent of the device.
+    /// How it is saved: `allSamples` instead of the visible ones, pictures as `svg` or as PNG with `pictureScale`
+    /// pixels (1 to 4; 0: as on the screen) per device-independent pixel.
     int pictureScale() const { return m_pictureScale; }
     void setPictureScale(int scale);
 
@@ -44,8 +44,8 @@ public:
     Q_INVOKABLE void saveData(PlotViewState *view);
     /// A picture of `item`, which shows the view.
     Q_INVOKABLE void savePicture(PlotViewState *view, QQuickItem *item);
-    /// The same for several charts at once, a file each in a folder that is asked for. `charts` are the items that show
-    /// them, each with its state in "viewState".
+    /// The same for several charts at once, one file each in a folder that the user is asked for. `charts` are the
+    /// items that show them, each with its state in "viewState".
     Q_INVOKABLE void saveAllData(const QVariantList &charts);
     Q_INVOKABLE void saveAllPictures(const QVariantList &charts);
     Q_INVOKABLE void clearMessage() { tell({}, false); }
@@ -62,10 +62,10 @@ signals:
 protected:
     /// Makes a sentence, in the language that is in use when it is called.
     using Sentence = std::function<QString()>;
-    /// Shows a sentence, and shows it anew in another language. An empty function clears.
+    /// Shows a sentence, and shows it again when the language changes. An empty function clears it.
     void tell(const Sentence &sentence, bool failed);
     QWindow *window() const { return m_window; }
-    /// The folder used last, else that of documents.
+    /// The folder used last, else the documents folder.
     QString folder() const;
 
 private:
@@ -75,7 +75,7 @@ private:
         QString name;
         QByteArray content;
     };
-    /// What is done with a picture when it has been taken.
+    /// What is done with a picture once it has been taken.
     using Taken = std::function<void(const File &)>;
 
     void takePicture(PlotViewState *view, QQuickItem *item, const Taken &taken);

@@ -6,9 +6,9 @@
 
 #include "chart/series_statistics.h"
 
-/// What a chart draws: named series of values over one horizontal axis. The bridges implement it, and everything in
-/// chart/ knows them by nothing else. Positions are in the unit of the horizontal axis (seconds before the newest
-/// sample, or Hz), values in that of the vertical one. Main thread only.
+/// What a chart draws: named series of values over one horizontal axis. The bridges implement it, and it is all that
+/// chart/ knows about them. Positions are in the unit of the horizontal axis (seconds before the newest sample, or Hz),
+/// values in that of the vertical one. Main thread only.
 class ChartSource
 {
 public:
@@ -18,19 +18,19 @@ public:
     virtual QString seriesName(int series) const = 0;
     /// 0xRRGGBB.
     virtual quint32 seriesRgb(int series) const = 0;
-    /// The series that is painted at a place of the pile, 0 the lowest.
+    /// The series that is painted at a position in the z-order, 0 the lowest.
     virtual int seriesAtLayer(int layer) const { return layer; }
     virtual bool hasData() const = 0;
     /// The points of a series from `xMin` to `xMax` and one more on either side, so that lines reach the edges of the
     /// plot, reduced to about `maxPoints` without losing a peak. Positions rise or fall throughout. A value that is not
-    /// finite breaks the line. `out` is overwritten, its memory reused.
+    /// finite breaks the line. `out` is overwritten and its memory reused.
     virtual void seriesPoints(int series, double xMin, double xMax, int maxPoints, QList<QPointF> &out) const = 0;
     /// The value of each series at the place nearest to `x`; empty without data.
     virtual QList<double> valuesAt(double x) const = 0;
 
-    /// Of the values of a series from `xMin` to `xMax`, in one pass over them.
+    /// Statistics of the values of a series from `xMin` to `xMax`, in one pass over them.
     virtual SeriesStatistics statistics(int series, double xMin, double xMax) const = 0;
-    /// Changes with the data: what was computed from them holds as long as it stands.
+    /// Changes with the data: results computed from them stay valid as long as it does not change.
     virtual quint64 revision() const = 0;
 
 protected:

@@ -9,20 +9,20 @@ public:
     /// `capacity` is at least 1.
     explicit CircularSampleBuffer(int capacity = 1);
 
-    /// Keeps the newest samples that fit, in their order. `capacity` is at least 1; smaller values change nothing.
+    /// Keeps the newest samples that fit, in their order. `capacity` is at least 1; smaller values are ignored.
     void setCapacity(int capacity);
     int capacity() const { return m_capacity; }
     /// Samples held, 0 to capacity().
     int count() const { return m_count; }
     bool isFull() const { return m_count == m_capacity; }
 
-    /// Appends a sample; a full ring forgets its oldest.
+    /// Appends a sample; a full ring drops its oldest.
     void push(double value);
     /// The sample at `index`, 0 the oldest, count() - 1 the newest; 0.0 outside of that.
     double at(int index) const;
     /// All samples, oldest first.
     QList<double> toList() const;
-    /// Forgets the samples; the capacity stays.
+    /// Clears the samples; the capacity stays.
     void clear();
 
 private:

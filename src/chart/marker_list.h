@@ -4,18 +4,19 @@
 #include <QList>
 #include <QString>
 
-/// A place in the stream that somebody wants to find again.
+/// A place in the stream that the user wants to find again.
 struct ChartMarker
 {
     double timeSec = 0; ///< on the stream's clock, as ChartSource's positions plus PlotViewState::clock()
-    qint64 utcMs = 0;   ///< when that was, milliseconds since 1970 in UTC
+    qint64 utcMs = 0;   ///< time of day, milliseconds since 1970 in UTC
     QString text;       ///< one line
 
     bool operator==(const ChartMarker &) const = default;
 };
 
-/// The markers of a window with charts, by time: the model of its list, what its charts draw, and what recordings take
-/// over by markerAdded(), markerChanged() and csv(). At most kMaxMarkers; the oldest go. Main thread only.
+/// The markers of a window with charts, by time: the model of its list, the markers that its charts draw, and those
+/// that recordings take over by markerAdded(), markerChanged() and csv(). At most kMaxMarkers; the oldest are dropped.
+/// Main thread only.
 class MarkerList : public QAbstractListModel
 {
     Q_OBJECT
@@ -41,10 +42,10 @@ public:
 
     int count() const { return int(m_markers.size()); }
     const QList<ChartMarker> &markers() const { return m_markers; }
-    /// Adds a marker at its place, with a text of its own ("Marker 3") when it has none, and returns its row. A time
+    /// Adds a marker in order of time, with a default text ("Marker 3") when it has none, and returns its row. A time
     /// that is not finite adds nothing: -1.
     int add(ChartMarker marker);
-    /// Blanks at the ends and line breaks go.
+    /// Blanks at the ends and line breaks are removed.
     Q_INVOKABLE void setText(int row, const QString &text);
     Q_INVOKABLE void remove(int row);
     void clear();
@@ -57,12 +58,12 @@ public:
 
 signals:
     void countChanged();
-    /// Any change: what draws them draws again.
+    /// Any change: whatever draws them has to repaint.
     void markersChanged();
     void markerAdded(const ChartMarker &marker);
     void markerChanged(const ChartMarker &marker);
 
 private:
     QList<ChartMarker> m_markers; ///< by time
-    int m_number = 0;             ///< of the last one that got a text by itself
+    int m_number = 0;             ///< of the last one that got a default text
 };

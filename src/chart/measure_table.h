@@ -9,8 +9,8 @@
 #include "chart/series_statistics.h"
 
 /// What is measured on a chart, as a table: a row per series with its values at the cursors, their difference, and the
-/// statistics between the cursors or over what is seen. Plain values; texts are made from it for the screen and for the
-/// clipboard.
+/// statistics between the cursors or over the visible range. Plain values; the texts for the screen and for the
+/// clipboard are made from it.
 struct MeasureTable
 {
     struct Row
@@ -27,12 +27,12 @@ struct MeasureTable
 
     /// What a figure is, which decides whether it carries a sign.
     enum class Figure { Value, Difference, Magnitude };
-    /// Says a figure of a row.
+    /// The text of a figure of a row.
     using ValueText = std::function<QString(int row, double value, Figure figure)>;
 
-    /// The words over the columns; the first is empty, over the names.
+    /// The column titles; the first one, over the names, is empty.
     QStringList header() const;
-    /// A row as texts, under the header.
+    /// A row as texts, in the order of the header.
     QStringList texts(int row, const ValueText &text) const;
     /// For a spreadsheet: tabs and line feeds, header first, numbers with a decimal point and all their digits.
     QString tabSeparated(const QString &firstLine) const;

@@ -18,8 +18,8 @@
 class ChartSource;
 
 /// What every chart with two axes has in common: the visible ranges, the measuring cursors A and B, the crosshair, and
-/// the gestures and keys that move them. A chart adds its limits, where its cursors may stand and what is drawn.
-/// Positions on the horizontal axis are in its own unit. Main thread only.
+/// the gestures and keys that move them. A chart adds its limits, where its cursors may be and what is drawn. Positions
+/// on the horizontal axis are in its own unit. Main thread only.
 class PlotViewState : public QObject
 {
     Q_OBJECT
@@ -52,20 +52,20 @@ public:
     /// What couples the chart to others; null without.
     ChartLink *link() const { return m_link; }
     void setLink(ChartLink *link);
-    /// Position 0 on a clock that coupled charts share.
+    /// The time of position 0 on a clock that coupled charts share.
     virtual double clock() const { return 0; }
     /// The horizontal axis ends at the newest data and stays there.
     virtual bool isAtNewest() const { return false; }
-    /// Takes the cursors of a coupled chart, `shift` later.
+    /// Takes over the cursors of a coupled chart, shifted by `shift`.
     void takeCursors(const QList<double> &cursors, double shift);
 
     /// The markers that are drawn in this chart; null for none.
     MarkerList *markers() const { return m_markers; }
     void setMarkers(MarkerList *markers);
-    /// Those that are visible, and their texts.
+    /// The visible ones, and their texts.
     QList<double> markerPlaces() const;
     QStringList markerTexts() const;
-    /// Shows the surroundings of a place on the clock, as wide as what is shown.
+    /// Shows the surroundings of a time on the clock, without changing the width of the range.
     Q_INVOKABLE void showTime(double clockTime);
 
     /// What is drawn; null while there is none.
@@ -77,30 +77,30 @@ public:
     virtual QList<bool> visibleSeries() const = 0;
     bool isSeriesVisible(int series) const { return visibleSeries().value(series); }
     Q_INVOKABLE virtual void setSeriesVisible(int series, bool visible) = 0;
-    /// What the vertical axis counts for a value of the source.
+    /// The level on the vertical axis for a value of the source.
     virtual double level(double value) const { return value; }
-    /// Points up to this position say nothing about the range that the vertical axis should have.
+    /// Points up to this position are ignored when the vertical axis is fitted.
     virtual double fitFromX() const;
-    /// Told by the view which levels are visible; fits the vertical axis while that is automatic. Nothing happens when
+    /// The view reports which levels are visible; fits the vertical axis while that is automatic. Does nothing when
     /// `low` is above `high`.
     virtual void fitValues(double low, double high) = 0;
 
-    /// All that is said about the pointer in one line, with names.
+    /// Everything about the pointer in one line, with names.
     QString hoverLine() const;
-    /// The position under the pointer, and the value of each series there; empty where there is none.
+    /// The position under the pointer, and the value of each series there; empty when there is none.
     virtual QString hoverTitle() const = 0;
     virtual QStringList hoverTexts() const = 0;
-    /// A value of a series with its unit's digits, a position with its unit.
+    /// A value of a series with the digits that suit its unit; a position with its unit.
     virtual QString valueText(int series, double value, MeasureTable::Figure figure) const = 0;
     virtual QString positionText(double position) const = 0;
-    /// Where the cursors are and what lies between them, one text per quantity.
+    /// The positions of the cursors and the differences between them, one text per quantity.
     virtual QStringList measurement() const = 0;
 
     /// How names of files begin, with the device and node where they are known.
     virtual QString fileStem() const = 0;
-    /// What is visible as a table for a file, or all that there is.
+    /// The visible data, or all data, as a table for a file.
     virtual QByteArray table(bool all) const = 0;
-    /// The words over a picture, and the unit of the horizontal axis in it.
+    /// The title of a picture, and the unit of its horizontal axis.
     virtual QString pictureTitle() const = 0;
     virtual QString xUnit() const = 0;
 
@@ -112,28 +112,28 @@ public:
     /// Positions of A and B, NaN for one that is not placed.
     QList<double> cursors() const { return {m_cursors.begin(), m_cursors.end()}; }
     bool hasCursors() const;
-    /// Places cursor 0 (A) or 1 (B) where the chart lets it stand next to `position`.
+    /// Places cursor 0 (A) or 1 (B) at the position nearest to `position` that the chart allows.
     Q_INVOKABLE void placeCursor(int cursor, double position);
-    /// Both cursors, or none when there are some.
+    /// Places both cursors, or removes them when any is placed.
     Q_INVOKABLE void toggleCursors();
     Q_INVOKABLE void removeCursors();
 
-    /// Position under the pointer, NaN when it is elsewhere.
+    /// Position under the pointer, NaN when the pointer is elsewhere.
     double hoverX() const { return m_hoverX; }
     void setHoverX(double position);
 
     /// The vertical axis fits itself to what is visible. Switched off, it stays as it is.
     virtual bool isYAutomatic() const = 0;
     virtual void setYAutomatic(bool automatic) = 0;
-    /// Shows a range as far as the chart's limits let it; nothing for one that is empty or not finite. A vertical range
-    /// is no longer automatic.
+    /// Shows a range as far as the chart's limits allow; ignores one that is empty or not finite. The vertical range is
+    /// then no longer automatic.
     Q_INVOKABLE void setXRange(double min, double max);
     Q_INVOKABLE void setYRange(double min, double max);
     /// Shows a part of the plot: fractions of it, y from the bottom, in any order. Too small a box is a click.
     Q_INVOKABLE void zoomToBox(double x1, double y1, double x2, double y2);
 
-    /// Scales an axis by `factor`, below 1 zooms in. `anchor` is the place that stays: 0 left or bottom, 1 right or
-    /// top.
+    /// Scales an axis by `factor`, below 1 zooms in. `anchor` is the place that stays fixed: 0 left or bottom, 1 right
+    /// or top.
     Q_INVOKABLE void zoomX(double factor, double anchor);
     Q_INVOKABLE virtual void zoomY(double factor, double anchor) = 0;
     /// One notch or part of a notch of the wheel (120 units) at the fractions (x, y) of the plot, y from the bottom.
@@ -142,12 +142,12 @@ public:
     /// Moves an axis by a fraction of its visible part: a positive one towards larger values.
     Q_INVOKABLE void panX(double fraction);
     Q_INVOKABLE virtual void panY(double fraction) = 0;
-    /// Back to what is shown at first.
+    /// Back to the initial view.
     Q_INVOKABLE virtual void reset() = 0;
 
     /// The keys of a chart: arrows pan, + and - zoom (with Ctrl the other axis), Home resets, End goes to the newest, A
     /// and B place cursors at the pointer, Shift and arrows move the one placed last (with Ctrl further), Esc removes
-    /// them. True when it was one of them and had an effect.
+    /// them. True when the key was one of these and had an effect.
     Q_INVOKABLE bool handleKey(int key, int modifiers);
 
 signals:
@@ -169,23 +169,23 @@ protected:
 
     PlotViewState(MainAxis mainAxis, chart_range::Range x, chart_range::Range y, QObject *parent);
 
-    /// Shows a range as far as the chart's limits let it.
+    /// Shows a range as far as the chart's limits allow.
     virtual void setX(chart_range::Range range) = 0;
-    /// Where a cursor stands that is wanted at `position`; NaN: it cannot be placed.
+    /// Where a cursor requested at `position` is placed; NaN: it cannot be placed.
     virtual double cursorPlace(double position) const = 0;
     /// Where toggleCursors() places A (0) and B (1).
     virtual double firstPlace(int cursor) const = 0;
     /// Where a key places them while the pointer is elsewhere.
     virtual double keyPlace(int cursor) const = 0;
-    /// The place for a cursor next to `position` in a direction, -1 or 1.
+    /// The next place for a cursor from `position` in a direction, -1 or 1.
     virtual double placeBeside(double position, int direction) const = 0;
-    /// Goes to the newest data; false when there is nothing like it.
+    /// Goes to the newest data; false when the chart has no such place.
     virtual bool showNewest() { return false; }
     /// Takes a vertical range that the user has chosen.
     virtual void setManualY(chart_range::Range range) = 0;
-    /// The fraction of the plot that stays where it is when the wheel turns at `x`.
+    /// The fraction of the plot that stays fixed when the wheel is turned at `x`.
     virtual double wheelAnchorX(double x) const { return x; }
-    /// What keys leave in its place when they zoom, as in zoomX() and zoomY().
+    /// The anchor of zooming by keys, as in zoomX() and zoomY().
     virtual double keyAnchorX() const { return 0.5; }
     virtual double keyAnchorY() const { return 0.5; }
 
@@ -203,7 +203,7 @@ private:
     int m_activeCursor = 0; ///< the one that keys move
 };
 
-/// Makes the list of markers known to views, which get it from their window.
+/// Makes the type of the marker list known to views, which get the list from their window.
 struct MarkerListForeign
 {
     Q_GADGET

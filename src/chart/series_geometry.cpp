@@ -11,7 +11,7 @@ namespace {
 
 using series_geometry::Vertex;
 
-constexpr double kFarPixels = 16000; ///< a raster painter's arithmetic ends at 2^15
+constexpr double kFarPixels = 16000; ///< the raster painter's coordinates are limited to 2^15
 constexpr int kProfileRows = 32;
 constexpr double kMiterCosine = 0.8; ///< neighbours that turn less share their corners
 
@@ -61,8 +61,8 @@ void series_geometry::toPixels(const QList<QPointF> &points, const Plot &plot, s
 
 void series_geometry::simplify(std::vector<QPointF> &pixels)
 {
-    // From each kept point a cone of slopes is narrowed by the points that follow; the last one that lies in the cone
-    // of all between is kept next.
+    // From each kept point a cone of slopes is narrowed by the points that follow; the last one inside the cone of all
+    // points between is kept next.
     size_t kept = 0;
     const size_t count = pixels.size();
     for (size_t i = 0; i < count;) {

@@ -24,7 +24,7 @@ struct Vertex
     float v;
 };
 
-/// Where a plot of `width` x `height` shows the ranges.
+/// How a plot of `width` x `height` maps the ranges.
 struct Plot
 {
     chart_range::Range x;
@@ -34,12 +34,13 @@ struct Plot
     double inset = 0; ///< of the plot in the item that draws it, on all sides
 };
 
-/// Values become positions in pixels; far ones are moved near enough for float and raster arithmetic. A NaN or infinite
-/// value becomes a position whose y is NaN: the line is broken there. `out` is overwritten, its memory reused.
+/// Converts values to positions in pixels; distant ones are moved close enough for float and raster arithmetic. A NaN
+/// or infinite value becomes a position whose y is NaN: the line is broken there. `out` is overwritten, its memory
+/// reused.
 void toPixels(const QList<QPointF> &points, const Plot &plot, std::vector<QPointF> &out);
 
-/// Leaves out points that lie on the line through their neighbours within kTolerance: what changes slowly keeps a
-/// fraction of its points and looks the same. x must not change its direction within an unbroken part.
+/// Leaves out points that lie within kTolerance of the line through their neighbours: slowly changing data keep a
+/// fraction of their points and look the same. x must not change direction within an unbroken part.
 void simplify(std::vector<QPointF> &pixels);
 inline constexpr double kTolerance = 0.15; ///< pixels, across the value axis
 
@@ -50,7 +51,7 @@ double halfWidth(double lineWidth, double devicePixelRatio);
 /// joined by triangles without area.
 void appendStrip(const std::vector<QPointF> &pixels, double halfWidth, std::vector<Vertex> &out);
 
-/// The cross-section of a line as a picture of one column, premultiplied.
+/// The cross-section of a line as an image of one column, premultiplied.
 QImage crossSection(const QColor &color, double lineWidth, double devicePixelRatio);
 
 } // namespace series_geometry

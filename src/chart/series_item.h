@@ -6,7 +6,7 @@
 #include "chart/plot_view_state.h"
 
 /// The lines of a chart: one per visible series of the view state's source. Asks for at most two points per pixel, and
-/// gives the state the range of the levels that it found.
+/// reports the range of the levels it found to the state.
 class SeriesItem : public ChartLines
 {
     Q_OBJECT

@@ -54,7 +54,7 @@ public:
             m_geometry.allocate(needed + needed / 4);
         auto *to = static_cast<series_geometry::Vertex *>(m_geometry.vertexData());
         std::copy(strip.begin(), strip.end(), to);
-        // What the buffer holds beyond the strip has no area.
+        // Vertices in the buffer beyond the strip have no area.
         const series_geometry::Vertex end = strip.empty() ? series_geometry::Vertex{0, 0, 0, 0} : strip.back();
         std::fill(to + needed, to + m_geometry.vertexCount(), end);
         markDirty(DirtyGeometry);

@@ -4,7 +4,7 @@ class QSGNode;
 class ChartLines;
 
 /// The two ways in which a ChartLines reaches the screen. Both take the node of the last frame (or null), bring it up
-/// to date with the item's lines by copying, and return the node to keep. Called while the main thread stands.
+/// to date with the item's lines by copying, and return the node to keep. Called while the main thread is blocked.
 namespace series_nodes {
 
 /// Textured triangle strips, one per line. Their buffers only grow.

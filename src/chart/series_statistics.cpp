@@ -20,8 +20,8 @@ void StatisticsSum::add(std::span<const double> values)
 
 void StatisticsSum::addBlock(std::span<const double> values)
 {
-    // Lanes side by side, so that no sum waits for the one before. value - value is 0 for every finite number, NaN
-    // else.
+    // Lanes side by side, so that no sum waits for the one before. value - value is 0 for every finite number and NaN
+    // otherwise.
     std::array<double, kLanes> counts{};
     std::array<double, kLanes> sums{};
     std::array<double, kLanes> lows;
@@ -57,7 +57,7 @@ void StatisticsSum::addBlock(std::span<const double> values)
         const double distance = value - value == 0 ? value - mean : 0.0;
         squares[lane] += distance * distance;
     });
-    // Two sets are put together by their means and their squares about them.
+    // Two sets are combined by their means and the sums of squares about them.
     const double apart = mean - m_mean;
     const double all = double(m_count) + count;
     m_squares += std::accumulate(squares.begin(), squares.end(), 0.0) + apart * apart * double(m_count) * count / all;

@@ -5,8 +5,8 @@
 #include <limits>
 #include <span>
 
-/// What is known of a set of values at a glance. Values that are not finite are left out. Without a value all figures
-/// but the count are NaN.
+/// Summary statistics of a set of values. Values that are not finite are left out. Without a value all figures but the
+/// count are NaN.
 struct SeriesStatistics
 {
     static constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
@@ -21,8 +21,8 @@ struct SeriesStatistics
     double peakToPeak() const { return max - min; }
 };
 
-/// Collects values in runs, in one pass over memory, exactly also for small movements on a large offset: the deviation
-/// of each block is taken from its own mean, while it is in the cache.
+/// Collects values in runs, in one pass over memory, and stays exact for small movements on a large offset: the
+/// deviation of each block is taken from its own mean, while it is in the cache.
 class StatisticsSum
 {
 public:

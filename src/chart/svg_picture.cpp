@@ -76,7 +76,7 @@ public:
         m_xml.writeCharacters(words);
         m_xml.writeEndElement();
     }
-    /// Lines inside a box that follow; what leaves it is cut off.
+    /// The lines that follow are clipped to a box.
     void beginClip(QRectF box)
     {
         m_xml.writeStartElement(QStringLiteral("svg"));

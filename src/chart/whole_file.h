@@ -5,7 +5,7 @@
 
 namespace whole_file {
 
-/// Writes a file whole or not at all. On failure `reason` holds the system's words.
+/// Writes a file completely or not at all. On failure `reason` holds the system's message.
 bool write(const QString &path, const QByteArray &content, QString &reason);
 
 } // namespace whole_file

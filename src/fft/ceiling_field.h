@@ -2,8 +2,8 @@
 
 #include <QDoubleSpinBox>
 
-/// The ceiling of the amplitude axis. While the axis ends elsewhere, because it is fitted or was zoomed, the field says
-/// where; it shows the ceiling as soon as it has the keyboard.
+/// Field for the ceiling of the amplitude axis. While the axis ends elsewhere, because it is fitted or was zoomed, the
+/// field shows that end; it shows the ceiling as soon as it has the focus.
 class CeilingField : public QDoubleSpinBox
 {
     Q_OBJECT
@@ -12,7 +12,7 @@ class CeilingField : public QDoubleSpinBox
 public:
     using QDoubleSpinBox::QDoubleSpinBox;
 
-    /// End of the axis, 0 while that is the ceiling.
+    /// Upper end of the axis, 0 while that is the ceiling.
     void setMaximumInForce(double maximum);
     QString textFromValue(double value) const override;
 
@@ -20,7 +20,7 @@ protected:
     void focusInEvent(QFocusEvent *event) override;
 
 private:
-    /// Makes the text again.
+    /// Updates the text.
     void refreshText() { setSuffix(suffix()); }
 
     double m_maximumInForce = 0;

@@ -6,8 +6,7 @@
 
 #include "fft/fft_records.h"
 
-/// What happened to the alarm. The label is for files and the same in every language: "TRIGGER 40.00Hz / 3.10" or
-/// "CLEAR".
+/// A change of the alarm. The label is for files and the same in every language: "TRIGGER 40.00Hz / 3.10" or "CLEAR".
 struct FftAlarmEvent
 {
     QString label;
@@ -18,13 +17,13 @@ struct FftAlarmEvent
     bool isTrigger() const { return label.startsWith(QLatin1String("TRIGGER")); }
 };
 
-/// Rule of a preset. The thresholds are amplitudes, not ratios. What is no preset counts as General.
+/// Rule of a preset. The thresholds are amplitudes, not ratios. Anything that is not a preset counts as General.
 FftAlarmRule fftAlarmRule(FftAlarmPreset preset);
-/// The peak is valid and its frequency one that the rule watches.
+/// The peak is valid and the rule watches its frequency.
 bool isInAlarmBand(const FftAlarmRule &rule, const FftPeakSummary &peak);
 
 /// Raises the alarm when the dominant peak reaches the alarm threshold in enough consecutive spectra, and ends it when
-/// the peak is no longer above the watch threshold, or outside of the watched frequencies, in enough of them.
+/// the peak is no longer above the watch threshold, or outside the watched frequencies, in enough of them.
 class FftAlarm
 {
 public:
@@ -39,7 +38,7 @@ public:
 
     /// Takes the peak of the next spectrum; true when the state changed.
     bool update(const FftPeakSummary &peak);
-    /// Counts frames from the beginning; state and events stay.
+    /// Restarts the count of frames; state and events stay.
     void restartCounters();
 
 private:

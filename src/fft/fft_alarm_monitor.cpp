@@ -55,11 +55,11 @@ QVariantMap FftAlarmMonitor::ruleToVariantMap() const
 FftAlarmRule FftAlarmMonitor::ruleFrom(const QVariantMap &values, QString &problem)
 {
     const auto number = [&values](const char *key) { return values.value(QLatin1String(key)).toDouble(); };
-    // A bound also for what is not a number.
+    // Also catches NaN.
     const auto frames = [&number](const char *key) { return int(std::fmin(std::fmax(number(key), 1.0), kMaxFrames)); };
     FftAlarmRule rule{tr("Custom rule"),        number("minimumHz"),     number("maximumHz"),  number("alarmThreshold"),
                       number("watchThreshold"), frames("triggerFrames"), frames("clearFrames")};
-    // Written so that what is not a number is refused too.
+    // Written so that NaN is refused too.
     if (rule.maximumHz > 0 && rule.maximumHz <= rule.minimumHz)
         problem = tr("The upper frequency must be above the lower one, or 0 for no limit.");
     else if (!(rule.watchThreshold > 0 && rule.alarmThreshold >= rule.watchThreshold

@@ -7,8 +7,8 @@
 #include "fft/fft_alarm.h"
 #include "fft/fft_alarm_text.h"
 
-/// The alarm as a person meets it: preset or rule of their own, the state with its events, and what is said about it in
-/// the language of the interface. A plain class.
+/// The alarm as the user sees it: preset or custom rule, the state with its events, and the texts about it in the
+/// language of the interface. A plain class.
 class FftAlarmMonitor
 {
     Q_DECLARE_TR_FUNCTIONS(FftChartBridge)
@@ -19,21 +19,21 @@ public:
     FftAlarmPreset preset() const { return m_preset; }
     const FftAlarmRule &rule() const { return m_alarm.rule(); }
     bool hasCustomRule() const { return !(rule() == fftAlarmRule(m_preset)); }
-    /// 1 Industrial, 2 Human, any other General. Takes the preset's rule and starts the alarm again; false when both
-    /// are in use already.
+    /// 1 Industrial, 2 Human, any other General. Takes the preset's rule and restarts the alarm; false when both are
+    /// already in use.
     bool setPreset(int index);
-    /// Takes a rule and starts the alarm again; fewer than one frame are taken as one. False when a number of it is not
+    /// Takes a rule and restarts the alarm; less than one frame counts as one. False when one of its numbers is not
     /// finite.
     bool setRule(const FftAlarmRule &rule);
     /// "minimumHz", "maximumHz", "watchThreshold", "alarmThreshold", "triggerFrames" and "clearFrames".
     QVariantMap ruleToVariantMap() const;
-    /// The rule that a person entered under these keys. `problem` is empty, or a sentence that says what is wrong.
+    /// The rule that the user entered under these keys. `problem` is empty, or a sentence that says what is wrong.
     static FftAlarmRule ruleFrom(const QVariantMap &values, QString &problem);
-    /// All that was set, to tell settings apart.
+    /// Everything that was set, to distinguish settings.
     QStringList profile() const;
 
-    /// While suspended no spectrum counts, for none is said anything, and state and events stay as they are. When it
-    /// goes on, frames are counted from the beginning.
+    /// While suspended no spectrum counts or produces a text, and state and events stay as they are. On resuming, the
+    /// count of frames restarts.
     void setSuspended(bool suspended);
     bool isSuspended() const { return m_suspended; }
 
@@ -47,7 +47,7 @@ public:
 
     /// Takes the peak of the next spectrum, one frame of the alarm. True when state or presentation changed.
     bool update(const FftPeakSummary &peak, double resultantPeakAmplitude);
-    /// Says what there is to say about a peak, see buildAlarmPresentation(). True when that changed.
+    /// Updates the texts about a peak, see buildAlarmPresentation(). True when they changed.
     bool present(const FftPeakSummary &peak, double resultantPeakAmplitude);
 
 private:

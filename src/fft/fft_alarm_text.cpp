@@ -22,7 +22,7 @@ constexpr std::array kStatusWords{QT_TRANSLATE_NOOP("FftAlarm", "Normal"), QT_TR
                                   QT_TRANSLATE_NOOP("FftAlarm", "Alarm")};
 constexpr std::array kAxisNames{"X", "Y", "Z"};
 
-/// Frequencies below `belowHz` and not below the row before.
+/// Frequencies below `belowHz` and not below that of the previous row.
 struct Zone
 {
     double belowHz;
@@ -79,7 +79,7 @@ const Zone &zoneOf(FftAlarmPreset preset, double frequencyHz)
 }
 
 /// %1 of headline and summary is the preset's word, %2 the peak. %1 of the meaning is the peak, %2 the zone or, outside
-/// of the watched frequencies, these. A row without an action gives that of the zone.
+/// the watched frequencies, these frequencies. A row without an action gives that of the zone.
 struct Situation
 {
     const char *headline;
@@ -159,7 +159,7 @@ FftAlarmPresentation buildAlarmPresentation(FftAlarmPreset preset, const FftAlar
     const QString word = fftAlarmPresetNames().value(int(preset), translated(kPresetWords[0]));
     const QString peakWords = peakText(peak);
     const Zone &zone = zoneOf(preset, peak.frequency);
-    // Not every text has both places; arg() would warn about the second.
+    // Not every text has both placeholders; arg() would warn about the second.
     const auto fill = [](const char *text, const QString &first, const QString &second) {
         return translated(text).replace(QLatin1String("%1"), first).replace(QLatin1String("%2"), second);
     };

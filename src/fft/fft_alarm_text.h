@@ -5,7 +5,7 @@
 
 #include "fft/fft_records.h"
 
-/// What the user is told about the alarm, in the language of the interface.
+/// The texts about the alarm, in the language of the interface.
 struct FftAlarmPresentation
 {
     int severityLevel = 0; ///< 0 normal, 1 watch, 2 alarm
@@ -20,7 +20,7 @@ struct FftAlarmPresentation
 };
 
 /// Status and texts. `resultantPeakAmplitude` is the highest amplitude of the resultant, negative while there is no
-/// spectrum at all: that is told apart from a spectrum without a peak.
+/// spectrum at all, as distinct from a spectrum without a peak.
 FftAlarmPresentation buildAlarmPresentation(FftAlarmPreset preset, const FftAlarmRule &rule, FftAlarmState state,
                                             const FftPeakSummary &peak, double resultantPeakAmplitude);
 

@@ -8,19 +8,20 @@
 #include "fft/fft_records.h"
 #include "fft/peak_analysis.h"
 
-/// The frequency bands whose power is told: those that were set, else the automatic ones, with their powers of the last
-/// spectrum and a summary in the language of the interface. A plain class.
+/// The frequency bands whose power is reported: those that were set, else the automatic ones, with their powers in the
+/// last spectrum and a summary in the language of the interface. A plain class.
 class FftBands
 {
     Q_DECLARE_TR_FUNCTIONS(FftChartBridge)
 
 public:
-    /// Bands that a person may add; what programs set has no limit.
+    /// Number of bands that the user may add; there is no limit for callers in the program.
     static constexpr int kMaxTyped = 16;
 
-    /// Powers of a spectrum, compared with those of the one before. The automatic bands split up to `nyquistHz`.
+    /// Powers of a spectrum, compared with those of the one before. The automatic bands divide the range up to
+    /// `nyquistHz`.
     void update(peak_analysis::Spectrum resultant, double nyquistHz);
-    /// Forgets the powers, so that the next ones do not rise.
+    /// Clears the powers, so that the next ones do not count as rising.
     void clearPowers() { m_powers.clear(); }
     /// Names and summary in the current language; the powers stay.
     void retranslate(double nyquistHz);
@@ -28,9 +29,9 @@ public:
     /// Adds a band, or gives the one of this name new edges. False without a name, and for edges that are not finite or
     /// not in order.
     bool set(const QString &name, double lowHz, double highHz);
-    /// Why a person cannot set this band; empty when that is possible.
+    /// Why the user cannot set this band; empty when that is possible.
     QString refusal(const QString &name, double lowHz, double highHz) const;
-    /// Back to the automatic bands; false when they are in use already.
+    /// Back to the automatic bands; false when they are already in use.
     bool reset();
     bool isCustom() const { return !m_definitions.isEmpty(); }
 
@@ -38,7 +39,7 @@ public:
     const QString &summary() const { return m_summary; }
     /// The maps of fft_snapshot::toVariantList() with "lowHz" and "highHz".
     QVariantList toVariantList() const;
-    /// All that was set, to tell settings apart.
+    /// Everything that was set, to distinguish settings.
     QString profile() const;
 
 private:

@@ -26,7 +26,7 @@ QString fixed(double value)
     return QString::number(value, 'f', 2);
 }
 
-/// Sets a value of the view; whether that changed it.
+/// Sets a value of the view; returns whether that changed it.
 template <typename T> bool assign(T &member, const T &value)
 {
     if (member == value)
@@ -175,7 +175,7 @@ void FftChartBridge::setFrameMeta(const FftFrameMeta &meta)
         return;
     m_peaks.setFrameMeta(meta);
     if (!hasData()) {
-        m_bands.update(m_resultant, nyquistInUse()); // empty ones, that tell their edges
+        m_bands.update(m_resultant, nyquistInUse()); // bands without powers, which give their edges
         emit analysisSummaryChanged();
     }
     updateProfileHash();
@@ -310,7 +310,7 @@ void FftChartBridge::alarmInstalled()
 void FftChartBridge::setAlarmSuspended(bool suspended)
 {
     m_alarm.setSuspended(suspended);
-    if (suspended) // else the next spectra are the first that say something
+    if (suspended) // otherwise the next spectra are the first meaningful ones
         updatePresentation();
 }
 

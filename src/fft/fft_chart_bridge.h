@@ -16,13 +16,14 @@
 #include "fft/fft_snapshot.h"
 
 /// The object behind the spectrum view: takes the spectra of the three axes, analyses them (dominant peak, harmonics,
-/// resultant, bands, coherence, alarm) and tells the view in numbers and in sentences of the interface's language.
+/// resultant, bands, coherence, alarm) and reports the results to the view as numbers and as sentences in the
+/// interface's language.
 ///
-/// Spectra come axis by axis through setFftResult() and count as one frame with commitResults(), which is also one step
-/// of the alarm. A list may begin with a point that anchors the drawn curve at (0, 0), recognised by two equal first
-/// frequencies: it is drawn but neither analysed nor exported. Amplitudes that are not finite are taken as 0.
+/// Spectra arrive axis by axis through setFftResult() and count as one frame with commitResults(), which is also one
+/// step of the alarm. A list may begin with a point that anchors the drawn curve at (0, 0), recognised by its first two
+/// frequencies being equal: it is drawn but neither analysed nor exported. Amplitudes that are not finite count as 0.
 ///
-/// Main thread only; the signals come on change only.
+/// Main thread only; signals are emitted on change only.
 class FftChartBridge : public QObject, public ChartSource
 {
     Q_OBJECT
@@ -80,12 +81,13 @@ public:
     /// Keeps the spectrum of an axis (0 X, 1 Y, 2 Z) until commitResults(); another axis is ignored. `nyquistHz` is
     /// half the sample rate. A list with a frequency that is not finite empties the axis.
     void setFftResult(int axis, const QList<QPointF> &points, double nyquistHz);
-    /// Publishes and analyses what came; one frame of the alarm.
+    /// Publishes and analyses the spectra received; one frame of the alarm.
     void commitResults();
-    /// Forgets spectra and analysis. Settings stay, and so does the alarm with its events: that is no frame of it.
+    /// Clears spectra and analysis. Settings stay, and so does the alarm with its events: this does not count as a
+    /// frame of it.
     void clearResults();
 
-    /// The list of an axis as it came, and the resultant; without anchor for the resultant.
+    /// The list of an axis as received, and the resultant, which has no anchor.
     Q_INVOKABLE QList<QPointF> getPoints(int axis) const;
     Q_INVOKABLE QList<QPointF> getResultantPoints() const { return m_resultant; }
     /// "frequency" of the bin nearest to `frequency`, and "xAmplitude", "yAmplitude", "zAmplitude" there; empty without
@@ -102,14 +104,14 @@ public:
     void setShowResultant(bool show);
     bool coherenceEnabled() const { return m_coherenceEnabled; }
     void setCoherenceEnabled(bool enabled);
-    /// Leaves a steady value such as gravity, and what the window spreads of it, out of peak and harmonics, see
-    /// peak_analysis::beyondLeakage(). Off by default. A change judges the current spectra again; no frame of the
-    /// alarm.
+    /// Excludes a steady value such as gravity, and its leakage through the window, from peak and harmonics, see
+    /// peak_analysis::beyondLeakage(). Off by default. A change evaluates the current spectra again, which does not
+    /// count as a frame of the alarm.
     bool ignoresSteadyValue() const { return m_peaks.ignoresSteadyValue(); }
     void setIgnoreSteadyValue(bool ignore);
     /// The user chose the ceiling: the view shows amplitudes up to it from now on.
     void requestCeiling() { emit ceilingRequested(); }
-    /// Told by the view: the upper end of its amplitude axis where that is not the ceiling, else 0.
+    /// Set by the view: the upper end of its amplitude axis where that is not the ceiling, else 0.
     void setMaximumInForce(double maximum);
     /// Asks the view to show all frequencies.
     void requestXAxisReset() { emit xAxisResetRequested(); }
@@ -130,14 +132,14 @@ public:
     int seriesCount() const override { return kSeries; }
     QString seriesName(int series) const override;
     quint32 seriesRgb(int series) const override;
-    /// The resultant lies above all others, so it is painted first.
+    /// The resultant is larger than all others, so it is painted first.
     int seriesAtLayer(int layer) const override { return layer == 0 ? kSeries - 1 : layer - 1; }
     void seriesPoints(int series, double xMin, double xMax, int maxPoints, QList<QPointF> &out) const override;
     QList<double> valuesAt(double frequency) const override;
     SeriesStatistics statistics(int series, double xMin, double xMax) const override;
     quint64 revision() const override { return m_revision; }
 
-    /// End of what belongs to 0 Hz, see FftPeaks.
+    /// End of the range that belongs to 0 Hz, see FftPeaks.
     double steadyEndHz() const { return m_peaks.steadyEndHz(); }
 
     QString dominantPeakAxis() const { return fft_snapshot::axisName(currentAlarmPeak().axisIndex); }
@@ -148,7 +150,7 @@ public:
     /// Maps of "order", "frequency" and "amplitude".
     QVariantList harmonicsToVariantList() const { return m_peaks.harmonicsToVariantList(); }
     const QString &harmonicSummary() const { return m_peaks.harmonicSummary(); }
-    /// Highest amplitude of the resultant beyond 0 Hz and what leaks from there.
+    /// Highest amplitude of the resultant beyond 0 Hz and its leakage.
     double resultantPeakAmplitude() const { return qMax(m_peaks.resultantAmplitude(), 0.0); }
 
     const QList<FftBandPower> &bandPowers() const { return m_bands.powers(); }
@@ -167,24 +169,24 @@ public:
     Q_INVOKABLE void resetBandDefinitions();
 
     int alarmPresetIndex() const { return int(m_alarm.preset()); }
-    /// 1 Industrial, 2 Human, any other General. Takes the preset's rule and starts the alarm again, unless both are in
-    /// use already.
+    /// 1 Industrial, 2 Human, any other General. Takes the preset's rule and restarts the alarm, unless both are
+    /// already in use.
     void setAlarmPresetIndex(int index);
     QStringList alarmPresetNames() const { return fftAlarmPresetNames(); }
-    /// English, as snapshots hold it.
+    /// In English, as in snapshots.
     QString alarmPresetName() const { return fftAlarmPresetKey(m_alarm.preset()); }
     const FftAlarmRule &alarmRule() const { return m_alarm.rule(); }
     bool hasCustomAlarmRule() const { return m_alarm.hasCustomRule(); }
     /// "minimumHz", "maximumHz", "watchThreshold", "alarmThreshold", "triggerFrames" and "clearFrames".
     QVariantMap alarmRuleToVariantMap() const { return m_alarm.ruleToVariantMap(); }
-    /// Installs a rule of the user's and starts the alarm again. Ignored when a number of it is not finite; fewer than
-    /// one frame are taken as one.
+    /// Installs a custom rule and restarts the alarm. Ignored when one of its numbers is not finite; less than one
+    /// frame counts as one.
     void setAlarmRule(const FftAlarmRule &rule);
     /// The same for users, by the keys of alarmRuleToVariantMap(): returns an empty text, or a sentence that says what
     /// is wrong.
     Q_INVOKABLE QString tryAlarmRule(const QVariantMap &values);
-    /// Whether commitResults() is no frame of the alarm, for spectra that say nothing yet; off by default. State and
-    /// events stay meanwhile, and afterwards frames are counted from the beginning.
+    /// While set, commitResults() does not count as a frame of the alarm, for spectra that are not meaningful yet; off
+    /// by default. State and events stay in the meantime, and afterwards the count of frames restarts.
     void setAlarmSuspended(bool suspended);
     FftAlarmState alarmState() const { return m_alarm.state(); }
     int alarmSeverityLevel() const { return m_alarm.presentation().severityLevel; }
@@ -209,15 +211,15 @@ public:
 
     /// Version of the snapshot format, "1.0.0".
     static QString versionString();
-    /// Tells analysis settings apart: spectra with the same hash were made and judged in the same way.
+    /// Identifies the analysis settings: spectra with the same hash were made and evaluated in the same way.
     const QString &profileHash() const { return m_profileHash; }
 
     Q_INVOKABLE QString exportSnapshotJson() const;
     Q_INVOKABLE QString exportSnapshotCsv() const;
-    /// What a snapshot holds, see fft_snapshot::summary(); nothing changes.
+    /// The contents of a snapshot, see fft_snapshot::summary(); nothing in this object changes.
     Q_INVOKABLE QVariantMap importSnapshotJson(const QString &text) const { return fft_snapshot::summary(text); }
 
-    /// Tells everything again in the current language.
+    /// Updates all texts to the current language.
     void retranslate();
 
 signals:
@@ -254,7 +256,7 @@ private:
 
     std::array<QList<QPointF>, 3> m_points;
     QList<QPointF> m_resultant;
-    double m_nyquistHz = 0; ///< handed with the last result
+    double m_nyquistHz = 0; ///< passed with the last result
     FftFrameMeta m_meta;
     FftPeaks m_peaks;
     FftBands m_bands;
@@ -266,7 +268,7 @@ private:
     QString m_chartTitle;
     QString m_valueAxisTitle;
     QString m_profileHash;
-    quint64 m_revision = 0; ///< of the spectra
+    quint64 m_revision = 0; ///< revision of the spectra
     double m_yAxisMax = 0;
     double m_maximumInForce = 0;
     bool m_showResultant = true;

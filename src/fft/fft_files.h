@@ -3,7 +3,8 @@
 #include "chart/chart_saver.h"
 #include "fft/fft_chart_bridge.h"
 
-/// What the spectrum window saves and opens: snapshots, tables and pictures. Results and errors stand in `message`.
+/// Saves and opens the files of the spectrum window: snapshots, tables and pictures. Results and errors are in
+/// `message`.
 class FftFiles : public ChartSaver
 {
     Q_OBJECT
@@ -12,16 +13,16 @@ class FftFiles : public ChartSaver
     QML_UNCREATABLE("comes with the window")
 
 public:
-    /// `window` is the one that dialogs belong to; both must outlive this.
+    /// `window` is the parent of dialogs; both must outlive this object.
     FftFiles(const FftChartBridge &bridge, QWindow *window, QObject *parent = nullptr);
 
-    /// The spectra as of now with their analysis.
+    /// Saves the current spectra with their analysis.
     Q_INVOKABLE void saveJson();
-    /// The spectra as of now as a table.
+    /// Saves the current spectra as a table.
     Q_INVOKABLE void saveCsv();
-    /// Asks for a snapshot and tells what it holds.
+    /// Asks for a snapshot and shows what it holds.
     Q_INVOKABLE void openSnapshot();
-    /// Tells what a snapshot holds, or why it cannot be read.
+    /// Shows what a snapshot holds, or why it cannot be read.
     void showSnapshot(const QString &path);
 
 private:

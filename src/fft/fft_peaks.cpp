@@ -39,7 +39,7 @@ double FftPeaks::steadyEndHz() const
 void FftPeaks::update(const std::array<Spectrum, 3> &axes, Spectrum resultant)
 {
     std::array<Spectrum, 4> judged{axes[0], axes[1], axes[2], resultant};
-    std::array<QList<QPointF>, 4> rest; // what they look at then
+    std::array<QList<QPointF>, 4> rest; // what `judged` then refers to
     for (size_t i = 0; m_ignoreSteady && i < judged.size(); ++i)
         judged[i] = rest[i] = peak_analysis::beyondLeakage(judged[i], m_leakage);
 

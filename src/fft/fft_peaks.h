@@ -13,13 +13,13 @@
 class FftPeaks
 {
 public:
-    /// What the spectra are made with; bins are told by it.
+    /// What the spectra are made with; it determines the bins.
     void setFrameMeta(const FftFrameMeta &meta);
-    /// Leaves the steady value out, see peak_analysis::beyondLeakage(). Takes effect with the next spectra, as the meta
-    /// does. False when nothing changed.
+    /// Excludes the steady value, see peak_analysis::beyondLeakage(). Takes effect with the next spectra, like the meta
+    /// data. False when nothing changed.
     bool setIgnoreSteadyValue(bool ignore);
     bool ignoresSteadyValue() const { return m_ignoreSteady; }
-    /// End of what belongs to 0 Hz: the main lobe of the window with a steady value that is ignored, else the bin
+    /// End of the range that belongs to 0 Hz: the main lobe of the window if the steady value is ignored, else the bin
     /// alone.
     double steadyEndHz() const;
 
@@ -38,7 +38,7 @@ private:
 
     FftFrameMeta m_meta;
     bool m_ignoreSteady = false;
-    QList<double> m_leakage; ///< while the steady value is ignored
+    QList<double> m_leakage; ///< used while the steady value is ignored
 
     FftPeakSummary m_dominant;
     QList<FftHarmonicPeak> m_harmonics;

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-// Plain values that the spectrum analysis hands around. Frequencies are in Hz, amplitudes in the unit of the spectrum:
+// Plain values that the spectrum analysis passes around. Frequencies are in Hz, amplitudes in the unit of the spectrum:
 // mG for acceleration, deg/s for angular velocity.
 
 /// The highest peak of a spectrum, or of the spectra of all axes.
@@ -38,7 +38,7 @@ struct FftBandPower
     QString name;
     double power = 0;         ///< mean square, unit squared
     double rmsEquivalent = 0; ///< its root
-    bool rising = false;      ///< more than in the evaluation before
+    bool rising = false;      ///< more than in the previous evaluation
 };
 
 /// When the dominant peak raises the alarm and when it ends.
@@ -66,7 +66,7 @@ struct FftFrameMeta
     double frequencyResolution = 0;
     double nyquistFrequency = 0;
     QString windowName; ///< one of fftWindowNames()
-    QString unit;       ///< of the amplitudes
+    QString unit;       ///< unit of the amplitudes
 
     bool operator==(const FftFrameMeta &) const = default;
 };

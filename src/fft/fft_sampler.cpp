@@ -13,7 +13,7 @@ constexpr double kAccelerationLimit = 16000.0;   ///< mG
 constexpr double kAngularVelocityLimit = 2000.0; ///< deg/s
 constexpr double kUnknownNyquistHz = 50.0;
 constexpr int kChannels = 3;
-// A stream counts as dead as a chart over time does.
+// A stream counts as dead after the same time as in the waveform charts.
 constexpr double kMinStaleMs = 2000;
 constexpr double kMaxStaleMs = 10000; ///< the last period may have been a gap in the stream
 constexpr double kStalePeriods = 6;
@@ -24,7 +24,7 @@ qint64 steadyMs()
     return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
 }
 
-/// Counters of a program that runs for weeks stop at their end.
+/// Counters of a program that runs for weeks saturate.
 void countUp(int &counter)
 {
     counter += counter < std::numeric_limits<int>::max();
@@ -74,7 +74,7 @@ void FftSampler::reset(int points)
     for (CircularSampleBuffer &axis : m_axes)
         axis.setCapacity(points);
     m_stamps.setCapacity(points);
-    m_stamps.clear(); // the clock may be another one
+    m_stamps.clear(); // the clock may be a different one
     m_norms.setCapacity(points);
     m_norms.clear();
     recomputeNormStatistics();
@@ -118,7 +118,7 @@ bool FftSampler::isStale() const
 {
     const int count = m_stamps.count();
     if (count == 0)
-        return false; // nothing that could go on
+        return false; // nothing that could continue
     const double periodMs = count > 1 ? m_stamps.at(count - 1) - m_stamps.at(count - 2) : 0;
     return double(m_clock() - m_newestHostMs) >= std::clamp(kStalePeriods * periodMs, kMinStaleMs, kMaxStaleMs);
 }
@@ -257,7 +257,7 @@ void FftSampler::appendVectorSample(const float (&vector)[3], float scale)
         axis.push(value);
     }
     const float length = std::sqrt(good[0] * good[0] + good[1] * good[1] + good[2] * good[2]);
-    // The squares of what is far beyond any sensor do not fit.
+    // The squares of values far beyond any sensor's range would overflow.
     addNorm(double(scale)
             * (std::isfinite(length) ? double(length) : std::hypot(double(good[0]), double(good[1]), double(good[2]))));
 }

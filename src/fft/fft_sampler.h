@@ -21,13 +21,13 @@ struct FftBatch
     std::array<QList<double>, 3> samples; ///< X, Y, Z, oldest first; fewer than the size until the rings are full
 };
 
-/// What became of a result that came back.
+/// The outcome of a result that came back.
 struct FftResultOutcome
 {
     bool accepted = false;    ///< it belongs to the batch in flight
     bool batchClosed = false; ///< it was the last one of its batch
     bool fullBlock = false;   ///< the batch was cut from full rings: its spectra show no padding
-    QList<QPointF> points;    ///< the spectrum to show behind an anchor at (0, 0); empty if there is none
+    QList<QPointF> points;    ///< the spectrum to show, after an anchor at (0, 0); empty if there is none
     double nyquistHz = 0;
 };
 
@@ -41,49 +41,49 @@ struct FftTelemetry
     double meanLatencyMs = 0;
     double maxLatencyMs = 0;
 
-    /// 1 is perfect: less for dropped batches, clipped samples and a mean latency above 20 ms.
+    /// 1 is perfect; dropped batches, clipped samples and a mean latency above 20 ms reduce it.
     double health() const;
 };
 
 /// The sampling side of the spectrum: keeps the newest samples of the three axes and of their norm, knows their rate,
-/// cuts batches of three requests from them, and holds or averages what comes back. At most one batch is in flight;
-/// a result of any other is ignored. A plain class of the main thread: every call takes constant time, but for the
+/// cuts batches of three requests from them, and holds or averages the results. At most one batch is in flight; a
+/// result of any other is ignored. A plain class of the main thread: every call takes constant time, except for the
 /// statistics of the norm, which are computed again every kRecomputeEvery samples, and nextBatch(), which copies the
 /// rings.
 ///
 /// Bad samples: a component that is not finite is replaced by the newest good one of its axis (0 before there is one)
-/// and counts as clipped. So the spacing of the samples stays, and neither rings nor statistics nor held spectra ever
-/// contain a value that is not finite.
+/// and counts as clipped. So the spacing of the samples is preserved, and neither rings nor statistics nor held spectra
+/// ever contain a value that is not finite.
 ///
 /// Time stamps that stand still or run back are stored as 1 ms after the newest one. They serve only to estimate the
-/// rate, for callers that do not know it: after a clock that jumped far back it reads 1000 Hz. So whoever knows that a
-/// stream begins again calls restart().
+/// rate, for callers that do not know it: after the clock has jumped far back it reads 1000 Hz. So a caller that knows
+/// that a stream restarts calls restart().
 ///
 /// A block that is not full is padded with zeros, which spreads a steady value over the spectrum. So holds and averages
-/// begin again with the first full one.
+/// restart with the first full one.
 class FftSampler
 {
 public:
     static constexpr int kDefaultPoints = 512;
     static constexpr int kRecomputeEvery = 4096;
-    /// Milliseconds of a clock that does not run backwards.
+    /// Milliseconds of a monotonic clock.
     using Clock = std::function<qint64()>;
 
-    /// Without a clock, the host's.
+    /// Without an argument, uses the host's clock.
     explicit FftSampler(Clock clock = {});
 
     FftSpectrumType spectrumType() const { return m_type; }
     /// Capacity of the rings, which is the size of the spectra.
     int pointCount() const { return m_axes[0].capacity(); }
-    /// Each of these takes effect with a reset(). Another type also forgets the samples: they have another unit.
+    /// Each of these takes effect with a reset(). A change of type also clears the samples, whose unit is different.
     void setSpectrumType(FftSpectrumType type);
     void setHoldMode(FftHoldMode mode) { m_hold = mode; }
-    /// Starts again with rings of `points` samples, at least 1: abandons the batch in flight, forgets held spectra,
-    /// time stamps, rate and telemetry. The newest samples that fit stay.
+    /// Restarts with rings of `points` samples, at least 1: abandons the batch in flight, clears held spectra, time
+    /// stamps, rate and telemetry. The newest samples that fit stay.
     void reset(int points);
-    /// The stream begins again: a reset() that forgets the samples too.
+    /// The stream restarts: a reset() that also clears the samples.
     void restart();
-    /// Ignores what the batch in flight still brings.
+    /// Ignores the remaining results of the batch in flight.
     void abandonBatch();
 
     /// Takes one sample. A rate of 0 or less is estimated from the time stamps. True when the rate changed.
@@ -91,20 +91,20 @@ public:
 
     /// Samples per second, 0 while unknown.
     int currentRateHz() const { return m_rateHz; }
-    /// The rate of what is shown: of the batch in flight, else of the last complete one, else the current one.
+    /// The rate of the displayed spectra: of the batch in flight, else of the last complete one, else the current one.
     int presentationRateHz() const;
     /// Standard deviation of the norm over the last pointCount() samples, in the unit of the spectrum.
     double normDeviation() const;
 
-    /// How much of a block the rings hold, 0 to 1.
+    /// The fraction of a block that the rings hold, 0 to 1.
     double blockFill() const { return double(m_axes[0].count()) / pointCount(); }
-    /// No sample came for 2 s on the host's clock; for six periods of a slow stream, but for 10 s at most.
+    /// No sample has arrived for 2 s on the host's clock; for a slow stream, for six periods but at most 10 s.
     bool isStale() const;
 
     /// The samples for the next three spectra. Nothing without samples or rate, from a stream that is stale, or while a
     /// batch is in flight: that counts as a dropped one.
     std::optional<FftBatch> nextBatch();
-    /// Takes the spectrum of a channel (0 to 2) and gives what to show for it.
+    /// Takes the spectrum of a channel (0 to 2) and returns what to show for it.
     FftResultOutcome takeResult(quint64 batchId, int channel, const QList<QPointF> &points);
 
     const FftTelemetry &telemetry() const { return m_telemetry; }
@@ -139,22 +139,22 @@ private:
 
     double m_normMean = 0;
     double m_normSquares = 0; ///< sum of squared deviations from the mean
-    int m_normUpdates = 0;    ///< since the statistics were computed from the ring
+    int m_normUpdates = 0;    ///< samples since the statistics were computed from the ring
 
-    qint64 m_newestHostMs = 0; ///< when the newest sample came
+    qint64 m_newestHostMs = 0; ///< when the newest sample arrived
     std::optional<qint64> m_hostStartMs;
-    std::optional<qint64> m_deviceOffsetMs; ///< device time less host time
+    std::optional<qint64> m_deviceOffsetMs; ///< device time minus host time
 
     int m_rateHz = 0;
     int m_completedRateHz = 0;
 
     quint64 m_nextBatchId = 1;
-    quint64 m_batchId = 0; ///< in flight; 0 none
+    quint64 m_batchId = 0; ///< batch in flight; 0 none
     int m_expectedResults = 0;
     int m_batchRateHz = 0;
     qint64 m_batchStartMs = 0;
     bool m_batchIsFull = false;
-    bool m_heldIsFull = false; ///< what is held comes from full blocks
+    bool m_heldIsFull = false; ///< the held spectra come from full blocks
 
     std::array<Held, 3> m_held;
     FftTelemetry m_telemetry;

@@ -135,7 +135,7 @@ QVariantMap readFile(const QString &path, QString &reason)
         reason = file.errorString();
         return {};
     }
-    // Read with one byte too many instead of asking for the size: a device or a pipe has none.
+    // Reads one byte more than allowed instead of querying the size: a device or a pipe has none.
     const QByteArray bytes = file.read(kMaxImportLength + 1);
     return bytes.size() <= kMaxImportLength ? summary(QString::fromUtf8(bytes)) : QVariantMap();
 }

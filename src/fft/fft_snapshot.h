@@ -11,7 +11,7 @@
 #include "fft/fft_records.h"
 #include "fft/peak_analysis.h"
 
-/// How well the spectra keep up, as the user is told.
+/// How well the spectra keep up, as shown to the user.
 struct FftRuntimeTelemetry
 {
     int droppedBatches = 0;
@@ -22,7 +22,7 @@ struct FftRuntimeTelemetry
     double health = 1; ///< 0 to 1
 };
 
-/// Everything that a snapshot holds. The spectra are looked at, not copied: it must not outlive them.
+/// Everything that a snapshot holds. The spectra are referenced, not copied: it must not outlive them.
 struct FftSnapshot
 {
     QString version;
@@ -33,7 +33,7 @@ struct FftSnapshot
     QString harmonicSummary;
     QString bandSummary;
     QString coherenceSummary;
-    QString alarmPreset; ///< English, as fftAlarmPresetKey()
+    QString alarmPreset; ///< in English, as from fftAlarmPresetKey()
     FftAlarmPresentation alarm;
     bool alarmActive = false;
     QStringList alarmTimeline; ///< newest first
@@ -66,12 +66,12 @@ QString toCsv(const FftSnapshot &snapshot);
 
 /// What a snapshot holds: "version", "profileHash", "bandSummary", "coherenceSummary", "alarmPreset", "alarmSummary"
 /// and "windowName" as texts, "fftSize" and "sampleRate" as numbers; empty or 0 where the snapshot lacks them or has
-/// another type in their place. Empty when the text is no JSON object, is nested too deeply or longer than
+/// another type in their place. Empty when the text is not a JSON object, is nested too deeply or is longer than
 /// kMaxImportLength.
 QVariantMap summary(const QString &text);
 
-/// Reads the summary of a snapshot file; files beyond kMaxImportLength are none. `reason` holds the system's words when
-/// the file cannot be read.
+/// Reads the summary of a snapshot file; files beyond kMaxImportLength are not snapshots. `reason` holds the system's
+/// message when the file cannot be read.
 QVariantMap readFile(const QString &path, QString &reason);
 
 } // namespace fft_snapshot

@@ -77,7 +77,7 @@ void FftTrans::transform()
             std::complex<double> *lower = upper + half;
             const std::complex<double> *w = m_twiddles.data();
             for (int j = 0; j < half; ++j, w += step) {
-                // Written out: the library's product of complex numbers looks for infinities first.
+                // Written out: the library's complex product checks for infinities first.
                 const double re = w->real() * lower[j].real() - w->imag() * lower[j].imag();
                 const double im = w->real() * lower[j].imag() + w->imag() * lower[j].real();
                 lower[j] = {upper[j].real() - re, upper[j].imag() - im};

@@ -78,8 +78,8 @@ QList<double> fftWindowLeakage(const QString &name, int points)
     const Row *row = rowOf(name);
     if (!row || points < 2)
         return shares;
-    // About its middle the window is a sum of cosines, and the transform of each a pair of Dirichlet kernels. The
-    // period of the cosines is one sample shorter than the block, so they do not end on bins.
+    // About its middle the window is a sum of cosines, and the transform of each cosine is a pair of Dirichlet kernels.
+    // The period of the cosines is one sample shorter than the block, so they do not end on bins.
     const auto kernel = [points](double x) {
         const double below = std::sin(x / 2);
         return std::abs(below) < 1e-12 ? points : std::sin(points * x / 2) / below;

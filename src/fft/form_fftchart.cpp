@@ -24,7 +24,7 @@ namespace {
 
 constexpr std::chrono::milliseconds kTickInterval{50};
 constexpr std::chrono::seconds kThreadDeadline{3};
-constexpr QSize kLeastView{880, 470}; ///< below it the view is scrolled
+constexpr QSize kLeastView{880, 470}; ///< below this the view scrolls
 constexpr QSize kSmallestView{160, 120};
 constexpr QSize kDefaultSize{1280, 690};
 
@@ -47,7 +47,7 @@ form_fftchart::form_fftchart(QWidget *parent) : QWidget(parent, Qt::Window), m_c
 form_fftchart::~form_fftchart()
 {
     releaseResources();
-    endView(); // before the bridge that it is bound to
+    endView(); // goes before the bridge that it is bound to
 }
 
 void form_fftchart::applyLook()
@@ -132,7 +132,7 @@ void form_fftchart::releaseResources()
     m_sampler.abandonBatch();
     if (!m_thread)
         return;
-    // An engine that ends still takes leave of all that it is connected with, in its own thread.
+    // While it is being destroyed, the engine still disconnects from its peers, in its own thread.
     disconnect(m_engine);
     m_engine->disconnect(this);
     m_engine = nullptr;
@@ -268,7 +268,7 @@ void form_fftchart::restartStream()
     startAgain();
 }
 
-/// What the sampler's new beginning means for all that shows it.
+/// Updates everything that shows the sampler's data after it has restarted.
 void form_fftchart::startAgain()
 {
     m_refitX = true;
@@ -284,7 +284,7 @@ void form_fftchart::clearRenderedFftData()
     m_bridge.clearResults();
 }
 
-/// The sample rate is another one.
+/// The sample rate has changed.
 void form_fftchart::syncFrequencyAxisState()
 {
     syncBridgeMeta();
@@ -322,7 +322,7 @@ void form_fftchart::showEvent(QShowEvent *event)
     if (!m_thread)
         initFFTParam();
     if (!event->spontaneous())
-        restartStream(); // what was taken before is no part of the stream that is live now
+        restartStream(); // earlier samples are not part of the stream that is live now
     QWidget::showEvent(event);
 }
 
@@ -363,7 +363,7 @@ void form_fftchart::updateStatus()
     updateMarks();
 }
 
-/// What the chart says about the samples while it runs.
+/// The chart's note about the samples while it runs.
 void form_fftchart::updateMarks()
 {
     const bool stale = m_timer.isActive() && m_sampler.isStale();

@@ -14,14 +14,15 @@ class QThread;
 class SpectrumControls;
 
 /// The spectrum window: a row of controls above the declarative view "qrc:/qml/FFTChartView.qml". It owns the parts and
-/// connects them: samples go through the FftSampler to the FftTrans on its own thread, and what comes back to the
+/// connects them: samples go through the FftSampler to the FftTrans on its own thread, and the results to the
 /// FftChartBridge. Main thread only.
 ///
-/// View and engine live while the window is open. Closing ends them, pauses, and abandons a batch that is out; showing
-/// again restarts the stream. Samples are taken while the window is visible only.
+/// View and engine exist while the window is open. Closing destroys them, pauses, and abandons a batch in flight;
+/// showing the window again restarts the stream. Samples are taken only while the window is visible.
 ///
 /// The alarm judges full blocks of a living stream: it waits while the rings fill, and without new samples nothing is
-/// analysed at all. Both are said over the chart. Settings other than the alarm's own leave its state and events alone.
+/// analysed at all. Both are shown over the chart. Settings other than the alarm's own do not affect its state and
+/// events.
 class form_fftchart : public QWidget
 {
     Q_OBJECT
@@ -34,9 +35,9 @@ public:
     /// Takes a sample of the selected node. A rate in Hz of 0 or less is estimated from the time stamps.
     void appendData(node_data_t sample, int sampleRateHz);
 
-    /// The stream of samples begins again: another connection or node, a clock that restarted, output that was stopped
-    /// on purpose, a gap. Samples, rate, time stamps, statistics, held spectra and the batch that is out are forgotten,
-    /// and what is drawn is cleared. The alarm keeps its state and events; running or paused stays too.
+    /// The stream of samples restarts: another connection or node, a clock that restarted, output that was stopped on
+    /// purpose, a gap. Samples, rate, time stamps, statistics, held spectra and the batch in flight are discarded, and
+    /// the chart is cleared. The alarm keeps its state and events; running or paused stays, too.
     void restartStream();
 
     bool isChartInitialized() const { return m_view != nullptr; }
@@ -105,7 +106,7 @@ private:
 
     QThread *m_thread = nullptr;
     FftTrans *m_engine = nullptr;   ///< lives and dies in m_thread
-    QWidget *m_container = nullptr; ///< while the window is open, as what it shows:
+    QWidget *m_container = nullptr; ///< this and the next two exist while the window is open
     QuickWindow *m_view = nullptr;  ///< owned by its container
     FftFiles *m_files = nullptr;
 };

@@ -12,7 +12,7 @@ constexpr int kMaxOrder = 4;
 constexpr int kSearchBins = 2;
 constexpr double kToleranceBins = 1.5;
 constexpr double kMinHarmonicShare = 0.08;
-constexpr double kLeakageTolerance = 0.1; ///< share of it, for noise, and for a steady value that is not quite steady
+constexpr double kLeakageTolerance = 0.1; ///< share of it, for noise, and for a steady value that drifts a little
 
 struct Found
 {
@@ -25,7 +25,7 @@ bool isAbsent(QPointF bin)
     return bin.y() < 0;
 }
 
-/// The peak about a bin as far as its neighbours are there to tell.
+/// The peak about a bin, refined if its neighbours allow it.
 QPointF refineIfPossible(Spectrum spectrum, int bin)
 {
     const auto i = size_t(bin);

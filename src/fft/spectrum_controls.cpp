@@ -25,7 +25,7 @@ constexpr int kDefaultPointsIndex = 6;
 constexpr int kSideMargin = 12;
 constexpr int kRowMargin = 8;
 
-/// The texts are told as those of the window.
+/// The texts belong to the translation context of the window.
 struct Words
 {
     Q_DECLARE_TR_FUNCTIONS(form_fftchart)
@@ -116,7 +116,7 @@ void SpectrumControls::configureControls()
     connect(m_ignoreSteady, &QCheckBox::toggled, this, &SpectrumControls::ignoreSteadyValueChosen);
 }
 
-/// The window's own colours would take the accent from the button.
+/// The window's own colours would remove the accent from the button.
 void SpectrumControls::applyLook()
 {
     const Palette &colors = theme::colors();
@@ -139,7 +139,7 @@ void SpectrumControls::layOut()
         m_firstRow->addWidget(label);
         m_firstRow->addWidget(control);
     }
-    m_firstRow->addStretch(0); // takes the room while the tail, which asks for it, is not here
+    m_firstRow->addStretch(0); // takes the room while the tail, which needs it, is in the second row
     auto *tail = new QHBoxLayout(m_tail);
     tail->setContentsMargins(0, 0, 0, 0);
     tail->setSpacing(2 * theme::kGrid);
@@ -162,7 +162,7 @@ void SpectrumControls::layOut()
 
 void SpectrumControls::placeTail()
 {
-    // Some room to spare on the way back, so that it does not move with every digit.
+    // Moving back requires some spare room, so that it does not move with every digit.
     const bool isFirst = m_firstRow->indexOf(m_tail) >= 0;
     const int tail = m_tail->sizeHint().width() + m_firstRow->spacing();
     const int needed = m_firstRow->sizeHint().width() + (isFirst ? 0 : tail + 6 * theme::kGrid);

@@ -14,9 +14,9 @@ class QHBoxLayout;
 class QLabel;
 class QPushButton;
 
-/// The controls above the spectrum: a row that ends with the status, or two where that is too wide. It holds what is
-/// chosen and emits each choice of the user's; the ceiling of the amplitude axis is one for each type of spectrum. Main
-/// thread only.
+/// The controls above the spectrum: a row that ends with the status, or two where that is too wide. It holds the
+/// choices and emits each choice of the user; there is a separate ceiling of the amplitude axis for each type of
+/// spectrum. Main thread only.
 class SpectrumControls : public QWidget
 {
     Q_OBJECT
@@ -38,7 +38,7 @@ public:
 
     void setRunning(bool running);
     void setStatus(const QString &text);
-    /// All texts in the current language.
+    /// Updates all texts to the current language.
     void retranslate();
 
 signals:

@@ -13,8 +13,8 @@ namespace {
 constexpr double kMinShareX = 1e-3; ///< smallest visible part of the frequencies
 constexpr double kMinAmplitudeSpan = 1e-4;
 constexpr double kMinDecibelSpan = 1;
-constexpr double kFittedDecibels = 80; ///< shown below the highest level
-constexpr int kWidth = 9;              ///< characters of a usual amplitude
+constexpr double kFittedDecibels = 80; ///< range shown below the highest level
+constexpr int kWidth = 9;              ///< characters of a typical amplitude
 
 } // namespace
 
@@ -195,7 +195,7 @@ QStringList SpectrumViewState::hoverTexts() const
 
 QString SpectrumViewState::amplitudeText(double amplitude, bool isDifference) const
 {
-    // A difference of decibels is handed in as such.
+    // A difference of decibels is passed in as such.
     if (m_decibels)
         return (isDifference ? value_format::signedNumber(amplitude, 1) : value_format::number(level(amplitude), 1))
                + QStringLiteral(" dB");

@@ -11,12 +11,13 @@
 #include "fft/fft_chart_bridge.h"
 
 /// What the spectrum view shows of its bridge: the visible ranges of both axes, which curves, the cursors A and B, the
-/// crosshair, and the texts that go with them. The view binds to it and passes gestures on.
+/// crosshair, and the texts that go with them. The view binds to it and passes on gestures.
 ///
-/// Frequencies are in Hz from 0 to half the sample rate. Levels are what the value axis counts: the amplitude itself,
-/// from 0 to the ceiling that the user set, or with `decibels` 20 log10 of it (0 dB is 1 of the unit), from kFloorDb.
-/// The automatic value axis fits itself to the visible curves beyond 0 Hz; a zoom or pan of the user ends that, and so
-/// does a new ceiling, up to which the axis then goes. Main thread only; the bridge is not owned and may die first.
+/// Frequencies are in Hz from 0 to half the sample rate. Levels are the values on the vertical axis: the amplitude
+/// itself, from 0 to the ceiling that the user set, or with `decibels` 20 log10 of it (0 dB is 1 of the unit), from
+/// kFloorDb. The automatic value axis fits itself to the visible curves beyond 0 Hz; a zoom or pan by the user ends
+/// that, and so does a new ceiling, to which the axis then extends. Main thread only; the bridge is not owned and may
+/// be destroyed first.
 class SpectrumViewState : public PlotViewState
 {
     Q_OBJECT
@@ -50,23 +51,23 @@ public:
 
     /// The dominant peak and its harmonics, the most important first: maps of "frequency", "level" and "label".
     QVariantList marks() const;
-    /// Which of these rectangles can be shown without one lying on another: the first ones first.
+    /// Which of these rectangles can be shown without overlap; earlier ones take precedence.
     Q_INVOKABLE static QList<bool> apart(const QVariantList &rectangles);
     double watchLevel() const;
     double alarmLevel() const;
 
-    /// At the bin nearest to the pointer.
+    /// Position and values of the bin nearest to the pointer.
     QString hoverTitle() const override;
     QStringList hoverTexts() const override;
 
-    /// The bins of the cursors, and with both the differences.
+    /// The bins of the cursors, and if both are placed the differences.
     QStringList measurement() const override;
 
     /// An amplitude, also where levels are shown: statistics of decibels would mean nothing.
     QString valueText(int series, double value, MeasureTable::Figure figure) const override;
     QString positionText(double frequency) const override;
     QString fileStem() const override { return QStringLiteral("spectrum"); }
-    /// All spectra: they are short.
+    /// Always all spectra: they are short.
     QByteArray table(bool all) const override;
     QString pictureTitle() const override;
     QString xUnit() const override { return QStringLiteral("Hz"); }
@@ -109,7 +110,7 @@ private:
     std::array<bool, 3> m_visible{true, true, true};
 };
 
-/// Makes the bridge known to views, which get it from their window.
+/// Makes the bridge's type known to views, which get the bridge from their window.
 struct FftChartBridgeForeign
 {
     Q_GADGET

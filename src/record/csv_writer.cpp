@@ -239,7 +239,8 @@ void CsvWriter::openNewFile(const QDateTime &start)
 {
     if (m_file)
         closeFile();
-    // An hour that the clock goes through twice would name a file of this recording again and empty it.
+    // In an hour that the clock goes through twice, a file name of this recording would be used again and the file
+    // emptied.
     QDateTime nameTime = start;
     QString path = pathOf(m_basePath, nameTime);
     while (m_usedPaths.contains(path)) {
@@ -266,7 +267,7 @@ void CsvWriter::openNewFile(const QDateTime &start)
         m_whenFileChanges(path, m_frameCounter);
 }
 
-/// Hands bytes to the file; false when it took none of them.
+/// Writes bytes to the file; false when it accepted none of them.
 bool CsvWriter::give(const QByteArray &bytes)
 {
     if (!m_file->isOpen())
@@ -372,7 +373,8 @@ void CsvWriter::writeRecord63(const QList<node_data_t> &nodes, unsigned int time
     writeLine(line);
 }
 
-// A group is 17 columns: the id, then what moves. Nodes have angular rates with one digit less than single modules.
+// A group is 17 columns: the id, then what moves. The angular rates of nodes have one digit less than those of single
+// modules.
 void CsvWriter::appendNodeFields(QByteArray &line, const node_data_t &node)
 {
     appendMotion(line, node, kCoarse);
@@ -411,7 +413,7 @@ void CsvWriter::leaveOut(int id)
 void CsvWriter::appendGroups(QByteArray &line, const QList<node_data_t> &nodes, QList<int> &slotMap)
 {
     assignSlots(nodes, slotMap);
-    std::array<const node_data_t *, 256> byId{}; // of two samples with one id the later counts
+    std::array<const node_data_t *, 256> byId{}; // of two samples with the same id the later counts
     for (const node_data_t &node : nodes)
         byId[node.id] = &node;
     for (const int id : qAsConst(slotMap)) {

@@ -20,7 +20,7 @@
 ///
 /// Made from the path "logs/data.csv" at 14:05:09 on 3 March 2025 it writes "logs/data_20250303_140509.csv", and opens
 /// a new file, named by its own time, with the first record that arrives an hour or more later. Three kinds of record,
-/// each with a header line in front of its first record in every file:
+/// each with a header line before its first record in every file:
 ///
 ///     0x91  UnixTimeStamp(sec),Time(ms),Pressure(Pa),Temperature(°C),<motion>                    20 columns
 ///     0x62  UnixTimeStamp(sec),Node1_ID,Node1_<motion>,...,Node16_ID,Node16_<motion>             273 columns
@@ -28,21 +28,21 @@
 ///
 /// <motion> is AccX[G]...Z, GyrX[deg/s]...Z, MagX[uT]...Z, Roll[deg], Pitch[deg], Yaw[deg], Qw, Qx, Qy, Qz. A radio
 /// node gets the lowest free column group when it is first seen in a file and keeps it for that file; while it is
-/// silent its id stands there with empty values. The seventeenth node of a file is left out. UnixTimeStamp is the
+/// silent its id is written with empty values. The seventeenth node of a file is left out. UnixTimeStamp is the
 /// computer's clock when the line is written. Numbers have a decimal point in every locale, lines end with LF.
 ///
-/// Threads: made in the thread that runs both slots, or moved to it. Samples and questions
-/// come from any thread. The destructor writes nothing that is still queued: run flushPendingAndClose() first.
+/// Threads: created in the thread that runs both slots, or moved to it. Samples and queries come from any thread. The
+/// destructor does not write what is still queued: run flushPendingAndClose() first.
 ///
-/// Nothing fails loudly: records that find no open file are lost and counted, every later record tries a new file,
-/// and fileError() tells how things stand.
+/// Nothing fails loudly: records that find no open file are lost and counted, every later record tries a new file, and
+/// fileError() gives the current state.
 class CsvWriter : public QObject
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(CsvWriter)
 
 public:
-    /// Records that wait at most.
+    /// Largest number of waiting records.
     static constexpr qsizetype kQueueLimit = 512;
 
     enum class PendingRecordType { Record91 = 0, Record62 = 1, Record63 = 2 };
@@ -56,8 +56,8 @@ public:
         quint32 timestampMs = 0;  ///< of Record63
     };
 
-    /// Opens the first file at once. `basePath` gives folder, stem and suffix of all files; the current folder and
-    /// "csv" stand in for what it does not name. The folder has to exist.
+    /// Opens the first file at once. `basePath` gives folder, stem and suffix of all files; folder and suffix default
+    /// to the current folder and "csv". The folder has to exist.
     explicit CsvWriter(const QString &basePath, QObject *parent = nullptr);
     ~CsvWriter() override;
 
@@ -71,33 +71,33 @@ public:
     /// Queues a batch of compact gateway records with the gateway's time stamp in milliseconds, likewise.
     void enqueue63(const QList<node_data_t> &nodes, unsigned int timestampMs);
 
-    /// Records taken from the queue over all files, those included that could not be written. Any thread.
+    /// Records taken from the queue over all files, including those that could not be written. Any thread.
     Q_INVOKABLE unsigned int getFrameCtr() const { return m_frameCounter; }
 
-    /// Path of the file that was opened, or tried, last. Any thread, as all below.
+    /// Path of the file that was opened, or tried, last. Any thread, as for all below.
     QString filePath() const;
-    /// Bytes of records and headers given to that file, or what the disk took of them once it is closed.
+    /// Bytes of records and headers given to that file; once it is closed, those that the disk accepted.
     qint64 fileSize() const { return m_fileSize; }
     /// The same of all files together.
     qint64 totalSize() const { return m_earlierSize + m_fileSize; }
     /// Ids of the nodes that found no column group in a file, ascending.
     QList<int> nodesLeftOut() const;
-    /// The system's words for why opening, writing or flushing failed last; empty when it works, or works again.
+    /// The system's message for the last failure to open, write or flush; empty when it works, or works again.
     QString fileError() const;
     /// Records that were dropped because the queue was full.
     unsigned int droppedRecords() const { return m_droppedRecords; }
-    /// Records that no file took. Those that a full disk refuses at the end are counted when the file is closed.
+    /// Records that no file accepted. Those that a full disk refuses at the end are counted when the file is closed.
     unsigned int lostRecords() const { return m_lostRecords; }
-    /// Bytes that the user may still write on the disk, when askAboutDisk() was answered last; -1: not known.
+    /// Bytes that the user may still write to the disk, as of the last answer to askAboutDisk(); -1: not known.
     qint64 freeBytes() const { return m_freeBytes; }
-    /// Path of the file that was found deleted or moved when askAboutDisk() was answered; empty while none was.
+    /// Path of the file that was found deleted or moved at the last answer to askAboutDisk(); empty while none was.
     QString vanishedFile() const;
-    /// Has the writer's thread ask the system for both, which may take as long as the disk likes. While it has not
+    /// Has the writer's thread query the system for both, which may take as long as the disk needs. Until it has
     /// answered, asking again does nothing.
     void askAboutDisk();
 
-    /// `then` runs in the writer's thread when another file than the first has been opened, after so many records. To
-    /// be set before records come.
+    /// `then` runs in the writer's thread when a file other than the first has been opened, after so many records. Set
+    /// it before records arrive.
     void whenFileChanges(std::function<void(const QString &path, unsigned int recordsBefore)> then)
     {
         m_whenFileChanges = std::move(then);
@@ -110,12 +110,12 @@ public slots:
     void flushPendingAndClose();
 
 signals:
-    /// The queue was full for the first time. Emitted in the thread that queued, once in a writer's life.
+    /// The queue was full for the first time. Emitted in the queueing thread, once in a writer's lifetime.
     void queueOverflow();
 
 protected:
-    /// The time that names files, in local time, and tells when the next is due: asked for every record, and UTC is the
-    /// one that costs little. Writer's thread.
+    /// The time that names files, in local time, and determines when the next is due. It is read for every record, and
+    /// UTC is the cheap one. Writer's thread.
     virtual QDateTime now() const { return QDateTime::currentDateTimeUtc(); }
 
 private:
@@ -160,12 +160,12 @@ private:
     bool m_overflowReported = false;
 
     QSet<QString> m_usedPaths;     ///< files of this recording: none is opened twice
-    QList<qint64> m_unflushedEnds; ///< where the records end that were given to the file since the last flush
+    QList<qint64> m_unflushedEnds; ///< end positions of the records given to the file since the last flush
     bool m_hasFileError = false;   ///< writer's thread: fileError() is not empty
     QString m_filePath;
     QString m_fileError;
     std::atomic<qint64> m_fileSize = 0;
-    std::atomic<qint64> m_earlierSize = 0; ///< of the files before
+    std::atomic<qint64> m_earlierSize = 0; ///< of the previous files
     std::bitset<256> m_isLeftOut;          ///< by node id, writer's thread
     QList<int> m_nodesLeftOut;
     std::atomic<quint32> m_droppedRecords = 0;

@@ -34,7 +34,7 @@ FolderFacts look(const QString &folder, quint64 number)
 
 } // namespace
 
-/// Where questions are left and answers fetched; `lock` guards all.
+/// Where questions are posted and answers fetched; `lock` guards everything.
 struct FolderProbe::Desk
 {
     std::mutex lock;
@@ -95,7 +95,7 @@ void FolderProbe::answerQuestions(const std::shared_ptr<Desk> &desk)
         locker.unlock();
         const FolderFacts facts = look(folder, number);
         locker.lock();
-        if (FolderProbe *owner = desk->owner) // which cannot end before the lock is free
+        if (FolderProbe *owner = desk->owner) // which cannot be destroyed before the lock is free
             QMetaObject::invokeMethod(
                 owner, [owner, facts] { emit owner->answered(facts); }, Qt::QueuedConnection);
     }

@@ -7,21 +7,21 @@
 
 class QThread;
 
-/// What a disk said about a folder. A plain value.
+/// What is known about a folder on a disk. A plain value.
 struct FolderFacts
 {
-    QString folder;     ///< the one that was asked about; empty: nothing is known
+    QString folder;     ///< the queried folder; empty: nothing is known
     quint64 number = 0; ///< of the question
     bool exists = false;
     bool isFolder = false;
     qint64 freeBytes =
-        -1; ///< what the user may still write on its disk, or on the one where it would be; -1: not known
+        -1; ///< what the user may still write to its disk, or to the one where it would be; -1: not known
 };
 
-/// Asks about folders on a thread of its own, because a disk may take seconds for an answer. Main thread only.
+/// Queries folders on a thread of its own, because a disk may take seconds to answer. Main thread only.
 ///
-/// The thread begins with the first question. The destructor waits at most three seconds for an answer that is still
-/// out; a disk that hangs longer keeps its thread until the program has ended.
+/// The thread starts with the first question. The destructor waits at most three seconds for an answer that is
+/// outstanding; a disk that hangs longer keeps its thread until the program has ended.
 class FolderProbe : public QObject
 {
     Q_OBJECT
@@ -31,8 +31,8 @@ public:
     explicit FolderProbe(QObject *parent = nullptr);
     ~FolderProbe() override;
 
-    /// answered() follows. A question that nobody has begun to answer gives way to this one. Returns its number, which
-    /// grows; 0: the folder is empty and nobody is asked.
+    /// answered() follows. A question that is not being answered yet is replaced by this one. Returns its number, which
+    /// grows; 0: the folder is empty and nothing is queried.
     quint64 ask(const QString &folder);
 
 signals:

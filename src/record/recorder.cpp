@@ -109,7 +109,7 @@ void Recorder::startAgain()
     start(target.folder, target.name);
 }
 
-/// The first sample after a lost link: only now it is sure that the device is back.
+/// The first sample after a lost link: only now is it certain that the device is back.
 void Recorder::resume()
 {
     if (m_resumesInto && m_isLinkOpen && m_state == State::Idle)
@@ -155,7 +155,7 @@ void Recorder::begin(const recording_target::Target &target)
 void Recorder::goOn()
 {
     recording_target::remember({m_run->folder(), m_name});
-    if (m_state != State::Starting) // stopped meanwhile
+    if (m_state != State::Starting) // stopped in the meantime
         return;
     m_state = State::Recording;
     emit stateChanged();
@@ -185,7 +185,7 @@ void Recorder::waitForFile()
         finish();
 }
 
-/// The run has ended, or is waited for.
+/// The run has ended, or is being waited for.
 void Recorder::finish()
 {
     if (m_state == State::Idle)
@@ -334,7 +334,7 @@ void Recorder::measure()
     m_measuredCount = count;
     m_measuredFile = file;
     m_measuredSize = size;
-    m_run->askAboutDisk(); // for the next time: a disk may hang, this must not
+    m_run->askAboutDisk(); // for the next time: a disk may hang, this call must not
 }
 
 void Recorder::updateTrouble()

@@ -2,7 +2,7 @@
 
 #include <QtGlobal>
 
-/// When a recording ends by itself, and whether it goes on after a lost connection. A plain value.
+/// When a recording ends automatically, and whether it goes on after a lost connection. A plain value.
 struct RecordingOptions
 {
     static constexpr int kMaxMinutes = 7 * 24 * 60;
@@ -16,7 +16,7 @@ struct RecordingOptions
 
     bool operator==(const RecordingOptions &) const = default;
 
-    /// From the settings file; values that make no sense become the ones above. Main thread.
+    /// From the settings file; nonsensical values are replaced by the defaults above. Main thread.
     static RecordingOptions remembered();
     void remember() const;
 };

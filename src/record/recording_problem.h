@@ -8,16 +8,16 @@ struct RecordingProblem
     enum class Kind {
         None,
         NotConnected,       ///< the link is closed
-        BadTarget,          ///< no folder, or a name that files cannot have
+        BadTarget,          ///< no folder, or an invalid file name
         StillWriting,       ///< the last recording's file is not closed yet
-        FolderIsFile,       ///< `path` is no folder
+        FolderIsFile,       ///< `path` is not a folder
         CannotCreateFolder, ///< `path` is missing
         CannotOpenFile      ///< `path` with `reason`
     };
 
     Kind kind = Kind::None;
     QString path;
-    QString reason; ///< the system's words
+    QString reason; ///< the system's message
 
     /// The disk refused it, after samples had been taken in.
     bool isOfDisk() const { return kind >= Kind::FolderIsFile; }

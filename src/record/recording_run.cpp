@@ -11,8 +11,8 @@ namespace {
 
 constexpr qsizetype kMaxMarkersWaiting = 512;
 
-/// A CsvWriter's base path for recordings called `name`: with a running number after the name when a file with the
-/// time `now`, or of the second after, is there already.
+/// A CsvWriter's base path for recordings called `name`: with a running number after the name when a file for the time
+/// `now`, or for the next second, already exists.
 QString basePath(const QString &folder, const QString &name, const QDateTime &now)
 {
     QString path = QDir(folder).filePath(name + QLatin1String(".csv"));
@@ -108,7 +108,7 @@ QString RecordingRun::sidecarError() const
     return m_sidecarError;
 }
 
-/// Has them written once the file is open; the lock is held.
+/// Has them written once the file is open. Call with the lock held.
 void RecordingRun::askForSidecars()
 {
     if (CsvWriter *writer = m_openWriter)
@@ -149,7 +149,7 @@ void RecordingRun::record(const QString &name)
         emit opened();
         m_writer->askAboutDisk();
         QEventLoop().exec(); // until requestStop()
-        // After the loop's end but still in the thread: nothing can overtake the last records.
+        // After the event loop has ended but still in the thread: nothing can overtake the last records.
         m_writer->flushPendingAndClose();
         writeSidecars();
         m_sidecars.endFile(m_writer->getFrameCtr() - m_recordsBefore, m_writer->nodesLeftOut());
@@ -189,6 +189,6 @@ bool RecordingRun::open(const QString &name)
         enqueue(*m_writer, record);
     m_waiting.clear();
     m_openWriter = m_writer.get();
-    askForSidecars(); // what came in meanwhile
+    askForSidecars(); // what arrived in the meantime
     return true;
 }

@@ -13,18 +13,18 @@
 
 class QThread;
 
-/// One recording: a thread on which the folder is made, the file opened and all records written, and the CsvWriter and
-/// the files beside it that are made there. Records may come from the start on: as many as the writer's queue holds are
-/// kept until the file is open. Made, stopped and destroyed in one thread, which never waits for the disk but in wait()
-/// and the destructor.
+/// One recording: a thread on which the folder is created, the file opened and all records written, with the CsvWriter
+/// and the sidecar files that are created there. Records may arrive from the start: as many as the writer's queue holds
+/// are kept until the file is open. Created, stopped and destroyed in one thread, which never waits for the disk except
+/// in wait() and the destructor.
 class RecordingRun : public QObject
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(RecordingRun)
 
 public:
-    /// `folder` is absolute and made when it is missing; `name` is a good one, see recording_target. The file gets a
-    /// running number behind its name when one with that name and time is there.
+    /// `folder` is absolute and is created when missing; `name` is valid, see recording_target. The file gets a running
+    /// number after its name when one with that name and time exists.
     RecordingRun(const QString &folder, const QString &name);
     /// Stops and waits.
     ~RecordingRun() override;
@@ -34,28 +34,28 @@ public:
     void start();
 
     const QString &folder() const { return m_folder; }
-    /// What is known of the connection now; the file's description follows it.
+    /// What is known about the connection now; the file's description is updated.
     void setContext(const RecordingContext &context);
-    /// Takes a marker; false when more wait for the disk than will ever be typed.
+    /// Takes a marker; false when more are waiting for the disk than anyone will ever type.
     bool addMarker(const RecordingMarker &marker);
     /// Why a file beside the recording could not be written; empty when all could. Any thread.
     QString sidecarError() const;
     /// Takes a record, in the order of the calls. Any thread.
     void add(CsvWriter::PendingRecord &&record);
-    /// Null until the file is open. Any thread, as the next two.
+    /// Null until the file is open. Any thread, like the next two.
     const CsvWriter *writer() const { return m_openWriter; }
     /// The folder had been missing and was made.
     bool isFolderCreated() const { return m_isFolderCreated; }
     /// Records that found a full queue, before the file was open and since.
     unsigned int droppedRecords() const;
-    /// See CsvWriter::askAboutDisk(). Nothing while there is no file.
+    /// See CsvWriter::askAboutDisk(). Does nothing while there is no file.
     void askAboutDisk();
 
-    /// Has everything taken in written, the file closed and the thread ended, without waiting for any of it: the disk
-    /// may hang. ended() follows.
+    /// Requests that everything taken in is written, the file closed and the thread ended, without waiting for any of
+    /// it: the disk may hang. ended() follows.
     void requestStop();
-    /// requestStop(), and waits for the end. False when the file was not even open after `openDeadline`: the disk
-    /// hangs. An open file is waited for as long as it takes.
+    /// Calls requestStop() and waits for the end. False when the file was not even open by `openDeadline`: the disk
+    /// hangs. For an open file it waits as long as it takes.
     bool wait(QDeadlineTimer openDeadline = QDeadlineTimer::Forever);
     /// After the end: why no file was opened.
     const RecordingProblem &problem() const { return m_problem; }
@@ -65,7 +65,7 @@ signals:
     void opened();
     /// A record found a full queue for the first time. Emitted in the thread that added it.
     void overflowed();
-    /// All is written and the file closed, or there is none. Emitted in the run's thread, as the last thing there.
+    /// Everything is written and the file closed, or there is none. Emitted in the run's thread, as its last action.
     void ended();
 
 private:
@@ -78,11 +78,11 @@ private:
     RecordingProblem m_problem;
     std::unique_ptr<CsvWriter> m_writer;
     RecordingSidecars m_sidecars;              ///< the run's thread
-    unsigned int m_recordsBefore = 0;          ///< in the files before; the run's thread
+    unsigned int m_recordsBefore = 0;          ///< in the earlier files; the run's thread
     mutable QMutex m_lock;                     ///< guards the four below, and the change of the writer
-    QList<CsvWriter::PendingRecord> m_waiting; ///< for the file to be opened
+    QList<CsvWriter::PendingRecord> m_waiting; ///< records that wait for the file to be opened
     RecordingContext m_context;
-    QList<RecordingMarker> m_markers; ///< to be written
+    QList<RecordingMarker> m_markers; ///< still to be written
     QString m_sidecarError;
     std::atomic<CsvWriter *> m_openWriter = nullptr;
     std::atomic<unsigned int> m_droppedWaiting = 0;

@@ -130,7 +130,7 @@ void RecordingSidecars::describe(const End *end)
     const QByteArray bytes = description(end);
     m_description->seek(0);
     write(*m_description, bytes);
-    if (!m_description->resize(bytes.size())) // it may have been longer
+    if (!m_description->resize(bytes.size())) // the previous text may have been longer
         m_error = m_description->fileName() + QLatin1String(": ") + m_description->errorString();
 }
 

@@ -13,11 +13,11 @@
 /// The files beside each CSV file of a recording: its description, and its markers once there is one. For
 /// "walk_20250303_140509.csv":
 ///
-///     walk_20250303_140509.json         UTF-8, one object, written anew in place when something in it changes
-///     walk_20250303_140509.markers.csv  Time(s),UTC,Text; one line per marker, texts quoted as RFC 4180 has it, LF
+///     walk_20250303_140509.json         UTF-8, one object, rewritten in place when something in it changes
+///     walk_20250303_140509.markers.csv  Time(s),UTC,Text; one line per marker, texts quoted as in RFC 4180, LF
 ///
-/// Both are made only where no file of that name is, and stay open while the CSV file is: a file that takes their place
-/// is never touched. Used by one thread, which waits for the disk.
+/// Both are created only where no file of that name exists, and stay open as long as the CSV file: a file that replaces
+/// one of them is never touched. Used by one thread, which may block on the disk.
 class RecordingSidecars
 {
 public:
@@ -28,12 +28,12 @@ public:
 
     /// A CSV file has been opened.
     void beginFile(const QString &csvPath);
-    /// It is closed now, with so many records in it; it left these nodes out.
+    /// The CSV file has been closed. It holds so many records, and these nodes were left out.
     void endFile(unsigned int records, const QList<int> &leftOut);
     void setContext(const RecordingContext &context);
     void addMarker(const RecordingMarker &marker);
 
-    /// The system's words for what could not be written, with the path in front; empty when all could.
+    /// The system's message about what could not be written, preceded by the path; empty when there is none.
     const QString &error() const { return m_error; }
 
     static QByteArray markerLine(const RecordingMarker &marker);
@@ -54,7 +54,7 @@ private:
     RecordingContext m_context;
     QString m_csvPath;
     QDateTime m_start;
-    std::unique_ptr<QFile> m_description; ///< null: it could not be made, or there is no CSV file
+    std::unique_ptr<QFile> m_description; ///< null: it could not be created, or there is no CSV file
     std::unique_ptr<QFile> m_markers;
     QString m_error;
 };

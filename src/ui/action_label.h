@@ -4,8 +4,8 @@
 
 class QAction;
 
-/// A label that is also the way to an action: a click, or the space bar or Enter when it has the focus, triggers it. It
-/// takes over the action's tool tip.
+/// A label that triggers an action: on a click, or on Space or Enter when it has the focus. It takes over the action's
+/// tooltip.
 class ActionLabel : public QLabel
 {
     Q_OBJECT

@@ -8,7 +8,7 @@
 class DeviceSession;
 class QAction;
 
-/// Enables actions as far as the session allows what they do, and says in their tooltips why they cannot be had.
+/// Enables actions as far as the session allows what they do, and explains in their tooltips why they are unavailable.
 class ActionRules : public QObject
 {
     Q_OBJECT

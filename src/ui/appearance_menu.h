@@ -4,7 +4,7 @@
 
 class QActionGroup;
 
-/// The choice between the system's appearance, light and dark.
+/// A menu that chooses between the system's appearance, light and dark.
 class AppearanceMenu : public QMenu
 {
     Q_OBJECT

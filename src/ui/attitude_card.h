@@ -25,9 +25,9 @@ public:
     explicit AttitudeCard(DeviceSession *session, QWidget *parent = nullptr);
     ~AttitudeCard() override;
 
-    /// Shows the newest sample in the mounting of now. Call at the pace of the display.
+    /// Shows the newest sample in the current mounting. Call at the display rate.
     void refresh();
-    /// What is shown: not valid when there is none.
+    /// The attitude shown: not valid when there is none.
     const NormalizedAttitude &attitude() const { return m_attitude; }
     /// The angles as lines "caption<TAB>text unit", for the clipboard.
     QStringList lines() const;

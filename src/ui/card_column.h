@@ -4,9 +4,9 @@
 
 class NodeCard;
 
-/// The main window's left column of cards. It has one scroll bar at most: the list of nodes at its end takes what the
-/// cards above leave and scrolls by itself, or, where that is too little for a list, shows all nodes and the column
-/// scrolls.
+/// The main window's left column of cards. It has one scroll bar at most: the list of nodes at its end takes the room
+/// that the cards above leave and scrolls separately, or, where that is too little for a list, shows all nodes and the
+/// column scrolls.
 class CardColumn : public QScrollArea
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ class CardColumn : public QScrollArea
 public:
     explicit CardColumn(QWidget *parent = nullptr);
 
-    /// The card that gives way. It is in the column's widget, and outlives this object.
+    /// The card that shrinks. It is in the column's widget, and outlives this object.
     void setNodeCard(NodeCard *card);
 
 protected:

@@ -20,7 +20,7 @@ ConnectionCard::ConnectionCard(DeviceSession *session, QWidget *parent)
     : QFrame(parent), m_ui(std::make_unique<Ui::ConnectionCard>()), m_session(session)
 {
     m_ui->setupUi(this);
-    m_ui->label_connection->setTextFormat(Qt::PlainText); // shows texts from outside, not to be read as markup
+    m_ui->label_connection->setTextFormat(Qt::PlainText); // shows external texts, which must not be read as markup
     connect(m_ui->button_try_rates, &QPushButton::clicked, session, &DeviceSession::tryBaudRates);
     connect(session, &DeviceSession::stateChanged, this, &ConnectionCard::showNoise);
     showNoise();

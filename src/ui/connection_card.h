@@ -22,7 +22,7 @@ public:
     explicit ConnectionCard(DeviceSession *session, QWidget *parent = nullptr);
     ~ConnectionCard() override;
 
-    /// Shows what the connection is now. Call at the pace of the display.
+    /// Shows the current state of the connection. Call at the display rate.
     void refresh();
     void clear();
 

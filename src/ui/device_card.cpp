@@ -11,7 +11,7 @@ DeviceCard::DeviceCard(DeviceSession *session, QWidget *parent)
     : QFrame(parent), m_ui(std::make_unique<Ui::DeviceCard>()), m_session(session)
 {
     m_ui->setupUi(this);
-    // These show texts from outside, which are not to be read as markup.
+    // These show external texts, which must not be read as markup.
     for (QLabel *label : {m_ui->label_product, m_ui->label_model, m_ui->label_build, m_ui->label_uuid})
         label->setTextFormat(Qt::PlainText);
     connect(m_ui->combo_mounting, &QComboBox::activated, this,

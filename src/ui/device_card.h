@@ -10,7 +10,7 @@ namespace Ui {
 class DeviceCard;
 }
 
-/// What the connected device is, and how it is mounted.
+/// Shows what the connected device is, and how it is mounted.
 class DeviceCard : public QFrame
 {
     Q_OBJECT

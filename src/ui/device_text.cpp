@@ -7,7 +7,7 @@
 
 namespace {
 
-// The names in the product table that are words.
+// The names in the product table that are words to be translated.
 [[maybe_unused]] constexpr const char *kWords[] = {
     QT_TRANSLATE_NOOP("product_profile", "Legacy Wireless Gateway (0x62/0x63)"),
     QT_TRANSLATE_NOOP("product_profile", "Unknown Legacy Device"),

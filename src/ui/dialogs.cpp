@@ -95,7 +95,7 @@ void Dialogs::showPortError(QSerialPort::SerialPortError error, const QString &p
     m_error = new QMessageBox(QMessageBox::Information, m_window->windowTitle(), tr("Open Serial Port Error."),
                               QMessageBox::Ok, m_window);
     m_error->setAttribute(Qt::WA_DeleteOnClose);
-    m_error->button(QMessageBox::Ok)->setIcon({}); // the stock picture does not read on the accent colour
+    m_error->button(QMessageBox::Ok)->setIcon({}); // the stock picture is hard to see on the accent colour
     m_error->setTextFormat(Qt::PlainText);
     m_error->setInformativeText(serial_error_text::describe(error, serial_error_text::facts(portName, baudRate)));
     m_error->setTextInteractionFlags(Qt::TextSelectableByMouse); // so that a command in it can be copied

@@ -16,8 +16,8 @@ class form_record;
 class form_settings;
 class form_updater;
 
-/// The dialogs of the main window. Each is created when first asked for, and shown without an event loop of its own: a
-/// command that waits for its reply meanwhile must not wait for the user as well.
+/// The dialogs of the main window. Each is created when first needed, and shown without an event loop of its own: a
+/// command that is waiting for its reply must not have to wait for the user as well.
 class Dialogs : public QObject
 {
     Q_OBJECT
@@ -27,12 +27,12 @@ public:
     /// `window` becomes the dialogs' parent and outlives this object, as `session` does.
     Dialogs(DeviceSession *session, QWidget *window);
 
-    /// Asks for a port; portChosen() follows when one is accepted.
+    /// Asks the user for a port; portChosen() follows when one is accepted.
     void openPortChoice();
     void openSettings();
     void openRecording();
     void openUpdate();
-    /// Asks whether to go on with an update that has not come to its end, if there is one.
+    /// Asks whether to continue an unfinished update, if there is one.
     void remindOfUpdate();
     void openLinkHealth();
     void openAbout();
@@ -45,7 +45,7 @@ public:
 
 signals:
     void portChosen(const QString &portName, int baudRate);
-    /// The program is to end and to start again.
+    /// The program is to end and start again.
     void restartWanted();
 
 private:

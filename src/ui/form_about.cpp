@@ -19,7 +19,7 @@ constexpr int kTextWidth = 432;
 form_about::form_about(QWidget *parent) : QDialog(parent), m_ui(std::make_unique<Ui::form_about>())
 {
     m_ui->setupUi(this);
-    // Wrapped texts need a width to lay themselves out in; it follows the font.
+    // Wrapped texts need a width for their layout; it follows the font.
     m_ui->LBL_what->setMinimumWidth(qMax(kTextWidth, 56 * fontMetrics().averageCharWidth()));
     const QPixmap icon = QApplication::windowIcon().pixmap(QSize(kIconSize, kIconSize), devicePixelRatio());
     m_ui->LBL_icon->setPixmap(icon);

@@ -9,7 +9,7 @@ class form_about;
 }
 
 /// The about box: name and version, what the program is, the licence of its libraries, and where its settings and logs
-/// lie.
+/// are.
 class form_about : public QDialog
 {
     Q_OBJECT

@@ -39,14 +39,14 @@ namespace {
 
 constexpr int kUiTickMs = 20;
 constexpr int kLeftWidthPerPoint = 29;
-constexpr int kNumbersWidthPerPoint = 24; ///< that a card can be read in
+constexpr int kNumbersWidthPerPoint = 24; ///< keeps the cards readable
 
 } // namespace
 
 form_base::form_base(QWidget *parent) : QMainWindow(parent), m_ui(std::make_unique<Ui::form_base>())
 {
     const int fontSize = font_size::stored();
-    // Before any widget, so that all start with it: a change would have every one of them worked out again.
+    // Before any widget, so that all start with it: a later change would recompute every one of them.
     AppLanguageManager::instance().applyCurrentFont(fontSize);
     menu_font::follow(this);
     m_ui->setupUi(this);
@@ -193,7 +193,7 @@ void form_base::on_orientation_preset_changed(OrientationPreset preset)
 
 void form_base::onSessionState()
 {
-    // Not before it is closed: while it is closing its parts still hold what is to be cleared.
+    // Not before it is closed: while it is closing, its parts still hold what is to be cleared.
     if (m_session->isOpen() != m_isShowingConnection)
         enable_all_page(m_session->isOpen());
 }
@@ -352,7 +352,7 @@ void form_base::changeEvent(QEvent *event)
 
 void form_base::closeEvent(QCloseEvent *event)
 {
-    if (!m_session->allows(SessionAction::Quit)) { // ending now would leave the device without firmware
+    if (!m_session->allows(SessionAction::Quit)) { // quitting now would leave the device without firmware
         m_dialogs->refuseQuit();
         event->ignore();
         return;

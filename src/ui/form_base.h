@@ -29,8 +29,8 @@ namespace Ui {
 class form_base;
 }
 
-/// The main window: a client of one DeviceSession, which owns the connection. It shows what the session says, at the
-/// pace of the display, and forwards what the user wants. Main thread only.
+/// The main window: a client of one DeviceSession, which owns the connection. It shows the session's state at the
+/// display rate, and forwards the user's requests. Main thread only.
 class form_base : public QMainWindow
 {
     Q_OBJECT
@@ -43,31 +43,31 @@ public:
     /// "ORVEL-IMU V1.2.3"
     static QString appWindowTitle();
 
-    /// The user's preset for the product where one is stored in the settings file, else the product's own.
+    /// The user's preset for the product if one is stored in the settings file, else the product's own.
     static OrientationPreset resolveOrientationPreset(const DetectedDevice &device);
 
     DeviceSession &session() const { return *m_session; }
-    /// The user has ended the program so that it starts again.
+    /// The user has requested a restart of the program.
     bool wantsRestart() const { return m_wantsRestart; }
-    /// The link, for those who count what passes through the program.
+    /// The link, for callers that count the traffic through the program.
     const KvUartPort &port() const;
 
-    // What the session does for whoever calls the window.
+    // Operations of the session, for callers of the window.
     void open_port(const QString &portName, int baudRate);
     void try_read_prod_info();
     void onKbootFrameRecv(const QByteArray &payload);
     void on_orientation_preset_changed(OrientationPreset preset);
 
-    // Not slots: their actions are not in the generated layout, and would be looked for by name.
+    // Not slots: their actions are not in the generated layout, but automatic connection would search for them by name.
     void on_action_sensor_dashboard_triggered();
     void on_action_wireless_gateway_dashboard_triggered();
 
 public slots:
-    /// Lets the user choose a port; on acceptance opens it and has the device identified.
+    /// Lets the user choose a port; on acceptance opens it and starts the identification of the device.
     void on_action_serial_open_triggered();
     /// Ends the connection. Safe in every state.
     void on_action_serial_stop_triggered();
-    void on_actionDevice_Settiing_triggered(); ///< misspelt on purpose: the object name has always been so
+    void on_actionDevice_Settiing_triggered(); ///< misspelt on purpose: the object name has always been spelt like this
     void on_action_export_data_triggered();
     void on_action_firmware_update_triggered();
     void on_actionFFT_Chart_triggered();
@@ -91,7 +91,7 @@ private:
     void enable_all_page(bool enabled);
     void onSessionState();
     void onSerialError(QSerialPort::SerialPortError error, const QString &portName, int baudRate);
-    /// Refreshes all that the window shows; every 20 ms while a connection is open.
+    /// Refreshes everything that the window shows; called every 20 ms while a connection is open.
     void run_uart_UItmr();
     void refresh_selected_node_views();
     void show_text(const StreamSample &sample);
@@ -102,7 +102,7 @@ private:
     QTimer m_uiTimer;
     bool m_isShowingConnection = false;
     bool m_wantsRestart = false;
-    bool m_isNumbersTurn = false; ///< numbers and attitude are refreshed by every second tick
+    bool m_isNumbersTurn = false; ///< numbers and attitude are refreshed on every second tick
 
     SensorDataPanel *m_panel = nullptr;
     ConnectionCard *m_connectionCard = nullptr;

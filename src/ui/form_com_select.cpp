@@ -104,7 +104,7 @@ void form_com_select::showEvent(QShowEvent *event)
         m_ui->LE_path->clear();
         updateRows(m_source());
         offerRemembered();
-        // The field, not the list, whose search by typed letters would turn a typed path into another port.
+        // The field, not the list: the list's search by typed letters would turn a typed path into another port.
         m_ui->LE_path->setFocus(Qt::OtherFocusReason);
         m_ui->LE_path->selectAll();
     }
@@ -120,7 +120,7 @@ void form_com_select::hideEvent(QHideEvent *event)
 
 void form_com_select::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) // the field has no use for them
+    if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) // the field does not need them
         QCoreApplication::sendEvent(m_ui->TREE_ports, event);
     else
         QDialog::keyPressEvent(event);
@@ -144,7 +144,7 @@ void form_com_select::refreshPorts()
             offerRemembered();
         selectRowOfPath();
     }
-    updateState(); // a typed path may have come or gone
+    updateState(); // a typed path may have appeared or disappeared
 }
 
 /// Changes only the rows that differ, so that the scrolling and the other rows stay as they are.
@@ -168,7 +168,7 @@ void form_com_select::updateRows(const QList<port_choice::PortEntry> &ports)
             fillRow(m_ui->TREE_ports->topLevelItem(int(row)), ports[row]);
         }
     }
-    while (m_ports.size() > ports.size()) { // rows that have changed places
+    while (m_ports.size() > ports.size()) { // rows whose order has changed
         m_ports.removeLast();
         delete m_ui->TREE_ports->takeTopLevelItem(int(m_ports.size()));
     }
@@ -179,7 +179,7 @@ void form_com_select::updateRows(const QList<port_choice::PortEntry> &ports)
 void form_com_select::offerRemembered()
 {
     int row = port_choice::preselect(m_ports, m_remembered.port);
-    // Without a memory the first port that can be a device is a fair guess.
+    // With no port remembered, the first one that can be a device is a fair guess.
     for (int i = 0; row < 0 && m_remembered.port.path.isEmpty() && i < m_ports.size(); ++i) {
         if (m_ports[i].hasUsbId)
             row = i;
@@ -218,7 +218,7 @@ void form_com_select::updateState()
     m_ui->LBL_pathProblem->setText(pathText);
     m_ui->LBL_baudProblem->setText(baudText);
 
-    // A missing device may be there again a moment later: that is told, but does not forbid trying.
+    // A missing device may be back a moment later: this is reported, but does not prevent a try.
     const bool pathOk = state == port_choice::PathState::Usable || state == port_choice::PathState::Missing;
     m_ui->BTN_open->setEnabled(pathOk && baudText.isEmpty());
     m_ui->BTN_open->setToolTip(device_text::plainToolTip(!pathOk ? pathText : baudText));

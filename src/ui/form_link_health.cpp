@@ -27,7 +27,7 @@ QString timeText(qint64 epochMs)
                         : QDateTime::fromMSecsSinceEpoch(epochMs).toString(u"yyyy-MM-dd hh:mm:ss");
 }
 
-/// The time, with its date when that is not today's.
+/// The time, with its date unless that is today.
 QString shortTimeText(qint64 epochMs)
 {
     const QDateTime time = QDateTime::fromMSecsSinceEpoch(epochMs);
@@ -39,7 +39,7 @@ QString gapText(const NodeHealth &health)
     return health.largestGapMs == 0 ? value_format::absent() : QStringLiteral("%1 ms").arg(health.largestGapMs);
 }
 
-/// Without a clock nobody can tell what is missing.
+/// Without a clock, missing samples cannot be inferred.
 QString missingText(const NodeHealth &health)
 {
     return health.hasClock ? QString::number(health.missing) : value_format::absent();
@@ -70,7 +70,7 @@ QString errorText(LinkError error)
     return value_format::absent();
 }
 
-/// Shows a figure; in the colour of warnings when it tells of damage.
+/// Shows a figure; in the warning colour when it indicates damage.
 void put(QLabel *label, const QString &text, bool isDamage = false)
 {
     if (label->text() != text)
@@ -88,7 +88,7 @@ void put(QLabel *label, quint64 count)
     put(label, QString::number(count));
 }
 
-/// A count that is 0 as long as all is well.
+/// A count that is 0 as long as everything is fine.
 void putDamage(QLabel *label, quint64 count)
 {
     put(label, QString::number(count), count > 0);
@@ -122,10 +122,11 @@ form_link_health::form_link_health(const LinkMonitor *monitor, QWidget *parent)
 {
     m_ui->setupUi(this);
     m_ui->TBL_nodes->setColumnCount(Columns);
-    // Not by the header itself: it would measure all columns anew with every cell that changes, seconds for 250 nodes.
+    // Not by the header itself: it would measure all columns again with every changed cell, which takes seconds for 250
+    // nodes.
     m_ui->TBL_nodes->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_ui->TBL_nodes->horizontalHeader()->setSectionResizeMode(Id, QHeaderView::Stretch);
-    m_ui->TBL_nodes->horizontalHeader()->setResizeContentsPrecision(0); // the rows in sight
+    m_ui->TBL_nodes->horizontalHeader()->setResizeContentsPrecision(0); // the visible rows
     m_ui->TBL_nodes->horizontalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_ui->TBL_nodes->horizontalHeader()->setHighlightSections(false);
     nameColumns();
@@ -133,7 +134,7 @@ form_link_health::form_link_health(const LinkMonitor *monitor, QWidget *parent)
     connect(&m_timer, &QTimer::timeout, this, &form_link_health::refresh);
     connect(m_ui->BTN_copy, &QPushButton::clicked, this, [this] { QGuiApplication::clipboard()->setText(text()); });
     connect(m_ui->BTN_close, &QPushButton::clicked, this, &form_link_health::close);
-    m_ui->CARD_nodes->hide(); // until there are some
+    m_ui->CARD_nodes->hide(); // hidden until there are any
     m_host = WindowHost::attach(this, settings_keys::kLinkHealthGeometry);
 }
 
@@ -225,7 +226,7 @@ void form_link_health::showNodes(const LinkReport &report)
     m_ui->CARD_nodes->setVisible(!report.nodes.isEmpty());
     if (table->rowCount() != int(report.nodes.size()))
         table->setRowCount(int(report.nodes.size()));
-    if (appears && !m_host->hasPlace()) {      // windows do not grow by themselves
+    if (appears && !m_host->hasPlace()) {      // windows do not grow automatically
         resize(size().expandedTo(sizeHint())); // the host keeps it on the screen
     }
     for (int row = 0; row < int(report.nodes.size()); ++row) {

@@ -14,10 +14,10 @@ namespace Ui {
 class form_link_health;
 }
 
-/// Shows how well the connection carries its data: what the line damaged, what is missing in the stream, in total and
-/// for each node of a gateway, and what a recording could not keep. Without a connection it shows the last one's
-/// figures, or says that there is none. Asks the monitor twice a second while it is visible. Remembers its place. Main
-/// thread only.
+/// Shows how well the connection carries its data: what was damaged on the line, what is missing from the stream, in
+/// total and for each node of a gateway, and what a recording lost. Without a connection it shows the figures of the
+/// last one, or says that there was none. Polls the monitor twice a second while it is visible. Remembers its place.
+/// Main thread only.
 class form_link_health : public QDialog
 {
     Q_OBJECT
@@ -28,7 +28,7 @@ public:
     explicit form_link_health(const LinkMonitor *monitor, QWidget *parent = nullptr);
     ~form_link_health() override;
 
-    /// What is shown, as lines of caption and figure with a tab between them, then the table.
+    /// The displayed figures, as lines of caption and figure with a tab between them, then the table.
     QString text() const;
 
 protected:

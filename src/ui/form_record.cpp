@@ -44,7 +44,7 @@ form_record::form_record(Recorder *recorder, QWidget *parent)
     for (const QCheckBox *box : {m_ui->CHK_time, m_ui->CHK_size, m_ui->CHK_resume})
         connect(box, &QCheckBox::toggled, this, &form_record::takeOptions);
     for (QSpinBox *box : {m_ui->SB_minutes, m_ui->SB_mebibytes}) {
-        box->setKeyboardTracking(false); // a limit that is half typed would end a recording
+        box->setKeyboardTracking(false); // a half-typed limit would end a recording
         connect(box, &QSpinBox::valueChanged, this, &form_record::takeOptions);
     }
 
@@ -112,10 +112,10 @@ void form_record::on_BTN_browse_clicked()
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFileMode(QFileDialog::Directory);
     dialog->setOption(QFileDialog::ShowDirsOnly);
-    if (m_facts.isFolder) // a dialog waits for the disk of the folder that it begins with
+    if (m_facts.isFolder) // a dialog waits for the disk of the folder that it starts in
         dialog->setDirectory(m_facts.folder);
     connect(dialog, &QFileDialog::fileSelected, this, [this](const QString &path) {
-        if (!m_recorder->isRecording()) // it may have been started meanwhile
+        if (!m_recorder->isRecording()) // it may have been started in the meantime
             m_ui->LE_folder->setText(QDir::toNativeSeparators(path));
     });
     dialog->open();
@@ -179,7 +179,7 @@ void form_record::takeFacts(const FolderFacts &facts)
         if (facts.folder == m_folderToShow)
             showFolder(facts);
         else
-            m_showQuestion = m_probe.ask(m_folderToShow); // a later question has replaced it
+            m_showQuestion = m_probe.ask(m_folderToShow); // a later query has replaced it
     }
     if (facts.folder == typedFolder()) {
         m_patience.stop();
@@ -187,14 +187,14 @@ void form_record::takeFacts(const FolderFacts &facts)
     } else if (m_facts.folder != typedFolder()) {
         if (!m_patience.isActive())
             m_facts = {};
-        if (!facts.folder.isEmpty()) // another question may have replaced ours
+        if (!facts.folder.isEmpty()) // another query may have replaced ours
             m_probe.ask(typedFolder());
     }
     updateFields();
     updateFigures();
 }
 
-/// Why recording cannot be started now; empty when it can.
+/// Why recording cannot start now; empty when it can.
 QString form_record::blockedReason() const
 {
     if (!m_recorder->isLinkOpen())
@@ -254,7 +254,7 @@ void form_record::updateState()
         m_ui->LBL_hint->setText(tr("Recording goes on when this window is closed."));
     else if (m_recorder->isWaitingForLink())
         m_ui->LBL_hint->setText(tr("Open the port again to go on."));
-    else // the state may say as much
+    else // the state may already say so
         m_ui->LBL_hint->setText(m_recorder->isLinkOpen() || m_recorder->end() == Recorder::End::Link ? QString()
                                                                                                      : blocked);
 

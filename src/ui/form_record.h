@@ -13,9 +13,9 @@ namespace Ui {
 class form_record;
 }
 
-/// The window of the recorder: asks for folder and name, starts and stops, and shows how the recording goes. The
-/// recording is the Recorder's and goes on while this window is closed. What the disk says about the typed folder is
-/// asked while the window is open, and shown when it answers.
+/// The window of the recorder: asks for folder and name, starts and stops, and shows the progress of the recording. The
+/// recording belongs to the Recorder and goes on while this window is closed. While the window is open, the disk is
+/// queried about the typed folder, and its answer is shown when it arrives.
 ///
 /// Main thread only.
 class form_record : public QDialog
@@ -24,7 +24,7 @@ class form_record : public QDialog
     Q_DISABLE_COPY_MOVE(form_record)
 
 public:
-    /// `recorder` lives as long as this window is used.
+    /// `recorder` must live as long as this window is used.
     explicit form_record(Recorder *recorder, QWidget *parent = nullptr);
     ~form_record() override;
 
@@ -57,9 +57,9 @@ private:
     Recorder *m_recorder;
     FolderProbe m_probe;
     FolderFacts m_facts;        ///< of the folder typed last, once the disk has answered
-    QTimer m_patience;          ///< runs out when the disk is slow: what is known is of another folder
-    QString m_folderToShow;     ///< asked for by the user, while the disk has not answered
-    quint64 m_showQuestion = 0; ///< the number of that question
-    QString m_folderNotShown;   ///< asked for by the user in vain
-    bool m_isWriting = false;   ///< the file takes its time to be closed
+    QTimer m_patience;          ///< runs out when the disk is slow: what is known is about another folder
+    QString m_folderToShow;     ///< requested by the user, until the disk has answered
+    quint64 m_showQuestion = 0; ///< the number of that query
+    QString m_folderNotShown;   ///< requested by the user without success
+    bool m_isWriting = false;   ///< closing the file takes a while
 };

@@ -26,22 +26,22 @@ constexpr int kLogLines = 500;
 constexpr int kHotkeysPerRow = 4;
 constexpr int kModulePage = 0;
 constexpr int kCommandsPage = 1;
-constexpr double kFullRecordPacketBytes = 82; ///< until packets have come
+constexpr double kFullRecordPacketBytes = 82; ///< until packets have arrived
 
-/// What a product's editors show while neither the device nor the user has said anything: the mode selector's entry
-/// after modes 0 and 1, which writes none; no rate; the id editor's value below 0.
+/// What a product's editors show while neither the device nor the user has given a value: the mode selector's entry
+/// after modes 0 and 1, which writes no mode; no rate; the id editor's value below 0.
 constexpr SettingsSaveRequest kNothingChosen{2, 0, -1};
 
-/// One button of the command page.
+/// A button on the command page.
 struct Hotkey
 {
     const char *objectName;
     const char *text;
     std::optional<SettingsHotkeyAction> action; ///< none: resume the output
-    HotkeyGroup firstGroup;                     ///< the smallest group that has it; every group holds those before it
+    HotkeyGroup firstGroup;                     ///< the smallest group with it; each group includes those before
 };
 
-// In the order of the groups, so that each fills the grid without gaps.
+// Ordered by group, so that each group fills the grid without gaps.
 constexpr Hotkey kHotkeys[] = {
     {"BTN_readInfo", QT_TRANSLATE_NOOP("form_settings", "Read info"), SettingsHotkeyAction::ReadInfo,
      HotkeyGroup::None},
@@ -80,7 +80,7 @@ SettingsSaveRequest toRequest(const DeviceSettings &answered)
             answered.nodeId.value_or(kNothingChosen.nodeId)};
 }
 
-/// Gives a label the look of its role.
+/// Styles a label according to its role.
 void setRole(QLabel *label, const char *role)
 {
     if (label->property("role").toString() == QLatin1String(role))
@@ -111,7 +111,7 @@ form_settings::form_settings(DeviceSession *session, QWidget *parent)
     m_ui->PTE_log->setFont(theme::fixedPitchFont(font().pointSizeF()));
     createHotkeys();
 
-    // The log shows its end, also when its window shrinks.
+    // Keeps the end of the log visible, also when its window shrinks.
     QScrollBar *bar = m_ui->PTE_log->verticalScrollBar();
     connect(bar, &QScrollBar::rangeChanged, bar, [bar](int, int maximum) { bar->setValue(maximum); });
     connect(m_session, &DeviceSession::stateChanged, this, [this] {
@@ -166,7 +166,7 @@ void form_settings::changeEvent(QEvent *event)
     QDialog::changeEvent(event);
 }
 
-// Nothing may follow the session's calls: the window can be gone when they return.
+// Nothing may follow the calls to the session: the window may have been destroyed when they return.
 
 void form_settings::on_BTN_identify_clicked()
 {
@@ -227,7 +227,7 @@ void form_settings::showDevice()
         m_hotkeyButtons[i]->setText(tr(kHotkeys[i].text));
         m_hotkeyButtons[i]->setVisible(kHotkeys[i].firstGroup <= profile.hotkeyGroup);
     }
-    // A device that does not answer keeps its settings on the screen, and what was typed into them.
+    // The settings of a device that does not answer stay on the screen, with what was typed into them.
     if (!device.valid && m_session->isOpen() && m_shownKey != ProductKey::None) {
         showEditors(shownProfile());
         updateState();
@@ -240,12 +240,12 @@ void form_settings::showDevice()
     m_shownKey = profile.key;
     if (const auto choice = m_choices.constFind(m_shownKey);
         choice != m_choices.constEnd() && m_answered != DeviceSettings() && m_answered != choice->answered)
-        m_choices.erase(choice); // it was saved, or this is another device
+        m_choices.erase(choice); // they were saved, or this is another device
     showEditors(profile);
     updateState();
 }
 
-/// The product that the editors are of.
+/// The product that the editors belong to.
 const ProductProfile &form_settings::shownProfile() const
 {
     return product_profile::profile(m_shownKey);
@@ -294,7 +294,7 @@ SettingsSaveRequest form_settings::request() const
     return request;
 }
 
-/// Why nothing can be sent now; empty when it can.
+/// Why nothing can be sent now; empty when sending is possible.
 QString form_settings::blockedReason() const
 {
     const Refusal refusal = m_session->refusal(SessionAction::SendCommand);
@@ -309,7 +309,7 @@ QString form_settings::outcomeText() const
     const QString commands = m_outcome.commands.join(QLatin1String(", "));
     switch (m_outcome.kind) {
     case CommandSession::Outcome::NoReply:
-        if (m_session->isStreaming()) // the baud rate is right
+        if (m_session->isStreaming()) // the baud rate is correct
             return tr("The device does not answer, although its data arrive. Identify it again.");
         return tr("The device does not answer. Check the baud rate, then identify it again.");
     case CommandSession::Outcome::Noise:
@@ -386,7 +386,7 @@ void form_settings::updateState()
     enableSender(m_ui->BTN_identify, blocked, tr("Stops the output, reads what the device is and resumes the output"));
     const QString saveBlocked = blocked.isEmpty() ? saveProblem() : blocked;
     enableSender(m_ui->BTN_save, saveBlocked, tr("Writes these settings and restarts the device"));
-    const bool hasSettings = m_ui->LBL_noSettings->isHidden(); // else that label says what to do
+    const bool hasSettings = m_ui->LBL_noSettings->isHidden(); // otherwise that label says what to do
     const QString hint =
         saveProblem().isEmpty() ? tr("Saving restarts the device; this takes 2 seconds.") : saveProblem();
     m_ui->LBL_saveHint->setText(hasSettings ? hint : QString());
@@ -398,7 +398,7 @@ void form_settings::updateState()
     }
 }
 
-/// Tells what a button that sends does, or why it cannot.
+/// Explains what a button that sends does, or why it is disabled.
 void form_settings::enableSender(QPushButton *button, const QString &blocked, const QString &what)
 {
     button->setEnabled(blocked.isEmpty());

@@ -22,14 +22,14 @@ class form_settings;
 }
 
 /// Settings of the connected device: what it is, its node id, output rate and attitude mode, and one-click commands
-/// with a log of what was sent and what came back. It also identifies the device for the main window, visible or not.
+/// with a log of what was sent and received. It also identifies the device for the main window, visible or not.
 ///
-/// The settings start with what the device has answered. What the user types stays, also while the device does not
-/// answer, until the device answers other settings than before.
+/// The settings start with the device's answers. What the user types stays, also while the device does not answer,
+/// until the device reports settings other than before.
 ///
-/// Commands wait for their replies in nested event loops. Until one has ended every other is refused and all that sends
-/// is disabled; the port, this window and the program may be closed meanwhile. What a connection answered after it was
-/// closed is thrown away.
+/// Commands wait for their replies in nested event loops. Until one has ended every other command is refused and all
+/// sending controls are disabled; the port, this window and the program may be closed in the meantime. Answers from a
+/// connection that has been closed are discarded.
 ///
 /// Main thread only.
 class form_settings : public QDialog
@@ -42,13 +42,13 @@ public:
     explicit form_settings(DeviceSession *session, QWidget *parent = nullptr);
     ~form_settings() override;
 
-    /// Identifies the device: stops its output, reads its information, resolves it and resumes the output. Takes some
-    /// 0.5 s at 115200 baud, in a nested event loop. Returns the lines of the reply. A silent device gives none; none
-    /// come either when the session refuses, and when the connection ended meanwhile.
+    /// Identifies the device: stops its output, reads its information, resolves it and resumes the output. Takes about
+    /// 0.5 s at 115200 baud, in a nested event loop. Returns the lines of the reply; there are none when the device is
+    /// silent, when the session refuses, or when the connection ended in the meantime.
     QStringList get_prod_info();
 
 signals:
-    /// The window was closed and no command runs any more. Output that was stopped here has been told to resume.
+    /// The window was closed and no command runs any more. Output that was stopped here has been commanded to resume.
     void settingsClosed();
 
 protected:
@@ -66,7 +66,7 @@ private:
     struct Choice
     {
         SettingsSaveRequest request;
-        DeviceSettings answered; ///< by the device before it was typed
+        DeviceSettings answered; ///< reported by the device before it was typed
     };
 
     void createHotkeys();
@@ -89,11 +89,11 @@ private:
     DeviceSession *m_session;
     CommandSession *m_commands;               ///< the session's
     QList<QPushButton *> m_hotkeyButtons;     ///< one per row of the hotkey table
-    QHash<ProductKey, Choice> m_choices;      ///< for as long as the program runs
-    ProductKey m_shownKey = ProductKey::None; ///< of the editors, while the connection lasts
-    DeviceSettings m_answered;                ///< by the device that the editors are of
+    QHash<ProductKey, Choice> m_choices;      ///< kept as long as the program runs
+    ProductKey m_shownKey = ProductKey::None; ///< product of the editors, while the connection lasts
+    DeviceSettings m_answered;                ///< reported by the device that the editors belong to
     QuestionBox m_question;
-    QPointer<QWidget> m_focusBefore; ///< had the focus when sending was last blocked
-    CommandOutcome m_outcome;        ///< of the last operation
+    QPointer<QWidget> m_focusBefore; ///< had the focus when sending was last disabled
+    CommandOutcome m_outcome;        ///< result of the last operation
     bool m_closePending = false;     ///< settingsClosed() is still to be emitted
 };

@@ -23,7 +23,7 @@ LanguageMenu::LanguageMenu(QWidget *parent)
         m_group->addAction(action);
     }
     m_button->setHidden(isEmpty());
-    // Not the button's own menu: its nested event loop would hold a command's window open as long as the menu is.
+    // Not the button's own menu: its nested event loop would keep a command waiting as long as the menu is open.
     connect(m_button, &QToolButton::pressed, this, [this] {
         popup(m_button->mapToGlobal(QPoint(m_button->width() - sizeHint().width(), m_button->height())));
     });

@@ -17,7 +17,8 @@ namespace {
 
 constexpr int kIconSize = 72;
 
-/// A menu's text as a button shows it: without mnemonic, which some languages put at the end in brackets, and dots.
+/// A menu text as shown on a button: without the dots, and without the mnemonic, which some languages put at the end in
+/// brackets.
 QString toolbarText(QString text)
 {
     static const QRegularExpression kMnemonic(QStringLiteral("\\(&.\\)|&|\\.\\.\\.$|\u2026$"));

@@ -12,8 +12,8 @@ namespace Ui {
 class form_base;
 }
 
-/// Actions of the main window beyond what its layout holds: the dashboards' actions, the toolbar with the button that
-/// opens or closes the port, tooltips, what the session allows, and the first page's texts about them.
+/// Actions of the main window beyond those in its layout: the dashboards' actions, the toolbar with the button that
+/// opens or closes the port, tooltips, what the session allows, and the welcome page's texts about them.
 class MainActions : public QObject
 {
     Q_OBJECT
@@ -25,9 +25,9 @@ public:
 
     QAction *sensorDashboard() const { return m_dashboard; }
     QAction *gatewayDashboard() const { return m_gateway; }
-    /// A connection is open, so that the button closes it, or none is, so that it opens one.
+    /// Whether a connection is open, so that the button closes it, or none is, so that it opens one.
     void setOpen(bool open);
-    /// Texts in the language of now.
+    /// Updates the texts to the current language.
     void retranslate();
 
 private:

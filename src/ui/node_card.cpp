@@ -101,7 +101,7 @@ void NodeCard::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
         m_ui->retranslateUi(this);
-        m_shown.clear(); // the next refresh names the nodes again
+        m_shown.clear(); // the next refresh adds the names of the nodes again
     }
     QFrame::changeEvent(event);
     if (event->type() == QEvent::FontChange)

@@ -12,7 +12,7 @@ namespace Ui {
 class NodeCard;
 }
 
-/// The nodes of the connection: which there are, which one is shown, and the choice of another.
+/// The nodes of the connection: lists them, marks the one shown, and lets the user choose another.
 class NodeCard : public QFrame
 {
     Q_OBJECT
@@ -23,17 +23,17 @@ public:
     explicit NodeCard(DeviceSession *session, QWidget *parent = nullptr);
     ~NodeCard() override;
 
-    /// Shows the nodes that are heard now. Call at the pace of the display.
+    /// Shows the nodes that are heard now. Call at the display rate.
     void refresh();
     void focusList();
 
     /// The height in pixels below which a list that scrolls is of no use.
     int leastHeight() const;
-    /// The list scrolls by itself when it is low; else it has room for all nodes.
+    /// Whether the list scrolls separately when there is little room; otherwise it has room for all nodes.
     void setListScrolls(bool scrolls);
 
 signals:
-    /// The current node is at `place` of this card: to be brought into view by what scrolls the card.
+    /// The current node is at `place` in this card; whatever scrolls the card should bring it into view.
     void currentShown(const QRect &place);
 
 protected:

@@ -21,7 +21,7 @@ struct Texts
 constexpr int kUsualBaudRates[] = {9600,   19200,  38400,  57600,   115200,  230400, 256000,
                                    460800, 500000, 921600, 1000000, 1500000, 2000000};
 
-/// Longer than any path that a system opens; a longer one in the settings file is garbage.
+/// Longer than any path that a system opens; anything longer in the settings file is garbage.
 constexpr qsizetype kMaximumPathLength = 4096;
 constexpr qsizetype kMaximumSerialNumberLength = 256;
 
@@ -67,7 +67,7 @@ QList<PortEntry> systemPorts()
     QList<PortEntry> ports;
     for (const QSerialPortInfo &info : QSerialPortInfo::availablePorts()) {
         PortEntry entry;
-        // A device file is opened by its path; elsewhere the short name is what people know.
+        // A device file is opened by its path; elsewhere people know the short name.
         entry.path = info.systemLocation().startsWith(u'/') ? info.systemLocation() : info.portName();
         entry.description = info.description();
         entry.maker = info.manufacturer();

@@ -7,8 +7,8 @@
 
 class QSettings;
 
-/// What the port selection decides without a window: which port to offer first, whether a baud rate and a path make
-/// sense, and what is remembered in the settings file from one start to the next. Any thread.
+/// The decisions of the port selection that need no window: which port to offer first, whether a baud rate and a path
+/// make sense, and what the settings file remembers from one start to the next. Any thread.
 namespace port_choice {
 
 inline constexpr int kMinimumBaud = 1200;
@@ -39,21 +39,21 @@ QList<PortEntry> systemPorts();
 /// "0403:6001"; empty when the port has no USB identity.
 QString usbIdText(const PortEntry &port);
 
-/// The connection of last time.
+/// The last connection.
 struct Remembered
 {
     PortEntry port; ///< only the path and the identity are kept; the path may be empty
     int baudRate = kDefaultBaud;
 };
 
-/// Reads what was remembered. Values that are missing, out of range or garbage are replaced by defaults.
+/// Reads the remembered connection. Values that are missing, out of range or garbage are replaced by defaults.
 Remembered read(const QSettings &settings);
 
-/// Stores the connection for next time. False when the settings file cannot be written.
+/// Stores the connection for the next start. False when the settings file cannot be written.
 bool write(QSettings &settings, const Remembered &remembered);
 
-/// Index of the port to offer first, or -1: the remembered path if the same device sits there; else the remembered
-/// device wherever it sits now; else the remembered path. Without USB identity only the path counts.
+/// Index of the port to offer first, or -1: the remembered path if the same device is there; else the remembered device
+/// wherever it is now; else the remembered path. Without USB identity only the path counts.
 int preselect(const QList<PortEntry> &ports, const PortEntry &remembered);
 
 /// Index of the port with this path, or -1.
@@ -65,10 +65,10 @@ int parseBaud(const QString &text);
 /// Says what is wrong with the baud rate written in `text`; empty when nothing is.
 QString baudProblem(const QString &text);
 
-/// The device file behind a port's name or path ("ttyUSB0" is "/dev/ttyUSB0"); empty where ports are not files.
+/// The device file of a port's name or path ("ttyUSB0" is "/dev/ttyUSB0"); empty where ports are not files.
 QString deviceFile(const QString &port);
 
-/// How far a path that was typed or remembered can be opened.
+/// Whether a typed or remembered path can be opened.
 enum class PathState {
     Usable,
     Empty,

@@ -1,9 +1,9 @@
 #pragma once
 
-/// What screen readers say of the painted figures, ValueCard and ValueStrip: their lines. Main thread only.
+/// What screen readers say about the painted figures, ValueCard and ValueStrip: their lines. Main thread only.
 namespace readout_accessible {
 
-/// To be called by each of them when it is made.
+/// To be called by each of them on construction.
 void install();
 
 } // namespace readout_accessible

@@ -22,7 +22,7 @@ bool canStop(const Recorder &recorder)
 RecordingActions::RecordingActions(DeviceSession *session, QAction *record, QAction *marker, QObject *parent)
     : QObject(parent), m_session(session), m_record(record), m_marker(marker)
 {
-    record->setShortcutContext(Qt::ApplicationShortcut); // whatever window one looks at
+    record->setShortcutContext(Qt::ApplicationShortcut); // whichever window is active
     const Recorder *recorder = &session->recorder();
     connect(record, &QAction::triggered, this, &RecordingActions::toggle);
     connect(marker, &QAction::triggered, this, &RecordingActions::setMarker);

@@ -5,17 +5,18 @@
 class DeviceSession;
 class QAction;
 
-/// The recording by single keys: one action starts and stops with the last folder and name, the other sets a marker.
+/// Controls the recording with single keys: one action starts and stops it with the last folder and name, the other
+/// sets a marker.
 class RecordingActions : public QObject
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(RecordingActions)
 
 public:
-    /// All outlive this object.
+    /// All arguments outlive this object.
     RecordingActions(DeviceSession *session, QAction *record, QAction *marker, QObject *parent = nullptr);
 
-    /// Texts in the language of now.
+    /// Updates the texts to the current language.
     void retranslate() { refresh(); }
 
 signals:

@@ -4,8 +4,8 @@
 
 class Recorder;
 
-/// The recording in the status bar: how long it has been running, that it waits for the connection, or that it is in
-/// trouble. Hidden when there is nothing to say.
+/// The recording in the status bar: how long it has been running, that it is waiting for the connection, or that there
+/// is a problem. Hidden when there is nothing to report.
 class RecordingBadge : public QToolButton
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ public:
     /// `recorder` outlives this widget.
     explicit RecordingBadge(const Recorder *recorder, QWidget *parent = nullptr);
 
-    /// Shows the recording as it is now. Call at the pace of the display.
+    /// Shows the current state of the recording. Call at the display rate.
     void refresh();
 
 protected:

@@ -44,7 +44,7 @@ QString problemText(const RecordingProblem &problem)
     case RecordingProblem::Kind::CannotOpenFile:
         return Text::tr("%1 cannot be written: %2").arg(path, problem.reason);
     case RecordingProblem::Kind::None:
-    case RecordingProblem::Kind::NotConnected: // these two stand beside the button and the fields
+    case RecordingProblem::Kind::NotConnected: // these two are shown beside the button and the fields
     case RecordingProblem::Kind::BadTarget:
         break;
     }

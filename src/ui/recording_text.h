@@ -10,11 +10,11 @@ namespace recording_text {
 /// Why files cannot have this name; empty when they can.
 QString nameProblem(const QString &name);
 
-/// What to tell about the start that led to nothing and about the trouble of a recording, a sentence or two each. What
-/// the fields show by themselves is left out.
+/// Explains a failed start and the problems of a recording, in a sentence or two each. Leaves out what the fields
+/// already show.
 QStringList notices(const RecordingProblem &problem, const Recorder::Trouble &trouble);
 
-/// A path for people, however long it is; a label may break it into lines.
+/// A path for display, however long it is; a label may break it into lines.
 QString shownPath(const QString &path);
 
 /// "1.5 MB", in units of 1024.

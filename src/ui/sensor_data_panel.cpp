@@ -95,7 +95,7 @@ void SensorDataPanel::appendSample(const StreamSample &sample)
 {
     const node_data_t &node = sample.snapshot.sample;
     // By the stream's time, which is one for both clocks of a node; without a clock, a pause of the computer would be
-    // taken for a gap. A shorter gap is less than a trace can show.
+    // taken for a gap. Shorter gaps are too small for a trace to show.
     const SampleGaps::Step step = sample.deviceMs != 0 ? m_gaps.add(node.time_ms, sample.hostMs) : SampleGaps::Step();
     const bool isGap = step.missing > 0 && step.gapMs > TraceBuffer::kBucketMs;
     const bool isBroken = isGap || sample.brokenBy != StreamBreak::None;

@@ -18,7 +18,7 @@ class ValueStrip;
 struct SensorDataModel
 {
     node_data_t node;
-    SampleFields fields; ///< what the stream carries; all else is a dash
+    SampleFields fields; ///< what the stream carries; everything else is shown as a dash
 };
 
 /// The numeric panel: all values of the selected node with units, in cards with bars and a trace of the last seconds,
@@ -31,16 +31,16 @@ class SensorDataPanel : public QWidget
 public:
     explicit SensorDataPanel(QWidget *parent = nullptr);
 
-    /// Adds a sample to the traces without repainting. A trace breaks where the stream started again, and where the
+    /// Adds a sample to the traces without repainting. A trace breaks where the stream restarted, and where the
     /// device's clock shows a gap.
     void appendSample(const StreamSample &sample);
-    /// Shows the values. Call at the pace of the display, not of the stream.
+    /// Shows the values. Call at the display rate, not at the stream's.
     void setModel(const SensorDataModel &model);
     /// Shows or hides the row with node, time, temperature and pressure.
     void setSummaryVisible(bool visible);
     /// Lets the traces move on when no sample arrives, on the clock of StreamSample::hostMs.
     void advance(qint64 nowMs);
-    /// Dashes everywhere.
+    /// Shows dashes everywhere.
     void clear();
     void retranslate();
 

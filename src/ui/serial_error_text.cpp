@@ -14,7 +14,7 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(serial_error_text)
 };
 
-/// The name goes into a command line that people copy; anything but an ordinary name is left to the shell.
+/// The name goes into a command line that people copy; anything but an ordinary name is left to the shell to expand.
 QString loginName()
 {
     static const QRegularExpression ordinary(QStringLiteral("^[A-Za-z_][A-Za-z0-9_.-]{0,63}$"));
@@ -45,7 +45,7 @@ serial_error_text::PortFacts serial_error_text::facts(const QString &port, int b
     const QFileInfo info(file);
     facts.exists = info.exists();
     facts.accessible = info.isReadable() && info.isWritable();
-    // Joining the group of the system's administrator, or one that may not read, is no advice.
+    // Never advise joining the administrator's group, or one without read permission.
     const QString group = info.group();
     if (info.permission(QFile::ReadGroup | QFile::WriteGroup) && group != QLatin1String("root"))
         facts.group = group;
@@ -66,7 +66,7 @@ QString serial_error_text::describe(QSerialPort::SerialPortError error, const Po
         return Texts::tr("%1 is not there. Check the cable and that the device is switched on.").arg(facts.port);
     switch (error) {
     case QSerialPort::PermissionError:
-        // A port that another program holds is refused with the same code as one that the user may not open.
+        // A port held by another program is refused with the same code as one that the user may not open.
         if (!facts.accessible)
             return noPermissionText(facts);
         return Texts::tr("Another program uses %1. Close it and try again.").arg(facts.port);

@@ -3,10 +3,10 @@
 #include <QSerialPort>
 #include <QString>
 
-/// Says in words why a serial port could not be opened, or why it was lost, and what to do about it.
+/// Explains why a serial port could not be opened, or why it was lost, and what to do about it.
 namespace serial_error_text {
 
-/// What is known about the port when an error is told.
+/// What is known about the port when an error is reported.
 struct PortFacts
 {
     QString port;           ///< as the user chose it
@@ -17,7 +17,7 @@ struct PortFacts
     QString user;           ///< login name of this user
 };
 
-/// Looks at the device file of `port` and at who is logged in.
+/// Inspects the device file of `port` and the logged-in user.
 PortFacts facts(const QString &port, int baudRate);
 
 /// One or two sentences, without a title, plain text. Empty for QSerialPort::NoError.

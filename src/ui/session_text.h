@@ -6,14 +6,14 @@
 
 class DeviceSession;
 
-/// What a session says, for people.
+/// The state of a session as texts for the user.
 namespace session_text {
 
-/// Why something cannot be had now, as a sentence; empty for Refusal::None.
+/// Why something is unavailable now, as a sentence; empty for Refusal::None.
 QString refusal(Refusal refusal);
 
-/// What the connection card says in states that are not about a stream: bootloader, download, search for a baud rate.
-/// Empty in all others.
+/// The connection card's text in states other than streaming: bootloader, download, search for a baud rate. Empty in
+/// all other states.
 QString connection(const DeviceSession &session);
 
 } // namespace session_text

@@ -15,7 +15,7 @@ namespace {
 
 constexpr int kConnectedTextDelayMs = 200;
 constexpr int kSayingMs = 4000;
-constexpr int kOpeningTextsMs = 1700; ///< till then the texts of opening stay
+constexpr int kOpeningTextsMs = 1700; ///< until then the texts about opening stay
 
 } // namespace
 

@@ -16,20 +16,20 @@ class StatusLine : public QObject
     Q_DISABLE_COPY_MOVE(StatusLine)
 
 public:
-    /// A click on the traffic triggers `linkHealth`. All outlive this object.
+    /// A click on the traffic triggers `linkHealth`. All arguments outlive this object.
     StatusLine(DeviceSession *session, QStatusBar *bar, QAction *linkHealth, QObject *parent = nullptr);
 
-    /// Shows what is now. Call at the pace of the display.
+    /// Shows the current state. Call at the display rate.
     void refresh();
-    /// A port is being opened: says so, and which one, before refresh() takes over.
+    /// Says that a port is being opened, and which one, before refresh() takes over.
     void showOpening();
-    /// Says something that has just happened, for a moment.
+    /// Reports something that has just happened, for a moment.
     void say(const QString &text);
     /// The connection has ended.
     void showClosed();
-    /// Texts in the language of now.
+    /// Updates the texts to the current language.
     void retranslate();
-    /// The figures' font, of this size.
+    /// Sets the size of the figures' font.
     void setFontSize(int points);
 
 private:
@@ -38,5 +38,5 @@ private:
     QLabel *m_node;
     QLabel *m_traffic;
     QElapsedTimer m_opening; ///< since a port was chosen
-    QTimer m_saying;         ///< runs while something is said
+    QTimer m_saying;         ///< runs while a message is shown
 };

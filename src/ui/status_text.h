@@ -5,16 +5,16 @@
 #include "link/kv_uart_port.h"
 #include "link/stream_state.h"
 
-/// Texts of the main window's status displays, as pure functions of what is known.
+/// Texts of the main window's status displays, as pure functions of the known state.
 namespace status_text {
 
 /// The status bar's text. `infoDeferred`: reading the product information was given up because frames were flowing.
 QString statusBar(const StreamSnapshot &snapshot, bool infoDeferred);
 
-/// "T:%1KB/s(%2%) R:%3KB/s(%4%)": bytes per second divided by 1024, and load of the line in per cent.
+/// "T:%1KB/s(%2%) R:%3KB/s(%4%)": bytes per second divided by 1024, and line load in per cent.
 QString traffic(const LinkStatistics &statistics);
 
-/// Kind of frame that the stream carries, for people: layout and item tags.
+/// Kind of frame that the stream carries, for display: layout and item tags.
 QString protocol(const DecodedFrame &frame);
 
 /// The connection panel: port and baud rate, then protocol and frame rate, or what is missing.

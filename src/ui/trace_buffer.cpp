@@ -42,7 +42,7 @@ void TraceBuffer::advance(qint64 nowMs)
 void TraceBuffer::clear()
 {
     m_buckets = {};
-    m_newest = 0; // the next sample may come on another clock
+    m_newest = 0; // the next sample may use another clock
 }
 
 const TraceBuffer::Extent &TraceBuffer::at(int channel, int age) const

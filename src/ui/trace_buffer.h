@@ -20,18 +20,18 @@ public:
     {
         float low = std::numeric_limits<float>::infinity();
         float high = -std::numeric_limits<float>::infinity();
-        qint8 lowMs = 0; ///< when in the bucket; a slope is drawn as a slope by them
+        qint8 lowMs = 0; ///< times within the bucket, with which a slope is drawn as a slope
         qint8 highMs = 0;
-        bool isBroken = false; ///< nothing leads here from the bucket before
+        bool isBroken = false; ///< no line leads here from the previous bucket
         bool isEmpty() const { return low > high; }
     };
 
-    /// Adds one sample at `nowMs`, on any clock; buckets that time has passed are emptied. A sample that is older than
-    /// the buffer is left out. `isBroken`: samples before it are missing.
+    /// Adds one sample at `nowMs`, on any clock; expired buckets are emptied. A sample that is older than the buffer is
+    /// left out. `isBroken`: samples before it are missing.
     void append(qint64 nowMs, std::span<const float> values, bool isBroken = false);
     /// Lets time pass without a sample.
     void advance(qint64 nowMs);
-    /// Running number of the newest bucket: the picture has moved when it changes.
+    /// Running number of the newest bucket: when it changes, the picture has moved.
     qint64 newest() const { return m_newest; }
     void clear();
 

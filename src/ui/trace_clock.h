@@ -2,17 +2,17 @@
 
 #include <QtGlobal>
 
-/// Places samples that arrive in lumps where the stream's even time has them, on the clock that pictures move with. The
-/// two clocks may drift apart: the place follows the arrival slowly. A plain value.
+/// Places samples that arrive in bursts at the even spacing of the stream's time, on the clock that moves the pictures.
+/// The two clocks may drift apart: the placement slowly follows the arrival. A plain value.
 class TraceClock
 {
 public:
-    /// Where to draw a sample: `streamMs` is its time on the stream, `hostMs` its arrival; both in milliseconds. Never
-    /// before the sample before it.
+    /// Where to draw a sample: `streamMs` is its stream time, `hostMs` its arrival; both in milliseconds. Never earlier
+    /// than the previous sample.
     qint64 place(quint32 streamMs, qint64 hostMs);
 
 private:
     bool m_hasPlace = false;
-    double m_offsetMs = 0; ///< arrival less time on the stream, smoothed
+    double m_offsetMs = 0; ///< arrival minus stream time, smoothed
     qint64 m_placeMs = 0;
 };

@@ -29,7 +29,7 @@ ValueCard::ValueCard(QList<Channel> channels, Format format, QWidget *parent)
     : QWidget(parent), m_channels(std::move(channels)), m_format(format)
 {
     Q_ASSERT(m_channels.size() <= TraceBuffer::kChannels);
-    setAttribute(Qt::WA_OpaquePaintEvent); // else everything beneath is painted too, each time
+    setAttribute(Qt::WA_OpaquePaintEvent); // otherwise everything beneath is repainted each time, too
     readout_accessible::install();
     updateMetrics();
     setAbsent();
@@ -269,7 +269,7 @@ void ValueCard::paintTrace(QPainter &painter, const QRect &area, double range) c
         if (m_channels.at(channel).isNorm)
             continue;
         painter.setPen(QPen(theme::colors().*m_channels.at(channel).color,
-                            1)); // a wider one would be outlined, at many times the cost
+                            1)); // a wider one would be stroked, at many times the cost
         for (int age = TraceBuffer::kBuckets - 1; age >= 0; --age) {
             const TraceBuffer::Extent &extent = m_trace.at(channel, age);
             if (extent.isBroken)

@@ -10,7 +10,7 @@
 #include "ui/trace_buffer.h"
 
 /// A card of the numeric panel: title and unit, up to four values with their axis colours and a bar each, and a trace
-/// of the last seconds where the card is high enough. Painted as one widget, because it changes fifty times a second.
+/// of the last seconds where the card is tall enough. Painted as one widget, because it changes fifty times a second.
 class ValueCard : public QWidget
 {
     Q_OBJECT
@@ -26,7 +26,7 @@ public:
     struct Format
     {
         int decimals = 3;
-        int integerDigits = 2;   ///< digits before the point that the layout keeps room for
+        int integerDigits = 2;   ///< digits before the point that the layout reserves room for
         double minimumRange = 1; ///< full scale of bars and trace while the values are smaller
     };
 
@@ -38,11 +38,11 @@ public:
     void setValues(std::span<const float> values);
     /// Shows a dash per channel: the stream does not carry this quantity.
     void setAbsent();
-    /// Adds a sample to the trace; painted with the next advance(). `isBroken`: samples before it are missing.
+    /// Adds a sample to the trace; it is painted with the next advance(). `isBroken`: samples before it are missing.
     void appendTrace(qint64 nowMs, std::span<const float> values, bool isBroken = false);
-    /// Moves the trace on with time.
+    /// Advances the trace with time.
     void advance(qint64 nowMs);
-    /// Back to dashes and an empty trace.
+    /// Resets to dashes and an empty trace.
     void clear();
 
     /// The texts shown, one per channel.
@@ -62,7 +62,7 @@ private:
     void showTexts(const QStringList &texts);
     int headerHeight() const;
     QRect rowsArea() const;
-    QRect traceArea() const; ///< empty where the card is too low for a trace
+    QRect traceArea() const; ///< empty where the card is not tall enough for a trace
     double range() const;
     void paintHeader(QPainter &painter) const;
     void paintRow(QPainter &painter, int row, const QRect &area, double range) const;

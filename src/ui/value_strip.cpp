@@ -24,7 +24,7 @@ QString captionText(const ValueStrip::Cell &cell)
 ValueStrip::ValueStrip(QWidget *parent) : QWidget(parent)
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    setAttribute(Qt::WA_OpaquePaintEvent); // else everything beneath is painted too, each time
+    setAttribute(Qt::WA_OpaquePaintEvent); // otherwise everything beneath is repainted each time, too
     readout_accessible::install();
 }
 

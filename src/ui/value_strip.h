@@ -5,7 +5,7 @@
 
 #include "app/palette.h"
 
-/// A row of captions with a value under each, on a card: the summary row and the angles. Cells share spare width
+/// A row of captions with a value under each, on a card: the summary row and the angles. Cells share the spare width
 /// equally.
 class ValueStrip : public QWidget
 {
@@ -18,7 +18,7 @@ public:
         QString caption;
         QString unit;
         QColor Palette::*color; ///< of the value
-        int characters = 8;     ///< that the layout keeps room for
+        int characters = 8;     ///< that the layout reserves room for
     };
 
     explicit ValueStrip(QWidget *parent = nullptr);

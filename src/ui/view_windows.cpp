@@ -20,7 +20,7 @@ namespace {
 
 constexpr int kEstimateRate = 0; // the time stamps give the rate more exactly than a count per second
 
-/// What a sample carries for the charts; angles can be had from its quaternion too.
+/// What a sample carries for the charts; angles can also be derived from its quaternion.
 SampleFields chartFields(const StreamSample &sample, const NormalizedAttitude &attitude)
 {
     return attitude.valid ? sample.fields | SampleField::Euler : sample.fields;
@@ -109,7 +109,7 @@ void ViewWindows::showMounting()
         m_threed->setMounting(product_profile::toString(m_session->profile().key), m_session->preset());
 }
 
-/// Whose samples the charts show, for their files.
+/// The origin of the samples in the charts, for their files.
 void ViewWindows::showOrigin()
 {
     const QString device = m_session->device().valid ? product_profile::toString(m_session->profile().key) : QString();
@@ -119,7 +119,7 @@ void ViewWindows::showOrigin()
         m_wirelessDashboard->bridge().setDevice(device);
 }
 
-/// Markers of charts go into the recording that runs. One that gets another text is written once more.
+/// Markers of charts go into the running recording. A marker whose text changes is written again.
 void ViewWindows::followMarkers(MarkerList *markers)
 {
     const auto record = [this](const ChartMarker &marker) {
@@ -133,7 +133,7 @@ void ViewWindows::followMarkers(MarkerList *markers)
     connect(markers, &MarkerList::markerChanged, this, record);
 }
 
-/// A marker that was set elsewhere goes into the charts.
+/// Adds a marker that was set elsewhere to the charts.
 void ViewWindows::addMarker(const QString &text, double timeS)
 {
     if (m_isRelaying)
@@ -150,7 +150,7 @@ void ViewWindows::addMarker(const QString &text, double timeS)
 void ViewWindows::onRestart(const StreamRestart &restart)
 {
     if (restart.kind != StreamBreak::ClockRestarted)
-        showOrigin(); // another node may be followed
+        showOrigin(); // another node may be followed now
     if (m_spectrum)
         m_spectrum->restartStream();
     if (m_sensorDashboard)
@@ -201,7 +201,7 @@ QList<GatewaySample> ViewWindows::gatewaySamples(const QList<StreamSample> &samp
     return list;
 }
 
-/// The rate that charts and filters count with is the last known one: none is known in the first second.
+/// Charts and filters use the last known rate: none is known in the first second.
 void ViewWindows::onSnapshot(const StreamSnapshot &snapshot)
 {
     if (snapshot.measured_frame_rate == 0 || snapshot.measured_frame_rate == m_frameRate)

@@ -16,8 +16,8 @@ struct GatewaySample;
 struct NormalizedAttitude;
 struct StreamSnapshot;
 
-/// The windows that show the stream: dashboards, spectrum, 3D view. Each is created when first asked for, and gets from
-/// the session what it shows, as long as it exists.
+/// The windows that show the stream: dashboards, spectrum, 3D view. Each is created when first needed, and gets its
+/// data from the session as long as it exists.
 class ViewWindows : public QObject
 {
     Q_OBJECT
@@ -32,9 +32,9 @@ public:
     void openGatewayDashboard();
     void openSpectrum();
     void openThreeD();
-    /// The attitude that the 3D view shows next. Call at the pace of the display.
+    /// Passes the attitude that the 3D view shows next. Call at the display rate.
     void showAttitude(const NormalizedAttitude &attitude);
-    /// Ends all windows.
+    /// Destroys all windows.
     void closeAll();
 
 private:
@@ -54,6 +54,6 @@ private:
     std::unique_ptr<form_fftchart> m_spectrum;
     std::unique_ptr<form_sensor_dashboard> m_sensorDashboard;
     std::unique_ptr<form_wireless_dashboard> m_wirelessDashboard;
-    bool m_isRelaying = false;    ///< a marker, which is not to come back
+    bool m_isRelaying = false;    ///< a marker is being passed on and must not come back
     unsigned int m_frameRate = 0; ///< last known one, 0: none yet
 };

@@ -16,7 +16,7 @@ struct Digits
 {
     QLatin1String sensorType;
     int decimals;
-    int width; ///< characters of a usual value, with sign and point
+    int width; ///< characters of a typical value, with sign and point
 };
 
 constexpr Digits kDigits[] = {

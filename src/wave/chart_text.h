@@ -7,7 +7,7 @@
 
 class WaveChartBridge;
 
-/// Texts beside a chart: pure functions of what the bridge describes.
+/// Texts beside a chart: pure functions of the bridge's description.
 namespace chart_text {
 
 /// The part of a chart title before its unit: "Acceleration" of "Acceleration (G)".
@@ -15,19 +15,19 @@ QString name(const QString &chartTitle);
 /// The unit in the title's brackets, "G"; empty when there is none.
 QString unit(const QString &chartTitle);
 
-/// The unit for files: as unit(), empty for a quantity that has none.
+/// The unit for files: like unit(), but empty for a quantity that has none.
 QString fileUnit(const WaveChartBridge &bridge);
 
-/// How names of files begin: "acc_HI14_node3", without what file systems refuse.
+/// How names of files begin: "acc_HI14_node3", without characters that file systems refuse.
 QString fileStem(const WaveChartBridge &bridge);
 
-/// Digits behind the point that values of a sensor type deserve.
+/// Digits after the point for values of a sensor type.
 int decimals(const QString &sensorType);
 
-/// A channel's value with the type's digits; what can be negative carries its sign.
+/// A channel's value with the type's digits; quantities that can be negative always have a sign.
 QString value(const WaveChartBridge &bridge, int channel, double value);
-/// As value(), filled with blanks on the left to a width that usual values of the type do not exceed: in a fixed-pitch
-/// font nothing moves when a value changes its sign or size.
+/// Like value(), padded with blanks on the left to a width that typical values of the type do not exceed: in a
+/// fixed-pitch font nothing moves when the sign or size of a value changes.
 QString paddedValue(const WaveChartBridge &bridge, int channel, double value);
 
 /// "−2.900 s"
@@ -36,17 +36,17 @@ QString time(double seconds);
 /// Why a curve is broken, in a word or two.
 QString curveBreak(const BreakMark &mark);
 
-/// What the store holds, for the place where an axis reaches further back: "Store: 32.8 s".
+/// The extent of the store, for an axis that reaches further back: "Store: 32.8 s".
 QString storeLimit(const WaveChartBridge &bridge);
 
-/// The rate, and which seconds of the kept history a view from `xMin` to `xMax` shows: "400 Hz · last 10 s of 60 s".
+/// The rate, and which seconds of the stored history a view from `xMin` to `xMax` shows: "400 Hz · last 10 s of 60 s".
 QString range(const WaveChartBridge &bridge, double xMin, double xMax);
 
-/// A change of values, always with its sign.
+/// A difference of values, always with its sign.
 QString difference(const WaveChartBridge &bridge, double change);
 
-/// The times of the cursors `a` and `b` (seconds, NaN for one that is not placed), and with both the time between them
-/// and its inverse.
+/// The times of the cursors `a` and `b` (seconds, NaN for one that is not placed), and if both are placed the time
+/// between them and its inverse.
 QStringList measurement(double a, double b);
 
 } // namespace chart_text

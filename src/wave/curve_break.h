@@ -4,16 +4,16 @@
 
 #include "session/stream_event.h"
 
-/// Why the curves of a chart are broken at a place.
+/// Why the curves of a chart are broken at some point.
 enum class CurveBreak : quint8 {
-    Restarted, ///< the device's clock started again
-    Stopped,   ///< the output was held back by a command
+    Restarted, ///< the device's clock restarted
+    Stopped,   ///< a command stopped the output
     Gap,       ///< silence
-    Paused,    ///< the user held the picture
+    Paused,    ///< the user paused the picture
     Missing,   ///< samples that were sent and did not arrive
 };
 
-/// The curve's word for a restart of the stream that keeps the picture.
+/// The kind of break for a restart of the stream that keeps the picture.
 constexpr CurveBreak curveBreak(StreamBreak kind)
 {
     return kind == StreamBreak::ClockRestarted  ? CurveBreak::Restarted

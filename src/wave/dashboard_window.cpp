@@ -57,7 +57,7 @@ void DashboardWindow::showLoadFailure()
     std::unique_ptr<QObject> text(component.create());
     auto *item = qobject_cast<QQuickItem *>(text.get());
     if (!item)
-        return; // the toolkit's own views are missing: the log has said it
+        return; // the toolkit's own views are missing: already logged
     item->setProperty("text", tr("This window could not be loaded. The log of the program tells why."));
     item->setParentItem(contentItem());
     text.release()->setParent(contentItem());

@@ -13,7 +13,7 @@ form_sensor_dashboard::form_sensor_dashboard(QWindow *parent) : DashboardWindow(
 form_sensor_dashboard::~form_sensor_dashboard()
 {
     close();
-    unload(); // the view goes before the bridge that it is bound to
+    unload(); // the view must go before the bridge that it is bound to
 }
 
 void form_sensor_dashboard::retranslate()

@@ -5,8 +5,8 @@
 #include "wave/dashboard_window.h"
 #include "wave/sensor_dashboard_bridge.h"
 
-/// The waveform window of one device. Push samples into bridge(): they are kept while the window is open. The choice of
-/// charts is read from the settings file at construction and written when the window is closed.
+/// The waveform window of one device. Push samples into bridge(): they are stored while the window is open. The choice
+/// of charts is read from the settings file at construction and written when the window is closed.
 class form_sensor_dashboard : public DashboardWindow
 {
     Q_OBJECT
@@ -27,7 +27,7 @@ private:
     SensorDashboardBridge m_bridge;
 };
 
-/// Makes the bridge known to views, which get it from their window.
+/// Makes the bridge's type known to views, which get the bridge from their window.
 struct SensorDashboardBridgeForeign
 {
     Q_GADGET

@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr QSize kLeastSize{900, 480}; ///< the table and charts that can be read
+constexpr QSize kLeastSize{900, 480}; ///< room for a readable table and charts
 
 } // namespace
 
@@ -20,7 +20,7 @@ form_wireless_dashboard::form_wireless_dashboard(QWindow *parent)
 form_wireless_dashboard::~form_wireless_dashboard()
 {
     close();
-    unload(); // the view goes before the bridge that it is bound to
+    unload(); // the view must go before the bridge that it is bound to
 }
 
 void form_wireless_dashboard::retranslate()

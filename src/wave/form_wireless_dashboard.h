@@ -5,8 +5,8 @@
 #include "wave/dashboard_window.h"
 #include "wave/gateway_dashboard_bridge.h"
 
-/// The window of a wireless gateway: its radio nodes in a table, and charts of the nodes that the user chooses. What it
-/// is given counts only while it is open.
+/// The window of a wireless gateway: its radio nodes in a table, and charts of the nodes that the user chooses. Data
+/// passed to it are ignored unless it is open.
 class form_wireless_dashboard : public DashboardWindow
 {
     Q_OBJECT
@@ -18,13 +18,13 @@ public:
 
     GatewayDashboardBridge &bridge() { return m_bridge; }
 
-    /// Takes the samples of one batch, just arrived.
+    /// Takes the samples of one batch that has just arrived.
     void updateGatewaySamples(const QList<GatewaySample> &samples) { m_bridge.updateGatewaySamples(samples); }
     /// Batches per second.
     void setFrameRate(unsigned int batchesPerSecond) { m_bridge.setFrameRate(batchesPerSecond); }
     /// The connection has ended: everything stays, marked as ended, until clear() at the next opening.
     void setEnded(bool ended) { m_bridge.setEnded(ended); }
-    /// Forgets the gateway: nodes and charts.
+    /// Clears the data of the gateway: nodes and charts.
     void clear() { m_bridge.clear(); }
 
     void retranslate() override;
@@ -36,7 +36,7 @@ private:
     GatewayDashboardBridge m_bridge;
 };
 
-/// Make the bridge and its table known to views, which get them from their window.
+/// Make the types of the bridge and its table known to views, which get them from their window.
 struct GatewayDashboardBridgeForeign
 {
     Q_GADGET

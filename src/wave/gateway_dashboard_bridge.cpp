@@ -208,7 +208,7 @@ void GatewayDashboardBridge::setDashboardActive(bool active)
     m_active = active;
     syncObserved();
     if (active) {
-        // A chosen node that does not come back is shown as gone, and can be dropped.
+        // A chosen node that does not come back is shown as gone, and can be deselected.
         for (const NodeCharts &node : m_charts) {
             m_tracker.expect(node.id);
             for (WaveChartBridge *chart : node.charts) {

@@ -14,13 +14,13 @@
 #include "wave/wave_chart_bridge.h"
 
 /// The object behind the dashboard of a wireless gateway: the table of its radio nodes, and a set of charts (one per
-/// sensor type) for each of them, at most 16. All nodes are collected from the first sample on, those that the user
-/// chose are shown: choosing one shows its history. The table is refreshed four times a second while the dashboard is
-/// active. While it is not, samples are dropped at once and nothing is kept but the choices.
+/// sensor type) for each of them, at most 16. Samples of all nodes are collected from the first one on, and the chosen
+/// nodes are shown: choosing a node shows its history. The table is refreshed four times a second while the dashboard
+/// is active. While it is inactive, samples are dropped at once and only the choices are kept.
 ///
 /// A pane is a map of "nodeId", "type" (key), "backend" (the WaveChartBridge, titled "Node 3 · Acceleration (G)") and
-/// "slot": a number from 0 to maxPaneCount - 1 that stays with the chart, so that the view can leave it alone while
-/// others come and go. A node that was chosen once is chosen again when it is heard. Main thread only.
+/// "slot": a number from 0 to maxPaneCount - 1 that stays with the chart, so that the view can leave it unchanged while
+/// others come and go. A node that was chosen once is chosen again as soon as it is heard. Main thread only.
 class GatewayDashboardBridge : public QObject
 {
     Q_OBJECT
@@ -51,25 +51,25 @@ public:
     /// How many nodes there are and how many of them are late or gone, or that the connection has ended.
     QString summary() const;
     int nodeCount() const { return m_nodeModel.rowCount(); }
-    /// Ids by ascending value.
+    /// Ids in ascending order.
     QList<int> chosenNodes() const;
     int maxChosenNodes() const { return kMaxChosenNodes; }
     int maxPaneCount() const { return kMaxChosenNodes * kSensorTypeCount; }
     /// A map of "type", "label" and "selected" per sensor type.
     QVariantList typeStates() const;
     /// The charts to show, in the order in which they fill the grid row by row: type by type, or node by node where
-    /// that makes a row of each node.
+    /// each node then fills a row.
     QVariantList panes() const;
-    /// Columns of the grid: up to three panes are stacked, so that their time axes compare; more stand in two columns,
-    /// more than eight in three.
+    /// Columns of the grid: up to three panes are stacked, so that their time axes can be compared; more are laid out
+    /// in two columns, more than eight in three.
     int paneColumns() const;
-    /// What is shown is of a connection that has ended.
+    /// The displayed data belong to a connection that has ended.
     bool isEnded() const { return m_ended; }
     bool playing() const { return m_playing; }
     /// The time axes and cursors of all charts are coupled.
     bool isLinked() const { return m_linked; }
     void setLinked(bool linked);
-    /// What the user marked in the streams of the nodes, which share a clock; forgotten when another gateway comes.
+    /// The user's markers in the streams of the nodes, which share a clock; cleared when another gateway is connected.
     MarkerList *markers() { return &m_markers; }
     int frameRate() const { return int(m_frameRate); }
     bool dashboardActive() const { return m_active; }
@@ -77,10 +77,10 @@ public:
     /// Shows or hides the charts of a node; false when 16 are chosen already or the id is out of 0 to 255.
     Q_INVOKABLE bool setNodeChosen(int nodeId, bool chosen);
     Q_INVOKABLE void setTypeSelected(const QString &type, bool selected);
-    /// A paused dashboard keeps the pictures of its charts; the table goes on.
+    /// A paused dashboard freezes its charts; the table goes on.
     Q_INVOKABLE void setPlaying(bool playing);
 
-    /// Milliseconds of the clock that host times are told in; it does not run backwards.
+    /// Milliseconds of the monotonic clock for host times.
     static qint64 hostNowMs();
     /// Takes the samples of a batch that arrived at `hostMs`.
     void updateGatewaySamples(const QList<GatewaySample> &samples, qint64 hostMs = hostNowMs());
@@ -88,20 +88,20 @@ public:
     void setDevice(const QString &device);
     /// Batches per second, and so each node's samples per second.
     void setFrameRate(unsigned int samplesPerSecond);
-    /// Active while the dashboard is open. Becoming inactive forgets nodes and samples; the choices stay.
+    /// Active while the dashboard is open. Becoming inactive clears nodes and samples; the choices stay.
     void setDashboardActive(bool active);
     /// The connection has ended: nodes, curves and choices stay as they are, marked as ended, and samples are ignored.
     /// clear() at the next opening ends that too.
     void setEnded(bool ended);
-    /// Reads and writes nodes, types and linking as chosen in the settings file at `iniPath`; what makes no sense in it
-    /// is ignored.
+    /// Reads and writes the chosen nodes, types and linking in the settings file at `iniPath`; nonsensical entries are
+    /// ignored.
     void loadChoices(const QString &iniPath);
     void saveChoices(const QString &iniPath) const;
-    /// Forgets nodes and samples: another gateway may come.
+    /// Clears nodes and samples: another gateway may be connected next.
     void clear();
-    /// Brings the table up to date as of `hostMs`; runs by itself while active.
+    /// Brings the table up to date as of `hostMs`; called automatically while active.
     void refresh(qint64 hostMs = hostNowMs());
-    /// The texts are in another language now.
+    /// The language has changed: updates the texts.
     void retranslate();
 
 signals:
@@ -117,7 +117,7 @@ private:
     {
         quint8 id = 0;
         int slot = -1;                                            ///< 0 to kMaxChosenNodes - 1 while it is chosen
-        std::array<WaveChartBridge *, kSensorTypeCount> charts{}; ///< owned as children; null until there is use for it
+        std::array<WaveChartBridge *, kSensorTypeCount> charts{}; ///< owned as children; null until needed
 
         bool isChosen() const { return slot >= 0; }
     };

@@ -5,8 +5,8 @@
 
 #include "wave/gateway_node_tracker.h"
 
-/// The table of radio nodes for the view: one row per node, sorted by id. Rows are inserted as nodes appear and stay at
-/// their place; values change by dataChanged() for the rows that differ. Main thread only.
+/// The table of radio nodes for the view: one row per node, sorted by id. Rows are inserted as nodes appear and keep
+/// their place; dataChanged() is emitted for the rows whose values differ. Main thread only.
 class GatewayNodeModel : public QAbstractListModel
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ public:
         MissingRole,               ///< quint64
         TemperatureRole,           ///< float, degrees Celsius
         PressureRole,              ///< float, Pa
-        RateTextRole,              ///< the same as texts; a dash for what is not known
+        RateTextRole,              ///< the same as texts; a dash for unknown values
         AgeTextRole,               ///< with unit
         MissingTextRole,
         TemperatureTextRole,
@@ -38,11 +38,11 @@ public:
     QHash<int, QByteArray> roleNames() const override;
 
     const QList<GatewayNodeStatus> &nodes() const { return m_nodes; }
-    /// Takes the nodes by ascending id; those that were listed before must be among them.
+    /// Takes the nodes in order of ascending id; those that were listed before must be among them.
     void update(const QList<GatewayNodeStatus> &nodes);
     void setChosen(const QList<int> &nodeIds);
     void clear();
-    /// The texts are in another language now.
+    /// The language has changed: updates the texts.
     void retranslate() { notifyRows(0, rowCount() - 1); }
 
 private:

@@ -7,7 +7,7 @@ namespace {
 constexpr double kLatePeriods = 3;
 constexpr double kLateMs = 500;
 constexpr double kGoneMs = 2000;
-constexpr qint64 kKnownBuckets = 5; ///< complete buckets from which the rate counts as known
+constexpr qint64 kKnownBuckets = 5; ///< complete buckets needed before the rate counts as known
 
 } // namespace
 
@@ -46,7 +46,7 @@ void GatewayNodeTracker::emptyBuckets(Node &node, qint64 fromMs, qint64 toMs)
 
 double GatewayNodeTracker::rateHz(const Node &node, qint64 hostMs)
 {
-    // Complete buckets only, so that the figure does not swing with the running one.
+    // Complete buckets only, so that the figure does not fluctuate with the current one.
     const auto size = qint64(node.counts.size());
     const qint64 end = hostMs / kBucketMs;
     const qint64 begin = std::max(end - kBuckets, node.sinceMs / kBucketMs + 1);

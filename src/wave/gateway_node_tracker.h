@@ -8,8 +8,9 @@
 #include "link/sample_gaps.h"
 #include "wave/gateway_sample.h"
 
-/// How recently a radio node was heard. Three periods of silence, but at least half a second, are late; twice that, but
-/// at least two seconds, are gone: a single lost packet is neither, and a slow node is not gone between two samples.
+/// How recently a radio node was heard. After a silence of three periods, but at least half a second, a node is late;
+/// after twice that, but at least two seconds, it is gone. A single lost packet causes neither, and a slow node is not
+/// gone between two samples.
 enum class NodeState {
     Live,
     Late,
@@ -24,8 +25,8 @@ struct GatewayNodeStatus
     NodeState state = NodeState::Gone;
     double rateHz = 0;     ///< samples per second over the last two seconds
     qint64 ageMs = -1;     ///< age of the newest sample; -1 when none was seen, or when the connection has ended
-    quint64 missing = 0;   ///< as its newest sample says
-    bool hasClock = false; ///< `missing` means something
+    quint64 missing = 0;   ///< from its newest sample
+    bool hasClock = false; ///< `missing` is meaningful
     float temperature = 0; ///< degrees Celsius, if `fields` has it
     float pressure = 0;    ///< Pa, if `fields` has it
     SampleFields fields{}; ///< what the newest sample carries
@@ -33,8 +34,8 @@ struct GatewayNodeStatus
     bool operator==(const GatewayNodeStatus &) const = default;
 };
 
-/// Watches which radio nodes a gateway hears: how often, and how long ago. A node that fell silent stays listed with
-/// its last values. What is missing is counted elsewhere, and comes with the samples.
+/// Tracks which radio nodes a gateway hears: how often, and how long ago. A node that has fallen silent stays listed
+/// with its last values. Missing samples are counted elsewhere, and the count comes with the samples.
 ///
 /// Host times are milliseconds of a clock that does not run backwards. Bounded: ids have 8 bits, so at most 256 nodes
 /// of fixed size.
@@ -45,10 +46,10 @@ public:
     /// Lists a node before it is heard, as gone.
     void expect(quint8 id) { m_nodes[id]; }
     void clear() { m_nodes.clear(); }
-    /// The connection has ended, or another one has begun.
+    /// The connection has ended, or a new one has begun.
     void setEnded(bool ended) { m_isEnded = ended; }
 
-    /// All nodes by ascending id, as of `hostMs`.
+    /// All nodes in order of ascending id, as of `hostMs`.
     QList<GatewayNodeStatus> nodes(qint64 hostMs) const;
 
 private:
@@ -61,10 +62,10 @@ private:
         node_data_t sample{};
         SampleFields fields;
         qint64 heardMs = 0; ///< host time of the newest sample
-        qint64 sinceMs = 0; ///< host time from which it was heard without a break
+        qint64 sinceMs = 0; ///< host time since which it has been heard without a break
         bool hasClock = false;
         quint64 missing = 0;
-        SampleGaps pace;                            ///< for the period alone
+        SampleGaps pace;                            ///< used for the period only
         std::array<quint32, kBuckets + 1> counts{}; ///< samples per bucket of host time, a ring
     };
 

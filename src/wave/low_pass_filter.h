@@ -1,6 +1,6 @@
 #pragma once
 
-/// First-order low-pass filter with one value of state: y := x + (y - x) * a with a = exp(-omega * dt). Starts at 0.
+/// First-order low-pass filter with a single state value: y := x + (y - x) * a with a = exp(-omega * dt). Starts at 0.
 class LowPassFilter
 {
 public:
@@ -11,7 +11,7 @@ public:
     LowPassFilter(const LowPassFilter &) = default;
     LowPassFilter &operator=(const LowPassFilter &) = default;
 
-    /// Takes the next sample. A value that is not finite would stay in the output for ever; callers leave it out.
+    /// Takes the next sample. A value that is not finite would stay in the output for ever; callers must leave it out.
     void update(double x) { m_output = (m_output - x) * m_coefficient + x; }
     double getOutput() const { return m_output; }
     /// Back to 0, with the same cutoff.

@@ -15,8 +15,9 @@ struct ChartSample
     std::array<float, 4> values{};
 };
 
-/// One sample taken apart for the charts of the sensor types that it carries, in the order of sensorTypes(). Vectors
-/// (acceleration, angular rate, magnetic field) get their norm as fourth value, infinite when it exceeds a float.
+/// One sample split up for the charts of the sensor types that it carries, in the order of sensorTypes(). Vectors
+/// (acceleration, angular rate, magnetic field) get their norm as the fourth value, infinite when it exceeds the range
+/// of a float.
 class ChartSamples
 {
 public:

@@ -13,9 +13,9 @@
 
 class ChartSamples;
 
-/// The object behind the waveform dashboard of one device: a chart per sensor type, the choice which of them are shown
-/// and the grid they are laid out in. Samples are kept only while the dashboard is active; closing it empties the
-/// charts. Charts that are not on the screen are not observed and cost no repaint.
+/// The object behind the waveform dashboard of one device: a chart per sensor type, the choice of which are shown, and
+/// the grid they are laid out in. Samples are stored only while the dashboard is active; closing it empties the charts.
+/// Charts that are not on the screen are not observed and cause no repaint.
 ///
 /// A pane state is a map of "type" (key), "label" (translated), "selected" and "backend" (the type's WaveChartBridge).
 /// The chart bridges belong to this object. Main thread only.
@@ -54,7 +54,7 @@ public:
     /// The time axes and cursors of all charts are coupled.
     bool isLinked() const { return m_linked; }
     void setLinked(bool linked);
-    /// What the user marked in the stream; forgotten when another stream begins.
+    /// The user's markers in the stream; cleared when another stream begins.
     MarkerList *markers() { return &m_markers; }
     bool dashboardActive() const { return m_dashboardActive; }
 
@@ -74,7 +74,7 @@ public:
     Q_INVOKABLE void setSensorSelected(const QString &type, bool selected);
     /// Shows all types.
     Q_INVOKABLE void resetSelectionsToDefault();
-    /// Asks the host to play or pause, who answers with setPlaying().
+    /// Asks the host to play or pause; the host answers with setPlaying().
     Q_INVOKABLE void togglePlaying() { emit playToggleRequested(!m_playing); }
 
     /// Routes a sample to the chart of its type; dropped while inactive.
@@ -82,24 +82,24 @@ public:
     /// Routes all values of one sample.
     void pushSamples(const ChartSamples &samples, unsigned int timestampMs);
     void setPlaying(bool playing);
-    /// Whose samples they are, for files and pictures.
+    /// The origin of the samples, for files and pictures.
     void setOrigin(const SampleOrigin &origin);
     /// Samples per second.
     void setFrameRate(unsigned int samplesPerSecond);
     /// Active while the dashboard is open. Becoming inactive empties the charts.
     void setDashboardActive(bool active);
     void resetBackends();
-    /// The stream starts again: empties the charts, or has them mark the place. Filters stay as the user set them.
+    /// The stream restarts: clears the charts, or makes them mark the place. Filters stay as the user set them.
     void restartStream(StreamBreak kind);
-    /// Tells every chart whether it is on the screen; runs by itself after each change.
+    /// Notifies every chart whether it is on the screen; called automatically after each change.
     void syncObservedStates();
 
     /// Reads and writes the selection in the settings file at `iniPath`, with spans, hidden channels and filters of the
-    /// charts and whether they are linked. Without an entry the selection stays; what it does not know is ignored.
+    /// charts and whether they are linked. Without an entry the selection stays; unknown entries are ignored.
     void loadSelectionState(const QString &iniPath);
     void saveSelectionState(const QString &iniPath) const;
 
-    /// Picks labels and title in the current language.
+    /// Updates labels and title to the current language.
     void retranslate();
 
 signals:
@@ -108,7 +108,7 @@ signals:
     void selectionChanged();
     void layoutChanged();
     void linkedChanged();
-    /// The trigger of a chart that starts recordings caught an event.
+    /// A trigger that starts recordings has caught an event.
     void recordingWanted();
     void playingChanged();
     void playToggleRequested(bool playing);

@@ -14,7 +14,7 @@ struct SensorChannel
     QColor color;
 };
 
-/// What a chart of one kind of quantity shows: a row of the table below.
+/// The chart of one kind of quantity: a row of the table below.
 struct SensorType
 {
     QLatin1String key; ///< "acc", "gyr", ...; also the name in the settings file
@@ -23,7 +23,7 @@ struct SensorType
     std::span<const SensorChannel> channels;
     double yMin; ///< value range of the axis, in the unit of the title
     double yMax;
-    double yMinZoom; ///< smallest height the value axis may be zoomed to
+    double yMinZoom; ///< smallest span the value axis may be zoomed to
     bool hasFilter;  ///< the chart offers the low-pass filter
 };
 

@@ -2,7 +2,7 @@
 
 #include <QList>
 
-/// What the user chose about a chart, to be remembered: it outlives the samples.
+/// The user's choices for a chart, which are remembered: they outlive the samples.
 struct ViewChoices
 {
     double spanSec = 10;

@@ -157,7 +157,7 @@ void WaveChartBridge::pushSample(const float *values, int n, unsigned int timest
             this,
             [this] {
                 m_updatePosted = false;
-                if (m_observed) // it may have been hidden meanwhile
+                if (m_observed) // it may have been hidden in the meantime
                     notifyView();
             },
             Qt::QueuedConnection);
@@ -350,7 +350,7 @@ void WaveChartBridge::restoreFilter()
     if (!hasFilter() || !(cutoffHz > 0) || filterOn())
         return;
     trySetFilter(true, cutoffHz);
-    m_choices.filterHz = cutoffHz; // a rate that is too low for it now may rise
+    m_choices.filterHz = cutoffHz; // the rate, too low for it now, may rise
 }
 
 bool WaveChartBridge::filterOn() const

@@ -21,12 +21,12 @@
 
 struct SensorType;
 
-/// The object behind one waveform chart: owns the samples of one sensor type, describes the chart to the view, tells it
-/// when to repaint and answers its queries. The time axis counts seconds before the newest sample: 0 is the newest,
+/// The object behind one waveform chart: owns the samples of one sensor type, describes the chart to the view, notifies
+/// it when to repaint and answers its queries. The time axis counts seconds before the newest sample: 0 is the newest,
 /// negative is older.
 ///
-/// dataChanged() comes at most once per pass of the event loop, about 30 times a second for fast streams, and never
-/// while nobody observes the chart. Main thread only.
+/// dataChanged() is emitted at most once per pass of the event loop, about 30 times a second for fast streams, and
+/// never while nobody observes the chart. Main thread only.
 class WaveChartBridge : public QObject, public ChartSource
 {
     Q_OBJECT
@@ -56,7 +56,7 @@ class WaveChartBridge : public QObject, public ChartSource
     Q_PROPERTY(double yMinZoom READ yMinZoom CONSTANT)
 
 public:
-    /// `sensorType` is a key of sensorTypes(); any other gives a chart without channels and title.
+    /// `sensorType` is a key of sensorTypes(); any other gives a chart without channels or title.
     explicit WaveChartBridge(const QString &sensorType, QObject *parent = nullptr);
 
     const QString &sensorType() const { return m_sensorType; }
@@ -70,7 +70,7 @@ public:
     bool playing() const { return m_playing; }
     bool hasFilter() const;
     bool hasData() const override { return model().hasData(); }
-    /// Samples per second as applied; a change that came during a pause waits for its end.
+    /// Samples per second as applied; a change during a pause takes effect when the pause ends.
     unsigned int framerate() const { return m_appliedFrameRate; }
 
     double xLimitMin() const { return -60; }
@@ -88,7 +88,7 @@ public:
     /// Values of all channels of the sample nearest to `timeSec`; empty without data.
     Q_INVOKABLE QVariantList getValuesAtTime(double timeSec) const;
     Q_INVOKABLE int headIndex() const { return model().head(); }
-    /// Stamp of the newest sample in seconds: tells by how much the picture moved.
+    /// Stamp of the newest sample in seconds: shows by how much the picture has moved.
     Q_INVOKABLE double newestTimeSec() const { return double(model().timestampAtSampleOffset(0)) / 1000.0; }
     int seriesCount() const override { return channelCount(); }
     QString seriesName(int channel) const override { return channelNames().value(channel); }
@@ -98,50 +98,50 @@ public:
     SeriesStatistics statistics(int channel, double xMin, double xMax) const override;
     quint64 revision() const override { return model().revision() ^ (holds() ? kHeldBit : 0); }
 
-    /// What the user chose. The view reports span and channels, the filter is kept up to date here; restoring them
+    /// The user's choices. The view reports span and channels; the filter is kept up to date here; restoring them
     /// switches the filter, where the rate allows it.
     const ViewChoices &choices() const { return m_choices; }
     void setChosenView(double spanSec, const QList<int> &hidden);
     void restoreChoices(const ViewChoices &choices);
     void restoreFilter();
 
-    /// Whose samples they are, as far as the owner knows.
+    /// The origin of the samples, as far as the owner knows.
     const SampleOrigin &origin() const { return m_origin; }
     void setOrigin(const SampleOrigin &origin) { m_origin = origin; }
-    /// When a sample came, milliseconds since 1970 in UTC, by the computer's clock at the newest one.
+    /// When a sample arrived, milliseconds since 1970 in UTC, by the computer's clock at the newest one.
     qint64 utcMsAt(double timeSec) const { return m_newestUtcMs + qRound64((timeSec - liveLagSec()) * 1000); }
 
-    /// The samples that are shown: all, or what the trigger has caught.
+    /// The displayed samples: all, or those that the trigger has caught.
     const WaveformDataModel &model() const { return m_caught ? *m_caught : m_model; }
 
-    /// What waits for an event in the samples. What it catches is shown instead of the live samples, which go on being
-    /// stored, until release().
+    /// Waits for an event in the samples. What it catches is shown until release(), while the live samples continue to
+    /// be stored.
     WaveTrigger *trigger() { return &m_trigger; }
     bool holds() const { return m_caught != nullptr; }
     /// Shows the live samples again, and waits for the next event.
     Q_INVOKABLE void release();
 
-    /// Appends a sample of up to channelCount() values; dropped while paused, so that a paused chart keeps its picture.
+    /// Appends a sample of up to channelCount() values; it is dropped while paused, so that a paused chart keeps its
+    /// picture.
     void pushSample(const float *values, int n, unsigned int timestampMs);
     void setPlaying(bool playing);
     /// Whether the chart is on the screen.
     void setObserved(bool observed);
-    /// Samples per second, 0 is taken as 1; applied at once while playing.
+    /// Samples per second, 0 counts as 1; applied at once while playing.
     void setFrameRate(unsigned int samplesPerSecond);
-    /// Applies the rate even while paused and leaves what setFrameRate() asked for alone.
+    /// Applies the rate even while paused and does not affect the rate requested by setFrameRate().
     void applyFrameRate(unsigned int samplesPerSecond);
-    /// Forgets the samples, and on purpose the filter settings with them.
+    /// Clears the samples and, deliberately, the filter settings.
     void reset();
-    /// Forgets the samples and keeps the filter settings: another stream begins.
+    /// Clears the samples and keeps the filter settings: another stream begins.
     void restart();
-    /// The stream starts again at the sample that comes next: keeps the picture, remembers the place, and has the
-    /// filters start again.
+    /// The stream restarts with the next sample: keeps the picture, remembers the place, and restarts the filters.
     void markBreak(StreamBreak kind);
-    /// The newest places within the history where the curves are broken, oldest first, those where samples are missing
-    /// apart: they may be many.
+    /// The newest places within the history where the curves are broken, oldest first. Those where samples are missing
+    /// are kept separately: there may be many.
     const QList<BreakMark> &breakMarks() const { return m_breakMarks; }
     const QList<BreakMark> &missingMarks() const { return m_missingMarks; }
-    /// The store is full: what is older is gone, though the axis may reach further.
+    /// The store is full: older samples are gone, though the axis may reach further back.
     bool isStoreFull() const { return model().count() == WaveformDataModel::kCapacity; }
 
     /// Filter of one channel; both may throw, see WaveformDataModel.
@@ -152,14 +152,14 @@ public:
     /// Filter switch and cutoff in Hz of all channels, for users: returns an empty text, or a sentence that says why
     /// the filter stays off.
     Q_INVOKABLE QString trySetFilter(bool on, double hz);
-    /// Any channel's filter is on.
+    /// Whether any channel's filter is on.
     bool filterOn() const;
     /// Cutoff in Hz of the first channel.
     double filterCutoffHz() const { return m_model.filterCutoff(0); }
 
-    /// Words before the title, where several charts of a type stand side by side.
+    /// Words before the title, where several charts of a type are shown side by side.
     void setTitlePrefix(const QString &prefix);
-    /// Picks the title in the current language.
+    /// Updates the title to the current language.
     void retranslate();
 
 signals:
@@ -174,7 +174,7 @@ signals:
 private:
     static constexpr quint64 kHeldBit = quint64(1) << 63;
 
-    /// Seconds from the newest sample that is shown to the newest of all.
+    /// Seconds from the newest sample shown to the newest of all.
     double liveLagSec() const
     {
         return m_caught ? double(m_model.timestampAtSampleOffset(0)) / 1000.0 - newestTimeSec() : 0;

@@ -7,15 +7,16 @@ class WaveChartBridge;
 /// The samples of a chart as a table for files.
 namespace wave_csv {
 
-/// The samples with times from `xMin` to `xMax` (seconds before the newest), oldest first, unfiltered by what is shown:
+/// The samples with times from `xMin` to `xMax` (seconds before the newest), oldest first, whatever channels are
+/// visible:
 ///
 ///     # HI14 node 3
 ///     time (s),UTC,X (G),Y (G),Z (G),Norm (G)
 ///     12.345,2026-01-31T12:00:00.000Z,0.125,-1,0.5,1.125
 ///
-/// The first line is there when the device or the node is known. Times are those of the stream, and of the computer's
-/// clock at the newest sample. Lines end with a line feed; numbers have a decimal point in every language; what is no
-/// number is "nan", "inf" or "-inf".
+/// The first line is there when the device or the node is known. Times are stream times, and UTC by the computer's
+/// clock at the newest sample. Lines end with a line feed; numbers have a decimal point in every language; values that
+/// are not finite are "nan", "inf" or "-inf".
 QByteArray table(const WaveChartBridge &bridge, double xMin, double xMax);
 
 } // namespace wave_csv

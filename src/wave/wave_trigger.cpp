@@ -103,7 +103,7 @@ void WaveTrigger::rearm()
 bool WaveTrigger::isEvent(double value) const
 {
     if (m_edge == Edge::OutsideBand) {
-        // Leaving the band, so that what stays outside is one event.
+        // Only leaving the band counts, so that staying outside is a single event.
         const auto [low, high] = std::minmax(m_level, m_bandEnd);
         const auto isInside = [low = low, high = high](double v) { return v >= low && v <= high; };
         return isInside(m_last) && !isInside(value);

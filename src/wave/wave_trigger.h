@@ -3,12 +3,11 @@
 #include <QObject>
 #include <QString>
 
-/// Waits for something to happen in one channel of a chart, and says when its surroundings have been caught: the share
-/// before it and the rest after it of the span that is shown. The chart feeds it sample by sample and holds the
-/// picture.
+/// Waits for an event in one channel of a chart, and reports when its surroundings have been caught: a share of the
+/// visible span before it and the rest after it. The chart feeds it sample by sample and holds the picture.
 ///
-/// Normal: each event replaces the picture of the one before. Auto: as Normal, but without an event for two spans the
-/// chart runs live. Single: the first event stays until rearm(). What was caught stays until release() in any case.
+/// Normal: each event replaces the picture of the previous one. Auto: like Normal, but without an event for two spans
+/// the chart runs live. Single: the first event stays until rearm(). What was caught stays until release() in any case.
 /// Off at first. Main thread only; feed() allocates nothing.
 class WaveTrigger : public QObject
 {
@@ -34,7 +33,7 @@ public:
     enum class State {
         Off,
         Waiting,
-        Catching, ///< the event was seen, what follows it is awaited
+        Catching, ///< the event was seen, and the samples after it are awaited
         Held,     ///< Single has caught its event
     };
     Q_ENUM(State)
@@ -43,7 +42,7 @@ public:
     enum class Step {
         Nothing,
         Caught, ///< hold from eventSec() - beforeSec() to eventSec() + afterSec()
-        Lapsed, ///< nothing has happened for long: show the live picture
+        Lapsed, ///< nothing has happened for a long time: show the live picture
     };
 
     using QObject::QObject;
@@ -68,7 +67,7 @@ public:
     double span() const { return m_span; }
     void setSpan(double seconds);
 
-    /// An event starts a recording, for whoever hears caught().
+    /// An event is to start a recording; receivers of caught() do so.
     bool records() const { return m_records; }
     void setRecords(bool records);
 
@@ -79,17 +78,18 @@ public:
     double beforeSec() const { return m_span * m_preShare; }
     double afterSec() const { return m_span * (1 - m_preShare); }
 
-    /// Waits for the next event; after release() and for Single.
+    /// Waits for the next event, after release() or in Single mode.
     Q_INVOKABLE void rearm();
-    /// The next sample of the channel. Not finite ones cross nothing.
+    /// Takes the next sample of the channel. A value that is not finite crosses nothing.
     Step feed(double value, double timeSec);
-    /// What comes next does not continue what was: no edge lies between, and what was being caught is given up.
+    /// The next sample does not continue the previous ones: no edge lies between them, and a capture in progress is
+    /// abandoned.
     void interrupt();
 
 signals:
     void settingsChanged();
     void stateChanged();
-    /// Something was caught; what follows, a marker or a recording, may start.
+    /// An event was caught; its consequences, a marker or a recording, may start.
     void caught(double eventSec);
 
 private:
@@ -107,7 +107,7 @@ private:
     bool m_records = false;
     State m_state = State::Off;
     bool m_hasLast = false;
-    double m_last = 0;     ///< value before
-    double m_eventSec = 0; ///< also when waiting began
-    bool m_shows = false;  ///< something caught is on the screen
+    double m_last = 0;     ///< previous value
+    double m_eventSec = 0; ///< or the start of waiting
+    bool m_shows = false;  ///< a caught event is on the screen
 };

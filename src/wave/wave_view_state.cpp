@@ -13,7 +13,7 @@
 namespace {
 
 constexpr double kMaxValueSpan = 1e30;
-constexpr int kLiveTextMs = 100; ///< between two texts while samples pass
+constexpr int kLiveTextMs = 100; ///< between two text updates while samples arrive
 constexpr int kLastTextMs = 150; ///< after the last samples, whose text may have been left out
 constexpr double kMinStaleMs = 2000;
 constexpr double kMaxStaleMs = 10000; ///< the last period may have been a gap in the stream
@@ -29,7 +29,7 @@ WaveViewState::WaveViewState(QObject *parent) : PlotViewState(MainAxis::X, {-10,
     connect(&m_liveTimer, &QTimer::timeout, this, &WaveViewState::awaitSamples);
     m_staleTimer.setSingleShot(true);
     connect(&m_staleTimer, &QTimer::timeout, this, [this] {
-        if (m_bridge && m_bridge->newestTimeSec() != m_newest) // too few yet for the bridge to tell
+        if (m_bridge && m_bridge->newestTimeSec() != m_newest) // still too few for the bridge to determine it
             samplesChanged();
         else
             setStale(m_bridge && m_bridge->hasData() && m_bridge->playing() && !m_bridge->holds());
@@ -60,7 +60,7 @@ void WaveViewState::setBridge(WaveChartBridge *bridge)
                 markers()->add({eventSec, m_bridge->utcMsAt(eventSec - m_bridge->newestTimeSec()), tr("Trigger")});
         });
         connect(bridge, &WaveChartBridge::holdsChanged, this, [this] {
-            goLive(); // what was caught is as long as the view, or the newest samples are wanted again
+            goLive(); // the caught span is as long as the view, or the newest samples are requested again
             setStale(false);
             awaitSamples();
         });
@@ -306,7 +306,7 @@ void WaveViewState::reset()
     emit pictureChanged();
 }
 
-/// It keeps to the history.
+/// Stays within the history.
 double WaveViewState::cursorPlace(double seconds) const
 {
     return m_bridge && m_bridge->hasData() ? std::clamp(seconds, m_bridge->xHistoryMin(), 0.0) : kNone;
@@ -334,7 +334,7 @@ double WaveViewState::placeBeside(double seconds, int direction) const
     return -model.ageSecAtSampleOffset(std::clamp(offset, 0, model.count() - 1));
 }
 
-/// At a third and two thirds of what is seen.
+/// At one third and two thirds of the visible range.
 double WaveViewState::firstPlace(int cursor) const
 {
     const double from = m_bridge ? std::max(m_x.min, m_bridge->xHistoryMin()) : m_x.min;
@@ -357,7 +357,7 @@ void WaveViewState::samplesChanged()
         m_hasData = hasSamples;
         emit hasDataChanged();
     }
-    // In the same frame as the lines: a timer of its own per chart would cause frames in between.
+    // In the same frame as the lines: a separate timer per chart would cause frames in between.
     if (!m_sinceLiveTexts.isValid() || m_sinceLiveTexts.elapsed() >= kLiveTextMs)
         updateLiveTexts();
     m_liveTimer.start();
@@ -390,7 +390,8 @@ void WaveViewState::followTime()
     m_newest = newest;
     if (passed == 0)
         return;
-    // The samples that the view stood on are gone, and perhaps the clock they had: it was emptied meanwhile.
+    // The samples that the view was on are gone, and perhaps their clock as well: the store was cleared in the
+    // meantime.
     if (passed < 0 || !m_bridge || (m_hasData && -passed < m_bridge->xHistoryMin())) {
         startOver();
         return;

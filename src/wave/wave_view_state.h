@@ -12,14 +12,14 @@
 #include "wave/wave_chart_bridge.h"
 
 /// What one chart view shows of its bridge: the visible ranges of both axes, which channels, the measuring cursors, the
-/// crosshair, and the texts that go with them. Views bind to it and pass gestures on; several kinds of window use it.
+/// crosshair, and the texts that go with them. Views bind to it and pass on gestures; several kinds of window use it.
 ///
 /// Time is in seconds before the newest sample, as everywhere in charts. While the view follows (its right end is the
-/// newest sample) the window stands and the samples pass; once it was moved into the history it stays on the same
+/// newest sample) the range is fixed and the samples move through it; once moved into the history it stays on the same
 /// samples, i.e. it moves with them until they leave the history. The cursors stay on their samples in the same way.
 ///
-/// The value axis fits itself to the visible values until the user zooms or pans it; reset() goes back to that.
-/// Main thread only; the bridge is not owned and may die first.
+/// The value axis fits itself to the visible values until the user zooms or pans it; reset() makes it automatic again.
+/// Main thread only; the bridge is not owned and may be destroyed first.
 class WaveViewState : public PlotViewState
 {
     Q_OBJECT
@@ -52,8 +52,8 @@ public:
     bool isActive() const { return m_active; }
     void setActive(bool active);
     bool hasData() const { return m_hasData; }
-    /// The picture stands though nobody paused it: for at least two seconds, and six of the stream's periods if these
-    /// are longer (at most ten seconds), no sample has come.
+    /// The picture has stopped although nobody paused it: no sample has arrived for at least two seconds, or for six of
+    /// the stream's periods if these are longer (at most ten seconds).
     bool isStale() const { return m_stale; }
 
     /// The newest sample is at the right edge and stays there.
@@ -63,7 +63,7 @@ public:
     double clock() const override { return m_newest; }
     bool isYAutomatic() const override { return m_yAutomatic; }
     void setYAutomatic(bool automatic) override;
-    /// Seconds that are seen. Setting them keeps the right end, so that a live view stays live.
+    /// Visible span in seconds. Setting it keeps the right end, so that a live view stays live.
     double span() const { return m_x.span(); }
     void setSpan(double seconds);
     QList<double> spanPresets() const { return {1, 5, 10, 30, 60}; }
@@ -84,27 +84,28 @@ public:
 
     QStringList measurement() const override;
 
-    /// Where the visible curves are broken, and why, one of each per place: first those where the stream started again
-    /// or was paused (majorBreaks() of them), then those where samples are missing; each oldest first.
+    /// Where the visible curves are broken, and why, one entry per place in each list: first those where the stream
+    /// restarted or was paused (majorBreaks() of them), then those where samples are missing; each oldest first.
     QList<double> breakSeconds() const;
     QStringList breakTexts() const;
     int majorBreaks() const;
 
-    /// Switches the bridge's trigger. Switched on, it catches as many seconds as are seen, at a level in the middle of
-    /// the values that are seen when its own is not among them.
+    /// Switches the bridge's trigger. Switched on, it catches as many seconds as are visible, at a level in the middle
+    /// of the visible values when its own level is not among them.
     Q_INVOKABLE void setTriggerOn(bool on);
     /// A marker is set at each event that the trigger catches.
     bool marksCatches() const { return m_marksCatches; }
     void setMarksCatches(bool mark);
 
-    /// Where the axis shows times that the full store no longer holds, their end; else NaN. And what is said there.
+    /// Where the axis shows times that the full store no longer holds, the end of these; else NaN. And the text shown
+    /// there.
     double storeEnd() const;
     QString storeEndText() const;
 
     QString hoverTitle() const override;
     QStringList hoverTexts() const override;
 
-    /// Adds a marker under the pointer, or at the newest sample while it is elsewhere. Its row, -1 without
+    /// Adds a marker under the pointer, or at the newest sample while it is elsewhere. Returns its row, -1 without
     /// samples.
     Q_INVOKABLE int addMarker();
 
@@ -174,11 +175,11 @@ private:
     QList<bool> m_visibleChannels;
     QStringList m_liveTexts;
     QTimer m_liveTimer;
-    QTimer m_staleTimer; ///< runs from the first lull after the last samples
+    QTimer m_staleTimer; ///< runs from the first pause after the last samples
     QElapsedTimer m_sinceLiveTexts;
 };
 
-/// Makes the bridge known to views, which get it from their window.
+/// Makes the bridge's type known to views, which get the bridge from their window.
 struct WaveChartBridgeForeign
 {
     Q_GADGET

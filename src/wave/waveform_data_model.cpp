@@ -41,7 +41,7 @@ Extremes findExtremes(const Runs &runs)
         low = high == -kMax ? std::numeric_limits<double>::quiet_NaN() : high;
     if (high == -kMax)
         high = low;
-    // The first of both that is met is the newer; this ends long before the bucket does.
+    // Whichever is found first is the newer; the search ends long before the bucket does.
     for (const auto &run : runs) {
         for (const double value : run) {
             if (value == low)
@@ -60,7 +60,7 @@ WaveformDataModel::WaveformDataModel(int channelCount, QObject *parent)
       m_filters(size_t(std::max(channelCount, 0))), m_filterEnabled(std::max(channelCount, 0), false),
       m_filterCutoff(std::max(channelCount, 0), 0.0), m_parts(kCapacity, char(Part::None))
 {
-    // The copies above share one storage; part them now rather than at the first sample.
+    // The copies above share one storage; detach them now rather than at the first sample.
     for (QList<double> &values : m_values)
         values.detach();
 }
@@ -346,7 +346,7 @@ void WaveformDataModel::getCurve(int channel, double xMin, double xMax, int maxP
     append(from, last);
 }
 
-/// The first offset from `first` to `last` - 1 that is parted from the sample before it, else `last`.
+/// The first offset from `first` to `last` - 1 that is separated from the sample before it, else `last`.
 int WaveformDataModel::nextParted(int first, int last) const
 {
     if (m_partCount == 0)

@@ -26,7 +26,7 @@ class TestAppLanguageManager : public QObject
     {
         QSettings(settings_keys::kFile, QSettings::IniFormat).setValue(settings_keys::kLanguage, code);
     }
-    /// A text of the toolkit and one of the main window, as they are shown now.
+    /// A text of the toolkit and one of the main window, as currently shown.
     static QString yes() { return QCoreApplication::translate("QPlatformTheme", "&Yes"); }
     static QString device() { return QCoreApplication::translate("MainActions", "Sensor Dashboard"); }
 
@@ -41,7 +41,7 @@ private slots:
     void startsWithWhatIsStoredOrAsks_data()
     {
         QTest::addColumn<QString>("before");
-        QTest::addColumn<int>("answer"); // of the picker, -1: cancelled
+        QTest::addColumn<int>("answer"); // index for the picker, -1: cancelled
         QTest::addColumn<QString>("after");
         QTest::newRow("stored") << "JA" << 0 << "JA";
         QTest::newRow("stored in small letters") << "ko" << 0 << "ko";
@@ -80,7 +80,7 @@ private slots:
         const QString taken =
             offered.at(answer >= 0 && answer < 5 ? answer : preferred).toMap().value(QStringLiteral("code")).toString();
         QCOMPARE(m_manager.currentLanguage(), taken);
-        // What was only taken for this run is kept when the user chooses it.
+        // A language used for this run only is stored when the user chooses it.
         QVERIFY(m_manager.setLanguage(taken));
         QCOMPARE(stored(), taken);
     }
@@ -128,7 +128,7 @@ private slots:
         for (const AppLanguageSpec &language : m_manager.languages())
             options.append(
                 QVariantMap{{QStringLiteral("label"), language.displayName}, {QStringLiteral("recommended"), false}});
-        const std::pair<QList<int>, int> rows[] = {{{Qt::Key_Return}, 3}, // takes what is preferred
+        const std::pair<QList<int>, int> rows[] = {{{Qt::Key_Return}, 3}, // accepts the preferred option
                                                    {{Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Return}, 4},
                                                    {{Qt::Key_Up, Qt::Key_Return}, 2},
                                                    {{Qt::Key_Up, Qt::Key_Escape}, -1}};

@@ -10,7 +10,7 @@ class TestAppLanguageSpec : public QObject
 private slots:
     void readsManifests()
     {
-        // At last a part of the message; empty: the manifest is good.
+        // The last column is a part of the message; empty: the manifest is valid.
         const auto reads = [](const char *name, const QByteArray &json, const char *fault) {
             QString error;
             const LanguageManifest manifest = language_manifest::parse(json, &error);
@@ -56,7 +56,7 @@ private slots:
         row("zh-Hans-SG", "zh_SG", "CN");
         row("", "zh_MO", "TC");
         row("", "zh_CN", "CN");
-        row("de-DE ja-JP en", "de_DE", "JA"); // the first that is known
+        row("de-DE ja-JP en", "de_DE", "JA"); // the first known one
         row("ko", "C", "KO");
         row("en-GB", "zh_CN", "EN");
         row("jam", "jam", ""); // a language of its own, not Japanese

@@ -31,7 +31,7 @@ private slots:
 
     void folderBesideTheProgram()
     {
-        // A copy of this program with a folder of fonts, none of which is one, so that each is told of.
+        // A copy of this program with a folder of files that are not fonts, so that each is reported.
         const QString program = m_folder.filePath(QStringLiteral("program"));
         QVERIFY(QFile::copy(QCoreApplication::applicationFilePath(), program));
         const QDir fonts(m_folder.filePath(QStringLiteral("fonts")));
@@ -58,7 +58,7 @@ private slots:
         application_fonts::loadAll();
         const QString family = application_fonts::fixedPitchFamily();
         QVERIFY(QFontDatabase::isFixedPitch(family));
-        application_fonts::loadAll(); // again changes nothing
+        application_fonts::loadAll(); // a second call changes nothing
         QCOMPARE(application_fonts::fixedPitchFamily(), family);
     }
 
@@ -66,7 +66,7 @@ private slots:
     {
         application_fonts::loadAll();
         QStringList known = QFontDatabase::families();
-        // Two families whose names show whether the case is the database's.
+        // Two families whose names show whether the spelling is the database's.
         known.removeIf([](const QString &name) { return name.toUpper() == name || name.toLower() == name; });
         if (known.size() < 2)
             QSKIP("fewer than two font families are installed");

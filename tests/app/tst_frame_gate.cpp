@@ -26,7 +26,7 @@ public:
             window->resize(900, 700);
             connect(
                 window.get(), &QQuickWindow::sceneGraphInitialized, this, [this] { findRenderer(); }, kAtOnce);
-            // Around the gate's own: entered behind it, left before it.
+            // Inside the gate's own: entered after it, left before it.
             connect(
                 window.get(), &QQuickWindow::afterFrameEnd, this, [this] { --m_drawing; }, kAtOnce);
             new FrameGate(window.get());
@@ -68,7 +68,7 @@ private:
     std::atomic<bool> m_hasNoGpu = false;
     std::atomic<int> m_drawing = 0;
     std::atomic<int> m_mostAtOnce = 0;
-    std::array<std::unique_ptr<QQuickWindow>, 3> m_windows; // end first: their threads use what is above
+    std::array<std::unique_ptr<QQuickWindow>, 3> m_windows; // destroyed first: their threads use the members above
 };
 
 } // namespace
@@ -88,7 +88,7 @@ private slots:
             QSKIP("a graphics processor draws here: nobody has to wait");
         QCOMPARE(windows.mostAtOnce(), 1);
 
-        QVERIFY(!windows.picture(2).isNull()); // drawn beside the frames
+        QVERIFY(!windows.picture(2).isNull()); // drawn outside the frames
         windows.close(0);                      // perhaps in the middle of one
         for (const int other : {1, 2}) {
             const int before = windows.frames(other);

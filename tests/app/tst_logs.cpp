@@ -38,7 +38,7 @@ private:
     QtMessageHandler m_before;
 };
 
-/// A program that makes its main window twice.
+/// A program that creates its main window twice.
 int startTwice()
 {
     for (const char *message : {"first", "second"}) {
@@ -92,7 +92,7 @@ private slots:
 
     void firstInitEmptiesTheAppLog_data()
     {
-        QTest::addColumn<char>("before"); // what the program finds: nothing, a log, a folder of that name
+        QTest::addColumn<char>("before"); // the program finds nothing, a log, or a folder of that name
         QTest::addColumn<QByteArray>("said");
         QTest::newRow("nothing") << 'n' << QByteArray();
         QTest::newRow("log") << 'l' << QByteArray("Old log file was removed.\n");
@@ -129,7 +129,7 @@ private slots:
             for (const QtMsgType type : {QtDebugMsg, QtInfoMsg, QtWarningMsg, QtCriticalMsg})
                 qt_message_output(type, QMessageLogContext("folder/some.cpp", 42, "f", "default"), message);
             qt_message_output(QtInfoMsg, QMessageLogContext(), QString());
-            whileOpen = textOf(kMessages); // complete at any moment
+            whileOpen = textOf(kMessages); // complete at any time
         }
         QString text = textOf(kMessages);
         QCOMPARE(text, whileOpen);

@@ -76,7 +76,7 @@ private slots:
         QVERIFY(std::abs(palette::contrast(Qt::black, Qt::white) - 21) < 1e-9);
     }
 
-    /// What a quantity is painted with, by nature: untouched in the light, seen in the dark, and still told apart.
+    /// The inherent colours of quantities: unchanged in the light palette, visible in the dark one, and still distinct.
     void naturalColorsAreSeen()
     {
         const QList<QColor> natural{{0xAB, 0x22, 0x1D}, {0x0D, 0x8B, 0x4D}, {0x41, 0x53, 0xAF},
@@ -89,7 +89,7 @@ private slots:
             shown.insert(dark.rgb());
         }
         QCOMPARE(shown.size(), natural.size());
-        QCOMPARE(palette::kDark.drawn({0xFF, 0xE0, 0x40}), QColor(0xFF, 0xE0, 0x40)); // is seen as it is
+        QCOMPARE(palette::kDark.drawn({0xFF, 0xE0, 0x40}), QColor(0xFF, 0xE0, 0x40)); // is visible as it is
     }
 };
 

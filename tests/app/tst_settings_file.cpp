@@ -12,7 +12,7 @@ class TestSettingsFile : public QObject
     Q_OBJECT
 
 private slots:
-    // A harmless value of another type stands for the dangerous ones: the toolkit finds both in the same way.
+    // A harmless value of another type represents the dangerous ones: the toolkit finds both in the same way.
     void findsWhatTheToolkitWouldDecode()
     {
         const auto row = [this](const char *name, const QByteArray &value) {

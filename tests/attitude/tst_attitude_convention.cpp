@@ -22,8 +22,8 @@ bool near(const QVector3D &a, const QVector3D &b, float tolerance = 0.01F)
     return same;
 }
 
-/// Nose and right wing come to lie where a device must be shown: by yaw about the up axis, pitch nose up, roll right
-/// side down. Plain rotations, written apart from the code under test.
+/// Where nose and right wing of a device must be shown: yaw about the up axis, pitch nose up, roll right side down.
+/// Plain rotations, written independently of the code under test.
 bool shows(const QQuaternion &q, const QVector3D &angles)
 {
     const auto rotate = [](QVector3D &v, int first, int second, float degrees) {
@@ -80,7 +80,7 @@ private slots:
                                            * (rfu ? about(1, 0, 0, angles.y()) : about(0, 1, 0, -angles.y()))
                                            * (rfu ? about(0, 1, 0, angles.x()) : about(1, 0, 0, angles.x()));
                 NodeSnapshot node = withQuaternion(device * 3.0F); // the length must not matter
-                addEuler(node, 7, 8, 9);                           // nor angles beside it
+                addEuler(node, 7, 8, 9);                           // nor angles alongside it
                 const NormalizedAttitude result = normalizeAttitude(node, rfu ? RfuEnu312 : FluNwuZyx);
                 QVERIFY(result.valid && result.fromQuaternion);
                 QVERIFY(near(result.euler, angles, 0.05F));
@@ -137,7 +137,7 @@ private slots:
         for (const auto &[quaternion, angles] : rows) {
             const QVector3D got = displayEulerFromQuaternion(quaternion);
             QCOMPARE(QByteArray::number(got.y(), 'f', 2), QByteArray::number(angles.y(), 'f', 2));
-            if (std::abs(angles.y()) < 89.0F) // roll and yaw cannot be told apart beyond
+            if (std::abs(angles.y()) < 89.0F) // roll and yaw cannot be distinguished beyond
                 QVERIFY(near(got, angles, 0.0005F));
         }
     }

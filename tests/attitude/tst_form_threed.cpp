@@ -32,7 +32,7 @@ NormalizedAttitude pitched(float degrees)
     return attitude(QQuaternion::fromAxisAndAngle(1, 0, 0, degrees));
 }
 
-/// Middle of the pixels of a part, told by their hue and least saturation.
+/// Centre of the pixels of a part, identified by their hue and minimum saturation.
 QPointF middle(const QImage &image, int hueFrom, int hueTo, int saturation)
 {
     QPointF sum;
@@ -124,7 +124,7 @@ private slots:
             QCOMPARE(texts.join(u' ').remove(u'°'), QString::fromUtf8(numbers));
             if (!window.view())
                 continue;
-            window.backend().setBodyAxes({{}, {}, {}}); // arrows have colours like parts of the jet
+            window.backend().setBodyAxes({{}, {}, {}}); // the arrows have the same colours as parts of the jet
             const QImage image = window.view()->grabWindow();
             const double unit = image.height() / 100.0;
             const QPointF nose = middle(image, 28, 50, 150);
@@ -152,7 +152,7 @@ private slots:
         NEEDS_PICTURE(window);
         window.show(pitched(10));
         QQuickView *view = window.view();
-        QVERIFY(!view->grabWindow().isNull()); // the axes' names have their places from the first picture on
+        QVERIFY(!view->grabWindow().isNull()); // the names of the axes are in place from the first picture on
         window.click("BTNResetCamera");
         const QImage first = view->grabWindow();
         const QPoint at(view->width() / 2, view->height() / 2);
@@ -199,7 +199,7 @@ private slots:
         QCOMPARE(window.backend().bodyAxisX(), QVector3D(1, 0, 0));
         QCOMPARE(window.text("LBL_preset"),
                  QStringLiteral("Current preset: FLU body or NWU body, Euler ZYX intrinsic (Z-Y-X)."));
-        QCOMPARE(Window().orientationPreset(), OrientationPreset::FluNwuZyx); // the next one begins with it
+        QCOMPARE(Window().orientationPreset(), OrientationPreset::FluNwuZyx); // the next window starts with it
 
         window.setOrientationPreset(OrientationPreset::None);
         QCOMPARE(window.presets()->currentIndex(), -1);
@@ -237,7 +237,7 @@ private slots:
         QCOMPARE(window.text("VAL_dpitch"), QStringLiteral("0.00°"));
     }
 
-    /// A home belongs to a product's mounting: it is there again when that is, and only its own is cleared.
+    /// A home belongs to a product's mounting: it returns with the mounting, and only the current one is cleared.
     void homeBelongsToTheMounting()
     {
         const auto rfu = OrientationPreset::RfuEnu312;
@@ -247,7 +247,7 @@ private slots:
         const QString two = QStringLiteral("MZ14");
         enum Does { Nothing, Capture, Clear, Await };
         const std::tuple<QString, OrientationPreset, Does, float> rows[] = {
-            {one, rfu, Capture, 10}, {one, flu, Nothing, 0},  {one, rfu, Nothing, 10}, // picked and picked back
+            {one, rfu, Capture, 10}, {one, flu, Nothing, 0},  {one, rfu, Nothing, 10}, // changed and changed back
             {{}, rfu, Nothing, 0},   {one, rfu, Nothing, 10},                          // closed and opened
             {two, rfu, Capture, 20}, {two, flu, Capture, 30}, {{}, flu, Nothing, 0},   {two, flu, Nothing, 30},
             {two, flu, Clear, 0},    {two, rfu, Nothing, 20}, {one, rfu, Nothing, 10}};
@@ -273,7 +273,7 @@ private slots:
         QVERIFY(!window.backend().homeReferenceActive());
     }
 
-    /// No samples come: the last pose is shown in the new axes as soon as it is given in them.
+    /// No samples arrive: the last pose is shown in the new axes as soon as it is given in them.
     void mountingChangesWithoutSamples()
     {
         Window window;
@@ -344,7 +344,7 @@ private slots:
             QVERIFY(!error.isEmpty());
             QCOMPARE(window.backend().objSource(), shown);
         }
-        // Whatever number is wrong in a mesh that is let through, the renderer lives with it.
+        // Whatever number is wrong in a mesh that is accepted, the renderer survives it.
         for (qsizetype offset = 0; offset + 4 <= mesh.size(); offset += 4) {
             QByteArray changed = mesh;
             qToLittleEndian(0x7FFFFFFFU, changed.data() + offset);

@@ -23,7 +23,7 @@ NormalizedAttitude attitude(float roll, float pitch, float yaw)
     return attitude(attitude_convention::toDisplayQuaternion(roll, pitch, yaw, OrientationPreset::RfuEnu312));
 }
 
-/// A real window on the screen. Counts its paintings, because repainting is what a live view pays for.
+/// A real window on the screen. Counts its repaints, because they are the cost of a live view.
 class Window : public ToolADI
 {
 public:
@@ -65,7 +65,7 @@ private slots:
         const std::array<float, 6> rows[] = {{0, 0, 0.6F, -0.3F, 0.6F, 0.3F},   {180, 0, 0.6F, 0.3F, 0.6F, -0.3F},
                                              {45, 0, -0.5F, 0.3F, 0.5F, -0.3F}, {-45, 0, 0.5F, 0.3F, -0.5F, -0.3F},
                                              {0, 15, 0.6F, 0.3F, 0.3F, 0.8F},   {0, -15, 0.3F, -0.8F, 0.6F, -0.3F},
-                                             {0, 89, 0.6F, 0.5F, 0, 0.94F}}; // straight up keeps a sliver
+                                             {0, 89, 0.6F, 0.5F, 0, 0.94F}}; // straight up shows a sliver
         Window window;
         for (const auto &[roll, pitch, skyX, skyY, groundX, groundY] : rows) {
             window.setAttitude(attitude(roll, pitch, 0));

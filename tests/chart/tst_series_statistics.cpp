@@ -51,7 +51,7 @@ private slots:
     {
         QFETCH(std::vector<double>, values);
         QFETCH(QList<double>, expected);
-        // Whatever the runs are that they come in.
+        // In runs of any length.
         for (const size_t run : {size_t(1), size_t(3), size_t(1000), values.size() + 1}) {
             StatisticsSum sum;
             for (size_t i = 0; i < values.size(); i += run)
@@ -73,7 +73,7 @@ private slots:
         QCOMPARE(list.add({12.5, 1001, {}}), 2);
         QCOMPARE(list.add({kNaN, 0, {}}), -1);
         QCOMPARE(added.size(), 3);
-        list.setText(0, u"\t \n"_qs); // nothing to say: it keeps its text
+        list.setText(0, u"\t \n"_qs); // nothing to measure: it keeps its text
         list.setText(2, QString(5000, u'x'));
         QCOMPARE(list.markers()[2].text.size(), MarkerList::kMaxText);
         list.setText(2, u"c"_qs);

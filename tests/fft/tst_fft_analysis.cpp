@@ -110,8 +110,8 @@ private slots:
 
     void motionBesideGravityIsFound()
     {
-        // A window's main lobe is so many bins wide on either side. Inside of gravity's own lobe a motion may show by
-        // its flank, where that lobe ends; only a weak one in the first bin may not show at all.
+        // Width of each window's main lobe in bins, on either side. Inside gravity's own lobe a motion may be visible
+        // only by its flank, where that lobe ends; only a weak one in the first bin may be invisible.
         const int lobes[] = {0, 1, 1, 2, 4};
         for (int window = 0; window < 5; ++window) {
             const int lobe = lobes[window];

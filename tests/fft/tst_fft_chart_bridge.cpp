@@ -18,7 +18,7 @@ namespace {
 constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 constexpr double kInfinite = std::numeric_limits<double>::infinity();
 
-/// 64 bins of 1 Hz behind the anchor, with gravity at 0 Hz and a peak at 10 and 20 Hz.
+/// 64 bins of 1 Hz after the anchor, with gravity at 0 Hz and a peak at 10 and 20 Hz.
 QList<QPointF> spectrum(double amplitude, bool anchor = true)
 {
     QList<QPointF> points;
@@ -77,7 +77,7 @@ private slots:
                  u"TRIGGER 10.00Hz / 50.00"_s);
         const auto events = alarm.size();
         commit(bridge, 50);
-        QCOMPARE(alarm.size(), events); // nothing new to tell
+        QCOMPARE(alarm.size(), events); // nothing new to report
         for (int i = 0; i < 3; ++i)     // no frames of the alarm, which stays
             bridge.clearResults();
         QVERIFY(!bridge.hasData());
@@ -93,7 +93,7 @@ private slots:
         bridge.setAlarmSuspended(true);
         for (int i = 0; i < 4; ++i)
             commit(bridge, 40);
-        QCOMPARE(bridge.alarmSeverityLevel(), 0); // what it sees says nothing
+        QCOMPARE(bridge.alarmSeverityLevel(), 0); // the spectra mean nothing yet
         QCOMPARE(bridge.alarmHeadline(), u"General monitoring: waiting for data"_s);
         QCOMPARE(bridge.dominantPeakFrequency(), 10.0);
         bridge.setAlarmSuspended(false);
@@ -126,7 +126,7 @@ private slots:
             QVERIFY2(std::abs(bridge.dominantPeakAmplitude() - 40) < 1, qPrintable(window));
             QVERIFY2(std::abs(bridge.resultantPeakAmplitude() - 40 * std::sqrt(3)) < 1, qPrintable(window));
             QVERIFY(bridge.harmonicSummary().startsWith("H2 20.0"_L1));
-            QCOMPARE(bridge.alarmState(), FftAlarmState::Normal); // judged again, but no frame
+            QCOMPARE(bridge.alarmState(), FftAlarmState::Normal); // evaluated again, but not a frame
         }
     }
 
@@ -188,7 +188,7 @@ private slots:
         QCOMPARE(bridge.bandPowers().size(), 1);
         QCOMPARE(bridge.bandPowers().at(0).name, u"shaft"_s);
         QVERIFY(std::abs(bridge.bandPowers().at(0).power - 0.5 * (20 * 20 + 2 * 2)) < 1e-9);
-        for (int i = 0; i < 40; ++i) // a person is refused from some number on, programs are not
+        for (int i = 0; i < 40; ++i) // there is a limit for the user, but not for callers
             bridge.setCustomBand(QString::number(i).rightJustified(100, u'0'), 1, 2);
         QCOMPARE(bridge.bandPowers().size(), 41);
         QCOMPARE(bridge.bandPowers().last().name.size(), 100);

@@ -72,7 +72,7 @@ private slots:
             {"stamps that stand still", {1000, 1000, 1000}, 0, 1000},
             {"stamps that run back", {5000, 4000, 4500, 5001}, 0, 1000},
             {"the ring knows the newest 8 only", {10, 20, 30, 40, 45, 50, 55, 60, 65, 70, 75}, 0, 200},
-            // 20 ms pass between samples on the host's clock, which stands in for stamps of 0.
+            // 20 ms pass between samples on the host's clock, which replaces stamps of 0.
             {"no clock", {0, 0, 0}, 0, 50},
             {"clock that stops", {7000, 7020, 0, 0}, 0, 50}};
         for (const auto &[name, stamps, givenHz, rateHz] : rows) {
@@ -93,7 +93,7 @@ private slots:
 
     void restartsKnowTheNewStreamAlone()
     {
-        // Each stream begins again where its clock then stands, after `lullMs` on the host's clock.
+        // Each stream restarts at the current value of its clock, after `lullMs` on the host's clock.
         struct Row
         {
             const char *name;
@@ -124,12 +124,12 @@ private slots:
 
     void staleStreams()
     {
-        // Period of the stream, and after how long without a sample it is one that died.
+        // Period of the stream, and the time without a sample after which it counts as dead.
         const std::pair<quint32, int> rows[] = {{1, 2000}, {100, 2000}, {1000, 6000}, {5000, 10000}};
         for (const auto &[periodMs, afterMs] : rows) {
             qint64 hostMs = 0;
             FftSampler sampler([&hostMs] { return hostMs; });
-            QVERIFY(!sampler.isStale()); // none came yet
+            QVERIFY(!sampler.isStale()); // none has arrived yet
             for (quint32 i = 1; i <= 3; ++i)
                 sampler.append(sample(i * periodMs, 1), 100);
             hostMs = afterMs - 1;
@@ -171,7 +171,7 @@ private slots:
         sampler.append(sample(1'000'000, 1), 0);
         hostMs = 5000;
         sampler.reset(8);
-        sampler.append(sample(0, 1), 0); // the host's clock stands in, and begins anew
+        sampler.append(sample(0, 1), 0); // the host's clock is used instead, and the time restarts
         sampler.append(sample(20, 1), 0);
         QCOMPARE(sampler.currentRateHz(), 50);
     }
@@ -216,7 +216,7 @@ private slots:
         QVERIFY(!sampler.takeResult(2, 1, flat(1)).accepted);
         QCOMPARE(sampler.currentRateHz(), 0);
         sampler.append(sample(5, 1), 0);
-        QVERIFY(sampler.append(sample(25, 1), 0)); // a clock that began anew
+        QVERIFY(sampler.append(sample(25, 1), 0)); // a clock that restarted
         QCOMPARE(sampler.currentRateHz(), 50);
         QCOMPARE(sampler.nextBatch()->samples[0], (QList<double>{6000, 1000, 1000, 1000}));
     }
@@ -256,7 +256,7 @@ private slots:
             sampler.setHoldMode(FftHoldMode(mode));
             sampler.append(sample(1, 1), 100);
             QCOMPARE(shown(sampler, {flat(4), flat(1), flat(7), flat(2)}), rows[mode]);
-            QCOMPARE(shown(sampler, {flat(1, 8)}), QList<double>{1}); // another length starts anew
+            QCOMPARE(shown(sampler, {flat(1, 8)}), QList<double>{1}); // another length restarts
             sampler.reset(8);
             sampler.append(sample(1, 1), 100);
             QCOMPARE(shown(sampler, {flat(0.5, 8)}), QList<double>{0.5});
@@ -265,7 +265,7 @@ private slots:
 
     void clipping()
     {
-        // Type, value and whether it is clipped: beyond 16 G or 1000 deg/s, or no finite number.
+        // Type, value and whether it is clipped: beyond 16 G or 1000 deg/s, or not finite.
         const std::tuple<int, float, int> rows[] = {{0, 15.999F, 0}, {0, -16.0F, 1}, {1, 999.9F, 0},
                                                     {1, 1000.0F, 1}, {0, kNan, 1},   {1, -kInfinite, 1}};
         for (const auto &[type, value, clipped] : rows) {

@@ -87,7 +87,7 @@ private:
         for (int k = 0; k < points / 2; ++k) {
             const double wanted = std::abs(out[size_t(k)]) / (points * 0.5 * gain) * (k == 0 ? 0.5 : 1.0);
             const double share = std::abs(got.at(k).y() - wanted) / wanted;
-            // A bin that all but cancels out has no more digits than the sum it comes from.
+            // A bin that nearly cancels out has no more digits than the sum it comes from.
             const bool cancelled = std::abs(out[size_t(k)]) < 1e-5 * largest;
             const QString place =
                 QStringLiteral("window %1, bin %2 of %3: %4").arg(window).arg(k).arg(points).arg(share);
@@ -118,7 +118,7 @@ private slots:
         for (const auto &[name, samples, mean] : rows) {
             FftTrans engine;
             engine.initSize(8);
-            spectrum(engine, QList<double>(8, 1e6)); // leaves nothing behind
+            spectrum(engine, QList<double>(8, 1e6)); // leaves no trace
             const QList<QPointF> got = spectrum(engine, samples);
             QVERIFY2(std::abs(got.at(0).y() - mean) < 1e-12, name);
             for (const QPointF point : got)
@@ -167,7 +167,7 @@ private slots:
         engine->initSize(16);
         engine->moveToThread(&thread);
         connect(&thread, &QThread::finished, engine, &QObject::deleteLater);
-        std::atomic<QThread *> answered = nullptr; // told from there
+        std::atomic<QThread *> answered = nullptr; // reported from there
         connect(engine, &FftTrans::fftResult, engine, [&answered] { answered = QThread::currentThread(); });
         unsigned long long batch = 0;
         QList<QPointF> points;

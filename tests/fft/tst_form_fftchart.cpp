@@ -27,7 +27,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The window on the screen, and what a user does in it.
+/// The window on the screen, and the user's actions in it.
 struct Bench
 {
     form_fftchart window;
@@ -61,14 +61,14 @@ struct Bench
             window.appendData(node, 1000);
         }
     }
-    /// One tick without its timer, and the spectra that it asks for.
+    /// One tick without its timer, and the spectra that it requests.
     bool tick()
     {
         QSignalSpy frames(&bridge(), &FftChartBridge::fftDataChanged);
         QMetaObject::invokeMethod(&window, "onTimer50ms");
         return QTest::qWaitFor([&frames] { return !frames.isEmpty(); });
     }
-    /// What the window says over the plot, empty for a mark that is not there.
+    /// The window's text over the plot, empty for a mark that is not shown.
     QString mark(const char *name)
     {
         QQuickItem *mark = item(name);
@@ -174,7 +174,7 @@ private slots:
             QCOMPARE(bench.bridge().windowName(), fftWindowNames().at(window));
             // The bin beside the tone shows which window the engine took.
             const QList<double> leakage = fftWindowLeakage(fftWindowNames().at(window), 512);
-            const double beside = bench.bridge().getPoints(1).at(1 + 64 + 1).y(); // behind the anchor
+            const double beside = bench.bridge().getPoints(1).at(1 + 64 + 1).y(); // after the anchor
             QVERIFY2(std::abs(beside - 250 * leakage.value(0) / 2) < 5, qPrintable(QString::number(beside)));
         }
     }
@@ -185,15 +185,15 @@ private slots:
         bench.feed(512, 0.25F);
         QSignalSpy requests(&bench.window, &form_fftchart::start_fft_cal);
         bench.start();
-        QCOMPARE(requests.size(), 3); // out, and no event was handled since
+        QCOMPARE(requests.size(), 3); // in flight, and no event has been handled since
         bench.window.close();
         QCoreApplication::processEvents();
         QVERIFY(!bench.bridge().hasData());
         QCOMPARE(bench.control<QPushButton>("BTN_start")->text(), u"Start"_s);
-        bench.feed(4, 5.0F); // not taken
+        bench.feed(4, 5.0F); // not accepted
         bench.window.show();
         bench.start();
-        QCOMPARE(requests.size(), 3); // nothing of what came before the closing
+        QCOMPARE(requests.size(), 3); // nothing from before the closing
         bench.feed(512, 0.125F);
         QTRY_VERIFY(std::abs(bench.bridge().dominantPeakAmplitude() - 125) < 0.01);
     }
@@ -210,7 +210,7 @@ private slots:
                     bench.window.restartStream();
                     bench.choose("CB_window", window);
                     double highest = 0;
-                    for (int part = 0; part < 4; ++part) { // while the rings fill
+                    for (int part = 0; part < 4; ++part) { // while the rings are filling
                         bench.feed(points / 4 - (part == 3), 0);
                         QVERIFY(bench.tick());
                         highest = std::max(highest, bench.bridge().dominantPeakAmplitude());
@@ -313,7 +313,7 @@ private slots:
         bench.feed(512, 0.25F);
         bench.start();
         QTRY_VERIFY(bench.bridge().hasData());
-        QVERIFY(bench.state->isYAutomatic()); // it starts fitted, and the field says so
+        QVERIFY(bench.state->isYAutomatic()); // it starts fitted, and the field shows that
         QTRY_COMPARE(bench.state->yViewMax(), 300.0);
         auto *ceiling = bench.control<QDoubleSpinBox>("SB_y_axis_max");
         QCOMPARE(ceiling->text(), u"now 300 mG"_s);
@@ -333,7 +333,7 @@ private slots:
         QTest::mouseDClick(bench.view, Qt::RightButton, {}, bench.at(0.5, 0.5));
         QCOMPARE(bench.state->xViewMin(), 0.0);
         QTRY_COMPARE(bench.state->yViewMax(), 300.0);
-        ceiling->setValue(2000); // a ceiling that is chosen is in force
+        ceiling->setValue(2000); // a chosen ceiling takes effect
         QCOMPARE(bench.state->yViewMax(), 2000.0);
         ceiling->setValue(16000);
 
@@ -376,7 +376,7 @@ private slots:
         bench.click("customRule");
         QTRY_VERIFY(bench.item("ruleEditor")->isVisible());
         QTRY_VERIFY(bench.item("applyRule")->y() > 0); // laid out
-        // The keyboard is with a control above the view until a click brings it.
+        // A control above the view has the focus until a click moves it.
         bench.window.activateWindow();
         bench.control<QPushButton>("BTN_start")->setFocus();
         QTRY_COMPARE(QGuiApplication::focusWindow(), bench.window.windowHandle());
@@ -434,7 +434,7 @@ private slots:
         int drawn = 0; // counted in this thread: the signal comes from the scene graph's
         const QObject counter;
         connect(bench.view, &QQuickWindow::frameSwapped, &counter, [&drawn] { ++drawn; });
-        QTRY_VERIFY(drawn > 1); // what moves with the first data is in its place
+        QTRY_VERIFY(drawn > 1); // items that move with the first data are in place
         bench.click("savePicture");
         QFileDialog *dialog = nullptr;
         QTRY_VERIFY_WITH_TIMEOUT((dialog = openDialog<QFileDialog>()), 20000);

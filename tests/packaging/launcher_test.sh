@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# launcher_test.sh LAUNCHER: installs the launcher beside a program that tells how it was started, and starts it in the
-# situations that homes can be in.
+# launcher_test.sh LAUNCHER: installs the launcher beside a program that reports how it was started, and starts it with
+# home folders in various states.
 set -euo pipefail
 launcher=$(realpath -- "$1")
 folder=$(mktemp -d)
@@ -51,7 +51,7 @@ runs_in "$folder/own/kvcenter"
 start "relative XDG_DATA_HOME" XDG_DATA_HOME=own HOME="$folder/home" --
 runs_in "$folder/home/.local/share/kvcenter"
 
-# From here on no folder can be had. The program then runs where the models are, but only if that cannot be written.
+# From here on no folder is available. The program then runs where the models are, but only if that cannot be written.
 start "HOME not set, shared folder writable" --
 [ "$code" = 1 ] || fail "exit code $code"
 grep -q 'HOME is not set' err || fail "does not say what is wrong"

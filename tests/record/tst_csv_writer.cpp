@@ -38,7 +38,7 @@ public:
     {
         enqueue91(node);
         drainPending();
-        QCoreApplication::removePostedEvents(this); // the drain that it asked for
+        QCoreApplication::removePostedEvents(this); // the drain that it requested
     }
     qint64 sizeOnDisk() const { return QFileInfo(filePath()).size(); }
 
@@ -64,7 +64,7 @@ QByteArrayList linesOf(const QString &path)
     return lines;
 }
 
-/// The line with the field of the computer's time cut out, or what is wrong with that.
+/// The line without the field of the computer's time, or what is wrong with that field.
 QByteArray timeless(const QByteArray &line, int timeField = 0)
 {
     QByteArrayList fields = line.split(',');
@@ -72,7 +72,7 @@ QByteArray timeless(const QByteArray &line, int timeField = 0)
     return age >= 0 && age < 60 ? (fields.removeAt(timeField), fields.join(',')) : "wrong time in " + line;
 }
 
-/// Writes lines with the numbers 0, 1, 2 ... for ever and tells every hundred on standard output; to be killed.
+/// Writes lines with the numbers 0, 1, 2 ... for ever and reports every hundred on standard output; to be killed.
 [[noreturn]] void recordForEver(const char *path)
 {
     Writer writer(QString::fromLocal8Bit(path));
@@ -120,7 +120,7 @@ private slots:
         writer.enqueue91(sample(5));
         writer.enqueue62({sample(5), odd});
         writer.enqueue63(batch({7}), 4000000000U);
-        writer.enqueue91(odd); // its header is there
+        writer.enqueue91(odd); // its header is already there
         writer.enqueue62({});
         writer.flushPendingAndClose();
         const QByteArrayList lines = linesOf(writer.filePath());
@@ -237,10 +237,10 @@ private slots:
         const QDateTime start = QDateTime::fromString(QStringLiteral("2040-10-27T23:15:00Z"), Qt::ISODate);
         const struct
         {
-            int seconds; // behind the start
+            int seconds; // after the start
             const char *file;
         } rows[] = {{0, "20401028_011500"},      {3599, "20401028_011500"},
-                    {-9000, "20401028_011500"}, // stepped back
+                    {-9000, "20401028_011500"}, // the clock stepped back
                     {3600, "20401028_021500"},   {7199, "20401028_021500"},
                     {7200, "20401028_021501"}, // the hour that the clocks go through twice
                     {-90000, "20401028_021501"}, {7200, "20401028_021501"},
@@ -254,7 +254,7 @@ private slots:
             ++lines[expected];
         }
         writer.flushPendingAndClose();
-        writer.enqueue91(sample(1)); // in the second of a file that is closed
+        writer.enqueue91(sample(1)); // in the same second as a closed file
         writer.flushPendingAndClose();
         ++lines[path("data_20401029_021501.csv")];
         for (auto line = lines.cbegin(); line != lines.cend(); ++line)
@@ -291,7 +291,7 @@ private slots:
             writer.enqueue91(sample(1));
             writer.enqueue63({}, 1);
             QCOMPARE(overflow.count(), 1);
-            QCoreApplication::processEvents(); // the drain that was asked for
+            QCoreApplication::processEvents(); // the drain that was requested
             QCOMPARE(writer.getFrameCtr(), unsigned(round * kQueue));
             QCOMPARE(writer.droppedRecords(), unsigned(round * 2));
         }

@@ -8,7 +8,7 @@
 #include "ui/status_text.h"
 #include "ui/trace_buffer.h"
 
-/// What the main window's numbers, texts and traces are made of.
+/// The parts that make up the main window's numbers, texts and traces.
 class TestDisplayParts : public QObject
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ private slots:
 
     void formatsNumbers()
     {
-        // The texts with a sign; without it they differ in the plus only.
+        // The texts with a sign; those without differ only in the plus.
         const std::tuple<double, int, QString> rows[] = {
             {1.2345, 3, QStringLiteral("+1.234")},
             {-0.0004, 3, QStringLiteral("0.000")},
@@ -90,7 +90,7 @@ private slots:
         for (const float value : {1.0F, -3.0F, 2.0F})
             append(10 * kStep + qint64(value) + 4, value, 7.0F);
         append(11 * kStep, 9.0F);
-        append(10 * kStep + 9, 0.0F, 7.0F); // it arrived late, and has its place
+        append(10 * kStep + 9, 0.0F, 7.0F); // it arrived late, and still has its place
         QCOMPARE(int(m_trace.at(0, 1).lowMs), 1);
         QCOMPARE(int(m_trace.at(0, 1).highMs), 6);
         QCOMPARE(m_trace.at(0, 0).low, 9.0F);

@@ -76,7 +76,7 @@ QList<Mnemonic> mnemonicsOf(const QWidget *window)
     return all;
 }
 
-/// Texts that answer to the same key at the same time.
+/// Texts that respond to the same key at the same time.
 QStringList clashes(const QList<Mnemonic> &all)
 {
     QStringList found;
@@ -103,7 +103,7 @@ QStringList menuClashes(const QWidget *window)
     return found;
 }
 
-/// What a screen reader says of an object that takes the keyboard or is a control: nothing is a fault.
+/// What a screen reader says about an object that takes the focus or is a control: an empty text is a fault.
 QString silence(QAccessibleInterface *interface)
 {
     const QString name = interface->text(QAccessible::Name);
@@ -119,7 +119,7 @@ QString silence(QAccessibleInterface *interface)
         .arg(name);
 }
 
-/// The controls of a declarative view that a screen reader says nothing about.
+/// The controls of a declarative view about which a screen reader says nothing.
 QStringList silentItems(const QQuickItem *item)
 {
     QStringList found;
@@ -145,7 +145,7 @@ bool isControl(const QWidget *widget)
 
 } // namespace
 
-/// What has to hold in every window: keys that mean one thing, names for screen readers, a focus that can be seen.
+/// What must hold in every window: unambiguous keys, names for screen readers, a visible focus.
 class TestEveryWindow : public QObject
 {
     Q_OBJECT
@@ -175,7 +175,7 @@ private slots:
         QVERIFY(connectTo(*m_desk, *m_simulator));
         for (const char *opener : kOpeners)
             m_desk->find<QAction>(opener)->trigger();
-        m_desk->window->on_action_wireless_gateway_dashboard_triggered(); // its action wants a gateway
+        m_desk->window->on_action_wireless_gateway_dashboard_triggered(); // its action needs a gateway
         QTRY_VERIFY(openWidgets().size() >= 8);
     }
     void cleanupTestCase()
@@ -229,7 +229,7 @@ private slots:
         QVERIFY(card->text(QAccessible::Value).startsWith(QLatin1String("Acceleration X ")));
     }
 
-    /// Tab reaches every control, and each looks different when it has the keyboard.
+    /// Tab reaches every control, and each looks different when it has the focus.
     void theFocusGoesEverywhereAndShows()
     {
         QStringList found;

@@ -98,7 +98,7 @@ private slots:
         }
         Bench bench({usbPort(0, QStringLiteral("B"))});
         QCOMPARE(bench.selected(), QLatin1String("/dev/ttyUSB0"));
-        // It is plugged in while the dialog waits, at another place: it is what the user is waiting for.
+        // It is plugged in at another place while the dialog waits: it is the port that the user is waiting for.
         bench.ports.append(usbPort(1, QStringLiteral("A")));
         QTRY_COMPARE(bench.selected(), QLatin1String("/dev/ttyUSB1"));
         QCOMPARE(bench.path->text(), QLatin1String("/dev/ttyUSB1"));
@@ -125,7 +125,7 @@ private slots:
         for (const QList<QVariant> &change : changes) // other rows were not even redrawn
             QVERIFY(change.at(0).toModelIndex().row() >= 50);
 
-        // The chosen one goes and comes again.
+        // The chosen one disappears and comes back.
         const PortEntry gone = bench.ports.takeAt(40);
         QTRY_COMPARE(bench.tree->topLevelItemCount(), 59);
         QCOMPARE(bench.selected(), QString());
@@ -141,7 +141,7 @@ private slots:
 
     void refusesBadInputWithAReason()
     {
-        const std::tuple<const char *, const char *, bool> rows[] = {{"/dev/nothing", "9600", true}, // it may come
+        const std::tuple<const char *, const char *, bool> rows[] = {{"/dev/nothing", "9600", true}, // may appear
                                                                      {"/dev", "9600", false},
                                                                      {"  ", "9600", false},
                                                                      {"/dev/null", "12", false}};

@@ -57,7 +57,7 @@ struct Bench
         child<QLineEdit>("LE_folder")->setText(folder);
         child<QLineEdit>("LE_name")->setText(name);
     }
-    /// Starts with what the fields hold; true when the file is open.
+    /// Starts with the contents of the fields; true when the file is open.
     bool start()
     {
         press();
@@ -68,7 +68,7 @@ struct Bench
         recorder.stop();
         recorder.waitForFile();
     }
-    /// Presses the button by the keyboard.
+    /// Presses the button with the keyboard.
     void press(const char *name = "BTN_record")
     {
         child<QWidget>(name)->setFocus();
@@ -87,7 +87,7 @@ QList<node_data_t> batch()
     return QList<node_data_t>(16);
 }
 
-/// Puts a mark and 40 % more text behind every text of the dialog.
+/// Appends a mark and 40 % more text to every text of the dialog.
 class LongLanguage : public QTranslator
 {
 public:
@@ -141,7 +141,7 @@ private slots:
         QFETCH(QString, state);
         Bench bench;
         bench.type(m_folder->path(), QStringLiteral("a"));
-        bench.child<QCheckBox>("CHK_resume")->click(); // what is chosen is in force, and kept
+        bench.child<QCheckBox>("CHK_resume")->click(); // the choice takes effect, and is kept
         QVERIFY(bench.recorder.options().resumes && Recorder().options().resumes);
         QVERIFY(bench.start());
         bench.recorder.setOptions(options);
@@ -160,7 +160,7 @@ private slots:
     {
         QTest::addColumn<bool>("resumes");
         QTest::addColumn<bool>("isLoss");
-        QTest::addColumn<bool>("stopped"); // while it waited
+        QTest::addColumn<bool>("stopped"); // while it was waiting
         QTest::addColumn<bool>("goesOn");
         QTest::newRow("lost") << true << true << false << true;
         QTest::newRow("not asked to") << false << true << false << false;
@@ -363,7 +363,7 @@ private slots:
             bench.recorder.stop();
             bench.press();
             QVERIFY(!bench.recorder.isRecording() && bench.notice().contains(QLatin1String("still being written")));
-            QTRY_COMPARE(bench.state(), State::Idle); // it ends by itself
+            QTRY_COMPARE(bench.state(), State::Idle); // it ends automatically
             QVERIFY(!bench.notice().contains(QLatin1String("still being written")) && trouble.count() == 1);
             const unsigned int dropped = sent - bench.recorder.recordCount();
             QVERIFY(bench.notice().endsWith(QLatin1String("dropped: ") + QString::number(dropped)));
@@ -395,11 +395,11 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(bench.notice().contains(QLatin1String("cannot be written: ")), kNoticeMs);
         QTRY_VERIFY_WITH_TIMEOUT(bench.notice().contains(QLatin1String("could not be written: ")), kNoticeMs);
         bench.stop();
-        QVERIFY(bench.notice().contains(QLatin1String("cannot be written: "))); // neither could the rest
+        QVERIFY(bench.notice().contains(QLatin1String("cannot be written: "))); // nor could the rest
         QCOMPARE(linesOf(bench.file()), qsizetype(bench.recorder.recordCount()) + 1);
     }
 
-    /// While every call to the disk takes its time, no click and no key waits for one; what arrives is recorded.
+    /// While every call to the disk is slow, no click and no key waits for one; what arrives is recorded.
     void aSlowDiskHoldsNothingUp()
     {
         const QString folder = m_folder->filePath(QStringLiteral("slow/new"));

@@ -25,7 +25,7 @@ namespace {
 
 constexpr int kBaud = 921600;
 
-/// A device on a pseudo-terminal that answers from a table and keeps what it was sent.
+/// A device on a pseudo-terminal that answers from a table and logs what it receives.
 class Peer : public QObject
 {
 public:
@@ -40,7 +40,7 @@ public:
     QByteArray settings; ///< lines of the information
     QByteArray otherReply = "OK\r\n";
     QByteArray received;
-    int lostResumes = 0; ///< so many of the next commands that resume the output get lost on the line
+    int lostResumes = 0; ///< number of the next resume commands that get lost on the line
 
 private:
     void poll()
@@ -98,7 +98,7 @@ struct Bench
         child<QWidget>(field)->setFocus();
         QTest::keyClicks(child<QWidget>(field), QLatin1String(text));
     }
-    /// Presses a button by the keyboard. Returns when its command has ended.
+    /// Presses a button with the keyboard. Returns when its command has ended.
     void press(const char *name)
     {
         QTRY_VERIFY(button(name)->isEnabled()); // not while the output is resumed once more
@@ -106,7 +106,7 @@ struct Bench
         QTest::keyClick(button(name), Qt::Key_Space);
     }
     QString status() const { return child<QLabel>("LBL_status")->text(); }
-    /// Runs `action` once, inside the next command's wait.
+    /// Runs `action` once, during the next command's wait.
     template <typename Action> void duringTheWait(Action action)
     {
         const auto once = Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection);
@@ -163,7 +163,7 @@ private slots:
             "AT+RST\r\nAT+EOUT=0\r\nAT+EOUT=0\r\nAT+EOUT=0\r\nAT+EOUT=0\r\nAT+INFO\r\nAT+EOUT=1\r\n";
         for (const bool isAt : {true, false}) {
             Bench bench(isAt ? "MZ226 V1" : "KV080 V1");
-            // Nothing is known about the device's settings, so nothing may be written unchosen.
+            // Nothing is known about the device's settings, so nothing may be written that was not chosen.
             QCOMPARE(bench.button("BTN_save")->isEnabled(), !isAt);
             if (isAt) {
                 bench.child<QSpinBox>("SB_id")->selectAll();
@@ -179,7 +179,7 @@ private slots:
                              + read);
             QCOMPARE(bench.status(), QLatin1String("The settings were sent and the device has restarted."));
 
-            // Kept for this product, for as long as the program runs.
+            // Kept for this product as long as the program runs.
             bench.identify("MZ221GW V2");
             bench.identify(isAt ? "MZ226 V1" : "KV080 V1");
             QVERIFY(bench.button("BTN_save")->isEnabled());
@@ -203,7 +203,7 @@ private slots:
         QCOMPARE(shown(), lines("7 100 1"));
         QVERIFY(bench.button("BTN_save")->isEnabled());
 
-        // What is typed stays while nobody answers, and when the same device answers again.
+        // Typed values stay while nobody answers, and when the same device answers again.
         bench.child<QSpinBox>("SB_id")->setValue(17);
         const QByteArray infoReply = std::exchange(bench.peer.infoReply, QByteArray());
         bench.press("BTN_identify");
@@ -211,7 +211,7 @@ private slots:
                  QLatin1String("The device does not answer. Check the baud rate, then identify it again."));
         QCOMPARE(shown(), lines("17 100 1"));
         QVERIFY(bench.child<QWidget>("SB_id")->isVisible() && !bench.button("BTN_save")->isEnabled());
-        // The baud rate cannot be wrong where data arrive.
+        // The baud rate cannot be wrong when data arrive.
         bench.session->takePayload(frames::fullRecord(1));
         bench.press("BTN_identify");
         QCOMPARE(bench.status(),
@@ -220,7 +220,7 @@ private slots:
         bench.press("BTN_identify");
         QCOMPARE(shown(), lines("17 100 1"));
 
-        // Another answer is that of another device, or what was saved.
+        // A different answer comes from another device, or reports what was saved.
         bench.peer.infoReply.replace("ID: 7", "ID: 17").replace("ODR: 100", "ODR: 200");
         bench.press("BTN_save");
         QCOMPARE(shown(), lines("17 200 1"));

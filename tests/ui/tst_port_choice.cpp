@@ -35,12 +35,12 @@ private slots:
         const PortEntry a1 = usbPort("/dev/ttyUSB1", "A");
         const PortEntry b0 = usbPort("/dev/ttyUSB0", "B");
         const PortEntry plain = plainPort("/dev/ttyS0");
-        QCOMPARE(preselect({b0, a1}, a0), 1); // it has moved, and another took its place
+        QCOMPARE(preselect({b0, a1}, a0), 1); // it has moved, and another one has taken its place
         QCOMPARE(preselect({plain, b0}, a0), 1);
         QCOMPARE(preselect({usbPort("/dev/ttyUSB1", "B")}, a0), -1);
         QCOMPARE(preselect({usbPort("/dev/ttyUSB1", "A", 0x0403, 0x6015)}, a0), -1);
         QCOMPARE(preselect({usbPort("/dev/ttyUSB1", "A", 0x0404)}, a0), -1);
-        // Two alike without serial numbers, and one without any identity: the place decides.
+        // Two alike without serial numbers, and one without any identity: the path decides.
         QCOMPARE(preselect({usbPort("/dev/ttyUSB0", ""), usbPort("/dev/ttyUSB1", "")}, usbPort("/dev/ttyUSB1", "")), 1);
         QCOMPARE(preselect({a0, plain}, plain), 1);
         QCOMPARE(preselect({plainPort("/dev/ttyS1")}, plain), -1);
@@ -83,7 +83,7 @@ private slots:
         QVERIFY(write(settings, device));
         QCOMPARE(read(settings).port, device.port);
         QCOMPARE(read(settings).baudRate, 460800);
-        // A port without identity must not inherit the one before.
+        // A port without identity must not inherit that of the previous one.
         QVERIFY(write(settings, {plainPort("/dev/pts/3"), 9600}));
         QCOMPARE(read(settings).port, plainPort("/dev/pts/3"));
     }
@@ -120,7 +120,7 @@ private slots:
         QVERIFY(writeFile(file, {}));
 
         QCOMPARE(pathState(link), PathState::Usable);
-        QCOMPARE(pathState(QStringLiteral("null")), PathState::Usable); // a short name is one of /dev
+        QCOMPARE(pathState(QStringLiteral("null")), PathState::Usable); // a short name belongs to /dev
         QCOMPARE(pathState(dangling), PathState::Missing);
         QCOMPARE(pathState(file), PathState::NotADevice);
         QCOMPARE(pathState(folder.path()), PathState::NotADevice);

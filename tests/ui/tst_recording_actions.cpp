@@ -25,7 +25,7 @@ QByteArray contents(const QString &path)
 
 } // namespace
 
-/// Recording by single keys in the real main window, with a real device.
+/// Recording with single keys in the real main window, with a simulated device on a real port.
 class TestRecordingActions : public QObject
 {
     Q_OBJECT
@@ -52,7 +52,7 @@ private slots:
         QVERIFY2(desk.label("label_status").startsWith(QLatin1String("Marker 1 at ")),
                  qPrintable(desk.label("label_status")));
         QTest::keyClick(window, Qt::Key_M);
-        desk.find<QAction>("actionDevice_Settiing")->trigger(); // the key counts in every window
+        desk.find<QAction>("actionDevice_Settiing")->trigger(); // the key works in every window
         QApplication::setActiveWindow(desk.settings());
         QTest::keyClick(desk.settings(), Qt::Key_F9);
         QTRY_COMPARE(recorder.state(), Recorder::State::Idle);

@@ -153,7 +153,7 @@ private slots:
         panel.setModel(model);
         PaintCounter counter(panel.findChild<ValueCard *>());
         QTRY_VERIFY(!panel.testAttribute(Qt::WA_PendingUpdate));
-        // The values stand still: what is painted is the trace, once per step of its time, samples or not.
+        // The values do not change: only the trace is painted, once per step of its time, with or without samples.
         for (qint64 now = 1000; now < 1000 + 10 * TraceBuffer::kBucketMs; ++now) {
             panel.appendSample(sampleAt(now, now, 0));
             panel.advance(now);
@@ -162,11 +162,12 @@ private slots:
         QVERIFY2(counter.paints >= 10 && counter.paints <= 12, qPrintable(QString::number(counter.paints)));
     }
 
-    /// A smooth motion gives a smooth line from edge to edge, however its samples come in; and none where they miss.
+    /// A smooth motion gives a smooth line from edge to edge, however its samples arrive; and none where they are
+    /// missing.
     void drawsTheTrace_data()
     {
         QTest::addColumn<double>("periodMs");
-        QTest::addColumn<int>("lumpMs"); // arrivals come together so often
+        QTest::addColumn<int>("lumpMs"); // samples arrive together this often
         QTest::addColumn<int>("silentMs");
         QTest::addColumn<StreamBreak>("brokenBy");
         QTest::newRow("400 samples/s") << 2.5 << 1 << 0 << StreamBreak::None;
@@ -191,7 +192,7 @@ private slots:
             hostMs = (qint64(time) / lumpMs + 1) * lumpMs;
             StreamSample sample = sampleAt(qint64(time), hostMs, float(1.8 * std::sin(2 * M_PI * time / 1500)));
             if (brokenBy != StreamBreak::None)
-                sample.deviceMs = 0; // no clock: the stream says it
+                sample.deviceMs = 0; // no clock: the stream reports it
             if (time > 5000 && !std::exchange(isAfter, true))
                 sample.brokenBy = brokenBy;
             panel.appendSample(sample);

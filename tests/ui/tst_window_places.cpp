@@ -18,7 +18,7 @@
 
 namespace {
 
-/// A window of one of both kinds, for the length of a run of the program.
+/// A window of either kind, for the duration of a run of the program.
 struct AnyWindow
 {
     std::unique_ptr<QWidget> widget;

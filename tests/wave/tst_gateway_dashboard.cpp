@@ -42,7 +42,7 @@ private slots:
                                                         {1000, 3000, NodeState::Live}, {1000, 3001, NodeState::Late},
                                                         {1000, 6000, NodeState::Late}, {1000, 6001, NodeState::Gone}};
         for (const auto &[period, age, state] : rows) {
-            for (const bool stamped : {true, false}) { // arrivals serve where there is no clock
+            for (const bool stamped : {true, false}) { // arrivals are used where there is no clock
                 GatewayNodeTracker tracker;
                 for (int i = 1; i <= 8; ++i)
                     tracker.addSamples({sampleOf(1, stamped ? unsigned(i * period) : 0)}, i * period);
@@ -61,7 +61,7 @@ private slots:
                 tracker.addSamples({sampleOf(1)}, now);
             return tracker.nodes(now).first().rateHz;
         };
-        QCOMPARE(run(15), 0.0); // 300 ms are too short to say
+        QCOMPARE(run(15), 0.0); // 300 ms are too short for a rate
         QCOMPARE(run(35), 50.0);
         QCOMPARE(run(150), 50.0);
         QCOMPARE(tracker.nodes(now + 1000).first().rateHz, 25.0);
@@ -70,7 +70,7 @@ private slots:
         QCOMPARE(run(50), 50.0); // since it came back
     }
 
-    /// What is missing is counted in one place only: whatever the stamps here say, the table shows that count.
+    /// Missing samples are counted in one place only: whatever the stamps here are, the table shows that count.
     void showsTheCountThatItIsGiven()
     {
         GatewayNodeTracker tracker;
@@ -181,7 +181,7 @@ private slots:
             bridge.setNodeChosen(id, false);
         bridge.setTypeSelected(QStringLiteral("prs"), false);
         bridge.setNodeChosen(9, false);
-        bridge.setNodeChosen(3, true); // takes the place that got free
+        bridge.setNodeChosen(3, true); // takes the place that became free
         QCOMPARE(panes(), QLatin1String("18:0acc 6:2acc 0:3acc 12:255acc/2"));
         bridge.setTypeSelected(QStringLiteral("acc"), false);
         QCOMPARE(panes(), QLatin1String("/1"));
@@ -223,7 +223,7 @@ private slots:
         bridge.setPlaying(false);
         bridge.updateGatewaySamples({sampleOf(1, 200)});
         QCOMPARE(chart->newestTimeSec(), 0.138);
-        // The connection ends: everything stays, however much time passes, and nothing is added.
+        // The connection ends: everything stays, no matter how much time passes, and nothing is added.
         bridge.setPlaying(true);
         bridge.setEnded(true);
         bridge.updateGatewaySamples({sampleOf(1, 300), sampleOf(7, 300)});
@@ -250,7 +250,7 @@ private slots:
         bridge.setDashboardActive(true);
         for (unsigned int stamp = 10; stamp <= 1000; stamp += 10) {
             QList<GatewaySample> samples;
-            for (int id = 0; id < 200; ++id) // far more than there can be
+            for (int id = 0; id < 200; ++id) // far more than can exist
                 samples += sampleOf(id, stamp);
             bridge.updateGatewaySamples(samples);
         }
@@ -267,14 +267,14 @@ private slots:
         bridge.updateGatewaySamples({sampleOf(7, 1010)});
         bridge.setNodeChosen(7, true);
         QCOMPARE(acceleration()->model().count(), 101);
-        QCOMPARE(bridge.findChildren<WaveChartBridge *>().size() % 16, 0); // 16 nodes at most, and what they send
+        QCOMPARE(bridge.findChildren<WaveChartBridge *>().size() % 16, 0); // 16 nodes at most, and their data
         bridge.setNodeChosen(7, false);
-        bridge.setNodeChosen(180, true); // takes the room of one that nobody chose
+        bridge.setNodeChosen(180, true); // replaces one that nobody chose
         QVERIFY(!acceleration()->hasData());
         bridge.updateGatewaySamples({sampleOf(180, 1010)});
         QVERIFY(acceleration()->hasData());
         bridge.setDashboardActive(false);
-        // What was collected for nobody goes.
+        // Samples collected for unchosen nodes are discarded.
         QTRY_VERIFY(bridge.findChildren<WaveChartBridge *>().size() <= kSensorTypeCount);
         QCOMPARE(bridge.panes().size(), 1);
     }
@@ -283,7 +283,7 @@ private slots:
     {
         const QTemporaryDir folder;
         const QString path = folder.filePath(QStringLiteral("param.ini"));
-        // What the file holds; nodes that are chosen when they are heard; types.
+        // Contents of the file; nodes that are chosen when they are heard; types.
         const std::tuple<QByteArray, QList<int>, QString> rows[] = {
             {"", {}, QStringLiteral("acc")},
             {"[WIRELESS_DASHBOARD]\nNODES=3, 250\nTYPES=gyr, prs\nLINKED=true\n", {3, 250}, QStringLiteral("gyr prs")},

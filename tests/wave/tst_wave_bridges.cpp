@@ -74,7 +74,7 @@ private slots:
         QVERIFY(!chart.hasData());
         chart.setObserved(false);
         push(chart, 200);
-        chart.reset(); // hidden: nobody looks
+        chart.reset(); // hidden: nobody is looking
         QCOMPARE(order.size(), 8);
     }
 
@@ -135,7 +135,7 @@ private slots:
         QVERIFY(!chart.filterOn());
     }
 
-    /// What stays of picture, marks and filter when the stream starts again.
+    /// What remains of picture, marks and filter when the stream restarts.
     void startsTheStreamAgain()
     {
         SensorDashboardBridge dashboard;
@@ -155,27 +155,27 @@ private slots:
         for (const auto &[kind, samples, expected] : rows) {
             chart.reset();
             QCOMPARE(chart.trySetFilter(true, 5), QString());
-            dashboard.restartStream(kind); // the first sample comes after it: nothing to mark
+            dashboard.restartStream(kind); // it precedes the first sample: nothing to mark
             const float values[] = {100, 100, 100, 100};
             for (const unsigned int stamp : {1000U, 2000U, 3000U})
                 chart.pushSample(values, 4, stamp);
             const double first = chart.getValuesAtTime(-2).at(0).toDouble();
             QVERIFY(first > 0 && chart.getValuesAtTime(0).at(0).toDouble() > first); // it rises from 0
             dashboard.restartStream(kind);
-            QCOMPARE(marks(), QString()); // not before the sample that it lies before
+            QCOMPARE(marks(), QString()); // not until the sample after it arrives
             chart.pushSample(values, 4, 10000);
             QCOMPARE(marks(), expected);
             QCOMPARE(chart.model().count(), samples);
-            QCOMPARE(chart.getValuesAtTime(0).at(0).toDouble(), first); // and once more
+            QCOMPARE(chart.getValuesAtTime(0).at(0).toDouble(), first); // and again
             QVERIFY(chart.filterOn() && chart.filterCutoffHz() == 5);
         }
     }
 
-    /// Curves end where nothing came, and say why.
+    /// Curves are broken where nothing arrived, and say why.
     void breaksWhereNothingCame()
     {
         const std::tuple<const char *, bool, unsigned int, int, int, int> rows[] = {
-            // Paused meanwhile, stamp after it; breaks of the curve, marks, missing.
+            // Paused in between, stamp after it; breaks of the curve, marks, missing.
             {"steady", false, 510, 0, 0, 0},
             {"one is missing", false, 520, 1, 0, 1},
             {"many are missing", false, 1500, 1, 0, 99},
@@ -205,7 +205,7 @@ private slots:
         }
     }
 
-    /// What the trigger sees in a row of samples, one each 10 ms.
+    /// What the trigger sees in a series of samples, one every 10 ms.
     void triggersOnEvents()
     {
         using Edge = WaveTrigger::Edge;
@@ -260,7 +260,7 @@ private slots:
             run(10, 3000, 0);
             QVERIFY(!chart.holds());
             run(3000, 3750, 1);
-            QVERIFY(!chart.holds()); // what follows the event is not complete
+            QVERIFY(!chart.holds()); // the part after the event is not complete
             run(3750, 3760, 1);
             QVERIFY(chart.holds());
             QCOMPARE(chart.newestTimeSec(), 3.75);
@@ -273,7 +273,7 @@ private slots:
             run(4500, 5260, 1); // a second event
             QCOMPARE(chart.newestTimeSec(), mode == Mode::Single ? 3.75 : 5.25);
             run(5260, 9000, 1);
-            QCOMPARE(chart.holds(), mode != Mode::Auto); // nothing happened for long
+            QCOMPARE(chart.holds(), mode != Mode::Auto); // nothing happened for a long time
             chart.release();
             QVERIFY(!chart.holds());
             QCOMPARE(chart.newestTimeSec(), 8.99); // nothing was lost
@@ -283,7 +283,7 @@ private slots:
             QVERIFY(chart.holds());
             QCOMPARE(caught.size(), mode == Mode::Single ? 2 : 3);
 
-            run(10300, 10400, 0); // an edge over a break is none
+            run(10300, 10400, 0); // an edge across a break does not count
             chart.release();
             run(10400, 10500, 0);
             chart.markBreak(StreamBreak::Gap);
@@ -303,7 +303,7 @@ private slots:
         QCOMPARE(chart.breakMarks().size(), 1);
         push(chart, 2, 40000000);
         QCOMPARE(chart.breakMarks().size(), 0);
-        for (unsigned int i = 0; i < 1000; ++i) { // a stream that breaks all the time
+        for (unsigned int i = 0; i < 1000; ++i) { // a stream that keeps breaking
             chart.markBreak(StreamBreak::OutputStopped);
             push(chart, 1, 50000000 + i);
         }
@@ -334,7 +334,7 @@ private slots:
         SensorDashboardBridge dashboard;
         QSignalSpy selection(&dashboard, &SensorDashboardBridge::selectionChanged);
         QSignalSpy panes(&dashboard, &SensorDashboardBridge::paneStatesChanged);
-        // Columns, rows as the panes are dropped one after the other, six first.
+        // Columns and rows as the panes are removed one after the other, starting with six.
         const QList<QSize> grids{{3, 2}, {3, 2}, {2, 2}, {3, 1}, {2, 1}, {1, 1}, {0, 0}};
         for (int dropped = 0; dropped <= 6; ++dropped) {
             QCOMPARE(QSize(dashboard.gridColumns(), dashboard.gridRows()), grids.at(dropped));
@@ -408,7 +408,7 @@ private slots:
         const QTemporaryDir folder;
         const QString path = folder.filePath(QStringLiteral("param.ini"));
         const QString acc = QStringLiteral("acc");
-        // What the file holds, and what is made of it.
+        // Contents of the file, and the resulting choices.
         const std::tuple<QByteArray, ViewChoices, bool> rows[] = {
             {"", {}, false},
             {"[SENSOR_DASHBOARD]\nACC_SPAN=30\nACC_HIDDEN=1, 3\nACC_FILTER_HZ=5\nLINKED=true\n", {30, {1, 3}, 5}, true},

@@ -179,7 +179,7 @@ private slots:
         }
     }
 
-    /// Any window and budget, also across the end of the storage, against buckets that are cut from the raw points.
+    /// Any window and budget, also across the end of the storage, compared with buckets cut from the raw points.
     void decimatesEveryWindow()
     {
         QRandomGenerator random(7);
@@ -209,11 +209,11 @@ private slots:
         }
     }
 
-    /// No drawn line leads over parted samples, but for gaps that are narrower than a point of the budget.
+    /// No drawn line connects separated samples, except across gaps that are narrower than a point of the budget.
     void breaksCurvesWhereSamplesArePart()
     {
         using Part = WaveformDataModel::Part;
-        // Every how many samples they are parted, milliseconds without samples there, as what, points of the budget.
+        // Distance of the breaks in samples, milliseconds without samples there, kind of break, points of the budget.
         const std::tuple<int, unsigned int, Part, int> rows[] = {
             {100, 500, Part::Gap, 4000}, {100, 500, Part::Gap, 200}, {100, 0, Part::Cut, 200},
             {7, 40, Part::Gap, 60},      {2, 0, Part::Cut, 60},      {kCapacity, 0, Part::None, 300},

@@ -50,7 +50,7 @@ struct Chart
         if (changed.isEmpty())
             changed.wait();
     }
-    /// Stamp of the sample at a place of the window, in seconds: X counts in milliseconds.
+    /// Stamp of the sample at a place in the window, in seconds: X counts in milliseconds.
     double stampAt(double x) { return bridge.getValuesAtTime(x).value(0).toDouble() / 1000; }
 };
 
@@ -154,7 +154,7 @@ private slots:
         chart.view.setActive(true);
         QCOMPARE(chart.stampAt(chart.view.xViewMax()), edge);
 
-        // Emptied and filled anew, the old place and the old cursors mean nothing.
+        // Once it is cleared and filled again, the old place and the old cursors mean nothing.
         chart.bridge.reset();
         chart.add(100, 3);
         QVERIFY(chart.view.isFollowing() && !chart.view.hasCursors());
@@ -240,7 +240,7 @@ private slots:
         QVERIFY2(!chart.view.handleKey(Qt::Key_Escape, 0), "without cursors Esc belongs to the window");
     }
 
-    /// What was chosen stays while the chart is live.
+    /// The user's choice stays while the chart is live.
     void spansAndLimits()
     {
         Chart chart;
@@ -268,7 +268,7 @@ private slots:
         chart.view.fitValues(-30, 30);
         QVERIFY2(chart.view.yViewMax() < 2, "fixed where it was");
 
-        // Typed ends; those that are none change nothing.
+        // Typed ends; invalid ones change nothing.
         chart.view.setXRange(-20, -12.5);
         for (const auto &[min, max] : {std::pair{-5.0, -8.0}, {kNaN, 0.0}, {-kInf, 0.0}, {-1.0, -1.0}}) {
             chart.view.setXRange(min, max);
@@ -278,7 +278,7 @@ private slots:
 
         chart.view.setXRange(-20, -10);
         chart.view.setYRange(0, 10);
-        chart.view.zoomToBox(0.8, 0.9, 0.2, 0.4); // any corner first
+        chart.view.zoomToBox(0.8, 0.9, 0.2, 0.4); // starting at any corner
         QCOMPARE(
             QList<double>({chart.view.xViewMin(), chart.view.xViewMax(), chart.view.yViewMin(), chart.view.yViewMax()}),
             QList<double>({-18, -12, 4, 9}));
@@ -300,7 +300,7 @@ private slots:
         charts[0].view.setSpan(5);
         QCOMPARE(charts[1].view.span(), 10.0); // not linked yet
         link.setLinked(true);
-        for (Chart &chart : charts) // the one that was changed last leads, and all are live
+        for (Chart &chart : charts) // the chart changed last leads, and all are live
             QVERIFY(chart.view.span() == 5 && chart.view.isFollowing());
 
         charts[2].view.setXRange(-12, -8); // stream time 16.1 s to 20.1 s
@@ -342,7 +342,7 @@ private slots:
         QCOMPARE(measures.table().rows[0].statistics.mean, 5100.0);
         const int before = measures.computations();
         measures.refresh();
-        QCOMPARE(measures.computations(), before); // a second look is free
+        QCOMPARE(measures.computations(), before); // a second query is free
 
         chart.view.placeCursor(0, -2);
         chart.view.placeCursor(1, -4); // in any order

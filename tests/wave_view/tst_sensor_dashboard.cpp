@@ -19,7 +19,7 @@
 
 namespace {
 
-/// The window with its acceleration chart. Red is X, which no other part of a plot is.
+/// The window with its acceleration chart. Red is X and nothing else in a plot.
 struct Bench
 {
     form_sensor_dashboard window;
@@ -126,7 +126,7 @@ private slots:
         bench.click(findItem(bench.window.rootObject(), "playButton"));
         QVERIFY(bench.window.bridge().playing());
 
-        // A chart that is not chosen costs nothing.
+        // An unchosen chart costs nothing.
         bench.window.bridge().setSensorSelected(QStringLiteral("acc"), false);
         QTRY_VERIFY(findItem(bench.window.rootObject(), "noChart")->isVisible());
         const int before = bench.series->polishCount();
@@ -140,13 +140,13 @@ private slots:
         QVERIFY(bench.isShown());
         bench.push(1, 5000);
         bench.window.bridge().restartStream(StreamBreak::ClockRestarted);
-        bench.push(8000, 11000); // ten seconds are seen: the mark stands 3 s before the newest sample
+        bench.push(8000, 11000); // ten seconds are visible: the mark is 3 s before the newest sample
         QQuickItem *mark = nullptr;
         QTRY_VERIFY((mark = findItem(bench.chart, "breakMark")) != nullptr && mark->isVisible());
         QVERIFY2(bench.red(0.05, 0.38) > 0 && bench.red(0.42, 0.6) == 0, "nothing is drawn over the silence");
         const double place = mark->mapToItem(bench.plot, QPointF()).x() / bench.plot->width();
         QVERIFY2(std::abs(place - 0.701) < 0.005, qPrintable(QString::number(place)));
-        // Its colour stands from top to bottom of the plot.
+        // Its colour runs from top to bottom of the plot.
         const QColor color = mark->property("color").value<QColor>();
         const QImage image = bench.window.grabWindow();
         const double scale = image.width() / double(bench.window.width());
@@ -401,7 +401,7 @@ private slots:
             QVERIFY(QTest::qWaitForWindowActive(&window) && window.bridge().dashboardActive());
             const QPointer<QQuickItem> chip = findItem(window.rootObject(), "chip_eul");
             chip->forceActiveFocus(Qt::TabFocusReason);
-            for (const bool shown : {true, false, true}) { // the chip stays, and keeps the keyboard
+            for (const bool shown : {true, false, true}) { // the chip stays, and keeps the focus
                 QTest::keyClick(&window, Qt::Key_Space);
                 QTRY_COMPARE(findItem(window.rootObject(), "chart_eul")->isVisible(), shown);
                 QTRY_VERIFY(chip && chip->hasActiveFocus() && chip->property("checked").toBool() == shown);

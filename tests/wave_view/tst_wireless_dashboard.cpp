@@ -25,7 +25,7 @@ private:
         QTest::mouseClick(m_window.get(), Qt::LeftButton, {}, center.toPoint());
     }
     void key(int key) { QTest::keyClick(m_window.get(), Qt::Key(key)); }
-    /// A second of all nodes but `silent`, the last batch just arrived.
+    /// A second of samples from all nodes except `silent`; the last batch has just arrived.
     void feed(int silent = -1)
     {
         for (int batch = 0; batch < 100; ++batch, m_stampMs += 10) {
@@ -36,7 +36,7 @@ private:
                 GatewaySample sample{.node = {}, .timestampMs = m_stampMs, .fields = SampleField::Acceleration};
                 sample.node.id = quint8(id);
                 sample.node.acc[0] = float(batch % 20);
-                sample.node.acc[1] = -10; // parts the norm from X
+                sample.node.acc[1] = -10; // separates the norm from X
                 samples.append(sample);
             }
             m_window->updateGatewaySamples(samples);
@@ -46,7 +46,7 @@ private:
 private slots:
     void init()
     {
-        QTest::failOnWarning(QRegularExpression(QStringLiteral("^qrc:"))); // views that miss something
+        QTest::failOnWarning(QRegularExpression(QStringLiteral("^qrc:"))); // views that lack something
         QFile::remove(settings_keys::kFile);
         m_window = std::make_unique<form_wireless_dashboard>();
         m_window->resize(1366, 700);
@@ -66,7 +66,7 @@ private slots:
         click(node(8));
         click(node(9));
         feed();
-        // One falls silent: its row stays and tells it, and so does its chart; the others go on.
+        // One falls silent: its row stays and shows it, and so does its chart; the others go on.
         const auto state = [this](int id) { return node(id)->property("nodeState").toInt(); };
         const auto stateAfterFeeding = [this, state](int id) { return feed(9), state(id); };
         QTRY_COMPARE(stateAfterFeeding(9), int(NodeState::Gone));
