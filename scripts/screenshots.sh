@@ -257,7 +257,7 @@ scene_firmware() {
   click 591 150 # Connect
   sleep 4
   take firmware-ready
-  click 591 224 # Download
+  click 517 263 # Download
   sleep 6
   take firmware-done
 }
@@ -266,7 +266,7 @@ scene_firmware_wrong() {
   firmware --bootloader "flip 40"
   click 591 150
   sleep 4
-  click 591 224
+  click 517 263
   sleep 8
   take firmware-wrong
 }
@@ -286,7 +286,7 @@ scene_firmware_interrupted() {
   firmware
   click 591 150
   sleep 4
-  click 591 224
+  click 517 263
   sleep 0.6
   kill -9 "$program" && wait "$program" 2>/dev/null || true
   (cd "$work/settings" && exec "$programs/kvcenter") &
@@ -302,7 +302,7 @@ scene_firmware_failed() {
   firmware --bootloader "ignore 40:1000000"
   click 591 150
   sleep 4
-  click 591 224
+  click 517 263
   sleep 4
   take firmware-failed
 }
