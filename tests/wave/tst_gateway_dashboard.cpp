@@ -281,8 +281,6 @@ private slots:
 
     void remembersChoices()
     {
-        const QTemporaryDir folder;
-        const QString path = folder.filePath(QStringLiteral("param.ini"));
         // Contents of the file; nodes that are chosen when they are heard; types.
         const std::tuple<QByteArray, QList<int>, QString> rows[] = {
             {"", {}, QStringLiteral("acc")},
@@ -290,6 +288,8 @@ private slots:
             {"[WIRELESS_DASHBOARD]\nNODES=-1, 256, x, 3, 3\nTYPES=bogus\nLINKED=0\n", {3}, QString()},
         };
         for (const auto &[content, nodes, types] : rows) {
+            const QTemporaryDir folder; // the toolkit may miss what changes a settings file within a moment
+            const QString path = folder.filePath(QStringLiteral("param.ini"));
             QVERIFY(writeFile(path, content));
             for (int run = 0; run < 2; ++run) { // the second reads what the first has written
                 GatewayDashboardBridge bridge;
