@@ -76,6 +76,12 @@ public:
             return;
         }
         m_stage = Stage::Idle;
+        // A chip that is still erasing does not hear the connect.
+        if (isSlowErase() && !m_device.refusal && m_device.result().step == UpdateStep::Connect && m_attemptsLeft > 0) {
+            ++counts.furtherAttempts;
+            startAfter();
+            return;
+        }
         if (isSlowErase()) { // which must not be erased a second time
             counts.refused += m_device.refusal ? 1 : 0;
             counts.notRecovered += m_device.refusal ? 0 : 1;
