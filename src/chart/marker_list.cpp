@@ -91,16 +91,3 @@ void MarkerList::clear()
     emit countChanged();
     emit markersChanged();
 }
-
-QByteArray MarkerList::csv() const
-{
-    QByteArray text("time (s),UTC,text\n");
-    for (const ChartMarker &marker : m_markers) {
-        QString quoted = marker.text;
-        quoted.replace(u'"', QLatin1String("\"\""));
-        text += QByteArray::number(marker.timeSec, 'f', 3) + ','
-                + QDateTime::fromMSecsSinceEpoch(marker.utcMs, Qt::UTC).toString(Qt::ISODateWithMs).toUtf8() + ",\""
-                + quoted.toUtf8() + "\"\n";
-    }
-    return text;
-}

@@ -15,7 +15,7 @@ struct ChartMarker
 };
 
 /// The markers of a window with charts, by time: the model of its list, the markers that its charts draw, and those
-/// that recordings take over by markerAdded(), markerChanged() and csv(). At most kMaxMarkers; the oldest are dropped.
+/// that recordings take over by markerAdded() and markerChanged(). At most kMaxMarkers; the oldest are dropped.
 /// Main thread only.
 class MarkerList : public QAbstractListModel
 {
@@ -49,12 +49,6 @@ public:
     Q_INVOKABLE void setText(int row, const QString &text);
     Q_INVOKABLE void remove(int row);
     void clear();
-
-    /// All of them as a file beside a recording, lines end with a line feed:
-    ///
-    ///     time (s),UTC,text
-    ///     12.345,2026-01-31T12:00:00.000Z,"say ""when"""
-    QByteArray csv() const;
 
 signals:
     void countChanged();
