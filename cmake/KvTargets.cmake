@@ -77,6 +77,37 @@ function(kv_test name)
   kv_test_entry(${name} COMMAND $<TARGET_FILE:${name}> TIMEOUT "${ARG_TIMEOUT}" ${options})
 endfunction()
 
+# kv_qml_module(kv_wave_view URI KVCenter.Wave [FOLDER qml/wave] QML WaveChart ... [DEPENDENCIES KVCenter.Chart ...]
+# SOURCES a.cpp a.h LINK kv_wave ...): a declarative module as a static library. Its .qml files are in FOLDER, or beside
+# its CMakeLists.txt.
+function(kv_qml_module name)
+  cmake_parse_arguments(ARG "" "URI;FOLDER" "QML;DEPENDENCIES;SOURCES;LINK" ${ARGN})
+  set(files ${ARG_QML})
+  if(ARG_FOLDER)
+    list(TRANSFORM files PREPEND "${PROJECT_SOURCE_DIR}/${ARG_FOLDER}/")
+  endif()
+  list(TRANSFORM files APPEND ".qml")
+  foreach(file ${files})
+    get_filename_component(alias "${file}" NAME)
+    set_source_files_properties("${file}" PROPERTIES QT_RESOURCE_ALIAS "${alias}")
+  endforeach()
+  qt_add_library(${name} STATIC)
+  # Without the import path the compiler of the files does not see the types of our other modules, and the views run
+  # interpreted.
+  qt_add_qml_module(${name}
+    URI ${ARG_URI}
+    VERSION 1.0
+    RESOURCE_PREFIX /qt/qml
+    IMPORT_PATH "${CMAKE_BINARY_DIR}/qml"
+    DEPENDENCIES QtQuick ${ARG_DEPENDENCIES}
+    SOURCES ${ARG_SOURCES}
+    QML_FILES ${files})
+  # The generated registration includes headers by name alone; a "form_x.h" of a view is not a Designer form.
+  target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}/src" PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
+  set_target_properties(${name} PROPERTIES AUTOUIC OFF)
+  target_link_libraries(${name} PUBLIC ${ARG_LINK} Qt6::Quick PRIVATE kv_options kv_generated)
+endfunction()
+
 # kv_add_images(target): embeds the program's pictures under ":/images/".
 function(kv_add_images target)
   file(GLOB images CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/resources/images/*.png")

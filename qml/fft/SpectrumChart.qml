@@ -237,7 +237,7 @@ FocusScope {
     }
 
     ChartPlot {
-        id: plot
+        id: frame
 
         anchors {
             left: parent.left
@@ -255,13 +255,13 @@ FocusScope {
         resetButtons: Qt.RightButton | Qt.MiddleButton
         underlay: SpectrumLevels {
             anchors.fill: parent
-            plot: plot
+            plot: frame
             viewState: view
             bridge: chart.bridge
         }
         overlay: SpectrumMarks {
             anchors.fill: parent
-            plot: plot
+            plot: frame
             viewState: view
         }
         onPressed: chart.forceActiveFocus()
@@ -270,8 +270,8 @@ FocusScope {
     // Over the curves, below the names of the bands.
     Column {
         anchors {
-            top: plot.top
-            right: plot.right
+            top: frame.top
+            right: frame.right
             topMargin: Math.round(Theme.font.pointSize * 2.6)
             rightMargin: 30
         }

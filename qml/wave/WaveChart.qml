@@ -309,7 +309,7 @@ FocusScope {
     }
 
     ChartPlot {
-        id: plot
+        id: frame
 
         anchors {
             left: parent.left
@@ -325,7 +325,7 @@ FocusScope {
         xUnit: "s"
         overlay: StreamMarks {
             anchors.fill: parent
-            plot: plot
+            plot: frame
             viewState: view
         }
         handles: Repeater {
@@ -335,7 +335,7 @@ FocusScope {
                 required property WaveTrigger modelData
 
                 anchors.fill: parent
-                plot: plot
+                plot: frame
                 trigger: modelData
             }
         }
