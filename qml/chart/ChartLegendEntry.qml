@@ -2,12 +2,17 @@ import QtQuick
 import QtQuick.Templates as T
 import KVCenter.Controls
 
-/// A channel in the legend: its name in its colour and its live value. A click shows or hides it.
+/// A series in the legend: its name in its colour and its live value, and on request a piece of its line. A click shows
+/// or hides it.
 T.AbstractButton {
     id: entry
 
     property string name
+    /// For hints and screen readers, where `name` is a short one.
+    property string fullName: name
     property color color
+    property bool lineShown: false
+    property bool dashed: false
     property bool shown: true
     property string value
 
@@ -17,12 +22,27 @@ T.AbstractButton {
     hoverEnabled: true
     focusPolicy: Qt.TabFocus
     Accessible.role: Accessible.CheckBox
-    Accessible.name: name
+    Accessible.name: fullName
     Accessible.checked: shown
 
     contentItem: Row {
         spacing: 5
 
+        Row {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: entry.lineShown
+            spacing: entry.dashed ? 4 : 0
+
+            Repeater {
+                model: 2
+
+                Rectangle {
+                    width: entry.dashed ? 7 : 9
+                    height: 2
+                    color: entry.shown ? entry.color : Theme.textDisabled
+                }
+            }
+        }
         Text {
             anchors.verticalCenter: parent.verticalCenter
             text: entry.name
@@ -54,6 +74,6 @@ T.AbstractButton {
 
     HintTip {
         visible: entry.hovered
-        text: entry.shown ? qsTr("Hide %1").arg(entry.name) : qsTr("Show %1").arg(entry.name)
+        text: entry.shown ? qsTr("Hide %1").arg(entry.fullName) : qsTr("Show %1").arg(entry.fullName)
     }
 }

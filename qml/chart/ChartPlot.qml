@@ -73,7 +73,7 @@ Item {
             fill: parent
             // Room for the longest text; five characters at least, so that the plot seldom moves.
             leftMargin: Math.ceil(metrics.digit * Math.max(5, yAxis.labelLength)) + 8
-            rightMargin: Math.ceil(metrics.digit * 1.5)
+            rightMargin: Math.ceil(Math.max(metrics.digit * 1.5, endLabels.width - 6))
             topMargin: Math.ceil(readout.implicitHeight) + 2
             bottomMargin: Math.ceil(metrics.height) + 4
         }
@@ -136,6 +136,38 @@ Item {
             }
         }
 
+        // The name of each curve where it ends, so that colour is not all that distinguishes them.
+        Item {
+            id: endLabels
+
+            readonly property var places: plot.viewState.ends.length > 1 ? plot.viewState.labelPlaces(plotArea.height, metrics.height * 0.9) : []
+
+            objectName: "endLabels"
+            x: plotArea.width + 5
+            width: plot.viewState.seriesLabels.length > 1 ? longest.advanceWidth : 0
+
+            TextMetrics {
+                id: longest
+
+                font: Theme.smallFont
+                text: plot.viewState.seriesLabels.reduce((a, b) => a.length >= b.length ? a : b, "")
+            }
+            Repeater {
+                model: plot.viewState.seriesLabels.length > 1 ? plot.viewState.seriesLabels.length : 0
+
+                Text {
+                    required property int index
+                    readonly property real place: endLabels.places[index] ?? NaN
+
+                    visible: !isNaN(place)
+                    y: isNaN(place) ? 0 : Math.round(place - height / 2)
+                    text: plot.viewState.seriesLabels[index] ?? ""
+                    textFormat: Text.PlainText
+                    font: Theme.smallFont
+                    color: plot.viewState.seriesColors[index] ?? Theme.text
+                }
+            }
+        }
         SeriesItem {
             objectName: "series"
             anchors.fill: parent

@@ -46,6 +46,8 @@ constexpr std::array kIcons{
         QLatin1String(
             "M 3 2 L 3 13 L 14 13 M 1.5 4 L 3 2 L 4.5 4 M 12 11.5 L 14 13 L 12 14.5 M 6 9 L 11 9 M 6 6 L 11 6")},
     Row{QLatin1String("statistics"), false, QLatin1String("M 12.5 3 L 4 3 L 8.5 8 L 4 13 L 12.5 13")},
+    Row{QLatin1String("up"), false, QLatin1String("M 3.5 10 L 8 5.5 L 12.5 10")},
+    Row{QLatin1String("down"), false, QLatin1String("M 3.5 6 L 8 10.5 L 12.5 6")},
     Row{QLatin1String("close"), false, QLatin1String("M 3.5 3.5 L 12.5 12.5 M 12.5 3.5 L 3.5 12.5")},
 };
 

@@ -72,6 +72,16 @@ Item {
                 keys: qsTr("Space")
                 onClicked: dashboard.bridge.setPlaying(!dashboard.bridge.playing)
             }
+            Chip {
+                objectName: "overlayChip"
+                text: qsTr("Overlay")
+                checked: dashboard.bridge.overlaid
+                hint: checked ? qsTr("Show each node in a chart of its own") : qsTr("Show one quantity of all chosen nodes in one plot")
+                onClicked: {
+                    dashboard.bridge.overlaid = checked;
+                    checked = Qt.binding(() => dashboard.bridge.overlaid);
+                }
+            }
             Repeater {
                 // A number, so that the chips stay when their states change.
                 model: dashboard.bridge.typeStates.length
@@ -208,6 +218,8 @@ Item {
 
                     slot: index
                     bridge: dashboard.panes.find(pane => pane.slot === index)?.backend ?? null
+                    overlay: dashboard.panes.find(pane => pane.slot === index)?.overlay ?? null
+                    playing: dashboard.bridge.playing
                     saver: dashboard.saver
                     link: chartLink
                     markers: dashboard.bridge.markers

@@ -6,7 +6,7 @@ import KVCenter.Controls
 import KVCenter.Wave
 
 /// The radio nodes of a gateway, one row each, sixteen of them without scrolling. A click or Space chooses a node for the
-/// charts. Rows keep their place, whatever happens to their nodes.
+/// charts, Alt and the arrow keys move it. Rows keep their place, whatever happens to their nodes.
 FocusScope {
     id: table
 
@@ -17,6 +17,11 @@ FocusScope {
 
     function toggle(nodeId: int, chosen: bool) {
         refused = !bridge.setNodeChosen(nodeId, !chosen);
+    }
+
+    /// Moves the current node, and its charts.
+    function move(rows: int) {
+        bridge.moveNode(bridge.nodeModel.nodeIdAt(list.currentIndex), rows);
     }
 
     implicitWidth: columns.implicitWidth + 2 * columns.x + 10
@@ -136,6 +141,11 @@ FocusScope {
         keyNavigationEnabled: true
         model: table.bridge.nodeModel
         Keys.onPressed: event => {
+            if ((event.modifiers & Qt.AltModifier) && (event.key === Qt.Key_Up || event.key === Qt.Key_Down)) {
+                event.accepted = true;
+                table.move(event.key === Qt.Key_Up ? -1 : 1);
+                return;
+            }
             event.accepted = [Qt.Key_Space, Qt.Key_Return, Qt.Key_Enter].includes(event.key) && currentItem !== null;
             if (event.accepted)
                 (currentItem as T.ItemDelegate).clicked();
@@ -269,19 +279,46 @@ FocusScope {
         }
     }
 
+    Row {
+        id: movers
+
+        anchors {
+            right: parent.right
+            bottom: parent.bottom
+            margins: 4
+        }
+        visible: list.count > 1
+
+        ActionButton {
+            objectName: "moveUp"
+            bare: true
+            iconName: "up"
+            hint: qsTr("Move the node and its charts up")
+            keys: qsTr("Alt+Up")
+            onClicked: table.move(-1)
+        }
+        ActionButton {
+            objectName: "moveDown"
+            bare: true
+            iconName: "down"
+            hint: qsTr("Move the node and its charts down")
+            keys: qsTr("Alt+Down")
+            onClicked: table.move(1)
+        }
+    }
     Text {
         id: foot
 
         anchors {
             left: parent.left
-            right: parent.right
+            right: movers.visible ? movers.left : parent.right
             bottom: parent.bottom
             margins: 8
             leftMargin: 12
         }
         objectName: "foot"
         wrapMode: Text.WordWrap
-        text: table.refused ? qsTr("%1 nodes are shown already: drop one first.").arg(table.bridge.maxChosenNodes) : qsTr("%1 of %2 nodes chosen for charts").arg(table.bridge.chosenNodes.length).arg(table.bridge.maxChosenNodes)
+        text: table.refused ? qsTr("%1 nodes are already shown. Remove one first.").arg(table.bridge.maxChosenNodes) : qsTr("%1 of %2 nodes chosen for charts").arg(table.bridge.chosenNodes.length).arg(table.bridge.maxChosenNodes)
         textFormat: Text.PlainText
         font: Theme.smallFont
         color: table.refused ? Theme.warning : Theme.textSecondary

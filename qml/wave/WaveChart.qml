@@ -1,54 +1,18 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import KVCenter.Chart
 import KVCenter.Controls
 import KVCenter.Wave
 
-/// A chart as a card: title, legend with live values, plot with axes, crosshair and cursors, and its own buttons.
-/// Give it a `bridge`. The window around it answers the requests: pictureRequested() and dataRequested() with a file
-/// dialog, maximizeRequested() by its layout. What it shows of the bridge is in `viewState`.
-FocusScope {
+/// The chart of one sensor type of one device, with low-pass filter and trigger. Give it a `bridge`.
+TimeChart {
     id: chart
 
     property WaveChartBridge bridge: null
-    property ChartLink link: null
-    property MarkerList markers: null
-    property bool maximized: false
-    property bool canMaximize: true
-    readonly property string emptyText: bridge === null || bridge.playing ? qsTr("Waiting for samples") : qsTr("Paused")
-    readonly property alias viewState: view
-    /// Too low for live values beside the names, and too narrow for all buttons.
-    readonly property bool low: height < Theme.font.pointSize * 24
-    readonly property bool narrow: width < Theme.font.pointSize * 36
 
-    signal pictureRequested
-    signal dataRequested
-    signal maximizeRequested
-    /// This chart got the focus: by the pointer, a click or the Tab key.
-    signal touched
-    /// The M key set a marker.
-    signal markerAdded(int row)
-
-    activeFocusOnTab: true
-    Accessible.role: Accessible.Chart
-    Accessible.name: view.name
-    onActiveFocusChanged: {
-        if (activeFocus)
-            touched();
-    }
-    Keys.onPressed: event => {
-        event.accepted = view.handleKey(event.key, event.modifiers);
-        if (event.key === Qt.Key_M && event.modifiers === Qt.NoModifier && markers !== null) {
-            const row = view.addMarker();
-            event.accepted = true;
-            if (row >= 0)
-                markerAdded(row);
-        }
-    }
-
-    WaveViewState {
+    playing: bridge === null || bridge.playing
+    viewState: WaveViewState {
         id: view
 
         bridge: chart.bridge
@@ -56,233 +20,37 @@ FocusScope {
         link: chart.link
         markers: chart.markers
     }
+    extraTools: [
+        ActionButton {
+            id: filterButton
 
-    HoverHandler {
-        // Keys go to the chart under the pointer, but never take the focus from a field being edited, nor from a button
-        // that was reached by keys: it may have moved the charts below a resting pointer.
-        onHoveredChanged: {
-            const item = chart.Window.activeFocusItem;
-            if (hovered && !(item instanceof TextInput) && !(item as T.AbstractButton)?.visualFocus)
-                chart.forceActiveFocus();
+            objectName: "filterButton"
+            bare: true
+            visible: !chart.narrow && chart.bridge !== null && chart.bridge.hasFilter
+            checkable: true
+            iconName: "filter"
+            hint: qsTr("Low-pass filter")
+            // A filter that is on stays visible.
+            onClicked: checked = checked || chart.bridge.filterOn
+            Component.onCompleted: checked = chart.bridge !== null && chart.bridge.filterOn
+        },
+        ActionButton {
+            id: triggerButton
+
+            objectName: "triggerButton"
+            bare: true
+            visible: !chart.narrow
+            checkable: true
+            iconName: "trigger"
+            hint: qsTr("Trigger")
         }
-    }
-    Rectangle {
-        anchors.fill: parent
-        radius: 8
-        color: Theme.surface
-        border.width: 1
-        border.color: chart.activeFocus ? Theme.accent : Theme.line
-    }
-    // A rounded surface is blended, pixel by pixel; items behind this plain one are not drawn at all.
-    Rectangle {
-        anchors.fill: parent
-        anchors.margins: 8
-        color: Theme.surface
-    }
-
-    Item {
-        id: header
-
-        anchors {
-            left: parent.left
-            right: parent.right
-            top: parent.top
-            leftMargin: 14
-            rightMargin: 8
-            topMargin: 6
-        }
-        height: tools.height
-
-        Text {
-            id: titleText
-
-            anchors.verticalCenter: parent.verticalCenter
-            width: Math.max(0, Math.min(implicitWidth, parent.width - tools.width - unitText.width - 12))
-            elide: Text.ElideRight
-            text: view.name
-            textFormat: Text.PlainText
-            font: Theme.strongFont
-            color: Theme.text
-        }
-        Text {
-            id: unitText
-
-            anchors.left: titleText.right
-            anchors.leftMargin: 6
-            anchors.baseline: titleText.baseline
-            text: view.unit
-            textFormat: Text.PlainText
-            font: Theme.font
-            color: Theme.textSecondary
-        }
-        Row {
-            id: tools
-
-            anchors.right: parent.right
-            spacing: 2
-
-            ActionButton {
-                bare: true
-                visible: !view.following
-                checked: true
-                text: qsTr("Live")
-                objectName: "liveButton"
-                hint: qsTr("Back to the newest samples")
-                keys: qsTr("End")
-                onClicked: view.goLive()
-            }
-            ActionButton {
-                id: filterButton
-
-                objectName: "filterButton"
-                bare: true
-                visible: !chart.narrow && chart.bridge !== null && chart.bridge.hasFilter
-                checkable: true
-                iconName: "filter"
-                hint: qsTr("Low-pass filter")
-                // A filter that is on stays visible.
-                onClicked: checked = checked || chart.bridge.filterOn
-                Component.onCompleted: checked = chart.bridge !== null && chart.bridge.filterOn
-            }
-            ActionButton {
-                id: triggerButton
-
-                objectName: "triggerButton"
-                bare: true
-                visible: !chart.narrow
-                checkable: true
-                iconName: "trigger"
-                hint: qsTr("Trigger")
-            }
-            ActionButton {
-                id: rangeButton
-
-                objectName: "rangeButton"
-                bare: true
-                visible: !chart.narrow
-                checkable: true
-                iconName: "range"
-                hint: qsTr("Span and limits of the axes")
-            }
-            ActionButton {
-                id: statisticsButton
-
-                objectName: "statisticsButton"
-                bare: true
-                visible: !chart.narrow
-                checkable: true
-                iconName: "statistics"
-                hint: qsTr("Statistics")
-            }
-            ActionButton {
-                objectName: "cursorsButton"
-                bare: true
-                visible: !chart.narrow
-                enabled: view.hasData
-                checked: view.hasCursors
-                iconName: "cursors"
-                hint: view.hasCursors ? qsTr("Remove the measuring cursors") : qsTr("Measure between two cursors")
-                keys: view.hasCursors ? qsTr("Esc") : qsTr("A, B")
-                onClicked: view.toggleCursors()
-            }
-            ActionButton {
-                bare: true
-                visible: !chart.narrow
-                iconName: "reset"
-                hint: qsTr("Reset the view")
-                keys: qsTr("Home")
-                onClicked: view.reset()
-            }
-            ActionButton {
-                bare: true
-                objectName: "savePicture"
-                visible: !chart.narrow
-                enabled: view.hasData
-                iconName: "picture"
-                hint: qsTr("Save a picture of the chart")
-                onClicked: chart.pictureRequested()
-            }
-            ActionButton {
-                bare: true
-                objectName: "saveData"
-                visible: !chart.narrow
-                enabled: view.hasData
-                iconName: "save"
-                hint: qsTr("Save the visible samples")
-                onClicked: chart.dataRequested()
-            }
-            ActionButton {
-                bare: true
-                objectName: "maximizeButton"
-                visible: chart.canMaximize
-                iconName: chart.maximized ? "restore" : "maximize"
-                hint: chart.maximized ? qsTr("Show all charts") : qsTr("Show this chart alone")
-                onClicked: chart.maximizeRequested()
-            }
-        }
-    }
-
-    Column {
-        id: rows
-
-        anchors {
-            left: parent.left
-            right: parent.right
-            top: header.bottom
-            leftMargin: 14
-            rightMargin: 14
-            topMargin: 2
-        }
-        spacing: 4
-
-        Flow {
-            width: parent.width
-
-            Repeater {
-                model: view.seriesNames
-
-                ChartLegendEntry {
-                    required property int index
-                    required property string modelData
-
-                    objectName: "legend_" + modelData
-                    name: modelData
-                    color: view.seriesColors[index]
-                    shown: view.visibleSeries[index] ?? true
-                    value: chart.low ? "" : view.liveTexts[index] ?? ""
-                    onClicked: view.setSeriesVisible(index, !shown)
-                }
-            }
-        }
+    ]
+    extraRows: [
         ChartFilterRow {
             width: parent.width
             visible: (filterButton.checked && filterButton.visible) || (chart.bridge !== null && chart.bridge.filterOn)
             bridge: chart.bridge
-        }
-        ChartRangeRow {
-            objectName: "rangeRow"
-            width: parent.width
-            visible: rangeButton.checked && rangeButton.visible
-            viewState: view
-            xUnit: "s"
-            yUnit: view.unit
-            presets: Repeater {
-                model: view.spanPresets
-
-                Chip {
-                    required property double modelData
-
-                    objectName: "span_" + modelData
-                    text: qsTr("%1 s").arg(modelData)
-                    implicitHeight: Math.round(font.pointSize * 2.4 + 2)
-                    horizontalPadding: 8
-                    checkable: false
-                    checked: Math.abs(view.span - modelData) < 0.001
-                    hint: qsTr("Show %1 seconds").arg(modelData)
-                    onClicked: view.span = modelData
-                }
-            }
-        }
+        },
         Repeater {
             model: chart.bridge !== null && (triggerButton.checked || chart.bridge.trigger.on) ? [chart.bridge] : []
 
@@ -290,77 +58,26 @@ FocusScope {
                 required property WaveChartBridge modelData
 
                 objectName: "triggerRow"
-                width: rows.width
+                width: parent?.width ?? 0
                 viewState: view
                 bridge: modelData
             }
         }
-        ChartMeasurement {
-            width: parent.width
-            viewState: view
-        }
-        MeasurePanel {
-            objectName: "measurePanel"
-            width: parent.width
-            maximumHeight: Math.max(30, chart.height * 0.3)
-            viewState: view
-            measures.active: chart.visible && (view.hasCursors || (statisticsButton.checked && statisticsButton.visible))
-        }
-    }
-
-    ChartPlot {
-        id: frame
-
-        anchors {
-            left: parent.left
-            right: parent.right
-            top: rows.bottom
-            bottom: parent.bottom
-            leftMargin: 10
-            rightMargin: 14
-            topMargin: 6
-            bottomMargin: 6
-        }
+    ]
+    overlay: StreamMarks {
+        anchors.fill: parent
+        plot: chart.plot
         viewState: view
-        xUnit: "s"
-        overlay: StreamMarks {
+    }
+    handles: Repeater {
+        model: chart.bridge !== null && chart.bridge.trigger.on ? [chart.bridge.trigger] : []
+
+        TriggerLevel {
+            required property WaveTrigger modelData
+
             anchors.fill: parent
-            plot: frame
-            viewState: view
+            plot: chart.plot
+            trigger: modelData
         }
-        handles: Repeater {
-            model: chart.bridge !== null && chart.bridge.trigger.on ? [chart.bridge.trigger] : []
-
-            TriggerLevel {
-                required property WaveTrigger modelData
-
-                anchors.fill: parent
-                plot: frame
-                trigger: modelData
-            }
-        }
-        onPressed: chart.forceActiveFocus()
-    }
-
-    // Over the frozen lines, so that the title keeps its room.
-    PlotMark {
-        objectName: "staleMark"
-        anchors {
-            top: rows.bottom
-            right: parent.right
-            topMargin: 14
-            rightMargin: 22
-        }
-        visible: view.stale
-        text: qsTr("No new samples")
-        ink: Theme.warning
-    }
-
-    EmptyState {
-        anchors.centerIn: parent
-        anchors.verticalCenterOffset: 20
-        width: parent.width - 40
-        visible: !view.hasData
-        text: chart.emptyText
     }
 }

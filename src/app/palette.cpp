@@ -44,6 +44,9 @@ constinit const Palette palette::kLight{
 
     .axisX = rgb(0xAB221D), .axisY = rgb(0x0D8B4D), .axisZ = rgb(0x4153AF), .axisW = rgb(0x6B7280), .norm = rgb(0x111827),
 
+    .curves = {rgb(0x008CFC), rgb(0x700000), rgb(0xFC0000), rgb(0x3800C4), rgb(0x8C70A8), rgb(0x00001C), rgb(0xC47070),
+               rgb(0x540070)},
+
     .connected = rgb(0x90EE90), .onConnected = rgb(0x111827),
 
     .pickerBackground = rgb(0xEDF4FB), .pickerBorder = rgb(0xD6E0EC), .pickerHover = rgb(0x93C5FD),
@@ -74,6 +77,9 @@ constinit const Palette palette::kDark{
 
     .axisX = rgb(0xF2726B), .axisY = rgb(0x43C383), .axisZ = rgb(0x8FA2FA), .axisW = rgb(0xA5ADB9), .norm = rgb(0xE8EAED),
 
+    .curves = {rgb(0x1C8CC4), rgb(0xFCC400), rgb(0xE01C00), rgb(0x00FC8C), rgb(0xA8A8A8), rgb(0xFCFCFC), rgb(0xC45454),
+               rgb(0xA81CFC)},
+
     .connected = rgb(0x1F5A2E), .onConnected = rgb(0xE8EAED),
 
     .pickerBackground = rgb(0x14171B), .pickerBorder = rgb(0x474E59), .pickerHover = rgb(0x5B93FF),
@@ -101,6 +107,10 @@ QColor Palette::drawn(const QColor &natural) const
     for (const auto &[color, mine] : own) {
         if (color.rgb() == natural.rgb())
             return mine;
+    }
+    for (size_t i = 0; i < curves.size(); ++i) {
+        if (light.curves[i].rgb() == natural.rgb())
+            return curves[i];
     }
     QColor seen = natural;
     float hue = 0;

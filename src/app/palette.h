@@ -2,6 +2,8 @@
 
 #include <QColor>
 
+#include <array>
+
 /// All colours of one appearance: what widgets, declarative views, charts and pictures are drawn with. There are two,
 /// palette::kLight and palette::kDark. Nothing else in the program names a colour, except for the inherent colours of
 /// quantities, see drawn().
@@ -44,6 +46,9 @@ struct Palette
 
     // Quantities.
     QColor axisX, axisY, axisZ, axisW, norm;
+
+    /// Many curves of one quantity: they can be distinguished with every kind of colour vision.
+    std::array<QColor, 8> curves;
 
     // The connected button of the update window.
     QColor connected, onConnected;

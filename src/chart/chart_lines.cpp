@@ -66,12 +66,17 @@ void ChartLines::buildLines()
     const series_geometry::Plot plot{m_content.x, m_content.y, width() - 2 * kBleed, height() - 2 * kBleed, kBleed};
     const double half = series_geometry::halfWidth(kLineWidth, m_pixelRatio);
     const bool painted = isSoftware();
+    const double dashOrigin = kBleed + (m_content.dashPlace - plot.x.min) / plot.x.span() * plot.width;
     m_lines.resize(m_content.points.size());
     for (size_t i = 0; i < m_lines.size(); ++i) {
         Line &line = m_lines[i];
         line.color = m_content.colors[i];
         series_geometry::toPixels(m_content.points[i], plot, line.pixels);
         series_geometry::simplify(line.pixels);
+        if (i < m_content.dashed.size() && m_content.dashed[i]) {
+            m_undashed.swap(line.pixels);
+            series_geometry::dash(m_undashed, dashOrigin, line.pixels);
+        }
         line.strip.clear();
         if (!painted)
             series_geometry::appendStrip(line.pixels, half, line.strip);

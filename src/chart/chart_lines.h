@@ -50,6 +50,8 @@ protected:
     {
         std::vector<QList<QPointF>> points; ///< per line; kept between frames, so clear the lists that are not drawn
         std::vector<QColor> colors;         ///< per line
+        std::vector<bool> dashed;           ///< per line; may be shorter: the others are solid
+        double dashPlace = 0;               ///< a position on the horizontal axis where dashes begin
         chart_range::Range x;               ///< visible part of the axes
         chart_range::Range y;
     };
@@ -71,6 +73,7 @@ private:
 
     Content m_content;
     std::vector<Line> m_lines;
+    std::vector<QPointF> m_undashed; ///< reused
     double m_pixelRatio = 1;
     bool m_isPolishing = false;
     int m_polishCount = 0;

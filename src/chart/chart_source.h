@@ -16,6 +16,9 @@ public:
     virtual int seriesCount() const = 0;
     /// For the legend, in the language of the interface.
     virtual QString seriesName(int series) const = 0;
+    /// A short name, which stands at the end of the curve.
+    virtual QString seriesLabel(int series) const { return seriesName(series); }
+    virtual bool isSeriesDashed(int) const { return false; }
     /// 0xRRGGBB.
     virtual quint32 seriesRgb(int series) const = 0;
     /// The series that is painted at a position in the z-order, 0 the lowest.

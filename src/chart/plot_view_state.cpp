@@ -18,6 +18,7 @@ constexpr double kZoomPerNotch = 0.8;
 constexpr double kPanPerKey = 0.1;
 constexpr double kPanPerNotch = 0.1;
 constexpr int kManySteps = 20;        ///< of a cursor, with Ctrl
+constexpr int kEndsMs = 100;
 constexpr double kSmallestBox = 0.01; ///< of the plot
 
 } // namespace
@@ -26,6 +27,9 @@ PlotViewState::PlotViewState(MainAxis mainAxis, chart_range::Range x, chart_rang
     : QObject(parent), m_x(x), m_y(y), m_mainAxis(mainAxis)
 {
     connect(this, &PlotViewState::seriesChanged, this, &PlotViewState::colorsChanged);
+    m_endsTimer.setSingleShot(true);
+    m_endsTimer.setInterval(kEndsMs);
+    connect(&m_endsTimer, &QTimer::timeout, this, &PlotViewState::endsChanged);
     connect(&Appearance::instance(), &Appearance::changed, this, [this] {
         emit colorsChanged();
         emit pictureChanged();
@@ -110,6 +114,61 @@ QStringList PlotViewState::seriesNames() const
     for (int series = 0; source() && series < source()->seriesCount(); ++series)
         names += source()->seriesName(series);
     return names;
+}
+
+QStringList PlotViewState::seriesLabels() const
+{
+    QStringList labels;
+    for (int series = 0; source() && series < source()->seriesCount(); ++series)
+        labels += source()->seriesLabel(series);
+    return labels;
+}
+
+QList<bool> PlotViewState::seriesDashes() const
+{
+    QList<bool> dashes;
+    for (int series = 0; source() && series < source()->seriesCount(); ++series)
+        dashes += source()->isSeriesDashed(series);
+    return dashes;
+}
+
+void PlotViewState::setEnds(const QList<double> &ends)
+{
+    const auto isSame = [](double a, double b) { return a == b || (std::isnan(a) && std::isnan(b)); };
+    if (std::equal(ends.begin(), ends.end(), m_ends.begin(), m_ends.end(), isSame))
+        return;
+    m_ends = ends;
+    if (!m_endsTimer.isActive())
+        m_endsTimer.start();
+}
+
+QList<double> PlotViewState::labelPlaces(double plotHeight, double height) const
+{
+    QList<double> places(m_ends.size(), kNone);
+    QList<qsizetype> order;
+    for (qsizetype i = 0; i < m_ends.size(); ++i) {
+        const double place = (m_y.max - m_ends.at(i)) / m_y.span() * plotHeight;
+        if (place < 0 || place > plotHeight || std::isnan(place))
+            continue;
+        places[i] = place;
+        order += i;
+    }
+    std::stable_sort(order.begin(), order.end(), [&places](auto a, auto b) { return places.at(a) < places.at(b); });
+    while (!order.isEmpty() && double(order.size()) * height > plotHeight) { // the legend has those without a place
+        places[order.last()] = kNone;
+        order.removeLast();
+    }
+    double least = height / 2;
+    for (const qsizetype i : order) { // down, and then up from the bottom
+        places[i] = std::max(places.at(i), least);
+        least = places.at(i) + height;
+    }
+    double most = plotHeight - height / 2;
+    for (auto i = order.crbegin(); i != order.crend(); ++i) {
+        places[*i] = std::min(places.at(*i), most);
+        most = places.at(*i) - height;
+    }
+    return places;
 }
 
 QVariantList PlotViewState::seriesColors() const

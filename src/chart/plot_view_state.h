@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QStringList>
+#include <QTimer>
 #include <QVariantList>
 #include <QtQml/qqml.h>
 
@@ -33,6 +34,9 @@ class PlotViewState : public QObject
     Q_PROPERTY(QStringList seriesNames READ seriesNames NOTIFY seriesChanged)
     Q_PROPERTY(QVariantList seriesColors READ seriesColors NOTIFY colorsChanged)
     Q_PROPERTY(QList<bool> visibleSeries READ visibleSeries NOTIFY seriesChanged)
+    Q_PROPERTY(QStringList seriesLabels READ seriesLabels NOTIFY seriesChanged)
+    Q_PROPERTY(QList<bool> seriesDashes READ seriesDashes NOTIFY seriesChanged)
+    Q_PROPERTY(QList<double> ends READ ends NOTIFY endsChanged)
     Q_PROPERTY(double xViewMin READ xViewMin NOTIFY viewChanged)
     Q_PROPERTY(double xViewMax READ xViewMax NOTIFY viewChanged)
     Q_PROPERTY(double yViewMin READ yViewMin NOTIFY viewChanged)
@@ -71,6 +75,9 @@ public:
     /// What is drawn; null while there is none.
     virtual const ChartSource *source() const = 0;
     QStringList seriesNames() const;
+    /// Short names, for the ends of the curves.
+    QStringList seriesLabels() const;
+    QList<bool> seriesDashes() const;
     /// QColors, as they are drawn now; they follow source and appearance.
     QVariantList seriesColors() const;
     /// One flag per series.
@@ -84,6 +91,14 @@ public:
     /// The view reports which levels are visible; fits the vertical axis while that is automatic. Does nothing when
     /// `low` is above `high`.
     virtual void fitValues(double low, double high) = 0;
+
+    /// The level of each series at the right edge, as drawn; NaN for one that does not reach it. The lines report it
+    /// with each picture; endsChanged() follows ten times a second at most.
+    QList<double> ends() const { return m_ends; }
+    void setEnds(const QList<double> &ends);
+    /// Where labels of `height` pixels stand beside a plot of `plotHeight`: their middles, from the top. Labels of
+    /// curves that end close together are moved apart; NaN for those that have no place.
+    Q_INVOKABLE QList<double> labelPlaces(double plotHeight, double height) const;
 
     /// Everything about the pointer in one line, with names.
     QString hoverLine() const;
@@ -158,6 +173,7 @@ signals:
     void viewChanged();
     void cursorsChanged();
     void hoverChanged();
+    void endsChanged();
     /// The picture is out of date: data arrived, or what is visible changed.
     void pictureChanged();
 
@@ -200,6 +216,8 @@ private:
     const MainAxis m_mainAxis;
     QPointer<ChartLink> m_link;
     QPointer<MarkerList> m_markers;
+    QList<double> m_ends;
+    QTimer m_endsTimer;
     int m_activeCursor = 0; ///< the one that keys move
 };
 

@@ -87,6 +87,50 @@ void series_geometry::simplify(std::vector<QPointF> &pixels)
     pixels.resize(kept);
 }
 
+void series_geometry::dash(const std::vector<QPointF> &pixels, double origin, std::vector<QPointF> &out)
+{
+    constexpr double kPeriod = kDashPixels + kDashGap;
+    const QPointF broken(0, std::numeric_limits<double>::quiet_NaN());
+    out.clear();
+    bool isOpen = false; // the last point of `out` is where the line has arrived
+    for (size_t i = 0; i + 1 < pixels.size(); ++i) {
+        const QPointF from = pixels[i];
+        const QPointF to = pixels[i + 1];
+        if (std::isnan(from.y()) || std::isnan(to.y())) {
+            isOpen = false;
+            continue;
+        }
+        const bool isRising = to.x() >= from.x();
+        const auto at = [&](double x) { // on the line from one point to the other
+            const double dx = to.x() - from.x();
+            return dx == 0 ? from : QPointF(x, from.y() + (to.y() - from.y()) * (x - from.x()) / dx);
+        };
+        // From dash to dash in the direction of the line.
+        double x = from.x();
+        for (bool isDone = false; !isDone;) {
+            // On an edge the part ahead counts.
+            const double phase = (x - origin) / kPeriod + (isRising ? 1e-9 : -1e-9);
+            const double start = origin + std::floor(phase) * kPeriod;
+            const bool isDash = phase - std::floor(phase) < kDashPixels / kPeriod;
+            double edge = isRising ? start + (isDash ? kDashPixels : kPeriod) : start + (isDash ? 0 : kDashPixels);
+            if (isRising ? edge >= to.x() : edge <= to.x()) {
+                edge = to.x();
+                isDone = true;
+            }
+            if (isDash) {
+                if (!isOpen) {
+                    if (!out.empty())
+                        out.push_back(broken);
+                    out.push_back(at(x));
+                }
+                out.push_back(isDone ? to : at(edge));
+            }
+            isOpen = isDash;
+            x = edge;
+        }
+    }
+}
+
 double series_geometry::halfWidth(double lineWidth, double devicePixelRatio)
 {
     return lineWidth / 2 + 0.5 / devicePixelRatio;

@@ -8,6 +8,22 @@
 #include "app/theme.h"
 #include "chart/chart_source.h"
 
+namespace {
+
+/// The level at which a curve reaches the right edge; NaN when it ends before it.
+double endOf(const QList<QPointF> &points, double xMax)
+{
+    if (points.isEmpty())
+        return std::numeric_limits<double>::quiet_NaN();
+    const bool isRising = points.first().x() < points.last().x();
+    const QPointF &end = isRising ? points.last() : points.first();
+    // One point beyond the edge is among them; without it the curve may end in the middle of the plot.
+    const double reach = 0.02 * (std::abs(xMax) + std::abs(points.last().x() - points.first().x()));
+    return end.x() < xMax - reach ? std::numeric_limits<double>::quiet_NaN() : end.y();
+}
+
+} // namespace
+
 void SeriesItem::setViewState(PlotViewState *viewState)
 {
     if (viewState == m_viewState)
@@ -29,6 +45,9 @@ bool SeriesItem::collect(Content &content, int maxPoints)
     const size_t count = source ? size_t(source->seriesCount()) : 0;
     content.points.resize(count);
     content.colors.resize(count);
+    content.dashed.assign(count, false);
+    content.dashPlace = -m_viewState->clock(); // dashes stay on their data
+    QList<double> ends(qsizetype(count), std::numeric_limits<double>::quiet_NaN());
     const QList<bool> visible = m_viewState->visibleSeries();
     const double fitFrom = m_viewState->fitFromX();
     double low = std::numeric_limits<double>::infinity();
@@ -36,6 +55,7 @@ bool SeriesItem::collect(Content &content, int maxPoints)
     for (size_t layer = 0; layer < count; ++layer) {
         const int series = source->seriesAtLayer(int(layer));
         content.colors[layer] = theme::colors().drawn(QColor::fromRgb(source->seriesRgb(series)));
+        content.dashed[layer] = source->isSeriesDashed(series);
         QList<QPointF> &points = content.points[layer];
         points.clear();
         if (!visible.value(series))
@@ -48,7 +68,9 @@ bool SeriesItem::collect(Content &content, int maxPoints)
             low = std::min(low, point.y());
             high = std::max(high, point.y());
         }
+        ends[series] = endOf(points, m_viewState->xViewMax());
     }
+    m_viewState->setEnds(ends);
     m_viewState->fitValues(low, high);
     content.x = {m_viewState->xViewMin(), m_viewState->xViewMax()};
     content.y = {m_viewState->yViewMin(), m_viewState->yViewMax()};

@@ -164,6 +164,7 @@ QByteArray svg_picture::draw(const PlotViewState &view, const QString &title, co
         drawing.beginClip(area.adjusted(-kBleed, -kBleed, kBleed, kBleed));
         QList<QPointF> points;
         std::vector<QPointF> pixels;
+        std::vector<QPointF> solid;
         for (int layer = 0; source && layer < source->seriesCount(); ++layer) {
             const int series = source->seriesAtLayer(layer);
             if (!view.isSeriesVisible(series))
@@ -172,6 +173,10 @@ QByteArray svg_picture::draw(const PlotViewState &view, const QString &title, co
             for (QPointF &point : points)
                 point.setY(view.level(point.y()));
             series_geometry::toPixels(points, plot, pixels);
+            if (source->isSeriesDashed(series)) {
+                solid.swap(pixels);
+                series_geometry::dash(solid, 0, pixels);
+            }
             const auto isBreak = [](QPointF p) { return std::isnan(p.y()); };
             const auto end = pixels.cend();
             for (auto first = std::find_if_not(pixels.cbegin(), end, isBreak); first != end;) {

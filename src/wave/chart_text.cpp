@@ -64,15 +64,14 @@ QString chart_text::fileUnit(const WaveChartBridge &bridge)
     return bridge.sensorType() == QLatin1String("quat") ? QString() : unit(bridge.chartTitle());
 }
 
-QString chart_text::fileStem(const WaveChartBridge &bridge)
+QString chart_text::fileStem(const QString &quantity, const SampleOrigin &origin)
 {
-    const SampleOrigin &origin = bridge.origin();
     QString device;
     for (const QChar c : origin.device.left(40)) {
         if (c.isLetterOrNumber() || c == u'-' || c == u'_')
             device += c;
     }
-    QStringList words{bridge.sensorType()};
+    QStringList words{quantity};
     if (!device.isEmpty())
         words += device;
     if (origin.node >= 0)
@@ -142,9 +141,17 @@ QString chart_text::range(const WaveChartBridge &bridge, double xMin, double xMa
         .arg(rate, seconds(xMin), seconds(xMax), kept);
 }
 
-QString chart_text::difference(const WaveChartBridge &bridge, double change)
+QString chart_text::figure(const WaveChartBridge &bridge, int channel, double value, MeasureTable::Figure figure)
 {
-    return value_format::signedNumber(change, decimals(bridge.sensorType()));
+    switch (figure) {
+    case MeasureTable::Figure::Difference:
+        return value_format::signedNumber(value, decimals(bridge.sensorType()));
+    case MeasureTable::Figure::Magnitude:
+        return value_format::number(value, decimals(bridge.sensorType()));
+    case MeasureTable::Figure::Value:
+        break;
+    }
+    return chart_text::value(bridge, channel, value);
 }
 
 QStringList chart_text::measurement(double a, double b)

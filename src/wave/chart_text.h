@@ -3,7 +3,9 @@
 #include <QString>
 #include <QStringList>
 
+#include "chart/measure_table.h"
 #include "wave/curve_break.h"
+#include "wave/sample_origin.h"
 
 class WaveChartBridge;
 
@@ -18,8 +20,8 @@ QString unit(const QString &chartTitle);
 /// The unit for files: like unit(), but empty for a quantity that has none.
 QString fileUnit(const WaveChartBridge &bridge);
 
-/// How names of files begin: "acc_HI14_node3", without characters that file systems refuse.
-QString fileStem(const WaveChartBridge &bridge);
+/// How names of files begin: "acc_HI14_node3" for the quantity "acc", without characters that file systems refuse.
+QString fileStem(const QString &quantity, const SampleOrigin &origin);
 
 /// Digits after the point for values of a sensor type.
 int decimals(const QString &sensorType);
@@ -42,8 +44,8 @@ QString storeLimit(const WaveChartBridge &bridge);
 /// The rate, and which seconds of the stored history a view from `xMin` to `xMax` shows: "400 Hz · last 10 s of 60 s".
 QString range(const WaveChartBridge &bridge, double xMin, double xMax);
 
-/// A difference of values, always with its sign.
-QString difference(const WaveChartBridge &bridge, double change);
+/// A figure of a measurement: differences always have a sign, magnitudes none.
+QString figure(const WaveChartBridge &bridge, int channel, double value, MeasureTable::Figure figure);
 
 /// The times of the cursors `a` and `b` (seconds, NaN for one that is not placed), and if both are placed the time
 /// between them and its inverse.

@@ -16,6 +16,37 @@ constexpr std::chrono::milliseconds kRefreshInterval{250};
 constexpr QLatin1String kNodesKey("NODES");
 constexpr QLatin1String kTypesKey("TYPES");
 constexpr QLatin1String kLinkedKey("LINKED");
+constexpr QLatin1String kOrderKey("ORDER");
+constexpr QLatin1String kOverlaidKey("OVERLAID");
+constexpr QLatin1String kChannelKey("_CHANNEL");
+constexpr QLatin1String kChartsGroup("CHARTS");
+constexpr int kMaxId = 255;
+
+QString choiceKey(int nodeId, size_t type)
+{
+    return QStringLiteral("N%1_").arg(nodeId) + QString(sensorTypes()[type].key).toUpper();
+}
+
+/// The ids among the texts, each once, `most` at most.
+QList<int> readIds(const QStringList &texts, qsizetype most)
+{
+    QList<int> ids;
+    for (const QString &text : texts) {
+        bool isNumber = false;
+        const int id = text.toInt(&isNumber);
+        if (isNumber && id >= 0 && id <= kMaxId && !ids.contains(id) && ids.size() < most)
+            ids += id;
+    }
+    return ids;
+}
+
+QStringList texts(const QList<int> &ids)
+{
+    QStringList texts;
+    for (const int id : ids)
+        texts += QString::number(id);
+    return texts;
+}
 
 } // namespace
 
@@ -24,6 +55,8 @@ GatewayDashboardBridge::GatewayDashboardBridge(QObject *parent) : QObject(parent
     // One quantity of several nodes side by side is what a gateway is for.
     m_selectedTypes.fill(false);
     m_selectedTypes.front() = true;
+    for (size_t type = 0; type < m_overlays.size(); ++type)
+        m_overlays[type] = new NodeOverlay(sensorTypes()[type].key, this);
     m_refreshTimer.setInterval(kRefreshInterval);
     connect(&m_refreshTimer, &QTimer::timeout, this, [this] { refresh(); });
 }
@@ -44,11 +77,29 @@ QString GatewayDashboardBridge::summary() const
 QList<int> GatewayDashboardBridge::chosenNodes() const
 {
     QList<int> ids;
+    for (const NodeCharts *node : chosenCharts())
+        ids += int(node->id);
+    return ids;
+}
+
+bool GatewayDashboardBridge::isBefore(int nodeId, int otherId) const
+{
+    const auto rank = [this](int id) {
+        const qsizetype place = m_order.indexOf(id);
+        return std::pair(place < 0 ? m_order.size() : place, id);
+    };
+    return rank(nodeId) < rank(otherId);
+}
+
+QList<const GatewayDashboardBridge::NodeCharts *> GatewayDashboardBridge::chosenCharts() const
+{
+    QList<const NodeCharts *> nodes;
     for (const NodeCharts &node : m_charts) {
         if (node.isChosen())
-            ids += int(node.id);
+            nodes += &node;
     }
-    return ids;
+    std::sort(nodes.begin(), nodes.end(), [this](const auto *a, const auto *b) { return isBefore(a->id, b->id); });
+    return nodes;
 }
 
 QVariantList GatewayDashboardBridge::typeStates() const
@@ -65,11 +116,7 @@ QVariantList GatewayDashboardBridge::typeStates() const
 
 QVariantList GatewayDashboardBridge::panes() const
 {
-    QList<const NodeCharts *> nodes;
-    for (const NodeCharts &node : m_charts) {
-        if (node.isChosen())
-            nodes += &node;
-    }
+    const QList<const NodeCharts *> nodes = chosenCharts();
     const auto nodeCount = size_t(nodes.size());
     const size_t typeCount = size_t(selectedTypeCount());
     const bool rowPerNode = typeCount == 2 && nodeCount > 2;
@@ -79,6 +126,13 @@ QVariantList GatewayDashboardBridge::panes() const
             types += type;
     }
     QVariantList panes;
+    if (m_overlaid && nodeCount > 0) {
+        for (const size_t type : types)
+            panes += QVariantMap{{QStringLiteral("slot"), kMaxChosenNodes * kSensorTypeCount + int(type)},
+                                 {QStringLiteral("type"), QString(sensorTypes()[type].key)},
+                                 {QStringLiteral("overlay"), QVariant::fromValue<QObject *>(m_overlays[type])}};
+        return panes;
+    }
     for (size_t i = 0; i < nodeCount * typeCount; ++i) {
         const NodeCharts &node = *nodes.at(qsizetype(rowPerNode ? i / typeCount : i % nodeCount));
         const size_t type = types.at(qsizetype(rowPerNode ? i % typeCount : i / nodeCount));
@@ -92,7 +146,7 @@ QVariantList GatewayDashboardBridge::panes() const
 
 int GatewayDashboardBridge::paneColumns() const
 {
-    const int count = chosenCount() * selectedTypeCount();
+    const int count = (m_overlaid ? 1 : chosenCount()) * selectedTypeCount();
     return count <= 3 ? 1 : count <= 8 ? 2 : 3;
 }
 
@@ -132,7 +186,50 @@ void GatewayDashboardBridge::setTypeSelected(const QString &type, bool selected)
         return;
     flag = selected;
     syncObserved();
+    updateOverlays();
     emit panesChanged();
+}
+
+void GatewayDashboardBridge::setOverlaid(bool overlaid)
+{
+    if (overlaid == m_overlaid)
+        return;
+    m_overlaid = overlaid;
+    updateOverlays();
+    emit panesChanged();
+}
+
+void GatewayDashboardBridge::updateOverlays()
+{
+    const QList<const NodeCharts *> nodes = chosenCharts();
+    for (size_t type = 0; type < m_overlays.size(); ++type) {
+        QList<NodeOverlay::Node> curves;
+        if (m_overlaid && m_selectedTypes[type]) {
+            for (const NodeCharts *node : nodes)
+                curves += {int(node->id), node->slot, node->charts[type]};
+        }
+        m_overlays[type]->setNodes(curves);
+    }
+}
+
+void GatewayDashboardBridge::moveNode(int nodeId, int rows)
+{
+    QList<int> ids;
+    for (const GatewayNodeStatus &node : m_nodeModel.nodes())
+        ids += int(node.id);
+    const int from = int(ids.indexOf(nodeId));
+    const int to = std::clamp(from + rows, 0, int(ids.size()) - 1);
+    if (from < 0 || from == to)
+        return;
+    ids.move(from, to);
+    // Those that are not heard now keep their places behind.
+    for (const int id : std::as_const(m_order)) {
+        if (!ids.contains(id))
+            ids += id;
+    }
+    m_order = ids;
+    m_nodeModel.moveNode(from, to);
+    notifyChosen();
 }
 
 void GatewayDashboardBridge::setPlaying(bool playing)
@@ -247,6 +344,7 @@ void GatewayDashboardBridge::clear()
 {
     setEnded(false);
     m_markers.clear();
+    rememberChoices();
     const std::vector<NodeCharts> dropped = std::exchange(m_charts, {});
     forgetSamples();
     notifyChosen();
@@ -255,7 +353,9 @@ void GatewayDashboardBridge::clear()
 
 void GatewayDashboardBridge::refresh(qint64 hostMs)
 {
-    m_nodeModel.update(m_tracker.nodes(hostMs));
+    QList<GatewayNodeStatus> nodes = m_tracker.nodes(hostMs);
+    std::sort(nodes.begin(), nodes.end(), [this](const auto &a, const auto &b) { return isBefore(a.id, b.id); });
+    m_nodeModel.update(nodes);
     emit nodesRefreshed();
 }
 
@@ -314,13 +414,27 @@ WaveChartBridge *GatewayDashboardBridge::chartOf(NodeCharts &node, size_t type)
         chart->setFrameRate(m_frameRate);
         chart->setPlaying(m_playing);
         chart->setOrigin({m_device, node.id});
+        chart->restoreChoices(m_choices.value(choiceKey(node.id, type)));
         nameChart(chart, node.id);
     }
     return chart;
 }
 
+/// Charts come and go; what was chosen for them stays.
+void GatewayDashboardBridge::rememberChoices()
+{
+    for (const NodeCharts &node : m_charts) {
+        for (size_t type = 0; type < node.charts.size(); ++type) {
+            if (node.charts[type])
+                m_choices[choiceKey(node.id, type)] = node.charts[type]->choices();
+        }
+    }
+    m_choices.removeIf([](auto entry) { return entry.value() == ViewChoices(); });
+}
+
 void GatewayDashboardBridge::dropUnchosen()
 {
+    rememberChoices();
     const auto first =
         std::stable_partition(m_charts.begin(), m_charts.end(), [](const NodeCharts &node) { return node.isChosen(); });
     std::for_each(first, m_charts.end(), dropCharts);
@@ -345,13 +459,20 @@ void GatewayDashboardBridge::loadChoices(const QString &iniPath)
     QSettings settings(iniPath, QSettings::IniFormat);
     settings.beginGroup(settings_keys::kWirelessDashboard);
     setLinked(settings.value(kLinkedKey).toBool());
-    const QStringList nodes = settings.value(kNodesKey).toStringList();
-    for (const QString &text : nodes) {
-        bool isNumber = false;
-        const int id = text.toInt(&isNumber);
-        if (isNumber && id >= 0 && id <= 255 && !m_wanted.contains(id) && m_wanted.size() < kMaxChosenNodes)
-            m_wanted += id;
+    setOverlaid(settings.value(kOverlaidKey).toBool());
+    m_wanted = readIds(settings.value(kNodesKey).toStringList(), kMaxChosenNodes);
+    m_order = readIds(settings.value(kOrderKey).toStringList(), kMaxId + 1);
+    for (NodeOverlay *overlay : m_overlays)
+        overlay->setChannel(settings.value(overlay->sensorType().toUpper() + kChannelKey).toInt());
+    settings.beginGroup(kChartsGroup);
+    for (int id = 0; id <= kMaxId; ++id) {
+        for (size_t type = 0; type < sensorTypes().size(); ++type) {
+            const ViewChoices choices = ViewChoices::read(settings, choiceKey(id, type));
+            if (choices != ViewChoices())
+                m_choices.insert(choiceKey(id, type), choices);
+        }
     }
+    settings.endGroup();
     if (!settings.contains(kTypesKey))
         return;
     const QStringList types = settings.value(kTypesKey).toStringList();
@@ -359,21 +480,27 @@ void GatewayDashboardBridge::loadChoices(const QString &iniPath)
         setTypeSelected(type.key, types.contains(type.key));
 }
 
-void GatewayDashboardBridge::saveChoices(const QString &iniPath) const
+void GatewayDashboardBridge::saveChoices(const QString &iniPath)
 {
+    rememberChoices();
     QSettings settings(iniPath, QSettings::IniFormat);
     settings.beginGroup(settings_keys::kWirelessDashboard);
-    QStringList nodes;
-    for (const int id : m_wanted)
-        nodes += QString::number(id);
     QStringList types;
     for (size_t i = 0; i < m_selectedTypes.size(); ++i) {
         if (m_selectedTypes[i])
             types += sensorTypes()[i].key;
     }
     settings.setValue(kLinkedKey, m_linked);
-    settings.setValue(kNodesKey, nodes);
+    settings.setValue(kNodesKey, texts(m_wanted));
     settings.setValue(kTypesKey, types);
+    settings.setValue(kOrderKey, texts(m_order));
+    settings.setValue(kOverlaidKey, m_overlaid);
+    for (const NodeOverlay *overlay : m_overlays)
+        settings.setValue(overlay->sensorType().toUpper() + kChannelKey, overlay->channel());
+    settings.remove(kChartsGroup);
+    settings.beginGroup(kChartsGroup);
+    for (auto entry = m_choices.cbegin(); entry != m_choices.cend(); ++entry)
+        entry.value().write(settings, entry.key());
 }
 
 int GatewayDashboardBridge::freeSlot() const
@@ -402,6 +529,7 @@ void GatewayDashboardBridge::dropCharts(const NodeCharts &node)
 
 void GatewayDashboardBridge::notifyChosen()
 {
+    updateOverlays();
     m_nodeModel.setChosen(chosenNodes());
     emit panesChanged();
 }

@@ -4,12 +4,14 @@
 #include <vector>
 
 #include <QObject>
+#include <QMap>
 #include <QTimer>
 #include <QVariantList>
 
 #include "chart/marker_list.h"
 #include "wave/gateway_node_model.h"
 #include "wave/gateway_node_tracker.h"
+#include "wave/node_overlay.h"
 #include "wave/sample_feed.h"
 #include "wave/wave_chart_bridge.h"
 
@@ -20,7 +22,11 @@
 ///
 /// A pane is a map of "nodeId", "type" (key), "backend" (the WaveChartBridge, titled "Node 3 · Acceleration (G)") and
 /// "slot": a number from 0 to maxPaneCount - 1 that stays with the chart, so that the view can leave it unchanged while
-/// others come and go. A node that was chosen once is chosen again as soon as it is heard. Main thread only.
+/// others come and go. While the nodes are overlaid there is a pane per sensor type instead, with "overlay" (a
+/// NodeOverlay of all chosen nodes) in place of the backend.
+///
+/// A node that was chosen once is chosen again as soon as it is heard. Nodes are in the order of their ids until the
+/// user arranges them. Main thread only.
 class GatewayDashboardBridge : public QObject
 {
     Q_OBJECT
@@ -36,6 +42,7 @@ class GatewayDashboardBridge : public QObject
     Q_PROPERTY(QVariantList panes READ panes NOTIFY panesChanged)
     Q_PROPERTY(int paneColumns READ paneColumns NOTIFY panesChanged)
     Q_PROPERTY(bool ended READ isEnded NOTIFY nodesRefreshed)
+    Q_PROPERTY(bool overlaid READ isOverlaid WRITE setOverlaid NOTIFY panesChanged)
     Q_PROPERTY(bool linked READ isLinked WRITE setLinked NOTIFY linkedChanged)
     Q_PROPERTY(MarkerList *markers READ markers CONSTANT)
     Q_PROPERTY(bool playing READ playing NOTIFY playingChanged)
@@ -51,10 +58,10 @@ public:
     /// How many nodes there are and how many of them are late or gone, or that the connection has ended.
     QString summary() const;
     int nodeCount() const { return m_nodeModel.rowCount(); }
-    /// Ids in ascending order.
+    /// Ids in the order of the table.
     QList<int> chosenNodes() const;
     int maxChosenNodes() const { return kMaxChosenNodes; }
-    int maxPaneCount() const { return kMaxChosenNodes * kSensorTypeCount; }
+    int maxPaneCount() const { return (kMaxChosenNodes + 1) * kSensorTypeCount; }
     /// A map of "type", "label" and "selected" per sensor type.
     QVariantList typeStates() const;
     /// The charts to show, in the order in which they fill the grid row by row: type by type, or node by node where
@@ -66,6 +73,9 @@ public:
     /// The displayed data belong to a connection that has ended.
     bool isEnded() const { return m_ended; }
     bool playing() const { return m_playing; }
+    /// One plot per sensor type shows a quantity of all chosen nodes.
+    bool isOverlaid() const { return m_overlaid; }
+    void setOverlaid(bool overlaid);
     /// The time axes and cursors of all charts are coupled.
     bool isLinked() const { return m_linked; }
     void setLinked(bool linked);
@@ -76,6 +86,8 @@ public:
 
     /// Shows or hides the charts of a node; false when 16 are chosen already or the id is out of 0 to 255.
     Q_INVOKABLE bool setNodeChosen(int nodeId, bool chosen);
+    /// Moves a node by `rows` in the table, and its charts accordingly.
+    Q_INVOKABLE void moveNode(int nodeId, int rows);
     Q_INVOKABLE void setTypeSelected(const QString &type, bool selected);
     /// A paused dashboard freezes its charts; the table goes on.
     Q_INVOKABLE void setPlaying(bool playing);
@@ -93,10 +105,10 @@ public:
     /// The connection has ended: nodes, curves and choices stay as they are, marked as ended, and samples are ignored.
     /// clear() at the next opening ends that too.
     void setEnded(bool ended);
-    /// Reads and writes the chosen nodes, types and linking in the settings file at `iniPath`; nonsensical entries are
-    /// ignored.
+    /// Reads and writes what the user has chosen: nodes and their order, types, overlay, linking, spans and filters. In
+    /// the settings file at `iniPath`; nonsensical entries are ignored.
     void loadChoices(const QString &iniPath);
-    void saveChoices(const QString &iniPath) const;
+    void saveChoices(const QString &iniPath);
     /// Clears nodes and samples: another gateway may be connected next.
     void clear();
     /// Brings the table up to date as of `hostMs`; called automatically while active.
@@ -124,6 +136,11 @@ private:
 
     NodeCharts *collect(quint8 id);
     NodeCharts *insertNode(quint8 id);
+    /// Nodes in the order of the table: those that were arranged first, the others by id.
+    bool isBefore(int nodeId, int otherId) const;
+    QList<const NodeCharts *> chosenCharts() const;
+    void updateOverlays();
+    void rememberChoices();
     WaveChartBridge *chartOf(NodeCharts &node, size_t type);
     int freeSlot() const;
     static void nameChart(WaveChartBridge *chart, int nodeId);
@@ -141,6 +158,10 @@ private:
     GatewayNodeModel m_nodeModel;
     std::vector<NodeCharts> m_charts; ///< at most kMaxChosenNodes, by ascending id
     QList<int> m_wanted;              ///< ids that are chosen as soon as they are heard
+    QList<int> m_order;               ///< ids that the user has arranged
+    std::array<NodeOverlay *, kSensorTypeCount> m_overlays{}; ///< owned as children
+    QMap<QString, ViewChoices> m_choices; ///< of charts, by "N3_ACC"; those that differ from the usual ones
+    bool m_overlaid = false;
     bool m_linked = false;
     std::array<bool, kSensorTypeCount> m_selectedTypes;
     MarkerList m_markers;

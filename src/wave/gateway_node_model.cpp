@@ -124,6 +124,15 @@ void GatewayNodeModel::setChosen(const QList<int> &nodeIds)
     notifyRows(0, rowCount() - 1);
 }
 
+void GatewayNodeModel::moveNode(int from, int to)
+{
+    if (from == to || from < 0 || to < 0 || from >= rowCount() || to >= rowCount())
+        return;
+    beginMoveRows({}, from, from, {}, to > from ? to + 1 : to);
+    m_nodes.move(from, to);
+    endMoveRows();
+}
+
 void GatewayNodeModel::clear()
 {
     beginResetModel();

@@ -5,8 +5,8 @@
 
 #include "wave/gateway_node_tracker.h"
 
-/// The table of radio nodes for the view: one row per node, sorted by id. Rows are inserted as nodes appear and keep
-/// their place; dataChanged() is emitted for the rows whose values differ. Main thread only.
+/// The table of radio nodes for the view: one row per node. Rows are inserted as nodes appear and keep their place until
+/// they are moved; dataChanged() is emitted for the rows whose values differ. Main thread only.
 class GatewayNodeModel : public QAbstractListModel
 {
     Q_OBJECT
@@ -38,9 +38,13 @@ public:
     QHash<int, QByteArray> roleNames() const override;
 
     const QList<GatewayNodeStatus> &nodes() const { return m_nodes; }
-    /// Takes the nodes in order of ascending id; those that were listed before must be among them.
+    /// Takes the nodes in the order of the rows; those that were listed before must be among them, in the same order.
     void update(const QList<GatewayNodeStatus> &nodes);
     void setChosen(const QList<int> &nodeIds);
+    /// -1 for a row that does not exist.
+    Q_INVOKABLE int nodeIdAt(int row) const { return row >= 0 && row < rowCount() ? int(m_nodes.at(row).id) : -1; }
+    /// Moves a row to another place.
+    void moveNode(int from, int to);
     void clear();
     /// The language has changed: updates the texts.
     void retranslate() { notifyRows(0, rowCount() - 1); }

@@ -10,41 +10,11 @@ namespace {
 
 const QString kSelectionKey = QStringLiteral("SENSOR_DASHBOARD/SELECTED_SENSORS");
 const QString kLinkedKey = QStringLiteral("SENSOR_DASHBOARD/LINKED");
-constexpr double kMinSpan = 0.01; ///< seconds
-constexpr double kMaxSpan = 60;
-constexpr double kMaxFilterHz = 1e6;
 
-/// Keys of a chart's choices: "SENSOR_DASHBOARD/ACC_SPAN" and so on.
-QString choiceKey(const QString &type, QLatin1String what)
+/// Before the keys of a chart's choices: "SENSOR_DASHBOARD/ACC".
+QString choicePrefix(const QString &type)
 {
-    return QStringLiteral("SENSOR_DASHBOARD/%1_%2").arg(type.toUpper(), what);
-}
-
-ViewChoices readChoices(const QSettings &settings, const QString &type)
-{
-    ViewChoices choices;
-    const double span = settings.value(choiceKey(type, QLatin1String("SPAN"))).toDouble();
-    if (span >= kMinSpan && span <= kMaxSpan)
-        choices.spanSec = span;
-    const QStringList hidden = settings.value(choiceKey(type, QLatin1String("HIDDEN"))).toStringList();
-    for (int channel = 0; channel < 4; ++channel) {
-        if (hidden.contains(QString::number(channel)))
-            choices.hidden += channel;
-    }
-    const double filterHz = settings.value(choiceKey(type, QLatin1String("FILTER_HZ"))).toDouble();
-    if (filterHz > 0 && filterHz <= kMaxFilterHz)
-        choices.filterHz = filterHz;
-    return choices;
-}
-
-void writeChoices(QSettings &settings, const QString &type, const ViewChoices &choices)
-{
-    QStringList hidden;
-    for (const int channel : choices.hidden)
-        hidden += QString::number(channel);
-    settings.setValue(choiceKey(type, QLatin1String("SPAN")), choices.spanSec);
-    settings.setValue(choiceKey(type, QLatin1String("HIDDEN")), hidden);
-    settings.setValue(choiceKey(type, QLatin1String("FILTER_HZ")), choices.filterHz);
+    return QStringLiteral("SENSOR_DASHBOARD/") + type.toUpper();
 }
 
 } // namespace
@@ -213,7 +183,7 @@ void SensorDashboardBridge::loadSelectionState(const QString &iniPath)
     const QSettings settings(iniPath, QSettings::IniFormat);
     setLinked(settings.value(kLinkedKey).toBool());
     for (const QString &type : std::as_const(m_sensorTypes))
-        m_bridges.value(type)->restoreChoices(readChoices(settings, type));
+        m_bridges.value(type)->restoreChoices(ViewChoices::read(settings, choicePrefix(type)));
     if (!settings.contains(kSelectionKey))
         return;
     const QStringList stored = settings.value(kSelectionKey).toStringList();
@@ -236,7 +206,7 @@ void SensorDashboardBridge::saveSelectionState(const QString &iniPath) const
     settings.setValue(kSelectionKey, selectedSensorTypes());
     settings.setValue(kLinkedKey, m_linked);
     for (const QString &type : m_sensorTypes)
-        writeChoices(settings, type, m_bridges.value(type)->choices());
+        m_bridges.value(type)->choices().write(settings, choicePrefix(type));
     settings.sync();
 }
 

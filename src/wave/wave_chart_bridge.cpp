@@ -121,6 +121,17 @@ SeriesStatistics WaveChartBridge::statistics(int channel, double xMin, double xM
     return sum.result();
 }
 
+chart_range::TimeLimits WaveChartBridge::timeLimits() const
+{
+    return {xHistoryMin(), xLimitMax(), xMinZoom(), xMaxViewDuration(), xSnapStep()};
+}
+
+double WaveChartBridge::placeBeside(double seconds, int direction) const
+{
+    const int offset = model().sampleOffsetAtTime(seconds) - direction; // offsets grow into the past
+    return -model().ageSecAtSampleOffset(std::clamp(offset, 0, std::max(0, model().count() - 1)));
+}
+
 void WaveChartBridge::pushSample(const float *values, int n, unsigned int timestampMs)
 {
     if (!m_playing) {

@@ -10,11 +10,11 @@
 #include <memory>
 #include <optional>
 
-#include "chart/chart_source.h"
 #include "link/sample_gaps.h"
 #include "session/stream_event.h"
 #include "wave/curve_break.h"
 #include "wave/sample_origin.h"
+#include "wave/time_source.h"
 #include "wave/view_choices.h"
 #include "wave/wave_trigger.h"
 #include "wave/waveform_data_model.h"
@@ -27,7 +27,7 @@ struct SensorType;
 ///
 /// dataChanged() is emitted at most once per pass of the event loop, about 30 times a second for fast streams, and
 /// never while nobody observes the chart. Main thread only.
-class WaveChartBridge : public QObject, public ChartSource
+class WaveChartBridge : public QObject, public TimeSource
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(WaveChartBridge)
@@ -77,7 +77,7 @@ public:
     double xLimitMax() const { return 0; }
     /// Time of the oldest sample in seconds.
     double xHistoryMin() const { return -model().historyDurationSec(); }
-    double xDefaultMin() const { return -10; }
+    double xDefaultMin() const override { return -10; }
     double xMaxViewDuration() const { return 60; }
     double xMinZoom() const { return 0.01; }
     double xSnapStep() const { return 0.001; }
@@ -88,8 +88,10 @@ public:
     /// Values of all channels of the sample nearest to `timeSec`; empty without data.
     Q_INVOKABLE QVariantList getValuesAtTime(double timeSec) const;
     Q_INVOKABLE int headIndex() const { return model().head(); }
-    /// Stamp of the newest sample in seconds: shows by how much the picture has moved.
-    Q_INVOKABLE double newestTimeSec() const { return double(model().timestampAtSampleOffset(0)) / 1000.0; }
+    Q_INVOKABLE double newestTimeSec() const override
+    {
+        return double(model().timestampAtSampleOffset(0)) / 1000.0;
+    }
     int seriesCount() const override { return channelCount(); }
     QString seriesName(int channel) const override { return channelNames().value(channel); }
     quint32 seriesRgb(int channel) const override;
@@ -97,6 +99,12 @@ public:
     QList<double> valuesAt(double timeSec) const override;
     SeriesStatistics statistics(int channel, double xMin, double xMax) const override;
     quint64 revision() const override { return model().revision() ^ (holds() ? kHeldBit : 0); }
+
+    chart_range::TimeLimits timeLimits() const override;
+    chart_range::ValueLimits valueLimits() const override { return {yMin(), yMax(), yMinZoom()}; }
+    double placeBeside(double seconds, int direction) const override;
+    double newestPeriodSec() const override { return model().ageSecAtSampleOffset(1); }
+    bool awaitsSamples() const override { return m_playing && !holds(); }
 
     /// The user's choices. The view reports span and channels; the filter is kept up to date here; restoring them
     /// switches the filter, where the rate allows it.
@@ -108,8 +116,10 @@ public:
     /// The origin of the samples, as far as the owner knows.
     const SampleOrigin &origin() const { return m_origin; }
     void setOrigin(const SampleOrigin &origin) { m_origin = origin; }
-    /// When a sample arrived, milliseconds since 1970 in UTC, by the computer's clock at the newest one.
-    qint64 utcMsAt(double timeSec) const { return m_newestUtcMs + qRound64((timeSec - liveLagSec()) * 1000); }
+    qint64 utcMsAt(double timeSec) const override
+    {
+        return m_newestUtcMs + qRound64((timeSec - liveLagSec()) * 1000);
+    }
 
     /// The displayed samples: all, or those that the trigger has caught.
     const WaveformDataModel &model() const { return m_caught ? *m_caught : m_model; }

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 
+class NodeOverlay;
 class WaveChartBridge;
 
 /// The samples of a chart as a table for files.
@@ -18,5 +19,12 @@ namespace wave_csv {
 /// clock at the newest sample. Lines end with a line feed; numbers have a decimal point in every language; values that
 /// are not finite are "nan", "inf" or "-inf".
 QByteArray table(const WaveChartBridge &bridge, double xMin, double xMax);
+
+/// The same for one quantity of several nodes: a column per node, a line per time. A node without a sample of that time
+/// has an empty field.
+///
+///     # HI14
+///     time (s),UTC,node 1 X (G),node 2 X (G)
+QByteArray table(const NodeOverlay &overlay, double xMin, double xMax);
 
 } // namespace wave_csv

@@ -308,6 +308,47 @@ private slots:
             }
         }
     }
+
+    /// What was chosen for a node's charts comes back with the node, and the order with the nodes.
+    void remembersChartsAndOrder()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("param.ini"));
+        const auto open = [&path](GatewayDashboardBridge &bridge) {
+            bridge.loadChoices(path);
+            bridge.setDashboardActive(true);
+            bridge.updateGatewaySamples({sampleOf(3, 10), sampleOf(5, 10), sampleOf(9, 10)});
+            bridge.refresh();
+        };
+        const auto chart = [](const GatewayDashboardBridge &bridge, int pane) {
+            return bridge.panes().at(pane).toMap().value(QStringLiteral("backend")).value<WaveChartBridge *>();
+        };
+        {
+            GatewayDashboardBridge bridge;
+            open(bridge);
+            for (const int id : {9, 3, 5})
+                bridge.setNodeChosen(id, true);
+            bridge.moveNode(9, -5);
+            bridge.moveNode(77, 1); // not there
+            chart(bridge, 0)->setChosenView(30, {1});
+            QCOMPARE(chart(bridge, 0)->trySetFilter(true, 20), QString());
+            chart(bridge, 1)->setChosenView(5, {});
+            bridge.setNodeChosen(3, false);
+            bridge.setOverlaid(true);
+            bridge.setDashboardActive(false); // drops what is not chosen
+            bridge.saveChoices(path);
+        }
+        GatewayDashboardBridge bridge;
+        open(bridge);
+        QVERIFY(bridge.isOverlaid());
+        bridge.setOverlaid(false);
+        bridge.setNodeChosen(3, true);
+        QCOMPARE(bridge.chosenNodes(), QList<int>({9, 3, 5}));
+        QCOMPARE(bridge.nodeModel()->nodeIdAt(0), 9);
+        QCOMPARE(chart(bridge, 0)->choices(), (ViewChoices{30, {1}, 20}));
+        QCOMPARE(chart(bridge, 1)->choices(), (ViewChoices{5, {}, 0}));
+        QCOMPARE(chart(bridge, 2)->choices(), ViewChoices());
+    }
 };
 
 QTEST_GUILESS_MAIN(TestGatewayDashboard)

@@ -406,6 +406,59 @@ private slots:
         QCOMPARE(strip.at(2).y, -1.0F);
     }
 
+    /// Dashes cover their share of x in either direction, keep their places, and never bridge a gap.
+    void dashes()
+    {
+        using namespace series_geometry;
+        constexpr double kPeriod = kDashPixels + kDashGap;
+        for (const double step : {-37.0, -0.4, 0.4, 3.0, 37.0}) {
+            std::vector<QPointF> pixels;
+            for (int i = 0; i <= 560 / std::abs(step); ++i)
+                pixels.emplace_back((step < 0 ? 560 : 0) + i * step, 7 + 0.1 * i * step);
+            std::vector<QPointF> cut;
+            dash(pixels, 3, cut);
+            double drawn = 0;
+            for (size_t i = 0; i + 1 < cut.size(); ++i) {
+                if (std::isnan(cut[i].y()) || std::isnan(cut[i + 1].y()))
+                    continue;
+                drawn += std::abs(cut[i + 1].x() - cut[i].x());
+                const double middle = (cut[i].x() + cut[i + 1].x()) / 2 - 3;
+                QVERIFY(middle - std::floor(middle / kPeriod) * kPeriod < kDashPixels);
+            }
+            QVERIFY2(std::abs(drawn - 560 * kDashPixels / kPeriod) < kPeriod, qPrintable(QString::number(drawn)));
+        }
+        std::vector<QPointF> cut;
+        dash({{0, 0}, {2, 0}, {0, kNaN}, {40, 0}, {41, 5}, {41, 9}}, 0, cut);
+        for (size_t i = 0; i + 1 < cut.size(); ++i)
+            QVERIFY(!(cut[i].x() <= 2 && cut[i + 1].x() >= 40 && !std::isnan(cut[i].y() + cut[i + 1].y())));
+        dash({}, 0, cut);
+        QVERIFY(cut.empty());
+    }
+
+    /// Labels at the ends of curves: apart, inside the plot, in the order of their curves.
+    void endLabels()
+    {
+        Chart chart;
+        chart.view.setYRange(0, 100);
+        // Ends of four curves, and the places of labels of 10 pixels beside a plot of 100.
+        const std::tuple<QList<double>, double, QList<double>> rows[] = {
+            {{80, 50, 20, kNaN}, 100, {20, 50, 80, kNaN}},
+            {{50, 51, 50, 120}, 100, {59, 49, 69, kNaN}},
+            {{0, 1, 2, 3}, 100, {95, 85, 75, 65}},
+            {{100, 99, 98, 1}, 100, {5, 15, 25, 95}},
+            {{50, 40, 30, 20}, 25, {10, 20, kNaN, kNaN}},
+            {{50, 40, 30, 20}, -3, {kNaN, kNaN, kNaN, kNaN}},
+        };
+        for (const auto &[ends, height, expected] : rows) {
+            chart.view.setEnds(ends);
+            const QList<double> places = chart.view.labelPlaces(height, 10);
+            for (qsizetype i = 0; i < expected.size(); ++i)
+                QVERIFY2(std::isnan(expected.at(i)) ? std::isnan(places.at(i))
+                                                    : std::abs(places.at(i) - expected.at(i)) < 1.01,
+                         qPrintable(QStringLiteral("%1 %2").arg(i).arg(places.at(i))));
+        }
+    }
+
     void exportsSamples()
     {
         Chart chart;

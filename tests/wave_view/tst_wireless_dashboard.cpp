@@ -2,9 +2,12 @@
 #include <QRegularExpression>
 #include <QTest>
 
+#include <cmath>
+
 #include "app/settings_keys.h"
 #include "support/quick_items.h"
 #include "wave/form_wireless_dashboard.h"
+#include "wave/overlay_view_state.h"
 
 /// The gateway's window on a small laptop's screen, fed with batches of sixteen nodes.
 class TestWirelessDashboard : public QObject
@@ -113,6 +116,55 @@ private slots:
         QVERIFY(!m_window->bridge().playing());
         click(item(QStringLiteral("chip_gyr")));
         QTRY_VERIFY(!item(QStringLiteral("chart_1")));
+    }
+
+    /// One quantity of sixteen nodes in one plot: the newest values in the legend, colours and dashes, a node that falls
+    /// silent, and the order of the nodes.
+    void overlaysNodes()
+    {
+        feed();
+        QTRY_VERIFY(node(15));
+        for (int id = 0; id < 16; ++id)
+            m_window->bridge().setNodeChosen(id, true);
+        click(item(QStringLiteral("overlayChip")));
+        QQuickItem *chart = nullptr;
+        QTRY_VERIFY((chart = item(QStringLiteral("overlay_acc"))) && !item(QStringLiteral("chart_0")));
+        auto *view = chart->property("viewState").value<OverlayViewState *>();
+        feed(3);
+        QTRY_COMPARE(view->seriesLabels().size(), 16);
+        QTRY_VERIFY(view->liveTexts().value(2).contains(QLatin1String("+19")));
+        QSet<QString> looks;
+        for (int i = 0; i < 16; ++i)
+            looks += view->seriesColors().at(i).value<QColor>().name() + (view->seriesDashes().at(i) ? u'-' : u' ');
+        QCOMPARE(looks.size(), 16);
+        // Each curve is drawn up to the end of its node's samples.
+        QTRY_COMPARE(view->ends().size(), 16);
+        QTRY_VERIFY(std::isnan(view->ends().at(3)) && view->ends().at(4) == 19);
+        const QString silent = view->liveTexts().value(3); // a second old: the newest value is still worth showing
+        QTRY_VERIFY((feed(3), view->liveTexts().value(3) != silent && view->liveTexts().value(4).contains(u'9')));
+        // The other quantity, and each node's place in the file.
+        click(findItem(chart, QStringLiteral("channel_Y")));
+        QTRY_VERIFY(view->liveTexts().value(4).contains(QLatin1String("10.000")));
+        const QList<QByteArray> lines = view->table(true).split('\n');
+        QCOMPARE(lines.at(0).count(','), 17);
+        QVERIFY2(lines.at(0).endsWith("node 15 Y (G)"), lines.at(0).constData());
+        QVERIFY2(lines.at(1).endsWith(",-10,-10,-10,-10"), lines.at(1).constData());
+        QVERIFY2(lines.at(lines.size() - 2).contains(",-10,-10,-10,,-10,"), lines.at(lines.size() - 2).constData());
+        // The order: node 15 is moved up by keys, one without a curve leaves the others as they are.
+        const QVariant color = view->seriesColors().at(15);
+        click(node(15));
+        click(node(15));
+        item(QStringLiteral("nodeList"))->forceActiveFocus();
+        QTest::keyClick(m_window.get(), Qt::Key_Up, Qt::AltModifier);
+        QTRY_COMPARE(view->seriesLabels().mid(13), QString(QStringLiteral("13 15 14")).split(u' '));
+        QVERIFY(node(15)->y() < node(14)->y());
+        QCOMPARE(view->seriesColors().at(14), color);
+        view->setSeriesVisible(14, false);
+        click(node(2));
+        QTRY_COMPARE(view->seriesLabels().size(), 15);
+        QVERIFY(!view->isSeriesVisible(13) && view->isSeriesVisible(14));
+        click(item(QStringLiteral("overlayChip")));
+        QTRY_VERIFY(item(QStringLiteral("chart_0")) && !item(QStringLiteral("overlay_acc")));
     }
 
     void drawsAndForgetsWhenClosed()
