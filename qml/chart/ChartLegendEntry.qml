@@ -25,6 +25,12 @@ T.AbstractButton {
     Accessible.name: fullName
     Accessible.checked: shown
 
+    FontMetrics {
+        id: metrics
+
+        font: Theme.strongFont
+    }
+
     contentItem: Row {
         spacing: 5
 
@@ -45,6 +51,8 @@ T.AbstractButton {
         }
         Text {
             anchors.verticalCenter: parent.verticalCenter
+            // Short names are numbers: they stand in columns.
+            width: entry.lineShown ? Math.max(implicitWidth, 2 * metrics.advanceWidth("0")) : implicitWidth
             text: entry.name
             textFormat: Text.PlainText
             font.family: Theme.strongFont.family

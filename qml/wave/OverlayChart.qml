@@ -27,6 +27,8 @@ TimeChart {
 
             objectName: "channel_" + modelData
             text: modelData
+            implicitHeight: Math.round(font.pointSize * 2.4 + 2)
+            horizontalPadding: 8
             checkable: false
             checked: chart.nodes !== null && chart.nodes.channel === index
             hint: qsTr("Show %1 of all chosen nodes").arg(modelData)

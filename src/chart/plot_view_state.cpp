@@ -17,7 +17,7 @@ constexpr double kMostNotches = 10; ///< at once
 constexpr double kZoomPerNotch = 0.8;
 constexpr double kPanPerKey = 0.1;
 constexpr double kPanPerNotch = 0.1;
-constexpr int kManySteps = 20;        ///< of a cursor, with Ctrl
+constexpr int kManySteps = 20; ///< of a cursor, with Ctrl
 constexpr int kEndsMs = 100;
 constexpr double kSmallestBox = 0.01; ///< of the plot
 

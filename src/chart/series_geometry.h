@@ -44,8 +44,8 @@ void toPixels(const QList<QPointF> &points, const Plot &plot, std::vector<QPoint
 void simplify(std::vector<QPointF> &pixels);
 inline constexpr double kTolerance = 0.15; ///< pixels, across the value axis
 
-/// Cuts a line into dashes along x: drawn for kDashPixels, left out for kDashGap. `origin` is a position in pixels where
-/// a dash begins, so that dashes move with their data. `out` is overwritten, its memory reused.
+/// Cuts a line into dashes along x: drawn for kDashPixels, left out for kDashGap. `origin` is a position in pixels
+/// where a dash begins, so that dashes move with their data. `out` is overwritten, its memory reused.
 void dash(const std::vector<QPointF> &pixels, double origin, std::vector<QPointF> &out);
 inline constexpr double kDashPixels = 9;
 inline constexpr double kDashGap = 5;

@@ -34,6 +34,8 @@ public:
     /// Back to the automatic bands; false when they are already in use.
     bool reset();
     bool isCustom() const { return !m_definitions.isEmpty(); }
+    /// The bands that were set; empty while the automatic ones are in use.
+    const QList<FftBandDefinition> &definitions() const { return m_definitions; }
 
     const QList<FftBandPower> &powers() const { return m_powers; }
     const QString &summary() const { return m_summary; }

@@ -11,6 +11,7 @@
 #include "app/palette.h"
 #include "fft/band_power.h"
 #include "fft/fft_window.h"
+#include "fft/spectrum_choices.h"
 #include "fft/spectrum_points.h"
 
 using peak_analysis::Spectrum;
@@ -276,6 +277,33 @@ void FftChartBridge::bandsSet()
 {
     updateAnalysisSummaries();
     updateProfileHash();
+}
+
+void FftChartBridge::setChosenView(bool decibels, const QList<int> &hiddenAxes)
+{
+    m_chosenDecibels = decibels;
+    m_hiddenAxes = hiddenAxes;
+}
+
+void FftChartBridge::restoreChoices(const SpectrumChoices &choices)
+{
+    setChosenView(choices.decibels, choices.hidden);
+    setShowResultant(choices.resultant);
+    setAlarmPresetIndex(choices.alarmPreset);
+    if (!choices.alarmRule.isEmpty())
+        tryAlarmRule(choices.alarmRule);
+    for (const FftBandDefinition &band : choices.bands)
+        tryCustomBand(band.name, band.lowHz, band.highHz);
+}
+
+void FftChartBridge::addChoices(SpectrumChoices &choices) const
+{
+    choices.decibels = m_chosenDecibels;
+    choices.hidden = m_hiddenAxes;
+    choices.resultant = m_showResultant;
+    choices.alarmPreset = alarmPresetIndex();
+    choices.alarmRule = hasCustomAlarmRule() ? alarmRuleToVariantMap() : QVariantMap();
+    choices.bands = m_bands.definitions();
 }
 
 void FftChartBridge::setAlarmPresetIndex(int index)

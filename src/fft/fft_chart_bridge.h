@@ -15,6 +15,8 @@
 #include "fft/fft_records.h"
 #include "fft/fft_snapshot.h"
 
+struct SpectrumChoices;
+
 /// The object behind the spectrum view: takes the spectra of the three axes, analyses them (dominant peak, harmonics,
 /// resultant, bands, coherence, alarm) and reports the results to the view as numbers and as sentences in the
 /// interface's language.
@@ -168,6 +170,14 @@ public:
     /// Back to the automatic bands.
     Q_INVOKABLE void resetBandDefinitions();
 
+    /// The user's choices for the view, which outlive it: decibels, and which of X, Y and Z are hidden (0 to 2).
+    bool chosenDecibels() const { return m_chosenDecibels; }
+    const QList<int> &hiddenAxes() const { return m_hiddenAxes; }
+    void setChosenView(bool decibels, const QList<int> &hiddenAxes);
+    /// What is set here by the user; restoring ignores what cannot be.
+    void restoreChoices(const SpectrumChoices &choices);
+    void addChoices(SpectrumChoices &choices) const;
+
     int alarmPresetIndex() const { return int(m_alarm.preset()); }
     /// 1 Industrial, 2 Human, any other General. Takes the preset's rule and restarts the alarm, unless both are
     /// already in use.
@@ -271,6 +281,8 @@ private:
     quint64 m_revision = 0; ///< revision of the spectra
     double m_yAxisMax = 0;
     double m_maximumInForce = 0;
+    bool m_chosenDecibels = false;
+    QList<int> m_hiddenAxes;
     bool m_showResultant = true;
     bool m_coherenceEnabled = true;
 };

@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QDeadlineTimer>
 #include <QQuickItem>
+#include <QSettings>
 #include <QThread>
 #include <QVBoxLayout>
 
@@ -40,6 +41,7 @@ form_fftchart::form_fftchart(QWidget *parent) : QWidget(parent, Qt::Window), m_c
     connect(&m_timer, &QTimer::timeout, this, &form_fftchart::onTimer50ms);
     retranslateDynamicUi();
     resetFftBuffers();
+    restoreChoices();
     if (!WindowHost::attachBare(this, settings_keys::kSpectrumGeometry)->hasPlace())
         resize(kDefaultSize);
 }
@@ -47,6 +49,7 @@ form_fftchart::form_fftchart(QWidget *parent) : QWidget(parent, Qt::Window), m_c
 form_fftchart::~form_fftchart()
 {
     releaseResources();
+    saveChoices();
     endView(); // goes before the bridge that it is bound to
 }
 
@@ -75,6 +78,28 @@ void form_fftchart::configureControls()
     connect(m_controls, &SpectrumControls::ignoreSteadyValueChosen, this, &form_fftchart::onIgnoreSteadyValueChosen);
     connect(&m_bridge, &FftChartBridge::maximumInForceChanged, m_controls, &SpectrumControls::setMaximumInForce);
     m_bridge.setIgnoreSteadyValue(m_controls->ignoresSteadyValue());
+}
+
+void form_fftchart::restoreChoices()
+{
+    QSettings settings(settings_keys::kFile, QSettings::IniFormat);
+    settings.beginGroup(settings_keys::kSpectrum);
+    m_choices = SpectrumChoices::read(settings);
+    m_bridge.restoreChoices(m_choices);
+    m_controls->setChoices(m_choices);
+}
+
+void form_fftchart::saveChoices()
+{
+    SpectrumChoices choices;
+    m_controls->addChoices(choices);
+    m_bridge.addChoices(choices);
+    if (choices == m_choices)
+        return;
+    m_choices = choices;
+    QSettings settings(settings_keys::kFile, QSettings::IniFormat);
+    settings.beginGroup(settings_keys::kSpectrum);
+    choices.write(settings);
 }
 
 void form_fftchart::initChartParam()
@@ -329,8 +354,10 @@ void form_fftchart::showEvent(QShowEvent *event)
 void form_fftchart::hideEvent(QHideEvent *event)
 {
     QWidget::hideEvent(event);
-    if (!event->spontaneous())
+    if (!event->spontaneous()) {
+        saveChoices();
         endView();
+    }
 }
 
 void form_fftchart::closeEvent(QCloseEvent *event)

@@ -6,6 +6,7 @@
 #include "fft/fft_chart_bridge.h"
 #include "fft/fft_sampler.h"
 #include "fft/fft_window.h"
+#include "fft/spectrum_choices.h"
 
 class FftFiles;
 class FftTrans;
@@ -81,6 +82,8 @@ private:
     void refreshChartState();
     void resetFftBuffers();
     void startAgain();
+    void restoreChoices();
+    void saveChoices();
     void clearRenderedFftData();
     void startFFTCal();
     void setRunning(bool running);
@@ -102,7 +105,8 @@ private:
     QTimer m_timer;
     FftWindowType m_windowType = FftWindowType::Rectangular;
     int m_pointCount = FftSampler::kDefaultPoints;
-    bool m_refitX = false; ///< show all frequencies when the rate is known
+    SpectrumChoices m_choices; ///< as stored
+    bool m_refitX = false;     ///< show all frequencies when the rate is known
 
     QThread *m_thread = nullptr;
     FftTrans *m_engine = nullptr;   ///< lives and dies in m_thread

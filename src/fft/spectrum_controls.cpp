@@ -205,6 +205,31 @@ bool SpectrumControls::ignoresSteadyValue() const
     return m_ignoreSteady->isChecked();
 }
 
+void SpectrumControls::setChoices(const SpectrumChoices &choices)
+{
+    m_storedYAxisMax = choices.ceilings;
+    m_type->setCurrentIndex(choices.type);
+    m_points->setCurrentText(QString::number(choices.points));
+    m_window->setCurrentIndex(choices.window);
+    m_hold->setCurrentIndex(choices.hold);
+    m_ignoreSteady->setChecked(choices.ignoresSteady);
+    updateYAxisControl();
+}
+
+void SpectrumControls::addChoices(SpectrumChoices &choices) const
+{
+    choices.ceilings = m_storedYAxisMax;
+    for (size_t i = 0; i < std::size(kTypes); ++i) {
+        if (choices.ceilings[i] == kTypes[i].defaultMax)
+            choices.ceilings[i] = 0;
+    }
+    choices.type = m_type->currentIndex();
+    choices.points = m_points->currentText().toInt();
+    choices.window = m_window->currentIndex();
+    choices.hold = m_hold->currentIndex();
+    choices.ignoresSteady = m_ignoreSteady->isChecked();
+}
+
 void SpectrumControls::setMaximumInForce(double maximum)
 {
     m_yAxisMax->setMaximumInForce(maximum);

@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include "fft/fft_sampler.h"
+#include "fft/spectrum_choices.h"
 
 class CeilingField;
 class QCheckBox;
@@ -35,6 +36,10 @@ public:
     double currentYAxisMax();
     /// Where the amplitude axis ends instead, in the same unit; 0 while it ends at the ceiling.
     void setMaximumInForce(double maximum);
+
+    /// The choices of this row: takes them as if the user had made them, and writes them.
+    void setChoices(const SpectrumChoices &choices);
+    void addChoices(SpectrumChoices &choices) const;
 
     void setRunning(bool running);
     void setStatus(const QString &text);

@@ -39,6 +39,9 @@ void SpectrumViewState::setBridge(FftChartBridge *bridge)
         m_bridge->disconnect(this);
     m_bridge = bridge;
     if (bridge) {
+        m_decibels = bridge->chosenDecibels();
+        for (size_t axis = 0; axis < m_visible.size(); ++axis)
+            m_visible[axis] = !bridge->hiddenAxes().contains(int(axis));
         connect(bridge, &FftChartBridge::fftDataChanged, this, &SpectrumViewState::dataChanged);
         connect(bridge, &FftChartBridge::frameMetaChanged, this, &SpectrumViewState::followFrequencies);
         connect(bridge, &FftChartBridge::frameMetaChanged, this, &SpectrumViewState::seriesChanged);
@@ -58,6 +61,7 @@ void SpectrumViewState::setDecibels(bool decibels)
     if (decibels == m_decibels)
         return;
     m_decibels = decibels;
+    reportChoices();
     m_fitAnew = m_fitted;
     m_y = fullY();
     emit viewChanged();
@@ -88,9 +92,21 @@ void SpectrumViewState::setSeriesVisible(int line, bool visible)
         m_bridge->setShowResultant(visible);
     } else if (line >= 0 && line < int(m_visible.size()) && m_visible[size_t(line)] != visible) {
         m_visible[size_t(line)] = visible;
+        reportChoices();
         emit seriesChanged();
         emit pictureChanged();
     }
+}
+
+void SpectrumViewState::reportChoices() const
+{
+    QList<int> hidden;
+    for (int axis = 0; axis < int(m_visible.size()); ++axis) {
+        if (!m_visible[size_t(axis)])
+            hidden += axis;
+    }
+    if (m_bridge)
+        m_bridge->setChosenView(m_decibels, hidden);
 }
 
 double SpectrumViewState::level(double amplitude) const

@@ -92,6 +92,7 @@ protected:
     void setManualY(chart_range::Range range) override;
 
 private:
+    void reportChoices() const;
     void dataChanged();
     void configChanged();
     void tellAxisInForce();

@@ -3,8 +3,8 @@
 #include <array>
 #include <vector>
 
-#include <QObject>
 #include <QMap>
+#include <QObject>
 #include <QTimer>
 #include <QVariantList>
 
@@ -156,9 +156,9 @@ private:
 
     GatewayNodeTracker m_tracker;
     GatewayNodeModel m_nodeModel;
-    std::vector<NodeCharts> m_charts; ///< at most kMaxChosenNodes, by ascending id
-    QList<int> m_wanted;              ///< ids that are chosen as soon as they are heard
-    QList<int> m_order;               ///< ids that the user has arranged
+    std::vector<NodeCharts> m_charts;                         ///< at most kMaxChosenNodes, by ascending id
+    QList<int> m_wanted;                                      ///< ids that are chosen as soon as they are heard
+    QList<int> m_order;                                       ///< ids that the user has arranged
     std::array<NodeOverlay *, kSensorTypeCount> m_overlays{}; ///< owned as children
     QMap<QString, ViewChoices> m_choices; ///< of charts, by "N3_ACC"; those that differ from the usual ones
     bool m_overlaid = false;

@@ -5,8 +5,8 @@
 
 #include "wave/gateway_node_tracker.h"
 
-/// The table of radio nodes for the view: one row per node. Rows are inserted as nodes appear and keep their place until
-/// they are moved; dataChanged() is emitted for the rows whose values differ. Main thread only.
+/// The table of radio nodes for the view: one row per node. Rows are inserted as nodes appear and keep their place
+/// until they are moved; dataChanged() is emitted for the rows whose values differ. Main thread only.
 class GatewayNodeModel : public QAbstractListModel
 {
     Q_OBJECT

@@ -83,9 +83,11 @@ QString OverlayViewState::valueText(int, double value, MeasureTable::Figure figu
 
 QString OverlayViewState::paddedText(int, double value) const
 {
-    return std::isnan(value) || !m_overlay->anyChart()
-               ? value_format::absent()
-               : chart_text::paddedValue(*m_overlay->anyChart(), m_overlay->channel(), value);
+    const WaveChartBridge *chart = m_overlay->anyChart();
+    if (!chart)
+        return value_format::absent();
+    const QString text = chart_text::paddedValue(*chart, m_overlay->channel(), std::isnan(value) ? 0 : value);
+    return std::isnan(value) ? value_format::absent().rightJustified(text.size()) : text;
 }
 
 QString OverlayViewState::fileStem() const
@@ -110,7 +112,7 @@ QString OverlayViewState::pictureTitle() const
     QString title = name();
     if (!unit().isEmpty())
         title += QStringLiteral(" (") + unit() + u')';
-    return m_overlay && m_overlay->anyChart() ? (title + QStringLiteral("  ") + m_overlay->anyChart()->origin().device)
-                                                    .trimmed()
-                                              : title;
+    return m_overlay && m_overlay->anyChart()
+               ? (title + QStringLiteral("  ") + m_overlay->anyChart()->origin().device).trimmed()
+               : title;
 }

@@ -88,10 +88,7 @@ public:
     /// Values of all channels of the sample nearest to `timeSec`; empty without data.
     Q_INVOKABLE QVariantList getValuesAtTime(double timeSec) const;
     Q_INVOKABLE int headIndex() const { return model().head(); }
-    Q_INVOKABLE double newestTimeSec() const override
-    {
-        return double(model().timestampAtSampleOffset(0)) / 1000.0;
-    }
+    Q_INVOKABLE double newestTimeSec() const override { return double(model().timestampAtSampleOffset(0)) / 1000.0; }
     int seriesCount() const override { return channelCount(); }
     QString seriesName(int channel) const override { return channelNames().value(channel); }
     quint32 seriesRgb(int channel) const override;
@@ -116,10 +113,7 @@ public:
     /// The origin of the samples, as far as the owner knows.
     const SampleOrigin &origin() const { return m_origin; }
     void setOrigin(const SampleOrigin &origin) { m_origin = origin; }
-    qint64 utcMsAt(double timeSec) const override
-    {
-        return m_newestUtcMs + qRound64((timeSec - liveLagSec()) * 1000);
-    }
+    qint64 utcMsAt(double timeSec) const override { return m_newestUtcMs + qRound64((timeSec - liveLagSec()) * 1000); }
 
     /// The displayed samples: all, or those that the trigger has caught.
     const WaveformDataModel &model() const { return m_caught ? *m_caught : m_model; }

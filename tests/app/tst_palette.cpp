@@ -80,8 +80,8 @@ private slots:
         QVERIFY(std::abs(palette::contrast(Qt::black, Qt::white) - 21) < 1e-9);
     }
 
-    /// The curves of many nodes can be distinguished with every kind of colour vision: at least 20 apart in CIE Lab, where
-    /// 2 is a visible difference, also as the three kinds of dichromats see them.
+    /// The curves of many nodes can be distinguished with every kind of colour vision: at least 20 apart in CIE Lab,
+    /// where 2 is a visible difference, also as the three kinds of dichromats see them.
     void curvesAreDistinct()
     {
         using Matrix = std::array<std::array<double, 3>, 3>;

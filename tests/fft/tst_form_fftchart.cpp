@@ -15,6 +15,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "app/settings_keys.h"
 #include "fft/fft_files.h"
 #include "fft/form_fftchart.h"
 #include "fft/spectrum_view_state.h"
@@ -30,11 +31,13 @@ namespace {
 /// The window on the screen, and the user's actions in it.
 struct Bench
 {
+    const bool isFresh; ///< comes before the window, which reads its settings
     form_fftchart window;
     QQuickView *view = nullptr;
     SpectrumViewState *state = nullptr;
 
-    Bench()
+    /// With what a window before has left behind only if the test is about that.
+    explicit Bench(bool fresh = true) : isFresh(fresh && QFile::remove(settings_keys::kFile))
     {
         window.show();
         for (QWindow *candidate : QGuiApplication::allWindows()) {
@@ -130,6 +133,57 @@ private slots:
         bench.choose("CB_type", 0);
         QCOMPARE(ceiling->text(), u"20000 mG"_s);
         QCOMPARE(bench.bridge().chartTitle(), u"FFT Acceleration"_s);
+    }
+
+    /// What was chosen comes back in the next run, also in the view of a window that was closed in between; nonsense in
+    /// the file does not.
+    void choicesAreRemembered()
+    {
+        {
+            Bench bench;
+            bench.choose("CB_type", 1);
+            bench.choose("CB_points", 8);
+            bench.choose("CB_window", 2);
+            bench.choose("CB_hold", 1);
+            bench.control<QDoubleSpinBox>("SB_y_axis_max")->setValue(1500);
+            bench.control<QCheckBox>("CK_ignore_steady")->click();
+            bench.state->setDecibels(true);
+            bench.state->setSeriesVisible(1, false);
+            bench.state->setSeriesVisible(3, false);
+            bench.bridge().setAlarmPresetIndex(1);
+            QVariantMap rule = bench.bridge().alarmRuleToVariantMap();
+            rule[u"triggerFrames"_s] = 7;
+            QCOMPARE(bench.bridge().tryAlarmRule(rule), QString());
+            QCOMPARE(bench.bridge().tryCustomBand(u"Shaft, 1x"_s, 20, 30), QString());
+        }
+        {
+            Bench bench(false);
+            QCOMPARE(bench.control<QComboBox>("CB_points")->currentText(), u"2048"_s);
+            QCOMPARE(bench.bridge().fftSize(), 2048);
+            QCOMPARE(bench.control<QComboBox>("CB_type")->currentIndex(), 1);
+            QCOMPARE(bench.control<QComboBox>("CB_window")->currentIndex(), 2);
+            QCOMPARE(bench.control<QComboBox>("CB_hold")->currentIndex(), 1);
+            QCOMPARE(bench.bridge().yAxisMax(), 1500.0);
+            QVERIFY(!bench.bridge().ignoresSteadyValue() && bench.state->decibels());
+            QCOMPARE(bench.state->visibleSeries(), QList<bool>({true, false, true, false}));
+            QCOMPARE(bench.bridge().alarmPresetIndex(), 1);
+            QCOMPARE(bench.bridge().alarmRule().triggerFrames, 7);
+            QVERIFY(bench.bridge().hasCustomBands() && bench.bridge().chartTitle() == u"FFT Angular Velocity"_s);
+        }
+        const QTemporaryDir other; // the toolkit may miss what changes a settings file within a moment
+        QDir::setCurrent(other.path());
+        QVERIFY(writeFile(settings_keys::kFile,
+                          "[SPECTRUM]\nTYPE=2\nPOINTS=100\nWINDOW=-1\nHOLD=x\nCEILING_ACC=nan\nHIDDEN=7\n"
+                          "ALARM_PRESET=9\nALARM_RULE\\triggerFrames=many\nBANDS\\size=2000000000\n"
+                          "BANDS\\1\\NAME=b\nBANDS\\1\\LOW_HZ=9\nBANDS\\1\\HIGH_HZ=2\n"));
+        {
+            Bench bench(false);
+            QCOMPARE(bench.bridge().fftSize(), 512);
+            QCOMPARE(bench.bridge().yAxisMax(), 16000.0);
+            QVERIFY(!bench.bridge().hasCustomBands() && !bench.bridge().hasCustomAlarmRule());
+            QCOMPARE(bench.state->visibleSeries(), QList<bool>({true, true, true, true}));
+        }
+        QDir::setCurrent(m_folder.path());
     }
 
     void spectraCome()

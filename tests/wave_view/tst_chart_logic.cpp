@@ -442,12 +442,9 @@ private slots:
         chart.view.setYRange(0, 100);
         // Ends of four curves, and the places of labels of 10 pixels beside a plot of 100.
         const std::tuple<QList<double>, double, QList<double>> rows[] = {
-            {{80, 50, 20, kNaN}, 100, {20, 50, 80, kNaN}},
-            {{50, 51, 50, 120}, 100, {59, 49, 69, kNaN}},
-            {{0, 1, 2, 3}, 100, {95, 85, 75, 65}},
-            {{100, 99, 98, 1}, 100, {5, 15, 25, 95}},
-            {{50, 40, 30, 20}, 25, {10, 20, kNaN, kNaN}},
-            {{50, 40, 30, 20}, -3, {kNaN, kNaN, kNaN, kNaN}},
+            {{80, 50, 20, kNaN}, 100, {20, 50, 80, kNaN}}, {{50, 51, 50, 120}, 100, {59, 49, 69, kNaN}},
+            {{0, 1, 2, 3}, 100, {95, 85, 75, 65}},         {{100, 99, 98, 1}, 100, {5, 15, 25, 95}},
+            {{50, 40, 30, 20}, 25, {10, 20, kNaN, kNaN}},  {{50, 40, 30, 20}, -3, {kNaN, kNaN, kNaN, kNaN}},
         };
         for (const auto &[ends, height, expected] : rows) {
             chart.view.setEnds(ends);

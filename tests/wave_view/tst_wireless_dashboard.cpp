@@ -118,8 +118,8 @@ private slots:
         QTRY_VERIFY(!item(QStringLiteral("chart_1")));
     }
 
-    /// One quantity of sixteen nodes in one plot: the newest values in the legend, colours and dashes, a node that falls
-    /// silent, and the order of the nodes.
+    /// One quantity of sixteen nodes in one plot: the newest values in the legend, colours and dashes, a node that
+    /// falls silent, and the order of the nodes.
     void overlaysNodes()
     {
         feed();
