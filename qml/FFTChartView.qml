@@ -36,7 +36,7 @@ Item {
         blockFill: view.blockFill
         stale: view.stale
         emptyText: view.running ? qsTr("Waiting for samples") : qsTr("No spectrum yet")
-        emptyDetail: view.running ? qsTr("The selected node sends none at the moment.") : qsTr("Press Start above.")
+        emptyDetail: view.running ? qsTr("The selected node is not sending any at the moment.") : qsTr("Press Start above.")
         focus: true
     }
 

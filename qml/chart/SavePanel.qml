@@ -114,7 +114,7 @@ Rectangle {
         Text {
             width: Math.min(implicitWidth, Theme.font.pointSize * 40)
             wrapMode: Text.WordWrap
-            text: qsTr("The buttons of each chart save that one alone in the same way.")
+            text: qsTr("The buttons of each chart save only that chart, in the same way.")
             textFormat: Text.PlainText
             font: Theme.smallFont
             color: Theme.textSecondary

@@ -57,6 +57,26 @@ Flow {
         }
     }
     Text {
+        id: force
+
+        objectName: "filterForce"
+        visible: row.bridge !== null && row.bridge.filterOn && Math.abs(row.bridge.filterForceHz / row.bridge.filterCutoffHz - 1) > 0.02
+        width: Math.min(implicitWidth, row.width)
+        topPadding: 4
+        wrapMode: Text.WordWrap
+        text: visible ? qsTr("In force: %1 Hz, as the rate is now %2 Hz").arg(Number(row.bridge.filterForceHz.toPrecision(3))).arg(row.bridge.framerate) : ""
+        textFormat: Text.PlainText
+        font: Theme.smallFont
+        color: Theme.warning
+    }
+    ActionButton {
+        objectName: "filterAgain"
+        bare: true
+        visible: force.visible
+        text: qsTr("Apply %1 Hz").arg(row.bridge !== null ? row.bridge.filterCutoffHz : 0)
+        onClicked: row.apply(true, row.bridge.filterCutoffHz)
+    }
+    Text {
         objectName: "filterProblem"
         visible: text !== ""
         width: Math.min(implicitWidth, row.width)

@@ -68,7 +68,7 @@ Item {
                 primary: true
                 iconName: dashboard.bridge.playing ? "pause" : "play"
                 text: dashboard.bridge.playing ? qsTr("Pause") : qsTr("Play")
-                hint: dashboard.bridge.playing ? qsTr("Hold the pictures; the table goes on") : qsTr("Go on with the newest samples")
+                hint: dashboard.bridge.playing ? qsTr("Freeze the charts; the table keeps updating") : qsTr("Continue with the newest samples")
                 keys: qsTr("Space")
                 onClicked: dashboard.bridge.setPlaying(!dashboard.bridge.playing)
             }

@@ -72,7 +72,7 @@ Item {
                 primary: true
                 iconName: dashboard.bridge.playing ? "pause" : "play"
                 text: dashboard.bridge.playing ? qsTr("Pause") : qsTr("Play")
-                hint: dashboard.bridge.playing ? qsTr("Hold the picture; recordings go on") : qsTr("Go on with the newest samples")
+                hint: dashboard.bridge.playing ? qsTr("Hold the picture; recordings go on") : qsTr("Continue with the newest samples")
                 keys: qsTr("Space")
                 onClicked: dashboard.bridge.togglePlaying()
             }

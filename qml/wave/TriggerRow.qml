@@ -84,7 +84,7 @@ Flow {
         from: -1e30
         to: 1e30
         unit: row.viewState.unit
-        hint: qsTr("Level of the trigger; its line is dragged")
+        hint: qsTr("Trigger level; drag its line to change it")
         onEntered: number => row.trigger.level = number
     }
     NumberField {

@@ -220,6 +220,14 @@
         <source>Cutoff frequency</source>
         <translation>截止频率</translation>
     </message>
+    <message>
+        <source>In force: %1 Hz, as the rate is now %2 Hz</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Apply %1 Hz</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ChartLegendEntry</name>
@@ -341,10 +349,6 @@
         <translation>连接</translation>
     </message>
     <message>
-        <source>What arrives is noise. The baud rate may be wrong.</source>
-        <translation>收到的是噪声。波特率可能不正确。</translation>
-    </message>
-    <message>
         <source>Opens this port at one rate after the other until the device answers</source>
         <translation>依次以各波特率打开此串口，直到设备应答</translation>
     </message>
@@ -352,12 +356,16 @@
         <source>Try the &amp;usual baud rates</source>
         <translation>尝试常用波特率(&amp;U)</translation>
     </message>
+    <message>
+        <source>Only noise is arriving. The baud rate may be wrong.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>DashboardWindow</name>
     <message>
-        <source>This window could not be loaded. The log of the program tells why.</source>
-        <translation>无法加载此窗口。原因请查看程序日志。</translation>
+        <source>This window could not be loaded. See the log for the reason.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -406,16 +414,16 @@
         <translation>打开串口失败。</translation>
     </message>
     <message>
-        <source>The device may wait in its bootloader for the rest. Plug it in, then connect to it.</source>
-        <translation>设备可能停留在引导程序中，等待写入其余部分。请接入设备，然后进行连接。</translation>
-    </message>
-    <message>
         <source>Connect</source>
         <translation>连接</translation>
     </message>
     <message>
         <source>Later</source>
         <translation>稍后</translation>
+    </message>
+    <message>
+        <source>The device may be waiting in its bootloader for the rest. Plug it in, then connect to it.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -429,16 +437,16 @@
         <translation>尚无频谱</translation>
     </message>
     <message>
-        <source>The selected node sends none at the moment.</source>
-        <translation>所选节点目前没有发送采样数据。</translation>
-    </message>
-    <message>
         <source>Press Start above.</source>
         <translation>请点击上方的“开始”。</translation>
     </message>
     <message>
         <source>Quality</source>
         <translation>数据质量</translation>
+    </message>
+    <message>
+        <source>The selected node is not sending any at the moment.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -811,14 +819,6 @@
         <translation>继续</translation>
     </message>
     <message>
-        <source>Hold the pictures; the table goes on</source>
-        <translation>暂停画面，表格继续更新</translation>
-    </message>
-    <message>
-        <source>Go on with the newest samples</source>
-        <translation>继续显示最新数据</translation>
-    </message>
-    <message>
         <source>Space</source>
         <translation>空格键</translation>
     </message>
@@ -857,6 +857,26 @@
     <message>
         <source>Connect a wireless gateway; its nodes appear here.</source>
         <translation>请连接无线网关，其节点会显示在这里。</translation>
+    </message>
+    <message>
+        <source>Freeze the charts; the table keeps updating</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Continue with the newest samples</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Overlay</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show each node in a chart of its own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show one quantity of all chosen nodes in one plot</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -954,12 +974,28 @@ Pa</translation>
         <translation>节点 %1，%2</translation>
     </message>
     <message>
-        <source>%1 nodes are shown already: drop one first.</source>
-        <translation>已显示 %1 个节点：请先取消其中一个。</translation>
-    </message>
-    <message>
         <source>%1 of %2 nodes chosen for charts</source>
         <translation>图表已选 %1 / %2 个节点</translation>
+    </message>
+    <message>
+        <source>Move the node and its charts up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alt+Up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the node and its charts down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alt+Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 nodes are already shown. Remove one first.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1131,8 +1167,8 @@ Pa</translation>
         <translation>网格文件超过 %1 MiB。</translation>
     </message>
     <message>
-        <source>The mesh file is damaged, or of a kind that this program cannot show.</source>
-        <translation>网格文件已损坏，或其类型不受本程序支持。</translation>
+        <source>The mesh file is damaged, or of an unsupported kind.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1158,6 +1194,13 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>NodeOverlay</name>
+    <message>
+        <source>Node %1</source>
+        <translation type="unfinished">节点 %1</translation>
+    </message>
+</context>
+<context>
     <name>ObjReader</name>
     <message>
         <source>The OBJ file cannot be read: %1</source>
@@ -1170,10 +1213,6 @@ Pa</translation>
     <message>
         <source>The file is not an OBJ model: it holds no text.</source>
         <translation>该文件不是 OBJ 模型：其内容不是文本。</translation>
-    </message>
-    <message>
-        <source>Line %1 of the OBJ file holds a coordinate that is not a number.</source>
-        <translation>OBJ 文件第 %1 行含有非数值的坐标。</translation>
     </message>
     <message>
         <source>The file is not an OBJ model.</source>
@@ -1194,6 +1233,17 @@ Pa</translation>
     <message>
         <source>The OBJ file holds no faces to show.</source>
         <translation>OBJ 文件中没有可显示的面。</translation>
+    </message>
+    <message>
+        <source>Line %1 of the OBJ file contains a coordinate that is not a number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>OverlayChart</name>
+    <message>
+        <source>Show %1 of all chosen nodes</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1257,16 +1307,16 @@ Pa</translation>
 <context>
     <name>RecordingBadge</name>
     <message>
-        <source>Recording: trouble</source>
-        <translation>记录出现问题</translation>
-    </message>
-    <message>
         <source>Recording %1</source>
         <translation>正在记录 %1</translation>
     </message>
     <message>
         <source>Recording: waiting</source>
         <translation>记录等待中</translation>
+    </message>
+    <message>
+        <source>Recording: problem</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1312,8 +1362,8 @@ Pa</translation>
         <translation>每个图表保存为一张图片</translation>
     </message>
     <message>
-        <source>The buttons of each chart save that one alone in the same way.</source>
-        <translation>各图表自带的按钮以相同方式仅保存该图表。</translation>
+        <source>The buttons of each chart save only that chart, in the same way.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1354,10 +1404,6 @@ Pa</translation>
         <translation>暂停画面，记录不受影响</translation>
     </message>
     <message>
-        <source>Go on with the newest samples</source>
-        <translation>继续显示最新数据</translation>
-    </message>
-    <message>
         <source>Space</source>
         <translation>空格键</translation>
     </message>
@@ -1376,6 +1422,10 @@ Pa</translation>
     <message>
         <source>Choose above what to show.</source>
         <translation>请在上方选择要显示的内容。</translation>
+    </message>
+    <message>
+        <source>Continue with the newest samples</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1569,6 +1619,96 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>TimeChart</name>
+    <message>
+        <source>Waiting for samples</source>
+        <translation type="unfinished">正在等待采样数据</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation type="unfinished">已暂停</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back to the newest samples</source>
+        <translation type="unfinished">回到最新数据</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation type="unfinished">End</translation>
+    </message>
+    <message>
+        <source>Span and limits of the axes</source>
+        <translation type="unfinished">时间跨度和坐标轴范围</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation type="unfinished">统计</translation>
+    </message>
+    <message>
+        <source>Remove the measuring cursors</source>
+        <translation type="unfinished">移除测量光标</translation>
+    </message>
+    <message>
+        <source>Measure between two cursors</source>
+        <translation type="unfinished">用两个光标测量</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation type="unfinished">Esc</translation>
+    </message>
+    <message>
+        <source>A, B</source>
+        <translation type="unfinished">A、B</translation>
+    </message>
+    <message>
+        <source>Reset the view</source>
+        <translation type="unfinished">重置视图</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save a picture of the chart</source>
+        <translation type="unfinished">保存图表图片</translation>
+    </message>
+    <message>
+        <source>Save the visible samples</source>
+        <translation type="unfinished">保存可见区间的采样数据</translation>
+    </message>
+    <message>
+        <source>Show all charts</source>
+        <translation type="unfinished">显示所有图表</translation>
+    </message>
+    <message>
+        <source>Show this chart alone</source>
+        <translation type="unfinished">仅显示此图表</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation type="unfinished">%1 s</translation>
+    </message>
+    <message>
+        <source>Show %1 seconds</source>
+        <translation type="unfinished">显示 %1 秒</translation>
+    </message>
+    <message>
+        <source>No new samples</source>
+        <translation type="unfinished">没有新的采样数据</translation>
+    </message>
+</context>
+<context>
+    <name>TimeViewState</name>
+    <message>
+        <source>t %1</source>
+        <translation type="unfinished">t %1</translation>
+    </message>
+</context>
+<context>
     <name>ToolADI</name>
     <message>
         <source>N</source>
@@ -1630,10 +1770,6 @@ Pa</translation>
         <translation>超出两个电平之间的区间</translation>
     </message>
     <message>
-        <source>Level of the trigger; its line is dragged</source>
-        <translation>触发电平；可拖动其水平线调整</translation>
-    </message>
-    <message>
         <source>Other end of the band</source>
         <translation>区间的另一端</translation>
     </message>
@@ -1688,6 +1824,10 @@ Pa</translation>
     <message>
         <source>Start a recording with the event, with the last folder and name</source>
         <translation>事件发生时开始记录，使用上次的文件夹和名称</translation>
+    </message>
+    <message>
+        <source>Trigger level; drag its line to change it</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1815,88 +1955,12 @@ Pa</translation>
         <translation>没有新的采样数据</translation>
     </message>
     <message>
-        <source>Waiting for samples</source>
-        <translation>正在等待采样数据</translation>
-    </message>
-    <message>
-        <source>Paused</source>
-        <translation>已暂停</translation>
-    </message>
-    <message>
-        <source>Live</source>
-        <translation>实时</translation>
-    </message>
-    <message>
-        <source>Back to the newest samples</source>
-        <translation>回到最新数据</translation>
-    </message>
-    <message>
-        <source>Home</source>
-        <translation>Home</translation>
-    </message>
-    <message>
         <source>Low-pass filter</source>
         <translation>低通滤波</translation>
     </message>
     <message>
-        <source>Remove the measuring cursors</source>
-        <translation>移除测量光标</translation>
-    </message>
-    <message>
-        <source>Measure between two cursors</source>
-        <translation>用两个光标测量</translation>
-    </message>
-    <message>
-        <source>Esc</source>
-        <translation>Esc</translation>
-    </message>
-    <message>
-        <source>A, B</source>
-        <translation>A、B</translation>
-    </message>
-    <message>
-        <source>Reset the view</source>
-        <translation>重置视图</translation>
-    </message>
-    <message>
-        <source>Save a picture of the chart</source>
-        <translation>保存图表图片</translation>
-    </message>
-    <message>
-        <source>Save the visible samples</source>
-        <translation>保存可见区间的采样数据</translation>
-    </message>
-    <message>
-        <source>Show all charts</source>
-        <translation>显示所有图表</translation>
-    </message>
-    <message>
-        <source>Show this chart alone</source>
-        <translation>仅显示此图表</translation>
-    </message>
-    <message>
-        <source>End</source>
-        <translation>End</translation>
-    </message>
-    <message>
         <source>Trigger</source>
         <translation>触发</translation>
-    </message>
-    <message>
-        <source>Span and limits of the axes</source>
-        <translation>时间跨度和坐标轴范围</translation>
-    </message>
-    <message>
-        <source>Statistics</source>
-        <translation>统计</translation>
-    </message>
-    <message>
-        <source>%1 s</source>
-        <translation>%1 s</translation>
-    </message>
-    <message>
-        <source>Show %1 seconds</source>
-        <translation>显示 %1 秒</translation>
     </message>
 </context>
 <context>
@@ -1958,10 +2022,6 @@ Pa</translation>
     <message>
         <source>Trigger</source>
         <translation>触发</translation>
-    </message>
-    <message>
-        <source>t %1</source>
-        <translation>t %1</translation>
     </message>
 </context>
 <context>
@@ -2228,14 +2288,6 @@ Pa</translation>
         <translation>未找到串口</translation>
     </message>
     <message>
-        <source>Plug the device in: it appears here by itself.
-
-To try the program without a device, start the simulator in a terminal with ./run or kv_simulator. It prints a path: type that below.</source>
-        <translation>接入设备后，串口会自动出现在这里。
-
-如果没有设备，可在终端中用 ./run 或 kv_simulator 启动模拟器来试用本程序。模拟器会显示一个路径，请将其填入下方。</translation>
-    </message>
-    <message>
         <source>&amp;Port or path</source>
         <translation>端口或路径(&amp;P)</translation>
     </message>
@@ -2270,6 +2322,12 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>%1 is not a serial port.</source>
         <translation>%1 不是串口。</translation>
+    </message>
+    <message>
+        <source>Plug the device in: it will appear here.
+
+To try the program without a device, start the simulator in a terminal with ./run or kv_simulator. It prints a path: type that below.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2442,10 +2500,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <translation>数据包之外的字节</translation>
     </message>
     <message>
-        <source>Text that the device answers to commands, and what is left of damaged packets</source>
-        <translation>设备应答命令的文本，以及损坏数据包的剩余部分</translation>
-    </message>
-    <message>
         <source>of these, noise</source>
         <translation>其中的噪声</translation>
     </message>
@@ -2464,10 +2518,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>Last error</source>
         <translation>最近的错误</translation>
-    </message>
-    <message>
-        <source>What was damaged last on the line</source>
-        <translation>线路上最近一次损坏的类型</translation>
     </message>
     <message>
         <source>Time of the last error</source>
@@ -2524,10 +2574,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>Clock jumps</source>
         <translation>时钟跳变</translation>
-    </message>
-    <message>
-        <source>The device restarted or its time was set; what was lost meanwhile cannot be told</source>
-        <translation>设备重启或时间被重设；期间丢失的数量无法得知</translation>
     </message>
     <message>
         <source>Recording</source>
@@ -2609,6 +2655,18 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <source>Missing</source>
         <translation>丢失</translation>
     </message>
+    <message>
+        <source>Text that the device answers to commands, and the remains of damaged packets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The latest damage on the line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The device restarted or its time was set; what was lost in between is not known</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>form_record</name>
@@ -2679,10 +2737,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>Folder for recordings</source>
         <translation>选择记录文件夹</translation>
-    </message>
-    <message>
-        <source>Nothing is connected: open a serial port first.</source>
-        <translation>尚未连接：请先打开串口。</translation>
     </message>
     <message>
         <source>Choose a folder.</source>
@@ -2833,10 +2887,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <translation>所有文件的总大小上限 (MiB)</translation>
     </message>
     <message>
-        <source>&amp;Go on after an unplugged cable</source>
-        <translation>断线重连后继续记录(&amp;G)</translation>
-    </message>
-    <message>
         <source>When the connection was lost, recording goes on in a new file as soon as the port is open again</source>
         <translation>连接断开后，一旦重新打开串口，即在新文件中继续记录</translation>
     </message>
@@ -2863,6 +2913,14 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>A file beside the recording cannot be written: %1</source>
         <translation>无法写入记录的附属文件：%1</translation>
+    </message>
+    <message>
+        <source>&amp;Continue after the cable was unplugged</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not connected. Open a serial port first.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3040,10 +3098,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <translation>设置已发送，设备已重启。</translation>
     </message>
     <message>
-        <source>What the device sends is no text. The baud rate may be wrong.</source>
-        <translation>设备发送的不是文本。波特率可能不正确。</translation>
-    </message>
-    <message>
         <source>The device refused at least one of %1.</source>
         <translation>设备至少拒绝了以下命令之一：%1。</translation>
     </message>
@@ -3060,12 +3114,16 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <translation>应答在线路上损坏。请重新识别设备。</translation>
     </message>
     <message>
-        <source>%1 Hz takes %2 % of what this line carries at %3 baud: samples get lost.</source>
-        <translation>波特率为 %3 时，%1 Hz 需要占用线路传输能力的 %2 %：采样会丢失。</translation>
-    </message>
-    <message>
         <source>Save anyway</source>
         <translation>仍然保存</translation>
+    </message>
+    <message>
+        <source>The device is not sending text. The baud rate may be wrong.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Hz needs %2 % of the line&apos;s capacity at %3 baud: samples will be lost.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3159,10 +3217,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <translation>当前环境无法绘制三维画面。数值显示不受影响。</translation>
     </message>
     <message>
-        <source>The 3D picture could not be loaded. The log of the program tells why.</source>
-        <translation>无法加载三维画面。原因请查看程序日志。</translation>
-    </message>
-    <message>
         <source>Current preset: RFU body / ENU navigation, Euler 312 intrinsic (Z-X-Y).</source>
         <translation>当前预设：RFU 载体系 / ENU 导航系，欧拉角 312 内旋 (Z-X-Y)。</translation>
     </message>
@@ -3205,6 +3259,10 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>3D Assets (*.obj *.mesh)</source>
         <translation>三维模型 (*.obj *.mesh)</translation>
+    </message>
+    <message>
+        <source>The 3D picture could not be loaded. See the log for the reason.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3798,10 +3856,6 @@ Ready to download firmware.
 <context>
     <name>session_text</name>
     <message>
-        <source>Nothing is connected: open a serial port first.</source>
-        <translation>尚未连接：请先打开串口。</translation>
-    </message>
-    <message>
         <source>The port is being opened.</source>
         <translation>正在打开串口。</translation>
     </message>
@@ -3846,8 +3900,12 @@ Do not unplug the device.</source>
         <translation>正在尝试 %1 波特...</translation>
     </message>
     <message>
-        <source>A firmware download runs. It has to finish first.</source>
-        <translation>正在烧录固件，须等待其结束。</translation>
+        <source>Not connected. Open a serial port first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A firmware download is running and must finish first.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

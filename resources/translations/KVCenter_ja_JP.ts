@@ -220,6 +220,14 @@
         <source>Cutoff frequency</source>
         <translation>カットオフ周波数</translation>
     </message>
+    <message>
+        <source>In force: %1 Hz, as the rate is now %2 Hz</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Apply %1 Hz</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ChartLegendEntry</name>
@@ -341,10 +349,6 @@
         <translation>接続</translation>
     </message>
     <message>
-        <source>What arrives is noise. The baud rate may be wrong.</source>
-        <translation>受信しているのはノイズです。ボーレートが違う可能性があります。</translation>
-    </message>
-    <message>
         <source>Opens this port at one rate after the other until the device answers</source>
         <translation>デバイスが応答するまで、このポートをボーレートを変えながら開きます</translation>
     </message>
@@ -352,12 +356,16 @@
         <source>Try the &amp;usual baud rates</source>
         <translation>一般的なボーレートを試す(&amp;U)</translation>
     </message>
+    <message>
+        <source>Only noise is arriving. The baud rate may be wrong.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>DashboardWindow</name>
     <message>
-        <source>This window could not be loaded. The log of the program tells why.</source>
-        <translation>このウィンドウを読み込めませんでした。原因はプログラムのログを確認してください。</translation>
+        <source>This window could not be loaded. See the log for the reason.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -406,16 +414,16 @@
         <translation>シリアルポートを開けませんでした。</translation>
     </message>
     <message>
-        <source>The device may wait in its bootloader for the rest. Plug it in, then connect to it.</source>
-        <translation>デバイスはブートローダーで残りのデータを待っている可能性があります。デバイスをケーブルでつないでから、「接続」を押してください。</translation>
-    </message>
-    <message>
         <source>Connect</source>
         <translation>接続</translation>
     </message>
     <message>
         <source>Later</source>
         <translation>後で</translation>
+    </message>
+    <message>
+        <source>The device may be waiting in its bootloader for the rest. Plug it in, then connect to it.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -429,16 +437,16 @@
         <translation>スペクトルはまだありません</translation>
     </message>
     <message>
-        <source>The selected node sends none at the moment.</source>
-        <translation>選択したノードは現在サンプルを送信していません。</translation>
-    </message>
-    <message>
         <source>Press Start above.</source>
         <translation>上の「開始」を押してください。</translation>
     </message>
     <message>
         <source>Quality</source>
         <translation>品質</translation>
+    </message>
+    <message>
+        <source>The selected node is not sending any at the moment.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -811,14 +819,6 @@
         <translation>再開</translation>
     </message>
     <message>
-        <source>Hold the pictures; the table goes on</source>
-        <translation>グラフを一時停止（表の更新は続きます）</translation>
-    </message>
-    <message>
-        <source>Go on with the newest samples</source>
-        <translation>最新のサンプルから表示を再開</translation>
-    </message>
-    <message>
         <source>Space</source>
         <translation>スペースキー</translation>
     </message>
@@ -857,6 +857,26 @@
     <message>
         <source>Connect a wireless gateway; its nodes appear here.</source>
         <translation>無線ゲートウェイを接続すると、そのノードがここに表示されます。</translation>
+    </message>
+    <message>
+        <source>Freeze the charts; the table keeps updating</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Continue with the newest samples</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Overlay</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show each node in a chart of its own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show one quantity of all chosen nodes in one plot</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -954,12 +974,28 @@ Pa</translation>
         <translation>ノード %1、%2</translation>
     </message>
     <message>
-        <source>%1 nodes are shown already: drop one first.</source>
-        <translation>すでに %1 ノードを表示しています。先にいずれかの選択を解除してください。</translation>
-    </message>
-    <message>
         <source>%1 of %2 nodes chosen for charts</source>
         <translation>グラフに表示するノード: %1 / %2</translation>
+    </message>
+    <message>
+        <source>Move the node and its charts up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alt+Up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the node and its charts down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alt+Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 nodes are already shown. Remove one first.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1131,8 +1167,8 @@ Pa</translation>
         <translation>メッシュファイルが %1 MiB を超えています。</translation>
     </message>
     <message>
-        <source>The mesh file is damaged, or of a kind that this program cannot show.</source>
-        <translation>メッシュファイルが破損しているか、このプログラムで表示できない形式です。</translation>
+        <source>The mesh file is damaged, or of an unsupported kind.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1158,6 +1194,13 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>NodeOverlay</name>
+    <message>
+        <source>Node %1</source>
+        <translation type="unfinished">ノード %1</translation>
+    </message>
+</context>
+<context>
     <name>ObjReader</name>
     <message>
         <source>The OBJ file cannot be read: %1</source>
@@ -1170,10 +1213,6 @@ Pa</translation>
     <message>
         <source>The file is not an OBJ model: it holds no text.</source>
         <translation>このファイルはテキスト形式ではないため、OBJ モデルではありません。</translation>
-    </message>
-    <message>
-        <source>Line %1 of the OBJ file holds a coordinate that is not a number.</source>
-        <translation>OBJ ファイルの %1 行目に、数値ではない座標があります。</translation>
     </message>
     <message>
         <source>The file is not an OBJ model.</source>
@@ -1194,6 +1233,17 @@ Pa</translation>
     <message>
         <source>The OBJ file holds no faces to show.</source>
         <translation>OBJ ファイルに表示できる面がありません。</translation>
+    </message>
+    <message>
+        <source>Line %1 of the OBJ file contains a coordinate that is not a number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>OverlayChart</name>
+    <message>
+        <source>Show %1 of all chosen nodes</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1257,16 +1307,16 @@ Pa</translation>
 <context>
     <name>RecordingBadge</name>
     <message>
-        <source>Recording: trouble</source>
-        <translation>記録: 問題あり</translation>
-    </message>
-    <message>
         <source>Recording %1</source>
         <translation>記録中 %1</translation>
     </message>
     <message>
         <source>Recording: waiting</source>
         <translation>記録: 待機中</translation>
+    </message>
+    <message>
+        <source>Recording: problem</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1312,8 +1362,8 @@ Pa</translation>
         <translation>グラフごとに画像を保存</translation>
     </message>
     <message>
-        <source>The buttons of each chart save that one alone in the same way.</source>
-        <translation>各グラフのボタンでは、そのグラフだけを同じ設定で保存します。</translation>
+        <source>The buttons of each chart save only that chart, in the same way.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1354,10 +1404,6 @@ Pa</translation>
         <translation>表示を一時停止（記録は続きます）</translation>
     </message>
     <message>
-        <source>Go on with the newest samples</source>
-        <translation>最新のサンプルから表示を再開</translation>
-    </message>
-    <message>
         <source>Space</source>
         <translation>スペースキー</translation>
     </message>
@@ -1376,6 +1422,10 @@ Pa</translation>
     <message>
         <source>Choose above what to show.</source>
         <translation>表示するものを上で選択してください。</translation>
+    </message>
+    <message>
+        <source>Continue with the newest samples</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1569,6 +1619,96 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>TimeChart</name>
+    <message>
+        <source>Waiting for samples</source>
+        <translation type="unfinished">サンプルを待っています</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation type="unfinished">一時停止中</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back to the newest samples</source>
+        <translation type="unfinished">最新のサンプルに戻る</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation type="unfinished">End</translation>
+    </message>
+    <message>
+        <source>Span and limits of the axes</source>
+        <translation type="unfinished">時間幅と軸の範囲</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation type="unfinished">統計</translation>
+    </message>
+    <message>
+        <source>Remove the measuring cursors</source>
+        <translation type="unfinished">測定カーソルを消去</translation>
+    </message>
+    <message>
+        <source>Measure between two cursors</source>
+        <translation type="unfinished">2 本のカーソル間を測定</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation type="unfinished">Esc</translation>
+    </message>
+    <message>
+        <source>A, B</source>
+        <translation type="unfinished">A, B</translation>
+    </message>
+    <message>
+        <source>Reset the view</source>
+        <translation type="unfinished">表示範囲をリセット</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save a picture of the chart</source>
+        <translation type="unfinished">グラフの画像を保存</translation>
+    </message>
+    <message>
+        <source>Save the visible samples</source>
+        <translation type="unfinished">表示中のサンプルを保存</translation>
+    </message>
+    <message>
+        <source>Show all charts</source>
+        <translation type="unfinished">すべてのグラフを表示</translation>
+    </message>
+    <message>
+        <source>Show this chart alone</source>
+        <translation type="unfinished">このグラフだけを表示</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation type="unfinished">%1 s</translation>
+    </message>
+    <message>
+        <source>Show %1 seconds</source>
+        <translation type="unfinished">%1 秒間を表示</translation>
+    </message>
+    <message>
+        <source>No new samples</source>
+        <translation type="unfinished">新しいサンプルがありません</translation>
+    </message>
+</context>
+<context>
+    <name>TimeViewState</name>
+    <message>
+        <source>t %1</source>
+        <translation type="unfinished">t %1</translation>
+    </message>
+</context>
+<context>
     <name>ToolADI</name>
     <message>
         <source>N</source>
@@ -1630,10 +1770,6 @@ Pa</translation>
         <translation>2 つのレベルの範囲から外れる</translation>
     </message>
     <message>
-        <source>Level of the trigger; its line is dragged</source>
-        <translation>トリガーレベル（線のドラッグでも変更可能）</translation>
-    </message>
-    <message>
         <source>Other end of the band</source>
         <translation>範囲のもう一方の端</translation>
     </message>
@@ -1688,6 +1824,10 @@ Pa</translation>
     <message>
         <source>Start a recording with the event, with the last folder and name</source>
         <translation>イベントと同時に、前回のフォルダーと名前で記録を開始</translation>
+    </message>
+    <message>
+        <source>Trigger level; drag its line to change it</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1815,88 +1955,12 @@ Pa</translation>
         <translation>新しいサンプルがありません</translation>
     </message>
     <message>
-        <source>Waiting for samples</source>
-        <translation>サンプルを待っています</translation>
-    </message>
-    <message>
-        <source>Paused</source>
-        <translation>一時停止中</translation>
-    </message>
-    <message>
-        <source>Live</source>
-        <translation>最新へ</translation>
-    </message>
-    <message>
-        <source>Back to the newest samples</source>
-        <translation>最新のサンプルに戻る</translation>
-    </message>
-    <message>
-        <source>Home</source>
-        <translation>Home</translation>
-    </message>
-    <message>
         <source>Low-pass filter</source>
         <translation>ローパスフィルター</translation>
     </message>
     <message>
-        <source>Remove the measuring cursors</source>
-        <translation>測定カーソルを消去</translation>
-    </message>
-    <message>
-        <source>Measure between two cursors</source>
-        <translation>2 本のカーソル間を測定</translation>
-    </message>
-    <message>
-        <source>Esc</source>
-        <translation>Esc</translation>
-    </message>
-    <message>
-        <source>A, B</source>
-        <translation>A, B</translation>
-    </message>
-    <message>
-        <source>Reset the view</source>
-        <translation>表示範囲をリセット</translation>
-    </message>
-    <message>
-        <source>Save a picture of the chart</source>
-        <translation>グラフの画像を保存</translation>
-    </message>
-    <message>
-        <source>Save the visible samples</source>
-        <translation>表示中のサンプルを保存</translation>
-    </message>
-    <message>
-        <source>Show all charts</source>
-        <translation>すべてのグラフを表示</translation>
-    </message>
-    <message>
-        <source>Show this chart alone</source>
-        <translation>このグラフだけを表示</translation>
-    </message>
-    <message>
-        <source>End</source>
-        <translation>End</translation>
-    </message>
-    <message>
         <source>Trigger</source>
         <translation>トリガー</translation>
-    </message>
-    <message>
-        <source>Span and limits of the axes</source>
-        <translation>時間幅と軸の範囲</translation>
-    </message>
-    <message>
-        <source>Statistics</source>
-        <translation>統計</translation>
-    </message>
-    <message>
-        <source>%1 s</source>
-        <translation>%1 s</translation>
-    </message>
-    <message>
-        <source>Show %1 seconds</source>
-        <translation>%1 秒間を表示</translation>
     </message>
 </context>
 <context>
@@ -1958,10 +2022,6 @@ Pa</translation>
     <message>
         <source>Trigger</source>
         <translation>トリガー</translation>
-    </message>
-    <message>
-        <source>t %1</source>
-        <translation>t %1</translation>
     </message>
 </context>
 <context>
@@ -2228,14 +2288,6 @@ Pa</translation>
         <translation>シリアルポートが見つかりません</translation>
     </message>
     <message>
-        <source>Plug the device in: it appears here by itself.
-
-To try the program without a device, start the simulator in a terminal with ./run or kv_simulator. It prints a path: type that below.</source>
-        <translation>デバイスを接続すると、ここに自動的に表示されます。
-
-デバイスなしで試すには、ターミナルで ./run または kv_simulator を実行してシミュレーターを起動し、表示されたパスを下に入力してください。</translation>
-    </message>
-    <message>
         <source>&amp;Port or path</source>
         <translation>ポートまたはパス(&amp;P)</translation>
     </message>
@@ -2270,6 +2322,12 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>%1 is not a serial port.</source>
         <translation>%1 はシリアルポートではありません。</translation>
+    </message>
+    <message>
+        <source>Plug the device in: it will appear here.
+
+To try the program without a device, start the simulator in a terminal with ./run or kv_simulator. It prints a path: type that below.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2442,10 +2500,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <translation>パケット外のバイト</translation>
     </message>
     <message>
-        <source>Text that the device answers to commands, and what is left of damaged packets</source>
-        <translation>コマンドへのデバイスの応答テキストと、壊れたパケットの残り</translation>
-    </message>
-    <message>
         <source>of these, noise</source>
         <translation>うちノイズ</translation>
     </message>
@@ -2464,10 +2518,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>Last error</source>
         <translation>最後のエラー</translation>
-    </message>
-    <message>
-        <source>What was damaged last on the line</source>
-        <translation>回線上で最後に起きた異常の種類</translation>
     </message>
     <message>
         <source>Time of the last error</source>
@@ -2524,10 +2574,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>Clock jumps</source>
         <translation>時計の飛び</translation>
-    </message>
-    <message>
-        <source>The device restarted or its time was set; what was lost meanwhile cannot be told</source>
-        <translation>デバイスの再起動または時刻の再設定。その間の欠落数は分かりません</translation>
     </message>
     <message>
         <source>Recording</source>
@@ -2609,6 +2655,18 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <source>Missing</source>
         <translation>欠落</translation>
     </message>
+    <message>
+        <source>Text that the device answers to commands, and the remains of damaged packets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The latest damage on the line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The device restarted or its time was set; what was lost in between is not known</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>form_record</name>
@@ -2679,10 +2737,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>Folder for recordings</source>
         <translation>記録先のフォルダー</translation>
-    </message>
-    <message>
-        <source>Nothing is connected: open a serial port first.</source>
-        <translation>何も接続されていません。先にシリアルポートを開いてください。</translation>
     </message>
     <message>
         <source>Choose a folder.</source>
@@ -2833,10 +2887,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <translation>全ファイルの合計サイズの上限（MiB）</translation>
     </message>
     <message>
-        <source>&amp;Go on after an unplugged cable</source>
-        <translation>ケーブルが抜けた後も記録を続ける(&amp;G)</translation>
-    </message>
-    <message>
         <source>When the connection was lost, recording goes on in a new file as soon as the port is open again</source>
         <translation>接続が切れた場合、ポートがもう一度開くと、新しいファイルで記録を続けます</translation>
     </message>
@@ -2863,6 +2913,14 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>A file beside the recording cannot be written: %1</source>
         <translation>記録に付随するファイルに書き込めません: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Continue after the cable was unplugged</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not connected. Open a serial port first.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3040,10 +3098,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <translation>設定を送信し、デバイスが再起動しました。</translation>
     </message>
     <message>
-        <source>What the device sends is no text. The baud rate may be wrong.</source>
-        <translation>デバイスから届くのはテキストではありません。ボーレートが違う可能性があります。</translation>
-    </message>
-    <message>
         <source>The device refused at least one of %1.</source>
         <translation>デバイスが次のうち少なくとも 1 つを受け付けませんでした：%1</translation>
     </message>
@@ -3060,12 +3114,16 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <translation>応答が回線上で壊れました。デバイスをもう一度識別してください。</translation>
     </message>
     <message>
-        <source>%1 Hz takes %2 % of what this line carries at %3 baud: samples get lost.</source>
-        <translation>%1 Hz では、%3 baud の回線で送れる量の %2 % に達するため、サンプルが失われます。</translation>
-    </message>
-    <message>
         <source>Save anyway</source>
         <translation>それでも保存</translation>
+    </message>
+    <message>
+        <source>The device is not sending text. The baud rate may be wrong.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Hz needs %2 % of the line&apos;s capacity at %3 baud: samples will be lost.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3159,10 +3217,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <translation>3D 画像を描画できません。数値はすべて表示されます。</translation>
     </message>
     <message>
-        <source>The 3D picture could not be loaded. The log of the program tells why.</source>
-        <translation>3D 画像を読み込めませんでした。原因はプログラムのログを確認してください。</translation>
-    </message>
-    <message>
         <source>Current preset: RFU body / ENU navigation, Euler 312 intrinsic (Z-X-Y).</source>
         <translation>現在のプリセット: RFU 機体座標系 / ENU 航法座標系、オイラー角 312 内因性 (Z-X-Y)。</translation>
     </message>
@@ -3205,6 +3259,10 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>3D Assets (*.obj *.mesh)</source>
         <translation>3D モデル (*.obj *.mesh)</translation>
+    </message>
+    <message>
+        <source>The 3D picture could not be loaded. See the log for the reason.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3798,10 +3856,6 @@ Ready to download firmware.
 <context>
     <name>session_text</name>
     <message>
-        <source>Nothing is connected: open a serial port first.</source>
-        <translation>何も接続されていません。先にシリアルポートを開いてください。</translation>
-    </message>
-    <message>
         <source>The port is being opened.</source>
         <translation>ポートを開いています。</translation>
     </message>
@@ -3846,8 +3900,12 @@ Do not unplug the device.</source>
         <translation>%1 ボーを試しています...</translation>
     </message>
     <message>
-        <source>A firmware download runs. It has to finish first.</source>
-        <translation>ファームウェアを書き込み中です。終わるまでお待ちください。</translation>
+        <source>Not connected. Open a serial port first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A firmware download is running and must finish first.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -220,6 +220,14 @@
         <source>Cutoff frequency</source>
         <translation>차단 주파수</translation>
     </message>
+    <message>
+        <source>In force: %1 Hz, as the rate is now %2 Hz</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Apply %1 Hz</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ChartLegendEntry</name>
@@ -341,10 +349,6 @@
         <translation>연결</translation>
     </message>
     <message>
-        <source>What arrives is noise. The baud rate may be wrong.</source>
-        <translation>수신되는 것은 노이즈입니다. 보드 레이트가 잘못되었을 수 있습니다.</translation>
-    </message>
-    <message>
         <source>Opens this port at one rate after the other until the device answers</source>
         <translation>장치가 응답할 때까지 이 포트를 여러 보드 레이트로 차례로 엽니다</translation>
     </message>
@@ -352,12 +356,16 @@
         <source>Try the &amp;usual baud rates</source>
         <translation>일반적인 보드 레이트 시도(&amp;U)</translation>
     </message>
+    <message>
+        <source>Only noise is arriving. The baud rate may be wrong.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>DashboardWindow</name>
     <message>
-        <source>This window could not be loaded. The log of the program tells why.</source>
-        <translation>이 창을 불러올 수 없습니다. 원인은 프로그램 로그를 확인하십시오.</translation>
+        <source>This window could not be loaded. See the log for the reason.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -406,16 +414,16 @@
         <translation>시리얼 포트를 열 수 없습니다.</translation>
     </message>
     <message>
-        <source>The device may wait in its bootloader for the rest. Plug it in, then connect to it.</source>
-        <translation>장치가 부트로더에서 나머지 데이터를 기다리고 있을 수 있습니다. 장치의 케이블을 꽂은 다음 &apos;연결&apos;을 누르십시오.</translation>
-    </message>
-    <message>
         <source>Connect</source>
         <translation>연결</translation>
     </message>
     <message>
         <source>Later</source>
         <translation>나중에</translation>
+    </message>
+    <message>
+        <source>The device may be waiting in its bootloader for the rest. Plug it in, then connect to it.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -429,16 +437,16 @@
         <translation>아직 스펙트럼 없음</translation>
     </message>
     <message>
-        <source>The selected node sends none at the moment.</source>
-        <translation>선택한 노드가 현재 샘플을 전송하지 않습니다.</translation>
-    </message>
-    <message>
         <source>Press Start above.</source>
         <translation>위의 &apos;시작&apos;을 누르십시오.</translation>
     </message>
     <message>
         <source>Quality</source>
         <translation>품질</translation>
+    </message>
+    <message>
+        <source>The selected node is not sending any at the moment.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -811,14 +819,6 @@
         <translation>재개</translation>
     </message>
     <message>
-        <source>Hold the pictures; the table goes on</source>
-        <translation>그래프 일시 정지(표는 계속 갱신됨)</translation>
-    </message>
-    <message>
-        <source>Go on with the newest samples</source>
-        <translation>최신 샘플부터 다시 표시</translation>
-    </message>
-    <message>
         <source>Space</source>
         <translation>스페이스바</translation>
     </message>
@@ -857,6 +857,26 @@
     <message>
         <source>Connect a wireless gateway; its nodes appear here.</source>
         <translation>무선 게이트웨이를 연결하면 해당 노드가 여기에 표시됩니다.</translation>
+    </message>
+    <message>
+        <source>Freeze the charts; the table keeps updating</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Continue with the newest samples</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Overlay</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show each node in a chart of its own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show one quantity of all chosen nodes in one plot</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -954,12 +974,28 @@ Pa</translation>
         <translation>노드 %1, %2</translation>
     </message>
     <message>
-        <source>%1 nodes are shown already: drop one first.</source>
-        <translation>이미 %1개 노드가 표시되어 있습니다. 먼저 하나를 선택 해제하십시오.</translation>
-    </message>
-    <message>
         <source>%1 of %2 nodes chosen for charts</source>
         <translation>그래프에 표시할 노드: %1 / %2</translation>
+    </message>
+    <message>
+        <source>Move the node and its charts up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alt+Up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the node and its charts down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alt+Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 nodes are already shown. Remove one first.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1131,8 +1167,8 @@ Pa</translation>
         <translation>메시 파일이 %1 MiB보다 큽니다.</translation>
     </message>
     <message>
-        <source>The mesh file is damaged, or of a kind that this program cannot show.</source>
-        <translation>메시 파일이 손상되었거나 이 프로그램에서 표시할 수 없는 형식입니다.</translation>
+        <source>The mesh file is damaged, or of an unsupported kind.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1158,6 +1194,13 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>NodeOverlay</name>
+    <message>
+        <source>Node %1</source>
+        <translation type="unfinished">노드 %1</translation>
+    </message>
+</context>
+<context>
     <name>ObjReader</name>
     <message>
         <source>The OBJ file cannot be read: %1</source>
@@ -1170,10 +1213,6 @@ Pa</translation>
     <message>
         <source>The file is not an OBJ model: it holds no text.</source>
         <translation>텍스트 파일이 아니므로 OBJ 모델이 아닙니다.</translation>
-    </message>
-    <message>
-        <source>Line %1 of the OBJ file holds a coordinate that is not a number.</source>
-        <translation>OBJ 파일의 %1번째 줄에 숫자가 아닌 좌표가 있습니다.</translation>
     </message>
     <message>
         <source>The file is not an OBJ model.</source>
@@ -1194,6 +1233,17 @@ Pa</translation>
     <message>
         <source>The OBJ file holds no faces to show.</source>
         <translation>OBJ 파일에 표시할 면이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the OBJ file contains a coordinate that is not a number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>OverlayChart</name>
+    <message>
+        <source>Show %1 of all chosen nodes</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1257,16 +1307,16 @@ Pa</translation>
 <context>
     <name>RecordingBadge</name>
     <message>
-        <source>Recording: trouble</source>
-        <translation>기록: 문제 발생</translation>
-    </message>
-    <message>
         <source>Recording %1</source>
         <translation>기록 중 %1</translation>
     </message>
     <message>
         <source>Recording: waiting</source>
         <translation>기록: 대기 중</translation>
+    </message>
+    <message>
+        <source>Recording: problem</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1312,8 +1362,8 @@ Pa</translation>
         <translation>그래프마다 이미지 저장</translation>
     </message>
     <message>
-        <source>The buttons of each chart save that one alone in the same way.</source>
-        <translation>각 그래프의 버튼은 해당 그래프만 같은 설정으로 저장합니다.</translation>
+        <source>The buttons of each chart save only that chart, in the same way.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1354,10 +1404,6 @@ Pa</translation>
         <translation>화면 일시 정지(기록은 계속됨)</translation>
     </message>
     <message>
-        <source>Go on with the newest samples</source>
-        <translation>최신 샘플부터 다시 표시</translation>
-    </message>
-    <message>
         <source>Space</source>
         <translation>스페이스바</translation>
     </message>
@@ -1376,6 +1422,10 @@ Pa</translation>
     <message>
         <source>Choose above what to show.</source>
         <translation>표시할 항목을 위에서 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>Continue with the newest samples</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1569,6 +1619,96 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>TimeChart</name>
+    <message>
+        <source>Waiting for samples</source>
+        <translation type="unfinished">샘플을 기다리는 중</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation type="unfinished">일시 정지됨</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back to the newest samples</source>
+        <translation type="unfinished">최신 샘플로 돌아가기</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation type="unfinished">End</translation>
+    </message>
+    <message>
+        <source>Span and limits of the axes</source>
+        <translation type="unfinished">시간 폭과 축 범위</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation type="unfinished">통계</translation>
+    </message>
+    <message>
+        <source>Remove the measuring cursors</source>
+        <translation type="unfinished">측정 커서 지우기</translation>
+    </message>
+    <message>
+        <source>Measure between two cursors</source>
+        <translation type="unfinished">두 커서 사이 측정</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation type="unfinished">Esc</translation>
+    </message>
+    <message>
+        <source>A, B</source>
+        <translation type="unfinished">A, B</translation>
+    </message>
+    <message>
+        <source>Reset the view</source>
+        <translation type="unfinished">보기 초기화</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save a picture of the chart</source>
+        <translation type="unfinished">그래프 이미지 저장</translation>
+    </message>
+    <message>
+        <source>Save the visible samples</source>
+        <translation type="unfinished">표시된 샘플 저장</translation>
+    </message>
+    <message>
+        <source>Show all charts</source>
+        <translation type="unfinished">모든 그래프 표시</translation>
+    </message>
+    <message>
+        <source>Show this chart alone</source>
+        <translation type="unfinished">이 그래프만 표시</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation type="unfinished">%1 s</translation>
+    </message>
+    <message>
+        <source>Show %1 seconds</source>
+        <translation type="unfinished">%1초 표시</translation>
+    </message>
+    <message>
+        <source>No new samples</source>
+        <translation type="unfinished">새 샘플 없음</translation>
+    </message>
+</context>
+<context>
+    <name>TimeViewState</name>
+    <message>
+        <source>t %1</source>
+        <translation type="unfinished">t %1</translation>
+    </message>
+</context>
+<context>
     <name>ToolADI</name>
     <message>
         <source>N</source>
@@ -1630,10 +1770,6 @@ Pa</translation>
         <translation>두 레벨 사이의 범위를 벗어남</translation>
     </message>
     <message>
-        <source>Level of the trigger; its line is dragged</source>
-        <translation>트리거 레벨(선을 끌어서 변경 가능)</translation>
-    </message>
-    <message>
         <source>Other end of the band</source>
         <translation>범위의 다른 쪽 끝</translation>
     </message>
@@ -1688,6 +1824,10 @@ Pa</translation>
     <message>
         <source>Start a recording with the event, with the last folder and name</source>
         <translation>이벤트 발생 시 마지막으로 사용한 폴더와 이름으로 기록 시작</translation>
+    </message>
+    <message>
+        <source>Trigger level; drag its line to change it</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1815,88 +1955,12 @@ Pa</translation>
         <translation>새 샘플 없음</translation>
     </message>
     <message>
-        <source>Waiting for samples</source>
-        <translation>샘플을 기다리는 중</translation>
-    </message>
-    <message>
-        <source>Paused</source>
-        <translation>일시 정지됨</translation>
-    </message>
-    <message>
-        <source>Live</source>
-        <translation>최신으로</translation>
-    </message>
-    <message>
-        <source>Back to the newest samples</source>
-        <translation>최신 샘플로 돌아가기</translation>
-    </message>
-    <message>
-        <source>Home</source>
-        <translation>Home</translation>
-    </message>
-    <message>
         <source>Low-pass filter</source>
         <translation>저역 통과 필터</translation>
     </message>
     <message>
-        <source>Remove the measuring cursors</source>
-        <translation>측정 커서 지우기</translation>
-    </message>
-    <message>
-        <source>Measure between two cursors</source>
-        <translation>두 커서 사이 측정</translation>
-    </message>
-    <message>
-        <source>Esc</source>
-        <translation>Esc</translation>
-    </message>
-    <message>
-        <source>A, B</source>
-        <translation>A, B</translation>
-    </message>
-    <message>
-        <source>Reset the view</source>
-        <translation>보기 초기화</translation>
-    </message>
-    <message>
-        <source>Save a picture of the chart</source>
-        <translation>그래프 이미지 저장</translation>
-    </message>
-    <message>
-        <source>Save the visible samples</source>
-        <translation>표시된 샘플 저장</translation>
-    </message>
-    <message>
-        <source>Show all charts</source>
-        <translation>모든 그래프 표시</translation>
-    </message>
-    <message>
-        <source>Show this chart alone</source>
-        <translation>이 그래프만 표시</translation>
-    </message>
-    <message>
-        <source>End</source>
-        <translation>End</translation>
-    </message>
-    <message>
         <source>Trigger</source>
         <translation>트리거</translation>
-    </message>
-    <message>
-        <source>Span and limits of the axes</source>
-        <translation>시간 폭과 축 범위</translation>
-    </message>
-    <message>
-        <source>Statistics</source>
-        <translation>통계</translation>
-    </message>
-    <message>
-        <source>%1 s</source>
-        <translation>%1 s</translation>
-    </message>
-    <message>
-        <source>Show %1 seconds</source>
-        <translation>%1초 표시</translation>
     </message>
 </context>
 <context>
@@ -1958,10 +2022,6 @@ Pa</translation>
     <message>
         <source>Trigger</source>
         <translation>트리거</translation>
-    </message>
-    <message>
-        <source>t %1</source>
-        <translation>t %1</translation>
     </message>
 </context>
 <context>
@@ -2228,14 +2288,6 @@ Pa</translation>
         <translation>시리얼 포트를 찾을 수 없음</translation>
     </message>
     <message>
-        <source>Plug the device in: it appears here by itself.
-
-To try the program without a device, start the simulator in a terminal with ./run or kv_simulator. It prints a path: type that below.</source>
-        <translation>장치를 연결하면 여기에 자동으로 표시됩니다.
-
-장치 없이 프로그램을 사용해 보려면 터미널에서 ./run 또는 kv_simulator를 실행하여 시뮬레이터를 시작하고, 출력된 경로를 아래에 입력하십시오.</translation>
-    </message>
-    <message>
         <source>&amp;Port or path</source>
         <translation>포트 또는 경로(&amp;P)</translation>
     </message>
@@ -2270,6 +2322,12 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>%1 is not a serial port.</source>
         <translation>시리얼 포트가 아닙니다: %1</translation>
+    </message>
+    <message>
+        <source>Plug the device in: it will appear here.
+
+To try the program without a device, start the simulator in a terminal with ./run or kv_simulator. It prints a path: type that below.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2442,10 +2500,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <translation>패킷 밖의 바이트</translation>
     </message>
     <message>
-        <source>Text that the device answers to commands, and what is left of damaged packets</source>
-        <translation>명령에 대한 장치의 텍스트 응답과 손상된 패킷의 나머지</translation>
-    </message>
-    <message>
         <source>of these, noise</source>
         <translation>그중 노이즈</translation>
     </message>
@@ -2464,10 +2518,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>Last error</source>
         <translation>마지막 오류</translation>
-    </message>
-    <message>
-        <source>What was damaged last on the line</source>
-        <translation>회선에서 마지막으로 일어난 손상의 종류</translation>
     </message>
     <message>
         <source>Time of the last error</source>
@@ -2524,10 +2574,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>Clock jumps</source>
         <translation>시계 점프</translation>
-    </message>
-    <message>
-        <source>The device restarted or its time was set; what was lost meanwhile cannot be told</source>
-        <translation>장치가 다시 시작되었거나 시간이 설정되었으며, 그동안의 누락 수는 알 수 없습니다</translation>
     </message>
     <message>
         <source>Recording</source>
@@ -2609,6 +2655,18 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <source>Missing</source>
         <translation>누락</translation>
     </message>
+    <message>
+        <source>Text that the device answers to commands, and the remains of damaged packets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The latest damage on the line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The device restarted or its time was set; what was lost in between is not known</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>form_record</name>
@@ -2679,10 +2737,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>Folder for recordings</source>
         <translation>기록 폴더</translation>
-    </message>
-    <message>
-        <source>Nothing is connected: open a serial port first.</source>
-        <translation>연결된 장치가 없습니다. 먼저 시리얼 포트를 여십시오.</translation>
     </message>
     <message>
         <source>Choose a folder.</source>
@@ -2833,10 +2887,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <translation>모든 파일의 최대 크기 합계(MiB)</translation>
     </message>
     <message>
-        <source>&amp;Go on after an unplugged cable</source>
-        <translation>케이블이 분리된 뒤에도 기록 계속(&amp;G)</translation>
-    </message>
-    <message>
         <source>When the connection was lost, recording goes on in a new file as soon as the port is open again</source>
         <translation>연결이 끊어진 경우 포트가 다시 열리면 새 파일에 기록을 계속합니다</translation>
     </message>
@@ -2863,6 +2913,14 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>A file beside the recording cannot be written: %1</source>
         <translation>기록과 함께 저장되는 파일에 쓸 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Continue after the cable was unplugged</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not connected. Open a serial port first.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3040,10 +3098,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <translation>설정을 전송했으며 장치가 다시 시작되었습니다.</translation>
     </message>
     <message>
-        <source>What the device sends is no text. The baud rate may be wrong.</source>
-        <translation>장치가 보내는 것은 텍스트가 아닙니다. 보드 레이트가 잘못되었을 수 있습니다.</translation>
-    </message>
-    <message>
         <source>The device refused at least one of %1.</source>
         <translation>장치가 다음 명령 중 하나 이상을 거부했습니다: %1.</translation>
     </message>
@@ -3060,12 +3114,16 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <translation>응답이 회선에서 손상되었습니다. 장치를 다시 식별하십시오.</translation>
     </message>
     <message>
-        <source>%1 Hz takes %2 % of what this line carries at %3 baud: samples get lost.</source>
-        <translation>%1 Hz는 %3 baud에서 이 회선이 전송할 수 있는 양의 %2 %를 차지하므로 샘플이 손실됩니다.</translation>
-    </message>
-    <message>
         <source>Save anyway</source>
         <translation>그래도 저장</translation>
+    </message>
+    <message>
+        <source>The device is not sending text. The baud rate may be wrong.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Hz needs %2 % of the line&apos;s capacity at %3 baud: samples will be lost.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3159,10 +3217,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <translation>3D 화면을 그릴 수 없습니다. 수치는 모두 표시됩니다.</translation>
     </message>
     <message>
-        <source>The 3D picture could not be loaded. The log of the program tells why.</source>
-        <translation>3D 화면을 불러올 수 없습니다. 원인은 프로그램 로그를 확인하십시오.</translation>
-    </message>
-    <message>
         <source>Current preset: RFU body / ENU navigation, Euler 312 intrinsic (Z-X-Y).</source>
         <translation>현재 프리셋: RFU 기체 좌표계 / ENU 항법 좌표계, 오일러 각 312 내재적 (Z-X-Y).</translation>
     </message>
@@ -3205,6 +3259,10 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>3D Assets (*.obj *.mesh)</source>
         <translation>3D 모델 (*.obj *.mesh)</translation>
+    </message>
+    <message>
+        <source>The 3D picture could not be loaded. See the log for the reason.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3798,10 +3856,6 @@ Ready to download firmware.
 <context>
     <name>session_text</name>
     <message>
-        <source>Nothing is connected: open a serial port first.</source>
-        <translation>연결된 장치가 없습니다. 먼저 시리얼 포트를 여십시오.</translation>
-    </message>
-    <message>
         <source>The port is being opened.</source>
         <translation>포트를 여는 중입니다.</translation>
     </message>
@@ -3846,8 +3900,12 @@ Do not unplug the device.</source>
         <translation>%1 보드를 시도하는 중...</translation>
     </message>
     <message>
-        <source>A firmware download runs. It has to finish first.</source>
-        <translation>펌웨어 다운로드가 진행 중입니다. 끝날 때까지 기다리십시오.</translation>
+        <source>Not connected. Open a serial port first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A firmware download is running and must finish first.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -220,6 +220,14 @@
         <source>Cutoff frequency</source>
         <translation>截止頻率</translation>
     </message>
+    <message>
+        <source>In force: %1 Hz, as the rate is now %2 Hz</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Apply %1 Hz</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ChartLegendEntry</name>
@@ -341,10 +349,6 @@
         <translation>連線</translation>
     </message>
     <message>
-        <source>What arrives is noise. The baud rate may be wrong.</source>
-        <translation>收到的是雜訊。鮑率可能不正確。</translation>
-    </message>
-    <message>
         <source>Opens this port at one rate after the other until the device answers</source>
         <translation>依序以各鮑率開啟此序列埠，直到裝置回應</translation>
     </message>
@@ -352,12 +356,16 @@
         <source>Try the &amp;usual baud rates</source>
         <translation>嘗試常用鮑率(&amp;U)</translation>
     </message>
+    <message>
+        <source>Only noise is arriving. The baud rate may be wrong.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>DashboardWindow</name>
     <message>
-        <source>This window could not be loaded. The log of the program tells why.</source>
-        <translation>無法載入此視窗。原因請查看程式日誌。</translation>
+        <source>This window could not be loaded. See the log for the reason.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -406,16 +414,16 @@
         <translation>無法開啟序列埠。</translation>
     </message>
     <message>
-        <source>The device may wait in its bootloader for the rest. Plug it in, then connect to it.</source>
-        <translation>裝置可能停留在啟動載入程式中，等待寫入其餘部分。請接上裝置，然後進行連線。</translation>
-    </message>
-    <message>
         <source>Connect</source>
         <translation>連線</translation>
     </message>
     <message>
         <source>Later</source>
         <translation>稍後</translation>
+    </message>
+    <message>
+        <source>The device may be waiting in its bootloader for the rest. Plug it in, then connect to it.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -429,16 +437,16 @@
         <translation>尚無頻譜</translation>
     </message>
     <message>
-        <source>The selected node sends none at the moment.</source>
-        <translation>所選節點目前沒有傳送取樣資料。</translation>
-    </message>
-    <message>
         <source>Press Start above.</source>
         <translation>請按一下上方的「開始」。</translation>
     </message>
     <message>
         <source>Quality</source>
         <translation>資料品質</translation>
+    </message>
+    <message>
+        <source>The selected node is not sending any at the moment.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -811,14 +819,6 @@
         <translation>繼續</translation>
     </message>
     <message>
-        <source>Hold the pictures; the table goes on</source>
-        <translation>暫停畫面，表格持續更新</translation>
-    </message>
-    <message>
-        <source>Go on with the newest samples</source>
-        <translation>繼續顯示最新資料</translation>
-    </message>
-    <message>
         <source>Space</source>
         <translation>空白鍵</translation>
     </message>
@@ -857,6 +857,26 @@
     <message>
         <source>Connect a wireless gateway; its nodes appear here.</source>
         <translation>請連接無線閘道器，其節點會顯示在這裡。</translation>
+    </message>
+    <message>
+        <source>Freeze the charts; the table keeps updating</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Continue with the newest samples</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Overlay</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show each node in a chart of its own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show one quantity of all chosen nodes in one plot</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -954,12 +974,28 @@ Pa</translation>
         <translation>節點 %1，%2</translation>
     </message>
     <message>
-        <source>%1 nodes are shown already: drop one first.</source>
-        <translation>已顯示 %1 個節點：請先取消其中一個。</translation>
-    </message>
-    <message>
         <source>%1 of %2 nodes chosen for charts</source>
         <translation>圖表已選 %1 / %2 個節點</translation>
+    </message>
+    <message>
+        <source>Move the node and its charts up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alt+Up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the node and its charts down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alt+Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 nodes are already shown. Remove one first.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1131,8 +1167,8 @@ Pa</translation>
         <translation>網格檔案超過 %1 MiB。</translation>
     </message>
     <message>
-        <source>The mesh file is damaged, or of a kind that this program cannot show.</source>
-        <translation>網格檔案已損毀，或其類型不受本程式支援。</translation>
+        <source>The mesh file is damaged, or of an unsupported kind.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1158,6 +1194,13 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>NodeOverlay</name>
+    <message>
+        <source>Node %1</source>
+        <translation type="unfinished">節點 %1</translation>
+    </message>
+</context>
+<context>
     <name>ObjReader</name>
     <message>
         <source>The OBJ file cannot be read: %1</source>
@@ -1170,10 +1213,6 @@ Pa</translation>
     <message>
         <source>The file is not an OBJ model: it holds no text.</source>
         <translation>該檔案不是 OBJ 模型：其內容不是文字。</translation>
-    </message>
-    <message>
-        <source>Line %1 of the OBJ file holds a coordinate that is not a number.</source>
-        <translation>OBJ 檔案第 %1 行含有非數值的座標。</translation>
     </message>
     <message>
         <source>The file is not an OBJ model.</source>
@@ -1194,6 +1233,17 @@ Pa</translation>
     <message>
         <source>The OBJ file holds no faces to show.</source>
         <translation>OBJ 檔案中沒有可顯示的面。</translation>
+    </message>
+    <message>
+        <source>Line %1 of the OBJ file contains a coordinate that is not a number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>OverlayChart</name>
+    <message>
+        <source>Show %1 of all chosen nodes</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1257,16 +1307,16 @@ Pa</translation>
 <context>
     <name>RecordingBadge</name>
     <message>
-        <source>Recording: trouble</source>
-        <translation>記錄發生問題</translation>
-    </message>
-    <message>
         <source>Recording %1</source>
         <translation>記錄中 %1</translation>
     </message>
     <message>
         <source>Recording: waiting</source>
         <translation>記錄等待中</translation>
+    </message>
+    <message>
+        <source>Recording: problem</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1312,8 +1362,8 @@ Pa</translation>
         <translation>每個圖表儲存為一張圖片</translation>
     </message>
     <message>
-        <source>The buttons of each chart save that one alone in the same way.</source>
-        <translation>各圖表本身的按鈕以相同方式僅儲存該圖表。</translation>
+        <source>The buttons of each chart save only that chart, in the same way.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1354,10 +1404,6 @@ Pa</translation>
         <translation>暫停畫面，記錄不受影響</translation>
     </message>
     <message>
-        <source>Go on with the newest samples</source>
-        <translation>繼續顯示最新資料</translation>
-    </message>
-    <message>
         <source>Space</source>
         <translation>空白鍵</translation>
     </message>
@@ -1376,6 +1422,10 @@ Pa</translation>
     <message>
         <source>Choose above what to show.</source>
         <translation>請在上方選擇要顯示的內容。</translation>
+    </message>
+    <message>
+        <source>Continue with the newest samples</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1569,6 +1619,96 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>TimeChart</name>
+    <message>
+        <source>Waiting for samples</source>
+        <translation type="unfinished">正在等待取樣資料</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation type="unfinished">已暫停</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back to the newest samples</source>
+        <translation type="unfinished">回到最新資料</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation type="unfinished">End</translation>
+    </message>
+    <message>
+        <source>Span and limits of the axes</source>
+        <translation type="unfinished">時間跨度與座標軸範圍</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation type="unfinished">統計</translation>
+    </message>
+    <message>
+        <source>Remove the measuring cursors</source>
+        <translation type="unfinished">移除量測游標</translation>
+    </message>
+    <message>
+        <source>Measure between two cursors</source>
+        <translation type="unfinished">以兩個游標量測</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation type="unfinished">Esc</translation>
+    </message>
+    <message>
+        <source>A, B</source>
+        <translation type="unfinished">A、B</translation>
+    </message>
+    <message>
+        <source>Reset the view</source>
+        <translation type="unfinished">重設檢視</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save a picture of the chart</source>
+        <translation type="unfinished">儲存圖表圖片</translation>
+    </message>
+    <message>
+        <source>Save the visible samples</source>
+        <translation type="unfinished">儲存可見區間的取樣資料</translation>
+    </message>
+    <message>
+        <source>Show all charts</source>
+        <translation type="unfinished">顯示所有圖表</translation>
+    </message>
+    <message>
+        <source>Show this chart alone</source>
+        <translation type="unfinished">僅顯示此圖表</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation type="unfinished">%1 s</translation>
+    </message>
+    <message>
+        <source>Show %1 seconds</source>
+        <translation type="unfinished">顯示 %1 秒</translation>
+    </message>
+    <message>
+        <source>No new samples</source>
+        <translation type="unfinished">沒有新的取樣資料</translation>
+    </message>
+</context>
+<context>
+    <name>TimeViewState</name>
+    <message>
+        <source>t %1</source>
+        <translation type="unfinished">t %1</translation>
+    </message>
+</context>
+<context>
     <name>ToolADI</name>
     <message>
         <source>N</source>
@@ -1630,10 +1770,6 @@ Pa</translation>
         <translation>超出兩個位準之間的區間</translation>
     </message>
     <message>
-        <source>Level of the trigger; its line is dragged</source>
-        <translation>觸發位準；可拖曳其水平線調整</translation>
-    </message>
-    <message>
         <source>Other end of the band</source>
         <translation>區間的另一端</translation>
     </message>
@@ -1688,6 +1824,10 @@ Pa</translation>
     <message>
         <source>Start a recording with the event, with the last folder and name</source>
         <translation>事件發生時開始記錄，使用上次的資料夾與名稱</translation>
+    </message>
+    <message>
+        <source>Trigger level; drag its line to change it</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1815,88 +1955,12 @@ Pa</translation>
         <translation>沒有新的取樣資料</translation>
     </message>
     <message>
-        <source>Waiting for samples</source>
-        <translation>正在等待取樣資料</translation>
-    </message>
-    <message>
-        <source>Paused</source>
-        <translation>已暫停</translation>
-    </message>
-    <message>
-        <source>Live</source>
-        <translation>即時</translation>
-    </message>
-    <message>
-        <source>Back to the newest samples</source>
-        <translation>回到最新資料</translation>
-    </message>
-    <message>
-        <source>Home</source>
-        <translation>Home</translation>
-    </message>
-    <message>
         <source>Low-pass filter</source>
         <translation>低通濾波</translation>
     </message>
     <message>
-        <source>Remove the measuring cursors</source>
-        <translation>移除量測游標</translation>
-    </message>
-    <message>
-        <source>Measure between two cursors</source>
-        <translation>以兩個游標量測</translation>
-    </message>
-    <message>
-        <source>Esc</source>
-        <translation>Esc</translation>
-    </message>
-    <message>
-        <source>A, B</source>
-        <translation>A、B</translation>
-    </message>
-    <message>
-        <source>Reset the view</source>
-        <translation>重設檢視</translation>
-    </message>
-    <message>
-        <source>Save a picture of the chart</source>
-        <translation>儲存圖表圖片</translation>
-    </message>
-    <message>
-        <source>Save the visible samples</source>
-        <translation>儲存可見區間的取樣資料</translation>
-    </message>
-    <message>
-        <source>Show all charts</source>
-        <translation>顯示所有圖表</translation>
-    </message>
-    <message>
-        <source>Show this chart alone</source>
-        <translation>僅顯示此圖表</translation>
-    </message>
-    <message>
-        <source>End</source>
-        <translation>End</translation>
-    </message>
-    <message>
         <source>Trigger</source>
         <translation>觸發</translation>
-    </message>
-    <message>
-        <source>Span and limits of the axes</source>
-        <translation>時間跨度與座標軸範圍</translation>
-    </message>
-    <message>
-        <source>Statistics</source>
-        <translation>統計</translation>
-    </message>
-    <message>
-        <source>%1 s</source>
-        <translation>%1 s</translation>
-    </message>
-    <message>
-        <source>Show %1 seconds</source>
-        <translation>顯示 %1 秒</translation>
     </message>
 </context>
 <context>
@@ -1958,10 +2022,6 @@ Pa</translation>
     <message>
         <source>Trigger</source>
         <translation>觸發</translation>
-    </message>
-    <message>
-        <source>t %1</source>
-        <translation>t %1</translation>
     </message>
 </context>
 <context>
@@ -2228,14 +2288,6 @@ Pa</translation>
         <translation>找不到序列埠</translation>
     </message>
     <message>
-        <source>Plug the device in: it appears here by itself.
-
-To try the program without a device, start the simulator in a terminal with ./run or kv_simulator. It prints a path: type that below.</source>
-        <translation>接上裝置後，序列埠會自動出現在這裡。
-
-如果沒有裝置，可在終端機以 ./run 或 kv_simulator 啟動模擬器來試用本程式。模擬器會顯示一個路徑，請將其填入下方。</translation>
-    </message>
-    <message>
         <source>&amp;Port or path</source>
         <translation>連接埠或路徑(&amp;P)</translation>
     </message>
@@ -2270,6 +2322,12 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>%1 is not a serial port.</source>
         <translation>%1 不是序列埠。</translation>
+    </message>
+    <message>
+        <source>Plug the device in: it will appear here.
+
+To try the program without a device, start the simulator in a terminal with ./run or kv_simulator. It prints a path: type that below.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2442,10 +2500,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <translation>封包以外的位元組</translation>
     </message>
     <message>
-        <source>Text that the device answers to commands, and what is left of damaged packets</source>
-        <translation>裝置回應命令的文字，以及損壞封包的剩餘部分</translation>
-    </message>
-    <message>
         <source>of these, noise</source>
         <translation>其中的雜訊</translation>
     </message>
@@ -2464,10 +2518,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>Last error</source>
         <translation>最近的錯誤</translation>
-    </message>
-    <message>
-        <source>What was damaged last on the line</source>
-        <translation>線路上最近一次損壞的類型</translation>
     </message>
     <message>
         <source>Time of the last error</source>
@@ -2524,10 +2574,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>Clock jumps</source>
         <translation>時鐘跳變</translation>
-    </message>
-    <message>
-        <source>The device restarted or its time was set; what was lost meanwhile cannot be told</source>
-        <translation>裝置重新啟動或時間被重設；期間遺失的數量無法得知</translation>
     </message>
     <message>
         <source>Recording</source>
@@ -2609,6 +2655,18 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <source>Missing</source>
         <translation>遺失</translation>
     </message>
+    <message>
+        <source>Text that the device answers to commands, and the remains of damaged packets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The latest damage on the line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The device restarted or its time was set; what was lost in between is not known</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>form_record</name>
@@ -2679,10 +2737,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>Folder for recordings</source>
         <translation>選擇記錄資料夾</translation>
-    </message>
-    <message>
-        <source>Nothing is connected: open a serial port first.</source>
-        <translation>尚未連線：請先開啟序列埠。</translation>
     </message>
     <message>
         <source>Choose a folder.</source>
@@ -2833,10 +2887,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <translation>所有檔案的總大小上限 (MiB)</translation>
     </message>
     <message>
-        <source>&amp;Go on after an unplugged cable</source>
-        <translation>斷線重連後繼續記錄(&amp;G)</translation>
-    </message>
-    <message>
         <source>When the connection was lost, recording goes on in a new file as soon as the port is open again</source>
         <translation>連線中斷後，一旦重新開啟序列埠，即在新檔案中繼續記錄</translation>
     </message>
@@ -2863,6 +2913,14 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>A file beside the recording cannot be written: %1</source>
         <translation>無法寫入記錄的附屬檔案：%1</translation>
+    </message>
+    <message>
+        <source>&amp;Continue after the cable was unplugged</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not connected. Open a serial port first.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3040,10 +3098,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <translation>設定已傳送，裝置已重新啟動。</translation>
     </message>
     <message>
-        <source>What the device sends is no text. The baud rate may be wrong.</source>
-        <translation>裝置傳送的不是文字。鮑率可能不正確。</translation>
-    </message>
-    <message>
         <source>The device refused at least one of %1.</source>
         <translation>裝置至少拒絕了以下命令之一：%1。</translation>
     </message>
@@ -3060,12 +3114,16 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <translation>回應在線路上損壞。請重新識別裝置。</translation>
     </message>
     <message>
-        <source>%1 Hz takes %2 % of what this line carries at %3 baud: samples get lost.</source>
-        <translation>鮑率為 %3 時，%1 Hz 需要占用線路傳輸能力的 %2 %：取樣會遺失。</translation>
-    </message>
-    <message>
         <source>Save anyway</source>
         <translation>仍然儲存</translation>
+    </message>
+    <message>
+        <source>The device is not sending text. The baud rate may be wrong.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Hz needs %2 % of the line&apos;s capacity at %3 baud: samples will be lost.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3159,10 +3217,6 @@ To try the program without a device, start the simulator in a terminal with ./ru
         <translation>目前的環境無法繪製 3D 畫面。數值顯示不受影響。</translation>
     </message>
     <message>
-        <source>The 3D picture could not be loaded. The log of the program tells why.</source>
-        <translation>無法載入 3D 畫面。原因請查看程式日誌。</translation>
-    </message>
-    <message>
         <source>Current preset: RFU body / ENU navigation, Euler 312 intrinsic (Z-X-Y).</source>
         <translation>目前預設集：RFU 載體系 / ENU 導航系，歐拉角 312 內旋 (Z-X-Y)。</translation>
     </message>
@@ -3205,6 +3259,10 @@ To try the program without a device, start the simulator in a terminal with ./ru
     <message>
         <source>3D Assets (*.obj *.mesh)</source>
         <translation>3D 模型 (*.obj *.mesh)</translation>
+    </message>
+    <message>
+        <source>The 3D picture could not be loaded. See the log for the reason.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3798,10 +3856,6 @@ Ready to download firmware.
 <context>
     <name>session_text</name>
     <message>
-        <source>Nothing is connected: open a serial port first.</source>
-        <translation>尚未連線：請先開啟序列埠。</translation>
-    </message>
-    <message>
         <source>The port is being opened.</source>
         <translation>正在開啟序列埠。</translation>
     </message>
@@ -3846,8 +3900,12 @@ Do not unplug the device.</source>
         <translation>正在嘗試 %1 鮑...</translation>
     </message>
     <message>
-        <source>A firmware download runs. It has to finish first.</source>
-        <translation>正在燒錄韌體，須等待其結束。</translation>
+        <source>Not connected. Open a serial port first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A firmware download is running and must finish first.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

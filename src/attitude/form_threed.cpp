@@ -86,7 +86,7 @@ void form_threed::initView()
             Qt::QueuedConnection);
         m_view->rootContext()->setContextProperty(QStringLiteral("backend"), &m_backend);
         if (!m_view->load(QUrl(QStringLiteral("qrc:/qml/ThreeDView.qml")), {}))
-            showNoPicture(QT_TR_NOOP("The 3D picture could not be loaded. The log of the program tells why."));
+            showNoPicture(QT_TR_NOOP("The 3D picture could not be loaded. See the log for the reason."));
     }
 }
 

@@ -196,5 +196,5 @@ QString MeshFile::check(const QString &path)
     const bool isSound = hasFrame(cursor, bytes.size()) && readShape(cursor, shape)
                          && readBox(cursor, shape, m_minimum, m_maximum) && hasSoundIndices(cursor, shape)
                          && cursor.position() <= bytes.size() - kDirectoryBytes;
-    return isSound ? QString() : tr("The mesh file is damaged, or of a kind that this program cannot show.");
+    return isSound ? QString() : tr("The mesh file is damaged, or of an unsupported kind.");
 }

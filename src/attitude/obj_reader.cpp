@@ -151,7 +151,7 @@ std::optional<TriangleMesh> ObjReader::read(const QString &path, QString *error)
         return failed(tr("The file is not an OBJ model: it holds no text."));
     const std::string text = plainText(bytes);
     if (const qsizetype line = badCoordinateLine(text))
-        return failed(tr("Line %1 of the OBJ file holds a coordinate that is not a number.").arg(line));
+        return failed(tr("Line %1 of the OBJ file contains a coordinate that is not a number.").arg(line));
 
     Collected all;
     tinyobj::callback_t take;

@@ -9,6 +9,7 @@
 #include "app/palette.h"
 #include "app/theme.h"
 #include "chart/chart_source.h"
+#include "chart/label_places.h"
 
 namespace {
 
@@ -144,31 +145,10 @@ void PlotViewState::setEnds(const QList<double> &ends)
 
 QList<double> PlotViewState::labelPlaces(double plotHeight, double height) const
 {
-    QList<double> places(m_ends.size(), kNone);
-    QList<qsizetype> order;
-    for (qsizetype i = 0; i < m_ends.size(); ++i) {
-        const double place = (m_y.max - m_ends.at(i)) / m_y.span() * plotHeight;
-        if (place < 0 || place > plotHeight || std::isnan(place))
-            continue;
-        places[i] = place;
-        order += i;
-    }
-    std::stable_sort(order.begin(), order.end(), [&places](auto a, auto b) { return places.at(a) < places.at(b); });
-    while (!order.isEmpty() && double(order.size()) * height > plotHeight) { // the legend has those without a place
-        places[order.last()] = kNone;
-        order.removeLast();
-    }
-    double least = height / 2;
-    for (const qsizetype i : order) { // down, and then up from the bottom
-        places[i] = std::max(places.at(i), least);
-        least = places.at(i) + height;
-    }
-    double most = plotHeight - height / 2;
-    for (auto i = order.crbegin(); i != order.crend(); ++i) {
-        places[*i] = std::min(places.at(*i), most);
-        most = places.at(*i) - height;
-    }
-    return places;
+    QList<double> ends;
+    for (const double end : m_ends)
+        ends += (m_y.max - end) / m_y.span() * plotHeight;
+    return ::labelPlaces(ends, plotHeight, height);
 }
 
 QVariantList PlotViewState::seriesColors() const

@@ -96,8 +96,7 @@ public:
     /// with each picture; endsChanged() follows ten times a second at most.
     QList<double> ends() const { return m_ends; }
     void setEnds(const QList<double> &ends);
-    /// Where labels of `height` pixels stand beside a plot of `plotHeight`: their middles, from the top. Labels of
-    /// curves that end close together are moved apart; NaN for those that have no place.
+    /// Where labels of `height` pixels stand beside a plot of `plotHeight`, see label_places.h.
     Q_INVOKABLE QList<double> labelPlaces(double plotHeight, double height) const;
 
     /// Everything about the pointer in one line, with names.

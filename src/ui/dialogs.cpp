@@ -69,8 +69,9 @@ void Dialogs::remindOfUpdate()
         return;
     m_question.ask(
         m_window,
-        joinSentences({verdict_text::interrupted(*note),
-                       tr("The device may wait in its bootloader for the rest. Plug it in, then connect to it.")}),
+        joinSentences(
+            {verdict_text::interrupted(*note),
+             tr("The device may be waiting in its bootloader for the rest. Plug it in, then connect to it.")}),
         tr("Connect"), tr("Later"),
         [this, port = note->port, baudRate = note->baudRate] { emit portChosen(port, baudRate); });
 }

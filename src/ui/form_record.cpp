@@ -198,7 +198,7 @@ void form_record::takeFacts(const FolderFacts &facts)
 QString form_record::blockedReason() const
 {
     if (!m_recorder->isLinkOpen())
-        return tr("Nothing is connected: open a serial port first.");
+        return tr("Not connected. Open a serial port first.");
     if (typedFolder().isEmpty())
         return tr("Choose a folder.");
     return recording_text::nameProblem(typedName());

@@ -315,7 +315,7 @@ QString form_settings::outcomeText() const
     case CommandSession::Outcome::Noise:
         if (m_session->isStreaming())
             return tr("The answer was damaged on the line. Identify the device again.");
-        return tr("What the device sends is no text. The baud rate may be wrong.");
+        return tr("The device is not sending text. The baud rate may be wrong.");
     case CommandSession::Outcome::Refused:
         if (m_outcome.isOneOf)
             return tr("The device refused at least one of %1.").arg(commands);
@@ -353,7 +353,7 @@ QString form_settings::rateProblem() const
     const int load = lineLoadPercent(rate, packetBytes, m_session->baudRate());
     if (load <= 100)
         return {};
-    return tr("%1 Hz takes %2 % of what this line carries at %3 baud: samples get lost.")
+    return tr("%1 Hz needs %2 % of the line's capacity at %3 baud: samples will be lost.")
         .arg(rate)
         .arg(load)
         .arg(m_session->baudRate());

@@ -23,7 +23,7 @@ void RecordingBadge::refresh()
     if (isHidden())
         return;
     const QString text = waits     ? tr("Recording: waiting")
-                         : trouble ? tr("Recording: trouble")
+                         : trouble ? tr("Recording: problem")
                                    : tr("Recording %1").arg(recording_text::elapsed(m_recorder->elapsedMs()));
     if (QToolButton::text() != text)
         setText(text);

@@ -19,7 +19,7 @@ QString session_text::refusal(Refusal refusal)
     case Refusal::None:
         return {};
     case Refusal::NotOpen:
-        return Text::tr("Nothing is connected: open a serial port first.");
+        return Text::tr("Not connected. Open a serial port first.");
     case Refusal::Opening:
         return Text::tr("The port is being opened.");
     case Refusal::CommandRuns:
@@ -33,7 +33,7 @@ QString session_text::refusal(Refusal refusal)
     case Refusal::NoDownload:
         return Text::tr("No download runs.");
     case Refusal::Updating:
-        return Text::tr("A firmware download runs. It has to finish first.");
+        return Text::tr("A firmware download is running and must finish first.");
     case Refusal::Closing:
         return Text::tr("The port is being closed.");
     }

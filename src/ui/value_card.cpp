@@ -6,11 +6,13 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "app/palette.h"
 #include "app/theme.h"
 #include "app/value_format.h"
 #include "chart/axis_ticks.h"
+#include "chart/label_places.h"
 #include "ui/readout_accessible.h"
 
 namespace {
@@ -20,6 +22,8 @@ constexpr int kBarHeight = 5;
 constexpr int kTraceGap = theme::kGrid + theme::kGrid / 2;
 constexpr double kRoundingMargin = 1.001;
 constexpr double kMaxRange = 1e12;
+constexpr int kTraceNameGap = 4;
+constexpr double kTraceNameScale = 0.85;
 constexpr int kMinTraceHeight = 36;
 constexpr int kMaxTraceHeight = 160;
 
@@ -247,8 +251,13 @@ void ValueCard::paintRow(QPainter &painter, int row, const QRect &area, double r
     painter.drawRect(bar.normalized());
 }
 
-void ValueCard::paintTrace(QPainter &painter, const QRect &area, double range) const
+void ValueCard::paintTrace(QPainter &painter, const QRect &whole, double range) const
 {
+    QFont nameFont = font();
+    nameFont.setPointSizeF(nameFont.pointSizeF() * kTraceNameScale);
+    const QFontMetrics names(nameFont);
+    const QRect area = whole.adjusted(0, 0, -names.horizontalAdvance(u'W') - kTraceNameGap, 0);
+    QList<double> ends(m_channels.size(), std::numeric_limits<double>::quiet_NaN());
     painter.setPen(QPen(theme::colors().line, 1));
     const double middle = area.center().y() + 0.5;
     painter.drawLine(QPointF(area.left(), middle), QPointF(area.right(), middle));
@@ -283,6 +292,18 @@ void ValueCard::paintTrace(QPainter &painter, const QRect &area, double range) c
             if (extent.high > extent.low)
                 line.append(extent.highMs < extent.lowMs ? low : high);
         }
+        if (!line.isEmpty())
+            ends[channel] = line.constLast().y() - area.top();
         endLine();
+    }
+    // Colour is not all that distinguishes the lines: their names stand at the ends.
+    painter.setFont(nameFont);
+    const QList<double> places = labelPlaces(ends, area.height(), names.ascent());
+    for (int channel = 0; channel < int(m_channels.size()); ++channel) {
+        if (std::isnan(places.at(channel)))
+            continue;
+        painter.setPen(theme::colors().*m_channels.at(channel).color);
+        painter.drawText(QPointF(area.right() + kTraceNameGap, area.top() + places.at(channel) + names.ascent() * 0.4),
+                         m_channels.at(channel).label);
     }
 }

@@ -65,7 +65,7 @@ private:
     QRect traceArea() const; ///< empty where the card is not tall enough for a trace
     double range() const;
     void paintHeader(QPainter &painter) const;
-    void paintRow(QPainter &painter, int row, const QRect &area, double range) const;
+    void paintRow(QPainter &painter, int row, const QRect &whole, double range) const;
     void paintTrace(QPainter &painter, const QRect &area, double range) const;
 
     QList<Channel> m_channels;

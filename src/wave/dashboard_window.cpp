@@ -58,7 +58,7 @@ void DashboardWindow::showLoadFailure()
     auto *item = qobject_cast<QQuickItem *>(text.get());
     if (!item)
         return; // the toolkit's own views are missing: already logged
-    item->setProperty("text", tr("This window could not be loaded. The log of the program tells why."));
+    item->setProperty("text", tr("This window could not be loaded. See the log for the reason."));
     item->setParentItem(contentItem());
     text.release()->setParent(contentItem());
     item->setWidth(width());

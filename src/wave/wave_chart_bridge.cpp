@@ -260,6 +260,8 @@ void WaveChartBridge::applyFrameRate(unsigned int samplesPerSecond)
     m_appliedFrameRate = samplesPerSecond;
     m_model.setFrameRate(samplesPerSecond);
     emit framerateChanged();
+    if (filterOn())
+        emit filterChanged();
 }
 
 void WaveChartBridge::reset()
@@ -396,6 +398,8 @@ void WaveChartBridge::notifyView()
 
 void WaveChartBridge::switchFilters(bool on)
 {
+    if (on)
+        m_filterRate = m_appliedFrameRate;
     for (int channel = 0; channel < channelCount(); ++channel)
         m_model.setFilterEnabled(channel, on);
 }

@@ -42,6 +42,7 @@ class WaveChartBridge : public QObject, public TimeSource
     Q_PROPERTY(bool hasFilter READ hasFilter CONSTANT)
     Q_PROPERTY(bool filterOn READ filterOn NOTIFY filterChanged)
     Q_PROPERTY(double filterCutoffHz READ filterCutoffHz NOTIFY filterChanged)
+    Q_PROPERTY(double filterForceHz READ filterForceHz NOTIFY filterChanged)
     Q_PROPERTY(bool hasData READ hasData NOTIFY dataChanged)
     Q_PROPERTY(WaveTrigger *trigger READ trigger CONSTANT)
     Q_PROPERTY(bool holds READ holds NOTIFY holdsChanged)
@@ -160,6 +161,9 @@ public:
     bool filterOn() const;
     /// Cutoff in Hz of the first channel.
     double filterCutoffHz() const { return m_model.filterCutoff(0); }
+    /// The cutoff in force, Hz: filters keep their coefficient when the rate changes, so that their cutoff moves with
+    /// it until they are switched or changed.
+    double filterForceHz() const { return filterCutoffHz() * m_appliedFrameRate / m_filterRate; }
 
     /// Words before the title, where several charts of a type are shown side by side.
     void setTitlePrefix(const QString &prefix);
@@ -199,6 +203,7 @@ private:
     bool m_playing = true;
     unsigned int m_appliedFrameRate = 100;
     unsigned int m_requestedFrameRate = 100;
+    unsigned int m_filterRate = 100; ///< that the filters were built for
     QList<BreakMark> m_breakMarks;
     QList<BreakMark> m_missingMarks;
     std::optional<CurveBreak> m_pendingBreak; ///< waits for the first sample after it

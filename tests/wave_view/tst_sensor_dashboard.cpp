@@ -379,6 +379,13 @@ private slots:
         enter(QStringLiteral("2"));
         QTRY_VERIFY(!problem->isVisible());
         QVERIFY(bench.view->bridge()->filterOn());
+        // The filter keeps its coefficient when the rate changes: the row says what that means.
+        QQuickItem *force = findItem(bench.chart, "filterForce");
+        QVERIFY(!force->isVisible());
+        bench.window.bridge().setFrameRate(40);
+        QTRY_VERIFY(force->isVisible() && force->property("text").toString().contains(QLatin1String("8 Hz")));
+        bench.click(findItem(bench.chart, "filterAgain"));
+        QTRY_VERIFY(!force->isVisible());
         enter(QStringLiteral("-3"));
         QTRY_VERIFY(problem->isVisible() && !bench.view->bridge()->filterOn());
         enter(QStringLiteral("1e30"));
