@@ -1,5 +1,6 @@
-// What the waveform dashboard costs: feeds all six charts with synthetic motion and prints frames per second and the
-// processor's share. Figures are those of the whole program. See docs/performance.md.
+// What the dashboards cost: feeds all six charts of a module, or one overlay of sixteen nodes, with synthetic motion
+// and prints frames per second and the processor's share. Figures are those of the whole program. See
+// docs/performance.md.
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -14,6 +15,8 @@
 #include "app/application_fonts.h"
 #include "chart/series_item.h"
 #include "wave/form_sensor_dashboard.h"
+#include "wave/form_wireless_dashboard.h"
+#include "wave/wave_view_state.h"
 
 namespace {
 
@@ -52,6 +55,32 @@ void pushSample(SensorDashboardBridge &bridge, quint64 index, unsigned int rate)
     push("prs", {101325 + 3 * std::sin(t / 4) + noise()}, false);
 }
 
+/// A batch of sixteen nodes, each with a motion of its own.
+void pushBatch(form_wireless_dashboard &window, quint64 index, unsigned int rate)
+{
+    QList<GatewaySample> batch;
+    for (int node = 0; node < GatewayDashboardBridge::kMaxChosenNodes; ++node) {
+        GatewaySample sample{.timestampMs = static_cast<unsigned int>(1 + index * 1000 / rate),
+                             .fields = SampleField::Acceleration};
+        const double t = double(index) / rate + node;
+        sample.node.id = quint8(node);
+        sample.node.acc[0] = float(std::sin(3 * t) + 0.05 * std::sin(170 * t) + 0.2 * node);
+        sample.node.acc[2] = 1;
+        batch += sample;
+    }
+    window.updateGatewaySamples(batch);
+}
+
+/// Every chart with cursors and statistics, all of them coupled.
+void measureEverywhere(SensorDashboardBridge &bridge, QQuickItem *root)
+{
+    bridge.setLinked(true);
+    const auto charts = root->findChildren<WaveViewState *>();
+    for (WaveViewState *view : charts)
+        view->toggleCursors();
+    // The cursors come with their table of statistics in every chart.
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -67,6 +96,8 @@ int main(int argc, char **argv)
                       QStringLiteral("10")});
     parser.addOption(
         {QStringLiteral("rate"), QStringLiteral("samples per second"), QStringLiteral("HZ"), QStringLiteral("1000")});
+    parser.addOption({QStringLiteral("measure"), QStringLiteral("with coupled cursors and statistics in every chart")});
+    parser.addOption({QStringLiteral("overlay"), QStringLiteral("sixteen nodes in one plot")});
     parser.addOption({QStringLiteral("closed"), QStringLiteral("with the dashboard closed")});
     parser.addOption(
         {QStringLiteral("size"), QStringLiteral("of the window"), QStringLiteral("WxH"), QStringLiteral("1920x1080")});
@@ -79,9 +110,16 @@ int main(int argc, char **argv)
     const unsigned int rate = qBound(1U, parser.value(QStringLiteral("rate")).toUInt(), 10000U);
     const QStringList size = parser.value(QStringLiteral("size")).split(u'x');
 
-    form_sensor_dashboard window;
-    window.bridge().resetSelectionsToDefault();
-    window.bridge().setFrameRate(rate);
+    const bool isOverlay = parser.isSet(QStringLiteral("overlay"));
+    form_sensor_dashboard module;
+    module.bridge().resetSelectionsToDefault();
+    module.bridge().setFrameRate(rate);
+    form_wireless_dashboard gateway;
+    gateway.bridge().setFrameRate(rate);
+    gateway.bridge().setOverlaid(true);
+    for (int node = 0; isOverlay && node < GatewayDashboardBridge::kMaxChosenNodes; ++node)
+        gateway.bridge().setNodeChosen(node, true);
+    DashboardWindow &window = isOverlay ? static_cast<DashboardWindow &>(gateway) : module;
     window.setGeometry(0, 0, size.value(0).toInt(), size.value(1).toInt());
     if (!parser.isSet(QStringLiteral("closed")))
         window.open();
@@ -93,13 +131,19 @@ int main(int argc, char **argv)
     clock.start();
     QTimer feed;
     QObject::connect(&feed, &QTimer::timeout, &feed, [&] {
-        for (const quint64 due = quint64(clock.elapsed()) * rate / 1000; pushed < due; ++pushed)
-            pushSample(window.bridge(), pushed, rate);
+        for (const quint64 due = quint64(clock.elapsed()) * rate / 1000; pushed < due; ++pushed) {
+            if (isOverlay)
+                pushBatch(gateway, pushed, rate);
+            else
+                pushSample(module.bridge(), pushed, rate);
+        }
     });
     feed.start(kFeedMs);
 
     // The window's ten seconds fill first.
     constexpr int kWarmUpMs = 11000;
+    if (parser.isSet(QStringLiteral("measure")))
+        QTimer::singleShot(kWarmUpMs / 2, &feed, [&] { measureEverywhere(module.bridge(), window.rootObject()); });
     std::clock_t processorStart = 0;
     qint64 start = 0;
     int firstFrame = 0;

@@ -67,6 +67,7 @@ process_figures::Figures process_figures::look(qint64 pid)
     figures.monotonicNs = monotonicNs();
     figures.processorNs = processorNs(contents(root + QLatin1String("stat")));
     figures.residentKib = kibOf(status, "VmRSS:");
+    figures.anonymousKib = kibOf(status, "RssAnon:");
     figures.peakKib = kibOf(status, "VmHWM:");
     figures.openHandles =
         int(QDir(root + QLatin1String("fd")).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size());

@@ -16,12 +16,13 @@ struct Thread
 /// One sample of a process.
 struct Figures
 {
-    qint64 monotonicNs = 0; ///< CLOCK_MONOTONIC when sampled
-    qint64 processorNs = 0; ///< of all threads, ended ones included
-    qint64 residentKib = 0; ///< memory now
-    qint64 peakKib = 0;     ///< largest memory so far
-    int openHandles = 0;    ///< file descriptors, including the one used for sampling if it is this process
-    QList<Thread> threads;  ///< alive now, in the order of their start
+    qint64 monotonicNs = 0;  ///< CLOCK_MONOTONIC when sampled
+    qint64 processorNs = 0;  ///< of all threads, ended ones included
+    qint64 residentKib = 0;  ///< memory now
+    qint64 anonymousKib = 0; ///< of it without files: heap, stacks, and where there is no GPU what is drawn with
+    qint64 peakKib = 0;      ///< largest memory so far
+    int openHandles = 0;     ///< file descriptors, including the one used for sampling if it is this process
+    QList<Thread> threads;   ///< alive now, in the order of their start
 };
 
 /// Processor time of all threads with one name.

@@ -90,6 +90,10 @@ void Campaign::round(const scenario::Device &device)
     m_before = counts();
 
     openPort();
+    if (m_report.rounds == 1) {
+        pause(kLookMs, kLookMs);
+        m_report.unopenedKib = process_figures::look().anonymousKib;
+    }
     openEverything();
     if (backToOrder())
         look(QStringLiteral("all open, ") + QLatin1String(device.name));
@@ -108,7 +112,7 @@ void Campaign::round(const scenario::Device &device)
     act(QStringLiteral("plain look"), scenario::setPlainLook);
     m_user.waitForCalm(kOpenMs);
     m_simulator.reset();
-    look(QStringLiteral("all closed"));
+    look(CampaignReport::kAllClosed);
 }
 
 void Campaign::openEverything()
@@ -287,12 +291,13 @@ void Campaign::look(const QString &state)
 {
     pause(kLookMs, kLookMs);
     const process_figures::Figures figures = process_figures::look();
-    m_report.looks.append({state, m_report.rounds, figures.residentKib, qint64(mallinfo2().uordblks / 1024),
-                           figures.openHandles, int(figures.threads.size())});
+    m_report.looks.append({state, m_report.rounds, figures.residentKib, figures.anonymousKib,
+                           qint64(mallinfo2().uordblks / 1024), figures.openHandles, int(figures.threads.size())});
     const CampaignReport::Look &now = m_report.looks.constLast();
-    log(QStringLiteral("%1: %2 KiB resident, %3 KiB of heap, %4 handles, %5 threads")
+    log(QStringLiteral("%1: %2 KiB resident, %3 KiB anonymous, %4 KiB of heap, %5 handles, %6 threads")
             .arg(state)
             .arg(now.residentKib)
+            .arg(now.anonymousKib)
             .arg(now.heapKib)
             .arg(now.handles)
             .arg(now.threads));

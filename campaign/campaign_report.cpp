@@ -14,6 +14,8 @@ constexpr int kResidentSlackKib = 8 * 1024;
 constexpr int kHeapSlackKib = 2 * 1024;
 constexpr int kDriverSlackKib = 8 * 1024;
 constexpr int kShownStalls = 12;
+// Closed windows give back what they were drawn with. What may stay: libraries, types, glyphs.
+constexpr int kKeptKib = 60 * 1024;
 
 // Six samples per pixel are requested, but a renderer may have only four; and replies that are not text contain
 // characters that a font has no rules for.
@@ -41,6 +43,8 @@ struct Figure
 constexpr Figure kFigures[] = {
     {"resident memory, KiB", 12, kResidentSlackKib, true,
      [](const CampaignReport::Look &look) { return double(look.residentKib); }},
+    {"anonymous memory, KiB", 12, kResidentSlackKib, true,
+     [](const CampaignReport::Look &look) { return double(look.anonymousKib); }},
     {"heap in use, KiB", 12, kHeapSlackKib, true,
      [](const CampaignReport::Look &look) { return double(look.heapKib); }},
     {"file handles", 4, 0, false, [](const CampaignReport::Look &look) { return double(look.handles); }},
@@ -85,6 +89,16 @@ void CampaignReport::judge(int stallLimitMs, const QString &messageLog)
                                     .arg(after)
                                     .arg(state));
         }
+    }
+    const auto closed = byState(*this).value(kAllClosed);
+    if (!closed.isEmpty()) {
+        QList<double> kept;
+        for (const Look &look : closed)
+            kept += double(look.anonymousKib - unopenedKib);
+        if (median(kept) > kKeptKib)
+            failures.append(QStringLiteral("with all windows closed %1 KiB of anonymous memory stay, more than %2 KiB")
+                                .arg(median(kept))
+                                .arg(kKeptKib));
     }
     for (const Watchdog::Stall &stall : waits.stalls) {
         if (stall.ms > stallLimitMs)
@@ -141,6 +155,7 @@ void CampaignReport::print(QTextStream &out) const
         << views.spans << " stretches of an axis, " << views.wrongSpans << " of them off by more than 5 %\n"
         << "Table of states: " << cells << " cells\n\n";
 
+    out << "Anonymous memory before the first window was opened: " << unopenedKib << " KiB\n";
     out << "Medians of the first and second half after the warm-up of " << warmUpRounds << " rounds:\n";
     for (const auto &[state, its] : byState(*this).toStdMap()) {
         if (its.size() < 2)

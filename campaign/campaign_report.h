@@ -32,10 +32,14 @@ struct CampaignReport
         QString state;
         int round = 0;
         qint64 residentKib = 0;
-        qint64 heapKib = 0; ///< in use, according to the allocator
+        qint64 anonymousKib = 0; ///< of it, without files
+        qint64 heapKib = 0;      ///< in use, according to the allocator
         int handles = 0;
         int threads = 0;
     };
+
+    /// The state in which memory is compared with that before any window was opened.
+    static constexpr QLatin1String kAllClosed{"all closed"};
 
     int rounds = 0;
     int warmUpRounds = 0;
@@ -45,7 +49,8 @@ struct CampaignReport
     ViewBooks::Findings views;
     int cells = 0; ///< of the table of states
     QList<Look> looks;
-    QStringList failures; ///< goals that were not met, as sentences
+    qint64 unopenedKib = 0; ///< anonymous memory with a stream, before any window besides the main one was opened
+    QStringList failures;   ///< goals that were not met, as sentences
     Watchdog::Result waits;
 
     /// Judges memory, handles and threads, the longest stalls, and the program's message log.

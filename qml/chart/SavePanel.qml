@@ -75,31 +75,8 @@ Rectangle {
         Row {
             spacing: 4
 
-            Repeater {
-                model: 4
-
-                Chip {
-                    required property int index
-
-                    objectName: "scale_" + (index + 1)
-                    checkable: false
-                    checked: !panel.saver.svg && panel.saver.pictureScale === index + 1
-                    horizontalPadding: 10
-                    text: qsTr("%1x").arg(index + 1)
-                    hint: qsTr("PNG at %1 times the size").arg(index + 1)
-                    onClicked: {
-                        panel.saver.svg = false;
-                        panel.saver.pictureScale = index + 1;
-                    }
-                }
-            }
-            Chip {
-                objectName: "svg"
-                checkable: false
-                checked: panel.saver.svg
-                horizontalPadding: 10
-                text: "SVG"
-                onClicked: panel.saver.svg = true
+            PictureChips {
+                saver: panel.saver
             }
             ActionButton {
                 objectName: "saveAllPictures"

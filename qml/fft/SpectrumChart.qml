@@ -106,7 +106,7 @@ FocusScope {
                 bare: true
                 checkable: true
                 iconName: "range"
-                hint: qsTr("Limits of the axes")
+                hint: qsTr("Limits of the axes, size of pictures")
             }
             ActionButton {
                 id: statisticsButton
@@ -160,7 +160,7 @@ FocusScope {
             ActionButton {
                 bare: true
                 text: qsTr("Open…")
-                hint: qsTr("Tell what a saved snapshot holds")
+                hint: qsTr("Show the contents of a saved snapshot")
                 onClicked: chart.files.openSnapshot()
             }
             ActionButton {
@@ -216,6 +216,21 @@ FocusScope {
                         onClicked: view.setSeriesVisible(index, !shown)
                     }
                 }
+            }
+        }
+        Row {
+            visible: rangeButton.checked
+            spacing: 8
+
+            Text {
+                anchors.verticalCenter: parent.verticalCenter
+                text: qsTr("Pictures")
+                textFormat: Text.PlainText
+                font: Theme.smallFont
+                color: Theme.textSecondary
+            }
+            PictureChips {
+                saver: chart.files
             }
         }
         ChartRangeRow {

@@ -272,12 +272,13 @@ FocusScope {
             width: parent.width
             viewState: chart.viewState
         }
+        // In a low chart the plot needs the room: the button opens the table.
         MeasurePanel {
             objectName: "measurePanel"
             width: parent.width
             maximumHeight: Math.max(30, chart.height * 0.3)
             viewState: chart.viewState
-            measures.active: chart.visible && (chart.viewState.hasCursors || (statisticsButton.checked && statisticsButton.visible))
+            measures.active: chart.visible && ((chart.viewState.hasCursors && !chart.low) || (statisticsButton.checked && statisticsButton.visible))
         }
     }
 

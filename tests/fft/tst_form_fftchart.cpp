@@ -484,17 +484,19 @@ private slots:
         bench.feed(512, 0.25F);
         bench.start();
         QTRY_VERIFY(bench.bridge().hasData());
-        const QSizeF chart = bench.item("chart")->size() * bench.view->devicePixelRatio();
+        const QSizeF chart = bench.item("chart")->size();
         int drawn = 0; // counted in this thread: the signal comes from the scene graph's
         const QObject counter;
         connect(bench.view, &QQuickWindow::frameSwapped, &counter, [&drawn] { ++drawn; });
         QTRY_VERIFY(drawn > 1); // items that move with the first data are in place
+        bench.click("rangeButton");
+        bench.click("scale_2");
         bench.click("savePicture");
         QFileDialog *dialog = nullptr;
         QTRY_VERIFY_WITH_TIMEOUT((dialog = openDialog<QFileDialog>()), 20000);
         emit dialog->fileSelected(m_folder.filePath(u"spectrum.png"_s));
         const QImage image(u"spectrum.png"_s);
-        QCOMPARE(image.size(), chart.toSize());
+        QCOMPARE(image.size(), (chart * 2).toSize());
         const int green = countPixels(image, [](const QColor &color) { // the tone is on Y
             return color.green() > color.red() + 60 && color.green() > color.blue() + 30;
         });
