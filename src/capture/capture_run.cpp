@@ -97,6 +97,7 @@ void CaptureRun::run(const QString &folder, const QString &name)
         else
             cutToWhole();
         m_fileSize = m_file.size();
+        m_messages = m_writer->messageCount();
         m_file.close();
         m_fileLock->unlock();
     }
