@@ -1,6 +1,7 @@
 // Writes captures for the tests.
 //
-//     kv_capture_child endless FOLDER   numbered chunks of bytes as fast as the disk takes them, until it is killed; prints
+//     kv_capture_child endless FOLDER   numbered chunks of bytes as fast as the disk takes them, until it is killed;
+//     prints
 //                                       how many messages are on the disk
 //     kv_capture_child whole FOLDER     a capture with every kind of content; prints its path and what is in it
 

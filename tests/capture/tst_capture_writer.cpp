@@ -93,7 +93,8 @@ private slots:
         writer.addSample(sample, start + 3);
         context.product = QStringLiteral("KV104");
         writer.setContext(context);
-        writer.addEvent({start + 4, QStringLiteral("marker"), QStringLiteral("\"here\" 長"), {{QStringLiteral("node"), 3}}});
+        writer.addEvent(
+            {start + 4, QStringLiteral("marker"), QStringLiteral("\"here\" 長"), {{QStringLiteral("node"), 3}}});
         QVERIFY(opened.wait(kTimeoutMs));
         QVERIFY(QFile::exists(writer.path() + QStringLiteral(".lock")));
         QVERIFY(mcap_repair::unfinishedIn(folder()).isEmpty());
