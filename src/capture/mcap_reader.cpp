@@ -237,7 +237,7 @@ void McapReader::learnChannels(qsizetype i)
 
 bool McapReader::refresh()
 {
-    if (m_isFinished || !m_file.isOpen())
+    if (m_isFinished || m_fault.any())
         return false;
     const qsizetype before = chunkCount();
     scan();
