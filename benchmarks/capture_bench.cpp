@@ -10,9 +10,12 @@
 
 #include "capture/capture_channels.h"
 #include "capture/capture_sample.h"
+#include "capture/frame_crc.h"
+#include "capture/frame_scan.h"
 #include "capture/mcap_reader.h"
 #include "capture/mcap_repair.h"
 #include "capture/mcap_writer.h"
+#include "link/kboot_protocol.h"
 #include "support/frames.h"
 
 namespace {
@@ -209,6 +212,65 @@ void seekInDay(benchmark::State &state)
     }
 }
 BENCHMARK(seekInDay)->Unit(benchmark::kMicrosecond);
+
+/// What a single module sends in a file of 32 MiB, more than the caches hold.
+QByteArray serialBytes()
+{
+    const QByteArray packet = frames::packet(frames::fullRecord(1));
+    return packet.repeated((32 << 20) / packet.size());
+}
+
+void scanMemcpy(benchmark::State &state)
+{
+    const QByteArray from = serialBytes();
+    QByteArray to(from.size(), Qt::Uninitialized);
+    for ([[maybe_unused]] auto _ : state) {
+        std::memcpy(to.data(), from.constData(), size_t(from.size()));
+        benchmark::DoNotOptimize(to.data());
+    }
+    state.SetBytesProcessed(state.iterations() * from.size());
+}
+BENCHMARK(scanMemcpy)->Unit(benchmark::kMillisecond);
+
+void scanCrcOnly(benchmark::State &state)
+{
+    const QByteArray from = serialBytes();
+    for ([[maybe_unused]] auto _ : state)
+        benchmark::DoNotOptimize(frameCrc(0, reinterpret_cast<const quint8 *>(from.constData()), from.size()));
+    state.SetBytesProcessed(state.iterations() * from.size());
+}
+BENCHMARK(scanCrcOnly)->Unit(benchmark::kMillisecond);
+
+/// In blocks as a capture holds them: one message for each read of the port.
+void scanFrames(benchmark::State &state)
+{
+    const QByteArray from = serialBytes();
+    const qsizetype block = state.range(0);
+    for ([[maybe_unused]] auto _ : state) {
+        qint64 payloads = 0;
+        FrameScan scan([&payloads](QByteArrayView payload, qint64) { payloads += payload.size(); });
+        for (qsizetype at = 0; at < from.size(); at += block)
+            scan.feed(QByteArrayView(from).sliced(at, std::min(block, from.size() - at)));
+        if (scan.health().dataBytes != quint64(from.size()))
+            state.SkipWithError("packets are missing");
+    }
+    state.SetBytesProcessed(state.iterations() * from.size());
+}
+BENCHMARK(scanFrames)->Arg(100)->Arg(4096)->Arg(1 << 20)->Unit(benchmark::kMillisecond);
+
+void scanByLiveDeframer(benchmark::State &state)
+{
+    const QByteArray from = serialBytes();
+    for ([[maybe_unused]] auto _ : state) {
+        KbootProtocol deframer;
+        for (qsizetype at = 0; at < from.size(); at += 4096)
+            deframer.serial_read(from.mid(at, 4096));
+        if (deframer.health().dataBytes != quint64(from.size()))
+            state.SkipWithError("packets are missing");
+    }
+    state.SetBytesProcessed(state.iterations() * from.size());
+}
+BENCHMARK(scanByLiveDeframer)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

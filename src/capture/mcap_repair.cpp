@@ -53,13 +53,25 @@ public:
 private:
     bool takeRecord()
     {
-        if (m_walk.kind() == mcap::Kind::Chunk)
+        switch (m_walk.kind()) {
+        case mcap::Kind::Chunk:
             return takeChunk();
-        if (m_walk.kind() == mcap::Kind::Metadata) {
+        case mcap::Kind::Metadata: {
             mcap::Metadata metadata;
             return !mcap::decode(m_walk.content(McapWalk::kMaxSmallRecord), metadata) || m_writer.add(metadata);
         }
-        return true;
+        case mcap::Kind::Schema: {
+            mcap::Schema schema;
+            return !mcap::decode(m_walk.content(McapWalk::kMaxSmallRecord), schema) || m_writer.add(schema);
+        }
+        case mcap::Kind::Channel: {
+            mcap::Channel channel;
+            return !mcap::decode(m_walk.content(McapWalk::kMaxSmallRecord), channel)
+                   || capture_channels::channel(channel.id) || m_writer.add(channel);
+        }
+        default:
+            return true;
+        }
     }
 
     bool takeChunk()
@@ -69,16 +81,25 @@ private:
         std::optional<QByteArray> records;
         if (mcap::decode(content, chunk))
             records = mcap_codec::records(chunk);
-        if (!records) {
+        std::optional<QList<mcap::Channel>> channels;
+        if (records)
+            channels = newChannels(*records);
+        if (!channels) {
             ++m_damaged;
             return true;
         }
-        return addChannels(*records) && m_writer.addChunk(chunk, *records);
+        for (const mcap::Channel &channel : *channels) {
+            if (!m_writer.add(channel))
+                return false;
+        }
+        return m_writer.addChunk(chunk, *records);
     }
 
-    /// Their numbers are ours: a damaged description is of no importance.
-    bool addChannels(QByteArrayView records)
+    /// Channels that occur in a chunk for the first time. The numbers of ours are known: it does not matter whether
+    /// their description is damaged. Nothing when one is not known at all.
+    std::optional<QList<mcap::Channel>> newChannels(QByteArrayView records) const
     {
+        QList<mcap::Channel> channels;
         McapRecordList list(records);
         while (list.next()) {
             mcap::Message message;
@@ -86,10 +107,11 @@ private:
                 || m_writer.hasChannel(message.channel))
                 continue;
             const auto channel = capture_channels::channel(message.channel);
-            if (channel && !m_writer.add(*channel))
-                return false;
+            if (!channel)
+                return std::nullopt;
+            channels.append(*channel);
         }
-        return true;
+        return channels;
     }
 
     McapWalk m_walk;

@@ -12,7 +12,7 @@ constexpr char kByteOrderMark[] = "\xEF\xBB\xBF";
 
 constexpr double kPowersOfTen[] = {1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
 constexpr double kBelowLastDigit = 0.25; // in units of the last digit
-constexpr int kExactDigits = 15; ///< so many fit into a double
+constexpr int kExactDigits = 15;         ///< so many fit into a double
 
 /// The fields of a line, one after the other.
 class Fields
@@ -195,7 +195,8 @@ bool RecordingReader::readLine(QByteArrayView &line)
         }
         if (found == nullptr && fill())
             continue;
-        const qsizetype end = found != nullptr ? static_cast<const char *>(found) - m_block.constData() : m_block.size();
+        const qsizetype end =
+            found != nullptr ? static_cast<const char *>(found) - m_block.constData() : m_block.size();
         if (end == m_block.size() && end == m_at && !isTooLong)
             return false;
         line = QByteArrayView(m_block).sliced(m_at, end - m_at);

@@ -14,8 +14,8 @@ struct RecordedRow
 
     Kind kind = Kind::Record91;
     qint64 unixTimeS = 0;
-    quint32 timestampMs = 0;   ///< of a Record63
-    QList<node_data_t> nodes;  ///< one of a Record91; the nodes of a batch that were not silent
+    quint32 timestampMs = 0;  ///< of a Record63
+    QList<node_data_t> nodes; ///< one of a Record91; the nodes of a batch that were not silent
 };
 
 /// Reads a recording in any of the three layouts that CsvWriter writes, or in several in one file, line by line in

@@ -46,7 +46,10 @@ class TestMcap : public QObject
     Q_OBJECT
 
 private:
-    QTemporaryDir m_folder;
+    // In memory, where there is a folder for it: repairs wait for the disk.
+    QTemporaryDir m_folder{
+        (QFileInfo::exists(QStringLiteral("/dev/shm")) ? QStringLiteral("/dev/shm") : QDir::tempPath())
+        + QStringLiteral("/tst_mcap-XXXXXX")};
 
     QString path(const char *name = "a.mcap") const { return m_folder.filePath(QLatin1String(name)); }
 

@@ -91,8 +91,8 @@ QByteArrayList timeless(const QString &path)
 
 QByteArray line91(qint64 second, const QByteArray &accX = "0.100", int timeMs = 1)
 {
-    return QByteArray::number(second) + ',' + QByteArray::number(timeMs) + ",0,0," + accX + QByteArray(",0").repeated(15)
-           + '\n';
+    return QByteArray::number(second) + ',' + QByteArray::number(timeMs) + ",0,0," + accX
+           + QByteArray(",0").repeated(15) + '\n';
 }
 
 } // namespace
@@ -164,8 +164,9 @@ private slots:
         for (qsizetype i = 0; i < first.size(); ++i) {
             const QByteArrayList fields = again[i].split(',');
             for (qsizetype k = 0; k < fields.size(); ++k)
-                QVERIFY2(fields[k] == first[i].split(',').value(k),
-                         "line " + QByteArray::number(i) + " field " + QByteArray::number(k) + ": " + fields[k] + " not " + first[i].split(',').value(k));
+                QVERIFY2(fields[k] == first[i].split(',').value(k), "line " + QByteArray::number(i) + " field "
+                                                                        + QByteArray::number(k) + ": " + fields[k]
+                                                                        + " not " + first[i].split(',').value(k));
         }
     }
 
@@ -177,12 +178,9 @@ private slots:
             qint64 second;
             int lines;
             QList<qint64> timesMs; // of the first and the last, after second 100
-        } rows[] = {{100, 4, {0, 750}},
-                    {101, 1, {1000, 1000}},
-                    {103, 2, {3000, 3500}},
-                    {102, 2, {4000, 4500}}, // the clock was set back
-                    {103, 1, {5000, 5000}},
-                    {110, 5, {10000, 10800}}};
+        } rows[] = {{100, 4, {0, 750}},     {101, 1, {1000, 1000}},
+                    {103, 2, {3000, 3500}}, {102, 2, {4000, 4500}}, // the clock was set back
+                    {103, 1, {5000, 5000}}, {110, 5, {10000, 10800}}};
         for (const auto &row : rows)
             content += line91(row.second).repeated(row.lines);
         RecordingSource source;
@@ -253,7 +251,8 @@ private slots:
         QByteArrayList found;
         for (QList<TimedBytes> part = source.read(); !part.isEmpty(); part = source.read()) {
             for (const TimedBytes &bytes : std::as_const(part))
-                found.append(QByteArray::number(double(parser.parseFrame(bytes.bytes.mid(6)).nodes[0].sample.acc[0]), 'f', 3));
+                found.append(
+                    QByteArray::number(double(parser.parseFrame(bytes.bytes.mid(6)).nodes[0].sample.acc[0]), 'f', 3));
         }
         QCOMPARE(found.join(' '), accX);
         QCOMPARE(source.badLines(), badLines);
