@@ -14,6 +14,7 @@ struct Seed
 };
 
 QList<Seed> bootloader();
+QList<Seed> capture();
 QList<Seed> hex();
 QList<Seed> models();
 QList<Seed> reply();

@@ -7,7 +7,7 @@ import pathlib
 import re
 import sys
 
-FLOORS = {"app": 1, "link": 2, "attitude": 3, "record": 3, "chart": 3, "device": 4, "session": 5, "wave": 6, "fft": 6,
+FLOORS = {"app": 1, "link": 2, "attitude": 3, "record": 3, "capture": 3, "chart": 3, "device": 4, "session": 5, "wave": 6, "fft": 6,
           "updater": 6, "ui": 7}
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([a-z_]+)/')
 

@@ -6,13 +6,13 @@
 
 #include <algorithm>
 
+#include "record/csv_header.h"
 #include "record/number_text.h"
 
 namespace {
 
 constexpr qint64 kSecondsPerFile = 3600;
 constexpr qint64 kFlushAbove = 65535;
-constexpr int kGroups = 16;
 constexpr int kFreeSlot = -1;
 
 constexpr qsizetype kReserve91 = 220;
@@ -21,12 +21,6 @@ constexpr qsizetype kReserve63 = 2260;
 
 constexpr int kFine = 3; // decimals
 constexpr int kCoarse = 2;
-
-constexpr const char *kMotionColumns[] = {
-    "AccX[G]",  "AccY[G]",   "AccZ[G]",    "GyrX[deg/s]", "GyrY[deg/s]", "GyrZ[deg/s]", "MagX[uT]", "MagY[uT]",
-    "MagZ[uT]", "Roll[deg]", "Pitch[deg]", "Yaw[deg]",    "Qw",          "Qx",          "Qy",       "Qz",
-};
-constexpr int kMotionFields = int(std::size(kMotionColumns));
 
 void appendFixed(QByteArray &line, const float *values, int count, int decimals)
 {
@@ -44,17 +38,6 @@ void appendMotion(QByteArray &line, const node_data_t &node, int gyrDecimals)
     appendFixed(line, node.mag, 3, kCoarse);
     appendFixed(line, angles, 3, kCoarse);
     appendFixed(line, node.quat, 4, kFine);
-}
-
-void appendGroupHeaders(QByteArray &line)
-{
-    for (int group = 1; group <= kGroups; ++group) {
-        const QByteArray prefix = ",Node" + QByteArray::number(group) + '_';
-        line += prefix + "ID";
-        for (const char *column : kMotionColumns)
-            line += prefix + column;
-    }
-    line += '\n';
 }
 
 /// Gateway records carry the time in 32 bits.
@@ -256,8 +239,8 @@ void CsvWriter::openNewFile(const QDateTime &start)
     m_bytesSinceFlush = 0;
     m_earlierSize += m_fileSize.exchange(0);
     m_unflushedEnds.clear();
-    m_slots62.fill(kFreeSlot, kGroups);
-    m_slots63.fill(kFreeSlot, kGroups);
+    m_slots62.fill(kFreeSlot, csv_header::kGroups);
+    m_slots63.fill(kFreeSlot, csv_header::kGroups);
     {
         const QMutexLocker locker(&m_queueLock);
         m_filePath = path;
@@ -321,25 +304,17 @@ void CsvWriter::writeLine(const QByteArray &line)
 
 void CsvWriter::writeHeader91()
 {
-    QByteArray header("UnixTimeStamp(sec),Time(ms),Pressure(Pa),Temperature(\xC2\xB0"
-                      "C)");
-    for (const char *column : kMotionColumns)
-        (header += ',') += column;
-    writeHeader(header += '\n');
+    writeHeader(csv_header::line91());
 }
 
 void CsvWriter::writeHeader62()
 {
-    QByteArray header("UnixTimeStamp(sec)");
-    appendGroupHeaders(header);
-    writeHeader(header);
+    writeHeader(csv_header::line62());
 }
 
 void CsvWriter::writeHeader63()
 {
-    QByteArray header("ts_ms(ms),UnixTimeStamp(sec)");
-    appendGroupHeaders(header);
-    writeHeader(header);
+    writeHeader(csv_header::line63());
 }
 
 void CsvWriter::writeRecord91(const node_data_t &node)
@@ -388,8 +363,8 @@ void CsvWriter::appendEmptyFields(QByteArray &line, int count)
 
 void CsvWriter::assignSlots(const QList<node_data_t> &nodes, QList<int> &slotMap)
 {
-    if (slotMap.size() != kGroups)
-        slotMap.fill(kFreeSlot, kGroups);
+    if (slotMap.size() != csv_header::kGroups)
+        slotMap.fill(kFreeSlot, csv_header::kGroups);
     for (const node_data_t &node : nodes) {
         if (slotMap.contains(int(node.id)))
             continue;
@@ -424,7 +399,7 @@ void CsvWriter::appendGroups(QByteArray &line, const QList<node_data_t> &nodes, 
         if (node != nullptr)
             appendNodeFields(line, *node);
         else
-            appendEmptyFields(line, kMotionFields);
+            appendEmptyFields(line, csv_header::kMotionColumns);
     }
     line += '\n';
 }
