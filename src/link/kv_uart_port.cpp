@@ -5,8 +5,12 @@
 #include <utility>
 
 #include "app/app_log.h"
+#include "link/demo_source.h"
 #include "link/kboot_protocol.h"
+#include "link/rfc2217_source.h"
 #include "link/serial_source.h"
+#include "link/tcp_source.h"
+#include "link/udp_source.h"
 
 namespace {
 
@@ -114,10 +118,14 @@ void KvUartPort::threadStarted()
         AppLog::logfile(QtWarningMsg, QStringLiteral("found port is opened while uart-thread starting."));
     }
     m_source = makeSource();
-    connect(m_source.get(), &ByteSource::opened, this, &KvUartPort::onSourceOpened);
-    connect(m_source.get(), &ByteSource::received, this, &KvUartPort::takeChunk);
-    connect(m_source.get(), &ByteSource::failed, this, &KvUartPort::onSourceFailed);
-    m_source->open();
+    if (m_source != nullptr) {
+        connect(m_source.get(), &ByteSource::opened, this, &KvUartPort::onSourceOpened);
+        connect(m_source.get(), &ByteSource::received, this, &KvUartPort::takeChunk);
+        connect(m_source.get(), &ByteSource::failed, this, &KvUartPort::onSourceFailed);
+        m_source->open();
+    } else {
+        onSourceFailed({m_address, SourceFault::File, tr("This program cannot open files."), {}, false});
+    }
     m_secondTimer->start();
     AppLog::logfile(
         QtInfoMsg,
@@ -126,9 +134,29 @@ void KvUartPort::threadStarted()
 
 std::unique_ptr<ByteSource> KvUartPort::makeSource()
 {
-    auto serial = std::make_unique<SerialSource>(*this, m_address);
-    m_serial = serial.get();
-    return serial;
+    switch (m_address.kind) {
+    case SourceKind::Tcp:
+        return std::make_unique<TcpSource>(m_address);
+    case SourceKind::Rfc2217:
+        return std::make_unique<Rfc2217Source>(m_address);
+    case SourceKind::Udp:
+        return std::make_unique<UdpSource>(m_address);
+    case SourceKind::Demo:
+        return std::make_unique<DemoSource>(*this, m_address);
+    case SourceKind::File:
+        return m_fileSources ? m_fileSources(m_address) : nullptr;
+    case SourceKind::Serial:
+        break;
+    }
+    return std::make_unique<SerialSource>(*this, m_address);
+}
+
+/// The part of the source that works on this port; null when it does not.
+SerialSource *KvUartPort::serialSource() const
+{
+    if (const auto *demo = qobject_cast<DemoSource *>(m_source.get()))
+        return demo->serial();
+    return qobject_cast<SerialSource *>(m_source.get());
 }
 
 void KvUartPort::threadStopped()
@@ -138,7 +166,6 @@ void KvUartPort::threadStopped()
         if (m_source->isOpen())
             m_source->finish(kLastBytesMs); // a last command, queued just before the close
         m_source->close();
-        m_serial = nullptr;
         m_source.reset();
     }
     m_secondTimer->stop();
@@ -161,14 +188,14 @@ void KvUartPort::moveAllTo(QThread *target)
 
 void KvUartPort::onReadyRead()
 {
-    if (m_serial != nullptr)
-        m_serial->takeAvailable();
+    if (SerialSource *const serial = serialSource())
+        serial->takeAvailable();
 }
 
 void KvUartPort::onErrorOccurred(QSerialPort::SerialPortError error)
 {
-    if (m_serial != nullptr)
-        m_serial->takeError(error);
+    if (SerialSource *const serial = serialSource())
+        serial->takeError(error);
 }
 
 bool KvUartPort::isSourceOpen() const

@@ -157,6 +157,7 @@ private:
     void publishHealth();
     void moveAllTo(QThread *target);
     std::unique_ptr<ByteSource> makeSource();
+    SerialSource *serialSource() const;
     bool isSourceOpen() const;
     void onSourceOpened();
     void onSourceFailed(const SourceFailure &failure);
@@ -173,7 +174,6 @@ private:
     SourceAddress m_address;
     FileSourceFactory m_fileSources;
     std::unique_ptr<ByteSource> m_source; ///< of the connection; lives and dies in the worker thread
-    SerialSource *m_serial = nullptr;     ///< the part of m_source that works on this port; null for other kinds
     std::atomic<int> m_replyAllowanceMs = 0;
     bool m_startPending = false;                ///< openSource() has requested a start that has not run yet
     std::atomic<bool> m_bootloaderMode = false; ///< connected to a bootloader, or trying to

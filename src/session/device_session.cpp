@@ -72,9 +72,11 @@ DeviceSession::~DeviceSession()
 
 Refusal DeviceSession::refusal(SessionAction action) const
 {
-    const Refusal verdict = session_table::verdict(m_state, action);
-    if (verdict != Refusal::None)
-        return verdict;
+    for (const Refusal verdict : {isOpen() ? session_table::verdict(m_source.kind, action) : Refusal::None,
+                                  session_table::verdict(m_state, action)}) {
+        if (verdict != Refusal::None)
+            return verdict;
+    }
     switch (action) {
     case SessionAction::Identify:
     case SessionAction::SendCommand:
@@ -123,6 +125,9 @@ void DeviceSession::onOpened()
 {
     if (m_state != SessionState::Opening)
         return;
+    if (session_table::verdict(m_source.kind, SessionAction::Identify) != Refusal::None)
+        return setState(SessionState::Silent);
+    m_commands->setReplyAllowance(m_port->replyAllowanceMs());
     m_commands->setConnected(true);
     readInfo();
 }
@@ -500,7 +505,7 @@ void DeviceSession::checkSilence()
     if (m_state != SessionState::Live || isStreaming())
         return;
     setState(SessionState::Silent);
-    if (!m_device.valid)
+    if (!m_device.valid && allows(SessionAction::Identify))
         m_retryTimer.start(); // there is no stream left to disturb
 }
 
