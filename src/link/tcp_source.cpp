@@ -1,6 +1,5 @@
 #include "link/tcp_source.h"
 
-#include <QDeadlineTimer>
 #include <QNetworkProxy>
 #include <QRegularExpression>
 
@@ -170,7 +169,8 @@ bool TcpSource::waitForBytesWritten(int ms)
 }
 
 /// A connection that is closed with bytes still to be read is reset, and the other end may drop what was sent last.
-/// So it is told that nothing more comes, and answers by closing its own half.
+/// So it is told that nothing more comes, and answers by closing its own half. But not at once: a serial server that
+/// finds the end together with the last bytes closes its port before it has written them.
 void TcpSource::finish(int ms)
 {
     if (!m_sinceWrite.isValid() || m_sinceWrite.elapsed() > kRecentMs)
@@ -178,10 +178,18 @@ void TcpSource::finish(int ms)
     const QDeadlineTimer limit(ms);
     if (!waitForBytesWritten(ms))
         return;
-    socket_options::endSending(m_socket.socketDescriptor());
     m_phase = Phase::Closed; // what still arrives belongs to nobody
-    while (m_socket.state() == QAbstractSocket::ConnectedState && !limit.hasExpired()) {
-        if (m_socket.waitForReadyRead(int(limit.remainingTime())))
+    drain(QDeadlineTimer(std::min<qint64>(ms / 2, qMax<qint64>(0, kRecentMs - m_sinceWrite.elapsed()))));
+    if (m_socket.state() == QAbstractSocket::ConnectedState)
+        socket_options::endSending(m_socket.socketDescriptor());
+    drain(limit);
+}
+
+/// Reads for nobody until then, or until the other end closes the connection.
+void TcpSource::drain(QDeadlineTimer until)
+{
+    while (m_socket.state() == QAbstractSocket::ConnectedState && !until.hasExpired()) {
+        if (m_socket.waitForReadyRead(int(until.remainingTime())))
             m_socket.skip(m_socket.bytesAvailable());
     }
 }

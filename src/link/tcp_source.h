@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QTcpSocket>
 #include <QTimer>
@@ -50,6 +51,7 @@ private:
     void onReadyRead();
     void onError(QAbstractSocket::SocketError error);
     void reportEnd();
+    void drain(QDeadlineTimer until);
 
     QTcpSocket m_socket;
     QTimer m_connectLimit;

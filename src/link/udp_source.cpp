@@ -1,5 +1,6 @@
 #include "link/udp_source.h"
 
+#include <QHostAddress>
 #include <QNetworkProxy>
 
 namespace {
@@ -9,6 +10,15 @@ constexpr int kSilenceMs = 5000;
 /// Bursts wait here while the thread is busy; the system may grant less.
 constexpr int kReceiveBufferBytes = 4 * 1024 * 1024;
 constexpr int kMaxDatagrams = 1000; // in one go, so that a flood does not keep the thread from closing
+
+/// The same port here for every connection to a source: a server cannot know when a client over UDP has left, and may
+/// take only one. So who comes back is still the one that it knows.
+quint16 ownPort(const SourceAddress &address)
+{
+    constexpr quint16 kFirst = 49152; // from here on ports are free for such use
+    constexpr quint16 kCount = 16384;
+    return quint16(kFirst + qChecksum(address.shortText().toUtf8()) % kCount);
+}
 
 } // namespace
 
@@ -30,7 +40,9 @@ UdpSource::~UdpSource()
 void UdpSource::open()
 {
     m_phase = Phase::LookingUp;
-    m_socket.connectToHost(address().name, address().port); // binds; datagrams of others are dropped by the system
+    if (!m_socket.bind(QHostAddress(QHostAddress::Any), ownPort(address()), QAbstractSocket::DontShareAddress))
+        m_socket.bind();
+    m_socket.connectToHost(address().name, address().port); // datagrams of others are dropped by the system
 }
 
 void UdpSource::close()
