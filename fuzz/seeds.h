@@ -21,5 +21,6 @@ QList<Seed> reply();
 QList<Seed> settings();
 QList<Seed> snapshot();
 QList<Seed> stream();
+QList<Seed> telnet();
 
 } // namespace seeds

@@ -19,6 +19,8 @@ packages=(
   fonts-noto-core fonts-noto-cjk fonts-noto-mono fonts-hack
   # tests: a display without a screen, and a transform and a converter to compare with
   xvfb xauth libfftw3-dev srecord
+  # tests of remote devices: a serial server, and networks of their own
+  ser2net iproute2 util-linux
   # checks
   clang-format-14 clang-tidy-14 python3
   # the Debian package and its checks; a bare system to install it in, and tools to see and use its windows

@@ -103,7 +103,7 @@ QStringList CommandSession::readInfoNow()
         return {};
     const QPointer<CommandSession> self(this);
     const quint64 connection = m_connection;
-    const QList<SettingsCommand> sequence = settings_command_adapter::buildReadInfoSequence(byteTimeMs());
+    const QList<SettingsCommand> sequence = allowed(settings_command_adapter::buildReadInfoSequence(byteTimeMs()));
     m_currentCommand = sequence.constLast().text.trimmed();
     emit stateChanged();
     logCommands(sequence);
@@ -136,7 +136,7 @@ QStringList CommandSession::readInfoNow()
 
 void CommandSession::save(const SettingsSaveRequest &request)
 {
-    const QList<SettingsCommand> sequence = settings_command_adapter::buildSaveSequence(profile(), request);
+    const QList<SettingsCommand> sequence = allowed(settings_command_adapter::buildSaveSequence(profile(), request));
     if (sequence.isEmpty() || !begin())
         return;
     QStringList commands;
@@ -264,13 +264,23 @@ std::optional<QStringList> CommandSession::execute(const QString &text, quint32 
     m_currentCommand = text.trimmed();
     emit stateChanged();
     logCommands({{text, waitMs}});
-    const QByteArray reply = m_broker->executeCommand(text, waitMs);
+    const QByteArray reply = m_broker->executeCommand(text, waitMs > 0 ? waitMs + m_allowanceMs : 0);
     if (self == nullptr || connection != m_connection || m_operationEnded)
         return std::nullopt;
     const QStringList lines = info_reply::lines(reply);
     if (waitMs > 0)
         logReply(lines);
     return lines;
+}
+
+/// The same commands with windows for replies over a network.
+QList<SettingsCommand> CommandSession::allowed(QList<SettingsCommand> commands) const
+{
+    for (SettingsCommand &command : commands) {
+        if (command.waitMs > 0)
+            command.waitMs += m_allowanceMs;
+    }
+    return commands;
 }
 
 void CommandSession::logCommands(const QList<SettingsCommand> &commands)

@@ -39,6 +39,8 @@ public:
     void setBroker(CommandBroker *broker);
     /// Baud rate of the connection; values below 1 are ignored.
     void setBaud(int baud);
+    /// Every reply window is this much longer, in milliseconds: replies come over a network.
+    void setReplyAllowance(int ms) { m_allowanceMs = quint32(qMax(0, ms)); }
     /// Begins a new connection, or ends the current one.
     void setConnected(bool connected);
     /// While suspended nothing is sent and every operation is refused: the line belongs to something else, such as a
@@ -91,6 +93,7 @@ private:
     void endOperation();
     std::optional<QStringList> execute(const QString &text, quint32 waitMs);
     QStringList readInfoNow();
+    QList<SettingsCommand> allowed(QList<SettingsCommand> commands) const;
     void logCommands(const QList<SettingsCommand> &commands);
     void logReply(const QStringList &lines);
     bool sendResume(quint32 waitMs);
@@ -102,6 +105,7 @@ private:
     DetectedDevice m_device;
     QString m_currentCommand;
     int m_baudRate = 115200;
+    quint32 m_allowanceMs = 0;
     quint64 m_connection = 0; ///< number of the connection
     bool m_connected = false;
     bool m_busy = false;

@@ -84,12 +84,12 @@ bool KbootProtocol::serial_send_and_wait_resp(const QByteArray &packet, int wait
     return waitFor(sinceSent, waits, [this] { return m_responseReceived; });
 }
 
-/// Runs an event loop until the condition holds, for at most `steps` milliseconds from now. The condition is checked
-/// only at whole milliseconds after the packet was sent, and nothing wakes up for that while no bytes arrive. The rest
-/// of a millisecond is slept, because the event loop would round it up to a whole one.
+/// Runs an event loop until the condition holds, for at most `steps` milliseconds and the allowance from now. The
+/// condition is checked only at whole milliseconds after the packet was sent, and nothing wakes up for that while no
+/// bytes arrive. The rest of a millisecond is slept, because the event loop would round it up to a whole one.
 bool KbootProtocol::waitFor(const QElapsedTimer &sinceSent, int steps, const std::function<bool()> &isMet)
 {
-    const qint64 endNs = sinceSent.nsecsElapsed() + steps * kStepNs;
+    const qint64 endNs = sinceSent.nsecsElapsed() + (steps + m_replyAllowanceMs) * kStepNs;
     QEventLoop loop;
     QTimer limit;
     limit.setSingleShot(true);

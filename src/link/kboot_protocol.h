@@ -108,6 +108,10 @@ public:
     /// Notes that the port failed before connect() or download() could run.
     void portFailed(BootloaderStep step);
 
+    /// Every wait for the target takes this much longer, in milliseconds: answers come over a network. clear() keeps
+    /// it.
+    void setReplyAllowance(int ms) { m_replyAllowanceMs = ms; }
+
     /// Sends one command and waits 1500 ms for a response; true when one arrived.
     bool cmd_packet(unsigned char tag, unsigned char paramCount, const unsigned int *params);
     /// Value of a property: the response without framing header, command header and status word. Without a response,
@@ -198,6 +202,7 @@ private:
     LinkHealth m_health;
     bool m_errorNoted = false; ///< in the chunk being decoded
 
+    int m_replyAllowanceMs = 0;
     BootloaderFacts m_facts;
     BootloaderOutcome m_outcome;
     QByteArray m_memory;

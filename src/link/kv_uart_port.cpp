@@ -5,7 +5,12 @@
 #include <utility>
 
 #include "app/app_log.h"
+#include "link/demo_source.h"
 #include "link/kboot_protocol.h"
+#include "link/rfc2217_source.h"
+#include "link/serial_source.h"
+#include "link/tcp_source.h"
+#include "link/udp_source.h"
 
 namespace {
 
@@ -46,13 +51,17 @@ KvUartPort::~KvUartPort()
 
 void KvUartPort::openUART(const QString &portName, int baud)
 {
+    openSource(SourceAddress::serial(portName, baud));
+}
+
+void KvUartPort::openSource(const SourceAddress &address)
+{
     if (m_workerThread->isRunning()) {
         stopInWorker();
         waitForWorker(QDeadlineTimer::Forever);
     }
     clear(); // the last connection's figures must not pass for those of this one
-    m_portName = portName;
-    m_baudRate = baud;
+    m_address = address;
     m_startPending = true;
     m_workerEnded = false;
     renewThread();
@@ -103,30 +112,61 @@ void KvUartPort::threadStarted()
         return;
     m_startPending = false;
 
-    setPortName(m_portName);
-    setBaudRate(m_baudRate);
     clear();
     if (isOpen()) {
         close();
         AppLog::logfile(QtWarningMsg, QStringLiteral("found port is opened while uart-thread starting."));
     }
-    if (open(QIODevice::ReadWrite))
-        emit opened();
-    else
-        emit errorOpenPort();
+    m_source = makeSource();
+    if (m_source != nullptr) {
+        connect(m_source.get(), &ByteSource::opened, this, &KvUartPort::onSourceOpened);
+        connect(m_source.get(), &ByteSource::received, this, &KvUartPort::takeChunk);
+        connect(m_source.get(), &ByteSource::failed, this, &KvUartPort::onSourceFailed);
+        m_source->open();
+    } else {
+        onSourceFailed({m_address, SourceFault::File, tr("This program cannot open files."), {}, false});
+    }
     m_secondTimer->start();
     AppLog::logfile(
         QtInfoMsg,
         QStringLiteral("uart-thread=%1 started").arg(reinterpret_cast<quintptr>(QThread::currentThreadId())));
 }
 
+std::unique_ptr<ByteSource> KvUartPort::makeSource()
+{
+    switch (m_address.kind) {
+    case SourceKind::Tcp:
+        return std::make_unique<TcpSource>(m_address);
+    case SourceKind::Rfc2217:
+        return std::make_unique<Rfc2217Source>(m_address);
+    case SourceKind::Udp:
+        return std::make_unique<UdpSource>(m_address);
+    case SourceKind::Demo:
+        return std::make_unique<DemoSource>(*this, m_address);
+    case SourceKind::File:
+        return m_fileSources ? m_fileSources(m_address) : nullptr;
+    case SourceKind::Serial:
+        break;
+    }
+    return std::make_unique<SerialSource>(*this, m_address);
+}
+
+/// The part of the source that works on this port; null when it does not.
+SerialSource *KvUartPort::serialSource() const
+{
+    if (const auto *demo = qobject_cast<DemoSource *>(m_source.get()))
+        return demo->serial();
+    return qobject_cast<SerialSource *>(m_source.get());
+}
+
 void KvUartPort::threadStopped()
 {
     m_startPending = false;
-    if (isOpen()) {
-        if (bytesToWrite() > 0) // a last command, queued just before the close
-            waitForBytesWritten(kLastBytesMs);
-        close();
+    if (m_source != nullptr) {
+        if (m_source->isOpen())
+            m_source->finish(kLastBytesMs); // a last command, queued just before the close
+        m_source->close();
+        m_source.reset();
     }
     m_secondTimer->stop();
     publishHealth();
@@ -148,25 +188,45 @@ void KvUartPort::moveAllTo(QThread *target)
 
 void KvUartPort::onReadyRead()
 {
-    if (!isReadable() || bytesAvailable() <= 0)
-        return;
-    const QByteArray data = readAll();
-    {
-        const QMutexLocker lock(&m_statsMutex);
-        m_rxBytes += quint64(data.size());
-    }
-    m_kboot->serial_read(data);
-    emit serialRecv(data);
+    if (SerialSource *const serial = serialSource())
+        serial->takeAvailable();
 }
 
 void KvUartPort::onErrorOccurred(QSerialPort::SerialPortError error)
 {
-    // A device that has vanished stays readable and fails at every read, so an open port would report errors by the
-    // thousand. Queued, because the port may not be closed from inside its own notifier.
-    if (isOpen() && (error == QSerialPort::ReadError || error == QSerialPort::ResourceError)) {
-        close();
-        m_kboot->cancel();
+    if (SerialSource *const serial = serialSource())
+        serial->takeError(error);
+}
+
+bool KvUartPort::isSourceOpen() const
+{
+    return m_source != nullptr && m_source->isOpen();
+}
+
+void KvUartPort::onSourceOpened()
+{
+    m_replyAllowanceMs = m_source->replyAllowanceMs();
+    m_kboot->setReplyAllowance(m_replyAllowanceMs);
+    emit opened();
+}
+
+void KvUartPort::onSourceFailed(const SourceFailure &failure)
+{
+    m_kboot->cancel();
+    emit sourceFailed(failure);
+    if (!failure.wasOpen)
+        emit errorOpenPort();
+}
+
+void KvUartPort::takeChunk(const QByteArray &chunk, qint64 steadyNs)
+{
+    {
+        const QMutexLocker lock(&m_statsMutex);
+        m_rxBytes += quint64(chunk.size());
     }
+    emit chunkReceived(chunk, steadyNs);
+    m_kboot->serial_read(chunk);
+    emit serialRecv(chunk);
 }
 
 void KvUartPort::onKbootRecv(const QByteArray &payload)
@@ -180,35 +240,41 @@ void KvUartPort::onKbootRecv(const QByteArray &payload)
 
 void KvUartPort::writeCounted(const QByteArray &data)
 {
-    const qint64 written = write(data);
-    if (written > 0) {
+    const qint64 nowNs = ByteSource::steadyNs();
+    const qint64 written = m_source->write(data);
+    if (written <= 0)
+        return;
+    {
         const QMutexLocker lock(&m_statsMutex);
         m_txBytes += quint64(written);
     }
+    emit chunkSent(data.left(written), nowNs);
 }
 
 void KvUartPort::serialSend(const QByteArray &data)
 {
-    if (!isOpen())
+    if (!isSourceOpen())
         return;
     writeCounted(data);
     if (m_bootloaderMode)
-        waitForBytesWritten(kBootloaderWriteMs);
+        m_source->waitForBytesWritten(kBootloaderWriteMs);
 }
 
 bool KvUartPort::serialSendBlocking(const QByteArray &data, int timeoutMs)
 {
-    if (!isOpen())
+    if (!isSourceOpen())
         return false;
     // Not through serialSend(), which also waits while a bootloader is connected: a wait for bytes that are already out
     // fails, and counts as an error of the port.
     writeCounted(data);
-    return waitForBytesWritten(timeoutMs);
+    return m_source->waitForBytesWritten(timeoutMs);
 }
 
 void KvUartPort::clear()
 {
     m_kboot->clear();
+    m_kboot->setReplyAllowance(0);
+    m_replyAllowanceMs = 0;
     m_bootloaderMode = false;
     m_hasAskedForBootloader = false;
     const QMutexLocker lock(&m_statsMutex);
@@ -232,10 +298,10 @@ bool KvUartPort::connectBusy()
 {
     bool connected = false;
     m_kboot->portFailed(BootloaderStep::Restart); // unless connect() is reached
-    if (isOpen() && serialSendBlocking(kRestartCommand, kRestartWriteMs)) {
+    if (isSourceOpen() && serialSendBlocking(kRestartCommand, kRestartWriteMs)) {
         m_bootloaderMode = true;
         KbootProtocol::delay(kRestartMs);
-        connected = isOpen() && m_kboot->connect();
+        connected = isSourceOpen() && m_kboot->connect();
     }
     m_bootloaderMode = connected;
     return connected;
@@ -246,7 +312,7 @@ bool KvUartPort::restartFromBootloader()
     if (!beginBootloader())
         return false;
     m_bootloaderMode = true;
-    if (isOpen())
+    if (isSourceOpen())
         m_kboot->restart();
     else
         m_kboot->portFailed(BootloaderStep::Reset);
@@ -261,7 +327,7 @@ bool KvUartPort::downloadBootloader(const QByteArray &image, int startAddr, int 
     if (!beginBootloader())
         return false;
     bool complete = false;
-    if (isOpen()) {
+    if (isSourceOpen()) {
         m_bootloaderMode = true;
         complete = m_kboot->download(image, startAddr, retry);
         m_bootloaderMode = false;
@@ -280,7 +346,7 @@ void KvUartPort::startDownloadBootloader(const QByteArray &image, int startAddr,
 
 void KvUartPort::askForBootloader()
 {
-    if (!isOpen() || m_bootloaderBusy)
+    if (!isSourceOpen() || m_bootloaderBusy)
         return;
     m_hasAskedForBootloader = true;
     serialSend(KbootProtocol::pingPacket());
@@ -299,7 +365,7 @@ void KvUartPort::runBootloaderTask(const BootloaderTask &task)
     BootloaderResult result;
     result.kind = task.kind;
     if (beginBootloader()) {
-        if (isOpen())
+        if (isSourceOpen())
             result.success = doTask(task, result);
         else
             m_kboot->portFailed(BootloaderStep::Idle);
@@ -317,7 +383,7 @@ bool KvUartPort::doTask(const BootloaderTask &task, BootloaderResult &result)
         return connectBusy();
     case BootloaderTask::Kind::Inquire:
         result.offer = m_kboot->inquire();
-        return isOpen();
+        return isSourceOpen();
     case BootloaderTask::Kind::Write:
         m_bootloaderMode = true;
         return m_kboot->writeImage(task.image, task.address, task.attempts, task.packetSize);
@@ -330,7 +396,7 @@ bool KvUartPort::doTask(const BootloaderTask &task, BootloaderResult &result)
     case BootloaderTask::Kind::Restart:
         m_kboot->restart();
         m_bootloaderMode = false;
-        return isOpen();
+        return isSourceOpen();
     }
     return false;
 }
@@ -388,8 +454,8 @@ void KvUartPort::onTimer1000ms()
     m_lastSecond.txBytesLastSecond = m_txBytes;
     m_lastSecond.rxBytesLastSecond = m_rxBytes;
     m_lastSecond.framesLastSecond = m_framesCounter;
-    m_lastSecond.txLoadPercent = loadPercent(m_txBytes, m_baudRate, bitsPerCharacter);
-    m_lastSecond.rxLoadPercent = loadPercent(m_rxBytes, m_baudRate, bitsPerCharacter);
+    m_lastSecond.txLoadPercent = loadPercent(m_txBytes, m_address.baudRate, bitsPerCharacter);
+    m_lastSecond.rxLoadPercent = loadPercent(m_rxBytes, m_address.baudRate, bitsPerCharacter);
     m_txBytes = 0;
     m_rxBytes = 0;
     m_framesCounter = 0;

@@ -6,12 +6,16 @@
 #include <QTimer>
 
 #include <atomic>
+#include <functional>
 #include <memory>
 
 #include "link/bootloader_task.h"
 #include "link/link_health.h"
+#include "link/source_failure.h"
 
+class ByteSource;
 class KbootProtocol;
+class SerialSource;
 
 /// What the link carried during the last whole second. Loads are in percent of the line's capacity.
 struct LinkStatistics
@@ -23,13 +27,15 @@ struct LinkStatistics
     quint32 rxLoadPercent = 0;
 };
 
-/// The program's serial link. While a port is open, this object, its deframer and its one-second timer live in their
-/// own worker thread; while closed, they live in the application's main thread. Always 8N1 without flow control.
+/// The program's link to one device. While a source is open, this object, its deframer and its one-second timer live in
+/// their own worker thread; while closed, they live in the application's main thread. A serial port is this object's
+/// own base, always 8N1 without flow control; for any other kind of source a ByteSource is created in the worker
+/// thread, and everything here works the same on it.
 ///
-/// openUART() and closeUART() are called from the main thread. The sending slots are for queued calls (or signals). A
-/// failure to open is reported by QSerialPort::errorOccurred() and errorOpenPort(). A port whose device vanishes
-/// reports it by errorOccurred() and closes itself; the thread keeps running until closeUART(). Signals are emitted in
-/// the worker thread; receivers in the main thread get them queued.
+/// openUART(), openSource() and closeUART() are called from the main thread. The sending slots are for queued calls (or
+/// signals). A failure to open is reported by sourceFailed() and errorOpenPort(), of a serial port also by
+/// QSerialPort::errorOccurred(). A source that is lost reports it by sourceFailed() and is closed; the thread keeps
+/// running until closeUART(). Signals are emitted in the worker thread; receivers in the main thread get them queued.
 ///
 /// It hosts the bootloader client. A connect or download runs in the worker thread and waits in nested event loops, in
 /// which other queued work may run too; keep the line free of other commands meanwhile. Closing the port during such a
@@ -43,11 +49,18 @@ public:
     explicit KvUartPort(QObject *parent = nullptr);
     ~KvUartPort() override;
 
-    /// Starts the worker thread, which opens the port `portName` (a name or an absolute path) at `baud` baud. An open
-    /// port is closed first. Returns before the port is open.
-    void openUART(const QString &portName, int baud);
+    /// Creates the source of a file, in the worker thread. Null when it cannot.
+    using FileSourceFactory = std::function<std::unique_ptr<ByteSource>(const SourceAddress &)>;
+    /// What opens files: the folder that plays them stands above this one. While closed.
+    void setFileSources(FileSourceFactory factory) { m_fileSources = std::move(factory); }
 
-    /// Sends what was queued before, closes the port in its thread, and then waits at most 5 s for the thread to end.
+    /// Starts the worker thread, which opens the port `portName` (a name or an absolute path) at `baud` baud. An open
+    /// source is closed first. Returns before the port is open.
+    void openUART(const QString &portName, int baud);
+    /// The same for any source.
+    void openSource(const SourceAddress &address);
+
+    /// Sends what was queued before, closes the source in its thread, and then waits at most 5 s for the thread to end.
     /// When it returns, everything that the worker emitted has been posted to the main thread. Does nothing when
     /// nothing is open.
     void closeUART();
@@ -58,6 +71,9 @@ public:
     /// What the deframer has decoded and lost since the port was last opened, as of the last whole second, or as of the
     /// end once the port is closed. Any thread.
     LinkHealth health() const;
+
+    /// How much later than on a cable an answer may arrive, in milliseconds; 0 until the source is open. Any thread.
+    int replyAllowanceMs() const { return m_replyAllowanceMs; }
 
     /// The bootloader client, for its signals; and for its facts and outcome while isBootloaderBusy() is false.
     const KbootProtocol *kboot() const { return m_kboot.get(); }
@@ -102,13 +118,20 @@ public slots:
     void cancelBootloader();
 
 signals:
-    /// The port has been opened.
+    /// The source has been opened.
     void opened();
+    /// The source could not be opened, or was lost. It is closed.
+    void sourceFailed(const SourceFailure &failure);
     /// Payload of one good data packet, without its framing header.
     void kbootRecv(QByteArray payload);
     /// Every chunk as it was read, after it has passed through the deframer.
     void serialRecv(QByteArray data);
-    /// The port could not be opened; errorOccurred() has reported why.
+    /// The same chunks with the time at which they were read, for who records them: see ByteSource::received(). Emitted
+    /// before the chunk passes through the deframer, so that it comes before what is decoded from it.
+    void chunkReceived(const QByteArray &chunk, qint64 steadyNs);
+    /// Bytes that the source has taken to send, and when.
+    void chunkSent(const QByteArray &chunk, qint64 steadyNs);
+    /// The source could not be opened; sourceFailed() has reported why.
     void errorOpenPort();
     /// How startDownloadBootloader() ended.
     void bootloaderDownloadFinished(bool success);
@@ -133,6 +156,12 @@ private:
     bool waitForWorker(QDeadlineTimer deadline);
     void publishHealth();
     void moveAllTo(QThread *target);
+    std::unique_ptr<ByteSource> makeSource();
+    SerialSource *serialSource() const;
+    bool isSourceOpen() const;
+    void onSourceOpened();
+    void onSourceFailed(const SourceFailure &failure);
+    void takeChunk(const QByteArray &chunk, qint64 steadyNs);
     void writeCounted(const QByteArray &data);
     bool connectBusy();
     bool doTask(const BootloaderTask &task, BootloaderResult &result);
@@ -142,9 +171,11 @@ private:
     std::unique_ptr<KbootProtocol> m_kboot;
     std::unique_ptr<QTimer> m_secondTimer;
     std::unique_ptr<QThread> m_workerThread; ///< of the connection; renewed for the next one
-    QString m_portName;
-    int m_baudRate = 0;
-    bool m_startPending = false;                ///< openUART() has requested a start that has not run yet
+    SourceAddress m_address;
+    FileSourceFactory m_fileSources;
+    std::unique_ptr<ByteSource> m_source; ///< of the connection; lives and dies in the worker thread
+    std::atomic<int> m_replyAllowanceMs = 0;
+    bool m_startPending = false;                ///< openSource() has requested a start that has not run yet
     std::atomic<bool> m_bootloaderMode = false; ///< connected to a bootloader, or trying to
     bool m_hasAskedForBootloader = false;
     bool m_moveHomeAfterwards = false; ///< the thread was stopped inside a wait of the bootloader client

@@ -50,7 +50,7 @@ DeviceSession::DeviceSession(QObject *owner)
 
     connect(m_port.get(), &KvUartPort::opened, this, &DeviceSession::onOpened);
     connect(m_port.get(), &KvUartPort::kbootRecv, this, &DeviceSession::takePayload);
-    connect(m_port.get(), &QSerialPort::errorOccurred, this, &DeviceSession::onError);
+    connect(m_port.get(), &KvUartPort::sourceFailed, this, &DeviceSession::onSourceFailed);
     connect(m_port.get(), &KvUartPort::bootloaderHeard, this, &DeviceSession::onBootloaderHeard);
     connect(m_dispatcher, &StreamDispatcher::singleNodeFrame, m_recorder, &Recorder::imuPackage0x91);
     connect(m_dispatcher, &StreamDispatcher::gatewayBatch62, m_recorder, &Recorder::imuPackage0x62);
@@ -72,9 +72,11 @@ DeviceSession::~DeviceSession()
 
 Refusal DeviceSession::refusal(SessionAction action) const
 {
-    const Refusal verdict = session_table::verdict(m_state, action);
-    if (verdict != Refusal::None)
-        return verdict;
+    for (const Refusal verdict : {isOpen() ? session_table::verdict(m_source.kind, action) : Refusal::None,
+                                  session_table::verdict(m_state, action)}) {
+        if (verdict != Refusal::None)
+            return verdict;
+    }
     switch (action) {
     case SessionAction::Identify:
     case SessionAction::SendCommand:
@@ -90,32 +92,31 @@ Refusal DeviceSession::refusal(SessionAction action) const
     }
 }
 
-bool DeviceSession::open(const QString &portName, int baudRate)
+bool DeviceSession::open(const SourceAddress &address)
 {
     if (!allows(SessionAction::OpenPort))
         return false;
     endSearch(false);
-    openPort(portName, baudRate);
+    openSource(address);
     return true;
 }
 
-void DeviceSession::openPort(const QString &portName, int baudRate)
+void DeviceSession::openSource(const SourceAddress &address)
 {
     endConnection();
     ++m_connection;
-    m_portName = portName;
-    m_baudRate = baudRate;
+    m_source = address;
     m_infoRequested = false;
     m_infoDeferred = false;
     m_lastFrameNs = -1;
     m_lastReadNs = -1;
     m_sinceOpened.start();
-    m_port->openUART(portName, baudRate);
-    m_commands->setBaud(baudRate);
+    m_port->openSource(address);
+    m_commands->setBaud(address.baudRate);
     m_dispatcher->clear();
     m_dispatcher->setLinkConnected(true);
     m_recorder->setLinkOpen(true);
-    m_monitor->open(portName, baudRate);
+    m_monitor->open(portName(), address.baudRate);
     m_router->start();
     setState(SessionState::Opening);
 }
@@ -124,6 +125,9 @@ void DeviceSession::onOpened()
 {
     if (m_state != SessionState::Opening)
         return;
+    if (session_table::verdict(m_source.kind, SessionAction::Identify) != Refusal::None)
+        return setState(SessionState::Silent);
+    m_commands->setReplyAllowance(m_port->replyAllowanceMs());
     m_commands->setConnected(true);
     readInfo();
 }
@@ -176,19 +180,19 @@ void DeviceSession::leaveDeviceStreaming()
                               Q_ARG(QByteArray, settings_command_adapter::buildResumeOutputCommand().toUtf8()));
 }
 
-void DeviceSession::onError(QSerialPort::SerialPortError error)
+void DeviceSession::onSourceFailed(const SourceFailure &failure)
 {
-    if (error == QSerialPort::NoError || error == QSerialPort::NotOpenError)
-        return;
     if (m_state == SessionState::Closed || m_state == SessionState::Closing) // an echo of a failure already reported
         return;
-    if (m_search && m_state == SessionState::Opening && error == QSerialPort::UnsupportedOperationError)
-        return tryNextRate(); // an adapter that does not support this rate
+    if (m_search && m_state == SessionState::Opening
+        && (failure.portError == QSerialPort::UnsupportedOperationError
+            || failure.fault == SourceFault::SettingsRefused))
+        return tryNextRate(); // a port that does not support this rate
     endSearch(false);
     m_recorder->expectLoss();
     endConnection();
     AppLog::logfile(QtWarningMsg, QStringLiteral("failed to open serial port."));
-    emit portFailed(error, m_portName, m_baudRate);
+    emit sourceFailed(failure);
 }
 
 bool DeviceSession::identify()
@@ -333,9 +337,9 @@ bool DeviceSession::tryBaudRates()
     if (!allows(SessionAction::TryBaudRates))
         return false;
     m_retryTimer.stop();
-    m_search = BaudSearch{{}, m_baudRate};
+    m_search = BaudSearch{{}, m_source.baudRate};
     for (const int rate : kUsualRates) {
-        if (rate != m_baudRate)
+        if (rate != m_source.baudRate)
             m_search->rates.append(rate);
     }
     tryNextRate();
@@ -347,12 +351,19 @@ void DeviceSession::tryNextRate()
     if (!m_search)
         return;
     if (!m_search->rates.isEmpty()) {
-        openPort(m_portName, m_search->rates.takeFirst());
+        openAtRate(m_search->rates.takeFirst());
         return;
     }
     const int original = m_search->originalRate;
     endSearch(false);
-    openPort(m_portName, original);
+    openAtRate(original);
+}
+
+void DeviceSession::openAtRate(int baudRate)
+{
+    SourceAddress address = m_source;
+    address.baudRate = baudRate;
+    openSource(address);
 }
 
 void DeviceSession::endSearch(bool found)
@@ -494,7 +505,7 @@ void DeviceSession::checkSilence()
     if (m_state != SessionState::Live || isStreaming())
         return;
     setState(SessionState::Silent);
-    if (!m_device.valid)
+    if (!m_device.valid && allows(SessionAction::Identify))
         m_retryTimer.start(); // there is no stream left to disturb
 }
 

@@ -2,7 +2,6 @@
 
 #include <QElapsedTimer>
 #include <QObject>
-#include <QSerialPort>
 #include <QTimer>
 
 #include <memory>
@@ -10,6 +9,7 @@
 
 #include "device/product_resolver.h"
 #include "link/bootloader_state.h"
+#include "link/source_failure.h"
 #include "session/session_table.h"
 #include "session/stream_event.h"
 
@@ -60,8 +60,10 @@ public:
 
     // Each of these does nothing and returns false when the table refuses it.
 
-    /// Opens a port, after closing the one that is open. Identification follows automatically.
-    bool open(const QString &portName, int baudRate);
+    /// Opens a source, after closing the one that is open. Identification follows automatically.
+    bool open(const SourceAddress &address);
+    /// The same for a serial port.
+    bool open(const QString &portName, int baudRate) { return open(SourceAddress::serial(portName, baudRate)); }
     bool close();
     /// Identifies the device, in a nested event loop. A stream that flows while the device does not answer is not
     /// interrupted a second time.
@@ -82,9 +84,12 @@ public:
     void setLineWriting(bool writes);
     void returnLine(LineReturn how);
 
-    QString portName() const { return m_portName; }
-    int baudRate() const { return m_baudRate; }
-    /// Milliseconds since the port was opened; 0 when it is closed.
+    /// The source that is open, or was open last.
+    const SourceAddress &source() const { return m_source; }
+    /// What people call it.
+    QString portName() const { return m_source.shortText(); }
+    int baudRate() const { return m_source.baudRate; }
+    /// Milliseconds since the source was opened; 0 when it is closed.
     qint64 openMs() const;
     /// Samples are arriving.
     bool isStreaming() const;
@@ -134,8 +139,8 @@ signals:
     /// Another device, or none, is identified now.
     void deviceChanged();
     void presetChanged(OrientationPreset preset);
-    /// The connection ended with a port error, or could not be made.
-    void portFailed(QSerialPort::SerialPortError error, const QString &portName, int baudRate);
+    /// The connection was lost, or could not be made.
+    void sourceFailed(const SourceFailure &failure);
     /// The stream of the followed node starts again; emitted before its first sample.
     void streamRestarted(const StreamRestart &restart);
     /// A sample of the followed node only.
@@ -148,10 +153,10 @@ signals:
     void baudSearchEnded(bool found);
 
 private:
-    void openPort(const QString &portName, int baudRate);
+    void openSource(const SourceAddress &address);
     void endConnection();
     void onOpened();
-    void onError(QSerialPort::SerialPortError error);
+    void onSourceFailed(const SourceFailure &failure);
     void onCommandState();
     void onCommandDevice();
     void readInfo();
@@ -160,6 +165,7 @@ private:
     void clearDevice();
     void resolvePreset();
     void tryNextRate();
+    void openAtRate(int baudRate);
     void endSearch(bool found);
     void lookForBootloader();
     void onBootloaderHeard();
@@ -191,8 +197,7 @@ private:
 
     SessionState m_state = SessionState::Closed;
     quint64 m_connection = 0; ///< counts openings and closings
-    QString m_portName;
-    int m_baudRate = 0;
+    SourceAddress m_source;
     QElapsedTimer m_sinceOpened;
     qint64 m_lastFrameNs = -1; ///< since opening; -1: none in this connection
     qint64 m_lastReadNs = -1;  ///< since opening: when the last reading of the product ended

@@ -33,6 +33,28 @@ constexpr std::array<Row, kSessionActionCount> kTable{{
     /* RestartDevice     */ {kNoBoot,  kNoBoot,  kNoBoot,  kNoBoot, kNoBoot, kYes,     kUpdate, kEnds},
     /* Quit              */ {kYes,     kYes,     kYes,     kYes,    kYes,    kYes,     kUpdate, kYes},
 }};
+
+constexpr Refusal kUdp = Refusal::OverUdp;
+constexpr Refusal kFile = Refusal::OfAFile;
+constexpr Refusal kRate = Refusal::RateIsSet;
+
+using SourceRow = std::array<Refusal, kSourceKindCount>;
+
+// The same for the kinds of sources.
+constexpr std::array<SourceRow, kSessionActionCount> kSourceTable{{
+    //                      Serial Tcp    Rfc2217 Udp   File   Demo
+    /* OpenPort          */ {kYes, kYes,  kYes,   kYes,  kYes,  kYes},
+    /* ClosePort         */ {kYes, kYes,  kYes,   kYes,  kYes,  kYes},
+    /* Identify          */ {kYes, kYes,  kYes,   kUdp,  kFile, kYes},
+    /* SendCommand       */ {kYes, kYes,  kYes,   kUdp,  kFile, kYes},
+    /* StartRecording    */ {kYes, kYes,  kYes,   kYes,  kYes,  kYes},
+    /* TryBaudRates      */ {kYes, kRate, kYes,   kRate, kFile, kRate},
+    /* ConnectBootloader */ {kYes, kYes,  kYes,   kUdp,  kFile, kYes},
+    /* Download          */ {kYes, kYes,  kYes,   kUdp,  kFile, kYes},
+    /* StopDownload      */ {kYes, kYes,  kYes,   kUdp,  kFile, kYes},
+    /* RestartDevice     */ {kYes, kYes,  kYes,   kUdp,  kFile, kYes},
+    /* Quit              */ {kYes, kYes,  kYes,   kYes,  kYes,  kYes},
+}};
 // clang-format on
 
 } // namespace
@@ -40,4 +62,9 @@ constexpr std::array<Row, kSessionActionCount> kTable{{
 Refusal session_table::verdict(SessionState state, SessionAction action)
 {
     return kTable[size_t(action)][size_t(state)];
+}
+
+Refusal session_table::verdict(SourceKind source, SessionAction action)
+{
+    return kSourceTable[size_t(action)][size_t(source)];
 }

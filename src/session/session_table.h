@@ -2,6 +2,8 @@
 
 #include <QtGlobal>
 
+#include "link/source_address.h"
+
 /// State of a session, which owns one connection.
 enum class SessionState : quint8 {
     Closed,
@@ -43,11 +45,17 @@ enum class Refusal : quint8 {
     NoDownload,   ///< no download is running
     Updating,     ///< a download is running and must end first
     Closing,
+    OverUdp,   ///< datagrams get lost and overtake each other: no commands
+    OfAFile,   ///< nothing can be sent to a recording
+    RateIsSet, ///< the source's baud rate cannot be set from here
 };
 
 namespace session_table {
 
-/// The verdict of a state on an action. This is the only place that decides it. Pure.
+/// The verdict of a state on an action. This and the next are the only places that decide it. Pure.
 Refusal verdict(SessionState state, SessionAction action);
+
+/// The verdict of a kind of source on an action, whatever the state. Pure.
+Refusal verdict(SourceKind source, SessionAction action);
 
 } // namespace session_table

@@ -6,13 +6,14 @@
 
 #include "app/sentences.h"
 #include "app/window_host.h"
+#include "link/source_failure.h"
 #include "session/device_session.h"
 #include "ui/form_about.h"
 #include "ui/form_com_select.h"
 #include "ui/form_link_health.h"
 #include "ui/form_record.h"
 #include "ui/form_settings.h"
-#include "ui/serial_error_text.h"
+#include "ui/source_error_text.h"
 #include "updater/form_updater.h"
 #include "updater/update_note.h"
 #include "updater/verdict_text.h"
@@ -90,15 +91,17 @@ void Dialogs::openAbout()
     m_about->open();
 }
 
-void Dialogs::showPortError(QSerialPort::SerialPortError error, const QString &portName, int baudRate)
+void Dialogs::showSourceError(const SourceFailure &failure)
 {
     dropPortError();
-    m_error = new QMessageBox(QMessageBox::Information, m_window->windowTitle(), tr("Open Serial Port Error."),
+    m_error = new QMessageBox(QMessageBox::Information, m_window->windowTitle(),
+                              failure.address.kind == SourceKind::Serial ? tr("Open Serial Port Error.")
+                                                                         : tr("Connection error."),
                               QMessageBox::Ok, m_window);
     m_error->setAttribute(Qt::WA_DeleteOnClose);
     m_error->button(QMessageBox::Ok)->setIcon({}); // the stock picture is hard to see on the accent colour
     m_error->setTextFormat(Qt::PlainText);
-    m_error->setInformativeText(serial_error_text::describe(error, serial_error_text::facts(portName, baudRate)));
+    m_error->setInformativeText(source_error_text::describe(failure));
     m_error->setTextInteractionFlags(Qt::TextSelectableByMouse); // so that a command in it can be copied
     m_error->open();
 }

@@ -2,7 +2,6 @@
 
 #include <QObject>
 #include <QPointer>
-#include <QSerialPort>
 
 #include "app/question_box.h"
 
@@ -15,6 +14,7 @@ class form_link_health;
 class form_record;
 class form_settings;
 class form_updater;
+struct SourceFailure;
 
 /// The dialogs of the main window. Each is created when first needed, and shown without an event loop of its own: a
 /// command that is waiting for its reply must not have to wait for the user as well.
@@ -36,8 +36,8 @@ public:
     void remindOfUpdate();
     void openLinkHealth();
     void openAbout();
-    /// Says that the port could not be opened, or was lost, and what to do. There is one such message at a time.
-    void showPortError(QSerialPort::SerialPortError error, const QString &portName, int baudRate);
+    /// Says that the source could not be opened, or was lost, and what to do. There is one such message at a time.
+    void showSourceError(const SourceFailure &failure);
     void dropPortError();
     /// Says why the program cannot end while a download runs.
     void refuseQuit();

@@ -146,7 +146,7 @@ void form_base::setUpConnections()
     connect(m_recordingActions, &RecordingActions::refused, m_dialogs, &Dialogs::openRecording);
     connect(m_recordingBadge, &QToolButton::clicked, m_ui->action_export_data, &QAction::trigger);
     connect(m_session.get(), &DeviceSession::stateChanged, this, &form_base::onSessionState);
-    connect(m_session.get(), &DeviceSession::portFailed, this, &form_base::onSerialError);
+    connect(m_session.get(), &DeviceSession::sourceFailed, m_dialogs, &Dialogs::showSourceError);
     connect(m_session.get(), &DeviceSession::deviceChanged, this, &form_base::showSummary);
     connect(m_session.get(), &DeviceSession::presetChanged, this, &form_base::refresh_selected_node_views);
     connect(m_session.get(), &DeviceSession::sampleReceived, m_panel, &SensorDataPanel::appendSample);
@@ -215,11 +215,6 @@ void form_base::enable_all_page(bool enabled)
     m_nodeCard->refresh();
     refresh_selected_node_views();
     m_panel->clear();
-}
-
-void form_base::onSerialError(QSerialPort::SerialPortError error, const QString &portName, int baudRate)
-{
-    m_dialogs->showPortError(error, portName, baudRate);
 }
 
 void form_base::run_uart_UItmr()

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QMainWindow>
-#include <QSerialPort>
 #include <QTimer>
 
 #include <memory>
@@ -90,7 +89,6 @@ private:
 
     void enable_all_page(bool enabled);
     void onSessionState();
-    void onSerialError(QSerialPort::SerialPortError error, const QString &portName, int baudRate);
     /// Refreshes everything that the window shows; called every 20 ms while a connection is open.
     void run_uart_UItmr();
     void refresh_selected_node_views();

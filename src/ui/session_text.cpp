@@ -36,6 +36,16 @@ QString session_text::refusal(Refusal refusal)
         return Text::tr("A firmware download is running and must finish first.");
     case Refusal::Closing:
         return Text::tr("The port is being closed.");
+    case Refusal::OverUdp:
+        return Text::tr(
+            "Over UDP the device can only be listened to: commands may get lost or arrive in another order. "
+            "Connect by tcp: or rfc2217: to send them.");
+    case Refusal::OfAFile:
+        return Text::tr("This is a recording: there is no device to send anything to.");
+    case Refusal::RateIsSet:
+        return Text::tr(
+            "The baud rate of this source is not set from here. Connect by rfc2217: to set that of a serial "
+            "server.");
     }
     return {};
 }

@@ -214,7 +214,7 @@ private slots:
     {
         QFETCH(int, state);
         Bench bench;
-        QSignalSpy failed(&bench.session, &DeviceSession::portFailed);
+        QSignalSpy failed(&bench.session, &DeviceSession::sourceFailed);
         QVERIFY(bench.in(State(state), [&] { bench.device.unplug(); }));
         QTRY_COMPARE_WITH_TIMEOUT(int(bench.session.state()), int(State::Closed), 8000);
         QCOMPARE(failed.count(), 1);
