@@ -20,6 +20,7 @@
 #include "record/recorder.h"
 #include "session/link_monitor.h"
 #include "session/recording_describer.h"
+#include "session/session_capture.h"
 #include "session/stream_router.h"
 
 namespace {
@@ -46,6 +47,7 @@ DeviceSession::DeviceSession(QObject *owner)
     m_retryTimer.setInterval(kRetryMs);
     m_silenceTimer.setInterval(kSilenceCheckMs);
     resolvePreset();
+    m_capture = new SessionCapture(this);
     new RecordingDescriber(this);
 
     connect(m_port.get(), &KvUartPort::opened, this, &DeviceSession::onOpened);
@@ -59,6 +61,7 @@ DeviceSession::DeviceSession(QObject *owner)
     connect(m_commands, &CommandSession::deviceChanged, this, &DeviceSession::onCommandDevice);
     connect(m_router, &StreamRouter::streamRestarted, this, &DeviceSession::streamRestarted);
     connect(m_router, &StreamRouter::sampleReceived, this, &DeviceSession::sampleReceived);
+    connect(m_router, &StreamRouter::samplesReceived, this, &DeviceSession::samplesReceived);
     connect(m_router, &StreamRouter::batchReceived, this, &DeviceSession::batchReceived);
     connect(&m_retryTimer, &QTimer::timeout, this, &DeviceSession::identify);
     connect(&m_silenceTimer, &QTimer::timeout, this, &DeviceSession::checkSilence);

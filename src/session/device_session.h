@@ -19,6 +19,7 @@ class ImuParser;
 class KvUartPort;
 class LinkMonitor;
 class Recorder;
+class SessionCapture;
 class StreamDispatcher;
 class StreamRouter;
 
@@ -131,6 +132,7 @@ public:
     StreamDispatcher &dispatcher() const { return *m_dispatcher; }
     CommandSession &commands() const { return *m_commands; }
     Recorder &recorder() const { return *m_recorder; }
+    SessionCapture &capture() const { return *m_capture; }
     LinkMonitor &linkMonitor() const { return *m_monitor; }
 
 signals:
@@ -145,6 +147,8 @@ signals:
     void streamRestarted(const StreamRestart &restart);
     /// A sample of the followed node only.
     void sampleReceived(const StreamSample &sample);
+    /// The samples of each frame, whatever node is followed.
+    void samplesReceived(const QList<StreamSample> &samples);
     /// All samples of a gateway's batch.
     void batchReceived(const QList<StreamSample> &samples);
     /// A silent device turned out to run its bootloader: it answered a ping, and nothing else was sent to it.
@@ -190,6 +194,7 @@ private:
     ImuParser *m_parser;
     CommandSession *m_commands;
     Recorder *m_recorder;
+    SessionCapture *m_capture;
     LinkMonitor *m_monitor;
     StreamRouter *m_router;
     QTimer m_retryTimer;

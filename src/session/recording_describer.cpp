@@ -6,6 +6,7 @@
 #include "link/stream_dispatcher.h"
 #include "record/recorder.h"
 #include "session/device_session.h"
+#include "session/session_capture.h"
 
 namespace {
 
@@ -44,4 +45,5 @@ void RecordingDescriber::update()
         return;
     m_told = context;
     m_session->recorder().setContext(context);
+    m_session->capture().setContext(context);
 }

@@ -6,7 +6,8 @@
 
 class DeviceSession;
 
-/// Keeps the recorder informed of what is known about the connection: device, rate, mounting, port. Main thread only.
+/// Keeps recorder and capture informed of what is known about the connection: device, rate, mounting, port. Main thread
+/// only.
 class RecordingDescriber : public QObject
 {
     Q_OBJECT

@@ -41,9 +41,8 @@ void StreamRouter::takeFrame(const DecodedFrame &frame, double hostMs, Orientati
     const SampleFields fields = sampleFields(frame);
     const bool sharesClock = frame.family == frame_family::GatewayBatch63;
     m_isGateway |= frame.is_batch;
-    QList<StreamSample> batch;
-    if (frame.is_batch)
-        batch.reserve(frame.nodes.size());
+    QList<StreamSample> samples;
+    samples.reserve(frame.nodes.size());
     for (const NodeSnapshot &snapshot : frame.nodes) {
         Node &node = m_nodes[snapshot.sample.id];
         StreamSample sample;
@@ -62,11 +61,11 @@ void StreamRouter::takeFrame(const DecodedFrame &frame, double hostMs, Orientati
             m_followedMs = hostMs;
             publish(sample, place.stepMs);
         }
-        if (frame.is_batch)
-            batch.append(sample);
+        samples.append(sample);
     }
-    if (!batch.isEmpty())
-        emit batchReceived(batch);
+    emit samplesReceived(samples);
+    if (frame.is_batch)
+        emit batchReceived(samples);
 }
 
 bool StreamRouter::isFollowed(quint8 id, double hostMs)

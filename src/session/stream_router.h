@@ -47,7 +47,9 @@ signals:
     void streamRestarted(const StreamRestart &restart);
     /// A sample of the followed node.
     void sampleReceived(const StreamSample &sample);
-    /// The samples of one gateway batch, in the batch's order; never empty.
+    /// The samples of any frame, in its order; never empty.
+    void samplesReceived(const QList<StreamSample> &samples);
+    /// The same when the frame is a gateway's batch.
     void batchReceived(const QList<StreamSample> &samples);
 
 private:

@@ -21,6 +21,8 @@
 #include "ui/app_version.h"
 #include "ui/appearance_menu.h"
 #include "ui/attitude_card.h"
+#include "ui/capture_actions.h"
+#include "ui/capture_badge.h"
 #include "ui/connection_card.h"
 #include "ui/device_card.h"
 #include "ui/dialogs.h"
@@ -119,6 +121,9 @@ void form_base::setUpWidgets()
     m_recordingActions = new RecordingActions(session, m_ui->action_record_now, m_ui->action_set_marker, this);
     m_recordingBadge = new RecordingBadge(&session->recorder(), this);
     m_ui->statusbar->insertPermanentWidget(1, m_recordingBadge);
+    m_captureActions = new CaptureActions(session, m_ui->action_capture, this);
+    m_captureBadge = new CaptureBadge(&session->capture(), this);
+    m_ui->statusbar->insertPermanentWidget(2, m_captureBadge);
 
     m_languageMenu = new LanguageMenu(this);
     m_ui->menubar->setCornerWidget(m_languageMenu->button());
@@ -143,6 +148,8 @@ void form_base::setUpConnections()
     connect(m_actions->gatewayDashboard(), &QAction::triggered, this,
             &form_base::on_action_wireless_gateway_dashboard_triggered);
     connect(m_recordingActions, &RecordingActions::said, m_statusLine, &StatusLine::say);
+    connect(m_captureActions, &CaptureActions::said, m_statusLine, &StatusLine::say);
+    connect(m_captureBadge, &QToolButton::clicked, m_ui->action_capture, &QAction::trigger);
     connect(m_recordingActions, &RecordingActions::refused, m_dialogs, &Dialogs::openRecording);
     connect(m_recordingBadge, &QToolButton::clicked, m_ui->action_export_data, &QAction::trigger);
     connect(m_session.get(), &DeviceSession::stateChanged, this, &form_base::onSessionState);
@@ -224,6 +231,7 @@ void form_base::run_uart_UItmr()
     m_statusLine->refresh();
     m_connectionCard->refresh();
     m_recordingBadge->refresh();
+    m_captureBadge->refresh();
     m_nodeCard->refresh();
     m_isNumbersTurn = !m_isNumbersTurn; // 25 times a second is more than anybody reads
     if (m_isNumbersTurn)
@@ -334,6 +342,7 @@ void form_base::retranslate()
     m_statusLine->retranslate();
     m_actions->retranslate();
     m_recordingActions->retranslate();
+    m_captureActions->retranslate();
 }
 
 void form_base::changeEvent(QEvent *event)

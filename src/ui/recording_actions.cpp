@@ -6,6 +6,7 @@
 
 #include "record/recorder.h"
 #include "session/device_session.h"
+#include "session/session_capture.h"
 #include "ui/session_text.h"
 
 namespace {
@@ -57,8 +58,12 @@ void RecordingActions::setMarker()
     const double timeS =
         newest ? newest->snapshot.sample.time_ms / kMsPerSecond : std::numeric_limits<double>::quiet_NaN();
     Recorder &recorder = m_session->recorder();
-    if (!recorder.addMarker(tr("Marker %1").arg(recorder.markerCount() + 1), timeS))
-        emit said(tr("Markers go into recordings: start one first"));
+    if (recorder.addMarker(tr("Marker %1").arg(recorder.markerCount() + 1), timeS))
+        return;
+    if (m_session->capture().addMarker(tr("Marker"), timeS))
+        emit said(qIsFinite(timeS) ? tr("Marker at %1 s").arg(timeS, 0, 'f', 3) : tr("Marker"));
+    else
+        emit said(tr("Markers go into recordings and captures: start one first"));
 }
 
 void RecordingActions::refresh()

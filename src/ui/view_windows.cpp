@@ -12,6 +12,7 @@
 #include "record/recorder.h"
 #include "session/device_session.h"
 #include "session/link_monitor.h"
+#include "session/session_capture.h"
 #include "wave/form_sensor_dashboard.h"
 #include "wave/form_wireless_dashboard.h"
 #include "wave/sample_feed.h"
@@ -39,6 +40,7 @@ ViewWindows::ViewWindows(DeviceSession *session, QObject *parent) : QObject(pare
     connect(session, &DeviceSession::deviceChanged, this, &ViewWindows::showOrigin);
     connect(&session->recorder(), &Recorder::markerAdded, this,
             [this](unsigned int, const QString &text, double timeS) { addMarker(text, timeS); });
+    connect(&session->capture(), &SessionCapture::markerAdded, this, &ViewWindows::addMarker);
     connect(&session->dispatcher(), &StreamDispatcher::streamSnapshotChanged, this, &ViewWindows::onSnapshot);
 }
 
@@ -74,8 +76,10 @@ void ViewWindows::openGatewayDashboard()
 
 void ViewWindows::openSpectrum()
 {
-    if (!m_spectrum)
+    if (!m_spectrum) {
         m_spectrum = std::make_unique<form_fftchart>();
+        connect(&m_spectrum->bridge(), &FftChartBridge::alarmStateChanged, this, &ViewWindows::captureAlarm);
+    }
     WindowHost::bringUp(m_spectrum.get());
 }
 
@@ -126,11 +130,27 @@ void ViewWindows::followMarkers(MarkerList *markers)
         if (m_isRelaying)
             return;
         m_isRelaying = true;
-        m_session->recorder().addMarker(marker.text, marker.timeSec);
+        if (!m_session->recorder().addMarker(marker.text, marker.timeSec))
+            m_session->capture().addMarker(marker.text, marker.timeSec);
         m_isRelaying = false;
     };
     connect(markers, &MarkerList::markerAdded, this, record);
     connect(markers, &MarkerList::markerChanged, this, record);
+}
+
+/// The spectrum's alarm goes into the running capture, when it is raised and when it ends.
+void ViewWindows::captureAlarm()
+{
+    const FftChartBridge &bridge = m_spectrum->bridge();
+    const bool isActive = bridge.alarmState() == FftAlarmState::Active;
+    if (isActive == m_isAlarmActive)
+        return;
+    m_isAlarmActive = isActive;
+    m_session->capture().addEvent(capture_event::kAlarm, isActive ? QStringLiteral("raised") : QStringLiteral("ended"),
+                                  {{QLatin1String("axis"), bridge.dominantPeakAxis()},
+                                   {QLatin1String("frequency_hz"), bridge.dominantPeakFrequency()},
+                                   {QLatin1String("amplitude"), bridge.dominantPeakAmplitude()},
+                                   {QLatin1String("unit"), bridge.unit()}});
 }
 
 /// Adds a marker that was set elsewhere to the charts.

@@ -45,6 +45,7 @@ private:
     void onState();
     void showMounting();
     void showOrigin();
+    void captureAlarm();
     void followMarkers(MarkerList *markers);
     void addMarker(const QString &text, double timeS);
     QList<GatewaySample> gatewaySamples(const QList<StreamSample> &samples) const;
@@ -54,6 +55,7 @@ private:
     std::unique_ptr<form_fftchart> m_spectrum;
     std::unique_ptr<form_sensor_dashboard> m_sensorDashboard;
     std::unique_ptr<form_wireless_dashboard> m_wirelessDashboard;
-    bool m_isRelaying = false;    ///< a marker is being passed on and must not come back
+    bool m_isRelaying = false;
+    bool m_isAlarmActive = false; ///< a marker is being passed on and must not come back
     unsigned int m_frameRate = 0; ///< last known one, 0: none yet
 };
