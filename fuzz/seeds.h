@@ -15,6 +15,7 @@ struct Seed
 
 QList<Seed> bootloader();
 QList<Seed> capture();
+QList<Seed> csv();
 QList<Seed> hex();
 QList<Seed> models();
 QList<Seed> reply();

@@ -7,6 +7,7 @@
 //
 // The line is decoded in one read, in the given reads and byte by byte: the outcome must be the same.
 
+#include "capture/frame_scan.h"
 #include "fuzz/support/fuzz_input.h"
 #include "fuzz/support/require.h"
 #include "link/framing_packet.h"
@@ -61,6 +62,22 @@ Outcome decode(const QByteArray &line, const QByteArray &readSizes)
     decoder.clear();
     require(decoder.frameBuffer().isEmpty() && !decoder.responseReceived() && decoder.health() == LinkHealth{},
             "clear() forgets everything");
+    return outcome;
+}
+
+/// What scans files by tables gives the same.
+Outcome scan(const QByteArray &line, const QByteArray &readSizes, const Outcome &live)
+{
+    Outcome outcome = live;
+    outcome.payloads.clear();
+    FrameScan scan([&outcome](QByteArrayView payload, qint64) { outcome.payloads.append(payload.toByteArray()); });
+    qsizetype reads = 0;
+    for (qsizetype offset = 0; offset < line.size(); ++reads) {
+        const qsizetype size = readSizes.isEmpty() ? line.size() : 1 + quint8(readSizes.at(reads % readSizes.size()));
+        scan.feed(QByteArrayView(line).sliced(offset, std::min(size, line.size() - offset)));
+        offset += size;
+    }
+    outcome.health = scan.health();
     return outcome;
 }
 
@@ -136,6 +153,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 
     const Outcome whole = decode(line, {});
     require(decode(line, readSizes) == whole, "the outcome does not depend on the reads");
+    require(scan(line, {}, whole) == whole, "a scan finds the same");
+    require(scan(line, readSizes, whole) == whole, "a scan's outcome does not depend on the blocks");
     require(decode(line, QByteArray(1, '\1')) == whole, "the outcome does not depend on reads of one byte");
 
     ImuParser parser;
