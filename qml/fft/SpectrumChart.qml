@@ -30,12 +30,9 @@ FocusScope {
         bridge: chart.bridge
     }
 
-    Rectangle {
+    CardFrame {
         anchors.fill: parent
-        radius: 8
-        color: Theme.surface
-        border.width: 1
-        border.color: chart.activeFocus ? Theme.accent : Theme.line
+        lineColor: chart.activeFocus ? Theme.accent : Theme.line
     }
 
     Item {

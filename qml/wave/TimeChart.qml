@@ -65,18 +65,9 @@ FocusScope {
                 chart.forceActiveFocus();
         }
     }
-    Rectangle {
+    CardFrame {
         anchors.fill: parent
-        radius: 8
-        color: Theme.surface
-        border.width: 1
-        border.color: chart.activeFocus ? Theme.accent : Theme.line
-    }
-    // A rounded surface is blended, pixel by pixel; items behind this plain one are not drawn at all.
-    Rectangle {
-        anchors.fill: parent
-        anchors.margins: 8
-        color: Theme.surface
+        lineColor: chart.activeFocus ? Theme.accent : Theme.line
     }
 
     Item {

@@ -20,6 +20,7 @@ constexpr double kPanPerKey = 0.1;
 constexpr double kPanPerNotch = 0.1;
 constexpr int kManySteps = 20; ///< of a cursor, with Ctrl
 constexpr int kEndsMs = 100;
+constexpr int kLastEndsMs = 250;      ///< after the last change, which may have been left out
 constexpr double kSmallestBox = 0.01; ///< of the plot
 
 } // namespace
@@ -29,7 +30,7 @@ PlotViewState::PlotViewState(MainAxis mainAxis, chart_range::Range x, chart_rang
 {
     connect(this, &PlotViewState::seriesChanged, this, &PlotViewState::colorsChanged);
     m_endsTimer.setSingleShot(true);
-    m_endsTimer.setInterval(kEndsMs);
+    m_endsTimer.setInterval(kLastEndsMs);
     connect(&m_endsTimer, &QTimer::timeout, this, &PlotViewState::endsChanged);
     connect(&Appearance::instance(), &Appearance::changed, this, [this] {
         emit colorsChanged();
@@ -139,8 +140,14 @@ void PlotViewState::setEnds(const QList<double> &ends)
     if (std::equal(ends.begin(), ends.end(), m_ends.begin(), m_ends.end(), isSame))
         return;
     m_ends = ends;
-    if (!m_endsTimer.isActive())
+    // In the same frame as the lines where possible: a frame of its own costs as much as all the lines.
+    if (!m_sinceEnds.isValid() || m_sinceEnds.elapsed() >= kEndsMs) {
+        m_endsTimer.stop();
+        m_sinceEnds.start();
+        emit endsChanged();
+    } else {
         m_endsTimer.start();
+    }
 }
 
 QList<double> PlotViewState::labelPlaces(double plotHeight, double height) const

@@ -3,6 +3,7 @@
 #include <array>
 #include <limits>
 
+#include <QElapsedTimer>
 #include <QList>
 #include <QObject>
 #include <QPointer>
@@ -217,6 +218,7 @@ private:
     QPointer<MarkerList> m_markers;
     QList<double> m_ends;
     QTimer m_endsTimer;
+    QElapsedTimer m_sinceEnds;
     int m_activeCursor = 0; ///< the one that keys move
 };
 

@@ -10,6 +10,8 @@
 
 namespace {
 
+constexpr size_t kManySeries = 4;
+
 /// The level at which a curve reaches the right edge; NaN when it ends before it.
 double endOf(const QList<QPointF> &points, double xMax)
 {
@@ -50,6 +52,8 @@ bool SeriesItem::collect(Content &content, int maxPoints)
     QList<double> ends(qsizetype(count), std::numeric_limits<double>::quiet_NaN());
     const QList<bool> visible = m_viewState->visibleSeries();
     const double fitFrom = m_viewState->fitFromX();
+    // Where many curves cross, nobody sees two points per pixel.
+    const int pointsEach = count > kManySeries ? maxPoints / 2 : maxPoints;
     double low = std::numeric_limits<double>::infinity();
     double high = -low;
     for (size_t layer = 0; layer < count; ++layer) {
@@ -60,7 +64,7 @@ bool SeriesItem::collect(Content &content, int maxPoints)
         points.clear();
         if (!visible.value(series))
             continue;
-        source->seriesPoints(series, m_viewState->xViewMin(), m_viewState->xViewMax(), maxPoints, points);
+        source->seriesPoints(series, m_viewState->xViewMin(), m_viewState->xViewMax(), pointsEach, points);
         for (QPointF &point : points) {
             point.setY(m_viewState->level(point.y()));
             if (!std::isfinite(point.y()) || point.x() <= fitFrom)

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int kNotifyMs = 33;
+constexpr int kNotifyMs = 32;
 constexpr double kSilentSec = 2; ///< a node without newer values has none to show
 constexpr quint64 kGenerationShift = 48;
 constexpr int kColors = int(std::tuple_size_v<decltype(Palette::curves)>);
@@ -19,8 +19,10 @@ constexpr int kColors = int(std::tuple_size_v<decltype(Palette::curves)>);
 NodeOverlay::NodeOverlay(const QString &sensorType, QObject *parent) : QObject(parent), m_sensorType(sensorType)
 {
     m_notifyTimer.setSingleShot(true);
-    m_notifyTimer.setInterval(kNotifyMs);
-    connect(&m_notifyTimer, &QTimer::timeout, this, &NodeOverlay::dataChanged);
+    connect(&m_notifyTimer, &QTimer::timeout, this, [this] {
+        m_sinceNotified.start();
+        emit dataChanged();
+    });
 }
 
 QStringList NodeOverlay::channelNames() const
@@ -58,8 +60,10 @@ void NodeOverlay::setNodes(const QList<Node> &nodes)
     ++m_generation;
     for (const Node &node : m_nodes) {
         connect(node.chart, &WaveChartBridge::dataChanged, this, [this] {
-            if (!m_notifyTimer.isActive())
-                m_notifyTimer.start();
+            if (m_notifyTimer.isActive())
+                return;
+            const qint64 sinceMs = m_sinceNotified.isValid() ? m_sinceNotified.elapsed() : kNotifyMs;
+            m_notifyTimer.start(int(std::clamp<qint64>(kNotifyMs - sinceMs, 0, kNotifyMs)));
         });
         connect(node.chart, &WaveChartBridge::playingChanged, this, &NodeOverlay::playingChanged);
     }

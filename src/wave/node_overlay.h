@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QList>
 #include <QObject>
 #include <QPointer>
@@ -85,5 +86,6 @@ private:
     int m_channel = 0;
     QList<Node> m_nodes;
     quint64 m_generation = 0; ///< counts changes of nodes and channel
+    QElapsedTimer m_sinceNotified;
     QTimer m_notifyTimer;
 };
