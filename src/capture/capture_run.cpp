@@ -14,7 +14,7 @@ namespace {
 
 using Kind = CaptureFault::Kind;
 
-constexpr int kLookMs = 50;
+constexpr std::chrono::milliseconds kLook{50};
 constexpr qint64 kMsNs = 1'000'000;
 constexpr qint64 kClockStepNs = 500 * kMsNs;
 constexpr int kFormatVersion = 1;
@@ -160,7 +160,7 @@ void CaptureRun::write()
 {
     for (;;) {
         const bool isLast = m_queue.isStopped();
-        const CaptureQueue::Batch batch = m_queue.take(kLookMs);
+        const CaptureQueue::Batch batch = m_queue.take(kLook);
         const bool isWritten = takeBatch(batch) && watchClock();
         const bool isDue = m_chunkSinceNs != 0 && steadyNs() - m_chunkSinceNs >= kChunkMs * kMsNs;
         if (!isWritten || (isDue && !endChunk()) || isLast)

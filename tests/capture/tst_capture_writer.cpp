@@ -179,7 +179,7 @@ private slots:
         CaptureQueue queue;
         for (size_t i = 0; i < CaptureQueue::kMaxItems + 10; ++i)
             queue.add(1, CaptureSample());
-        QCOMPARE(queue.take(kTimeoutMs).items.size(), CaptureQueue::kMaxItems);
+        QCOMPARE(queue.take(std::chrono::milliseconds(kTimeoutMs)).items.size(), CaptureQueue::kMaxItems);
         QCOMPARE(queue.dropped(), 10U);
     }
 
