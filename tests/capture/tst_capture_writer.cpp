@@ -152,6 +152,15 @@ private slots:
             QCOMPARE(writer.messageCount(), 1U);
         }
         QCOMPARE(paths.size(), 3);
+        CaptureWriter other;
+        for (CaptureWriter *each : {&writer, &other})
+            each->start(folder(), QStringLiteral("b"), {});
+        for (CaptureWriter *each : {&writer, &other}) {
+            each->stop();
+            each->waitForEnd();
+            QVERIFY(!each->fault().any() && mcap_repair::isWhole(each->path()));
+        }
+        QVERIFY(writer.path() != other.path());
     }
 
     void dropsAreCountedShownAndWritten()
