@@ -4,12 +4,17 @@
 
 #include <QBuffer>
 #include <QTemporaryDir>
+#include <QThread>
 
 #include <cstring>
+#include <ctime>
 #include <random>
 
+#include "app/steady_time.h"
 #include "capture/capture_channels.h"
 #include "capture/capture_sample.h"
+#include "capture/capture_source.h"
+#include "capture/capture_writer.h"
 #include "capture/frame_crc.h"
 #include "capture/frame_scan.h"
 #include "capture/mcap_reader.h"
@@ -212,6 +217,79 @@ void seekInDay(benchmark::State &state)
     }
 }
 BENCHMARK(seekInDay)->Unit(benchmark::kMicrosecond);
+
+/// A file of 1 GiB: from a time to the bytes that were received then.
+void seekInGigabyte(benchmark::State &state)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("large.mcap"));
+    {
+        QFile file(path);
+        file.open(QIODevice::WriteOnly);
+        McapWriter writer(file);
+        addHead(writer);
+        Second data = second();
+        std::mt19937 random(7);
+        for (quint32 i = 0; writer.position() < qint64(1) << 30; ++i) {
+            for (const QByteArray &packet : data.packets) {
+                QByteArray noisy = packet; // else all seconds are the same, and too small
+                for (qsizetype at = 20; at + 4 < noisy.size(); at += 4)
+                    noisy[at] = char(random());
+                writer.addMessage(kRx, i, kStart + i * kSecondNs, noisy);
+            }
+            for (const auto &[id, json] : data.samples)
+                writer.addMessage(id, i, kStart + i * kSecondNs, json);
+            writer.endChunk();
+        }
+        writer.finish();
+    }
+    CaptureSource source;
+    source.open(path);
+    std::mt19937_64 random(7);
+    for ([[maybe_unused]] auto _ : state) {
+        source.seek(source.startNs() + qint64(random() % quint64(source.endNs() - source.startNs())));
+        if (source.read().isEmpty())
+            state.SkipWithError("nothing found");
+    }
+    state.counters["MB"] = double(QFileInfo(path).size()) / 1e6;
+    state.counters["chunks"] = double(source.reader().chunkCount());
+}
+BENCHMARK(seekInGigabyte)->Unit(benchmark::kMicrosecond);
+
+/// The whole capture at the pace of a device, on a disk: share of a core, with what feeds it.
+void captureAtPace(benchmark::State &state)
+{
+    constexpr int kSeconds = 5;
+    const int nodes = int(state.range(0));
+    const int rate = int(state.range(1));
+    std::mt19937 random(7);
+    const CaptureSample one = sample(1, random);
+    const QByteArray packet(8 + 76 * nodes, 'x');
+    const QTemporaryDir folder;
+    for ([[maybe_unused]] auto _ : state) {
+        CaptureWriter writer;
+        writer.start(folder.path(), QStringLiteral("data"), {});
+        const std::clock_t before = std::clock();
+        const qint64 start = steadyNs();
+        for (int i = 0; i < kSeconds * rate; ++i) {
+            const qint64 due = start + qint64(kSecondNs) * i / rate;
+            if (const qint64 wait = due - steadyNs(); wait > 0)
+                QThread::usleep(ulong(wait / 1000));
+            writer.addReceived(packet, due);
+            for (int id = 0; id < nodes; ++id) {
+                CaptureSample next = one;
+                next.node.id = quint8(id);
+                writer.addSample(next, due);
+            }
+        }
+        writer.stop();
+        writer.waitForEnd();
+        state.counters["core_percent"] = 100.0 * double(std::clock() - before) / CLOCKS_PER_SEC / kSeconds;
+        if (writer.fault().any() || writer.droppedCount() > 0)
+            state.SkipWithError("something is missing");
+    }
+}
+BENCHMARK(captureAtPace)->Args({1, 1000})->Args({16, 200})->Iterations(1)->Unit(benchmark::kSecond);
 
 /// What a single module sends in a file of 32 MiB, more than the caches hold.
 QByteArray serialBytes()

@@ -1,7 +1,5 @@
 #include "capture/capture_queue.h"
 
-#include <QDeadlineTimer>
-
 #include <utility>
 
 #include "capture/capture_channels.h"
@@ -30,7 +28,7 @@ void CaptureQueue::add(const CaptureContext &context)
 
 void CaptureQueue::push(Item &&item, qsizetype bytes, quint32 *sequence)
 {
-    const QMutexLocker locker(&m_lock);
+    const std::lock_guard locker(m_lock);
     if (m_isStopped)
         return;
     if (sequence != nullptr)
@@ -44,36 +42,33 @@ void CaptureQueue::push(Item &&item, qsizetype bytes, quint32 *sequence)
     m_bytes += bytes;
     // The writer looks a few times a second: to wake it for each item would cost more than writing does.
     if (m_batch.items.size() == kMaxItems / 2 || m_bytes > kMaxBytes / 2)
-        m_wake.wakeOne();
+        m_wake.notify_one();
 }
 
-CaptureQueue::Batch CaptureQueue::take(int waitMs)
+CaptureQueue::Batch CaptureQueue::take(std::chrono::milliseconds wait)
 {
-    const QDeadlineTimer deadline(waitMs);
-    QMutexLocker locker(&m_lock);
-    while (!m_isStopped && m_batch.items.size() < kMaxItems / 2 && m_bytes <= kMaxBytes / 2) {
-        if (!m_wake.wait(&m_lock, deadline))
-            break;
-    }
+    std::unique_lock locker(m_lock);
+    m_wake.wait_for(locker, wait,
+                    [this] { return m_isStopped || m_batch.items.size() >= kMaxItems / 2 || m_bytes > kMaxBytes / 2; });
     m_bytes = 0;
     return std::exchange(m_batch, {});
 }
 
 void CaptureQueue::stop()
 {
-    const QMutexLocker locker(&m_lock);
+    const std::lock_guard locker(m_lock);
     m_isStopped = true;
-    m_wake.wakeOne();
+    m_wake.notify_one();
 }
 
 bool CaptureQueue::isStopped() const
 {
-    const QMutexLocker locker(&m_lock);
+    const std::lock_guard locker(m_lock);
     return m_isStopped;
 }
 
 quint64 CaptureQueue::dropped() const
 {
-    const QMutexLocker locker(&m_lock);
+    const std::lock_guard locker(m_lock);
     return m_dropped;
 }

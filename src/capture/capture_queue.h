@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QMutex>
-#include <QWaitCondition>
-
 #include <array>
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
 #include <variant>
 #include <vector>
 
@@ -42,7 +42,7 @@ public:
     void add(const CaptureContext &context);
 
     /// Waits until the queue is half full, stop() is called, or the time is over, and takes everything.
-    Batch take(int waitMs);
+    Batch take(std::chrono::milliseconds wait);
     /// Nothing more is added.
     void stop();
     bool isStopped() const;
@@ -52,8 +52,9 @@ public:
 private:
     void push(Item &&item, qsizetype bytes, quint32 *sequence);
 
-    mutable QMutex m_lock; ///< guards everything
-    QWaitCondition m_wake;
+    // The toolkit has no instrumented condition: the thread sanitizer would take its mutex for locked twice.
+    mutable std::mutex m_lock; ///< guards everything
+    std::condition_variable m_wake;
     Batch m_batch;
     qsizetype m_bytes = 0;
     quint64 m_dropped = 0;

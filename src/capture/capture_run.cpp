@@ -14,20 +14,16 @@ namespace {
 
 using Kind = CaptureFault::Kind;
 
-constexpr int kLookMs = 50;
+constexpr std::chrono::milliseconds kLook{50};
 constexpr qint64 kMsNs = 1'000'000;
 constexpr qint64 kClockStepNs = 500 * kMsNs;
 constexpr int kFormatVersion = 1;
 constexpr quint32 kOwnSequence = 0; // the program's own events are not queued, so none of them can be missing
 
-QString freePath(const QString &folder, const QString &name)
+/// The path of the n-th capture of that name and second.
+QString pathOf(const QString &stem, int number)
 {
-    const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd_HHmmss"));
-    const QString stem = QDir(folder).filePath(name + u'_' + time);
-    QString path = stem + QLatin1String(".mcap");
-    for (int number = 2; QFileInfo::exists(path); ++number)
-        path = QStringLiteral("%1_%2.mcap").arg(stem).arg(number);
-    return path;
+    return number == 1 ? stem + QLatin1String(".mcap") : QStringLiteral("%1_%2.mcap").arg(stem).arg(number);
 }
 
 } // namespace
@@ -107,27 +103,41 @@ void CaptureRun::run(const QString &folder, const QString &name)
 
 bool CaptureRun::open(const QString &folder, const QString &name)
 {
-    const QString path = freePath(folder, name);
-    m_file.setFileName(path);
-    {
-        const QMutexLocker locker(&m_lock);
-        m_path = path;
-    }
+    const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd_HHmmss"));
+    const QString stem = QDir(folder).filePath(name + u'_' + time);
+    setPath(pathOf(stem, 1));
     if (!QDir().mkpath(folder))
         return fail(Kind::CannotCreate, tr("the folder cannot be created"));
-    m_fileLock = std::make_unique<QLockFile>(capture_lock::pathOf(path));
-    capture_lock::take(*m_fileLock); // a folder where this fails refuses the file, too
-    // Without a buffer: one write() per chunk.
-    if (!m_file.open(QIODevice::ReadWrite | QIODevice::NewOnly | QIODevice::Unbuffered))
-        return fail(Kind::CannotCreate, m_file.errorString());
+    for (int number = 1; !m_file.isOpen(); ++number) {
+        const QString path = pathOf(stem, number);
+        if (QFileInfo::exists(path))
+            continue;
+        m_fileLock = std::make_unique<QLockFile>(capture_lock::pathOf(path));
+        if (!capture_lock::take(*m_fileLock) && m_fileLock->error() == QLockFile::LockFailedError)
+            continue; // another window starts a capture in the same second
+        setPath(path);
+        // Without a buffer: one write() per chunk.
+        const bool isOpen = m_file.open(QIODevice::ReadWrite | QIODevice::NewOnly | QIODevice::Unbuffered);
+        if (!isOpen && !QFileInfo::exists(path))
+            return fail(Kind::CannotCreate, m_file.errorString());
+    }
     m_writer.emplace(m_file);
     return begin() || fail(Kind::CannotCreate, m_file.errorString());
+}
+
+void CaptureRun::setPath(const QString &path)
+{
+    m_file.setFileName(path);
+    const QMutexLocker locker(&m_lock);
+    m_path = path;
 }
 
 bool CaptureRun::begin()
 {
     m_wallMinusSteadyNs = wallNs() - steadyNs();
     m_seenWallMinusSteady = m_wallMinusSteadyNs;
+    const qint64 startMs = wallNs() / kMsNs;
+    m_startTime = QDateTime::fromMSecsSinceEpoch(startMs, Qt::UTC).toString(Qt::ISODateWithMs).toLatin1();
     if (!m_writer->begin(QByteArray(capture_channels::kLibrary) + ' ' + KV_VERSION) || !writeContext(m_context))
         return false;
     for (const mcap::Schema &schema : capture_channels::schemas()) {
@@ -146,9 +156,7 @@ bool CaptureRun::writeContext(const CaptureContext &context)
 {
     m_context = context;
     mcap::Metadata metadata{capture_channels::kMetadata, context.entries()};
-    const auto startMs = (m_wallMinusSteadyNs + steadyNs()) / kMsNs;
-    const QString now = QDateTime::fromMSecsSinceEpoch(startMs, Qt::UTC).toString(Qt::ISODateWithMs);
-    metadata.entries.prepend({"time", now.toLatin1()});
+    metadata.entries.prepend({"start_time", m_startTime});
     metadata.entries.prepend({"wall_minus_steady_ns", QByteArray::number(m_wallMinusSteadyNs)});
     metadata.entries.prepend({"format_version", QByteArray::number(kFormatVersion)});
     metadata.entries.prepend({"format", "kvcenter-capture"});
@@ -160,7 +168,7 @@ void CaptureRun::write()
 {
     for (;;) {
         const bool isLast = m_queue.isStopped();
-        const CaptureQueue::Batch batch = m_queue.take(kLookMs);
+        const CaptureQueue::Batch batch = m_queue.take(kLook);
         const bool isWritten = takeBatch(batch) && watchClock();
         const bool isDue = m_chunkSinceNs != 0 && steadyNs() - m_chunkSinceNs >= kChunkMs * kMsNs;
         if (!isWritten || (isDue && !endChunk()) || isLast)

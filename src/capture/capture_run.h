@@ -64,6 +64,7 @@ signals:
 private:
     void run(const QString &folder, const QString &name);
     bool open(const QString &folder, const QString &name);
+    void setPath(const QString &path);
     bool begin();
     void write();
     bool takeBatch(const CaptureQueue::Batch &batch);
@@ -90,6 +91,7 @@ private:
     QFile m_file;
     std::unique_ptr<QLockFile> m_fileLock;
     std::optional<McapWriter> m_writer;
+    QByteArray m_startTime;
     qint64 m_wallMinusSteadyNs = 0; ///< fixed: log times never jump
     qint64 m_seenWallMinusSteady = 0;
     qint64 m_chunkSinceNs = 0; ///< steady clock; 0: the open chunk is empty
