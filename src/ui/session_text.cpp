@@ -36,6 +36,8 @@ QString session_text::refusal(Refusal refusal)
         return Text::tr("A firmware download runs. It has to finish first.");
     case Refusal::Closing:
         return Text::tr("The port is being closed.");
+    case Refusal::Waiting:
+        return Text::tr("The connection was lost. The device is waited for.");
     case Refusal::OverUdp:
         return Text::tr(
             "Over UDP the device can only be listened to: commands may get lost or arrive in another order. "
@@ -55,6 +57,8 @@ QString session_text::connection(const DeviceSession &session)
     switch (session.state()) {
     case SessionState::Bootloader:
         return Text::tr("The device runs its bootloader.\nIt sends no data until it restarts.");
+    case SessionState::Waiting:
+        return Text::tr("The connection was lost.\nWaiting for the device...");
     case SessionState::Updating:
         return Text::tr("Firmware is being written.\nDo not unplug the device.");
     default:

@@ -10,6 +10,7 @@
 
 #include "device/command_session.h"
 #include "device/device_settings.h"
+#include "record/recorder.h"
 #include "session/device_session.h"
 #include "support/ser2net_process.h"
 #include "support/simulator_process.h"
@@ -134,6 +135,100 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(session.state(), State::Silent, 5000); // and nothing is asked
         QVERIFY(device.control("silent off"));
         QTRY_COMPARE_WITH_TIMEOUT(session.state(), State::Live, 10000);
+    }
+
+    /// A lost source comes back, whoever lost it; the stream and a recording go on.
+    void comesBack_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::newRow("serial") << int(Kind::Serial);
+        QTest::newRow("tcp") << int(Kind::Tcp);
+        QTest::newRow("rfc2217") << int(Kind::Rfc2217);
+    }
+
+    void comesBack()
+    {
+        QFETCH(int, kind);
+        const QTemporaryDir folder;
+        const QString link = folder.filePath(QStringLiteral("imu"));
+        SimulatorProcess device({QStringLiteral("--link"), link});
+        std::unique_ptr<Ser2netProcess> server;
+        if (Kind(kind) != Kind::Serial)
+            server = std::make_unique<Ser2netProcess>(Kind(kind), device.port());
+        DeviceSession session;
+        session.setReconnects(true);
+        QSignalSpy failed(&session, &DeviceSession::sourceFailed);
+        QSignalSpy restarted(&session, &DeviceSession::streamRestarted);
+        QSignalSpy marked(&session.recorder(), &Recorder::markerAdded);
+        QVERIFY(session.open(server ? server->address() : SourceAddress::serial(link, 115200)));
+        QTRY_VERIFY_WITH_TIMEOUT(session.device().valid && session.state() == State::Live, 10000);
+        session.recorder().start(folder.filePath(QStringLiteral("data")), QStringLiteral("walk"));
+        QTRY_VERIFY(session.recorder().recordCount() > 10);
+        restarted.clear();
+        // A server that ends the connection three times in a row soon is left alone: see secondClient().
+        for (int round = 0; round < (server ? 1 : 2); ++round) {
+            if (server)
+                server->stop();
+            else
+                QVERIFY(device.control("unplug"));
+            QTRY_COMPARE(session.state(), State::Waiting);
+            QVERIFY(session.isEngaged() && !session.isOpen() && !session.device().valid);
+            QVERIFY(!session.recorder().isRecording() && session.recorder().isWaitingForLink());
+            // Longer than one attempt, and than what counts as a gap.
+            QTest::qWait(1200);
+            QCOMPARE(int(session.refusal(SessionAction::SendCommand)), int(Refusal::Waiting));
+            QVERIFY(server ? server->start() : device.control("replug"));
+            QTRY_VERIFY_WITH_TIMEOUT(session.device().valid && session.state() == State::Live, 15000);
+            QTRY_VERIFY(session.recorder().isRecording());
+            QCOMPARE(marked.size(), round + 1);
+        }
+        QVERIFY(!restarted.isEmpty());
+        for (const QList<QVariant> &restart : restarted)
+            QVERIFY(!emptiesViews(restart.first().value<StreamRestart>().kind));
+        QVERIFY(failed.isEmpty());
+        // Closing ends the waiting.
+        if (server)
+            server->stop();
+        else
+            QVERIFY(device.control("unplug"));
+        QTRY_COMPARE(session.state(), State::Waiting);
+        QVERIFY(session.close());
+        QCOMPARE(session.state(), State::Closed);
+        QVERIFY(!session.recorder().isWaitingForLink());
+    }
+
+    void neverAnotherDevice()
+    {
+        SimulatorProcess device({});
+        DeviceSession session;
+        session.setReconnects(true);
+        QSignalSpy failed(&session, &DeviceSession::sourceFailed);
+        QVERIFY(session.open(device.port(), 115200)); // a path that any device may get
+        QTRY_COMPARE_WITH_TIMEOUT(session.state(), State::Live, 10000);
+        QVERIFY(device.control("unplug"));
+        QTRY_COMPARE(failed.size(), 1);
+        QCOMPARE(session.state(), State::Closed);
+    }
+
+    /// A server that gives the port to whoever came last: two programs must not take it from each other for ever.
+    void secondClient()
+    {
+        SimulatorProcess device({});
+        Ser2netProcess server(Kind::Tcp, device.port(), {QStringLiteral("kickolduser: true")});
+        DeviceSession first;
+        DeviceSession second;
+        first.setReconnects(true);
+        QSignalSpy failed(&first, &DeviceSession::sourceFailed);
+        QVERIFY(first.open(server.address()));
+        QTRY_COMPARE_WITH_TIMEOUT(first.state(), State::Live, 10000);
+        second.setReconnects(true);
+        QVERIFY(second.open(server.address()));
+        QSignalSpy failedToo(&second, &DeviceSession::sourceFailed);
+        QTRY_VERIFY_WITH_TIMEOUT(failed.size() + failedToo.size() > 0, 30000);
+        const QList<QVariant> told = failed.isEmpty() ? failedToo.first() : failed.first();
+        QCOMPARE(int(told.first().value<SourceFailure>().fault), int(SourceFault::Ended));
+        const DeviceSession &other = failed.isEmpty() ? first : second;
+        QTRY_COMPARE_WITH_TIMEOUT(other.state(), State::Live, 20000);
     }
 
     void demoIsADevice()
