@@ -231,6 +231,10 @@ void form_com_select::updateState()
         address && (address->kind == SourceKind::File || SourceAddress::parse(typedText(), &problem, 0)->baudRate != 0);
     const QString baudText = isRateGiven ? QString() : port_choice::baudProblem(m_ui->CB_baud->currentText());
     m_ui->CB_baud->setEnabled(!isRateGiven);
+    if (isRateGiven && address->kind != SourceKind::File) {
+        const QSignalBlocker quiet(m_ui->CB_baud);
+        m_ui->CB_baud->setCurrentText(QString::number(address->baudRate));
+    }
     m_ui->LBL_pathProblem->setText(pathText);
     m_ui->LBL_baudProblem->setText(baudText);
     updateReconnect(address);
