@@ -72,7 +72,7 @@ void Recorder::setLinkOpen(bool open)
 void Recorder::setLossExpected(Loss loss)
 {
     m_loss = loss;
-    if (loss == Loss::ComesBack || m_options.resumes || !m_resumesInto)
+    if (!m_resumesInto || loss == Loss::ComesBack || (loss == Loss::Final && m_options.resumes))
         return;
     m_resumesInto.reset(); // it will not come back after all
     emit stateChanged();

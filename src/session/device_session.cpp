@@ -100,6 +100,8 @@ bool DeviceSession::open(const SourceAddress &address)
     if (!allows(SessionAction::OpenPort))
         return false;
     endSearch(false);
+    if (m_state == SessionState::Waiting)
+        m_recorder->setLossExpected(Recorder::Loss::Final);
     m_reconnector->stop();
     m_isReturning = false;
     openSource(address);
