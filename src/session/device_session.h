@@ -65,6 +65,8 @@ public:
     /// Whether a source that is lost is opened again when it is back. Off at first; also of the one that is open.
     void setReconnects(bool reconnects);
     bool reconnects() const { return m_reconnects; }
+    /// A lost source is waited for, or being opened again.
+    bool isReturning() const { return m_isReturning; }
 
     // Each of these does nothing and returns false when the table refuses it.
 

@@ -54,11 +54,11 @@ QString session_text::refusal(Refusal refusal)
 
 QString session_text::connection(const DeviceSession &session)
 {
+    if (session.isReturning())
+        return Text::tr("The connection was lost.\nWaiting for the device...");
     switch (session.state()) {
     case SessionState::Bootloader:
         return Text::tr("The device runs its bootloader.\nIt sends no data until it restarts.");
-    case SessionState::Waiting:
-        return Text::tr("The connection was lost.\nWaiting for the device...");
     case SessionState::Updating:
         return Text::tr("Firmware is being written.\nDo not unplug the device.");
     default:
