@@ -14,6 +14,7 @@
 #include "fuzz/support/require.h"
 #include "record/recording_target.h"
 #include "ui/port_choice.h"
+#include "ui/recent_sources.h"
 
 namespace {
 
@@ -27,6 +28,12 @@ void checkPort(const QSettings &settings, MemoryFile &copy)
             "the baud rate can be set");
     require(port.path == port.path.trimmed() && port.path.size() <= recording_target::kMaxPathLength,
             "the port has a path");
+
+    const QList<SourceAddress> recent = recent_sources::read(settings);
+    require(recent.size() <= recent_sources::kMost, "the list of sources is bounded");
+    for (const SourceAddress &address : recent)
+        require(address.baudRate >= port_choice::kMinimumBaud && !address.text().contains(u'\n'),
+                "a source is one line");
 
     PortEntry listed;
     listed.path = QStringLiteral("/dev/ttyUSB0");

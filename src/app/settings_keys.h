@@ -13,11 +13,13 @@ constexpr QLatin1String kLanguage("Main/LANGUAGE");      ///< code of the interf
 constexpr QLatin1String kFontSize("Main/FONTSIZE");      ///< interface font size, points
 constexpr QLatin1String kAppearance("Main/APPEARANCE");  ///< "system", "light" or "dark"
 constexpr QLatin1String kGeometry("Main/GEOMETRY");      ///< main window's size and place
-constexpr QLatin1String kPort("SERIAL/PORT");            ///< last port, name or path
+constexpr QLatin1String kPort("SERIAL/PORT");            ///< last source: a port's name or path, or an address
 constexpr QLatin1String kBaudRate("SERIAL/BAUDRATE");    ///< last baud rate
 constexpr QLatin1String kPortVendor("SERIAL/VENDOR_ID"); ///< USB identity of the last port, decimal
 constexpr QLatin1String kPortProduct("SERIAL/PRODUCT_ID");
 constexpr QLatin1String kPortSerial("SERIAL/SERIAL_NUMBER");
+constexpr QLatin1String kReconnect("SERIAL/RECONNECT"); ///< opens a lost source again; missing: as its identity allows
+constexpr QLatin1String kRecentSources("SOURCES");      ///< group of the last sources, "1" the newest
 constexpr QLatin1String kPortGeometry("SERIAL/GEOMETRY");       ///< size and place of the port dialog
 constexpr QLatin1String kSettingsGeometry("SETTINGS/GEOMETRY"); ///< of the device settings window
 constexpr QLatin1String kRecordPath("RECORD/PATH"); ///< folder and name of the last recording, "<folder>/data.csv"

@@ -27,7 +27,7 @@ DemoSource::DemoSource(QSerialPort &port, const SourceAddress &address, QObject 
 
 DemoSource::~DemoSource()
 {
-    close();
+    DemoSource::close();
 }
 
 QString DemoSource::program()

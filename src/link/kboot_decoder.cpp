@@ -179,7 +179,8 @@ void KbootProtocol::finishPacket()
     }
     if (m_read != nullptr && takeForRead(type, fits))
         return;
-    if (fits)
+    // Over a network, samples sent before the device restarted are still on their way: they answer nothing.
+    if (fits && (type != kTypeData || m_replyAllowanceMs == 0))
         m_responseReceived = true;
     if (type == kTypePingResponse && m_frameBuffer.at(kPingLetterOffset) == 'P')
         emit pingAnswered();

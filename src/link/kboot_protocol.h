@@ -108,8 +108,8 @@ public:
     /// Notes that the port failed before connect() or download() could run.
     void portFailed(BootloaderStep step);
 
-    /// Every wait for the target takes this much longer, in milliseconds: answers come over a network. clear() keeps
-    /// it.
+    /// Answers come over a network: every wait for the target takes this much longer, in milliseconds, and a data
+    /// packet is no answer. 0: a cable. clear() keeps it.
     void setReplyAllowance(int ms) { m_replyAllowanceMs = ms; }
 
     /// Sends one command and waits 1500 ms for a response; true when one arrived.

@@ -18,6 +18,8 @@ constexpr int kSecondMs = 1000;
 constexpr int kCloseTimeoutMs = 5000;
 constexpr int kLastBytesMs = 200;
 constexpr int kBootloaderWriteMs = 1000;
+/// Its waits end with the answer, unlike the windows for replies: more time is only spent when nothing comes.
+constexpr int kBootloaderPatience = 4;
 
 constexpr char kRestartCommand[] = "AT+RST\r\n";
 constexpr int kRestartWriteMs = 1000;
@@ -206,7 +208,7 @@ bool KvUartPort::isSourceOpen() const
 void KvUartPort::onSourceOpened()
 {
     m_replyAllowanceMs = m_source->replyAllowanceMs();
-    m_kboot->setReplyAllowance(m_replyAllowanceMs);
+    m_kboot->setReplyAllowance(m_replyAllowanceMs * kBootloaderPatience);
     emit opened();
 }
 

@@ -43,7 +43,7 @@ void Rfc2217Source::begin()
 QByteArray Rfc2217Source::decode(const QByteArray &bytes)
 {
     QList<telnet::Event> events;
-    const QByteArray data = m_decoder.decode(bytes, &events);
+    QByteArray data = m_decoder.decode(bytes, &events);
     QByteArray answers;
     for (const telnet::Event &event : events)
         answers += m_client.take(event);

@@ -16,8 +16,8 @@ constexpr qsizetype kMaxTextBytes = 512;
 constexpr qsizetype kMaxReasonLength = 120;
 /// What was sent longer ago has arrived, or never will.
 constexpr qint64 kRecentMs = 500;
-/// Serial servers collect bytes for up to 20 ms.
-constexpr int kServerDelayMs = 50;
+/// Serial servers collect bytes for up to 20 ms, and behind one that is near there may be a tunnel to one that is far.
+constexpr int kNetworkMs = 250;
 constexpr int kMaxAllowanceMs = 1000;
 
 /// The last line of what a server has said; empty when it is not text.
@@ -196,5 +196,5 @@ void TcpSource::drain(QDeadlineTimer until)
 
 int TcpSource::replyAllowanceMs() const
 {
-    return int(std::min<qint64>(kMaxAllowanceMs, kServerDelayMs + 2 * m_connectMs));
+    return int(std::min<qint64>(kMaxAllowanceMs, kNetworkMs + 2 * m_connectMs));
 }

@@ -3,6 +3,7 @@
 #include <QDateTime>
 
 #include <chrono>
+#include <limits>
 #include <utility>
 
 #include "record/recording_run.h"
@@ -48,21 +49,32 @@ void Recorder::setLinkOpen(bool open)
     if (m_isLinkOpen == open)
         return;
     m_isLinkOpen = open;
-    const bool isLoss = std::exchange(m_isLossExpected, false);
     if (open) {
+        m_loss = Loss::None;
         m_isRunOfLastLink = true;
         m_droppedInEarlier = 0;
         m_lostInEarlier = 0;
         if (m_problem.kind == RecordingProblem::Kind::NotConnected)
             m_problem = {};
     } else if (isRecording()) {
-        if (isLoss && m_options.resumes) {
+        const bool isLoss = m_loss != Loss::None;
+        if (isLoss && (m_options.resumes || m_loss == Loss::ComesBack)) {
+            m_sinceLoss.start();
             m_carriedMs += m_clock.elapsed();
             m_carriedBytes += totalSize();
             m_resumesInto = recording_target::Target{m_run->folder(), m_name};
         }
         endTaking(End::Link);
     }
+    emit stateChanged();
+}
+
+void Recorder::setLossExpected(Loss loss)
+{
+    m_loss = loss;
+    if (!m_resumesInto || loss == Loss::ComesBack || (loss == Loss::Final && m_options.resumes))
+        return;
+    m_resumesInto.reset(); // it will not come back after all
     emit stateChanged();
 }
 
@@ -79,7 +91,7 @@ void Recorder::setOptions(const RecordingOptions &options)
         return;
     m_options = options;
     m_options.remember();
-    if (!options.resumes)
+    if (!options.resumes && m_loss != Loss::ComesBack)
         m_resumesInto.reset();
     emit stateChanged();
 }
@@ -112,8 +124,11 @@ void Recorder::startAgain()
 /// The first sample after a lost link: only now is it certain that the device is back.
 void Recorder::resume()
 {
-    if (m_resumesInto && m_isLinkOpen && m_state == State::Idle)
-        begin(*std::exchange(m_resumesInto, std::nullopt));
+    if (!m_resumesInto || !m_isLinkOpen || m_state != State::Idle)
+        return;
+    begin(*std::exchange(m_resumesInto, std::nullopt));
+    addMarker(tr("The connection was lost for %1 s.").arg(double(m_sinceLoss.elapsed()) / 1000, 0, 'f', 1),
+              std::numeric_limits<double>::quiet_NaN());
 }
 
 void Recorder::begin(const recording_target::Target &target)

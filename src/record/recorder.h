@@ -72,8 +72,14 @@ public:
     /// the connection start again at zero when it opens.
     void setLinkOpen(bool open);
     bool isLinkOpen() const { return m_isLinkOpen; }
-    /// The link is about to close because of a fault, not on request: see RecordingOptions::resumes.
-    void expectLoss() { m_isLossExpected = true; }
+    enum class Loss {
+        None,     ///< the link closes on request
+        Final,    ///< it was lost; see RecordingOptions::resumes
+        ComesBack ///< it was lost and will be opened again by itself: the recording goes on, whatever the options say
+    };
+    /// Why the link is about to close, or did close. A recording that goes on after a loss begins with a marker that
+    /// says how long it lasted.
+    void setLossExpected(Loss loss);
     /// What is known about the connection, for the description beside the files.
     void setContext(const RecordingContext &context);
 
@@ -196,7 +202,8 @@ private:
     RecordingOptions m_options;
     RecordingContext m_context;
     unsigned int m_markerCount = 0;
-    bool m_isLossExpected = false;
+    Loss m_loss = Loss::None;
+    QElapsedTimer m_sinceLoss;
     std::optional<recording_target::Target> m_resumesInto; ///< once the link opens
     qint64 m_carriedMs = 0;                                ///< length of the earlier parts of a resumed recording
     qint64 m_carriedBytes = 0;

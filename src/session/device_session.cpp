@@ -19,6 +19,7 @@
 #include "link/stream_dispatcher.h"
 #include "record/recorder.h"
 #include "session/link_monitor.h"
+#include "session/reconnector.h"
 #include "session/recording_describer.h"
 #include "session/session_capture.h"
 #include "session/stream_router.h"
@@ -40,7 +41,8 @@ DeviceSession::DeviceSession(QObject *owner)
       m_dispatcher(new StreamDispatcher(owner != nullptr ? owner : this)),
       m_broker(new CommandBroker(owner != nullptr ? owner : this)), m_parser(new ImuParser(this)),
       m_commands(new CommandSession(this)), m_recorder(new Recorder(this)),
-      m_monitor(new LinkMonitor(m_port.get(), m_recorder, this)), m_router(new StreamRouter(this))
+      m_monitor(new LinkMonitor(m_port.get(), m_recorder, this)), m_router(new StreamRouter(this)),
+      m_reconnector(new Reconnector(this))
 {
     m_broker->attachPort(m_port.get());
     m_commands->setBroker(m_broker);
@@ -63,6 +65,7 @@ DeviceSession::DeviceSession(QObject *owner)
     connect(m_router, &StreamRouter::sampleReceived, this, &DeviceSession::sampleReceived);
     connect(m_router, &StreamRouter::samplesReceived, this, &DeviceSession::samplesReceived);
     connect(m_router, &StreamRouter::batchReceived, this, &DeviceSession::batchReceived);
+    connect(m_reconnector, &Reconnector::found, this, &DeviceSession::openAgain);
     connect(&m_retryTimer, &QTimer::timeout, this, &DeviceSession::identify);
     connect(&m_silenceTimer, &QTimer::timeout, this, &DeviceSession::checkSilence);
 }
@@ -100,27 +103,34 @@ bool DeviceSession::open(const SourceAddress &address)
     if (!allows(SessionAction::OpenPort))
         return false;
     endSearch(false);
+    if (m_state == SessionState::Waiting)
+        m_recorder->setLossExpected(Recorder::Loss::Final);
+    m_reconnector->stop();
+    m_isReturning = false;
     openSource(address);
     return true;
 }
 
 void DeviceSession::openSource(const SourceAddress &address)
 {
-    endConnection();
+    if (m_state != SessionState::Waiting)
+        endConnection();
     ++m_connection;
     m_source = address;
     m_infoRequested = false;
     m_infoDeferred = false;
     m_lastFrameNs = -1;
     m_lastReadNs = -1;
-    m_sinceOpened.start();
+    if (!m_isReturning)
+        m_sinceOpened.start();
     m_port->openSource(address);
     m_commands->setBaud(address.baudRate);
     m_dispatcher->clear();
     m_dispatcher->setLinkConnected(true);
     m_recorder->setLinkOpen(true);
     m_monitor->open(portName(), address.baudRate);
-    m_router->start();
+    if (!m_isReturning)
+        m_router->start();
     setState(SessionState::Opening);
 }
 
@@ -128,6 +138,10 @@ void DeviceSession::onOpened()
 {
     if (m_state != SessionState::Opening)
         return;
+    if (!m_isReturning)
+        m_identity = SourceIdentity::of(m_source);
+    m_isReturning = false;
+    m_reconnector->opened();
     if (session_table::verdict(m_source.kind, SessionAction::Identify) != Refusal::None)
         return setState(SessionState::Silent);
     m_commands->setReplyAllowance(m_port->replyAllowanceMs());
@@ -140,14 +154,19 @@ bool DeviceSession::close()
     if (!allows(SessionAction::ClosePort))
         return false;
     endSearch(false);
+    m_reconnector->stop();
+    m_isReturning = false;
+    m_recorder->setLossExpected(Recorder::Loss::None);
     endConnection();
     return true;
 }
 
-void DeviceSession::endConnection()
+void DeviceSession::endConnection(SessionState endsIn)
 {
     if (m_state == SessionState::Closed || m_state == SessionState::Closing)
         return;
+    if (m_state == SessionState::Waiting)
+        return setState(endsIn);
     const bool hadBootloader = m_state == SessionState::Bootloader || m_state == SessionState::Updating;
     ++m_connection;
     setState(SessionState::Closing);
@@ -171,7 +190,7 @@ void DeviceSession::endConnection()
     m_readsAfterUpdate = 0;
     m_infoDeferred = false;
     clearDevice();
-    setState(SessionState::Closed);
+    setState(endsIn);
 }
 
 /// The next program must not find a device that was muted by a reading in progress or by the user.
@@ -185,17 +204,42 @@ void DeviceSession::leaveDeviceStreaming()
 
 void DeviceSession::onSourceFailed(const SourceFailure &failure)
 {
-    if (m_state == SessionState::Closed || m_state == SessionState::Closing) // an echo of a failure already reported
+    if (!isOpen() || m_state == SessionState::Closing) // an echo of a failure already reported
         return;
     if (m_search && m_state == SessionState::Opening
         && (failure.portError == QSerialPort::UnsupportedOperationError
             || failure.fault == SourceFault::SettingsRefused))
         return tryNextRate(); // a port that does not support this rate
     endSearch(false);
-    m_recorder->expectLoss();
-    endConnection();
+    const bool comesBack = waitFor(failure);
+    m_recorder->setLossExpected(comesBack ? Recorder::Loss::ComesBack : Recorder::Loss::Final);
+    endConnection(comesBack ? SessionState::Waiting : SessionState::Closed);
+    if (comesBack)
+        return;
     AppLog::logfile(QtWarningMsg, QStringLiteral("failed to open serial port."));
     emit sourceFailed(failure);
+}
+
+/// A source that was open once, and can be told from others, may come back; the flash of a device that was lost while
+/// it was written needs the user.
+bool DeviceSession::waitFor(const SourceFailure &failure)
+{
+    const bool mayReturn = m_reconnects && (m_isReturning || failure.wasOpen) && m_state != SessionState::Updating;
+    m_isReturning = mayReturn && m_reconnector->waitFor(m_identity, failure);
+    return m_isReturning;
+}
+
+void DeviceSession::openAgain(const SourceAddress &address)
+{
+    if (m_state == SessionState::Waiting)
+        openSource(address);
+}
+
+void DeviceSession::setReconnects(bool reconnects)
+{
+    m_reconnects = reconnects;
+    if (!reconnects && m_state == SessionState::Waiting)
+        close();
 }
 
 bool DeviceSession::identify()

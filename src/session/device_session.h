@@ -10,6 +10,7 @@
 #include "device/product_resolver.h"
 #include "link/bootloader_state.h"
 #include "link/source_failure.h"
+#include "link/source_identity.h"
 #include "session/session_table.h"
 #include "session/stream_event.h"
 
@@ -18,6 +19,7 @@ class CommandSession;
 class ImuParser;
 class KvUartPort;
 class LinkMonitor;
+class Reconnector;
 class Recorder;
 class SessionCapture;
 class StreamDispatcher;
@@ -56,8 +58,16 @@ public:
     /// Why an action is refused now; None when it is allowed.
     Refusal refusal(SessionAction action) const;
     bool allows(SessionAction action) const { return refusal(action) == Refusal::None; }
-    /// A port is open, or being opened or closed.
-    bool isOpen() const { return m_state != SessionState::Closed; }
+    /// A source is open, or being opened or closed.
+    bool isOpen() const { return m_state != SessionState::Closed && m_state != SessionState::Waiting; }
+    /// The same, or it was lost and is waited for.
+    bool isEngaged() const { return m_state != SessionState::Closed; }
+
+    /// Whether a source that is lost is opened again when it is back. Off at first; also of the one that is open.
+    void setReconnects(bool reconnects);
+    bool reconnects() const { return m_reconnects; }
+    /// A lost source is waited for, or being opened again.
+    bool isReturning() const { return m_isReturning; }
 
     // Each of these does nothing and returns false when the table refuses it.
 
@@ -141,7 +151,7 @@ signals:
     /// Another device, or none, is identified now.
     void deviceChanged();
     void presetChanged(OrientationPreset preset);
-    /// The connection was lost, or could not be made.
+    /// The connection was lost, or could not be made, and nothing more is tried.
     void sourceFailed(const SourceFailure &failure);
     /// The stream of the followed node starts again; emitted before its first sample.
     void streamRestarted(const StreamRestart &restart);
@@ -158,7 +168,9 @@ signals:
 
 private:
     void openSource(const SourceAddress &address);
-    void endConnection();
+    void openAgain(const SourceAddress &address);
+    bool waitFor(const SourceFailure &failure);
+    void endConnection(SessionState endsIn = SessionState::Closed);
     void onOpened();
     void onSourceFailed(const SourceFailure &failure);
     void onCommandState();
@@ -197,12 +209,16 @@ private:
     SessionCapture *m_capture;
     LinkMonitor *m_monitor;
     StreamRouter *m_router;
+    Reconnector *m_reconnector;
     QTimer m_retryTimer;
     QTimer m_silenceTimer; ///< runs while live
 
     SessionState m_state = SessionState::Closed;
     quint64 m_connection = 0; ///< counts openings and closings
     SourceAddress m_source;
+    SourceIdentity m_identity; ///< of the source while it was open
+    bool m_reconnects = false;
+    bool m_isReturning = false; ///< a lost source is being opened again: its stream goes on
     QElapsedTimer m_sinceOpened;
     qint64 m_lastFrameNs = -1; ///< since opening; -1: none in this connection
     qint64 m_lastReadNs = -1;  ///< since opening: when the last reading of the product ended

@@ -14,24 +14,25 @@ constexpr Refusal kNoBoot = Refusal::NoBootloader;
 constexpr Refusal kNoDown = Refusal::NoDownload;
 constexpr Refusal kUpdate = Refusal::Updating;
 constexpr Refusal kEnds = Refusal::Closing;
+constexpr Refusal kGone = Refusal::Waiting;
 
 using Row = std::array<Refusal, kSessionStateCount>;
 
 // One row per action, one column per state, both in the order of their enumerations.
 // clang-format off
 constexpr std::array<Row, kSessionActionCount> kTable{{
-    //                      Closed    Opening   Identif.  Live     Silent   Bootload. Updating Closing
-    /* OpenPort          */ {kYes,     kYes,     kYes,     kYes,    kYes,    kYes,     kUpdate, kEnds},
-    /* ClosePort         */ {kNotOpen, kYes,     kYes,     kYes,    kYes,    kYes,     kUpdate, kEnds},
-    /* Identify          */ {kNotOpen, kOpening, kRuns,    kYes,    kYes,    kInBoot,  kUpdate, kEnds},
-    /* SendCommand       */ {kNotOpen, kOpening, kRuns,    kYes,    kYes,    kInBoot,  kUpdate, kEnds},
-    /* StartRecording    */ {kNotOpen, kOpening, kYes,     kYes,    kYes,    kInBoot,  kUpdate, kEnds},
-    /* TryBaudRates      */ {kNotOpen, kOpening, kRuns,    kFlow,   kYes,    kInBoot,  kUpdate, kEnds},
-    /* ConnectBootloader */ {kNotOpen, kOpening, kYes,     kYes,    kYes,    kYes,     kUpdate, kEnds},
-    /* Download          */ {kNoBoot,  kNoBoot,  kNoBoot,  kNoBoot, kNoBoot, kYes,     kUpdate, kEnds},
-    /* StopDownload      */ {kNoDown,  kNoDown,  kNoDown,  kNoDown, kNoDown, kNoDown,  kYes,    kEnds},
-    /* RestartDevice     */ {kNoBoot,  kNoBoot,  kNoBoot,  kNoBoot, kNoBoot, kYes,     kUpdate, kEnds},
-    /* Quit              */ {kYes,     kYes,     kYes,     kYes,    kYes,    kYes,     kUpdate, kYes},
+    //                      Closed    Opening   Identif.  Live     Silent   Bootload. Updating Closing Waiting
+    /* OpenPort          */ {kYes,     kYes,     kYes,     kYes,    kYes,    kYes,     kUpdate, kEnds, kYes},
+    /* ClosePort         */ {kNotOpen, kYes,     kYes,     kYes,    kYes,    kYes,     kUpdate, kEnds, kYes},
+    /* Identify          */ {kNotOpen, kOpening, kRuns,    kYes,    kYes,    kInBoot,  kUpdate, kEnds, kGone},
+    /* SendCommand       */ {kNotOpen, kOpening, kRuns,    kYes,    kYes,    kInBoot,  kUpdate, kEnds, kGone},
+    /* StartRecording    */ {kNotOpen, kOpening, kYes,     kYes,    kYes,    kInBoot,  kUpdate, kEnds, kGone},
+    /* TryBaudRates      */ {kNotOpen, kOpening, kRuns,    kFlow,   kYes,    kInBoot,  kUpdate, kEnds, kGone},
+    /* ConnectBootloader */ {kNotOpen, kOpening, kYes,     kYes,    kYes,    kYes,     kUpdate, kEnds, kGone},
+    /* Download          */ {kNoBoot,  kNoBoot,  kNoBoot,  kNoBoot, kNoBoot, kYes,     kUpdate, kEnds, kGone},
+    /* StopDownload      */ {kNoDown,  kNoDown,  kNoDown,  kNoDown, kNoDown, kNoDown,  kYes,    kEnds, kNoDown},
+    /* RestartDevice     */ {kNoBoot,  kNoBoot,  kNoBoot,  kNoBoot, kNoBoot, kYes,     kUpdate, kEnds, kGone},
+    /* Quit              */ {kYes,     kYes,     kYes,     kYes,    kYes,    kYes,     kUpdate, kYes,  kYes},
 }};
 
 constexpr Refusal kUdp = Refusal::OverUdp;

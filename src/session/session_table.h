@@ -14,8 +14,9 @@ enum class SessionState : quint8 {
     Bootloader,  ///< the device runs its bootloader, or is being restarted into it
     Updating,    ///< firmware is being written
     Closing,
+    Waiting, ///< the source was lost; it is opened again when it is there
 };
-constexpr int kSessionStateCount = 8;
+constexpr int kSessionStateCount = 9;
 
 /// What a user or a script may request from a session.
 enum class SessionAction : quint8 {
@@ -48,6 +49,7 @@ enum class Refusal : quint8 {
     OverUdp,   ///< datagrams get lost and overtake each other: no commands
     OfAFile,   ///< nothing can be sent to a recording
     RateIsSet, ///< the source's baud rate cannot be set from here
+    Waiting,   ///< the source is lost and waited for
 };
 
 namespace session_table {

@@ -27,7 +27,10 @@ void Dialogs::openPortChoice()
 {
     if (m_port == nullptr) {
         m_port = new form_com_select(m_window);
-        connect(m_port, &QDialog::accepted, this, [this] { emit portChosen(m_port->portName(), m_port->baudRate()); });
+        connect(m_port, &QDialog::accepted, this, [this] {
+            m_session->setReconnects(m_port->reconnects());
+            emit portChosen(m_port->source().text(), m_port->baudRate());
+        });
     }
     m_port->open();
     m_port->raise();

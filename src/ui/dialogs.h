@@ -44,7 +44,8 @@ public:
     void closeAll();
 
 signals:
-    void portChosen(const QString &portName, int baudRate);
+    /// `source` is any text that SourceAddress reads; `baudRate` counts where it gives none.
+    void portChosen(const QString &source, int baudRate);
     /// The program is to end and start again.
     void restartWanted();
 

@@ -143,6 +143,8 @@ void form_base::setUpConnections()
     connect(m_dialogs, &Dialogs::portChosen, this, &form_base::open_port);
     connect(m_dialogs, &Dialogs::restartWanted, this, [this] { m_wantsRestart = close(); });
     connect(m_ui->action_quit, &QAction::triggered, this, &form_base::close);
+    connect(m_ui->button_demo, &QPushButton::clicked, this,
+            [this] { open_port(QStringLiteral("demo:"), SourceAddress::kDefaultBaud); });
     connect(m_ui->button_open, &QPushButton::clicked, m_ui->action_serial_open, &QAction::trigger);
     connect(m_actions->sensorDashboard(), &QAction::triggered, this, &form_base::on_action_sensor_dashboard_triggered);
     connect(m_actions->gatewayDashboard(), &QAction::triggered, this,
@@ -171,10 +173,12 @@ void form_base::on_action_serial_open_triggered()
         m_dialogs->openPortChoice();
 }
 
-void form_base::open_port(const QString &portName, int baudRate)
+void form_base::open_port(const QString &source, int baudRate)
 {
     m_dialogs->dropPortError();
-    if (m_session->open(portName, baudRate))
+    QString problem;
+    const std::optional<SourceAddress> address = SourceAddress::parse(source, &problem, baudRate);
+    if (m_session->open(address.value_or(SourceAddress::serial(source, baudRate))))
         m_statusLine->showOpening();
 }
 
@@ -201,8 +205,8 @@ void form_base::on_orientation_preset_changed(OrientationPreset preset)
 void form_base::onSessionState()
 {
     // Not before it is closed: while it is closing, its parts still hold what is to be cleared.
-    if (m_session->isOpen() != m_isShowingConnection)
-        enable_all_page(m_session->isOpen());
+    if (m_session->isEngaged() != m_isShowingConnection)
+        enable_all_page(m_session->isEngaged());
 }
 
 void form_base::enable_all_page(bool enabled)

@@ -56,7 +56,9 @@ public:
     const KvUartPort &port() const;
 
     // Operations of the session, for callers of the window.
-    void open_port(const QString &portName, int baudRate);
+    /// `source`: the name or path of a port, or any other text that SourceAddress reads; `baudRate` counts where it
+    /// gives none.
+    void open_port(const QString &source, int baudRate);
     void try_read_prod_info();
     void onKbootFrameRecv(const QByteArray &payload);
     void on_orientation_preset_changed(OrientationPreset preset);

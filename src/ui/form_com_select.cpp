@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QFileDialog>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -12,7 +13,9 @@
 #include "app/app_log.h"
 #include "app/settings_keys.h"
 #include "app/window_host.h"
+#include "link/source_identity.h"
 #include "ui/device_text.h"
+#include "ui/recent_sources.h"
 #include "ui_form_com_select.h"
 
 namespace {
@@ -37,7 +40,7 @@ QString pathProblem(const QString &path, port_choice::PathState state)
     case port_choice::PathState::Usable:
         return {};
     case port_choice::PathState::Empty:
-        return form_com_select::tr("Choose a port or type its path.");
+        return form_com_select::tr("Choose a port, or type its path or an address.");
     case port_choice::PathState::Missing:
         return form_com_select::tr("%1 is not there at the moment. Plug the device in, or choose another port.")
             .arg(path);
@@ -74,6 +77,12 @@ form_com_select::form_com_select(QWidget *parent, PortSource source)
         updateState();
     });
     connect(m_ui->CB_baud, &QComboBox::editTextChanged, this, &form_com_select::updateState);
+    connect(m_ui->CB_recent, &QComboBox::activated, this, [this](int index) {
+        m_userChose = true;
+        m_ui->LE_path->setText(m_recent.at(index).text());
+    });
+    connect(m_ui->BTN_file, &QPushButton::clicked, this, &form_com_select::chooseFile);
+    connect(m_ui->CHK_reconnect, &QCheckBox::clicked, this, [this](bool on) { m_remembered.reconnects = on; });
     updateState();
     WindowHost::attach(this, settings_keys::kPortGeometry);
 }
@@ -84,14 +93,16 @@ void form_com_select::accept()
 {
     if (!m_ui->BTN_open->isEnabled())
         return;
-    m_portName = typedPath();
-    m_baudRate = port_choice::parseBaud(m_ui->CB_baud->currentText());
-    const int row = port_choice::indexOfPath(m_ports, m_portName);
+    QString problem;
+    m_accepted = typedAddress(&problem).value_or(m_accepted);
+    m_reconnects = m_ui->CHK_reconnect->isChecked();
+    const bool isPort = m_accepted.kind == SourceKind::Serial;
+    const int row = isPort ? port_choice::indexOfPath(m_ports, m_accepted.name) : -1;
     m_remembered.port = row >= 0 ? m_ports[row] : port_choice::PortEntry{};
-    m_remembered.port.path = m_portName;
-    m_remembered.baudRate = m_baudRate;
+    m_remembered.port.path = isPort ? m_accepted.name : m_accepted.text();
+    m_remembered.baudRate = m_accepted.baudRate;
     QSettings settings(settings_keys::kFile, QSettings::IniFormat);
-    if (!port_choice::write(settings, m_remembered))
+    if (!port_choice::write(settings, m_remembered) || !recent_sources::add(settings, m_accepted))
         AppLog::logfile(QtWarningMsg, QStringLiteral("failed to store the serial port selection."));
     QDialog::accept();
 }
@@ -102,6 +113,7 @@ void form_com_select::showEvent(QShowEvent *event)
         m_userChose = false;
         m_ui->CB_baud->setCurrentText(QString::number(m_remembered.baudRate));
         m_ui->LE_path->clear();
+        fillRecent();
         updateRows(m_source());
         offerRemembered();
         // The field, not the list: the list's search by typed letters would turn a typed path into another port.
@@ -130,6 +142,7 @@ void form_com_select::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
         m_ui->retranslateUi(this);
+        fillRecent();
         updateState();
     }
     QDialog::changeEvent(event);
@@ -210,21 +223,91 @@ void form_com_select::rowChosen(QTreeWidgetItem *item)
 
 void form_com_select::updateState()
 {
-    const QString path = typedPath();
-    const bool isListed = port_choice::indexOfPath(m_ports, path) >= 0;
-    const port_choice::PathState state = isListed ? port_choice::PathState::Usable : port_choice::pathState(path);
-    const QString pathText = pathProblem(path, state);
-    const QString baudText = port_choice::baudProblem(m_ui->CB_baud->currentText());
+    QString problem;
+    const std::optional<SourceAddress> address = typedAddress(&problem);
+    const QString pathText = addressProblem(address, problem);
+    // A rate in the address counts; a file has none.
+    const bool isRateGiven =
+        address && (address->kind == SourceKind::File || SourceAddress::parse(typedText(), &problem, 0)->baudRate != 0);
+    const QString baudText = isRateGiven ? QString() : port_choice::baudProblem(m_ui->CB_baud->currentText());
+    m_ui->CB_baud->setEnabled(!isRateGiven);
+    if (isRateGiven && address->kind != SourceKind::File) {
+        const QSignalBlocker quiet(m_ui->CB_baud);
+        m_ui->CB_baud->setCurrentText(QString::number(address->baudRate));
+    }
     m_ui->LBL_pathProblem->setText(pathText);
     m_ui->LBL_baudProblem->setText(baudText);
+    updateReconnect(address);
 
     // A missing device may be back a moment later: this is reported, but does not prevent a try.
-    const bool pathOk = state == port_choice::PathState::Usable || state == port_choice::PathState::Missing;
+    const bool isMissing = address && address->kind == SourceKind::Serial
+                           && port_choice::pathState(address->name) == port_choice::PathState::Missing;
+    const bool pathOk = address && (pathText.isEmpty() || isMissing);
     m_ui->BTN_open->setEnabled(pathOk && baudText.isEmpty());
     m_ui->BTN_open->setToolTip(device_text::plainToolTip(!pathOk ? pathText : baudText));
 }
 
-QString form_com_select::typedPath() const
+QString form_com_select::addressProblem(const std::optional<SourceAddress> &address, const QString &problem) const
+{
+    if (!address || address->kind != SourceKind::Serial || port_choice::indexOfPath(m_ports, address->name) >= 0)
+        return problem;
+    return pathProblem(address->name, port_choice::pathState(address->name));
+}
+
+/// Only what can be told from all other devices may come back by itself; a USB adapter with a serial number does unless
+/// the user says otherwise.
+void form_com_select::updateReconnect(const std::optional<SourceAddress> &address)
+{
+    SourceIdentity identity = address ? SourceIdentity::of(*address) : SourceIdentity();
+    if (const qsizetype row = port_choice::indexOfPath(m_ports, typedPath()); row >= 0)
+        identity.serialNumber = m_ports[row].serialNumber;
+    const bool isUnique = address && identity.isUnique();
+    m_ui->CHK_reconnect->setEnabled(isUnique);
+    m_ui->CHK_reconnect->setChecked(isUnique && m_remembered.reconnects.value_or(!identity.serialNumber.isEmpty()));
+    m_ui->CHK_reconnect->setToolTip(
+        isUnique ? tr("Opens the same device again when it was lost and is back")
+                 : tr("Not for this source: another device could not be told from it. An adapter with a serial number, "
+                      "a path in /dev/serial/by-id or an address on the network can be."));
+}
+
+void form_com_select::fillRecent()
+{
+    m_recent = recent_sources::read(QSettings(settings_keys::kFile, QSettings::IniFormat));
+    m_ui->CB_recent->clear();
+    for (const SourceAddress &address : m_recent)
+        m_ui->CB_recent->addItem(address.text());
+    m_ui->CB_recent->setCurrentIndex(-1);
+    m_ui->CB_recent->setEnabled(!m_recent.isEmpty());
+}
+
+void form_com_select::chooseFile()
+{
+    auto *dialog = new QFileDialog(this, tr("Open Capture or Recording"), {},
+                                   tr("Captures and recordings (*.mcap *.csv);;All files (*)"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    connect(dialog, &QFileDialog::fileSelected, this, [this](const QString &path) {
+        m_userChose = true;
+        m_ui->LE_path->setText(QLatin1String("file:") + path);
+    });
+    dialog->open();
+}
+
+QString form_com_select::typedText() const
 {
     return m_ui->LE_path->text().trimmed();
+}
+
+std::optional<SourceAddress> form_com_select::typedAddress(QString *problem) const
+{
+    const int baudRate = port_choice::parseBaud(m_ui->CB_baud->currentText());
+    return SourceAddress::parse(typedText(), problem, baudRate);
+}
+
+/// The path of the port that is typed; empty for another kind of source.
+QString form_com_select::typedPath() const
+{
+    QString problem;
+    const std::optional<SourceAddress> address = typedAddress(&problem);
+    return address && address->kind == SourceKind::Serial ? address->name : QString();
 }

@@ -14,13 +14,15 @@ namespace Ui {
 class form_com_select;
 }
 
-/// Asks for the serial port and the baud rate. The list follows plugging and unplugging while the window is visible; a
-/// path can also be typed, such as a pseudo-terminal or a link to a device file. The last accepted choice is kept in
-/// the settings file and offered first next time. Nothing is opened here.
+/// Asks for the source and the baud rate. The list of serial ports follows plugging and unplugging while the window is
+/// visible; a path can also be typed, such as a pseudo-terminal or a link to a device file, or an address on the
+/// network or of a file, see SourceAddress. The last accepted choice is kept in the settings file and offered first
+/// next time, and the ones before it in a list. Nothing is opened here.
 ///
-/// The path field is authoritative: choosing a row fills it, and the row whose path it holds is the selected one.
+/// The field is authoritative: choosing a row fills it, and the row whose path it holds is the selected one. A rate in
+/// an address counts, otherwise that of the list of rates.
 ///
-/// Open it with open(). portName() and baudRate() give the last accepted values, so a cancelled run changes nothing.
+/// Open it with open(). source() gives the last accepted value, so a cancelled run changes nothing.
 class form_com_select : public QDialog
 {
     Q_OBJECT
@@ -33,10 +35,14 @@ public:
     explicit form_com_select(QWidget *parent = nullptr, PortSource source = port_choice::systemPorts);
     ~form_com_select() override;
 
-    /// Name or path of the port that was accepted last; empty before the first.
-    QString portName() const { return m_portName; }
-    /// Baud rate that was accepted last; port_choice::kDefaultBaud before the first.
-    int baudRate() const { return m_baudRate; }
+    /// The source that was accepted last; a port without a name before the first.
+    const SourceAddress &source() const { return m_accepted; }
+    /// The name of that source; empty before the first.
+    QString portName() const { return m_accepted.shortText(); }
+    /// Its baud rate; port_choice::kDefaultBaud before the first.
+    int baudRate() const { return m_accepted.baudRate; }
+    /// It is to be opened again after it was lost.
+    bool reconnects() const { return m_reconnects; }
 
 public slots:
     void accept() override;
@@ -54,7 +60,13 @@ private:
     void selectRowOfPath();
     void rowChosen(QTreeWidgetItem *item);
     void updateState();
+    QString addressProblem(const std::optional<SourceAddress> &address, const QString &problem) const;
+    void updateReconnect(const std::optional<SourceAddress> &address);
+    void fillRecent();
+    void chooseFile();
+    QString typedText() const;
     QString typedPath() const;
+    std::optional<SourceAddress> typedAddress(QString *problem) const;
 
     std::unique_ptr<Ui::form_com_select> m_ui;
     PortSource m_source;
@@ -62,6 +74,7 @@ private:
     QList<port_choice::PortEntry> m_ports; ///< the rows of the list
     port_choice::Remembered m_remembered;
     bool m_userChose = false; ///< from then on the dialog no longer changes the path automatically
-    QString m_portName;
-    int m_baudRate = port_choice::kDefaultBaud;
+    QList<SourceAddress> m_recent;
+    SourceAddress m_accepted;
+    bool m_reconnects = false;
 };

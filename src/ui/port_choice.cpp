@@ -107,6 +107,9 @@ Remembered read(const QSettings &settings)
                                && readId(settings, settings_keys::kPortProduct, &remembered.port.productId);
     if (const int baud = parseBaud(settings.value(settings_keys::kBaudRate).toString()))
         remembered.baudRate = baud;
+    const QString reconnects = settings.value(settings_keys::kReconnect).toString();
+    if (reconnects == QLatin1String("true") || reconnects == QLatin1String("false"))
+        remembered.reconnects = reconnects == QLatin1String("true");
     return remembered;
 }
 
@@ -123,6 +126,10 @@ bool write(QSettings &settings, const Remembered &remembered)
         settings.remove(settings_keys::kPortProduct);
         settings.remove(settings_keys::kPortSerial);
     }
+    if (remembered.reconnects)
+        settings.setValue(settings_keys::kReconnect, *remembered.reconnects);
+    else
+        settings.remove(settings_keys::kReconnect);
     settings.sync();
     return settings.status() == QSettings::NoError;
 }

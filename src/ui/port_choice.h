@@ -5,16 +5,19 @@
 #include <QStringList>
 #include <QtGlobal>
 
+#include <optional>
+
+#include "link/source_address.h"
+
 class QSettings;
 
 /// The decisions of the port selection that need no window: which port to offer first, whether a baud rate and a path
 /// make sense, and what the settings file remembers from one start to the next. Any thread.
 namespace port_choice {
 
-inline constexpr int kMinimumBaud = 1200;
-/// The highest rate that serial drivers know by name.
-inline constexpr int kMaximumBaud = 4'000'000;
-inline constexpr int kDefaultBaud = 115200;
+inline constexpr int kMinimumBaud = SourceAddress::kMinimumBaud;
+inline constexpr int kMaximumBaud = SourceAddress::kMaximumBaud;
+inline constexpr int kDefaultBaud = SourceAddress::kDefaultBaud;
 
 /// The rates that devices and adapters usually run at, ascending.
 QStringList usualBaudRates();
@@ -42,8 +45,9 @@ QString usbIdText(const PortEntry &port);
 /// The last connection.
 struct Remembered
 {
-    PortEntry port; ///< only the path and the identity are kept; the path may be empty
+    PortEntry port; ///< only the path, or the address of a source, and the identity are kept; the path may be empty
     int baudRate = kDefaultBaud;
+    std::optional<bool> reconnects; ///< none: as the source's identity allows
 };
 
 /// Reads the remembered connection. Values that are missing, out of range or garbage are replaced by defaults.

@@ -36,6 +36,8 @@ QString session_text::refusal(Refusal refusal)
         return Text::tr("A firmware download is running and must finish first.");
     case Refusal::Closing:
         return Text::tr("The port is being closed.");
+    case Refusal::Waiting:
+        return Text::tr("The connection was lost. The device is waited for.");
     case Refusal::OverUdp:
         return Text::tr(
             "Over UDP the device can only be listened to: commands may get lost or arrive in another order. "
@@ -52,6 +54,8 @@ QString session_text::refusal(Refusal refusal)
 
 QString session_text::connection(const DeviceSession &session)
 {
+    if (session.isReturning())
+        return Text::tr("The connection was lost.\nWaiting for the device...");
     switch (session.state()) {
     case SessionState::Bootloader:
         return Text::tr("The device runs its bootloader.\nIt sends no data until it restarts.");

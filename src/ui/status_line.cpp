@@ -79,7 +79,7 @@ void StatusLine::showClosed()
 
 void StatusLine::retranslate()
 {
-    if (!m_session->isOpen())
+    if (!m_session->isEngaged())
         m_state->setText(tr("Unconnected..."));
 }
 

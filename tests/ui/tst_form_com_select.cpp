@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
@@ -32,7 +33,9 @@ struct Bench
     form_com_select dialog{nullptr, [this] { return ports; }};
     QTreeWidget *tree = dialog.findChild<QTreeWidget *>();
     QLineEdit *path = dialog.findChild<QLineEdit *>(QStringLiteral("LE_path"));
-    QComboBox *baud = dialog.findChild<QComboBox *>();
+    QComboBox *baud = dialog.findChild<QComboBox *>(QStringLiteral("CB_baud"));
+    QComboBox *recent = dialog.findChild<QComboBox *>(QStringLiteral("CB_recent"));
+    QCheckBox *reconnect = dialog.findChild<QCheckBox *>();
     QPushButton *open = dialog.findChild<QPushButton *>(QStringLiteral("BTN_open"));
 
     explicit Bench(const QList<PortEntry> &plugged = {}) : ports(plugged) { show(); }
@@ -137,6 +140,40 @@ private slots:
 
         bench.ports.clear();
         QTRY_COMPARE(bench.tree->topLevelItemCount(), 0);
+    }
+
+    void acceptsAnAddressAndOffersItAgain()
+    {
+        const QString address = QStringLiteral("rfc2217://lab-pc:4001?baud=921600");
+        {
+            Bench bench({usbPort(0, QStringLiteral("A"))});
+            QVERIFY(bench.reconnect->isChecked()); // an adapter with a serial number
+            bench.type(bench.path, QStringLiteral("udp://lab-pc"));
+            QVERIFY(bench.pathProblem().contains(QLatin1String("Add the port")) && !bench.open->isEnabled());
+            QVERIFY(!bench.reconnect->isEnabled());
+            bench.type(bench.path, address);
+            QVERIFY(!bench.baud->isEnabled()); // the address has a rate
+            QVERIFY(bench.reconnect->isEnabled() && !bench.reconnect->isChecked());
+            QTest::mouseClick(bench.reconnect, Qt::LeftButton, {}, QPoint(8, bench.reconnect->height() / 2));
+            QTest::keyClick(bench.path, Qt::Key_Return);
+            QCOMPARE(bench.dialog.source().text(), address);
+            QVERIFY(bench.dialog.reconnects());
+            bench.show();
+            bench.type(bench.path, QStringLiteral("tcp://[::1]:80"));
+            bench.type(bench.baud, QStringLiteral("57600"));
+            QTest::keyClick(bench.baud, Qt::Key_Return);
+            QCOMPARE(bench.dialog.source().text(), QLatin1String("tcp://[::1]:80?baud=57600"));
+        }
+        Bench bench({usbPort(0, QStringLiteral("A"))});
+        QCOMPARE(bench.path->text(), QLatin1String("tcp://[::1]:80?baud=57600"));
+        QCOMPARE(bench.recent->count(), 2);
+        bench.recent->setFocus();
+        QTest::keyClick(bench.recent, Qt::Key_Down);
+        QTest::keyClick(bench.recent, Qt::Key_Down);
+        QCOMPARE(bench.path->text(), address);
+        QCOMPARE(bench.selected(), QString());
+        bench.type(bench.path, QStringLiteral("file:walk.mcap"));
+        QVERIFY(bench.open->isEnabled() && !bench.baud->isEnabled() && !bench.reconnect->isEnabled());
     }
 
     void refusesBadInputWithAReason()

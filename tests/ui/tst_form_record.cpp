@@ -181,7 +181,7 @@ private slots:
         QVERIFY(bench.start());
         const QString first = bench.recorder.filePath();
         if (isLoss)
-            bench.recorder.expectLoss();
+            bench.recorder.setLossExpected(Recorder::Loss::Final);
         bench.recorder.setLinkOpen(false);
         bench.recorder.waitForFile();
         QCOMPARE(bench.text("LBL_state") == QLatin1String("Waiting for the connection to come back"),

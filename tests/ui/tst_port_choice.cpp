@@ -7,6 +7,7 @@
 #include "support/files.h"
 #include "support/pty_pair.h"
 #include "ui/port_choice.h"
+#include "ui/recent_sources.h"
 
 using namespace port_choice;
 
@@ -79,13 +80,31 @@ private slots:
     {
         const QTemporaryDir folder;
         QSettings settings(folder.filePath(settings_keys::kFile), QSettings::IniFormat);
-        const Remembered device{usbPort("/dev/serial/by-id/a,b", "00,1%"), 460800};
+        const Remembered device{usbPort("/dev/serial/by-id/a,b", "00,1%"), 460800, false};
         QVERIFY(write(settings, device));
         QCOMPARE(read(settings).port, device.port);
         QCOMPARE(read(settings).baudRate, 460800);
+        QVERIFY(read(settings).reconnects == false);
         // A port without identity must not inherit that of the previous one.
-        QVERIFY(write(settings, {plainPort("/dev/pts/3"), 9600}));
+        QVERIFY(write(settings, {plainPort("/dev/pts/3"), 9600, {}}));
         QCOMPARE(read(settings).port, plainPort("/dev/pts/3"));
+        QVERIFY(!read(settings).reconnects);
+    }
+
+    void remembersRecentSources()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(settings_keys::kFile);
+        QVERIFY(writeFile(path, "[SOURCES]\n1=tcp://a:1\n2=\n3=mqtt://b:1\n4=" + QByteArray(100000, 'x')
+                                    + "\n5=tcp://a:1?baud=115200\n6=a, b\n7=udp://c:99999\n8=demo:\n9=demo:\n"));
+        QSettings settings(path, QSettings::IniFormat);
+        QCOMPARE(recent_sources::read(settings).size(), 2);
+        const auto named = [](int i) { return SourceAddress::serial(QStringLiteral("/dev/tty,%1 ?").arg(i), 9600); };
+        for (int i = 0; i < 12; ++i)
+            QVERIFY(recent_sources::add(settings, named(i % 10)));
+        const QList<SourceAddress> recent = recent_sources::read(QSettings(path, QSettings::IniFormat));
+        QCOMPARE(recent.size(), recent_sources::kMost);
+        QVERIFY(recent.at(0) == named(1) && recent.at(1) == named(0) && recent.at(2) == named(9));
     }
 
     void judgesBaudRates()

@@ -123,8 +123,9 @@ private slots:
         desk.find<QAction>("action_serial_stop")->trigger();
         recorder.waitForFile();
         QVERIFY(!recorder.isWaitingForLink());
-        QCOMPARE(filesLike("data_*.csv").size(), 2);
+        QCOMPARE(filesLike("data_*.csv").size(), 3); // two parts, and the marker of the gap beside the second
         QCOMPARE(filesLike("data_*.json").size(), 2);
+        QVERIFY(contents(RecordingSidecars::markersPath(recorder.filePath())).contains("The connection was lost for"));
     }
 };
 

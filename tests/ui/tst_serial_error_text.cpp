@@ -1,8 +1,10 @@
 #include <QSerialPort>
 #include <QtTest>
 
+#include "link/source_failure.h"
 #include "support/pty_pair.h"
 #include "ui/serial_error_text.h"
+#include "ui/source_error_text.h"
 
 using serial_error_text::describe;
 using serial_error_text::facts;
@@ -52,6 +54,22 @@ private slots:
         pty.unplug();
         QTRY_VERIFY(!errors.isEmpty());
         QVERIFY2(text(first).contains(QLatin1String("unplugged")), qPrintable(text(first)));
+    }
+
+    // Every fault of a source has a sentence of its own that names the source or gives its own words.
+    void explainsEverySource()
+    {
+        QStringList told;
+        const SourceAddress address{SourceKind::Tcp, QStringLiteral("lab-pc"), 4001, 9600};
+        for (int fault = int(SourceFault::HostNotFound); fault <= int(SourceFault::File); ++fault) {
+            const QString text = source_error_text::describe(
+                {address, SourceFault(fault), QStringLiteral("own words"), QSerialPort::NoError, true});
+            QVERIFY2(text.contains(QLatin1String("lab-pc")) || text.contains(QLatin1String("own words")),
+                     qPrintable(QString::number(fault)));
+            QVERIFY2(!text.contains(u'%') && !told.contains(text), qPrintable(text));
+            told.append(text);
+        }
+        QCOMPARE(source_error_text::describe({}), QString());
     }
 
     void putsNoForeignTextIntoTheCommand()
