@@ -14,11 +14,12 @@
 #include "app/appearance.h"
 #include "app/application_fonts.h"
 #include "app/initial_language_picker.h"
+#include "app/instance.h"
 #include "app/message_log.h"
 #include "app/settings_file.h"
 #include "app/settings_keys.h"
 #include "link/node_data.h"
-#include "ui/form_base.h"
+#include "ui/main_windows.h"
 
 namespace {
 
@@ -28,7 +29,7 @@ constexpr int kSamplesPerPixel = 6; // for the 3D and chart views
 int qMain(int argc, char **argv)
 {
     QApplication application(argc, argv);
-    message_log::open(QStringLiteral("qt6_debug.log"));
+    message_log::open(instance::fileName(QStringLiteral("qt6_debug.log")));
     message_log::install();
     settings_file::setAsideIfDamaged(settings_keys::kFile);
 
@@ -50,12 +51,13 @@ int qMain(int argc, char **argv)
         return EXIT_FAILURE;
     }
 
-    auto window = std::make_unique<form_base>();
-    window->show();
+    auto windows = std::make_unique<MainWindows>();
+    windows->open();
     const int exitCode = QApplication::exec();
 
-    const bool startsAgain = window->wantsRestart();
-    window.reset(); // the port is free for the next one
+    QCoreApplication::sendPostedEvents(windows.get());
+    const bool startsAgain = windows->wantsRestart();
+    windows.reset(); // the port is free for the next one
     if (startsAgain
         && !QProcess::startDetached(QCoreApplication::applicationFilePath(), application.arguments().mid(1)))
         qWarning() << "Failed to start the program again";

@@ -185,6 +185,90 @@
     </message>
 </context>
 <context>
+    <name>CaptureActions</name>
+    <message>
+        <source>Stop &amp;capture</source>
+        <translation>停止捕获(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Start &amp;capture</source>
+        <translation>开始捕获(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Captures every byte, sample and event into one file</source>
+        <translation>将每个字节、采样和事件捕获到一个文件中</translation>
+    </message>
+    <message>
+        <source>Capturing</source>
+        <translation>正在捕获</translation>
+    </message>
+    <message>
+        <source>Captured into %1</source>
+        <translation>已捕获到 %1</translation>
+    </message>
+</context>
+<context>
+    <name>CaptureBadge</name>
+    <message>
+        <source>Capture %1</source>
+        <translation>正在捕获 %1</translation>
+    </message>
+    <message>
+        <source>Capture: problem</source>
+        <translation>捕获出现问题</translation>
+    </message>
+</context>
+<context>
+    <name>CaptureFault</name>
+    <message>
+        <source>The capture %1 cannot be opened: %2</source>
+        <translation>无法打开捕获文件 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 is not a capture: it does not begin like an MCAP file.</source>
+        <translation>%1 不是捕获文件：其开头不符合 MCAP 文件格式。</translation>
+    </message>
+    <message>
+        <source>Nothing in the capture %1 can be read: it is empty or damaged.</source>
+        <translation>捕获文件 %1 中没有可读取的内容：文件为空或已损坏。</translation>
+    </message>
+    <message>
+        <source>%1 holds no received bytes that could be played back. Another program may have written it.</source>
+        <translation>%1 中没有可回放的接收字节。该文件可能由其他程序写入。</translation>
+    </message>
+    <message>
+        <source>The capture %1 cannot be created: %2</source>
+        <translation>无法创建捕获文件 %1：%2</translation>
+    </message>
+    <message>
+        <source>The capture %1 has ended: %2. What was written before is complete.</source>
+        <translation>捕获 %1 已结束：%2。此前写入的内容完整。</translation>
+    </message>
+    <message>
+        <source>The capture %1 has ended: the file was deleted or moved.</source>
+        <translation>捕获 %1 已结束：文件已被删除或移动。</translation>
+    </message>
+    <message>
+        <source>The capture %1 is being written at this moment.</source>
+        <translation>捕获文件 %1 当前正在写入。</translation>
+    </message>
+    <message>
+        <source>The capture %1 cannot be repaired: its folder is read-only. It has not been changed.</source>
+        <translation>无法修复捕获文件 %1：其文件夹为只读。文件未被更改。</translation>
+    </message>
+    <message>
+        <source>The capture %1 cannot be repaired: %2. It has not been changed.</source>
+        <translation>无法修复捕获文件 %1：%2。文件未被更改。</translation>
+    </message>
+</context>
+<context>
+    <name>CaptureRun</name>
+    <message>
+        <source>the folder cannot be created</source>
+        <translation>无法创建文件夹</translation>
+    </message>
+</context>
+<context>
     <name>CeilingField</name>
     <message>
         <source>now %1</source>
@@ -222,11 +306,11 @@
     </message>
     <message>
         <source>In force: %1 Hz, as the rate is now %2 Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>实际生效：%1 Hz，因当前速率为 %2 Hz</translation>
     </message>
     <message>
         <source>Apply %1 Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>应用 %1 Hz</translation>
     </message>
 </context>
 <context>
@@ -358,14 +442,14 @@
     </message>
     <message>
         <source>Only noise is arriving. The baud rate may be wrong.</source>
-        <translation type="unfinished"></translation>
+        <translation>仅收到噪声。波特率可能有误。</translation>
     </message>
 </context>
 <context>
     <name>DashboardWindow</name>
     <message>
         <source>This window could not be loaded. See the log for the reason.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法加载此窗口。原因请见日志。</translation>
     </message>
 </context>
 <context>
@@ -423,7 +507,11 @@
     </message>
     <message>
         <source>The device may be waiting in its bootloader for the rest. Plug it in, then connect to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>设备可能正在引导程序中等待其余数据。请接入设备，然后连接。</translation>
+    </message>
+    <message>
+        <source>Connection error.</source>
+        <translation>连接错误。</translation>
     </message>
 </context>
 <context>
@@ -446,7 +534,7 @@
     </message>
     <message>
         <source>The selected node is not sending any at the moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>所选节点当前没有发送采样数据。</translation>
     </message>
 </context>
 <context>
@@ -860,23 +948,23 @@
     </message>
     <message>
         <source>Freeze the charts; the table keeps updating</source>
-        <translation type="unfinished"></translation>
+        <translation>暂停图表，表格继续更新</translation>
     </message>
     <message>
         <source>Continue with the newest samples</source>
-        <translation type="unfinished"></translation>
+        <translation>从最新数据继续</translation>
     </message>
     <message>
         <source>Overlay</source>
-        <translation type="unfinished"></translation>
+        <translation>叠加</translation>
     </message>
     <message>
         <source>Show each node in a chart of its own</source>
-        <translation type="unfinished"></translation>
+        <translation>每个节点单独显示在一个图表中</translation>
     </message>
     <message>
         <source>Show one quantity of all chosen nodes in one plot</source>
-        <translation type="unfinished"></translation>
+        <translation>在一个图表中显示所有所选节点的同一物理量</translation>
     </message>
 </context>
 <context>
@@ -979,23 +1067,30 @@ Pa</translation>
     </message>
     <message>
         <source>Move the node and its charts up</source>
-        <translation type="unfinished"></translation>
+        <translation>上移节点及其图表</translation>
     </message>
     <message>
         <source>Alt+Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt+Up</translation>
     </message>
     <message>
         <source>Move the node and its charts down</source>
-        <translation type="unfinished"></translation>
+        <translation>下移节点及其图表</translation>
     </message>
     <message>
         <source>Alt+Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt+Down</translation>
     </message>
     <message>
         <source>%1 nodes are already shown. Remove one first.</source>
-        <translation type="unfinished"></translation>
+        <translation>已显示 %1 个节点。请先移除一个。</translation>
+    </message>
+</context>
+<context>
+    <name>KvUartPort</name>
+    <message>
+        <source>This program cannot open files.</source>
+        <translation>此程序无法打开文件。</translation>
     </message>
 </context>
 <context>
@@ -1168,7 +1263,7 @@ Pa</translation>
     </message>
     <message>
         <source>The mesh file is damaged, or of an unsupported kind.</source>
-        <translation type="unfinished"></translation>
+        <translation>网格文件已损坏，或类型不受支持。</translation>
     </message>
 </context>
 <context>
@@ -1197,7 +1292,7 @@ Pa</translation>
     <name>NodeOverlay</name>
     <message>
         <source>Node %1</source>
-        <translation type="unfinished">节点 %1</translation>
+        <translation>节点 %1</translation>
     </message>
 </context>
 <context>
@@ -1236,14 +1331,25 @@ Pa</translation>
     </message>
     <message>
         <source>Line %1 of the OBJ file contains a coordinate that is not a number.</source>
-        <translation type="unfinished"></translation>
+        <translation>OBJ 文件第 %1 行包含非数字的坐标。</translation>
     </message>
 </context>
 <context>
     <name>OverlayChart</name>
     <message>
         <source>Show %1 of all chosen nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>显示所有所选节点的 %1</translation>
+    </message>
+</context>
+<context>
+    <name>PictureChips</name>
+    <message>
+        <source>%1x</source>
+        <translation>%1 倍</translation>
+    </message>
+    <message>
+        <source>PNG at %1 times the size</source>
+        <translation>PNG，尺寸放大到 %1 倍</translation>
     </message>
 </context>
 <context>
@@ -1266,6 +1372,13 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>Recorder</name>
+    <message>
+        <source>The connection was lost for %1 s.</source>
+        <translation>连接曾中断 %1 秒。</translation>
+    </message>
+</context>
+<context>
     <name>RecordingActions</name>
     <message>
         <source>Marker %1 at %2 s</source>
@@ -1284,10 +1397,6 @@ Pa</translation>
         <translation>记录已停止：共 %1 条</translation>
     </message>
     <message>
-        <source>Markers go into recordings: start one first</source>
-        <translation>标记会写入记录：请先开始记录</translation>
-    </message>
-    <message>
         <source>&amp;Stop recording</source>
         <translation>停止记录(&amp;S)</translation>
     </message>
@@ -1303,6 +1412,18 @@ Pa</translation>
         <source>Records with the last folder and name</source>
         <translation>使用上次的文件夹和名称进行记录</translation>
     </message>
+    <message>
+        <source>Marker</source>
+        <translation>标记</translation>
+    </message>
+    <message>
+        <source>Marker at %1 s</source>
+        <translation>标记位于 %1 s</translation>
+    </message>
+    <message>
+        <source>Markers go into recordings and captures: start one first</source>
+        <translation>标记会写入记录或捕获文件：请先开始记录或捕获</translation>
+    </message>
 </context>
 <context>
     <name>RecordingBadge</name>
@@ -1316,7 +1437,26 @@ Pa</translation>
     </message>
     <message>
         <source>Recording: problem</source>
-        <translation type="unfinished"></translation>
+        <translation>记录出现问题</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingReader</name>
+    <message>
+        <source>The recording %1 cannot be opened: %2</source>
+        <translation>无法打开记录文件 %1：%2</translation>
+    </message>
+    <message>
+        <source>The recording %1 is empty.</source>
+        <translation>记录文件 %1 为空。</translation>
+    </message>
+    <message>
+        <source>%1 is not a recording of this program: its columns are different.</source>
+        <translation>%1 不是本程序的记录文件：列不一致。</translation>
+    </message>
+    <message>
+        <source>The recording %1 holds no records.</source>
+        <translation>记录文件 %1 中没有任何记录。</translation>
     </message>
 </context>
 <context>
@@ -1346,14 +1486,6 @@ Pa</translation>
         <translation>图片</translation>
     </message>
     <message>
-        <source>%1x</source>
-        <translation>%1 倍</translation>
-    </message>
-    <message>
-        <source>PNG at %1 times the size</source>
-        <translation>PNG，尺寸放大到 %1 倍</translation>
-    </message>
-    <message>
         <source>Save pictures…</source>
         <translation>保存图片…</translation>
     </message>
@@ -1363,7 +1495,7 @@ Pa</translation>
     </message>
     <message>
         <source>The buttons of each chart save only that chart, in the same way.</source>
-        <translation type="unfinished"></translation>
+        <translation>各图表上的按钮以同样方式仅保存该图表。</translation>
     </message>
 </context>
 <context>
@@ -1425,7 +1557,7 @@ Pa</translation>
     </message>
     <message>
         <source>Continue with the newest samples</source>
-        <translation type="unfinished"></translation>
+        <translation>从最新数据继续</translation>
     </message>
 </context>
 <context>
@@ -1492,6 +1624,13 @@ Pa</translation>
     <message>
         <source>Pressure</source>
         <translation>气压</translation>
+    </message>
+</context>
+<context>
+    <name>SessionCapture</name>
+    <message>
+        <source>The disk is too slow. Not captured: %1 chunks or samples.</source>
+        <translation>磁盘速度过慢。未捕获的数据块或采样：%1 个。</translation>
     </message>
 </context>
 <context>
@@ -1565,10 +1704,6 @@ Pa</translation>
         <translation>打开…</translation>
     </message>
     <message>
-        <source>Tell what a saved snapshot holds</source>
-        <translation>查看已保存快照的内容</translation>
-    </message>
-    <message>
         <source>Level (dB, 0 dB = 1 %1)</source>
         <translation>电平 (dB，0 dB = 1 %1)</translation>
     </message>
@@ -1577,12 +1712,20 @@ Pa</translation>
         <translation>数据块 %1 %</translation>
     </message>
     <message>
-        <source>Limits of the axes</source>
-        <translation>坐标轴范围</translation>
-    </message>
-    <message>
         <source>Statistics</source>
         <translation>统计</translation>
+    </message>
+    <message>
+        <source>Limits of the axes, size of pictures</source>
+        <translation>坐标轴范围、图片尺寸</translation>
+    </message>
+    <message>
+        <source>Show the contents of a saved snapshot</source>
+        <translation>显示已保存快照的内容</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>图片</translation>
     </message>
 </context>
 <context>
@@ -1622,90 +1765,90 @@ Pa</translation>
     <name>TimeChart</name>
     <message>
         <source>Waiting for samples</source>
-        <translation type="unfinished">正在等待采样数据</translation>
+        <translation>正在等待采样数据</translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation type="unfinished">已暂停</translation>
+        <translation>已暂停</translation>
     </message>
     <message>
         <source>Live</source>
-        <translation type="unfinished"></translation>
+        <translation>实时</translation>
     </message>
     <message>
         <source>Back to the newest samples</source>
-        <translation type="unfinished">回到最新数据</translation>
+        <translation>回到最新数据</translation>
     </message>
     <message>
         <source>End</source>
-        <translation type="unfinished">End</translation>
+        <translation>End</translation>
     </message>
     <message>
         <source>Span and limits of the axes</source>
-        <translation type="unfinished">时间跨度和坐标轴范围</translation>
+        <translation>时间跨度和坐标轴范围</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished">统计</translation>
+        <translation>统计</translation>
     </message>
     <message>
         <source>Remove the measuring cursors</source>
-        <translation type="unfinished">移除测量光标</translation>
+        <translation>移除测量光标</translation>
     </message>
     <message>
         <source>Measure between two cursors</source>
-        <translation type="unfinished">用两个光标测量</translation>
+        <translation>用两个光标测量</translation>
     </message>
     <message>
         <source>Esc</source>
-        <translation type="unfinished">Esc</translation>
+        <translation>Esc</translation>
     </message>
     <message>
         <source>A, B</source>
-        <translation type="unfinished">A、B</translation>
+        <translation>A、B</translation>
     </message>
     <message>
         <source>Reset the view</source>
-        <translation type="unfinished">重置视图</translation>
+        <translation>重置视图</translation>
     </message>
     <message>
         <source>Home</source>
-        <translation type="unfinished"></translation>
+        <translation>Home</translation>
     </message>
     <message>
         <source>Save a picture of the chart</source>
-        <translation type="unfinished">保存图表图片</translation>
+        <translation>保存图表图片</translation>
     </message>
     <message>
         <source>Save the visible samples</source>
-        <translation type="unfinished">保存可见区间的采样数据</translation>
+        <translation>保存可见区间的采样数据</translation>
     </message>
     <message>
         <source>Show all charts</source>
-        <translation type="unfinished">显示所有图表</translation>
+        <translation>显示所有图表</translation>
     </message>
     <message>
         <source>Show this chart alone</source>
-        <translation type="unfinished">仅显示此图表</translation>
+        <translation>仅显示此图表</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished">%1 s</translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>Show %1 seconds</source>
-        <translation type="unfinished">显示 %1 秒</translation>
+        <translation>显示 %1 秒</translation>
     </message>
     <message>
         <source>No new samples</source>
-        <translation type="unfinished">没有新的采样数据</translation>
+        <translation>没有新的采样数据</translation>
     </message>
 </context>
 <context>
     <name>TimeViewState</name>
     <message>
         <source>t %1</source>
-        <translation type="unfinished">t %1</translation>
+        <translation>t %1</translation>
     </message>
 </context>
 <context>
@@ -1827,7 +1970,7 @@ Pa</translation>
     </message>
     <message>
         <source>Trigger level; drag its line to change it</source>
-        <translation type="unfinished"></translation>
+        <translation>触发电平；拖动电平线可更改</translation>
     </message>
 </context>
 <context>
@@ -2101,10 +2244,6 @@ Pa</translation>
         <translation>打开串口...</translation>
     </message>
     <message>
-        <source>No hardware at hand? The simulator kv_simulator behaves like a device and prints the path of the port to open.</source>
-        <translation>手边没有硬件？模拟器 kv_simulator 的行为与真实设备相同，启动后会显示要打开的串口路径。</translation>
-    </message>
-    <message>
         <source>&amp;Serial</source>
         <translation>串口(&amp;S)</translation>
     </message>
@@ -2252,6 +2391,22 @@ Pa</translation>
         <source>Marks this moment in a file beside the recording</source>
         <translation>在记录的附属文件中标记此刻</translation>
     </message>
+    <message>
+        <source>No hardware at hand? The simulator behaves like a device.</source>
+        <translation>手边没有硬件？模拟器的行为与设备相同。</translation>
+    </message>
+    <message>
+        <source>Try without a device</source>
+        <translation>无设备试用</translation>
+    </message>
+    <message>
+        <source>Start &amp;capture</source>
+        <translation>开始捕获(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Ctrl+F9</source>
+        <translation>Ctrl+F9</translation>
+    </message>
 </context>
 <context>
     <name>form_com_select</name>
@@ -2288,14 +2443,6 @@ Pa</translation>
         <translation>未找到串口</translation>
     </message>
     <message>
-        <source>&amp;Port or path</source>
-        <translation>端口或路径(&amp;P)</translation>
-    </message>
-    <message>
-        <source>A port of the list, or a path typed by hand: a pseudo-terminal or a link to a device file</source>
-        <translation>列表中的端口，或手动输入的路径：伪终端或指向设备文件的链接</translation>
-    </message>
-    <message>
         <source>&amp;Baud rate</source>
         <translation>波特率(&amp;B)</translation>
     </message>
@@ -2312,10 +2459,6 @@ Pa</translation>
         <translation>取消</translation>
     </message>
     <message>
-        <source>Choose a port or type its path.</source>
-        <translation>请选择端口，或输入其路径。</translation>
-    </message>
-    <message>
         <source>%1 is not there at the moment. Plug the device in, or choose another port.</source>
         <translation>%1 当前不存在。请接入设备，或选择其他端口。</translation>
     </message>
@@ -2326,8 +2469,66 @@ Pa</translation>
     <message>
         <source>Plug the device in: it will appear here.
 
-To try the program without a device, start the simulator in a terminal with ./run or kv_simulator. It prints a path: type that below.</source>
-        <translation type="unfinished"></translation>
+To try the program without a device, type demo: below. A device on another computer has an address there, such as tcp://192.168.1.20:4001.</source>
+        <translation>接入设备后，它会显示在这里。
+
+要在没有设备的情况下试用本程序，请在下方输入“demo:”。其他计算机上的设备通过地址访问，例如 tcp://192.168.1.20:4001。</translation>
+    </message>
+    <message>
+        <source>&amp;Port or address</source>
+        <translation>串口或地址(&amp;P)</translation>
+    </message>
+    <message>
+        <source>A port, or tcp://host:port, rfc2217://host:port, udp://host:port</source>
+        <translation>串口，或 tcp://host:port、rfc2217://host:port、udp://host:port</translation>
+    </message>
+    <message>
+        <source>A port of the list, or typed by hand: the path of a port, or an address such as tcp://host:port, rfc2217://host:port?baud=115200, udp://host:port, file:path or demo:</source>
+        <translation>从列表中选择串口，或手动输入：串口路径，或地址，例如 tcp://host:port、rfc2217://host:port?baud=115200、udp://host:port、file:path 或 demo:</translation>
+    </message>
+    <message>
+        <source>&amp;File...</source>
+        <translation>文件(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>Play a capture or a recording</source>
+        <translation>回放捕获或记录文件</translation>
+    </message>
+    <message>
+        <source>&amp;Recent</source>
+        <translation>最近使用(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Sources opened last</source>
+        <translation>最近打开的数据源</translation>
+    </message>
+    <message>
+        <source>The sources that were opened last</source>
+        <translation>最近打开过的数据源</translation>
+    </message>
+    <message>
+        <source>Reco&amp;nnect</source>
+        <translation>自动重新连接(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Choose a port, or type its path or an address.</source>
+        <translation>请选择串口，或输入串口路径或地址。</translation>
+    </message>
+    <message>
+        <source>Opens the same device again when it was lost and is back</source>
+        <translation>设备断开并恢复后，重新打开同一设备</translation>
+    </message>
+    <message>
+        <source>Not for this source: another device could not be told from it. An adapter with a serial number, a path in /dev/serial/by-id or an address on the network can be.</source>
+        <translation>不适用于此数据源：无法将其与其他设备区分。带序列号的适配器、/dev/serial/by-id 中的路径或网络地址则可以区分。</translation>
+    </message>
+    <message>
+        <source>Open Capture or Recording</source>
+        <translation>打开捕获或记录文件</translation>
+    </message>
+    <message>
+        <source>Captures and recordings (*.mcap *.csv);;All files (*)</source>
+        <translation>捕获和记录文件 (*.mcap *.csv);;所有文件 (*)</translation>
     </message>
 </context>
 <context>
@@ -2657,15 +2858,15 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>Text that the device answers to commands, and the remains of damaged packets</source>
-        <translation type="unfinished"></translation>
+        <translation>设备对命令的文本应答，以及损坏数据包的残余</translation>
     </message>
     <message>
         <source>The latest damage on the line</source>
-        <translation type="unfinished"></translation>
+        <translation>线路上最近一次数据损坏</translation>
     </message>
     <message>
         <source>The device restarted or its time was set; what was lost in between is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>设备重启或其时间被设置；其间丢失的数据不明</translation>
     </message>
 </context>
 <context>
@@ -2916,11 +3117,11 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>&amp;Continue after the cable was unplugged</source>
-        <translation type="unfinished"></translation>
+        <translation>拔线重连后继续记录(&amp;C)</translation>
     </message>
     <message>
         <source>Not connected. Open a serial port first.</source>
-        <translation type="unfinished"></translation>
+        <translation>未连接。请先打开串口。</translation>
     </message>
 </context>
 <context>
@@ -3119,11 +3320,11 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>The device is not sending text. The baud rate may be wrong.</source>
-        <translation type="unfinished"></translation>
+        <translation>设备发送的不是文本。波特率可能有误。</translation>
     </message>
     <message>
         <source>%1 Hz needs %2 % of the line&apos;s capacity at %3 baud: samples will be lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>波特率为 %3 时，%1 Hz 需要线路容量的 %2 %：会丢失采样。</translation>
     </message>
 </context>
 <context>
@@ -3262,7 +3463,7 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>The 3D picture could not be loaded. See the log for the reason.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法加载三维画面。原因请见日志。</translation>
     </message>
 </context>
 <context>
@@ -3901,11 +4102,175 @@ Do not unplug the device.</source>
     </message>
     <message>
         <source>Not connected. Open a serial port first.</source>
-        <translation type="unfinished"></translation>
+        <translation>未连接。请先打开串口。</translation>
     </message>
     <message>
         <source>A firmware download is running and must finish first.</source>
-        <translation type="unfinished"></translation>
+        <translation>正在烧录固件，须先等待其完成。</translation>
+    </message>
+    <message>
+        <source>The connection was lost. The device is waited for.</source>
+        <translation>连接已断开。正在等待设备。</translation>
+    </message>
+    <message>
+        <source>Over UDP the device can only be listened to: commands may get lost or arrive in another order. Connect by tcp: or rfc2217: to send them.</source>
+        <translation>通过 UDP 只能接收设备的数据：命令可能丢失或乱序到达。要发送命令，请通过 tcp: 或 rfc2217: 连接。</translation>
+    </message>
+    <message>
+        <source>This is a recording: there is no device to send anything to.</source>
+        <translation>这是记录文件：没有可接收命令的设备。</translation>
+    </message>
+    <message>
+        <source>The baud rate of this source is not set from here. Connect by rfc2217: to set that of a serial server.</source>
+        <translation>此数据源的波特率不在此处设置。要设置串口服务器的波特率，请通过 rfc2217: 连接。</translation>
+    </message>
+    <message>
+        <source>The connection was lost.
+Waiting for the device...</source>
+        <translation>连接已断开。
+正在等待设备...</translation>
+    </message>
+</context>
+<context>
+    <name>source_address</name>
+    <message>
+        <source>&quot;?%1&quot; is not known here. Only the baud rate can follow, such as ?baud=%2.</source>
+        <translation>无法识别“?%1”。此处只能附加波特率，例如 ?baud=%2。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a baud rate. It is a whole number from %2 to %3.</source>
+        <translation>“%1”不是波特率。波特率是 %2 到 %3 之间的整数。</translation>
+    </message>
+    <message>
+        <source>The address of a network source looks like %1.</source>
+        <translation>网络数据源的地址格式如 %1。</translation>
+    </message>
+    <message>
+        <source>The bracket after the IPv6 address is missing, as in %1.</source>
+        <translation>IPv6 地址后缺少右方括号，正确写法如 %1。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an IPv6 address.</source>
+        <translation>“%1”不是 IPv6 地址。</translation>
+    </message>
+    <message>
+        <source>Only a colon and the port can follow the bracket, as in %1.</source>
+        <translation>方括号后只能是冒号和端口，例如 %1。</translation>
+    </message>
+    <message>
+        <source>An IPv6 address needs brackets, as in %1.</source>
+        <translation>IPv6 地址须加方括号，例如 %1。</translation>
+    </message>
+    <message>
+        <source>Add the host, as in %1.</source>
+        <translation>请加上主机，例如 %1。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the name or address of a host.</source>
+        <translation>“%1”不是主机名或主机地址。</translation>
+    </message>
+    <message>
+        <source>Add the port, as in %1.</source>
+        <translation>请加上端口，例如 %1。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a port. It is a whole number from 1 to 65535.</source>
+        <translation>“%1”不是端口。端口是 1 到 65535 之间的整数。</translation>
+    </message>
+    <message>
+        <source>Add the port, as in serial:/dev/ttyUSB0.</source>
+        <translation>请加上串口，例如 serial:/dev/ttyUSB0。</translation>
+    </message>
+    <message>
+        <source>Add the path of the file, as in file:recordings/walk.mcap.</source>
+        <translation>请加上文件路径，例如 file:recordings/walk.mcap。</translation>
+    </message>
+    <message>
+        <source>Nothing can follow &quot;demo:&quot;.</source>
+        <translation>“demo:”之后不能有其他内容。</translation>
+    </message>
+    <message>
+        <source>Choose a port, or type its path or an address.</source>
+        <translation>请选择串口，或输入串口路径或地址。</translation>
+    </message>
+    <message>
+        <source>This text is longer than any address.</source>
+        <translation>此文本过长，不可能是地址。</translation>
+    </message>
+    <message>
+        <source>This text contains characters that no address has.</source>
+        <translation>此文本包含地址中不会出现的字符。</translation>
+    </message>
+    <message>
+        <source>&quot;%1:&quot; is not known here. Sources are serial:, tcp:, rfc2217:, udp:, file: and demo:.</source>
+        <translation>无法识别“%1:”。可用的数据源为 serial:、tcp:、rfc2217:、udp:、file: 和 demo:。</translation>
+    </message>
+</context>
+<context>
+    <name>source_error_text</name>
+    <message>
+        <source>Another program is connected to %1, and only one can be.</source>
+        <translation>另有程序已连接到 %1，而它只允许一个连接。</translation>
+    </message>
+    <message>
+        <source>Close it there. If it is gone already, let the server drop old connections (ser2net: the option kickolduser).</source>
+        <translation>请关闭该程序。如果它已不存在，请让服务器断开旧连接（ser2net：选项 kickolduser）。</translation>
+    </message>
+    <message>
+        <source>%1 closed the connection.</source>
+        <translation>%1 关闭了连接。</translation>
+    </message>
+    <message>
+        <source>Another program may have connected to the same port, which ends this connection, or the server was stopped. Close the other program, or start the server, then open the source again.</source>
+        <translation>可能有其他程序连接到同一端口，因而中断了此连接；也可能是服务器已停止。请关闭该程序或启动服务器，然后重新打开数据源。</translation>
+    </message>
+    <message>
+        <source>The serial port at %1 does not accept 8 data bits without parity. Check the settings of the server.</source>
+        <translation>%1 的串口不支持 8 个数据位、无校验的设置。请检查服务器的设置。</translation>
+    </message>
+    <message>
+        <source>The serial port at %1 was set to %2 baud instead of %3. Choose a rate that it supports.</source>
+        <translation>%1 的串口波特率被设为 %2，而不是 %3。请选择其支持的波特率。</translation>
+    </message>
+    <message>
+        <source>There is no host with the name %1. Check its spelling, or enter its address instead.</source>
+        <translation>没有名为 %1 的主机。请检查拼写，或改为输入其地址。</translation>
+    </message>
+    <message>
+        <source>Nothing listens on port %1 of %2. Start the serial server there (such as ser2net), or check the port.</source>
+        <translation>%2 的端口 %1 上没有程序在监听。请在该主机上启动串口服务器（例如 ser2net），或检查端口。</translation>
+    </message>
+    <message>
+        <source>There is no way to %1 (%2). Check the network cable or Wi-Fi of both computers.</source>
+        <translation>无法到达 %1（%2）。请检查两台计算机的网线或 Wi-Fi。</translation>
+    </message>
+    <message>
+        <source>%1 did not answer. Check that it is switched on, and that no firewall blocks port %2.</source>
+        <translation>%1 没有应答。请确认其已开机，且没有防火墙阻止端口 %2。</translation>
+    </message>
+    <message>
+        <source>%1 closed the connection and gave the reason &quot;%2&quot;.</source>
+        <translation>%1 关闭了连接，原因为“%2”。</translation>
+    </message>
+    <message>
+        <source>Check the settings of the server and its serial port.</source>
+        <translation>请检查服务器及其串口的设置。</translation>
+    </message>
+    <message>
+        <source>The connection to %1 was lost: it does not answer any more. Check the network, then open the source again.</source>
+        <translation>与 %1 的连接已断开：对方不再应答。请检查网络，然后重新打开数据源。</translation>
+    </message>
+    <message>
+        <source>The simulator is not installed: there is no program &quot;%1&quot; beside this one. Install it, or connect a device.</source>
+        <translation>未安装模拟器：本程序所在的文件夹中没有程序“%1”。请安装模拟器，或连接设备。</translation>
+    </message>
+    <message>
+        <source>The simulator has ended.</source>
+        <translation>模拟器已结束。</translation>
+    </message>
+    <message>
+        <source>The simulator could not be started.</source>
+        <translation>无法启动模拟器。</translation>
     </message>
 </context>
 <context>

@@ -185,6 +185,90 @@
     </message>
 </context>
 <context>
+    <name>CaptureActions</name>
+    <message>
+        <source>Stop &amp;capture</source>
+        <translation>キャプチャを停止(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Start &amp;capture</source>
+        <translation>キャプチャを開始(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Captures every byte, sample and event into one file</source>
+        <translation>すべてのバイト、サンプル、イベントを 1 つのファイルにキャプチャします</translation>
+    </message>
+    <message>
+        <source>Capturing</source>
+        <translation>キャプチャ中</translation>
+    </message>
+    <message>
+        <source>Captured into %1</source>
+        <translation>キャプチャを %1 に保存しました</translation>
+    </message>
+</context>
+<context>
+    <name>CaptureBadge</name>
+    <message>
+        <source>Capture %1</source>
+        <translation>キャプチャ中 %1</translation>
+    </message>
+    <message>
+        <source>Capture: problem</source>
+        <translation>キャプチャ: 問題あり</translation>
+    </message>
+</context>
+<context>
+    <name>CaptureFault</name>
+    <message>
+        <source>The capture %1 cannot be opened: %2</source>
+        <translation>キャプチャ %1 を開けません: %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a capture: it does not begin like an MCAP file.</source>
+        <translation>%1 はキャプチャではありません。ファイルの先頭が MCAP 形式ではありません。</translation>
+    </message>
+    <message>
+        <source>Nothing in the capture %1 can be read: it is empty or damaged.</source>
+        <translation>キャプチャ %1 から読み込める内容がありません。空であるか、破損しています。</translation>
+    </message>
+    <message>
+        <source>%1 holds no received bytes that could be played back. Another program may have written it.</source>
+        <translation>%1 には再生できる受信データがありません。別のプログラムが書き込んだファイルの可能性があります。</translation>
+    </message>
+    <message>
+        <source>The capture %1 cannot be created: %2</source>
+        <translation>キャプチャ %1 を作成できません: %2</translation>
+    </message>
+    <message>
+        <source>The capture %1 has ended: %2. What was written before is complete.</source>
+        <translation>キャプチャ %1 が終了しました: %2。それまでの内容は完全に書き込まれています。</translation>
+    </message>
+    <message>
+        <source>The capture %1 has ended: the file was deleted or moved.</source>
+        <translation>ファイルが削除または移動されたため、キャプチャ %1 が終了しました。</translation>
+    </message>
+    <message>
+        <source>The capture %1 is being written at this moment.</source>
+        <translation>キャプチャ %1 は現在書き込み中です。</translation>
+    </message>
+    <message>
+        <source>The capture %1 cannot be repaired: its folder is read-only. It has not been changed.</source>
+        <translation>フォルダーが読み取り専用のため、キャプチャ %1 を修復できません。ファイルは変更されていません。</translation>
+    </message>
+    <message>
+        <source>The capture %1 cannot be repaired: %2. It has not been changed.</source>
+        <translation>キャプチャ %1 を修復できません: %2。ファイルは変更されていません。</translation>
+    </message>
+</context>
+<context>
+    <name>CaptureRun</name>
+    <message>
+        <source>the folder cannot be created</source>
+        <translation>フォルダーを作成できません</translation>
+    </message>
+</context>
+<context>
     <name>CeilingField</name>
     <message>
         <source>now %1</source>
@@ -222,11 +306,11 @@
     </message>
     <message>
         <source>In force: %1 Hz, as the rate is now %2 Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>適用中: %1 Hz（現在のレートが %2 Hz のため）</translation>
     </message>
     <message>
         <source>Apply %1 Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Hz を適用</translation>
     </message>
 </context>
 <context>
@@ -358,14 +442,14 @@
     </message>
     <message>
         <source>Only noise is arriving. The baud rate may be wrong.</source>
-        <translation type="unfinished"></translation>
+        <translation>ノイズしか受信していません。ボーレートが違う可能性があります。</translation>
     </message>
 </context>
 <context>
     <name>DashboardWindow</name>
     <message>
         <source>This window could not be loaded. See the log for the reason.</source>
-        <translation type="unfinished"></translation>
+        <translation>このウィンドウを読み込めませんでした。原因はログを確認してください。</translation>
     </message>
 </context>
 <context>
@@ -423,7 +507,11 @@
     </message>
     <message>
         <source>The device may be waiting in its bootloader for the rest. Plug it in, then connect to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスはブートローダーで残りのデータを待っている可能性があります。デバイスをケーブルでつないでから、「接続」を押してください。</translation>
+    </message>
+    <message>
+        <source>Connection error.</source>
+        <translation>接続エラーが発生しました。</translation>
     </message>
 </context>
 <context>
@@ -446,7 +534,7 @@
     </message>
     <message>
         <source>The selected node is not sending any at the moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>選択したノードは現在サンプルを送信していません。</translation>
     </message>
 </context>
 <context>
@@ -860,23 +948,23 @@
     </message>
     <message>
         <source>Freeze the charts; the table keeps updating</source>
-        <translation type="unfinished"></translation>
+        <translation>グラフを一時停止（表の更新は続きます）</translation>
     </message>
     <message>
         <source>Continue with the newest samples</source>
-        <translation type="unfinished"></translation>
+        <translation>最新のサンプルから表示を再開</translation>
     </message>
     <message>
         <source>Overlay</source>
-        <translation type="unfinished"></translation>
+        <translation>重ね表示</translation>
     </message>
     <message>
         <source>Show each node in a chart of its own</source>
-        <translation type="unfinished"></translation>
+        <translation>ノードごとに別々のグラフで表示</translation>
     </message>
     <message>
         <source>Show one quantity of all chosen nodes in one plot</source>
-        <translation type="unfinished"></translation>
+        <translation>選択した全ノードの同じ種類の値を 1 つのグラフに重ねて表示</translation>
     </message>
 </context>
 <context>
@@ -979,23 +1067,30 @@ Pa</translation>
     </message>
     <message>
         <source>Move the node and its charts up</source>
-        <translation type="unfinished"></translation>
+        <translation>ノードとそのグラフを上に移動</translation>
     </message>
     <message>
         <source>Alt+Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt+↑</translation>
     </message>
     <message>
         <source>Move the node and its charts down</source>
-        <translation type="unfinished"></translation>
+        <translation>ノードとそのグラフを下に移動</translation>
     </message>
     <message>
         <source>Alt+Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt+↓</translation>
     </message>
     <message>
         <source>%1 nodes are already shown. Remove one first.</source>
-        <translation type="unfinished"></translation>
+        <translation>すでに %1 ノードを表示しています。先にいずれかの選択を解除してください。</translation>
+    </message>
+</context>
+<context>
+    <name>KvUartPort</name>
+    <message>
+        <source>This program cannot open files.</source>
+        <translation>このプログラムではファイルを開けません。</translation>
     </message>
 </context>
 <context>
@@ -1168,7 +1263,7 @@ Pa</translation>
     </message>
     <message>
         <source>The mesh file is damaged, or of an unsupported kind.</source>
-        <translation type="unfinished"></translation>
+        <translation>メッシュファイルが破損しているか、対応していない形式です。</translation>
     </message>
 </context>
 <context>
@@ -1197,7 +1292,7 @@ Pa</translation>
     <name>NodeOverlay</name>
     <message>
         <source>Node %1</source>
-        <translation type="unfinished">ノード %1</translation>
+        <translation>ノード %1</translation>
     </message>
 </context>
 <context>
@@ -1236,14 +1331,25 @@ Pa</translation>
     </message>
     <message>
         <source>Line %1 of the OBJ file contains a coordinate that is not a number.</source>
-        <translation type="unfinished"></translation>
+        <translation>OBJ ファイルの %1 行目に、数値ではない座標があります。</translation>
     </message>
 </context>
 <context>
     <name>OverlayChart</name>
     <message>
         <source>Show %1 of all chosen nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>選択した全ノードの %1 を表示</translation>
+    </message>
+</context>
+<context>
+    <name>PictureChips</name>
+    <message>
+        <source>%1x</source>
+        <translation>%1 倍</translation>
+    </message>
+    <message>
+        <source>PNG at %1 times the size</source>
+        <translation>%1 倍サイズの PNG</translation>
     </message>
 </context>
 <context>
@@ -1266,6 +1372,13 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>Recorder</name>
+    <message>
+        <source>The connection was lost for %1 s.</source>
+        <translation>接続が %1 秒間切れていました。</translation>
+    </message>
+</context>
+<context>
     <name>RecordingActions</name>
     <message>
         <source>Marker %1 at %2 s</source>
@@ -1284,10 +1397,6 @@ Pa</translation>
         <translation>記録を停止しました: %1 件</translation>
     </message>
     <message>
-        <source>Markers go into recordings: start one first</source>
-        <translation>マーカーは記録に保存されます。先に記録を開始してください</translation>
-    </message>
-    <message>
         <source>&amp;Stop recording</source>
         <translation>記録を停止(&amp;S)</translation>
     </message>
@@ -1303,6 +1412,18 @@ Pa</translation>
         <source>Records with the last folder and name</source>
         <translation>前回のフォルダーと名前で記録します</translation>
     </message>
+    <message>
+        <source>Marker</source>
+        <translation>マーカー</translation>
+    </message>
+    <message>
+        <source>Marker at %1 s</source>
+        <translation>マーカー: %1 s</translation>
+    </message>
+    <message>
+        <source>Markers go into recordings and captures: start one first</source>
+        <translation>マーカーは記録とキャプチャに保存されます。先にどちらかを開始してください</translation>
+    </message>
 </context>
 <context>
     <name>RecordingBadge</name>
@@ -1316,7 +1437,26 @@ Pa</translation>
     </message>
     <message>
         <source>Recording: problem</source>
-        <translation type="unfinished"></translation>
+        <translation>記録: 問題あり</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingReader</name>
+    <message>
+        <source>The recording %1 cannot be opened: %2</source>
+        <translation>記録 %1 を開けません: %2</translation>
+    </message>
+    <message>
+        <source>The recording %1 is empty.</source>
+        <translation>記録 %1 は空です。</translation>
+    </message>
+    <message>
+        <source>%1 is not a recording of this program: its columns are different.</source>
+        <translation>%1 はこのプログラムの記録ではありません。列の構成が異なります。</translation>
+    </message>
+    <message>
+        <source>The recording %1 holds no records.</source>
+        <translation>記録 %1 にレコードがありません。</translation>
     </message>
 </context>
 <context>
@@ -1346,14 +1486,6 @@ Pa</translation>
         <translation>画像</translation>
     </message>
     <message>
-        <source>%1x</source>
-        <translation>%1 倍</translation>
-    </message>
-    <message>
-        <source>PNG at %1 times the size</source>
-        <translation>%1 倍サイズの PNG</translation>
-    </message>
-    <message>
         <source>Save pictures…</source>
         <translation>画像を保存…</translation>
     </message>
@@ -1363,7 +1495,7 @@ Pa</translation>
     </message>
     <message>
         <source>The buttons of each chart save only that chart, in the same way.</source>
-        <translation type="unfinished"></translation>
+        <translation>各グラフのボタンでは、そのグラフだけを同じ設定で保存します。</translation>
     </message>
 </context>
 <context>
@@ -1425,7 +1557,7 @@ Pa</translation>
     </message>
     <message>
         <source>Continue with the newest samples</source>
-        <translation type="unfinished"></translation>
+        <translation>最新のサンプルから表示を再開</translation>
     </message>
 </context>
 <context>
@@ -1492,6 +1624,13 @@ Pa</translation>
     <message>
         <source>Pressure</source>
         <translation>気圧</translation>
+    </message>
+</context>
+<context>
+    <name>SessionCapture</name>
+    <message>
+        <source>The disk is too slow. Not captured: %1 chunks or samples.</source>
+        <translation>ディスクの書き込みが追いつきません。キャプチャされなかったチャンクまたはサンプルの数: %1</translation>
     </message>
 </context>
 <context>
@@ -1565,10 +1704,6 @@ Pa</translation>
         <translation>開く…</translation>
     </message>
     <message>
-        <source>Tell what a saved snapshot holds</source>
-        <translation>保存したスナップショットの内容を表示</translation>
-    </message>
-    <message>
         <source>Level (dB, 0 dB = 1 %1)</source>
         <translation>レベル (dB、0 dB = 1 %1)</translation>
     </message>
@@ -1577,12 +1712,20 @@ Pa</translation>
         <translation>ブロック %1 %</translation>
     </message>
     <message>
-        <source>Limits of the axes</source>
-        <translation>軸の範囲</translation>
-    </message>
-    <message>
         <source>Statistics</source>
         <translation>統計</translation>
+    </message>
+    <message>
+        <source>Limits of the axes, size of pictures</source>
+        <translation>軸の範囲、画像のサイズ</translation>
+    </message>
+    <message>
+        <source>Show the contents of a saved snapshot</source>
+        <translation>保存したスナップショットの内容を表示</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>画像</translation>
     </message>
 </context>
 <context>
@@ -1622,90 +1765,90 @@ Pa</translation>
     <name>TimeChart</name>
     <message>
         <source>Waiting for samples</source>
-        <translation type="unfinished">サンプルを待っています</translation>
+        <translation>サンプルを待っています</translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation type="unfinished">一時停止中</translation>
+        <translation>一時停止中</translation>
     </message>
     <message>
         <source>Live</source>
-        <translation type="unfinished"></translation>
+        <translation>現在</translation>
     </message>
     <message>
         <source>Back to the newest samples</source>
-        <translation type="unfinished">最新のサンプルに戻る</translation>
+        <translation>最新のサンプルに戻る</translation>
     </message>
     <message>
         <source>End</source>
-        <translation type="unfinished">End</translation>
+        <translation>End</translation>
     </message>
     <message>
         <source>Span and limits of the axes</source>
-        <translation type="unfinished">時間幅と軸の範囲</translation>
+        <translation>時間幅と軸の範囲</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished">統計</translation>
+        <translation>統計</translation>
     </message>
     <message>
         <source>Remove the measuring cursors</source>
-        <translation type="unfinished">測定カーソルを消去</translation>
+        <translation>測定カーソルを消去</translation>
     </message>
     <message>
         <source>Measure between two cursors</source>
-        <translation type="unfinished">2 本のカーソル間を測定</translation>
+        <translation>2 本のカーソル間を測定</translation>
     </message>
     <message>
         <source>Esc</source>
-        <translation type="unfinished">Esc</translation>
+        <translation>Esc</translation>
     </message>
     <message>
         <source>A, B</source>
-        <translation type="unfinished">A, B</translation>
+        <translation>A, B</translation>
     </message>
     <message>
         <source>Reset the view</source>
-        <translation type="unfinished">表示範囲をリセット</translation>
+        <translation>表示範囲をリセット</translation>
     </message>
     <message>
         <source>Home</source>
-        <translation type="unfinished"></translation>
+        <translation>Home</translation>
     </message>
     <message>
         <source>Save a picture of the chart</source>
-        <translation type="unfinished">グラフの画像を保存</translation>
+        <translation>グラフの画像を保存</translation>
     </message>
     <message>
         <source>Save the visible samples</source>
-        <translation type="unfinished">表示中のサンプルを保存</translation>
+        <translation>表示中のサンプルを保存</translation>
     </message>
     <message>
         <source>Show all charts</source>
-        <translation type="unfinished">すべてのグラフを表示</translation>
+        <translation>すべてのグラフを表示</translation>
     </message>
     <message>
         <source>Show this chart alone</source>
-        <translation type="unfinished">このグラフだけを表示</translation>
+        <translation>このグラフだけを表示</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished">%1 s</translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>Show %1 seconds</source>
-        <translation type="unfinished">%1 秒間を表示</translation>
+        <translation>%1 秒間を表示</translation>
     </message>
     <message>
         <source>No new samples</source>
-        <translation type="unfinished">新しいサンプルがありません</translation>
+        <translation>新しいサンプルがありません</translation>
     </message>
 </context>
 <context>
     <name>TimeViewState</name>
     <message>
         <source>t %1</source>
-        <translation type="unfinished">t %1</translation>
+        <translation>t %1</translation>
     </message>
 </context>
 <context>
@@ -1827,7 +1970,7 @@ Pa</translation>
     </message>
     <message>
         <source>Trigger level; drag its line to change it</source>
-        <translation type="unfinished"></translation>
+        <translation>トリガーレベル（線のドラッグでも変更可能）</translation>
     </message>
 </context>
 <context>
@@ -2101,10 +2244,6 @@ Pa</translation>
         <translation>ポートを開く...</translation>
     </message>
     <message>
-        <source>No hardware at hand? The simulator kv_simulator behaves like a device and prints the path of the port to open.</source>
-        <translation>実機がない場合は、シミュレーター kv_simulator を使用できます。デバイスと同じように動作し、開くべきポートのパスを表示します。</translation>
-    </message>
-    <message>
         <source>&amp;Serial</source>
         <translation>シリアル(&amp;S)</translation>
     </message>
@@ -2252,6 +2391,22 @@ Pa</translation>
         <source>Marks this moment in a file beside the recording</source>
         <translation>記録に付随するファイルに、この時点のマーカーを書き込みます</translation>
     </message>
+    <message>
+        <source>No hardware at hand? The simulator behaves like a device.</source>
+        <translation>実機がない場合は、シミュレーターを使用できます。デバイスと同じように動作します。</translation>
+    </message>
+    <message>
+        <source>Try without a device</source>
+        <translation>デバイスなしで試す</translation>
+    </message>
+    <message>
+        <source>Start &amp;capture</source>
+        <translation>キャプチャを開始(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Ctrl+F9</source>
+        <translation>Ctrl+F9</translation>
+    </message>
 </context>
 <context>
     <name>form_com_select</name>
@@ -2288,14 +2443,6 @@ Pa</translation>
         <translation>シリアルポートが見つかりません</translation>
     </message>
     <message>
-        <source>&amp;Port or path</source>
-        <translation>ポートまたはパス(&amp;P)</translation>
-    </message>
-    <message>
-        <source>A port of the list, or a path typed by hand: a pseudo-terminal or a link to a device file</source>
-        <translation>一覧のポート、または直接入力したパス（疑似端末やデバイスファイルへのリンク）</translation>
-    </message>
-    <message>
         <source>&amp;Baud rate</source>
         <translation>ボーレート(&amp;B)</translation>
     </message>
@@ -2312,10 +2459,6 @@ Pa</translation>
         <translation>キャンセル</translation>
     </message>
     <message>
-        <source>Choose a port or type its path.</source>
-        <translation>ポートを選択するか、パスを入力してください。</translation>
-    </message>
-    <message>
         <source>%1 is not there at the moment. Plug the device in, or choose another port.</source>
         <translation>現在 %1 は見つかりません。デバイスを接続するか、別のポートを選択してください。</translation>
     </message>
@@ -2326,8 +2469,66 @@ Pa</translation>
     <message>
         <source>Plug the device in: it will appear here.
 
-To try the program without a device, start the simulator in a terminal with ./run or kv_simulator. It prints a path: type that below.</source>
-        <translation type="unfinished"></translation>
+To try the program without a device, type demo: below. A device on another computer has an address there, such as tcp://192.168.1.20:4001.</source>
+        <translation>デバイスを接続すると、ここに表示されます。
+
+デバイスなしで試すには、下に demo: と入力してください。別のコンピューターに接続されたデバイスは、tcp://192.168.1.20:4001 のようなアドレスで開けます。</translation>
+    </message>
+    <message>
+        <source>&amp;Port or address</source>
+        <translation>ポートまたはアドレス(&amp;P)</translation>
+    </message>
+    <message>
+        <source>A port, or tcp://host:port, rfc2217://host:port, udp://host:port</source>
+        <translation>ポート、または tcp://host:port、rfc2217://host:port、udp://host:port</translation>
+    </message>
+    <message>
+        <source>A port of the list, or typed by hand: the path of a port, or an address such as tcp://host:port, rfc2217://host:port?baud=115200, udp://host:port, file:path or demo:</source>
+        <translation>一覧のポート、または直接入力したポートのパスやアドレス（tcp://host:port、rfc2217://host:port?baud=115200、udp://host:port、file:path、demo: など）</translation>
+    </message>
+    <message>
+        <source>&amp;File...</source>
+        <translation>ファイル(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>Play a capture or a recording</source>
+        <translation>キャプチャまたは記録を再生します</translation>
+    </message>
+    <message>
+        <source>&amp;Recent</source>
+        <translation>最近の項目(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Sources opened last</source>
+        <translation>最近開いたソース</translation>
+    </message>
+    <message>
+        <source>The sources that were opened last</source>
+        <translation>最近開いたソースの一覧</translation>
+    </message>
+    <message>
+        <source>Reco&amp;nnect</source>
+        <translation>自動的に再接続(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Choose a port, or type its path or an address.</source>
+        <translation>ポートを選択するか、パスまたはアドレスを入力してください。</translation>
+    </message>
+    <message>
+        <source>Opens the same device again when it was lost and is back</source>
+        <translation>接続が切れたデバイスが復帰すると、もう一度開きます</translation>
+    </message>
+    <message>
+        <source>Not for this source: another device could not be told from it. An adapter with a serial number, a path in /dev/serial/by-id or an address on the network can be.</source>
+        <translation>このソースでは、別のデバイスに替わっても区別できないため、使用できません。シリアル番号のあるアダプター、/dev/serial/by-id のパス、ネットワーク上のアドレスであれば使用できます。</translation>
+    </message>
+    <message>
+        <source>Open Capture or Recording</source>
+        <translation>キャプチャまたは記録を開く</translation>
+    </message>
+    <message>
+        <source>Captures and recordings (*.mcap *.csv);;All files (*)</source>
+        <translation>キャプチャと記録 (*.mcap *.csv);;すべてのファイル (*)</translation>
     </message>
 </context>
 <context>
@@ -2657,15 +2858,15 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>Text that the device answers to commands, and the remains of damaged packets</source>
-        <translation type="unfinished"></translation>
+        <translation>コマンドへのデバイスの応答テキストと、壊れたパケットの残り</translation>
     </message>
     <message>
         <source>The latest damage on the line</source>
-        <translation type="unfinished"></translation>
+        <translation>回線上で最後に起きた異常</translation>
     </message>
     <message>
         <source>The device restarted or its time was set; what was lost in between is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスの再起動または時刻の再設定。その間の欠落数は分かりません</translation>
     </message>
 </context>
 <context>
@@ -2916,11 +3117,11 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>&amp;Continue after the cable was unplugged</source>
-        <translation type="unfinished"></translation>
+        <translation>ケーブルが抜けた後も記録を続ける(&amp;C)</translation>
     </message>
     <message>
         <source>Not connected. Open a serial port first.</source>
-        <translation type="unfinished"></translation>
+        <translation>未接続です。先にシリアルポートを開いてください。</translation>
     </message>
 </context>
 <context>
@@ -3119,11 +3320,11 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>The device is not sending text. The baud rate may be wrong.</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスから届くのはテキストではありません。ボーレートが違う可能性があります。</translation>
     </message>
     <message>
         <source>%1 Hz needs %2 % of the line&apos;s capacity at %3 baud: samples will be lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Hz の出力には %3 baud の回線容量の %2 % が必要なため、サンプルが失われます。</translation>
     </message>
 </context>
 <context>
@@ -3262,7 +3463,7 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>The 3D picture could not be loaded. See the log for the reason.</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 画像を読み込めませんでした。原因はログを確認してください。</translation>
     </message>
 </context>
 <context>
@@ -3901,11 +4102,175 @@ Do not unplug the device.</source>
     </message>
     <message>
         <source>Not connected. Open a serial port first.</source>
-        <translation type="unfinished"></translation>
+        <translation>未接続です。先にシリアルポートを開いてください。</translation>
     </message>
     <message>
         <source>A firmware download is running and must finish first.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファームウェアを書き込み中です。終わるまでお待ちください。</translation>
+    </message>
+    <message>
+        <source>The connection was lost. The device is waited for.</source>
+        <translation>接続が切れました。デバイスを待っています。</translation>
+    </message>
+    <message>
+        <source>Over UDP the device can only be listened to: commands may get lost or arrive in another order. Connect by tcp: or rfc2217: to send them.</source>
+        <translation>UDP ではデバイスからの受信しかできません。コマンドは失われたり、順序が入れ替わったりする可能性があります。送信するには tcp: または rfc2217: で接続してください。</translation>
+    </message>
+    <message>
+        <source>This is a recording: there is no device to send anything to.</source>
+        <translation>記録を開いているため、送信先のデバイスがありません。</translation>
+    </message>
+    <message>
+        <source>The baud rate of this source is not set from here. Connect by rfc2217: to set that of a serial server.</source>
+        <translation>このソースのボーレートは、ここでは設定できません。シリアルサーバーのボーレートを設定するには、rfc2217: で接続してください。</translation>
+    </message>
+    <message>
+        <source>The connection was lost.
+Waiting for the device...</source>
+        <translation>接続が切れました。
+デバイスを待っています...</translation>
+    </message>
+</context>
+<context>
+    <name>source_address</name>
+    <message>
+        <source>&quot;?%1&quot; is not known here. Only the baud rate can follow, such as ?baud=%2.</source>
+        <translation>「?%1」は使用できません。指定できるのは、?baud=%2 のようなボーレートだけです。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a baud rate. It is a whole number from %2 to %3.</source>
+        <translation>「%1」はボーレートとして使用できません。%2～%3 の整数を入力してください。</translation>
+    </message>
+    <message>
+        <source>The address of a network source looks like %1.</source>
+        <translation>ネットワーク上のソースのアドレスは、%1 のように入力してください。</translation>
+    </message>
+    <message>
+        <source>The bracket after the IPv6 address is missing, as in %1.</source>
+        <translation>IPv6 アドレスの後の角かっこがありません（正しい例: %1）。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an IPv6 address.</source>
+        <translation>「%1」は IPv6 アドレスではありません。</translation>
+    </message>
+    <message>
+        <source>Only a colon and the port can follow the bracket, as in %1.</source>
+        <translation>角かっこの後に入力できるのは、コロンとポートだけです（例: %1）。</translation>
+    </message>
+    <message>
+        <source>An IPv6 address needs brackets, as in %1.</source>
+        <translation>%1 のように、IPv6 アドレスを角かっこで囲んでください。</translation>
+    </message>
+    <message>
+        <source>Add the host, as in %1.</source>
+        <translation>%1 のように、ホストを入力してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the name or address of a host.</source>
+        <translation>「%1」はホストの名前でもアドレスでもありません。</translation>
+    </message>
+    <message>
+        <source>Add the port, as in %1.</source>
+        <translation>%1 のように、ポートを入力してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a port. It is a whole number from 1 to 65535.</source>
+        <translation>「%1」はポートとして使用できません。1～65535 の整数を入力してください。</translation>
+    </message>
+    <message>
+        <source>Add the port, as in serial:/dev/ttyUSB0.</source>
+        <translation>serial:/dev/ttyUSB0 のように、ポートを入力してください。</translation>
+    </message>
+    <message>
+        <source>Add the path of the file, as in file:recordings/walk.mcap.</source>
+        <translation>file:recordings/walk.mcap のように、ファイルのパスを入力してください。</translation>
+    </message>
+    <message>
+        <source>Nothing can follow &quot;demo:&quot;.</source>
+        <translation>「demo:」の後には何も入力できません。</translation>
+    </message>
+    <message>
+        <source>Choose a port, or type its path or an address.</source>
+        <translation>ポートを選択するか、パスまたはアドレスを入力してください。</translation>
+    </message>
+    <message>
+        <source>This text is longer than any address.</source>
+        <translation>アドレスとしては長すぎます。</translation>
+    </message>
+    <message>
+        <source>This text contains characters that no address has.</source>
+        <translation>アドレスに使えない文字が含まれています。</translation>
+    </message>
+    <message>
+        <source>&quot;%1:&quot; is not known here. Sources are serial:, tcp:, rfc2217:, udp:, file: and demo:.</source>
+        <translation>「%1:」は使用できません。使用できるソースは serial:、tcp:、rfc2217:、udp:、file:、demo: です。</translation>
+    </message>
+</context>
+<context>
+    <name>source_error_text</name>
+    <message>
+        <source>Another program is connected to %1, and only one can be.</source>
+        <translation>別のプログラムが %1 に接続しています。同時に接続できるのは 1 つだけです。</translation>
+    </message>
+    <message>
+        <source>Close it there. If it is gone already, let the server drop old connections (ser2net: the option kickolduser).</source>
+        <translation>そのプログラムの接続を閉じてください。すでに終了している場合は、古い接続を切断するようにサーバーを設定してください（ser2net: オプション kickolduser）。</translation>
+    </message>
+    <message>
+        <source>%1 closed the connection.</source>
+        <translation>%1 が接続を閉じました。</translation>
+    </message>
+    <message>
+        <source>Another program may have connected to the same port, which ends this connection, or the server was stopped. Close the other program, or start the server, then open the source again.</source>
+        <translation>別のプログラムが同じポートに接続してこの接続が終了したか、サーバーが停止した可能性があります。そのプログラムを終了するか、サーバーを起動してから、もう一度ソースを開いてください。</translation>
+    </message>
+    <message>
+        <source>The serial port at %1 does not accept 8 data bits without parity. Check the settings of the server.</source>
+        <translation>%1 のシリアルポートは、データビット 8、パリティなしの設定に対応していません。サーバーの設定を確認してください。</translation>
+    </message>
+    <message>
+        <source>The serial port at %1 was set to %2 baud instead of %3. Choose a rate that it supports.</source>
+        <translation>%1 のシリアルポートは、%3 baud ではなく %2 baud に設定されました。対応しているボーレートを選択してください。</translation>
+    </message>
+    <message>
+        <source>There is no host with the name %1. Check its spelling, or enter its address instead.</source>
+        <translation>%1 という名前のホストが見つかりません。つづりを確認するか、代わりにアドレスを入力してください。</translation>
+    </message>
+    <message>
+        <source>Nothing listens on port %1 of %2. Start the serial server there (such as ser2net), or check the port.</source>
+        <translation>%2 のポート %1 で待ち受けているプログラムがありません。そこでシリアルサーバー（ser2net など）を起動するか、ポートを確認してください。</translation>
+    </message>
+    <message>
+        <source>There is no way to %1 (%2). Check the network cable or Wi-Fi of both computers.</source>
+        <translation>%1 に到達できません（%2）。両方のコンピューターのネットワークケーブルまたは Wi-Fi を確認してください。</translation>
+    </message>
+    <message>
+        <source>%1 did not answer. Check that it is switched on, and that no firewall blocks port %2.</source>
+        <translation>%1 から応答がありませんでした。電源が入っていることと、ファイアウォールがポート %2 をブロックしていないことを確認してください。</translation>
+    </message>
+    <message>
+        <source>%1 closed the connection and gave the reason &quot;%2&quot;.</source>
+        <translation>%1 が「%2」という理由で接続を閉じました。</translation>
+    </message>
+    <message>
+        <source>Check the settings of the server and its serial port.</source>
+        <translation>サーバーとそのシリアルポートの設定を確認してください。</translation>
+    </message>
+    <message>
+        <source>The connection to %1 was lost: it does not answer any more. Check the network, then open the source again.</source>
+        <translation>%1 の応答がなくなり、接続が切れました。ネットワークを確認して、もう一度ソースを開いてください。</translation>
+    </message>
+    <message>
+        <source>The simulator is not installed: there is no program &quot;%1&quot; beside this one. Install it, or connect a device.</source>
+        <translation>シミュレーターがインストールされていません。このプログラムと同じ場所にプログラム「%1」がありません。インストールするか、デバイスを接続してください。</translation>
+    </message>
+    <message>
+        <source>The simulator has ended.</source>
+        <translation>シミュレーターが終了しました。</translation>
+    </message>
+    <message>
+        <source>The simulator could not be started.</source>
+        <translation>シミュレーターを起動できませんでした。</translation>
     </message>
 </context>
 <context>

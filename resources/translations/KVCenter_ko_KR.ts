@@ -185,6 +185,90 @@
     </message>
 </context>
 <context>
+    <name>CaptureActions</name>
+    <message>
+        <source>Stop &amp;capture</source>
+        <translation>캡처 중지(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Start &amp;capture</source>
+        <translation>캡처 시작(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Captures every byte, sample and event into one file</source>
+        <translation>모든 바이트, 샘플, 이벤트를 하나의 파일에 캡처합니다</translation>
+    </message>
+    <message>
+        <source>Capturing</source>
+        <translation>캡처 중</translation>
+    </message>
+    <message>
+        <source>Captured into %1</source>
+        <translation>캡처 저장됨: %1</translation>
+    </message>
+</context>
+<context>
+    <name>CaptureBadge</name>
+    <message>
+        <source>Capture %1</source>
+        <translation>캡처 중 %1</translation>
+    </message>
+    <message>
+        <source>Capture: problem</source>
+        <translation>캡처: 문제 발생</translation>
+    </message>
+</context>
+<context>
+    <name>CaptureFault</name>
+    <message>
+        <source>The capture %1 cannot be opened: %2</source>
+        <translation>%1 캡처를 열 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a capture: it does not begin like an MCAP file.</source>
+        <translation>%1 파일은 캡처가 아닙니다. 파일의 시작 부분이 MCAP 형식이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>Nothing in the capture %1 can be read: it is empty or damaged.</source>
+        <translation>%1 캡처에서 읽을 수 있는 내용이 없습니다. 비어 있거나 손상되었습니다.</translation>
+    </message>
+    <message>
+        <source>%1 holds no received bytes that could be played back. Another program may have written it.</source>
+        <translation>%1 파일에 재생할 수 있는 수신 데이터가 없습니다. 다른 프로그램에서 만든 파일일 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>The capture %1 cannot be created: %2</source>
+        <translation>%1 캡처를 만들 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>The capture %1 has ended: %2. What was written before is complete.</source>
+        <translation>%1 캡처가 종료되었습니다: %2. 그 전까지의 내용은 온전하게 저장되어 있습니다.</translation>
+    </message>
+    <message>
+        <source>The capture %1 has ended: the file was deleted or moved.</source>
+        <translation>파일이 삭제되거나 이동되어 %1 캡처가 종료되었습니다.</translation>
+    </message>
+    <message>
+        <source>The capture %1 is being written at this moment.</source>
+        <translation>%1 캡처는 현재 쓰는 중입니다.</translation>
+    </message>
+    <message>
+        <source>The capture %1 cannot be repaired: its folder is read-only. It has not been changed.</source>
+        <translation>폴더가 읽기 전용이므로 %1 캡처를 복구할 수 없습니다. 파일은 변경되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>The capture %1 cannot be repaired: %2. It has not been changed.</source>
+        <translation>%1 캡처를 복구할 수 없습니다: %2. 파일은 변경되지 않았습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>CaptureRun</name>
+    <message>
+        <source>the folder cannot be created</source>
+        <translation>폴더를 만들 수 없습니다</translation>
+    </message>
+</context>
+<context>
     <name>CeilingField</name>
     <message>
         <source>now %1</source>
@@ -222,11 +306,11 @@
     </message>
     <message>
         <source>In force: %1 Hz, as the rate is now %2 Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>적용 중: %1 Hz(현재 속도가 %2 Hz이므로)</translation>
     </message>
     <message>
         <source>Apply %1 Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Hz 적용</translation>
     </message>
 </context>
 <context>
@@ -358,14 +442,14 @@
     </message>
     <message>
         <source>Only noise is arriving. The baud rate may be wrong.</source>
-        <translation type="unfinished"></translation>
+        <translation>노이즈만 수신되고 있습니다. 보드 레이트가 잘못되었을 수 있습니다.</translation>
     </message>
 </context>
 <context>
     <name>DashboardWindow</name>
     <message>
         <source>This window could not be loaded. See the log for the reason.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 창을 불러올 수 없습니다. 원인은 로그를 확인하십시오.</translation>
     </message>
 </context>
 <context>
@@ -423,7 +507,11 @@
     </message>
     <message>
         <source>The device may be waiting in its bootloader for the rest. Plug it in, then connect to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>장치가 부트로더에서 나머지 데이터를 기다리고 있을 수 있습니다. 장치의 케이블을 꽂은 다음 &apos;연결&apos;을 누르십시오.</translation>
+    </message>
+    <message>
+        <source>Connection error.</source>
+        <translation>연결 오류가 발생했습니다.</translation>
     </message>
 </context>
 <context>
@@ -446,7 +534,7 @@
     </message>
     <message>
         <source>The selected node is not sending any at the moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>선택한 노드가 현재 샘플을 전송하지 않습니다.</translation>
     </message>
 </context>
 <context>
@@ -860,23 +948,23 @@
     </message>
     <message>
         <source>Freeze the charts; the table keeps updating</source>
-        <translation type="unfinished"></translation>
+        <translation>그래프 일시 정지(표는 계속 갱신됨)</translation>
     </message>
     <message>
         <source>Continue with the newest samples</source>
-        <translation type="unfinished"></translation>
+        <translation>최신 샘플부터 다시 표시</translation>
     </message>
     <message>
         <source>Overlay</source>
-        <translation type="unfinished"></translation>
+        <translation>겹쳐 보기</translation>
     </message>
     <message>
         <source>Show each node in a chart of its own</source>
-        <translation type="unfinished"></translation>
+        <translation>노드마다 별도의 그래프로 표시</translation>
     </message>
     <message>
         <source>Show one quantity of all chosen nodes in one plot</source>
-        <translation type="unfinished"></translation>
+        <translation>선택한 모든 노드의 같은 종류의 값을 하나의 그래프에 겹쳐 표시</translation>
     </message>
 </context>
 <context>
@@ -979,23 +1067,30 @@ Pa</translation>
     </message>
     <message>
         <source>Move the node and its charts up</source>
-        <translation type="unfinished"></translation>
+        <translation>노드와 해당 그래프를 위로 이동</translation>
     </message>
     <message>
         <source>Alt+Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt+↑</translation>
     </message>
     <message>
         <source>Move the node and its charts down</source>
-        <translation type="unfinished"></translation>
+        <translation>노드와 해당 그래프를 아래로 이동</translation>
     </message>
     <message>
         <source>Alt+Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt+↓</translation>
     </message>
     <message>
         <source>%1 nodes are already shown. Remove one first.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미 %1개 노드가 표시되어 있습니다. 먼저 하나를 선택 해제하십시오.</translation>
+    </message>
+</context>
+<context>
+    <name>KvUartPort</name>
+    <message>
+        <source>This program cannot open files.</source>
+        <translation>이 프로그램에서는 파일을 열 수 없습니다.</translation>
     </message>
 </context>
 <context>
@@ -1168,7 +1263,7 @@ Pa</translation>
     </message>
     <message>
         <source>The mesh file is damaged, or of an unsupported kind.</source>
-        <translation type="unfinished"></translation>
+        <translation>메시 파일이 손상되었거나 지원되지 않는 형식입니다.</translation>
     </message>
 </context>
 <context>
@@ -1197,7 +1292,7 @@ Pa</translation>
     <name>NodeOverlay</name>
     <message>
         <source>Node %1</source>
-        <translation type="unfinished">노드 %1</translation>
+        <translation>노드 %1</translation>
     </message>
 </context>
 <context>
@@ -1236,14 +1331,25 @@ Pa</translation>
     </message>
     <message>
         <source>Line %1 of the OBJ file contains a coordinate that is not a number.</source>
-        <translation type="unfinished"></translation>
+        <translation>OBJ 파일의 %1번째 줄에 숫자가 아닌 좌표가 있습니다.</translation>
     </message>
 </context>
 <context>
     <name>OverlayChart</name>
     <message>
         <source>Show %1 of all chosen nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>선택한 모든 노드의 %1 표시</translation>
+    </message>
+</context>
+<context>
+    <name>PictureChips</name>
+    <message>
+        <source>%1x</source>
+        <translation>%1배</translation>
+    </message>
+    <message>
+        <source>PNG at %1 times the size</source>
+        <translation>%1배 크기의 PNG</translation>
     </message>
 </context>
 <context>
@@ -1266,6 +1372,13 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>Recorder</name>
+    <message>
+        <source>The connection was lost for %1 s.</source>
+        <translation>%1초 동안 연결이 끊어졌습니다.</translation>
+    </message>
+</context>
+<context>
     <name>RecordingActions</name>
     <message>
         <source>Marker %1 at %2 s</source>
@@ -1284,10 +1397,6 @@ Pa</translation>
         <translation>기록 중지됨: %1건</translation>
     </message>
     <message>
-        <source>Markers go into recordings: start one first</source>
-        <translation>마커는 기록에 저장됩니다. 먼저 기록을 시작하십시오</translation>
-    </message>
-    <message>
         <source>&amp;Stop recording</source>
         <translation>기록 중지(&amp;S)</translation>
     </message>
@@ -1303,6 +1412,18 @@ Pa</translation>
         <source>Records with the last folder and name</source>
         <translation>마지막으로 사용한 폴더와 이름으로 기록합니다</translation>
     </message>
+    <message>
+        <source>Marker</source>
+        <translation>마커</translation>
+    </message>
+    <message>
+        <source>Marker at %1 s</source>
+        <translation>마커: %1 s</translation>
+    </message>
+    <message>
+        <source>Markers go into recordings and captures: start one first</source>
+        <translation>마커는 기록과 캡처에 저장됩니다. 먼저 둘 중 하나를 시작하십시오</translation>
+    </message>
 </context>
 <context>
     <name>RecordingBadge</name>
@@ -1316,7 +1437,26 @@ Pa</translation>
     </message>
     <message>
         <source>Recording: problem</source>
-        <translation type="unfinished"></translation>
+        <translation>기록: 문제 발생</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingReader</name>
+    <message>
+        <source>The recording %1 cannot be opened: %2</source>
+        <translation>%1 기록을 열 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>The recording %1 is empty.</source>
+        <translation>%1 기록이 비어 있습니다.</translation>
+    </message>
+    <message>
+        <source>%1 is not a recording of this program: its columns are different.</source>
+        <translation>%1 파일은 이 프로그램의 기록이 아닙니다. 열 구성이 다릅니다.</translation>
+    </message>
+    <message>
+        <source>The recording %1 holds no records.</source>
+        <translation>%1 기록에 레코드가 없습니다.</translation>
     </message>
 </context>
 <context>
@@ -1346,14 +1486,6 @@ Pa</translation>
         <translation>이미지</translation>
     </message>
     <message>
-        <source>%1x</source>
-        <translation>%1배</translation>
-    </message>
-    <message>
-        <source>PNG at %1 times the size</source>
-        <translation>%1배 크기의 PNG</translation>
-    </message>
-    <message>
         <source>Save pictures…</source>
         <translation>이미지 저장…</translation>
     </message>
@@ -1363,7 +1495,7 @@ Pa</translation>
     </message>
     <message>
         <source>The buttons of each chart save only that chart, in the same way.</source>
-        <translation type="unfinished"></translation>
+        <translation>각 그래프의 버튼은 해당 그래프만 같은 설정으로 저장합니다.</translation>
     </message>
 </context>
 <context>
@@ -1425,7 +1557,7 @@ Pa</translation>
     </message>
     <message>
         <source>Continue with the newest samples</source>
-        <translation type="unfinished"></translation>
+        <translation>최신 샘플부터 다시 표시</translation>
     </message>
 </context>
 <context>
@@ -1492,6 +1624,13 @@ Pa</translation>
     <message>
         <source>Pressure</source>
         <translation>기압</translation>
+    </message>
+</context>
+<context>
+    <name>SessionCapture</name>
+    <message>
+        <source>The disk is too slow. Not captured: %1 chunks or samples.</source>
+        <translation>디스크 쓰기 속도가 너무 느립니다. 캡처되지 않은 청크 또는 샘플 수: %1</translation>
     </message>
 </context>
 <context>
@@ -1565,10 +1704,6 @@ Pa</translation>
         <translation>열기…</translation>
     </message>
     <message>
-        <source>Tell what a saved snapshot holds</source>
-        <translation>저장된 스냅샷의 내용 보기</translation>
-    </message>
-    <message>
         <source>Level (dB, 0 dB = 1 %1)</source>
         <translation>레벨 (dB, 0 dB = 1 %1)</translation>
     </message>
@@ -1577,12 +1712,20 @@ Pa</translation>
         <translation>블록 %1 %</translation>
     </message>
     <message>
-        <source>Limits of the axes</source>
-        <translation>축 범위</translation>
-    </message>
-    <message>
         <source>Statistics</source>
         <translation>통계</translation>
+    </message>
+    <message>
+        <source>Limits of the axes, size of pictures</source>
+        <translation>축 범위, 이미지 크기</translation>
+    </message>
+    <message>
+        <source>Show the contents of a saved snapshot</source>
+        <translation>저장된 스냅샷의 내용 보기</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>이미지</translation>
     </message>
 </context>
 <context>
@@ -1622,90 +1765,90 @@ Pa</translation>
     <name>TimeChart</name>
     <message>
         <source>Waiting for samples</source>
-        <translation type="unfinished">샘플을 기다리는 중</translation>
+        <translation>샘플을 기다리는 중</translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation type="unfinished">일시 정지됨</translation>
+        <translation>일시 정지됨</translation>
     </message>
     <message>
         <source>Live</source>
-        <translation type="unfinished"></translation>
+        <translation>현재</translation>
     </message>
     <message>
         <source>Back to the newest samples</source>
-        <translation type="unfinished">최신 샘플로 돌아가기</translation>
+        <translation>최신 샘플로 돌아가기</translation>
     </message>
     <message>
         <source>End</source>
-        <translation type="unfinished">End</translation>
+        <translation>End</translation>
     </message>
     <message>
         <source>Span and limits of the axes</source>
-        <translation type="unfinished">시간 폭과 축 범위</translation>
+        <translation>시간 폭과 축 범위</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished">통계</translation>
+        <translation>통계</translation>
     </message>
     <message>
         <source>Remove the measuring cursors</source>
-        <translation type="unfinished">측정 커서 지우기</translation>
+        <translation>측정 커서 지우기</translation>
     </message>
     <message>
         <source>Measure between two cursors</source>
-        <translation type="unfinished">두 커서 사이 측정</translation>
+        <translation>두 커서 사이 측정</translation>
     </message>
     <message>
         <source>Esc</source>
-        <translation type="unfinished">Esc</translation>
+        <translation>Esc</translation>
     </message>
     <message>
         <source>A, B</source>
-        <translation type="unfinished">A, B</translation>
+        <translation>A, B</translation>
     </message>
     <message>
         <source>Reset the view</source>
-        <translation type="unfinished">보기 초기화</translation>
+        <translation>보기 초기화</translation>
     </message>
     <message>
         <source>Home</source>
-        <translation type="unfinished"></translation>
+        <translation>Home</translation>
     </message>
     <message>
         <source>Save a picture of the chart</source>
-        <translation type="unfinished">그래프 이미지 저장</translation>
+        <translation>그래프 이미지 저장</translation>
     </message>
     <message>
         <source>Save the visible samples</source>
-        <translation type="unfinished">표시된 샘플 저장</translation>
+        <translation>표시된 샘플 저장</translation>
     </message>
     <message>
         <source>Show all charts</source>
-        <translation type="unfinished">모든 그래프 표시</translation>
+        <translation>모든 그래프 표시</translation>
     </message>
     <message>
         <source>Show this chart alone</source>
-        <translation type="unfinished">이 그래프만 표시</translation>
+        <translation>이 그래프만 표시</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished">%1 s</translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>Show %1 seconds</source>
-        <translation type="unfinished">%1초 표시</translation>
+        <translation>%1초 표시</translation>
     </message>
     <message>
         <source>No new samples</source>
-        <translation type="unfinished">새 샘플 없음</translation>
+        <translation>새 샘플 없음</translation>
     </message>
 </context>
 <context>
     <name>TimeViewState</name>
     <message>
         <source>t %1</source>
-        <translation type="unfinished">t %1</translation>
+        <translation>t %1</translation>
     </message>
 </context>
 <context>
@@ -1827,7 +1970,7 @@ Pa</translation>
     </message>
     <message>
         <source>Trigger level; drag its line to change it</source>
-        <translation type="unfinished"></translation>
+        <translation>트리거 레벨(선을 끌어서 변경 가능)</translation>
     </message>
 </context>
 <context>
@@ -2101,10 +2244,6 @@ Pa</translation>
         <translation>포트 열기...</translation>
     </message>
     <message>
-        <source>No hardware at hand? The simulator kv_simulator behaves like a device and prints the path of the port to open.</source>
-        <translation>실제 장치가 없으면 시뮬레이터 kv_simulator를 사용할 수 있습니다. 시뮬레이터는 장치처럼 동작하며 열어야 할 포트의 경로를 출력합니다.</translation>
-    </message>
-    <message>
         <source>&amp;Serial</source>
         <translation>시리얼(&amp;S)</translation>
     </message>
@@ -2252,6 +2391,22 @@ Pa</translation>
         <source>Marks this moment in a file beside the recording</source>
         <translation>기록과 함께 저장되는 파일에 이 시점의 마커를 씁니다</translation>
     </message>
+    <message>
+        <source>No hardware at hand? The simulator behaves like a device.</source>
+        <translation>실제 장치가 없으면 시뮬레이터를 사용할 수 있습니다. 시뮬레이터는 장치처럼 동작합니다.</translation>
+    </message>
+    <message>
+        <source>Try without a device</source>
+        <translation>장치 없이 사용해 보기</translation>
+    </message>
+    <message>
+        <source>Start &amp;capture</source>
+        <translation>캡처 시작(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Ctrl+F9</source>
+        <translation>Ctrl+F9</translation>
+    </message>
 </context>
 <context>
     <name>form_com_select</name>
@@ -2288,14 +2443,6 @@ Pa</translation>
         <translation>시리얼 포트를 찾을 수 없음</translation>
     </message>
     <message>
-        <source>&amp;Port or path</source>
-        <translation>포트 또는 경로(&amp;P)</translation>
-    </message>
-    <message>
-        <source>A port of the list, or a path typed by hand: a pseudo-terminal or a link to a device file</source>
-        <translation>목록의 포트 또는 직접 입력한 경로(의사 터미널이나 장치 파일 링크)</translation>
-    </message>
-    <message>
         <source>&amp;Baud rate</source>
         <translation>보드 레이트(&amp;B)</translation>
     </message>
@@ -2312,10 +2459,6 @@ Pa</translation>
         <translation>취소</translation>
     </message>
     <message>
-        <source>Choose a port or type its path.</source>
-        <translation>포트를 선택하거나 경로를 입력하십시오.</translation>
-    </message>
-    <message>
         <source>%1 is not there at the moment. Plug the device in, or choose another port.</source>
         <translation>지금은 %1 포트를 찾을 수 없습니다. 장치를 연결하거나 다른 포트를 선택하십시오.</translation>
     </message>
@@ -2326,8 +2469,66 @@ Pa</translation>
     <message>
         <source>Plug the device in: it will appear here.
 
-To try the program without a device, start the simulator in a terminal with ./run or kv_simulator. It prints a path: type that below.</source>
-        <translation type="unfinished"></translation>
+To try the program without a device, type demo: below. A device on another computer has an address there, such as tcp://192.168.1.20:4001.</source>
+        <translation>장치를 연결하면 여기에 표시됩니다.
+
+장치 없이 프로그램을 사용해 보려면 아래에 demo:를 입력하십시오. 다른 컴퓨터에 연결된 장치는 tcp://192.168.1.20:4001과 같은 주소로 열 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>&amp;Port or address</source>
+        <translation>포트 또는 주소(&amp;P)</translation>
+    </message>
+    <message>
+        <source>A port, or tcp://host:port, rfc2217://host:port, udp://host:port</source>
+        <translation>포트 또는 tcp://host:port, rfc2217://host:port, udp://host:port</translation>
+    </message>
+    <message>
+        <source>A port of the list, or typed by hand: the path of a port, or an address such as tcp://host:port, rfc2217://host:port?baud=115200, udp://host:port, file:path or demo:</source>
+        <translation>목록의 포트 또는 직접 입력한 포트 경로나 주소(예: tcp://host:port, rfc2217://host:port?baud=115200, udp://host:port, file:path, demo:)</translation>
+    </message>
+    <message>
+        <source>&amp;File...</source>
+        <translation>파일(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>Play a capture or a recording</source>
+        <translation>캡처 또는 기록을 재생합니다</translation>
+    </message>
+    <message>
+        <source>&amp;Recent</source>
+        <translation>최근 항목(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Sources opened last</source>
+        <translation>최근에 연 소스</translation>
+    </message>
+    <message>
+        <source>The sources that were opened last</source>
+        <translation>최근에 연 소스 목록</translation>
+    </message>
+    <message>
+        <source>Reco&amp;nnect</source>
+        <translation>자동으로 다시 연결(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Choose a port, or type its path or an address.</source>
+        <translation>포트를 선택하거나 경로 또는 주소를 입력하십시오.</translation>
+    </message>
+    <message>
+        <source>Opens the same device again when it was lost and is back</source>
+        <translation>연결이 끊어진 장치가 복귀하면 다시 엽니다</translation>
+    </message>
+    <message>
+        <source>Not for this source: another device could not be told from it. An adapter with a serial number, a path in /dev/serial/by-id or an address on the network can be.</source>
+        <translation>이 소스로는 다른 장치로 바뀌어도 구별할 수 없으므로 사용할 수 없습니다. 일련번호가 있는 어댑터, /dev/serial/by-id 경로, 네트워크 주소라면 사용할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Open Capture or Recording</source>
+        <translation>캡처 또는 기록 열기</translation>
+    </message>
+    <message>
+        <source>Captures and recordings (*.mcap *.csv);;All files (*)</source>
+        <translation>캡처 및 기록 (*.mcap *.csv);;모든 파일 (*)</translation>
     </message>
 </context>
 <context>
@@ -2657,15 +2858,15 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>Text that the device answers to commands, and the remains of damaged packets</source>
-        <translation type="unfinished"></translation>
+        <translation>명령에 대한 장치의 텍스트 응답과 손상된 패킷의 나머지</translation>
     </message>
     <message>
         <source>The latest damage on the line</source>
-        <translation type="unfinished"></translation>
+        <translation>회선에서 마지막으로 일어난 손상</translation>
     </message>
     <message>
         <source>The device restarted or its time was set; what was lost in between is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>장치가 다시 시작되었거나 시간이 설정되었으며, 그동안의 누락 수는 알 수 없습니다</translation>
     </message>
 </context>
 <context>
@@ -2916,11 +3117,11 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>&amp;Continue after the cable was unplugged</source>
-        <translation type="unfinished"></translation>
+        <translation>케이블이 분리된 뒤에도 기록 계속(&amp;C)</translation>
     </message>
     <message>
         <source>Not connected. Open a serial port first.</source>
-        <translation type="unfinished"></translation>
+        <translation>연결되지 않았습니다. 먼저 시리얼 포트를 여십시오.</translation>
     </message>
 </context>
 <context>
@@ -3119,11 +3320,11 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>The device is not sending text. The baud rate may be wrong.</source>
-        <translation type="unfinished"></translation>
+        <translation>장치가 보내는 것은 텍스트가 아닙니다. 보드 레이트가 잘못되었을 수 있습니다.</translation>
     </message>
     <message>
         <source>%1 Hz needs %2 % of the line&apos;s capacity at %3 baud: samples will be lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Hz 출력에는 %3 baud 회선 용량의 %2 %가 필요하므로 샘플이 손실됩니다.</translation>
     </message>
 </context>
 <context>
@@ -3262,7 +3463,7 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>The 3D picture could not be loaded. See the log for the reason.</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 화면을 불러올 수 없습니다. 원인은 로그를 확인하십시오.</translation>
     </message>
 </context>
 <context>
@@ -3901,11 +4102,175 @@ Do not unplug the device.</source>
     </message>
     <message>
         <source>Not connected. Open a serial port first.</source>
-        <translation type="unfinished"></translation>
+        <translation>연결되지 않았습니다. 먼저 시리얼 포트를 여십시오.</translation>
     </message>
     <message>
         <source>A firmware download is running and must finish first.</source>
-        <translation type="unfinished"></translation>
+        <translation>펌웨어 다운로드가 진행 중입니다. 끝날 때까지 기다리십시오.</translation>
+    </message>
+    <message>
+        <source>The connection was lost. The device is waited for.</source>
+        <translation>연결이 끊어졌습니다. 장치를 기다리는 중입니다.</translation>
+    </message>
+    <message>
+        <source>Over UDP the device can only be listened to: commands may get lost or arrive in another order. Connect by tcp: or rfc2217: to send them.</source>
+        <translation>UDP로는 장치에서 수신만 할 수 있습니다. 명령이 손실되거나 순서가 바뀔 수 있습니다. 명령을 전송하려면 tcp: 또는 rfc2217:로 연결하십시오.</translation>
+    </message>
+    <message>
+        <source>This is a recording: there is no device to send anything to.</source>
+        <translation>기록을 연 상태이므로 전송할 대상 장치가 없습니다.</translation>
+    </message>
+    <message>
+        <source>The baud rate of this source is not set from here. Connect by rfc2217: to set that of a serial server.</source>
+        <translation>이 소스의 보드 레이트는 여기에서 설정할 수 없습니다. 시리얼 서버의 보드 레이트를 설정하려면 rfc2217:로 연결하십시오.</translation>
+    </message>
+    <message>
+        <source>The connection was lost.
+Waiting for the device...</source>
+        <translation>연결이 끊어졌습니다.
+장치를 기다리는 중...</translation>
+    </message>
+</context>
+<context>
+    <name>source_address</name>
+    <message>
+        <source>&quot;?%1&quot; is not known here. Only the baud rate can follow, such as ?baud=%2.</source>
+        <translation>&quot;?%1&quot; 옵션은 사용할 수 없습니다. 보드 레이트만 지정할 수 있습니다(예: ?baud=%2).</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a baud rate. It is a whole number from %2 to %3.</source>
+        <translation>보드 레이트가 아닙니다: &quot;%1&quot;. %2~%3 사이의 정수를 입력하십시오.</translation>
+    </message>
+    <message>
+        <source>The address of a network source looks like %1.</source>
+        <translation>네트워크 소스의 주소를 형식에 맞게 입력하십시오(예: %1).</translation>
+    </message>
+    <message>
+        <source>The bracket after the IPv6 address is missing, as in %1.</source>
+        <translation>IPv6 주소 뒤에 대괄호가 없습니다(올바른 예: %1).</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an IPv6 address.</source>
+        <translation>IPv6 주소가 아닙니다: &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Only a colon and the port can follow the bracket, as in %1.</source>
+        <translation>대괄호 뒤에는 콜론과 포트만 입력할 수 있습니다(예: %1).</translation>
+    </message>
+    <message>
+        <source>An IPv6 address needs brackets, as in %1.</source>
+        <translation>IPv6 주소를 대괄호로 묶으십시오(예: %1).</translation>
+    </message>
+    <message>
+        <source>Add the host, as in %1.</source>
+        <translation>호스트를 입력하십시오(예: %1).</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the name or address of a host.</source>
+        <translation>호스트의 이름이나 주소가 아닙니다: &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Add the port, as in %1.</source>
+        <translation>포트를 입력하십시오(예: %1).</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a port. It is a whole number from 1 to 65535.</source>
+        <translation>포트가 아닙니다: &quot;%1&quot;. 1~65535 사이의 정수를 입력하십시오.</translation>
+    </message>
+    <message>
+        <source>Add the port, as in serial:/dev/ttyUSB0.</source>
+        <translation>포트를 입력하십시오(예: serial:/dev/ttyUSB0).</translation>
+    </message>
+    <message>
+        <source>Add the path of the file, as in file:recordings/walk.mcap.</source>
+        <translation>파일의 경로를 입력하십시오(예: file:recordings/walk.mcap).</translation>
+    </message>
+    <message>
+        <source>Nothing can follow &quot;demo:&quot;.</source>
+        <translation>&quot;demo:&quot; 뒤에는 아무것도 입력할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Choose a port, or type its path or an address.</source>
+        <translation>포트를 선택하거나 경로 또는 주소를 입력하십시오.</translation>
+    </message>
+    <message>
+        <source>This text is longer than any address.</source>
+        <translation>주소로 사용하기에는 너무 깁니다.</translation>
+    </message>
+    <message>
+        <source>This text contains characters that no address has.</source>
+        <translation>주소에 사용할 수 없는 문자가 있습니다.</translation>
+    </message>
+    <message>
+        <source>&quot;%1:&quot; is not known here. Sources are serial:, tcp:, rfc2217:, udp:, file: and demo:.</source>
+        <translation>&quot;%1:&quot; 형식은 사용할 수 없습니다. 사용할 수 있는 소스는 serial:, tcp:, rfc2217:, udp:, file:, demo:입니다.</translation>
+    </message>
+</context>
+<context>
+    <name>source_error_text</name>
+    <message>
+        <source>Another program is connected to %1, and only one can be.</source>
+        <translation>다른 프로그램이 %1에 연결되어 있습니다. 한 번에 하나만 연결할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Close it there. If it is gone already, let the server drop old connections (ser2net: the option kickolduser).</source>
+        <translation>해당 프로그램에서 연결을 닫으십시오. 이미 종료된 경우에는 이전 연결을 끊도록 서버를 설정하십시오(ser2net: kickolduser 옵션).</translation>
+    </message>
+    <message>
+        <source>%1 closed the connection.</source>
+        <translation>%1에서 연결을 닫았습니다.</translation>
+    </message>
+    <message>
+        <source>Another program may have connected to the same port, which ends this connection, or the server was stopped. Close the other program, or start the server, then open the source again.</source>
+        <translation>다른 프로그램이 같은 포트에 연결하여 이 연결이 종료되었거나 서버가 중지되었을 수 있습니다. 해당 프로그램을 종료하거나 서버를 시작한 다음 소스를 다시 여십시오.</translation>
+    </message>
+    <message>
+        <source>The serial port at %1 does not accept 8 data bits without parity. Check the settings of the server.</source>
+        <translation>%1의 시리얼 포트는 데이터 비트 8, 패리티 없음 설정을 지원하지 않습니다. 서버의 설정을 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>The serial port at %1 was set to %2 baud instead of %3. Choose a rate that it supports.</source>
+        <translation>%1의 시리얼 포트가 %3 baud가 아닌 %2 baud로 설정되었습니다. 지원되는 보드 레이트를 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>There is no host with the name %1. Check its spelling, or enter its address instead.</source>
+        <translation>이름이 %1인 호스트를 찾을 수 없습니다. 철자를 확인하거나 대신 주소를 입력하십시오.</translation>
+    </message>
+    <message>
+        <source>Nothing listens on port %1 of %2. Start the serial server there (such as ser2net), or check the port.</source>
+        <translation>%2의 포트 %1에서 수신 대기 중인 프로그램이 없습니다. 그곳에서 시리얼 서버(ser2net 등)를 시작하거나 포트를 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>There is no way to %1 (%2). Check the network cable or Wi-Fi of both computers.</source>
+        <translation>%1에 도달할 수 없습니다(%2). 두 컴퓨터의 네트워크 케이블 또는 Wi-Fi를 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 did not answer. Check that it is switched on, and that no firewall blocks port %2.</source>
+        <translation>%1에서 응답이 없습니다. 전원이 켜져 있는지, 방화벽이 포트 %2번을 차단하지 않는지 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 closed the connection and gave the reason &quot;%2&quot;.</source>
+        <translation>%1에서 다음 이유로 연결을 닫았습니다: &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>Check the settings of the server and its serial port.</source>
+        <translation>서버와 해당 시리얼 포트의 설정을 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>The connection to %1 was lost: it does not answer any more. Check the network, then open the source again.</source>
+        <translation>%1의 응답이 없어 연결이 끊어졌습니다. 네트워크를 확인한 다음 소스를 다시 여십시오.</translation>
+    </message>
+    <message>
+        <source>The simulator is not installed: there is no program &quot;%1&quot; beside this one. Install it, or connect a device.</source>
+        <translation>시뮬레이터가 설치되어 있지 않습니다. 이 프로그램과 같은 위치에 &quot;%1&quot; 프로그램이 없습니다. 시뮬레이터를 설치하거나 장치를 연결하십시오.</translation>
+    </message>
+    <message>
+        <source>The simulator has ended.</source>
+        <translation>시뮬레이터가 종료되었습니다.</translation>
+    </message>
+    <message>
+        <source>The simulator could not be started.</source>
+        <translation>시뮬레이터를 시작할 수 없습니다.</translation>
     </message>
 </context>
 <context>

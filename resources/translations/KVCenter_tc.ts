@@ -185,6 +185,90 @@
     </message>
 </context>
 <context>
+    <name>CaptureActions</name>
+    <message>
+        <source>Stop &amp;capture</source>
+        <translation>停止擷取(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Start &amp;capture</source>
+        <translation>開始擷取(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Captures every byte, sample and event into one file</source>
+        <translation>將每個位元組、取樣與事件擷取至一個檔案</translation>
+    </message>
+    <message>
+        <source>Capturing</source>
+        <translation>擷取中</translation>
+    </message>
+    <message>
+        <source>Captured into %1</source>
+        <translation>已擷取至 %1</translation>
+    </message>
+</context>
+<context>
+    <name>CaptureBadge</name>
+    <message>
+        <source>Capture %1</source>
+        <translation>擷取中 %1</translation>
+    </message>
+    <message>
+        <source>Capture: problem</source>
+        <translation>擷取發生問題</translation>
+    </message>
+</context>
+<context>
+    <name>CaptureFault</name>
+    <message>
+        <source>The capture %1 cannot be opened: %2</source>
+        <translation>無法開啟擷取檔案 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 is not a capture: it does not begin like an MCAP file.</source>
+        <translation>%1 不是擷取檔案：其開頭不符合 MCAP 檔案格式。</translation>
+    </message>
+    <message>
+        <source>Nothing in the capture %1 can be read: it is empty or damaged.</source>
+        <translation>擷取檔案 %1 中沒有可讀取的內容：檔案是空的或已損毀。</translation>
+    </message>
+    <message>
+        <source>%1 holds no received bytes that could be played back. Another program may have written it.</source>
+        <translation>%1 中沒有可播放的接收位元組。此檔案可能由其他程式寫入。</translation>
+    </message>
+    <message>
+        <source>The capture %1 cannot be created: %2</source>
+        <translation>無法建立擷取檔案 %1：%2</translation>
+    </message>
+    <message>
+        <source>The capture %1 has ended: %2. What was written before is complete.</source>
+        <translation>擷取 %1 已結束：%2。先前寫入的內容完整。</translation>
+    </message>
+    <message>
+        <source>The capture %1 has ended: the file was deleted or moved.</source>
+        <translation>擷取 %1 已結束：檔案已被刪除或移動。</translation>
+    </message>
+    <message>
+        <source>The capture %1 is being written at this moment.</source>
+        <translation>擷取檔案 %1 目前正在寫入。</translation>
+    </message>
+    <message>
+        <source>The capture %1 cannot be repaired: its folder is read-only. It has not been changed.</source>
+        <translation>無法修復擷取檔案 %1：其資料夾為唯讀。檔案未變更。</translation>
+    </message>
+    <message>
+        <source>The capture %1 cannot be repaired: %2. It has not been changed.</source>
+        <translation>無法修復擷取檔案 %1：%2。檔案未變更。</translation>
+    </message>
+</context>
+<context>
+    <name>CaptureRun</name>
+    <message>
+        <source>the folder cannot be created</source>
+        <translation>無法建立資料夾</translation>
+    </message>
+</context>
+<context>
     <name>CeilingField</name>
     <message>
         <source>now %1</source>
@@ -222,11 +306,11 @@
     </message>
     <message>
         <source>In force: %1 Hz, as the rate is now %2 Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>實際生效：%1 Hz，因目前速率為 %2 Hz</translation>
     </message>
     <message>
         <source>Apply %1 Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>套用 %1 Hz</translation>
     </message>
 </context>
 <context>
@@ -358,14 +442,14 @@
     </message>
     <message>
         <source>Only noise is arriving. The baud rate may be wrong.</source>
-        <translation type="unfinished"></translation>
+        <translation>僅收到雜訊。鮑率可能有誤。</translation>
     </message>
 </context>
 <context>
     <name>DashboardWindow</name>
     <message>
         <source>This window could not be loaded. See the log for the reason.</source>
-        <translation type="unfinished"></translation>
+        <translation>無法載入此視窗。原因請見日誌。</translation>
     </message>
 </context>
 <context>
@@ -423,7 +507,11 @@
     </message>
     <message>
         <source>The device may be waiting in its bootloader for the rest. Plug it in, then connect to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>裝置可能正在啟動載入程式中等待其餘資料。請接上裝置，然後連線。</translation>
+    </message>
+    <message>
+        <source>Connection error.</source>
+        <translation>連線錯誤。</translation>
     </message>
 </context>
 <context>
@@ -446,7 +534,7 @@
     </message>
     <message>
         <source>The selected node is not sending any at the moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>所選節點目前沒有傳送取樣資料。</translation>
     </message>
 </context>
 <context>
@@ -860,23 +948,23 @@
     </message>
     <message>
         <source>Freeze the charts; the table keeps updating</source>
-        <translation type="unfinished"></translation>
+        <translation>暫停圖表，表格持續更新</translation>
     </message>
     <message>
         <source>Continue with the newest samples</source>
-        <translation type="unfinished"></translation>
+        <translation>從最新資料繼續</translation>
     </message>
     <message>
         <source>Overlay</source>
-        <translation type="unfinished"></translation>
+        <translation>疊加</translation>
     </message>
     <message>
         <source>Show each node in a chart of its own</source>
-        <translation type="unfinished"></translation>
+        <translation>每個節點單獨顯示在一個圖表中</translation>
     </message>
     <message>
         <source>Show one quantity of all chosen nodes in one plot</source>
-        <translation type="unfinished"></translation>
+        <translation>在一個圖表中顯示所有所選節點的同一物理量</translation>
     </message>
 </context>
 <context>
@@ -979,23 +1067,30 @@ Pa</translation>
     </message>
     <message>
         <source>Move the node and its charts up</source>
-        <translation type="unfinished"></translation>
+        <translation>上移節點及其圖表</translation>
     </message>
     <message>
         <source>Alt+Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt+Up</translation>
     </message>
     <message>
         <source>Move the node and its charts down</source>
-        <translation type="unfinished"></translation>
+        <translation>下移節點及其圖表</translation>
     </message>
     <message>
         <source>Alt+Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt+Down</translation>
     </message>
     <message>
         <source>%1 nodes are already shown. Remove one first.</source>
-        <translation type="unfinished"></translation>
+        <translation>已顯示 %1 個節點。請先移除一個。</translation>
+    </message>
+</context>
+<context>
+    <name>KvUartPort</name>
+    <message>
+        <source>This program cannot open files.</source>
+        <translation>此程式無法開啟檔案。</translation>
     </message>
 </context>
 <context>
@@ -1168,7 +1263,7 @@ Pa</translation>
     </message>
     <message>
         <source>The mesh file is damaged, or of an unsupported kind.</source>
-        <translation type="unfinished"></translation>
+        <translation>網格檔案已損毀，或類型不受支援。</translation>
     </message>
 </context>
 <context>
@@ -1197,7 +1292,7 @@ Pa</translation>
     <name>NodeOverlay</name>
     <message>
         <source>Node %1</source>
-        <translation type="unfinished">節點 %1</translation>
+        <translation>節點 %1</translation>
     </message>
 </context>
 <context>
@@ -1236,14 +1331,25 @@ Pa</translation>
     </message>
     <message>
         <source>Line %1 of the OBJ file contains a coordinate that is not a number.</source>
-        <translation type="unfinished"></translation>
+        <translation>OBJ 檔案第 %1 行包含非數字的座標。</translation>
     </message>
 </context>
 <context>
     <name>OverlayChart</name>
     <message>
         <source>Show %1 of all chosen nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>顯示所有所選節點的 %1</translation>
+    </message>
+</context>
+<context>
+    <name>PictureChips</name>
+    <message>
+        <source>%1x</source>
+        <translation>%1 倍</translation>
+    </message>
+    <message>
+        <source>PNG at %1 times the size</source>
+        <translation>PNG，尺寸放大為 %1 倍</translation>
     </message>
 </context>
 <context>
@@ -1266,6 +1372,13 @@ Pa</translation>
     </message>
 </context>
 <context>
+    <name>Recorder</name>
+    <message>
+        <source>The connection was lost for %1 s.</source>
+        <translation>連線曾中斷 %1 秒。</translation>
+    </message>
+</context>
+<context>
     <name>RecordingActions</name>
     <message>
         <source>Marker %1 at %2 s</source>
@@ -1284,10 +1397,6 @@ Pa</translation>
         <translation>記錄已停止：共 %1 筆</translation>
     </message>
     <message>
-        <source>Markers go into recordings: start one first</source>
-        <translation>標記會寫入記錄：請先開始記錄</translation>
-    </message>
-    <message>
         <source>&amp;Stop recording</source>
         <translation>停止記錄(&amp;S)</translation>
     </message>
@@ -1303,6 +1412,18 @@ Pa</translation>
         <source>Records with the last folder and name</source>
         <translation>使用上次的資料夾與名稱進行記錄</translation>
     </message>
+    <message>
+        <source>Marker</source>
+        <translation>標記</translation>
+    </message>
+    <message>
+        <source>Marker at %1 s</source>
+        <translation>標記位於 %1 s</translation>
+    </message>
+    <message>
+        <source>Markers go into recordings and captures: start one first</source>
+        <translation>標記會寫入記錄或擷取檔案：請先開始記錄或擷取</translation>
+    </message>
 </context>
 <context>
     <name>RecordingBadge</name>
@@ -1316,7 +1437,26 @@ Pa</translation>
     </message>
     <message>
         <source>Recording: problem</source>
-        <translation type="unfinished"></translation>
+        <translation>記錄發生問題</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingReader</name>
+    <message>
+        <source>The recording %1 cannot be opened: %2</source>
+        <translation>無法開啟記錄檔案 %1：%2</translation>
+    </message>
+    <message>
+        <source>The recording %1 is empty.</source>
+        <translation>記錄檔案 %1 是空的。</translation>
+    </message>
+    <message>
+        <source>%1 is not a recording of this program: its columns are different.</source>
+        <translation>%1 不是本程式的記錄檔案：欄位不一致。</translation>
+    </message>
+    <message>
+        <source>The recording %1 holds no records.</source>
+        <translation>記錄檔案 %1 中沒有任何記錄。</translation>
     </message>
 </context>
 <context>
@@ -1346,14 +1486,6 @@ Pa</translation>
         <translation>圖片</translation>
     </message>
     <message>
-        <source>%1x</source>
-        <translation>%1 倍</translation>
-    </message>
-    <message>
-        <source>PNG at %1 times the size</source>
-        <translation>PNG，尺寸放大為 %1 倍</translation>
-    </message>
-    <message>
         <source>Save pictures…</source>
         <translation>儲存圖片…</translation>
     </message>
@@ -1363,7 +1495,7 @@ Pa</translation>
     </message>
     <message>
         <source>The buttons of each chart save only that chart, in the same way.</source>
-        <translation type="unfinished"></translation>
+        <translation>各圖表上的按鈕以相同方式僅儲存該圖表。</translation>
     </message>
 </context>
 <context>
@@ -1425,7 +1557,7 @@ Pa</translation>
     </message>
     <message>
         <source>Continue with the newest samples</source>
-        <translation type="unfinished"></translation>
+        <translation>從最新資料繼續</translation>
     </message>
 </context>
 <context>
@@ -1492,6 +1624,13 @@ Pa</translation>
     <message>
         <source>Pressure</source>
         <translation>氣壓</translation>
+    </message>
+</context>
+<context>
+    <name>SessionCapture</name>
+    <message>
+        <source>The disk is too slow. Not captured: %1 chunks or samples.</source>
+        <translation>磁碟速度過慢。未擷取的資料塊或取樣：%1 個。</translation>
     </message>
 </context>
 <context>
@@ -1565,10 +1704,6 @@ Pa</translation>
         <translation>開啟…</translation>
     </message>
     <message>
-        <source>Tell what a saved snapshot holds</source>
-        <translation>檢視已儲存快照的內容</translation>
-    </message>
-    <message>
         <source>Level (dB, 0 dB = 1 %1)</source>
         <translation>位準 (dB，0 dB = 1 %1)</translation>
     </message>
@@ -1577,12 +1712,20 @@ Pa</translation>
         <translation>資料塊 %1 %</translation>
     </message>
     <message>
-        <source>Limits of the axes</source>
-        <translation>座標軸範圍</translation>
-    </message>
-    <message>
         <source>Statistics</source>
         <translation>統計</translation>
+    </message>
+    <message>
+        <source>Limits of the axes, size of pictures</source>
+        <translation>座標軸範圍、圖片尺寸</translation>
+    </message>
+    <message>
+        <source>Show the contents of a saved snapshot</source>
+        <translation>顯示已儲存快照的內容</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>圖片</translation>
     </message>
 </context>
 <context>
@@ -1622,90 +1765,90 @@ Pa</translation>
     <name>TimeChart</name>
     <message>
         <source>Waiting for samples</source>
-        <translation type="unfinished">正在等待取樣資料</translation>
+        <translation>正在等待取樣資料</translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation type="unfinished">已暫停</translation>
+        <translation>已暫停</translation>
     </message>
     <message>
         <source>Live</source>
-        <translation type="unfinished"></translation>
+        <translation>即時</translation>
     </message>
     <message>
         <source>Back to the newest samples</source>
-        <translation type="unfinished">回到最新資料</translation>
+        <translation>回到最新資料</translation>
     </message>
     <message>
         <source>End</source>
-        <translation type="unfinished">End</translation>
+        <translation>End</translation>
     </message>
     <message>
         <source>Span and limits of the axes</source>
-        <translation type="unfinished">時間跨度與座標軸範圍</translation>
+        <translation>時間跨度與座標軸範圍</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished">統計</translation>
+        <translation>統計</translation>
     </message>
     <message>
         <source>Remove the measuring cursors</source>
-        <translation type="unfinished">移除量測游標</translation>
+        <translation>移除量測游標</translation>
     </message>
     <message>
         <source>Measure between two cursors</source>
-        <translation type="unfinished">以兩個游標量測</translation>
+        <translation>以兩個游標量測</translation>
     </message>
     <message>
         <source>Esc</source>
-        <translation type="unfinished">Esc</translation>
+        <translation>Esc</translation>
     </message>
     <message>
         <source>A, B</source>
-        <translation type="unfinished">A、B</translation>
+        <translation>A、B</translation>
     </message>
     <message>
         <source>Reset the view</source>
-        <translation type="unfinished">重設檢視</translation>
+        <translation>重設檢視</translation>
     </message>
     <message>
         <source>Home</source>
-        <translation type="unfinished"></translation>
+        <translation>Home</translation>
     </message>
     <message>
         <source>Save a picture of the chart</source>
-        <translation type="unfinished">儲存圖表圖片</translation>
+        <translation>儲存圖表圖片</translation>
     </message>
     <message>
         <source>Save the visible samples</source>
-        <translation type="unfinished">儲存可見區間的取樣資料</translation>
+        <translation>儲存可見區間的取樣資料</translation>
     </message>
     <message>
         <source>Show all charts</source>
-        <translation type="unfinished">顯示所有圖表</translation>
+        <translation>顯示所有圖表</translation>
     </message>
     <message>
         <source>Show this chart alone</source>
-        <translation type="unfinished">僅顯示此圖表</translation>
+        <translation>僅顯示此圖表</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished">%1 s</translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>Show %1 seconds</source>
-        <translation type="unfinished">顯示 %1 秒</translation>
+        <translation>顯示 %1 秒</translation>
     </message>
     <message>
         <source>No new samples</source>
-        <translation type="unfinished">沒有新的取樣資料</translation>
+        <translation>沒有新的取樣資料</translation>
     </message>
 </context>
 <context>
     <name>TimeViewState</name>
     <message>
         <source>t %1</source>
-        <translation type="unfinished">t %1</translation>
+        <translation>t %1</translation>
     </message>
 </context>
 <context>
@@ -1827,7 +1970,7 @@ Pa</translation>
     </message>
     <message>
         <source>Trigger level; drag its line to change it</source>
-        <translation type="unfinished"></translation>
+        <translation>觸發位準；拖曳位準線即可變更</translation>
     </message>
 </context>
 <context>
@@ -2101,10 +2244,6 @@ Pa</translation>
         <translation>開啟序列埠...</translation>
     </message>
     <message>
-        <source>No hardware at hand? The simulator kv_simulator behaves like a device and prints the path of the port to open.</source>
-        <translation>手邊沒有硬體？模擬器 kv_simulator 的行為與真實裝置相同，啟動後會顯示要開啟的序列埠路徑。</translation>
-    </message>
-    <message>
         <source>&amp;Serial</source>
         <translation>序列埠(&amp;S)</translation>
     </message>
@@ -2252,6 +2391,22 @@ Pa</translation>
         <source>Marks this moment in a file beside the recording</source>
         <translation>在記錄的附屬檔案中標記此刻</translation>
     </message>
+    <message>
+        <source>No hardware at hand? The simulator behaves like a device.</source>
+        <translation>手邊沒有硬體？模擬器的行為與裝置相同。</translation>
+    </message>
+    <message>
+        <source>Try without a device</source>
+        <translation>無裝置試用</translation>
+    </message>
+    <message>
+        <source>Start &amp;capture</source>
+        <translation>開始擷取(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Ctrl+F9</source>
+        <translation>Ctrl+F9</translation>
+    </message>
 </context>
 <context>
     <name>form_com_select</name>
@@ -2288,14 +2443,6 @@ Pa</translation>
         <translation>找不到序列埠</translation>
     </message>
     <message>
-        <source>&amp;Port or path</source>
-        <translation>連接埠或路徑(&amp;P)</translation>
-    </message>
-    <message>
-        <source>A port of the list, or a path typed by hand: a pseudo-terminal or a link to a device file</source>
-        <translation>清單中的連接埠，或手動輸入的路徑：虛擬終端機或指向裝置檔案的連結</translation>
-    </message>
-    <message>
         <source>&amp;Baud rate</source>
         <translation>鮑率(&amp;B)</translation>
     </message>
@@ -2312,10 +2459,6 @@ Pa</translation>
         <translation>取消</translation>
     </message>
     <message>
-        <source>Choose a port or type its path.</source>
-        <translation>請選擇連接埠，或輸入其路徑。</translation>
-    </message>
-    <message>
         <source>%1 is not there at the moment. Plug the device in, or choose another port.</source>
         <translation>%1 目前不存在。請接上裝置，或選擇其他連接埠。</translation>
     </message>
@@ -2326,8 +2469,66 @@ Pa</translation>
     <message>
         <source>Plug the device in: it will appear here.
 
-To try the program without a device, start the simulator in a terminal with ./run or kv_simulator. It prints a path: type that below.</source>
-        <translation type="unfinished"></translation>
+To try the program without a device, type demo: below. A device on another computer has an address there, such as tcp://192.168.1.20:4001.</source>
+        <translation>接上裝置後，它會顯示在這裡。
+
+若要在沒有裝置的情況下試用本程式，請在下方輸入「demo:」。其他電腦上的裝置透過位址存取，例如 tcp://192.168.1.20:4001。</translation>
+    </message>
+    <message>
+        <source>&amp;Port or address</source>
+        <translation>序列埠或位址(&amp;P)</translation>
+    </message>
+    <message>
+        <source>A port, or tcp://host:port, rfc2217://host:port, udp://host:port</source>
+        <translation>序列埠，或 tcp://host:port、rfc2217://host:port、udp://host:port</translation>
+    </message>
+    <message>
+        <source>A port of the list, or typed by hand: the path of a port, or an address such as tcp://host:port, rfc2217://host:port?baud=115200, udp://host:port, file:path or demo:</source>
+        <translation>從清單中選擇序列埠，或手動輸入：序列埠路徑，或位址，例如 tcp://host:port、rfc2217://host:port?baud=115200、udp://host:port、file:path 或 demo:</translation>
+    </message>
+    <message>
+        <source>&amp;File...</source>
+        <translation>檔案(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>Play a capture or a recording</source>
+        <translation>播放擷取或記錄檔案</translation>
+    </message>
+    <message>
+        <source>&amp;Recent</source>
+        <translation>最近使用(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Sources opened last</source>
+        <translation>最近開啟的資料來源</translation>
+    </message>
+    <message>
+        <source>The sources that were opened last</source>
+        <translation>最近開啟過的資料來源</translation>
+    </message>
+    <message>
+        <source>Reco&amp;nnect</source>
+        <translation>自動重新連線(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Choose a port, or type its path or an address.</source>
+        <translation>請選擇序列埠，或輸入序列埠路徑或位址。</translation>
+    </message>
+    <message>
+        <source>Opens the same device again when it was lost and is back</source>
+        <translation>裝置斷線並恢復後，重新開啟同一裝置</translation>
+    </message>
+    <message>
+        <source>Not for this source: another device could not be told from it. An adapter with a serial number, a path in /dev/serial/by-id or an address on the network can be.</source>
+        <translation>不適用於此資料來源：無法將其與其他裝置區分。有序號的轉接器、/dev/serial/by-id 中的路徑或網路位址則可以區分。</translation>
+    </message>
+    <message>
+        <source>Open Capture or Recording</source>
+        <translation>開啟擷取或記錄檔案</translation>
+    </message>
+    <message>
+        <source>Captures and recordings (*.mcap *.csv);;All files (*)</source>
+        <translation>擷取與記錄檔案 (*.mcap *.csv);;所有檔案 (*)</translation>
     </message>
 </context>
 <context>
@@ -2657,15 +2858,15 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>Text that the device answers to commands, and the remains of damaged packets</source>
-        <translation type="unfinished"></translation>
+        <translation>裝置對命令的文字回應，以及損壞封包的殘留</translation>
     </message>
     <message>
         <source>The latest damage on the line</source>
-        <translation type="unfinished"></translation>
+        <translation>線路上最近一次資料損壞</translation>
     </message>
     <message>
         <source>The device restarted or its time was set; what was lost in between is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>裝置重新啟動或其時間被設定；其間遺失的資料不明</translation>
     </message>
 </context>
 <context>
@@ -2916,11 +3117,11 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>&amp;Continue after the cable was unplugged</source>
-        <translation type="unfinished"></translation>
+        <translation>拔線重連後繼續記錄(&amp;C)</translation>
     </message>
     <message>
         <source>Not connected. Open a serial port first.</source>
-        <translation type="unfinished"></translation>
+        <translation>尚未連線。請先開啟序列埠。</translation>
     </message>
 </context>
 <context>
@@ -3119,11 +3320,11 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>The device is not sending text. The baud rate may be wrong.</source>
-        <translation type="unfinished"></translation>
+        <translation>裝置傳送的不是文字。鮑率可能有誤。</translation>
     </message>
     <message>
         <source>%1 Hz needs %2 % of the line&apos;s capacity at %3 baud: samples will be lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>鮑率為 %3 時，%1 Hz 需要線路容量的 %2 %：會遺失取樣。</translation>
     </message>
 </context>
 <context>
@@ -3262,7 +3463,7 @@ To try the program without a device, start the simulator in a terminal with ./ru
     </message>
     <message>
         <source>The 3D picture could not be loaded. See the log for the reason.</source>
-        <translation type="unfinished"></translation>
+        <translation>無法載入 3D 畫面。原因請見日誌。</translation>
     </message>
 </context>
 <context>
@@ -3901,11 +4102,175 @@ Do not unplug the device.</source>
     </message>
     <message>
         <source>Not connected. Open a serial port first.</source>
-        <translation type="unfinished"></translation>
+        <translation>尚未連線。請先開啟序列埠。</translation>
     </message>
     <message>
         <source>A firmware download is running and must finish first.</source>
-        <translation type="unfinished"></translation>
+        <translation>正在燒錄韌體，必須先等待其完成。</translation>
+    </message>
+    <message>
+        <source>The connection was lost. The device is waited for.</source>
+        <translation>連線已中斷。正在等待裝置。</translation>
+    </message>
+    <message>
+        <source>Over UDP the device can only be listened to: commands may get lost or arrive in another order. Connect by tcp: or rfc2217: to send them.</source>
+        <translation>透過 UDP 只能接收裝置的資料：命令可能遺失或未依序到達。若要傳送命令，請透過 tcp: 或 rfc2217: 連線。</translation>
+    </message>
+    <message>
+        <source>This is a recording: there is no device to send anything to.</source>
+        <translation>這是記錄檔案：沒有可接收命令的裝置。</translation>
+    </message>
+    <message>
+        <source>The baud rate of this source is not set from here. Connect by rfc2217: to set that of a serial server.</source>
+        <translation>此資料來源的鮑率不在此處設定。若要設定序列埠伺服器的鮑率，請透過 rfc2217: 連線。</translation>
+    </message>
+    <message>
+        <source>The connection was lost.
+Waiting for the device...</source>
+        <translation>連線已中斷。
+正在等待裝置...</translation>
+    </message>
+</context>
+<context>
+    <name>source_address</name>
+    <message>
+        <source>&quot;?%1&quot; is not known here. Only the baud rate can follow, such as ?baud=%2.</source>
+        <translation>無法識別「?%1」。此處只能附加鮑率，例如 ?baud=%2。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a baud rate. It is a whole number from %2 to %3.</source>
+        <translation>「%1」不是鮑率。鮑率是 %2 到 %3 之間的整數。</translation>
+    </message>
+    <message>
+        <source>The address of a network source looks like %1.</source>
+        <translation>網路資料來源的位址格式如 %1。</translation>
+    </message>
+    <message>
+        <source>The bracket after the IPv6 address is missing, as in %1.</source>
+        <translation>IPv6 位址後缺少右方括號，正確寫法如 %1。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an IPv6 address.</source>
+        <translation>「%1」不是 IPv6 位址。</translation>
+    </message>
+    <message>
+        <source>Only a colon and the port can follow the bracket, as in %1.</source>
+        <translation>方括號後只能是冒號與連接埠，例如 %1。</translation>
+    </message>
+    <message>
+        <source>An IPv6 address needs brackets, as in %1.</source>
+        <translation>IPv6 位址須加上方括號，例如 %1。</translation>
+    </message>
+    <message>
+        <source>Add the host, as in %1.</source>
+        <translation>請加上主機，例如 %1。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the name or address of a host.</source>
+        <translation>「%1」不是主機名稱或主機位址。</translation>
+    </message>
+    <message>
+        <source>Add the port, as in %1.</source>
+        <translation>請加上連接埠，例如 %1。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a port. It is a whole number from 1 to 65535.</source>
+        <translation>「%1」不是連接埠。連接埠是 1 到 65535 之間的整數。</translation>
+    </message>
+    <message>
+        <source>Add the port, as in serial:/dev/ttyUSB0.</source>
+        <translation>請加上序列埠，例如 serial:/dev/ttyUSB0。</translation>
+    </message>
+    <message>
+        <source>Add the path of the file, as in file:recordings/walk.mcap.</source>
+        <translation>請加上檔案路徑，例如 file:recordings/walk.mcap。</translation>
+    </message>
+    <message>
+        <source>Nothing can follow &quot;demo:&quot;.</source>
+        <translation>「demo:」之後不能有其他內容。</translation>
+    </message>
+    <message>
+        <source>Choose a port, or type its path or an address.</source>
+        <translation>請選擇序列埠，或輸入序列埠路徑或位址。</translation>
+    </message>
+    <message>
+        <source>This text is longer than any address.</source>
+        <translation>此文字過長，不可能是位址。</translation>
+    </message>
+    <message>
+        <source>This text contains characters that no address has.</source>
+        <translation>此文字包含位址中不會出現的字元。</translation>
+    </message>
+    <message>
+        <source>&quot;%1:&quot; is not known here. Sources are serial:, tcp:, rfc2217:, udp:, file: and demo:.</source>
+        <translation>無法識別「%1:」。可用的資料來源為 serial:、tcp:、rfc2217:、udp:、file: 和 demo:。</translation>
+    </message>
+</context>
+<context>
+    <name>source_error_text</name>
+    <message>
+        <source>Another program is connected to %1, and only one can be.</source>
+        <translation>另有程式已連線至 %1，而它只允許一個連線。</translation>
+    </message>
+    <message>
+        <source>Close it there. If it is gone already, let the server drop old connections (ser2net: the option kickolduser).</source>
+        <translation>請關閉該程式。如果它已不存在，請讓伺服器中斷舊連線（ser2net：選項 kickolduser）。</translation>
+    </message>
+    <message>
+        <source>%1 closed the connection.</source>
+        <translation>%1 關閉了連線。</translation>
+    </message>
+    <message>
+        <source>Another program may have connected to the same port, which ends this connection, or the server was stopped. Close the other program, or start the server, then open the source again.</source>
+        <translation>可能有其他程式連線至同一連接埠，因而中斷了此連線；也可能是伺服器已停止。請關閉該程式或啟動伺服器，然後重新開啟資料來源。</translation>
+    </message>
+    <message>
+        <source>The serial port at %1 does not accept 8 data bits without parity. Check the settings of the server.</source>
+        <translation>%1 的序列埠不支援 8 個資料位元、無同位檢查的設定。請檢查伺服器的設定。</translation>
+    </message>
+    <message>
+        <source>The serial port at %1 was set to %2 baud instead of %3. Choose a rate that it supports.</source>
+        <translation>%1 的序列埠鮑率被設為 %2，而不是 %3。請選擇其支援的鮑率。</translation>
+    </message>
+    <message>
+        <source>There is no host with the name %1. Check its spelling, or enter its address instead.</source>
+        <translation>沒有名為 %1 的主機。請檢查拼字，或改為輸入其位址。</translation>
+    </message>
+    <message>
+        <source>Nothing listens on port %1 of %2. Start the serial server there (such as ser2net), or check the port.</source>
+        <translation>%2 的連接埠 %1 上沒有程式在接聽。請在該主機上啟動序列埠伺服器（例如 ser2net），或檢查連接埠。</translation>
+    </message>
+    <message>
+        <source>There is no way to %1 (%2). Check the network cable or Wi-Fi of both computers.</source>
+        <translation>無法連至 %1（%2）。請檢查兩台電腦的網路線或 Wi-Fi。</translation>
+    </message>
+    <message>
+        <source>%1 did not answer. Check that it is switched on, and that no firewall blocks port %2.</source>
+        <translation>%1 沒有回應。請確認其已開機，且沒有防火牆封鎖連接埠 %2。</translation>
+    </message>
+    <message>
+        <source>%1 closed the connection and gave the reason &quot;%2&quot;.</source>
+        <translation>%1 關閉了連線，原因為「%2」。</translation>
+    </message>
+    <message>
+        <source>Check the settings of the server and its serial port.</source>
+        <translation>請檢查伺服器及其序列埠的設定。</translation>
+    </message>
+    <message>
+        <source>The connection to %1 was lost: it does not answer any more. Check the network, then open the source again.</source>
+        <translation>與 %1 的連線已中斷：對方不再回應。請檢查網路，然後重新開啟資料來源。</translation>
+    </message>
+    <message>
+        <source>The simulator is not installed: there is no program &quot;%1&quot; beside this one. Install it, or connect a device.</source>
+        <translation>未安裝模擬器：本程式所在的資料夾中沒有程式「%1」。請安裝模擬器，或連接裝置。</translation>
+    </message>
+    <message>
+        <source>The simulator has ended.</source>
+        <translation>模擬器已結束。</translation>
+    </message>
+    <message>
+        <source>The simulator could not be started.</source>
+        <translation>無法啟動模擬器。</translation>
     </message>
 </context>
 <context>

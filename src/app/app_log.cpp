@@ -8,9 +8,15 @@
 
 #include <atomic>
 
+#include "app/instance.h"
+
 namespace {
 
-constexpr QLatin1String kLogFile("debug.log");
+QString logName()
+{
+    static const QString name = instance::fileName(QStringLiteral("debug.log"));
+    return name;
+}
 
 Q_GLOBAL_STATIC(QMutex, logMutex)
 
@@ -36,9 +42,9 @@ QLatin1String levelTag(QtMsgType type)
 void AppLog::init()
 {
     static std::atomic_flag isDone;
-    if (isDone.test_and_set() || !QFile::exists(kLogFile))
+    if (isDone.test_and_set() || !QFile::exists(logName()))
         return;
-    if (QFile::resize(kLogFile, 0))
+    if (QFile::resize(logName(), 0))
         print(QStringLiteral("Old log file was removed."));
 }
 
@@ -47,7 +53,7 @@ void AppLog::logfile(QtMsgType type, const QString &message)
     const QString line = QDateTime::currentDateTime().toString(u"(yyyy-MM-dd hh:mm:ss) ") + levelTag(type) + message
                          + QLatin1String("\r\n");
     const QMutexLocker lock(logMutex());
-    QFile file(kLogFile);
+    QFile file(logName());
     if (!file.open(QIODevice::WriteOnly | QIODevice::Append))
         return;
     QTextStream stream(&file);

@@ -3,8 +3,8 @@
 #include <QString>
 #include <QtGlobal>
 
-/// The application log "debug.log" in the working folder: one line per call, the file opened and closed for each, so
-/// that it is complete at any time. It holds the current run only.
+/// The application log "debug.log" (see instance.h) in the working folder: one line per call, the file opened and
+/// closed for each, so that it is complete at any time. It holds the current run only.
 class AppLog
 {
 public:

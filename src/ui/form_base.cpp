@@ -8,6 +8,7 @@
 #include <QScrollBar>
 #include <QSettings>
 #include <QThread>
+#include <QWindow>
 
 #include "app/app_language_manager.h"
 #include "app/app_log.h"
@@ -142,6 +143,7 @@ void form_base::setUpConnections()
     connect(m_ui->action_link_health, &QAction::triggered, m_dialogs, &Dialogs::openLinkHealth);
     connect(m_dialogs, &Dialogs::portChosen, this, &form_base::open_port);
     connect(m_dialogs, &Dialogs::restartWanted, this, [this] { m_wantsRestart = close(); });
+    connect(m_ui->action_new_window, &QAction::triggered, this, &form_base::newWindowWanted);
     connect(m_ui->action_quit, &QAction::triggered, this, &form_base::close);
     connect(m_ui->button_demo, &QPushButton::clicked, this,
             [this] { open_port(QStringLiteral("demo:"), SourceAddress::kDefaultBaud); });
@@ -204,6 +206,7 @@ void form_base::on_orientation_preset_changed(OrientationPreset preset)
 
 void form_base::onSessionState()
 {
+    showName();
     // Not before it is closed: while it is closing, its parts still hold what is to be cleared.
     if (m_session->isEngaged() != m_isShowingConnection)
         enable_all_page(m_session->isEngaged());
@@ -339,9 +342,38 @@ void form_base::applyFontSize(int points)
     m_ui->actionFontBig->setChecked(points == font_size::kBig);
 }
 
+void form_base::setNamed(bool named)
+{
+    m_isNamed = named;
+    showName();
+}
+
+void form_base::showName()
+{
+    const QString name = m_isNamed && m_session->isOpen() ? m_session->portName() : QString();
+    setWindowTitle(name.isEmpty() ? appWindowTitle() : appWindowTitle() + QStringLiteral(" - ") + name);
+    m_views->setName(name);
+}
+
+void form_base::setForeground(bool foreground)
+{
+    const Qt::ShortcutContext context = foreground ? Qt::ApplicationShortcut : Qt::WindowShortcut;
+    for (QAction *action : {m_ui->action_record_now, m_ui->action_capture})
+        action->setShortcutContext(context);
+}
+
+bool form_base::owns(const QWindow *window) const
+{
+    for (const QWindow *owner = window; owner; owner = owner->transientParent()) {
+        if (owner == windowHandle() || m_views->owns(owner))
+            return true;
+    }
+    return false;
+}
+
 void form_base::retranslate()
 {
-    setWindowTitle(appWindowTitle());
+    showName();
     m_panel->retranslate();
     m_statusLine->retranslate();
     m_actions->retranslate();

@@ -52,6 +52,12 @@ public:
     DeviceSession &session() const { return *m_session; }
     /// The user has requested a restart of the program.
     bool wantsRestart() const { return m_wantsRestart; }
+    /// There are several main windows: this one and its windows carry the name of their device.
+    void setNamed(bool named);
+    /// The keys that work in every window are meant for this device.
+    void setForeground(bool foreground);
+    /// A window that belongs to this device.
+    bool owns(const QWindow *window) const;
     /// The link, for callers that count the traffic through the program.
     const KvUartPort &port() const;
 
@@ -66,6 +72,10 @@ public:
     // Not slots: their actions are not in the generated layout, but automatic connection would search for them by name.
     void on_action_sensor_dashboard_triggered();
     void on_action_wireless_gateway_dashboard_triggered();
+
+signals:
+    /// Another main window is requested.
+    void newWindowWanted();
 
 public slots:
     /// Lets the user choose a port; on acceptance opens it and starts the identification of the device.
@@ -91,6 +101,7 @@ private:
     void setUpConnections();
     void applyFontSize(int points);
     void storeFontSize(int points);
+    void showName();
     void retranslate();
 
     void enable_all_page(bool enabled);
@@ -106,6 +117,7 @@ private:
     QTimer m_uiTimer;
     bool m_isShowingConnection = false;
     bool m_wantsRestart = false;
+    bool m_isNamed = false;
     bool m_isNumbersTurn = false; ///< numbers and attitude are refreshed on every second tick
 
     SensorDataPanel *m_panel = nullptr;

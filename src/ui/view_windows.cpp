@@ -1,6 +1,9 @@
 #include "ui/view_windows.h"
 
 #include <QDateTime>
+#include <QWindow>
+
+#include <utility>
 
 #include "app/window_host.h"
 #include "attitude/attitude_convention.h"
@@ -25,6 +28,36 @@ constexpr int kEstimateRate = 0; // the time stamps give the rate more exactly t
 SampleFields chartFields(const StreamSample &sample, const NormalizedAttitude &attitude)
 {
     return attitude.valid ? sample.fields | SampleField::Euler : sample.fields;
+}
+
+QString title(const QWidget *window)
+{
+    return window->windowTitle();
+}
+
+QString title(const QWindow *window)
+{
+    return window->title();
+}
+
+void setTitle(QWidget *window, const QString &text)
+{
+    window->setWindowTitle(text);
+}
+
+void setTitle(QWindow *window, const QString &text)
+{
+    window->setTitle(text);
+}
+
+const QWindow *asWindow(const QWidget *window)
+{
+    return window->windowHandle();
+}
+
+const QWindow *asWindow(const QWindow *window)
+{
+    return window;
 }
 
 } // namespace
@@ -52,6 +85,7 @@ void ViewWindows::openSensorDashboard()
         m_sensorDashboard = std::make_unique<form_sensor_dashboard>();
         if (m_frameRate > 0)
             m_sensorDashboard->bridge().setFrameRate(m_frameRate);
+        name(static_cast<QWindow *>(m_sensorDashboard.get()));
         followMarkers(m_sensorDashboard->bridge().markers());
         connect(&m_sensorDashboard->bridge(), &SensorDashboardBridge::recordingWanted, &m_session->recorder(), [this] {
             if (m_session->allows(SessionAction::StartRecording) && !m_session->recorder().isRecording())
@@ -68,6 +102,7 @@ void ViewWindows::openGatewayDashboard()
         m_wirelessDashboard = std::make_unique<form_wireless_dashboard>();
         if (m_frameRate > 0)
             m_wirelessDashboard->setFrameRate(m_frameRate);
+        name(static_cast<QWindow *>(m_wirelessDashboard.get()));
         followMarkers(m_wirelessDashboard->bridge().markers());
         showOrigin();
     }
@@ -78,6 +113,7 @@ void ViewWindows::openSpectrum()
 {
     if (!m_spectrum) {
         m_spectrum = std::make_unique<form_fftchart>();
+        name(m_spectrum.get());
         connect(&m_spectrum->bridge(), &FftChartBridge::alarmStateChanged, this, &ViewWindows::captureAlarm);
     }
     WindowHost::bringUp(m_spectrum.get());
@@ -87,6 +123,7 @@ void ViewWindows::openThreeD()
 {
     if (!m_threed) {
         m_threed = std::make_unique<form_threed>();
+        name(m_threed.get());
         showMounting();
         connect(m_threed.get(), &form_threed::orientationPresetChanged, m_session, &DeviceSession::setPreset);
     }
@@ -99,6 +136,47 @@ void ViewWindows::closeAll()
     m_spectrum.reset();
     m_sensorDashboard.reset();
     m_wirelessDashboard.reset();
+}
+
+template <class Visit> void ViewWindows::forEach(Visit visit) const
+{
+    if (m_threed)
+        visit(m_threed.get());
+    if (m_spectrum)
+        visit(m_spectrum.get());
+    if (m_sensorDashboard)
+        visit(static_cast<QWindow *>(m_sensorDashboard.get()));
+    if (m_wirelessDashboard)
+        visit(static_cast<QWindow *>(m_wirelessDashboard.get()));
+}
+
+/// A new window: its title ends with the device's name, also after it was translated.
+template <class Window> void ViewWindows::name(Window *window)
+{
+    const auto follow = [this, window] { setTitle(window, title(window) + m_suffix); };
+    connect(window, &Window::windowTitleChanged, this, [this, window, follow] {
+        if (!title(window).endsWith(m_suffix))
+            follow();
+    });
+    follow();
+}
+
+void ViewWindows::setName(const QString &name)
+{
+    const QString before = std::exchange(m_suffix, name.isEmpty() ? QString() : QStringLiteral(" - ") + name);
+    if (before == m_suffix)
+        return;
+    forEach([this, &before](auto *window) {
+        const QString old = title(window);
+        setTitle(window, (old.endsWith(before) ? old.chopped(before.size()) : old) + m_suffix);
+    });
+}
+
+bool ViewWindows::owns(const QWindow *window) const
+{
+    bool isOwn = false;
+    forEach([&isOwn, window](auto *candidate) { isOwn |= asWindow(candidate) == window; });
+    return isOwn;
 }
 
 void ViewWindows::showAttitude(const NormalizedAttitude &attitude)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QString>
 
 #include <memory>
 
@@ -8,6 +9,7 @@
 
 class DeviceSession;
 class MarkerList;
+class QWindow;
 class form_fftchart;
 class form_sensor_dashboard;
 class form_threed;
@@ -36,8 +38,13 @@ public:
     void showAttitude(const NormalizedAttitude &attitude);
     /// Destroys all windows.
     void closeAll();
+    /// The name of the device in the titles of all windows; empty for none.
+    void setName(const QString &name);
+    bool owns(const QWindow *window) const;
 
 private:
+    template <class Window> void name(Window *window);
+    template <class Visit> void forEach(Visit visit) const;
     void onRestart(const StreamRestart &restart);
     void onSample(const StreamSample &sample);
     void onBatch(const QList<StreamSample> &samples);
@@ -56,6 +63,7 @@ private:
     std::unique_ptr<form_sensor_dashboard> m_sensorDashboard;
     std::unique_ptr<form_wireless_dashboard> m_wirelessDashboard;
     bool m_isRelaying = false;
-    bool m_isAlarmActive = false; ///< a marker is being passed on and must not come back
+    bool m_isAlarmActive = false;
+    QString m_suffix; ///< of the titles of all windows ///< a marker is being passed on and must not come back
     unsigned int m_frameRate = 0; ///< last known one, 0: none yet
 };

@@ -4,6 +4,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <array>
+
 #include "support/simulator_process.h"
 
 namespace {
@@ -50,6 +52,32 @@ private slots:
         static const QRegularExpression line(QStringLiteral(R"(^\[\d\d:\d\d:\d\d\.\d{3}\] (DBG|INF): .* \(.*:\d+\)$)"));
         for (const QByteArray &text : log.trimmed().split('\n'))
             QVERIFY2(line.match(QString::fromUtf8(text)).hasMatch(), text.constData());
+    }
+
+    /// A second program in the same folder leaves the logs of the first alone.
+    void keepsTheLogsOfAnother()
+    {
+        const QTemporaryDir folder;
+        QFile settings(folder.filePath(QStringLiteral("param.ini")));
+        QVERIFY(settings.open(QIODevice::WriteOnly));
+        settings.write("[Main]\nLANGUAGE=EN\n");
+        settings.close();
+        std::array<QProcess, 2> programs;
+        for (QProcess &program : programs) {
+            program.setWorkingDirectory(folder.path());
+            program.start(QStringLiteral(KV_PROGRAM_PATH), QStringList());
+            QVERIFY(program.waitForStarted());
+            const QString name = &program == &programs.front()
+                                     ? QStringLiteral("debug.log")
+                                     : QStringLiteral("debug.%1.log").arg(program.processId());
+            QTRY_VERIFY_WITH_TIMEOUT(content(folder.filePath(name)).contains("ui-thread="), 20000);
+        }
+        QCOMPARE(content(folder.filePath(QStringLiteral("debug.log"))).count("ui-thread="), 1);
+        QVERIFY(!content(folder.filePath(QStringLiteral("qt6_debug.log"))).isEmpty());
+        for (QProcess &program : programs) {
+            program.terminate();
+            QVERIFY(program.waitForFinished());
+        }
     }
 
     // Read naively, these nested lists would overflow the stack.
