@@ -9,6 +9,17 @@ namespace {
 
 constexpr std::chrono::seconds kOpenDeadline{10};
 
+/// Ends it, unless the disk hangs.
+void leave(const std::shared_ptr<CaptureRun> &run)
+{
+    if (run->wait(QDeadlineTimer(kOpenDeadline)))
+        return;
+    qWarning("The disk does not answer; a capture that is being started is left to itself.");
+    // It keeps itself until then.
+    QObject::connect(
+        run.get(), &CaptureRun::ended, run.get(), [kept = run]() mutable { kept.reset(); }, Qt::QueuedConnection);
+}
+
 } // namespace
 
 CaptureWriter::CaptureWriter(QObject *parent) : QObject(parent)
@@ -19,27 +30,30 @@ CaptureWriter::CaptureWriter(QObject *parent) : QObject(parent)
 CaptureWriter::~CaptureWriter()
 {
     m_isCapturing = false;
-    if (!m_run || m_run->wait(QDeadlineTimer(kOpenDeadline)))
-        return;
-    qWarning("The disk does not answer; a capture that is being started is left to itself.");
-    auto *keeper = new std::shared_ptr<CaptureRun>(m_run);
-    connect(
-        m_run.get(), &CaptureRun::ended, m_run.get(), [keeper] { delete keeper; }, Qt::QueuedConnection);
+    for (const auto &run : std::as_const(m_earlier))
+        leave(run);
+    if (m_run)
+        leave(m_run);
 }
 
 void CaptureWriter::start(const QString &folder, const QString &name, const CaptureContext &context)
 {
-    if (m_isBusy)
+    if (m_isCapturing)
         return;
+    if (m_isBusy)
+        m_earlier.insert(m_number, m_run);
     const auto run = std::make_shared<CaptureRun>(folder, name, context);
+    const unsigned int number = ++m_number;
     connect(run.get(), &CaptureRun::opened, this, &CaptureWriter::opened);
     connect(run.get(), &CaptureRun::dropped, this, &CaptureWriter::dropped);
-    connect(run.get(), &CaptureRun::failed, this, [this](const CaptureFault &fault) {
+    connect(run.get(), &CaptureRun::failed, this, [this, number](const CaptureFault &fault) {
+        if (number != m_number)
+            return;
         m_isCapturing = false;
         m_fault = fault;
         emit failed(fault);
     });
-    connect(run.get(), &CaptureRun::ended, this, [this, pointer = run.get()] { takeEnd(pointer); });
+    connect(run.get(), &CaptureRun::ended, this, [this, number] { takeEnd(number); });
     m_fault = {};
     {
         const QMutexLocker locker(&m_lock);
@@ -59,14 +73,16 @@ void CaptureWriter::stop()
 
 void CaptureWriter::waitForEnd()
 {
+    m_earlier.clear(); // waits
     if (m_isBusy && !m_isCapturing && m_run->wait())
-        takeEnd(m_run.get());
+        takeEnd(m_number);
 }
 
 /// Once: posted, or found by waiting.
-void CaptureWriter::takeEnd(const CaptureRun *run)
+void CaptureWriter::takeEnd(unsigned int number)
 {
-    if (run != m_run.get() || !m_isBusy)
+    m_earlier.remove(number);
+    if (number != m_number || !m_isBusy)
         return;
     m_isBusy = false;
     m_isCapturing = false;

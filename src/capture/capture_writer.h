@@ -1,8 +1,10 @@
 #pragma once
 
+#include <QHash>
 #include <QMutex>
 #include <QObject>
 
+#include <atomic>
 #include <memory>
 
 #include "capture/capture_context.h"
@@ -28,7 +30,7 @@ public:
     ~CaptureWriter() override;
 
     /// Starts a capture in a folder, which is created when missing, into <name>_<time>.mcap. opened() or failed()
-    /// follows. Does nothing while there is one.
+    /// follows. Does nothing while there is one; one that has been stopped may still be ending its file.
     void start(const QString &folder, const QString &name, const CaptureContext &context);
     /// Takes in nothing more and ends the file; ended() follows.
     void stop();
@@ -36,7 +38,7 @@ public:
     bool isCapturing() const { return m_isCapturing; }
     /// From start() until ended().
     bool isBusy() const { return m_isBusy; }
-    /// Waits until the file of a stopped capture is closed.
+    /// Waits until the files of stopped captures are closed.
     void waitForEnd();
 
     // Of the running capture, or of the last one.
@@ -69,10 +71,12 @@ signals:
 
 private:
     template <typename... Arguments> void add(Arguments &&...arguments);
-    void takeEnd(const CaptureRun *run);
+    void takeEnd(unsigned int number);
 
     mutable QMutex m_lock; ///< guards the pointer below against the threads that add
     std::shared_ptr<CaptureRun> m_run;
+    unsigned int m_number = 0; ///< of the run: what an earlier one posted is not meant for it
+    QHash<unsigned int, std::shared_ptr<CaptureRun>> m_earlier; ///< by number; still ending their files
     std::atomic<bool> m_isCapturing = false;
     bool m_isBusy = false;
     CaptureFault m_fault;

@@ -229,8 +229,9 @@ bool decode(QByteArrayView content, Chunk &record)
 QByteArray encode(const MessageIndex &record)
 {
     RecordBytes bytes(Kind::MessageIndex);
-    const size_t size = size_t(record.entries.size()) * 2 * sizeof(quint64);
-    bytes.reserve(qsizetype(sizeof(quint16) + sizeof(quint32) + size));
+    constexpr qsizetype kEntrySize = 2 * sizeof(quint64);
+    const qsizetype size = record.entries.size() * kEntrySize;
+    bytes.reserve(size + 6);
     bytes.u16(record.channel).u32(quint32(size));
     for (const IndexEntry &entry : record.entries)
         bytes.u64(entry.logTime).u64(entry.offset);

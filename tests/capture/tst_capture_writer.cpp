@@ -152,6 +152,17 @@ private slots:
             QCOMPARE(writer.messageCount(), 1U);
         }
         QCOMPARE(paths.size(), 3);
+        for (int i = 0; i < 5; ++i) { // without waiting
+            writer.start(folder(), QStringLiteral("c"), {});
+            writer.addReceived("x", steadyNs());
+            writer.stop();
+        }
+        writer.waitForEnd();
+        const QStringList names = QDir(folder()).entryList({QStringLiteral("c_*.mcap")}, QDir::Files);
+        QCOMPARE(names.size(), 5);
+        for (const QString &name : names)
+            QVERIFY(mcap_repair::isWhole(QDir(folder()).filePath(name)));
+
         CaptureWriter other;
         for (CaptureWriter *each : {&writer, &other})
             each->start(folder(), QStringLiteral("b"), {});
