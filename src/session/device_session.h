@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
 
 #include <memory>
 #include <optional>
 
+#include "app/source_clock.h"
 #include "device/product_resolver.h"
 #include "link/bootloader_state.h"
 #include "link/source_failure.h"
@@ -18,6 +18,7 @@ class CommandSession;
 class ImuParser;
 class KvUartPort;
 class LinkMonitor;
+class Playback;
 class Recorder;
 class SessionCapture;
 class StreamDispatcher;
@@ -94,6 +95,10 @@ public:
     qint64 openMs() const;
     /// Samples are arriving.
     bool isStreaming() const;
+    /// A file is played back, or being opened.
+    bool isPlayback() const { return isOpen() && m_source.kind == SourceKind::File; }
+    /// Its packets are rebuilt from the numbers of a recording.
+    bool isReconstruction() const;
     /// The search for a baud rate is running.
     bool isSearchingBaudRate() const { return m_search.has_value(); }
     /// The last reading returned bytes that no device sends at this baud rate.
@@ -134,6 +139,9 @@ public:
     Recorder &recorder() const { return *m_recorder; }
     SessionCapture &capture() const { return *m_capture; }
     LinkMonitor &linkMonitor() const { return *m_monitor; }
+    Playback &playback() const { return *m_playback; }
+    /// What samples are timed with, for all that is made of them.
+    SharedClock clock() const { return m_clock; }
 
 signals:
     /// The state, or what it allows, may have changed.
@@ -165,6 +173,10 @@ private:
     void onCommandDevice();
     void readInfo();
     void endReading(bool answered);
+    void onPayload(const QByteArray &payload);
+    void takePlayedFile();
+    void onPlaybackRestarted();
+    void interrupt();
     void takeDevice(const DetectedDevice &device);
     void clearDevice();
     void resolvePreset();
@@ -178,6 +190,7 @@ private:
     void leaveDeviceStreaming();
     void checkSilence();
     void setState(SessionState state);
+    qint64 sinceOpenedNs() const { return m_clock->steadyNs() - m_openedNs; }
     bool isStreamLive() const;
     double connectionMs() const;
 
@@ -188,6 +201,7 @@ private:
         int originalRate = 0;
     };
 
+    std::shared_ptr<SourceClock> m_clock;
     std::unique_ptr<KvUartPort> m_port;
     StreamDispatcher *m_dispatcher;
     CommandBroker *m_broker;
@@ -197,13 +211,14 @@ private:
     SessionCapture *m_capture;
     LinkMonitor *m_monitor;
     StreamRouter *m_router;
+    Playback *m_playback;
     QTimer m_retryTimer;
     QTimer m_silenceTimer; ///< runs while live
 
     SessionState m_state = SessionState::Closed;
     quint64 m_connection = 0; ///< counts openings and closings
     SourceAddress m_source;
-    QElapsedTimer m_sinceOpened;
+    qint64 m_openedNs = 0; ///< on the clock
     qint64 m_lastFrameNs = -1; ///< since opening; -1: none in this connection
     qint64 m_lastReadNs = -1;  ///< since opening: when the last reading of the product ended
     bool m_infoRequested = false;

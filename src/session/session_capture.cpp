@@ -32,6 +32,8 @@ QLatin1String breakName(StreamBreak kind)
         return QLatin1String("new_connection");
     case StreamBreak::OtherNode:
         return QLatin1String("other_node");
+    case StreamBreak::OtherPlace:
+        return QLatin1String("other_place");
     case StreamBreak::ClockRestarted:
         return QLatin1String("clock_restarted");
     case StreamBreak::OutputStopped:
@@ -69,7 +71,7 @@ SessionCapture::SessionCapture(DeviceSession *session) : QObject(session), m_ses
 
 void SessionCapture::start()
 {
-    if (m_writer.isCapturing())
+    if (m_writer.isCapturing() || m_session->isPlayback())
         return;
     const LinkReport report = m_session->linkMonitor().report();
     m_missing = report.samples.missing;

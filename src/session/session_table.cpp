@@ -26,6 +26,7 @@ constexpr std::array<Row, kSessionActionCount> kTable{{
     /* Identify          */ {kNotOpen, kOpening, kRuns,    kYes,    kYes,    kInBoot,  kUpdate, kEnds},
     /* SendCommand       */ {kNotOpen, kOpening, kRuns,    kYes,    kYes,    kInBoot,  kUpdate, kEnds},
     /* StartRecording    */ {kNotOpen, kOpening, kYes,     kYes,    kYes,    kInBoot,  kUpdate, kEnds},
+    /* StartCapture      */ {kNotOpen, kOpening, kYes,     kYes,    kYes,    kInBoot,  kUpdate, kEnds},
     /* TryBaudRates      */ {kNotOpen, kOpening, kRuns,    kFlow,   kYes,    kInBoot,  kUpdate, kEnds},
     /* ConnectBootloader */ {kNotOpen, kOpening, kYes,     kYes,    kYes,    kYes,     kUpdate, kEnds},
     /* Download          */ {kNoBoot,  kNoBoot,  kNoBoot,  kNoBoot, kNoBoot, kYes,     kUpdate, kEnds},
@@ -36,6 +37,7 @@ constexpr std::array<Row, kSessionActionCount> kTable{{
 
 constexpr Refusal kUdp = Refusal::OverUdp;
 constexpr Refusal kFile = Refusal::OfAFile;
+constexpr Refusal kHere = Refusal::InAFile;
 constexpr Refusal kRate = Refusal::RateIsSet;
 
 using SourceRow = std::array<Refusal, kSourceKindCount>;
@@ -48,6 +50,7 @@ constexpr std::array<SourceRow, kSessionActionCount> kSourceTable{{
     /* Identify          */ {kYes, kYes,  kYes,   kUdp,  kFile, kYes},
     /* SendCommand       */ {kYes, kYes,  kYes,   kUdp,  kFile, kYes},
     /* StartRecording    */ {kYes, kYes,  kYes,   kYes,  kYes,  kYes},
+    /* StartCapture      */ {kYes, kYes,  kYes,   kYes,  kHere, kYes},
     /* TryBaudRates      */ {kYes, kRate, kYes,   kRate, kFile, kRate},
     /* ConnectBootloader */ {kYes, kYes,  kYes,   kUdp,  kFile, kYes},
     /* Download          */ {kYes, kYes,  kYes,   kUdp,  kFile, kYes},

@@ -42,6 +42,8 @@ QString session_text::refusal(Refusal refusal)
             "Connect by tcp: or rfc2217: to send them.");
     case Refusal::OfAFile:
         return Text::tr("This is a recording: there is no device to send anything to.");
+    case Refusal::InAFile:
+        return Text::tr("This is a file already: capturing it again would add nothing.");
     case Refusal::RateIsSet:
         return Text::tr(
             "The baud rate of this source is not set from here. Connect by rfc2217: to set that of a serial "
