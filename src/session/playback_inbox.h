@@ -39,6 +39,8 @@ public:
     /// Before each packet `isBusy` is asked; when it is, everything waits until wake(), or a moment. For as long as
     /// `consumer` lives.
     void waitFor(QObject *consumer, std::function<bool()> isBusy);
+    /// Everything that was handed out has been dealt with.
+    bool isEmpty() const { return m_items.empty(); }
     /// A consumer may be able to take more.
     void wake();
 

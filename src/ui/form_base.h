@@ -57,6 +57,8 @@ public:
 
     // Operations of the session, for callers of the window.
     void open_port(const QString &portName, int baudRate);
+    /// Plays back a capture or a recording.
+    void open_file(const QString &path);
     void try_read_prod_info();
     void onKbootFrameRecv(const QByteArray &payload);
     void on_orientation_preset_changed(OrientationPreset preset);

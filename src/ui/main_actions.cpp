@@ -85,6 +85,9 @@ void MainActions::retranslate()
     m_ui->action_firmware_update->setToolTip(tr("Load new firmware into the device"));
     m_rules->bind(m_ui->action_serial_open, SessionAction::OpenPort,
                   tr("Choose a serial port and connect (%1)").arg(shortcutText(m_ui->action_serial_open)));
+    m_rules->bind(
+        m_ui->action_open_file, SessionAction::OpenPort,
+        tr("Play back a capture or a CSV recording (%1)").arg(shortcutText(m_ui->action_open_file)));
     m_rules->bind(m_ui->action_serial_stop, SessionAction::ClosePort,
                   tr("Close the serial port (%1)").arg(shortcutText(m_ui->action_serial_stop)));
     m_rules->bind(m_ui->action_quit, SessionAction::Quit, tr("End the program"));
