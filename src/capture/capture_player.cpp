@@ -123,6 +123,7 @@ void CapturePlayer::reachEnd()
         return;
     }
     m_isAtEnd = true;
+    m_clock.jump(m_toNs); // also where nothing was received for a while
     setPlaying(false);
     emit ended();
 }

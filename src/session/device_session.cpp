@@ -57,6 +57,10 @@ DeviceSession::DeviceSession(QObject *owner)
 
     connect(m_port.get(), &KvUartPort::opened, this, &DeviceSession::onOpened);
     connect(m_port.get(), &KvUartPort::kbootRecv, this, &DeviceSession::onPayload);
+    connect(m_port.get(), &KvUartPort::chunkSent, this, [this] {
+        if (!isPlayback()) // where the inbox keeps the order
+            interrupt();
+    });
     connect(m_port.get(), &KvUartPort::sourceFailed, this, &DeviceSession::onSourceFailed);
     connect(m_port.get(), &KvUartPort::bootloaderHeard, this, &DeviceSession::onBootloaderHeard);
     PlaybackInbox *const inbox = &m_playback->inbox();

@@ -184,7 +184,8 @@ void PlaybackBar::toggle()
 
 void PlaybackBar::seekTo(int sliderValue)
 {
-    m_playback->seek(m_playback->file().startNs + sliderValue * kSliderStepNs);
+    const PlayedFile &file = m_playback->file();
+    m_playback->seek(sliderValue < m_position->maximum() ? file.startNs + sliderValue * kSliderStepNs : file.endNs);
 }
 
 void PlaybackBar::showRate(double rate, bool keepsUp)

@@ -22,7 +22,7 @@ namespace {
 constexpr qint64 kSecondNs = 1'000'000'000;
 constexpr int kTimeoutMs = 60'000;
 constexpr quint32 kTickMs = 50;
-constexpr int kPeriodMs = 5;
+constexpr int kPeriodMs = 10;
 
 template <class Window> Window *widget()
 {
@@ -153,7 +153,7 @@ private slots:
     void initTestCase()
     {
         m_desk = std::make_unique<Desk>();
-        SimulatorProcess simulator(words("--rate 200 --fixed"));
+        SimulatorProcess simulator(words("--rate 100 --fixed"));
         DeviceSession &session = m_desk->window->session();
         const SpectrumWatch watch(*m_desk->window, m_live);
         session.capture().start();
@@ -162,12 +162,12 @@ private slots:
         QTRY_VERIFY(session.recorder().recordCount() > 200);
         const auto report = [&session] { return session.linkMonitor().report(); };
         QVERIFY(simulator.control("noise 2") && simulator.control("gap 300"));
-        QTRY_VERIFY(report().link.crcErrors > 3 && report().samples.missing > 30);
-        QVERIFY(simulator.control("noise 0") && simulator.control("vibration add 62.5:0.5:x")
-                && simulator.control("vibration add 30:0.2:y"));
+        QTRY_VERIFY(report().link.crcErrors > 3 && report().samples.missing > 20);
+        QVERIFY(simulator.control("noise 0") && simulator.control("vibration add 25:0.5:x")
+                && simulator.control("vibration add 12:0.2:y"));
         QTRY_VERIFY(m_live.alarmMs > 0);
         const qsizetype blocks = m_live.blocks.size();
-        QTRY_VERIFY(m_live.blocks.size() > blocks + 20);
+        QTRY_VERIFY(m_live.blocks.size() > blocks + 40);
         stopRecording(session, m_live);
         QVERIFY(simulator.control("silent on"));
         QTRY_VERIFY(session.state() == SessionState::Silent);
@@ -227,7 +227,7 @@ private slots:
         LinkReport live = m_live.report;
         const QList<qint64> liveTimes = takeTimes(live);
         const QList<qint64> times = takeTimes(played.report);
-        QVERIFY(live.link.crcErrors > 3 && live.samples.missing > 30);
+        QVERIFY(live.link.crcErrors > 3 && live.samples.missing > 20);
         QVERIFY2(played.report.link == live.link && played.report.samples == live.samples,
                  qPrintable(LinkMonitor::logLine(played.report) + u'\n' + LinkMonitor::logLine(live)));
         for (qsizetype i = 0; i < times.size(); ++i)
@@ -239,7 +239,7 @@ private slots:
     {
         DeviceSession &session = openFile(m_capture, PlayClock::kUnthrottled);
         m_desk->window->on_action_sensor_dashboard_triggered();
-        const WaveChartBridge &chart = *widget<form_sensor_dashboard>()->bridge().backendAt(0);
+        const WaveChartBridge &chart = *openWindow<form_sensor_dashboard>()->bridge().backendAt(0);
         QVERIFY(playToEnd(session));
         const auto samples = [&session] { return session.linkMonitor().report().samples.samples; };
         const quint64 all = samples();
@@ -250,9 +250,10 @@ private slots:
         Playback &playback = session.playback();
         const qint64 start = playback.file().startNs;
         playback.seek(start + 3 * kSecondNs);
-        QTRY_COMPARE(breaks, QList<StreamBreak>{StreamBreak::OtherPlace});
-        QTRY_VERIFY(samples() > 50);
-        QVERIFY(samples() < all / 2 && !playback.isPlaying());
+        QTRY_VERIFY(!breaks.isEmpty());
+        quint64 last = 0;
+        QTRY_VERIFY(std::exchange(last, samples()) == samples() && last > 50); // the seconds before are filled in
+        QVERIFY(samples() < all / 2 && !playback.isPlaying() && breaks.first() == StreamBreak::OtherPlace);
         QVERIFY2(chart.newestTimeSec() <= 3.1, qPrintable(QString::number(chart.newestTimeSec())));
         const quint64 before = samples();
         playback.step();
@@ -263,8 +264,7 @@ private slots:
         playback.setLooping(true);
         playback.setRate(20);
         playback.play();
-        QTRY_VERIFY(breaks.size() > 4);
-        QVERIFY(breaks.count(StreamBreak::OtherPlace) == breaks.size());
+        QTRY_VERIFY(breaks.count(StreamBreak::OtherPlace) > 4);
         playback.setLooping(false);
         disconnect(&session, nullptr, this, nullptr);
     }
@@ -317,7 +317,7 @@ private slots:
         const QByteArray capture = file.readAll();
         QTest::newRow("cut") << u"cut.mcap"_s << capture.left(capture.size() * 6 / 10) << QString();
         QTest::newRow("no capture") << u"a.mcap"_s << QByteArray(1000, 'x') << u"is not a capture"_s;
-        QTest::newRow("nothing whole") << u"b.mcap"_s << capture.left(60) << u"can be read"_s;
+        QTest::newRow("nothing whole") << u"b.mcap"_s << capture.left(60) << u"no received bytes"_s;
         QTest::newRow("empty capture") << u"c.mcap"_s << QByteArray() << u"c.mcap"_s;
         QTest::newRow("empty recording") << u"d.csv"_s << QByteArray() << u"is empty"_s;
         QTest::newRow("foreign table") << u"e.csv"_s << QByteArray("a,b\n1,2\n") << u"is not a recording"_s;
