@@ -194,9 +194,11 @@ void form_fftchart::onTimer50ms()
 void form_fftchart::tickByPlayTime()
 {
     const qint64 nowMs = m_clock->steadyMs();
-    if (!m_timer.isActive() || (nowMs >= m_lastTickMs && nowMs - m_lastTickMs < kTickInterval.count()))
+    const qint64 passedMs = nowMs - m_lastTickMs;
+    if (!m_timer.isActive() || (passedMs >= 0 && passedMs < kTickInterval.count()))
         return;
-    m_lastTickMs = nowMs;
+    const bool isEven = passedMs >= 0 && passedMs < 2 * kTickInterval.count();
+    m_lastTickMs = isEven ? m_lastTickMs + kTickInterval.count() : nowMs;
     startFFTCal();
 }
 

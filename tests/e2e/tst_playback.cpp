@@ -38,7 +38,7 @@ struct Results
 {
     QList<QByteArray> rows;           ///< of the recording
     QMap<QByteArray, QString> blocks; ///< spectra by the samples that they were computed from
-    quint32 alarmMs = 0;              ///< device time when the alarm was raised
+    quint32 alarmMs = 0;              ///< device time of the block that raised the alarm
     LinkReport report;
 };
 
@@ -54,9 +54,9 @@ public:
         window->findChild<QPushButton *>(u"BTN_start"_s)->click();
         FftChartBridge *bridge = &window->bridge();
         QObject::connect(window, &form_fftchart::start_fft_cal, window,
-                         [this](quint64, signed char channel, int rate, const QList<double> &samples) {
+                         [this, &main](quint64, signed char channel, int rate, const QList<double> &samples) {
                              if (channel == 0)
-                                 m_block = QByteArray::number(rate);
+                                 m_block = QByteArray::number(rate), m_blockMs = main.session().newestSample()->deviceMs;
                              m_block += QByteArrayView(reinterpret_cast<const char *>(samples.data()),
                                                        samples.size() * qsizetype(sizeof(double)));
                          });
@@ -65,14 +65,15 @@ public:
             const QByteArray key = QCryptographicHash::hash(m_block, QCryptographicHash::Sha1);
             results.blocks.insert(key, u"%1 %2"_s.arg(peak.frequency, 0, 'g', 17).arg(peak.amplitude, 0, 'g', 17));
         });
-        QObject::connect(bridge, &FftChartBridge::alarmStateChanged, window, [bridge, &main, &results] {
+        QObject::connect(bridge, &FftChartBridge::alarmStateChanged, window, [this, bridge, &results] {
             if (bridge->alarmState() == FftAlarmState::Active && results.alarmMs == 0)
-                results.alarmMs = main.session().newestSample()->deviceMs;
+                results.alarmMs = m_blockMs;
         });
     }
 
 private:
     QByteArray m_block;
+    quint32 m_blockMs = 0; ///< device time
 };
 
 QList<QByteArray> rowsOf(const QString &path)
