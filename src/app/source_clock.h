@@ -6,8 +6,8 @@
 #include "app/play_clock.h"
 
 /// The one clock of a session, for whatever its samples are timed with. While a device is connected it is the
-/// computer's; while a file is played back, it is the time at which the bytes were received that are dealt with now, and
-/// between them the play clock's. So whatever reads it gives the same at any rate of playback.
+/// computer's; while a file is played back, it is the time at which the bytes were received that are dealt with now,
+/// and between them the play clock's. So whatever reads it gives the same at any rate of playback.
 ///
 /// Changed in the session's thread, read in any.
 class SourceClock

@@ -41,7 +41,8 @@ void CaptureSource::seek(qint64 timeNs)
 
 /// Calls `take` for each message of some channels in a chunk. False when the chunk cannot be read.
 template <typename Take>
-bool CaptureSource::readMessages(qsizetype chunk, std::initializer_list<std::optional<quint16>> channels, const Take &take)
+bool CaptureSource::readMessages(qsizetype chunk, std::initializer_list<std::optional<quint16>> channels,
+                                 const Take &take)
 {
     const std::optional<QByteArray> records = m_reader.readChunk(chunk);
     if (!records)

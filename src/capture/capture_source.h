@@ -4,8 +4,8 @@
 #include "capture/capture_event.h"
 #include "capture/mcap_reader.h"
 
-/// The received and sent bytes of a capture. Channels of other programs and damaged chunks are skipped. A capture that is still
-/// being written goes on as it grows.
+/// The received and sent bytes of a capture. Channels of other programs and damaged chunks are skipped. A capture that
+/// is still being written goes on as it grows.
 class CaptureSource : public PlaySource
 {
 public:

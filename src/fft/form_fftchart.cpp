@@ -31,7 +31,8 @@ constexpr QSize kDefaultSize{1280, 690};
 
 } // namespace
 
-form_fftchart::form_fftchart(QWidget *parent) : QWidget(parent, Qt::Window), m_controls(new SpectrumControls(this)),
+form_fftchart::form_fftchart(QWidget *parent)
+    : QWidget(parent, Qt::Window), m_controls(new SpectrumControls(this)),
       m_sampler([this] { return m_clock->steadyMs(); })
 {
     setObjectName(QStringLiteral("form_fftchart"));

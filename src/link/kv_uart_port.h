@@ -17,7 +17,8 @@ class ByteSource;
 class KbootProtocol;
 class SerialSource;
 
-/// What the link carried during the last whole second; of a file, during a second of play time. Loads are in percent of the line's capacity.
+/// What the link carried during the last whole second; of a file, during a second of play time. Loads are in percent of
+/// the line's capacity.
 struct LinkStatistics
 {
     quint32 framesLastSecond = 0; ///< payloads forwarded

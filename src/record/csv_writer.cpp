@@ -44,8 +44,7 @@ void appendMotion(QByteArray &line, const node_data_t &node, int gyrDecimals)
 
 CsvWriter::CsvWriter(const QString &basePath, QObject *parent)
     : CsvWriter(basePath, QDateTime::currentDateTimeUtc(), parent)
-{
-}
+{}
 
 CsvWriter::CsvWriter(const QString &basePath, const QDateTime &start, QObject *parent)
     : QObject(parent), m_basePath(basePath)

@@ -29,7 +29,8 @@
 /// <motion> is AccX[G]...Z, GyrX[deg/s]...Z, MagX[uT]...Z, Roll[deg], Pitch[deg], Yaw[deg], Qw, Qx, Qy, Qz. A radio
 /// node gets the lowest free column group when it is first seen in a file and keeps it for that file; while it is
 /// silent its id is written with empty values. The seventeenth node of a file is left out. UnixTimeStamp is the
-/// computer's clock when the line is written, and of what is played back the time at which it was received. Numbers have a decimal point in every locale, lines end with LF.
+/// computer's clock when the line is written, and of what is played back the time at which it was received. Numbers
+/// have a decimal point in every locale, lines end with LF.
 ///
 /// Threads: created in the thread that runs both slots, or moved to it. Samples and queries come from any thread. The
 /// destructor does not write what is still queued: run flushPendingAndClose() first.

@@ -188,7 +188,7 @@ private:
     State m_state = State::Idle;
     RecordingProblem m_problem;
     Trouble m_trouble;
-    QTimer m_timer;        ///< runs while there is a recording, until its file is closed
+    QTimer m_timer; ///< runs while there is a recording, until its file is closed
     SharedClock m_clock = std::make_shared<SourceClock>();
     qint64 m_startMs = 0; ///< on the clock
     qint64 m_elapsedMs = 0;

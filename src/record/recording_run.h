@@ -25,7 +25,8 @@ class RecordingRun : public QObject
 public:
     /// `folder` is absolute and is created when missing; `name` is valid, see recording_target. The file gets a running
     /// number after its name when one with that name and time exists.
-    /// `playedMs`: what is recorded is played back, and was received at this time, milliseconds since 1970; 0: it is live.
+    /// `playedMs`: what is recorded is played back, and was received at this time, milliseconds since 1970; 0: it is
+    /// live.
     RecordingRun(const QString &folder, const QString &name, qint64 playedMs = 0);
     /// Stops and waits.
     ~RecordingRun() override;

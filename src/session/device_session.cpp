@@ -588,7 +588,8 @@ bool DeviceSession::hearsNoise() const
 
 qint64 DeviceSession::openMs() const
 {
-    return isOpen() ? sinceOpenedNs() / kNsPerMs : 0;
+    // Until a file is open it is not known when it begins.
+    return isOpen() && !(isPlayback() && m_state == SessionState::Opening) ? sinceOpenedNs() / kNsPerMs : 0;
 }
 
 // The flag is read first: it orders what the client wrote before what is read here.

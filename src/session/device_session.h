@@ -218,7 +218,7 @@ private:
     SessionState m_state = SessionState::Closed;
     quint64 m_connection = 0; ///< counts openings and closings
     SourceAddress m_source;
-    qint64 m_openedNs = 0; ///< on the clock
+    qint64 m_openedNs = 0;     ///< on the clock
     qint64 m_lastFrameNs = -1; ///< since opening; -1: none in this connection
     qint64 m_lastReadNs = -1;  ///< since opening: when the last reading of the product ended
     bool m_infoRequested = false;

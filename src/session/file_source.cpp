@@ -23,8 +23,7 @@ bool isCapture(const QString &path)
 
 FileSource::FileSource(const SourceAddress &address, PlayClock &clock, QObject *parent)
     : ByteSource(address, parent), m_clock(clock)
-{
-}
+{}
 
 std::unique_ptr<PlaySource> FileSource::openFile(PlayedFile &file, QString &problem)
 {
@@ -86,7 +85,7 @@ int FileSource::weight(qsizetype bytes)
 template <typename Signal> void FileSource::passOn(Signal signal, const QByteArray &bytes, qint64 timeNs)
 {
     m_player->acknowledge(1 - weight(bytes.size())); // the player has counted it as one
-    emit (this->*signal)(bytes, timeNs);
+    emit(this->*signal)(bytes, timeNs);
 }
 
 void FileSource::acknowledge(int weight)

@@ -63,7 +63,8 @@ PlayedFile PlayedFile::of(CaptureSource &source)
     file.endNs = source.endNs();
     const mcap::TextMap about = source.reader().metadata(capture_channels::kMetadata);
     for (const char *key : {"device_model", "device_build", "device_uuid", "mounting"}) {
-        const auto entry = std::find_if(about.cbegin(), about.cend(), [key](const auto &pair) { return pair.first == key; });
+        const auto entry =
+            std::find_if(about.cbegin(), about.cend(), [key](const auto &pair) { return pair.first == key; });
         if (entry == about.cend())
             continue;
         if (entry->first == "mounting")

@@ -34,9 +34,9 @@ void FileOpening::choose()
     if (!m_session->allows(SessionAction::OpenPort))
         return;
     if (!m_dialog) {
-        m_dialog = new QFileDialog(m_window, tr("Open a capture or a recording"), recording_target::remembered().folder,
-                                   tr("Captures and recordings (*.mcap *.csv)") + QLatin1String(";;")
-                                       + tr("All files (*)"));
+        m_dialog =
+            new QFileDialog(m_window, tr("Open a capture or a recording"), recording_target::remembered().folder,
+                            tr("Captures and recordings (*.mcap *.csv)") + QLatin1String(";;") + tr("All files (*)"));
         m_dialog->setAttribute(Qt::WA_DeleteOnClose);
         m_dialog->setFileMode(QFileDialog::ExistingFile);
         connect(m_dialog, &QFileDialog::fileSelected, this, &FileOpening::chosen);

@@ -1,5 +1,6 @@
 #include "ui/playback_bar.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
 #include <QHBoxLayout>
@@ -37,10 +38,11 @@ int positions(qint64 ns)
 } // namespace
 
 PlaybackBar::PlaybackBar(DeviceSession *session, QWidget *parent)
-    : QFrame(parent), m_session(session), m_playback(&session->playback()), m_timer(this), m_play(new QPushButton(this)),
-      m_step(new QPushButton(this)), m_rate(new QComboBox(this)), m_position(new QSlider(Qt::Horizontal, this)),
-      m_time(new QLabel(this)), m_loop(new QPushButton(this)), m_skip(new QPushButton(this)),
-      m_markers(new QPushButton(this)), m_reached(new QLabel(this)), m_note(new QLabel(this))
+    : QFrame(parent), m_session(session), m_playback(&session->playback()), m_timer(this),
+      m_play(new QPushButton(this)), m_step(new QPushButton(this)), m_rate(new QComboBox(this)),
+      m_position(new QSlider(Qt::Horizontal, this)), m_time(new QLabel(this)), m_loop(new QCheckBox(this)),
+      m_skip(new QCheckBox(this)), m_markers(new QPushButton(this)), m_reached(new QLabel(this)),
+      m_note(new QLabel(this))
 {
     setObjectName(QStringLiteral("playback_bar"));
     setProperty("card", true);
@@ -53,8 +55,8 @@ PlaybackBar::PlaybackBar(DeviceSession *session, QWidget *parent)
     connect(m_rate, &QComboBox::activated, this, [this](int index) { m_playback->setRate(kRates[index]); });
     connect(m_position, &QSlider::valueChanged, this, &PlaybackBar::seekTo);
     connect(m_position, &QSlider::sliderMoved, this, &PlaybackBar::refresh);
-    connect(m_loop, &QPushButton::toggled, m_playback, &Playback::setLooping);
-    connect(m_skip, &QPushButton::toggled, m_playback, &Playback::setSkipsGaps);
+    connect(m_loop, &QCheckBox::toggled, m_playback, &Playback::setLooping);
+    connect(m_skip, &QCheckBox::toggled, m_playback, &Playback::setSkipsGaps);
     connect(m_markers, &QPushButton::clicked, this, &PlaybackBar::openMarkers);
     connect(m_playback, &Playback::fileChanged, this, &PlaybackBar::onFile);
     connect(m_playback, &Playback::stateChanged, this, &PlaybackBar::onState);
@@ -65,18 +67,16 @@ PlaybackBar::PlaybackBar(DeviceSession *session, QWidget *parent)
 
 void PlaybackBar::layOut()
 {
-    const std::pair<QWidget *, const char *> names[] = {
-        {m_play, "button_play"}, {m_step, "button_step"},       {m_rate, "CB_play_rate"},
-        {m_time, "label_time"},  {m_loop, "button_loop"},       {m_skip, "button_skip_gaps"},
-        {m_note, "label_note"},  {m_position, "slider_played"}, {m_markers, "button_markers"},
-        {m_reached, "label_reached"}};
+    const std::pair<QWidget *, const char *> names[] = {{m_play, "button_play"},       {m_step, "button_step"},
+                                                        {m_rate, "CB_play_rate"},      {m_time, "label_time"},
+                                                        {m_loop, "CHK_loop"},          {m_skip, "CHK_skip_gaps"},
+                                                        {m_note, "label_note"},        {m_position, "slider_played"},
+                                                        {m_markers, "button_markers"}, {m_reached, "label_reached"}};
     for (const auto &[widget, name] : names)
         widget->setObjectName(QLatin1String(name));
     for (const double rate : kRates)
         m_rate->addItem(rateName(rate));
     m_rate->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    m_loop->setCheckable(true);
-    m_skip->setCheckable(true);
     m_position->setTracking(false); // seeks once, where it is let go
     m_position->setSingleStep(kFewSteps);
     m_position->setPageStep(kManySteps);
@@ -119,7 +119,10 @@ QString PlaybackBar::timeText(qint64 ns)
     const qint64 seconds = tenths / 10;
     const QString rest = QStringLiteral("%1.%2").arg(seconds % 60, 2, 10, QLatin1Char('0')).arg(tenths % 10);
     return seconds < 3600 ? QStringLiteral("%1:%2").arg(seconds / 60).arg(rest)
-                          : QStringLiteral("%1:%2:%3").arg(seconds / 3600).arg(seconds / 60 % 60, 2, 10, QLatin1Char('0')).arg(rest);
+                          : QStringLiteral("%1:%2:%3")
+                                .arg(seconds / 3600)
+                                .arg(seconds / 60 % 60, 2, 10, QLatin1Char('0'))
+                                .arg(rest);
 }
 
 void PlaybackBar::onFile()
@@ -204,9 +207,8 @@ void PlaybackBar::openMarkers()
     m_menu->setAttribute(Qt::WA_DeleteOnClose);
     const PlayedFile &file = m_playback->file();
     QAction *whole = m_menu->addAction(tr("Play the whole file"));
-    connect(whole, &QAction::triggered, this, [this] {
-        m_playback->setRange(m_playback->file().startNs, m_playback->file().endNs);
-    });
+    connect(whole, &QAction::triggered, this,
+            [this] { m_playback->setRange(m_playback->file().startNs, m_playback->file().endNs); });
     whole->setEnabled(m_playback->fromNs() != file.startNs || m_playback->toNs() != file.endNs);
     addRangeMenu(m_menu, tr("Play from"), false);
     addRangeMenu(m_menu, tr("Play to"), true);
@@ -236,7 +238,8 @@ QMenu *PlaybackBar::addRangeMenu(QMenu *menu, const QString &title, bool isEnd)
     int shown = 0;
     for (const CaptureEvent &marker : file.markers) {
         if (++shown <= kMaxMarkersShown)
-            add(QStringLiteral("%1  %2").arg(timeText(marker.timeNs - file.startNs), marker.text.left(60)), marker.timeNs);
+            add(QStringLiteral("%1  %2").arg(timeText(marker.timeNs - file.startNs), marker.text.left(60)),
+                marker.timeNs);
     }
     return range;
 }
@@ -276,7 +279,7 @@ void PlaybackBar::retranslate()
     m_markers->setText(tr("Part..."));
     m_markers->setToolTip(tr("Play from marker to marker"));
     m_reached->setAccessibleName(tr("Rate that is reached"));
-    for (QPushButton *button : {m_step, m_loop, m_skip, m_markers})
+    for (QAbstractButton *button : std::initializer_list<QAbstractButton *>{m_step, m_loop, m_skip, m_markers})
         button->setAccessibleName(button->text());
     onState();
 }

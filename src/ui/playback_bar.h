@@ -6,6 +6,7 @@
 
 class DeviceSession;
 class Playback;
+class QCheckBox;
 class QComboBox;
 class QLabel;
 class QMenu;
@@ -51,8 +52,8 @@ private:
     QComboBox *m_rate;
     QSlider *m_position;
     QLabel *m_time;
-    QPushButton *m_loop;
-    QPushButton *m_skip;
+    QCheckBox *m_loop;
+    QCheckBox *m_skip;
     QPushButton *m_markers;
     QLabel *m_reached;
     QLabel *m_note;

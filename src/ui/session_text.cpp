@@ -70,7 +70,8 @@ QString session_text::connection(const DeviceSession &session)
     }
     if (session.isPlayback()) {
         const int rate = int(session.dispatcher().snapshot().measured_frame_rate);
-        return Text::tr("Playing back %1\n%2 packets/s").arg(QFileInfo(session.portName()).fileName(), QString::number(rate));
+        return Text::tr("Playing back %1\n%2 packets/s")
+            .arg(QFileInfo(session.portName()).fileName(), QString::number(rate));
     }
     if (session.isSearchingBaudRate())
         return Text::tr("Trying %1 baud...").arg(session.baudRate());

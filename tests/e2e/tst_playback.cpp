@@ -56,7 +56,8 @@ public:
         QObject::connect(window, &form_fftchart::start_fft_cal, window,
                          [this, &main](quint64, signed char channel, int rate, const QList<double> &samples) {
                              if (channel == 0)
-                                 m_block = QByteArray::number(rate), m_blockMs = main.session().newestSample()->deviceMs;
+                                 m_block = QByteArray::number(rate),
+                                 m_blockMs = main.session().newestSample()->deviceMs;
                              m_block += QByteArrayView(reinterpret_cast<const char *>(samples.data()),
                                                        samples.size() * qsizetype(sizeof(double)));
                          });
