@@ -3,11 +3,12 @@
 #include <QByteArray>
 #include <QList>
 
-/// Bytes as they were received at one moment.
+/// Bytes as they were received, or sent, at one moment.
 struct TimedBytes
 {
     qint64 timeNs = 0; ///< since 1970 (UTC), never before that of the bytes before it
     QByteArray bytes;
+    bool isSent = false; ///< to the device, instead of received from it
 };
 
 /// Received bytes of the past in the order of their times, read from a file part by part. Used by one thread, which

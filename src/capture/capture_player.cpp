@@ -104,11 +104,16 @@ void CapturePlayer::handOut(qsizetype size)
         m_offset = 0;
         ++m_next;
     }
-    m_scan.feed(bytes);
+    const bool isSent = next.isSent;
+    if (!isSent)
+        m_scan.feed(bytes);
     m_lastNs = timeNs;
     if (m_window > 0)
         ++m_outstanding;
-    emit received(bytes, timeNs);
+    if (isSent)
+        emit sent(bytes, timeNs);
+    else
+        emit received(bytes, timeNs);
 }
 
 void CapturePlayer::reachEnd()
@@ -118,6 +123,7 @@ void CapturePlayer::reachEnd()
         return;
     }
     m_isAtEnd = true;
+    m_clock.jump(m_toNs); // also where nothing was received for a while
     setPlaying(false);
     emit ended();
 }
@@ -165,6 +171,10 @@ void CapturePlayer::step()
     pause();
     for (qsizetype taken = 0; taken < kMaxStepBytes && hasNext();) {
         const TimedBytes &next = m_part[m_next];
+        if (next.isSent) {
+            handOut();
+            continue;
+        }
         const QByteArray bytes = next.bytes.mid(m_offset);
         const qint64 before = qint64(m_scan.health().receivedBytes);
         m_packetEnd = 0;

@@ -61,6 +61,8 @@ public:
 
 signals:
     void received(const QByteArray &bytes, qint64 timeNs);
+    /// The same for bytes that had been sent to the device.
+    void sent(const QByteArray &bytes, qint64 timeNs);
     /// All has been handed out; not when looping.
     void ended();
     /// What follows is not the continuation of what came before: a seek, a loop.

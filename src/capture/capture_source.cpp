@@ -27,6 +27,7 @@ bool CaptureSource::open(const QString &path)
         return false;
     }
     m_channel = *channel;
+    m_sentChannel = m_reader.channelOf(capture_channels::kTxTopic);
     return true;
 }
 
@@ -38,8 +39,10 @@ void CaptureSource::seek(qint64 timeNs)
     m_next = m_reader.chunkAt(quint64(std::max<qint64>(timeNs, 0)));
 }
 
-/// Calls `take` for each message of a channel in a chunk. False when the chunk cannot be read.
-template <typename Take> bool CaptureSource::readMessages(qsizetype chunk, quint16 channel, const Take &take)
+/// Calls `take` for each message of some channels in a chunk. False when the chunk cannot be read.
+template <typename Take>
+bool CaptureSource::readMessages(qsizetype chunk, std::initializer_list<std::optional<quint16>> channels,
+                                 const Take &take)
 {
     const std::optional<QByteArray> records = m_reader.readChunk(chunk);
     if (!records)
@@ -47,7 +50,8 @@ template <typename Take> bool CaptureSource::readMessages(qsizetype chunk, quint
     McapRecordList list(*records);
     while (list.next()) {
         mcap::Message message;
-        if (list.kind() == mcap::Kind::Message && mcap::decode(list.content(), message) && message.channel == channel)
+        if (list.kind() == mcap::Kind::Message && mcap::decode(list.content(), message)
+            && std::find(channels.begin(), channels.end(), message.channel) != channels.end())
             take(message);
     }
     return true;
@@ -58,13 +62,13 @@ QList<TimedBytes> CaptureSource::read()
     QList<TimedBytes> part;
     while (part.isEmpty() && (m_next < m_reader.chunkCount() || m_reader.refresh())) {
         const qsizetype chunk = m_next++;
-        if (!m_reader.holds(chunk, m_channel))
+        if (!m_reader.holds(chunk, m_channel) && !(m_sentChannel && m_reader.holds(chunk, *m_sentChannel)))
             continue;
-        const bool isRead = readMessages(chunk, m_channel, [&](const mcap::Message &message) {
+        const bool isRead = readMessages(chunk, {m_channel, m_sentChannel}, [&](const mcap::Message &message) {
             const qint64 time = signedTime(message.logTime);
             const auto bytes = capture_channels::serialBytes(message.data);
             if (time >= m_seekNs && bytes && !bytes->isEmpty())
-                part.append({time, bytes->toByteArray()});
+                part.append({time, bytes->toByteArray(), message.channel != m_channel});
         });
         m_damagedChunks += isRead ? 0 : 1;
     }
@@ -85,7 +89,7 @@ QList<CaptureEvent> CaptureSource::readEvents(qsizetype limit)
     for (qsizetype i = 0; channel && i < m_reader.chunkCount() && events.size() < limit; ++i) {
         if (!m_reader.holds(i, *channel))
             continue;
-        readMessages(i, *channel, [&](const mcap::Message &message) {
+        readMessages(i, {channel}, [&](const mcap::Message &message) {
             const auto event = CaptureEvent::fromJson(message.data, signedTime(message.logTime));
             if (event && events.size() < limit)
                 events.append(*event);

@@ -4,8 +4,8 @@
 #include "capture/capture_event.h"
 #include "capture/mcap_reader.h"
 
-/// The received bytes of a capture. Channels of other programs and damaged chunks are skipped. A capture that is still
-/// being written goes on as it grows.
+/// The received and sent bytes of a capture. Channels of other programs and damaged chunks are skipped. A capture that
+/// is still being written goes on as it grows.
 class CaptureSource : public PlaySource
 {
 public:
@@ -25,11 +25,13 @@ public:
     QList<CaptureEvent> readEvents(qsizetype limit = 100'000);
 
 private:
-    template <typename Take> bool readMessages(qsizetype chunk, quint16 channel, const Take &take);
+    template <typename Take>
+    bool readMessages(qsizetype chunk, std::initializer_list<std::optional<quint16>> channels, const Take &take);
 
     McapReader m_reader;
     CaptureFault m_fault;
     quint16 m_channel = 0;
+    std::optional<quint16> m_sentChannel;
     qsizetype m_next = 0; ///< chunk
     qint64 m_seekNs = 0;  ///< bytes before this are left out
     qint64 m_lastNs = 0;

@@ -36,7 +36,7 @@ bool isInAlarmBand(const FftAlarmRule &rule, const FftPeakSummary &peak)
     return peak.valid && peak.frequency >= rule.minimumHz && (rule.maximumHz <= 0 || peak.frequency <= rule.maximumHz);
 }
 
-bool FftAlarm::update(const FftPeakSummary &peak)
+bool FftAlarm::update(const FftPeakSummary &peak, const QTime &now)
 {
     const bool inBand = isInAlarmBand(m_rule, peak);
     if (m_state == FftAlarmState::Normal) {
@@ -52,7 +52,7 @@ bool FftAlarm::update(const FftPeakSummary &peak)
         const QString label =
             QStringLiteral("TRIGGER %1Hz / %2")
                 .arg(QString::number(peak.frequency, 'f', 2), QString::number(peak.amplitude, 'f', 2));
-        addEvent({label, peak.frequency, peak.amplitude});
+        addEvent({label, peak.frequency, peak.amplitude}, now);
         return true;
     }
     m_triggerCount = 0;
@@ -64,7 +64,7 @@ bool FftAlarm::update(const FftPeakSummary &peak)
         return false;
     m_state = FftAlarmState::Normal;
     m_clearCount = 0;
-    addEvent({QStringLiteral("CLEAR")});
+    addEvent({QStringLiteral("CLEAR")}, now);
     return true;
 }
 
@@ -74,10 +74,10 @@ void FftAlarm::restartCounters()
     m_clearCount = 0;
 }
 
-void FftAlarm::addEvent(const FftAlarmEvent &event)
+void FftAlarm::addEvent(const FftAlarmEvent &event, const QTime &now)
 {
     m_events.prepend(event);
-    m_events.first().time = QTime::currentTime();
+    m_events.first().time = now;
     if (m_events.size() > kMaxEvents)
         m_events.removeLast();
 }

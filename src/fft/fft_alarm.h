@@ -36,13 +36,13 @@ public:
     /// Newest first, at most kMaxEvents.
     const QList<FftAlarmEvent> &events() const { return m_events; }
 
-    /// Takes the peak of the next spectrum; true when the state changed.
-    bool update(const FftPeakSummary &peak);
+    /// Takes the peak of the next spectrum at this local time of day; true when the state changed.
+    bool update(const FftPeakSummary &peak, const QTime &now = QTime::currentTime());
     /// Restarts the count of frames; state and events stay.
     void restartCounters();
 
 private:
-    void addEvent(const FftAlarmEvent &event);
+    void addEvent(const FftAlarmEvent &event, const QTime &now);
 
     FftAlarmRule m_rule;
     FftAlarmState m_state = FftAlarmState::Normal;

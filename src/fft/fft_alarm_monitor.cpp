@@ -1,5 +1,7 @@
 #include "fft/fft_alarm_monitor.h"
 
+#include <QDateTime>
+
 #include <algorithm>
 #include <cmath>
 
@@ -111,7 +113,7 @@ QVariantList FftAlarmMonitor::eventsToVariantList() const
 
 bool FftAlarmMonitor::update(const FftPeakSummary &peak, double resultantPeakAmplitude)
 {
-    const bool changed = !m_suspended && m_alarm.update(peak);
+    const bool changed = !m_suspended && m_alarm.update(peak, QDateTime::fromMSecsSinceEpoch(m_clock->wallMs()).time());
     return present(peak, resultantPeakAmplitude) || changed;
 }
 

@@ -4,6 +4,7 @@
 #include <QVariantList>
 #include <QVariantMap>
 
+#include "app/source_clock.h"
 #include "fft/fft_alarm.h"
 #include "fft/fft_alarm_text.h"
 
@@ -32,6 +33,9 @@ public:
     /// Everything that was set, to distinguish settings.
     QStringList profile() const;
 
+    /// The session's clock, for the time of day of events.
+    void setClock(const SharedClock &clock) { m_clock = clock; }
+
     /// While suspended no spectrum counts or produces a text, and state and events stay as they are. On resuming, the
     /// count of frames restarts.
     void setSuspended(bool suspended);
@@ -51,6 +55,7 @@ public:
     bool present(const FftPeakSummary &peak, double resultantPeakAmplitude);
 
 private:
+    SharedClock m_clock = std::make_shared<SourceClock>();
     FftAlarmPreset m_preset = FftAlarmPreset::General;
     FftAlarm m_alarm;
     FftAlarmPresentation m_presentation;

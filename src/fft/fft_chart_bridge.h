@@ -198,6 +198,8 @@ public:
     /// While set, commitResults() does not count as a frame of the alarm, for spectra that are not meaningful yet; off
     /// by default. State and events stay in the meantime, and afterwards the count of frames restarts.
     void setAlarmSuspended(bool suspended);
+    /// The session's clock.
+    void setClock(const SharedClock &clock) { m_alarm.setClock(clock); }
     FftAlarmState alarmState() const { return m_alarm.state(); }
     int alarmSeverityLevel() const { return m_alarm.presentation().severityLevel; }
     const QString &alarmStatusLabel() const { return m_alarm.presentation().statusLabel; }

@@ -96,6 +96,8 @@ public:
     /// Standard deviation of the norm over the last pointCount() samples, in the unit of the spectrum.
     double normDeviation() const;
 
+    /// A batch waits for results.
+    bool isBatchInFlight() const { return m_batchId != 0; }
     /// The fraction of a block that the rings hold, 0 to 1.
     double blockFill() const { return double(m_axes[0].count()) / pointCount(); }
     /// No sample has arrived for 2 s on the host's clock; for a slow stream, for six periods but at most 10 s.

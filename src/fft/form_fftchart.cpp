@@ -31,7 +31,9 @@ constexpr QSize kDefaultSize{1280, 690};
 
 } // namespace
 
-form_fftchart::form_fftchart(QWidget *parent) : QWidget(parent, Qt::Window), m_controls(new SpectrumControls(this))
+form_fftchart::form_fftchart(QWidget *parent)
+    : QWidget(parent, Qt::Window), m_controls(new SpectrumControls(this)),
+      m_sampler([this] { return m_clock->steadyMs(); })
 {
     setObjectName(QStringLiteral("form_fftchart"));
     applyLook();
@@ -174,14 +176,37 @@ void form_fftchart::releaseResources()
 
 void form_fftchart::appendData(node_data_t sample, int sampleRateHz)
 {
-    if (isVisible() && m_sampler.append(sample, sampleRateHz))
+    if (!isVisible())
+        return;
+    if (m_clock->isPlayback())
+        tickByPlayTime();
+    if (m_sampler.append(sample, sampleRateHz))
         syncFrequencyAxisState();
 }
 
 void form_fftchart::onTimer50ms()
 {
     updateStatus();
+    if (!m_clock->isPlayback())
+        startFFTCal();
+}
+
+/// Before a sample that arrived at this time. After another place of the file time may have gone back.
+void form_fftchart::tickByPlayTime()
+{
+    const qint64 nowMs = m_clock->steadyMs();
+    const qint64 passedMs = nowMs - m_lastTickMs;
+    if (!m_timer.isActive() || (passedMs >= 0 && passedMs < kTickInterval.count()))
+        return;
+    const bool isEven = passedMs >= 0 && passedMs < 2 * kTickInterval.count();
+    m_lastTickMs = isEven ? m_lastTickMs + kTickInterval.count() : nowMs;
     startFFTCal();
+}
+
+void form_fftchart::setClock(const SharedClock &clock)
+{
+    m_clock = clock;
+    m_bridge.setClock(clock);
 }
 
 void form_fftchart::startFFTCal()
@@ -209,6 +234,7 @@ void form_fftchart::get_fft_result(unsigned long long batchId, signed char chann
     m_bridge.commitResults();
     syncBridgeMeta();
     syncBridgeRuntimeTelemetry();
+    emit batchEnded();
 }
 
 void form_fftchart::on_BTN_start_clicked()
@@ -290,6 +316,7 @@ void form_fftchart::resetFftBuffers()
 void form_fftchart::restartStream()
 {
     m_sampler.restart();
+    m_lastTickMs = 0;
     startAgain();
 }
 

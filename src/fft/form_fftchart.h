@@ -41,12 +41,19 @@ public:
     /// the chart is cleared. The alarm keeps its state and events; running or paused stays, too.
     void restartStream();
 
+    /// The session's clock, before the first sample. While it plays a file back, blocks are cut when samples of that
+    /// time arrive, so that any rate analyses the same ones; who plays waits while isBatchPending().
+    void setClock(const SharedClock &clock);
+    bool isBatchPending() const { return m_sampler.isBatchInFlight(); }
+
     bool isChartInitialized() const { return m_view != nullptr; }
     /// Rate of the spectra that are shown, 0 while there are none.
     int presentationSampleRate() const { return m_sampler.presentationRateHz(); }
     FftChartBridge &bridge() { return m_bridge; }
 
 signals:
+    /// All results of a batch are there.
+    void batchEnded();
     /// One request of a batch, to the engine's thread.
     void start_fft_cal(unsigned long long batchId, signed char channel, int sampleRateHz, QList<double> samples);
     /// Samples per block and window of the blocks that follow, to the engine's thread.
@@ -86,6 +93,7 @@ private:
     void saveChoices();
     void clearRenderedFftData();
     void startFFTCal();
+    void tickByPlayTime();
     void setRunning(bool running);
     void applyYAxisRangeToChart();
     void syncFrequencyAxisState();
@@ -101,7 +109,9 @@ private:
 
     SpectrumControls *m_controls;
     FftChartBridge m_bridge;
+    SharedClock m_clock = std::make_shared<SourceClock>();
     FftSampler m_sampler;
+    qint64 m_lastTickMs = 0; ///< of what is played back
     QTimer m_timer;
     FftWindowType m_windowType = FftWindowType::Rectangular;
     int m_pointCount = FftSampler::kDefaultPoints;

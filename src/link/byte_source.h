@@ -46,6 +46,10 @@ signals:
     void opened();
     /// `steadyNs`: when the chunk was read, on the steady clock; of a file: when it is due on the play clock.
     void received(const QByteArray &bytes, qint64 steadyNs);
+    /// Of a file only: these bytes were sent to the device at that time.
+    void sent(const QByteArray &bytes, qint64 playNs);
+    /// Of a file only: what follows is not the continuation of what came before.
+    void restarted();
     void failed(const SourceFailure &failure);
 
 protected:

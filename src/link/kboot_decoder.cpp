@@ -61,7 +61,7 @@ void KbootProtocol::decode(const QByteArray &data)
     wakeWait();
     if (m_errorNoted) { // the clock is read once per chunk, and only for a damaged one
         m_errorNoted = false;
-        m_health.lastErrorMs = QDateTime::currentMSecsSinceEpoch();
+        m_health.lastErrorMs = m_playedMs != 0 ? m_playedMs : QDateTime::currentMSecsSinceEpoch();
     }
 }
 

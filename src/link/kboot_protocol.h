@@ -46,6 +46,9 @@ class KbootProtocol : public QObject
 public:
     explicit KbootProtocol(QObject *parent = nullptr);
 
+    /// When the bytes that follow were received, in milliseconds since 1970; 0: now, by the computer's clock.
+    void setPlayedTime(qint64 wallMs) { m_playedMs = wallMs; }
+
     /// Feeds one chunk as it was read from the port. The chunk may hold any part of any number of packets.
     void serial_read(const QByteArray &data);
 
@@ -201,6 +204,7 @@ private:
     bool m_responseReceived = false;
     LinkHealth m_health;
     bool m_errorNoted = false; ///< in the chunk being decoded
+    qint64 m_playedMs = 0;     ///< see setPlayedTime()
 
     int m_replyAllowanceMs = 0;
     BootloaderFacts m_facts;

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <utility>
 
 #include "app/app_log.h"
@@ -15,6 +16,8 @@
 namespace {
 
 constexpr int kSecondMs = 1000;
+constexpr qint64 kSecondNs = 1'000'000'000;
+constexpr qint64 kNsPerMs = 1'000'000;
 constexpr int kCloseTimeoutMs = 5000;
 constexpr int kLastBytesMs = 200;
 constexpr int kBootloaderWriteMs = 1000;
@@ -123,6 +126,8 @@ void KvUartPort::threadStarted()
     if (m_source != nullptr) {
         connect(m_source.get(), &ByteSource::opened, this, &KvUartPort::onSourceOpened);
         connect(m_source.get(), &ByteSource::received, this, &KvUartPort::takeChunk);
+        connect(m_source.get(), &ByteSource::sent, this, &KvUartPort::takeSent);
+        connect(m_source.get(), &ByteSource::restarted, this, &KvUartPort::startAgain);
         connect(m_source.get(), &ByteSource::failed, this, &KvUartPort::onSourceFailed);
         m_source->open();
     } else {
@@ -222,6 +227,10 @@ void KvUartPort::onSourceFailed(const SourceFailure &failure)
 
 void KvUartPort::takeChunk(const QByteArray &chunk, qint64 steadyNs)
 {
+    if (isPlayback()) {
+        countPlayedSeconds(steadyNs);
+        m_kboot->setPlayedTime(steadyNs / kNsPerMs);
+    }
     {
         const QMutexLocker lock(&m_statsMutex);
         m_rxBytes += quint64(chunk.size());
@@ -229,6 +238,45 @@ void KvUartPort::takeChunk(const QByteArray &chunk, qint64 steadyNs)
     emit chunkReceived(chunk, steadyNs);
     m_kboot->serial_read(chunk);
     emit serialRecv(chunk);
+}
+
+void KvUartPort::takeSent(const QByteArray &chunk, qint64 playNs)
+{
+    countPlayedSeconds(playNs);
+    {
+        const QMutexLocker lock(&m_statsMutex);
+        m_txBytes += quint64(chunk.size());
+    }
+    emit chunkSent(chunk, playNs);
+}
+
+/// Another place of what is played back.
+void KvUartPort::startAgain()
+{
+    m_kboot->clear();
+    {
+        const QMutexLocker lock(&m_statsMutex);
+        m_health = {};
+        m_lastSecond = {};
+        m_txBytes = 0;
+        m_rxBytes = 0;
+        m_framesCounter = 0;
+    }
+    m_playedSecondNs = 0;
+    emit restarted();
+}
+
+/// Ends the seconds of play time that are over before bytes of this time. After a silence the last one was empty.
+void KvUartPort::countPlayedSeconds(qint64 playNs)
+{
+    if (m_playedSecondNs == 0)
+        m_playedSecondNs = playNs;
+    const qint64 over = (playNs - m_playedSecondNs) / kSecondNs;
+    if (over <= 0)
+        return;
+    m_playedSecondNs += over * kSecondNs;
+    for (qint64 i = 0; i < std::min<qint64>(over, 2); ++i)
+        endSecond();
 }
 
 void KvUartPort::onKbootRecv(const QByteArray &payload)
@@ -279,6 +327,8 @@ void KvUartPort::clear()
     m_replyAllowanceMs = 0;
     m_bootloaderMode = false;
     m_hasAskedForBootloader = false;
+    m_playedSecondNs = 0;
+    m_kboot->setPlayedTime(0);
     const QMutexLocker lock(&m_statsMutex);
     m_health = {};
     m_lastSecond = {};
@@ -450,6 +500,12 @@ quint32 KvUartPort::loadPercent(quint64 bytes, int bitsPerSecond, int bitsPerCha
 void KvUartPort::onTimer1000ms()
 {
     publishHealth();
+    if (!isPlayback())
+        endSecond();
+}
+
+void KvUartPort::endSecond()
+{
     // The values of the library's enumerators, plus the start bit: 8 + 0 + 1 + 1 = 10 for 8N1.
     const int bitsPerCharacter = int(dataBits()) + int(parity()) + int(stopBits()) + 1;
     const QMutexLocker lock(&m_statsMutex);

@@ -17,7 +17,8 @@ class ByteSource;
 class KbootProtocol;
 class SerialSource;
 
-/// What the link carried during the last whole second. Loads are in percent of the line's capacity.
+/// What the link carried during the last whole second; of a file, during a second of play time. Loads are in percent of
+/// the line's capacity.
 struct LinkStatistics
 {
     quint32 framesLastSecond = 0; ///< payloads forwarded
@@ -75,6 +76,9 @@ public:
     /// How much later than on a cable an answer may arrive, in milliseconds; 0 until the source is open. Any thread.
     int replyAllowanceMs() const { return m_replyAllowanceMs; }
 
+    /// What bytes come from; null while closed. Worker thread only.
+    ByteSource *source() const { return m_source.get(); }
+
     /// The bootloader client, for its signals; and for its facts and outcome while isBootloaderBusy() is false.
     const KbootProtocol *kboot() const { return m_kboot.get(); }
 
@@ -131,6 +135,8 @@ signals:
     void chunkReceived(const QByteArray &chunk, qint64 steadyNs);
     /// Bytes that the source has taken to send, and when.
     void chunkSent(const QByteArray &chunk, qint64 steadyNs);
+    /// What follows is from another place of the file that is played back; deframer and counters have started again.
+    void restarted();
     /// The source could not be opened; sourceFailed() has reported why.
     void errorOpenPort();
     /// How startDownloadBootloader() ended.
@@ -162,6 +168,11 @@ private:
     void onSourceOpened();
     void onSourceFailed(const SourceFailure &failure);
     void takeChunk(const QByteArray &chunk, qint64 steadyNs);
+    void takeSent(const QByteArray &chunk, qint64 playNs);
+    void startAgain();
+    bool isPlayback() const { return m_address.kind == SourceKind::File; }
+    void countPlayedSeconds(qint64 playNs);
+    void endSecond();
     void writeCounted(const QByteArray &data);
     bool connectBusy();
     bool doTask(const BootloaderTask &task, BootloaderResult &result);
@@ -174,6 +185,7 @@ private:
     SourceAddress m_address;
     FileSourceFactory m_fileSources;
     std::unique_ptr<ByteSource> m_source; ///< of the connection; lives and dies in the worker thread
+    qint64 m_playedSecondNs = 0;          ///< start of the current second of what is played back; 0: none yet
     std::atomic<int> m_replyAllowanceMs = 0;
     bool m_startPending = false;                ///< openSource() has requested a start that has not run yet
     std::atomic<bool> m_bootloaderMode = false; ///< connected to a bootloader, or trying to

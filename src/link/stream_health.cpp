@@ -1,7 +1,5 @@
 #include "link/stream_health.h"
 
-#include <QDateTime>
-
 #include <algorithm>
 
 void StreamHealth::addFrame(const DecodedFrame &frame, qint64 hostMs)
@@ -23,7 +21,7 @@ void StreamHealth::addSample(const node_data_t &sample, bool sharesClock, qint64
         node.gaps.changeClock();
     }
     const SampleGaps::Step step = node.gaps.add(sample.time_ms, hostMs);
-    const qint64 gapAtMs = step.missing > 0 ? QDateTime::currentMSecsSinceEpoch() : 0;
+    const qint64 gapAtMs = step.missing > 0 ? m_clock->wallMs() : 0;
     for (NodeHealth *health : {&node.health, &m_total}) {
         ++health->samples;
         health->missing += step.missing;
@@ -32,6 +30,13 @@ void StreamHealth::addSample(const node_data_t &sample, bool sharesClock, qint64
         health->restarts += step.jumped ? 1 : 0;
         health->hasClock |= node.gaps.hasClock();
     }
+}
+
+void StreamHealth::clear()
+{
+    const SharedClock clock = m_clock;
+    *this = {};
+    m_clock = clock;
 }
 
 QList<quint8> StreamHealth::nodeIds() const

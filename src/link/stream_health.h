@@ -4,6 +4,7 @@
 
 #include <array>
 
+#include "app/source_clock.h"
 #include "link/node_data.h"
 #include "link/sample_gaps.h"
 
@@ -13,7 +14,7 @@ struct NodeHealth
     quint64 samples = 0;      ///< that arrived
     quint64 missing = 0;      ///< samples, inferred from the gaps between the time stamps
     quint32 largestGapMs = 0; ///< device time between the two samples around the longest gap
-    qint64 lastGapMs = 0;     ///< the computer's clock at the end of the last gap, milliseconds since 1970; 0: none
+    qint64 lastGapMs = 0;     ///< the clock's wall time at the end of the last gap, milliseconds since 1970; 0: none
     quint64 restarts = 0;     ///< jumps of the clock: the device restarted or its time was set
     bool hasClock = false;    ///< the samples carry time stamps, so missing ones can be counted
 
@@ -32,13 +33,16 @@ struct NodeHealth
 class StreamHealth
 {
 public:
+    /// The session's clock instead of the computer's.
+    void setClock(const SharedClock &clock) { m_clock = clock; }
+
     /// Takes one decoded frame; `hostMs` is its arrival on a steady clock, milliseconds.
     void addFrame(const DecodedFrame &frame, qint64 hostMs);
     /// The device was ordered to be silent or to restart: a gap between the samples before and after this call is not a
     /// loss.
     void interrupt() { ++m_interruptions; }
     /// A new connection: nothing has been heard.
-    void clear() { *this = {}; }
+    void clear();
 
     /// Ids that were heard, ascending.
     QList<quint8> nodeIds() const;
@@ -59,6 +63,7 @@ private:
 
     void addSample(const node_data_t &sample, bool sharesClock, qint64 hostMs);
 
+    SharedClock m_clock = std::make_shared<SourceClock>();
     std::array<Node, 256> m_nodes;
     NodeHealth m_total;
     quint32 m_interruptions = 0;

@@ -40,17 +40,16 @@ void appendMotion(QByteArray &line, const node_data_t &node, int gyrDecimals)
     appendFixed(line, node.quat, 4, kFine);
 }
 
-/// Gateway records carry the time in 32 bits.
-QByteArray shortUnixTime()
-{
-    return QByteArray::number(quint32(QDateTime::currentSecsSinceEpoch()));
-}
-
 } // namespace
 
-CsvWriter::CsvWriter(const QString &basePath, QObject *parent) : QObject(parent), m_basePath(basePath)
+CsvWriter::CsvWriter(const QString &basePath, QObject *parent)
+    : CsvWriter(basePath, QDateTime::currentDateTimeUtc(), parent)
+{}
+
+CsvWriter::CsvWriter(const QString &basePath, const QDateTime &start, QObject *parent)
+    : QObject(parent), m_basePath(basePath)
 {
-    openNewFile(QDateTime::currentDateTimeUtc());
+    openNewFile(start);
 }
 
 CsvWriter::~CsvWriter()
@@ -137,6 +136,12 @@ void CsvWriter::enqueueRecord(PendingRecord &&record)
     emit queueOverflow();
 }
 
+qsizetype CsvWriter::waitingRecords() const
+{
+    const QMutexLocker locker(&m_queueLock);
+    return m_pendingQueue.size();
+}
+
 void CsvWriter::drainPending()
 {
     for (;;) {
@@ -173,7 +178,8 @@ void CsvWriter::closeFile()
 
 void CsvWriter::writePendingRecord(const PendingRecord &record)
 {
-    ensureWritableFile(now(), record.type);
+    m_playedMs = record.playedMs;
+    ensureWritableFile(m_playedMs != 0 ? QDateTime::fromMSecsSinceEpoch(m_playedMs, Qt::UTC) : now(), record.type);
     switch (record.type) {
     case PendingRecordType::Record91:
         writeRecord91(record.node);
@@ -317,11 +323,16 @@ void CsvWriter::writeHeader63()
     writeHeader(csv_header::line63());
 }
 
+qint64 CsvWriter::unixTimeS() const
+{
+    return m_playedMs != 0 ? m_playedMs / 1000 : QDateTime::currentSecsSinceEpoch();
+}
+
 void CsvWriter::writeRecord91(const node_data_t &node)
 {
     QByteArray line;
     line.reserve(kReserve91);
-    line += QByteArray::number(QDateTime::currentSecsSinceEpoch());
+    line += QByteArray::number(unixTimeS());
     (line += ',') += QByteArray::number(node.time_ms);
     (line += ',') += QByteArray::number(double(node.pressure), 'g', 6);
     (line += ',') += QByteArray::number(double(node.temperature), 'g', 6);
@@ -333,7 +344,7 @@ void CsvWriter::writeRecord62(const QList<node_data_t> &nodes)
 {
     QByteArray line;
     line.reserve(kReserve62);
-    line += shortUnixTime();
+    line += QByteArray::number(quint32(unixTimeS())); // gateway records carry it in 32 bits
     appendGroups(line, nodes, m_slots62);
     writeLine(line);
 }
@@ -343,7 +354,7 @@ void CsvWriter::writeRecord63(const QList<node_data_t> &nodes, unsigned int time
     QByteArray line;
     line.reserve(kReserve63);
     line += QByteArray::number(timestampMs);
-    (line += ',') += shortUnixTime();
+    (line += ',') += QByteArray::number(quint32(unixTimeS()));
     appendGroups(line, nodes, m_slots63);
     writeLine(line);
 }

@@ -29,7 +29,8 @@
 /// <motion> is AccX[G]...Z, GyrX[deg/s]...Z, MagX[uT]...Z, Roll[deg], Pitch[deg], Yaw[deg], Qw, Qx, Qy, Qz. A radio
 /// node gets the lowest free column group when it is first seen in a file and keeps it for that file; while it is
 /// silent its id is written with empty values. The seventeenth node of a file is left out. UnixTimeStamp is the
-/// computer's clock when the line is written. Numbers have a decimal point in every locale, lines end with LF.
+/// computer's clock when the line is written, and of what is played back the time at which it was received. Numbers
+/// have a decimal point in every locale, lines end with LF.
 ///
 /// Threads: created in the thread that runs both slots, or moved to it. Samples and queries come from any thread. The
 /// destructor does not write what is still queued: run flushPendingAndClose() first.
@@ -54,11 +55,14 @@ public:
         node_data_t node;         ///< of Record91
         QList<node_data_t> nodes; ///< of the gateway records
         quint32 timestampMs = 0;  ///< of Record63
+        qint64 playedMs = 0; ///< of what is played back: when it was received, milliseconds since 1970; 0: it is live
     };
 
     /// Opens the first file at once. `basePath` gives folder, stem and suffix of all files; folder and suffix default
     /// to the current folder and "csv". The folder has to exist.
     explicit CsvWriter(const QString &basePath, QObject *parent = nullptr);
+    /// The same with a first file named by a time other than the computer's.
+    CsvWriter(const QString &basePath, const QDateTime &start, QObject *parent = nullptr);
     ~CsvWriter() override;
 
     /// Path of the file that a writer made from `basePath` opens at `start`.
@@ -70,6 +74,10 @@ public:
     void enqueue62(const QList<node_data_t> &nodes);
     /// Queues a batch of compact gateway records with the gateway's time stamp in milliseconds, likewise.
     void enqueue63(const QList<node_data_t> &nodes, unsigned int timestampMs);
+    /// Queues a record of any kind, likewise.
+    void enqueueRecord(PendingRecord &&record);
+    /// Records that wait to be written. Any thread.
+    qsizetype waitingRecords() const;
 
     /// Records taken from the queue over all files, including those that could not be written. Any thread.
     Q_INVOKABLE unsigned int getFrameCtr() const { return m_frameCounter; }
@@ -120,11 +128,11 @@ protected:
 
 private:
     void lookAtDisk();
-    void enqueueRecord(PendingRecord &&record);
     void openNewFile(const QDateTime &start);
     void ensureWritableFile(const QDateTime &time, PendingRecordType type);
     void writePendingRecord(const PendingRecord &record);
 
+    qint64 unixTimeS() const;
     void writeHeader91();
     void writeHeader62();
     void writeHeader63();
@@ -152,6 +160,7 @@ private:
     mutable QMutex m_queueLock;            ///< guards the queue with its two flags, and the texts for other threads
     std::array<bool, 3> m_headerWritten{}; ///< by record type, for the current file
     qint64 m_bytesSinceFlush = 0;
+    qint64 m_playedMs = 0; ///< of the record that is being written, see PendingRecord
     std::atomic<quint32> m_frameCounter = 0;
     QList<int> m_slots62; ///< column group to node id, -1: free
     QList<int> m_slots63;

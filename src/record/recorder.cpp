@@ -1,7 +1,6 @@
 #include "record/recorder.h"
 
-#include <QDateTime>
-
+#include <algorithm>
 #include <chrono>
 #include <limits>
 #include <utility>
@@ -60,7 +59,7 @@ void Recorder::setLinkOpen(bool open)
         const bool isLoss = m_loss != Loss::None;
         if (isLoss && (m_options.resumes || m_loss == Loss::ComesBack)) {
             m_sinceLoss.start();
-            m_carriedMs += m_clock.elapsed();
+            m_carriedMs += lengthMs();
             m_carriedBytes += totalSize();
             m_resumesInto = recording_target::Target{m_run->folder(), m_name};
         }
@@ -145,7 +144,7 @@ void Recorder::begin(const recording_target::Target &target)
     m_measuredSize = 0;
     m_measuredFile.clear();
     m_name = target.name;
-    m_run = std::make_unique<RecordingRun>(target.folder, target.name);
+    m_run = std::make_unique<RecordingRun>(target.folder, target.name, playedMs());
     m_run->setContext(m_context);
     const auto whenCurrent = [this, number = ++m_runNumber](auto what) {
         return [this, number, what] {
@@ -158,7 +157,7 @@ void Recorder::begin(const recording_target::Target &target)
     connect(m_run.get(), &RecordingRun::overflowed, this, &Recorder::updateTrouble);
     m_run->start();
     m_state = State::Starting;
-    m_clock.start();
+    m_startMs = m_clock->steadyMs();
     m_sinceMeasured.start();
     m_timer.start();
     updateTrouble();
@@ -187,7 +186,7 @@ void Recorder::stop()
 void Recorder::endTaking(End end)
 {
     m_end = end;
-    m_elapsedMs = m_clock.elapsed();
+    m_elapsedMs = lengthMs();
     m_state = State::Finishing;
     m_run->requestStop();
     updateTrouble();
@@ -227,6 +226,17 @@ void Recorder::clearProblem()
 {
     if (m_problem.kind != RecordingProblem::Kind::None)
         setProblem(RecordingProblem::Kind::None);
+}
+
+/// Of the running recording; never negative, although what is played back may go back to an earlier time.
+qint64 Recorder::lengthMs() const
+{
+    return std::max<qint64>(0, m_clock->steadyMs() - m_startMs);
+}
+
+bool Recorder::hasRoom() const
+{
+    return !isRecording() || m_run->waitingRecords() < CsvWriter::kQueueLimit / 2;
 }
 
 const CsvWriter *Recorder::writer() const
@@ -292,7 +302,7 @@ unsigned int Recorder::lostRecords() const
 
 bool Recorder::addMarker(const QString &text, double timeS)
 {
-    if (!isRecording() || !m_run->addMarker({timeS, QDateTime::currentMSecsSinceEpoch(), text}))
+    if (!isRecording() || !m_run->addMarker({timeS, m_clock->wallMs(), text}))
         return false;
     emit markerAdded(++m_markerCount, text, timeS);
     return true;
@@ -302,21 +312,21 @@ void Recorder::imuPackage0x91(const node_data_t &node)
 {
     resume();
     if (isRecording())
-        m_run->add({CsvWriter::PendingRecordType::Record91, node, {}, 0});
+        m_run->add({CsvWriter::PendingRecordType::Record91, node, {}, 0, playedMs()});
 }
 
 void Recorder::imuPackage0x62(const QList<node_data_t> &nodes)
 {
     resume();
     if (isRecording())
-        m_run->add({CsvWriter::PendingRecordType::Record62, {}, nodes, 0});
+        m_run->add({CsvWriter::PendingRecordType::Record62, {}, nodes, 0, playedMs()});
 }
 
 void Recorder::imuPackage0x63(const QList<node_data_t> &nodes, unsigned int timestampMs)
 {
     resume();
     if (isRecording())
-        m_run->add({CsvWriter::PendingRecordType::Record63, {}, nodes, timestampMs});
+        m_run->add({CsvWriter::PendingRecordType::Record63, {}, nodes, timestampMs, playedMs()});
 }
 
 void Recorder::tick()
@@ -332,7 +342,7 @@ void Recorder::checkLimits()
 {
     if (!isRecording())
         return;
-    if (m_options.stopsByTime && m_carriedMs + m_clock.elapsed() >= m_options.minutes * kMinuteMs)
+    if (m_options.stopsByTime && m_carriedMs + lengthMs() >= m_options.minutes * kMinuteMs)
         endTaking(End::Time);
     else if (m_options.stopsBySize && m_carriedBytes + totalSize() >= m_options.mebibytes * kMebibyte)
         endTaking(End::Size);

@@ -7,6 +7,7 @@
 #include <memory>
 #include <optional>
 
+#include "app/source_clock.h"
 #include "link/node_data.h"
 #include "record/recording_context.h"
 #include "record/recording_options.h"
@@ -68,6 +69,11 @@ public:
     explicit Recorder(QObject *parent = nullptr);
     ~Recorder() override;
 
+    /// The session's clock, before the first link: it names and times what is recorded from a file that is played back.
+    void setClock(const SharedClock &clock) { m_clock = clock; }
+    /// More records can be taken in without one being dropped. A player waits for it.
+    bool hasRoom() const;
+
     /// A port was opened or closed. A recording can only be started with an open one; closing it stops. The counters of
     /// the connection start again at zero when it opens.
     void setLinkOpen(bool open);
@@ -113,7 +119,7 @@ public:
     bool hasRun() const { return m_run != nullptr; }
     unsigned int recordCount() const;
     /// Length in milliseconds, from start() to stop().
-    qint64 elapsedMs() const { return isRecording() ? m_clock.elapsed() : m_elapsedMs; }
+    qint64 elapsedMs() const { return isRecording() ? lengthMs() : m_elapsedMs; }
     /// Absolute; empty when there is none.
     QString folder() const;
     /// The folder was missing and has been created.
@@ -169,6 +175,8 @@ signals:
 
 private:
     const CsvWriter *writer() const;
+    qint64 lengthMs() const;
+    qint64 playedMs() const { return m_clock->isPlayback() ? m_clock->wallMs() : 0; }
     void begin(const recording_target::Target &target);
     void resume();
     void endTaking(End end);
@@ -186,8 +194,9 @@ private:
     State m_state = State::Idle;
     RecordingProblem m_problem;
     Trouble m_trouble;
-    QTimer m_timer;        ///< runs while there is a recording, until its file is closed
-    QElapsedTimer m_clock; ///< since start()
+    QTimer m_timer; ///< runs while there is a recording, until its file is closed
+    SharedClock m_clock = std::make_shared<SourceClock>();
+    qint64 m_startMs = 0; ///< on the clock
     qint64 m_elapsedMs = 0;
 
     QElapsedTimer m_sinceMeasured;

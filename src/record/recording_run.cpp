@@ -26,24 +26,10 @@ QString basePath(const QString &folder, const QString &name, const QDateTime &no
     return path;
 }
 
-void enqueue(CsvWriter &writer, const CsvWriter::PendingRecord &record)
-{
-    switch (record.type) {
-    case CsvWriter::PendingRecordType::Record91:
-        writer.enqueue91(record.node);
-        break;
-    case CsvWriter::PendingRecordType::Record62:
-        writer.enqueue62(record.nodes);
-        break;
-    case CsvWriter::PendingRecordType::Record63:
-        writer.enqueue63(record.nodes, record.timestampMs);
-        break;
-    }
-}
-
 } // namespace
 
-RecordingRun::RecordingRun(const QString &folder, const QString &name) : m_folder(folder)
+RecordingRun::RecordingRun(const QString &folder, const QString &name, qint64 playedMs)
+    : m_folder(folder), m_playedMs(playedMs)
 {
     m_thread.reset(QThread::create([this, name] { record(name); }));
     m_thread->setObjectName(QStringLiteral("CsvWriter"));
@@ -61,16 +47,25 @@ void RecordingRun::start()
 
 void RecordingRun::add(CsvWriter::PendingRecord &&record)
 {
+    if (record.playedMs != 0)
+        m_playedMs = record.playedMs;
     QMutexLocker locker(&m_lock);
     if (CsvWriter *writer = m_openWriter) {
         locker.unlock();
-        enqueue(*writer, record);
+        writer->enqueueRecord(std::move(record));
     } else if (m_waiting.size() < CsvWriter::kQueueLimit) {
         m_waiting.append(std::move(record));
     } else if (++m_droppedWaiting == 1) {
         locker.unlock();
         emit overflowed();
     }
+}
+
+qsizetype RecordingRun::waitingRecords() const
+{
+    const QMutexLocker locker(&m_lock);
+    const CsvWriter *writer = m_openWriter;
+    return writer != nullptr ? writer->waitingRecords() : m_waiting.size();
 }
 
 unsigned int RecordingRun::droppedRecords() const
@@ -140,6 +135,13 @@ bool RecordingRun::wait(QDeadlineTimer openDeadline)
     return m_thread->wait(openDeadline) || (!m_isOpening && m_thread->wait());
 }
 
+/// The time that names files and stands in their description.
+QDateTime RecordingRun::now() const
+{
+    const qint64 playedMs = m_playedMs;
+    return playedMs != 0 ? QDateTime::fromMSecsSinceEpoch(playedMs, Qt::UTC) : QDateTime::currentDateTimeUtc();
+}
+
 /// The thread's work.
 void RecordingRun::record(const QString &name)
 {
@@ -152,7 +154,7 @@ void RecordingRun::record(const QString &name)
         // After the event loop has ended but still in the thread: nothing can overtake the last records.
         m_writer->flushPendingAndClose();
         writeSidecars();
-        m_sidecars.endFile(m_writer->getFrameCtr() - m_recordsBefore, m_writer->nodesLeftOut());
+        m_sidecars.endFile(now(), m_writer->getFrameCtr() - m_recordsBefore, m_writer->nodesLeftOut());
     }
     emit ended();
 }
@@ -172,21 +174,22 @@ bool RecordingRun::open(const QString &name)
         }
         m_isFolderCreated = true;
     }
-    m_writer = std::make_unique<CsvWriter>(basePath(m_folder, name, QDateTime::currentDateTime()));
+    const QDateTime start = now();
+    m_writer = std::make_unique<CsvWriter>(basePath(m_folder, name, start.toLocalTime()), start);
     if (!m_writer->fileError().isEmpty()) {
         m_problem = {Kind::CannotOpenFile, m_writer->filePath(), m_writer->fileError()};
         return false;
     }
     connect(m_writer.get(), &CsvWriter::queueOverflow, this, &RecordingRun::overflowed, Qt::DirectConnection);
     m_writer->whenFileChanges([this](const QString &path, unsigned int records) {
-        m_sidecars.endFile(records - std::exchange(m_recordsBefore, records), m_writer->nodesLeftOut());
-        m_sidecars.beginFile(path);
+        m_sidecars.endFile(now(), records - std::exchange(m_recordsBefore, records), m_writer->nodesLeftOut());
+        m_sidecars.beginFile(path, now());
     });
-    m_sidecars.beginFile(m_writer->filePath());
+    m_sidecars.beginFile(m_writer->filePath(), start);
     writeSidecars();
     const QMutexLocker locker(&m_lock);
-    for (const CsvWriter::PendingRecord &record : qAsConst(m_waiting))
-        enqueue(*m_writer, record);
+    for (CsvWriter::PendingRecord &record : m_waiting)
+        m_writer->enqueueRecord(std::move(record));
     m_waiting.clear();
     m_openWriter = m_writer.get();
     askForSidecars(); // what arrived in the meantime

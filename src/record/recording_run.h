@@ -25,7 +25,9 @@ class RecordingRun : public QObject
 public:
     /// `folder` is absolute and is created when missing; `name` is valid, see recording_target. The file gets a running
     /// number after its name when one with that name and time exists.
-    RecordingRun(const QString &folder, const QString &name);
+    /// `playedMs`: what is recorded is played back, and was received at this time, milliseconds since 1970; 0: it is
+    /// live.
+    RecordingRun(const QString &folder, const QString &name, qint64 playedMs = 0);
     /// Stops and waits.
     ~RecordingRun() override;
 
@@ -42,6 +44,8 @@ public:
     QString sidecarError() const;
     /// Takes a record, in the order of the calls. Any thread.
     void add(CsvWriter::PendingRecord &&record);
+    /// Records that wait to be written. Any thread.
+    qsizetype waitingRecords() const;
     /// Null until the file is open. Any thread, like the next two.
     const CsvWriter *writer() const { return m_openWriter; }
     /// The folder had been missing and was made.
@@ -73,6 +77,7 @@ private:
     bool open(const QString &name);
     void askForSidecars();
     void writeSidecars();
+    QDateTime now() const;
 
     QString m_folder;
     RecordingProblem m_problem;
@@ -86,6 +91,7 @@ private:
     QString m_sidecarError;
     std::atomic<CsvWriter *> m_openWriter = nullptr;
     std::atomic<unsigned int> m_droppedWaiting = 0;
+    std::atomic<qint64> m_playedMs; ///< of the newest record, or of the start; 0: live
     std::atomic<bool> m_isFolderCreated = false;
     std::atomic<bool> m_isOpening = true;
     std::unique_ptr<QThread> m_thread;

@@ -46,18 +46,18 @@ QString RecordingSidecars::markersPath(const QString &csvPath)
     return besides(csvPath, QLatin1String(".markers.csv"));
 }
 
-void RecordingSidecars::beginFile(const QString &csvPath)
+void RecordingSidecars::beginFile(const QString &csvPath, const QDateTime &now)
 {
     m_csvPath = csvPath;
-    m_start = QDateTime::currentDateTimeUtc();
+    m_start = now;
     m_markers.reset();
     m_description = create(descriptionPath(csvPath));
     describe();
 }
 
-void RecordingSidecars::endFile(unsigned int records, const QList<int> &leftOut)
+void RecordingSidecars::endFile(const QDateTime &now, unsigned int records, const QList<int> &leftOut)
 {
-    const End end{QDateTime::currentDateTimeUtc(), records, leftOut};
+    const End end{now, records, leftOut};
     describe(&end);
     m_description.reset();
     m_markers.reset();

@@ -26,10 +26,10 @@ public:
     static QString descriptionPath(const QString &csvPath);
     static QString markersPath(const QString &csvPath);
 
-    /// A CSV file has been opened.
-    void beginFile(const QString &csvPath);
-    /// The CSV file has been closed. It holds so many records, and these nodes were left out.
-    void endFile(unsigned int records, const QList<int> &leftOut);
+    /// A CSV file has been opened at this time (UTC).
+    void beginFile(const QString &csvPath, const QDateTime &now);
+    /// The CSV file has been closed at this time. It holds so many records, and these nodes were left out.
+    void endFile(const QDateTime &now, unsigned int records, const QList<int> &leftOut);
     void setContext(const RecordingContext &context);
     void addMarker(const RecordingMarker &marker);
 

@@ -19,6 +19,8 @@
 #include "link/stream_dispatcher.h"
 #include "record/recorder.h"
 #include "session/link_monitor.h"
+#include "session/playback.h"
+#include "session/playback_inbox.h"
 #include "session/reconnector.h"
 #include "session/recording_describer.h"
 #include "session/session_capture.h"
@@ -37,13 +39,15 @@ constexpr int kUsualRates[] = {115200, 921600, 460800, 230400, 57600, 38400, 192
 } // namespace
 
 DeviceSession::DeviceSession(QObject *owner)
-    : QObject(owner), m_port(std::make_unique<KvUartPort>()),
+    : QObject(owner), m_clock(std::make_shared<SourceClock>()), m_port(std::make_unique<KvUartPort>()),
       m_dispatcher(new StreamDispatcher(owner != nullptr ? owner : this)),
       m_broker(new CommandBroker(owner != nullptr ? owner : this)), m_parser(new ImuParser(this)),
       m_commands(new CommandSession(this)), m_recorder(new Recorder(this)),
       m_monitor(new LinkMonitor(m_port.get(), m_recorder, this)), m_router(new StreamRouter(this)),
-      m_reconnector(new Reconnector(this))
+      m_reconnector(new Reconnector(this)), m_playback(new Playback(m_port.get(), m_clock, this))
 {
+    m_recorder->setClock(m_clock);
+    m_monitor->setClock(m_clock);
     m_broker->attachPort(m_port.get());
     m_commands->setBroker(m_broker);
     m_retryTimer.setInterval(kRetryMs);
@@ -53,9 +57,18 @@ DeviceSession::DeviceSession(QObject *owner)
     new RecordingDescriber(this);
 
     connect(m_port.get(), &KvUartPort::opened, this, &DeviceSession::onOpened);
-    connect(m_port.get(), &KvUartPort::kbootRecv, this, &DeviceSession::takePayload);
+    connect(m_port.get(), &KvUartPort::kbootRecv, this, &DeviceSession::onPayload);
+    connect(m_port.get(), &KvUartPort::chunkSent, this, [this] {
+        if (!isPlayback()) // where the inbox keeps the order
+            interrupt();
+    });
     connect(m_port.get(), &KvUartPort::sourceFailed, this, &DeviceSession::onSourceFailed);
     connect(m_port.get(), &KvUartPort::bootloaderHeard, this, &DeviceSession::onBootloaderHeard);
+    PlaybackInbox *const inbox = &m_playback->inbox();
+    connect(inbox, &PlaybackInbox::payloadDue, this, &DeviceSession::takePayload);
+    connect(inbox, &PlaybackInbox::sentDue, this, &DeviceSession::interrupt);
+    connect(inbox, &PlaybackInbox::restarted, this, &DeviceSession::onPlaybackRestarted);
+    inbox->waitFor(m_recorder, [recorder = m_recorder] { return !recorder->hasRoom(); });
     connect(m_dispatcher, &StreamDispatcher::singleNodeFrame, m_recorder, &Recorder::imuPackage0x91);
     connect(m_dispatcher, &StreamDispatcher::gatewayBatch62, m_recorder, &Recorder::imuPackage0x62);
     connect(m_dispatcher, &StreamDispatcher::gatewayBatch63, m_recorder, &Recorder::imuPackage0x63);
@@ -121,8 +134,12 @@ void DeviceSession::openSource(const SourceAddress &address)
     m_infoDeferred = false;
     m_lastFrameNs = -1;
     m_lastReadNs = -1;
+    if (address.kind == SourceKind::File) {
+        m_capture->stop(); // what is played back has other times, and is in a file already
+        m_playback->prepare();
+    }
     if (!m_isReturning)
-        m_sinceOpened.start();
+        m_openedNs = m_clock->steadyNs();
     m_port->openSource(address);
     m_commands->setBaud(address.baudRate);
     m_dispatcher->clear();
@@ -142,11 +159,46 @@ void DeviceSession::onOpened()
         m_identity = SourceIdentity::of(m_source);
     m_isReturning = false;
     m_reconnector->opened();
+    if (isPlayback())
+        return takePlayedFile();
     if (session_table::verdict(m_source.kind, SessionAction::Identify) != Refusal::None)
         return setState(SessionState::Silent);
     m_commands->setReplyAllowance(m_port->replyAllowanceMs());
     m_commands->setConnected(true);
     readInfo();
+}
+
+/// The file is open: it knows who the device was.
+void DeviceSession::takePlayedFile()
+{
+    m_playback->begin();
+    const PlayedFile &file = m_playback->file();
+    m_openedNs = file.startNs;
+    if (!file.deviceLines.isEmpty())
+        takeDevice(product_resolver::resolve(file.deviceLines));
+    if (file.mounting && std::exchange(m_preset, *file.mounting) != *file.mounting)
+        emit presetChanged(m_preset);
+    setState(SessionState::Silent);
+}
+
+bool DeviceSession::isReconstruction() const
+{
+    return isPlayback() && m_playback->file().isReconstruction;
+}
+
+/// What is played back goes on at another place.
+void DeviceSession::onPlaybackRestarted()
+{
+    m_lastFrameNs = -1;
+    m_monitor->startAgain();
+    m_router->startAgain();
+}
+
+/// Commands hold the output back, or may restart the device.
+void DeviceSession::interrupt()
+{
+    m_monitor->interrupt();
+    m_router->interrupt();
 }
 
 bool DeviceSession::close()
@@ -185,6 +237,7 @@ void DeviceSession::endConnection(SessionState endsIn)
     m_commands->setConnected(false);
     m_recorder->setLinkOpen(false); // ends a recording: the file is flushed and closed
     m_monitor->close();
+    m_playback->end();
     m_bootloaderConnected = false;
     m_isLineLent = false;
     m_readsAfterUpdate = 0;
@@ -274,7 +327,7 @@ void DeviceSession::readInfo()
 
 void DeviceSession::endReading(bool answered)
 {
-    m_lastReadNs = m_sinceOpened.nsecsElapsed();
+    m_lastReadNs = sinceOpenedNs();
     if (!answered) {
         clearDevice();
         m_dispatcher->setProductInfoReady(false);
@@ -496,8 +549,7 @@ void DeviceSession::leaveBootloader()
     m_commands->suspend(false);
     clearDevice();
     m_dispatcher->setProductInfoReady(false);
-    m_monitor->interrupt();
-    m_router->interrupt();
+    interrupt();
     setState(SessionState::Silent);
     m_retryTimer.start();
 }
@@ -505,11 +557,16 @@ void DeviceSession::leaveBootloader()
 void DeviceSession::onCommandState()
 {
     const bool isBusy = m_commands->isBusy();
-    if (std::exchange(m_commandBusy, isBusy) != isBusy) {
-        m_monitor->interrupt();
-        m_router->interrupt();
-    }
+    if (std::exchange(m_commandBusy, isBusy) != isBusy)
+        interrupt();
     emit stateChanged();
+}
+
+/// What the port reports. What is played back comes through the inbox.
+void DeviceSession::onPayload(const QByteArray &payload)
+{
+    if (!isPlayback())
+        takePayload(payload);
 }
 
 void DeviceSession::takePayload(const QByteArray &payload)
@@ -534,7 +591,7 @@ void DeviceSession::takePayload(const QByteArray &payload)
         leaveBootloader(); // the firmware is running after all
     }
     const quint64 connection = m_connection;
-    m_lastFrameNs = m_sinceOpened.nsecsElapsed();
+    m_lastFrameNs = sinceOpenedNs();
     const double hostMs = connectionMs();
     m_commands->noteData();
     m_dispatcher->setMeasuredFrameRate(m_port->statistics().framesLastSecond);
@@ -558,7 +615,7 @@ void DeviceSession::checkSilence()
 
 bool DeviceSession::isStreaming() const
 {
-    return isOpen() && m_lastFrameNs >= 0 && m_sinceOpened.nsecsElapsed() - m_lastFrameNs < kStreamTimeoutMs * kNsPerMs;
+    return isOpen() && m_lastFrameNs >= 0 && sinceOpenedNs() - m_lastFrameNs < kStreamTimeoutMs * kNsPerMs;
 }
 
 /// Frames from before the last reading do not count: that reading stopped the output.
@@ -574,7 +631,8 @@ bool DeviceSession::hearsNoise() const
 
 qint64 DeviceSession::openMs() const
 {
-    return isOpen() ? m_sinceOpened.elapsed() : 0;
+    // Until a file is open it is not known when it begins.
+    return isOpen() && !(isPlayback() && m_state == SessionState::Opening) ? sinceOpenedNs() / kNsPerMs : 0;
 }
 
 // The flag is read first: it orders what the client wrote before what is read here.
@@ -591,7 +649,7 @@ BootloaderOutcome DeviceSession::bootloaderOutcome() const
 
 double DeviceSession::connectionMs() const
 {
-    return double(m_sinceOpened.nsecsElapsed()) / double(kNsPerMs);
+    return double(sinceOpenedNs()) / double(kNsPerMs);
 }
 
 std::optional<quint8> DeviceSession::followedNode() const

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
 
 #include <memory>
 #include <optional>
 
+#include "app/source_clock.h"
 #include "device/product_resolver.h"
 #include "link/bootloader_state.h"
 #include "link/source_failure.h"
@@ -19,6 +19,7 @@ class CommandSession;
 class ImuParser;
 class KvUartPort;
 class LinkMonitor;
+class Playback;
 class Reconnector;
 class Recorder;
 class SessionCapture;
@@ -104,6 +105,10 @@ public:
     qint64 openMs() const;
     /// Samples are arriving.
     bool isStreaming() const;
+    /// A file is played back, or being opened.
+    bool isPlayback() const { return isOpen() && m_source.kind == SourceKind::File; }
+    /// Its packets are rebuilt from the numbers of a recording.
+    bool isReconstruction() const;
     /// The search for a baud rate is running.
     bool isSearchingBaudRate() const { return m_search.has_value(); }
     /// The last reading returned bytes that no device sends at this baud rate.
@@ -144,6 +149,9 @@ public:
     Recorder &recorder() const { return *m_recorder; }
     SessionCapture &capture() const { return *m_capture; }
     LinkMonitor &linkMonitor() const { return *m_monitor; }
+    Playback &playback() const { return *m_playback; }
+    /// What samples are timed with, for all that is made of them.
+    SharedClock clock() const { return m_clock; }
 
 signals:
     /// The state, or what it allows, may have changed.
@@ -177,6 +185,10 @@ private:
     void onCommandDevice();
     void readInfo();
     void endReading(bool answered);
+    void onPayload(const QByteArray &payload);
+    void takePlayedFile();
+    void onPlaybackRestarted();
+    void interrupt();
     void takeDevice(const DetectedDevice &device);
     void clearDevice();
     void resolvePreset();
@@ -190,6 +202,7 @@ private:
     void leaveDeviceStreaming();
     void checkSilence();
     void setState(SessionState state);
+    qint64 sinceOpenedNs() const { return m_clock->steadyNs() - m_openedNs; }
     bool isStreamLive() const;
     double connectionMs() const;
 
@@ -200,6 +213,7 @@ private:
         int originalRate = 0;
     };
 
+    std::shared_ptr<SourceClock> m_clock;
     std::unique_ptr<KvUartPort> m_port;
     StreamDispatcher *m_dispatcher;
     CommandBroker *m_broker;
@@ -210,6 +224,7 @@ private:
     LinkMonitor *m_monitor;
     StreamRouter *m_router;
     Reconnector *m_reconnector;
+    Playback *m_playback;
     QTimer m_retryTimer;
     QTimer m_silenceTimer; ///< runs while live
 
@@ -219,9 +234,9 @@ private:
     SourceIdentity m_identity; ///< of the source while it was open
     bool m_reconnects = false;
     bool m_isReturning = false; ///< a lost source is being opened again: its stream goes on
-    QElapsedTimer m_sinceOpened;
-    qint64 m_lastFrameNs = -1; ///< since opening; -1: none in this connection
-    qint64 m_lastReadNs = -1;  ///< since opening: when the last reading of the product ended
+    qint64 m_openedNs = 0;      ///< on the clock
+    qint64 m_lastFrameNs = -1;  ///< since opening; -1: none in this connection
+    qint64 m_lastReadNs = -1;   ///< since opening: when the last reading of the product ended
     bool m_infoRequested = false;
     bool m_infoDeferred = false;
     int m_readsAfterUpdate = 0; ///< readings still allowed to interrupt the stream of new firmware

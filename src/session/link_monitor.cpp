@@ -33,7 +33,6 @@ QString missingByNode(const LinkReport &report)
 LinkMonitor::LinkMonitor(const KvUartPort *port, const Recorder *recorder, QObject *parent)
     : QObject(parent), m_port(port), m_recorder(recorder), m_logTimer(this)
 {
-    m_clock.start();
     m_logTimer.setObjectName(QStringLiteral("timer_link_log"));
     m_logTimer.setInterval(kLogMs);
     connect(&m_logTimer, &QTimer::timeout, this, &LinkMonitor::log);
@@ -41,6 +40,12 @@ LinkMonitor::LinkMonitor(const KvUartPort *port, const Recorder *recorder, QObje
         if (!recording && m_connection.wasOpened && !m_connection.isOpen)
             log(); // its last records were written, or lost, after the port was closed
     });
+}
+
+void LinkMonitor::setClock(const SharedClock &clock)
+{
+    m_clock = clock;
+    m_stream.setClock(clock);
 }
 
 void LinkMonitor::open(const QString &portName, int baudRate)

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
 
+#include "app/source_clock.h"
 #include "link/link_health.h"
 #include "link/stream_health.h"
 
@@ -37,12 +37,17 @@ public:
     /// `port` and `recorder` live as long as this object is used.
     LinkMonitor(const KvUartPort *port, const Recorder *recorder, QObject *parent = nullptr);
 
+    /// The session's clock, before the first connection.
+    void setClock(const SharedClock &clock);
+
     /// A connection begins: all figures start again from zero.
     void open(const QString &portName, int baudRate);
     /// Takes a decoded frame of the connection.
-    void addFrame(const DecodedFrame &frame) { m_stream.addFrame(frame, m_clock.elapsed()); }
+    void addFrame(const DecodedFrame &frame) { m_stream.addFrame(frame, m_clock->steadyMs()); }
     /// Commands are on their way that stop the output or restart the device: not a loss on the line.
     void interrupt() { m_stream.interrupt(); }
+    /// What follows is from another place of a file: samples are counted again from zero, as the port's bytes are.
+    void startAgain() { m_stream.clear(); }
     /// The connection has ended and its port is closed. A recording may still be written.
     void close();
 
@@ -61,7 +66,7 @@ private:
     const KvUartPort *m_port;
     const Recorder *m_recorder;
     StreamHealth m_stream;
-    QElapsedTimer m_clock;
+    SharedClock m_clock = std::make_shared<SourceClock>();
     QTimer m_logTimer;
     LinkReport m_connection; ///< what is known without querying port and recorder
     QString m_logged;

@@ -20,8 +20,9 @@ constexpr double kMsPerSecond = 1000;
 
 // Words in files: the same in all languages.
 constexpr std::array<QLatin1String, kSessionStateCount> kStates{
-    QLatin1String("closed"), QLatin1String("opening"),    QLatin1String("identifying"), QLatin1String("live"),
-    QLatin1String("silent"), QLatin1String("bootloader"), QLatin1String("updating"),    QLatin1String("closing")};
+    QLatin1String("closed"),   QLatin1String("opening"), QLatin1String("identifying"),
+    QLatin1String("live"),     QLatin1String("silent"),  QLatin1String("bootloader"),
+    QLatin1String("updating"), QLatin1String("closing"), QLatin1String("waiting")};
 
 QLatin1String breakName(StreamBreak kind)
 {
@@ -32,6 +33,8 @@ QLatin1String breakName(StreamBreak kind)
         return QLatin1String("new_connection");
     case StreamBreak::OtherNode:
         return QLatin1String("other_node");
+    case StreamBreak::OtherPlace:
+        return QLatin1String("other_place");
     case StreamBreak::ClockRestarted:
         return QLatin1String("clock_restarted");
     case StreamBreak::OutputStopped:
@@ -69,7 +72,7 @@ SessionCapture::SessionCapture(DeviceSession *session) : QObject(session), m_ses
 
 void SessionCapture::start()
 {
-    if (m_writer.isCapturing())
+    if (m_writer.isCapturing() || m_session->isPlayback())
         return;
     const LinkReport report = m_session->linkMonitor().report();
     m_missing = report.samples.missing;

@@ -27,6 +27,7 @@ constexpr std::array<Row, kSessionActionCount> kTable{{
     /* Identify          */ {kNotOpen, kOpening, kRuns,    kYes,    kYes,    kInBoot,  kUpdate, kEnds, kGone},
     /* SendCommand       */ {kNotOpen, kOpening, kRuns,    kYes,    kYes,    kInBoot,  kUpdate, kEnds, kGone},
     /* StartRecording    */ {kNotOpen, kOpening, kYes,     kYes,    kYes,    kInBoot,  kUpdate, kEnds, kGone},
+    /* StartCapture      */ {kNotOpen, kOpening, kYes,     kYes,    kYes,    kInBoot,  kUpdate, kEnds, kGone},
     /* TryBaudRates      */ {kNotOpen, kOpening, kRuns,    kFlow,   kYes,    kInBoot,  kUpdate, kEnds, kGone},
     /* ConnectBootloader */ {kNotOpen, kOpening, kYes,     kYes,    kYes,    kYes,     kUpdate, kEnds, kGone},
     /* Download          */ {kNoBoot,  kNoBoot,  kNoBoot,  kNoBoot, kNoBoot, kYes,     kUpdate, kEnds, kGone},
@@ -37,6 +38,7 @@ constexpr std::array<Row, kSessionActionCount> kTable{{
 
 constexpr Refusal kUdp = Refusal::OverUdp;
 constexpr Refusal kFile = Refusal::OfAFile;
+constexpr Refusal kHere = Refusal::InAFile;
 constexpr Refusal kRate = Refusal::RateIsSet;
 
 using SourceRow = std::array<Refusal, kSourceKindCount>;
@@ -49,6 +51,7 @@ constexpr std::array<SourceRow, kSessionActionCount> kSourceTable{{
     /* Identify          */ {kYes, kYes,  kYes,   kUdp,  kFile, kYes},
     /* SendCommand       */ {kYes, kYes,  kYes,   kUdp,  kFile, kYes},
     /* StartRecording    */ {kYes, kYes,  kYes,   kYes,  kYes,  kYes},
+    /* StartCapture      */ {kYes, kYes,  kYes,   kYes,  kHere, kYes},
     /* TryBaudRates      */ {kYes, kRate, kYes,   kRate, kFile, kRate},
     /* ConnectBootloader */ {kYes, kYes,  kYes,   kUdp,  kFile, kYes},
     /* Download          */ {kYes, kYes,  kYes,   kUdp,  kFile, kYes},

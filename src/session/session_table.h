@@ -25,6 +25,7 @@ enum class SessionAction : quint8 {
     Identify,    ///< identify the device
     SendCommand, ///< settings and one-click commands
     StartRecording,
+    StartCapture,
     TryBaudRates, ///< open the port at one usual rate after the other
     ConnectBootloader,
     Download, ///< write firmware
@@ -32,7 +33,7 @@ enum class SessionAction : quint8 {
     RestartDevice, ///< out of its bootloader
     Quit,
 };
-constexpr int kSessionActionCount = 11;
+constexpr int kSessionActionCount = 12;
 
 /// Why a session refuses something.
 enum class Refusal : quint8 {
@@ -48,6 +49,7 @@ enum class Refusal : quint8 {
     Closing,
     OverUdp,   ///< datagrams get lost and overtake each other: no commands
     OfAFile,   ///< nothing can be sent to a recording
+    InAFile,   ///< what is played back is in a file already
     RateIsSet, ///< the source's baud rate cannot be set from here
     Waiting,   ///< the source is lost and waited for
 };

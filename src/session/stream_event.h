@@ -12,6 +12,7 @@ enum class StreamBreak : quint8 {
     None,
     NewConnection,  ///< a port was opened: views start empty
     OtherNode,      ///< another node is followed: views start empty
+    OtherPlace,     ///< of a file that is played back: views start empty
     ClockRestarted, ///< the clock went backwards or jumped: the device restarted, or its time was set
     OutputStopped,  ///< the output was held back on purpose, by a command
     Gap,            ///< silence of more than a second and more than five periods
@@ -21,7 +22,7 @@ enum class StreamBreak : quint8 {
 /// place, and resets its analysis and filter state.
 constexpr bool emptiesViews(StreamBreak kind)
 {
-    return kind == StreamBreak::NewConnection || kind == StreamBreak::OtherNode;
+    return kind == StreamBreak::NewConnection || kind == StreamBreak::OtherNode || kind == StreamBreak::OtherPlace;
 }
 
 /// The stream of the followed node starts again.

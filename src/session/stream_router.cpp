@@ -25,6 +25,13 @@ void StreamRouter::start()
     restart(StreamBreak::NewConnection, 0, 0);
 }
 
+void StreamRouter::startAgain()
+{
+    m_nodes.clear();
+    m_newest.reset();
+    restart(StreamBreak::OtherPlace, 0, 0);
+}
+
 void StreamRouter::follow(quint8 id)
 {
     if (m_followed == id)

@@ -26,6 +26,9 @@ public:
 
     /// A connection begins: forgets all nodes and times.
     void start();
+    /// What follows is from another place of a file that is played back: forgets all nodes and times, but not which one
+    /// is followed.
+    void startAgain();
     /// Commands are on their way that may hold the output back or restart the device.
     void interrupt() { ++m_interruptions; }
     /// Takes a frame that arrived `hostMs` after the connection began; its angles refer to the mounting `preset`.

@@ -34,7 +34,7 @@ void CaptureActions::refresh()
 {
     const SessionCapture &capture = m_session->capture();
     const bool stops = capture.isCapturing();
-    const Refusal refusal = stops ? Refusal::None : m_session->refusal(SessionAction::StartRecording);
+    const Refusal refusal = stops ? Refusal::None : m_session->refusal(SessionAction::StartCapture);
     m_capture->setText(stops ? tr("Stop &capture") : tr("Start &capture"));
     m_capture->setEnabled(refusal == Refusal::None);
     m_capture->setToolTip(refusal == Refusal::None ? tr("Captures every byte, sample and event into one file")

@@ -27,10 +27,12 @@
 #include "ui/connection_card.h"
 #include "ui/device_card.h"
 #include "ui/dialogs.h"
+#include "ui/file_opening.h"
 #include "ui/font_size.h"
 #include "ui/language_menu.h"
 #include "ui/main_actions.h"
 #include "ui/node_card.h"
+#include "ui/playback_bar.h"
 #include "ui/recording_actions.h"
 #include "ui/recording_badge.h"
 #include "ui/sensor_data_panel.h"
@@ -118,6 +120,7 @@ void form_base::setUpWidgets()
     m_ui->scroll_left->setNodeCard(m_nodeCard);
     m_ui->layout_right->addWidget(m_attitudeCard);
 
+    m_ui->layout_central->insertWidget(0, new PlaybackBar(session, this));
     m_statusLine = new StatusLine(session, m_ui->statusbar, m_ui->action_link_health, this);
     m_recordingActions = new RecordingActions(session, m_ui->action_record_now, m_ui->action_set_marker, this);
     m_recordingBadge = new RecordingBadge(&session->recorder(), this);
@@ -142,6 +145,8 @@ void form_base::setUpConnections()
     });
     connect(m_ui->action_link_health, &QAction::triggered, m_dialogs, &Dialogs::openLinkHealth);
     connect(m_dialogs, &Dialogs::portChosen, this, &form_base::open_port);
+    auto *const files = new FileOpening(m_session.get(), m_ui->action_open_file, this);
+    connect(files, &FileOpening::chosen, this, &form_base::open_file);
     connect(m_dialogs, &Dialogs::restartWanted, this, [this] { m_wantsRestart = close(); });
     connect(m_ui->action_new_window, &QAction::triggered, this, &form_base::newWindowWanted);
     connect(m_ui->action_quit, &QAction::triggered, this, &form_base::close);
@@ -182,6 +187,12 @@ void form_base::open_port(const QString &source, int baudRate)
     const std::optional<SourceAddress> address = SourceAddress::parse(source, &problem, baudRate);
     if (m_session->open(address.value_or(SourceAddress::serial(source, baudRate))))
         m_statusLine->showOpening();
+}
+
+void form_base::open_file(const QString &path)
+{
+    m_dialogs->dropPortError();
+    m_session->open(SourceAddress{SourceKind::File, path});
 }
 
 void form_base::on_action_serial_stop_triggered()

@@ -65,6 +65,8 @@ public:
     /// `source`: the name or path of a port, or any other text that SourceAddress reads; `baudRate` counts where it
     /// gives none.
     void open_port(const QString &source, int baudRate);
+    /// Plays back a capture or a recording.
+    void open_file(const QString &path);
     void try_read_prod_info();
     void onKbootFrameRecv(const QByteArray &payload);
     void on_orientation_preset_changed(OrientationPreset preset);

@@ -33,7 +33,7 @@ QString shortcutText(const QAction *action)
 } // namespace
 
 MainActions::MainActions(QMainWindow *window, Ui::form_base *ui, DeviceSession *session)
-    : QObject(window), m_ui(ui), m_dashboard(new QAction(window)), m_gateway(new QAction(window)),
+    : QObject(window), m_ui(ui), m_session(session), m_dashboard(new QAction(window)), m_gateway(new QAction(window)),
       m_connectButton(new QToolButton(window)), m_rules(new ActionRules(session, this))
 {
     m_dashboard->setObjectName(QStringLiteral("action_sensor_dashboard"));
@@ -64,12 +64,21 @@ void MainActions::setOpen(bool open)
     QAction *now = open ? m_ui->action_serial_stop : m_ui->action_serial_open;
     QAction *then = open ? m_ui->action_serial_open : m_ui->action_serial_stop;
     m_connectButton->removeAction(then);
+    nameClose();
     m_connectButton->setDefaultAction(now);
     m_ui->action_copy_values->setEnabled(open);
 }
 
+void MainActions::nameClose()
+{
+    QAction *close = m_ui->action_serial_stop;
+    close->setText(m_session->isPlayback() ? tr("&Close file") : tr("&Close port"));
+    close->setIconText(toolbarText(close->text()));
+}
+
 void MainActions::retranslate()
 {
+    nameClose();
     const auto text = [](QAction *action, const QString &title, const QString &toolTip) {
         action->setText(title);
         action->setToolTip(toolTip);
@@ -85,6 +94,8 @@ void MainActions::retranslate()
     m_ui->action_firmware_update->setToolTip(tr("Load new firmware into the device"));
     m_rules->bind(m_ui->action_serial_open, SessionAction::OpenPort,
                   tr("Choose a serial port and connect (%1)").arg(shortcutText(m_ui->action_serial_open)));
+    m_rules->bind(m_ui->action_open_file, SessionAction::OpenPort,
+                  tr("Play back a capture or a CSV recording (%1)").arg(shortcutText(m_ui->action_open_file)));
     m_rules->bind(m_ui->action_serial_stop, SessionAction::ClosePort,
                   tr("Close the serial port (%1)").arg(shortcutText(m_ui->action_serial_stop)));
     m_rules->bind(m_ui->action_quit, SessionAction::Quit, tr("End the program"));

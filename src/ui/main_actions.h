@@ -31,7 +31,10 @@ public:
     void retranslate();
 
 private:
+    void nameClose();
+
     Ui::form_base *m_ui;
+    DeviceSession *m_session;
     QAction *m_dashboard;
     QAction *m_gateway;
     QToolButton *m_connectButton;

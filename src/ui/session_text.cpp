@@ -1,7 +1,9 @@
 #include "ui/session_text.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 
+#include "link/stream_dispatcher.h"
 #include "session/device_session.h"
 
 namespace {
@@ -44,6 +46,8 @@ QString session_text::refusal(Refusal refusal)
             "Connect by tcp: or rfc2217: to send them.");
     case Refusal::OfAFile:
         return Text::tr("This is a recording: there is no device to send anything to.");
+    case Refusal::InAFile:
+        return Text::tr("This is a file already: capturing it again would add nothing.");
     case Refusal::RateIsSet:
         return Text::tr(
             "The baud rate of this source is not set from here. Connect by rfc2217: to set that of a serial "
@@ -61,8 +65,17 @@ QString session_text::connection(const DeviceSession &session)
         return Text::tr("The device runs its bootloader.\nIt sends no data until it restarts.");
     case SessionState::Updating:
         return Text::tr("Firmware is being written.\nDo not unplug the device.");
+    case SessionState::Opening:
+        if (session.isPlayback())
+            return Text::tr("The file is being opened.");
+        break;
     default:
         break;
+    }
+    if (session.isPlayback()) {
+        const int rate = int(session.dispatcher().snapshot().measured_frame_rate);
+        return Text::tr("Playing back %1\n%2 packets/s")
+            .arg(QFileInfo(session.portName()).fileName(), QString::number(rate));
     }
     if (session.isSearchingBaudRate())
         return Text::tr("Trying %1 baud...").arg(session.baudRate());

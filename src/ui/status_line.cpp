@@ -53,8 +53,9 @@ void StatusLine::showOpening()
 void StatusLine::refresh()
 {
     if (!m_saying.isActive() && (!m_opening.isValid() || m_opening.elapsed() >= kOpeningTextsMs))
-        setTextIfChanged(m_state,
-                         status_text::statusBar(m_session->dispatcher().snapshot(), m_session->isInfoDeferred()));
+        setTextIfChanged(m_state, m_session->isPlayback() ? tr("Playing back %1").arg(m_session->portName())
+                                                          : status_text::statusBar(m_session->dispatcher().snapshot(),
+                                                                                   m_session->isInfoDeferred()));
     setTextIfChanged(m_traffic, status_text::traffic(m_session->port().statistics()));
     if (const std::optional<quint8> node = m_session->followedNode())
         setTextIfChanged(m_node, tr("Node ID:%1").arg(*node));

@@ -1,6 +1,5 @@
 #include "ui/view_windows.h"
 
-#include <QDateTime>
 #include <QWindow>
 
 #include <utility>
@@ -15,6 +14,8 @@
 #include "record/recorder.h"
 #include "session/device_session.h"
 #include "session/link_monitor.h"
+#include "session/playback.h"
+#include "session/playback_inbox.h"
 #include "session/session_capture.h"
 #include "wave/form_sensor_dashboard.h"
 #include "wave/form_wireless_dashboard.h"
@@ -83,6 +84,7 @@ void ViewWindows::openSensorDashboard()
 {
     if (!m_sensorDashboard) {
         m_sensorDashboard = std::make_unique<form_sensor_dashboard>();
+        m_sensorDashboard->bridge().setClock(m_session->clock());
         if (m_frameRate > 0)
             m_sensorDashboard->bridge().setFrameRate(m_frameRate);
         name(static_cast<QWindow *>(m_sensorDashboard.get()));
@@ -100,6 +102,7 @@ void ViewWindows::openGatewayDashboard()
 {
     if (!m_wirelessDashboard) {
         m_wirelessDashboard = std::make_unique<form_wireless_dashboard>();
+        m_wirelessDashboard->bridge().setClock(m_session->clock());
         if (m_frameRate > 0)
             m_wirelessDashboard->setFrameRate(m_frameRate);
         name(static_cast<QWindow *>(m_wirelessDashboard.get()));
@@ -114,6 +117,10 @@ void ViewWindows::openSpectrum()
     if (!m_spectrum) {
         m_spectrum = std::make_unique<form_fftchart>();
         name(m_spectrum.get());
+        m_spectrum->setClock(m_session->clock());
+        PlaybackInbox *const inbox = &m_session->playback().inbox();
+        inbox->waitFor(m_spectrum.get(), [spectrum = m_spectrum.get()] { return spectrum->isBatchPending(); });
+        connect(m_spectrum.get(), &form_fftchart::batchEnded, inbox, &PlaybackInbox::wake);
         connect(&m_spectrum->bridge(), &FftChartBridge::alarmStateChanged, this, &ViewWindows::captureAlarm);
     }
     WindowHost::bringUp(m_spectrum.get());
@@ -237,7 +244,7 @@ void ViewWindows::addMarker(const QString &text, double timeS)
     if (m_isRelaying)
         return;
     m_isRelaying = true;
-    const ChartMarker marker{timeS, QDateTime::currentMSecsSinceEpoch(), text};
+    const ChartMarker marker{timeS, m_session->clock()->wallMs(), text};
     if (m_sensorDashboard)
         m_sensorDashboard->bridge().markers()->add(marker);
     if (m_wirelessDashboard)
@@ -251,9 +258,11 @@ void ViewWindows::onRestart(const StreamRestart &restart)
         showOrigin(); // another node may be followed now
     if (m_spectrum)
         m_spectrum->restartStream();
+    if (m_spectrum && restart.kind == StreamBreak::OtherPlace)
+        m_spectrum->bridge().setAlarmRule(m_spectrum->bridge().alarmRule()); // it belongs to the place that was left
     if (m_sensorDashboard)
         m_sensorDashboard->bridge().restartStream(restart.kind);
-    if (m_wirelessDashboard && restart.kind == StreamBreak::NewConnection)
+    if (m_wirelessDashboard && restart.kind != StreamBreak::OtherNode && emptiesViews(restart.kind))
         m_wirelessDashboard->clear();
 }
 

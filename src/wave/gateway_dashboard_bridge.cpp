@@ -246,12 +246,6 @@ void GatewayDashboardBridge::setPlaying(bool playing)
     emit playingChanged();
 }
 
-qint64 GatewayDashboardBridge::hostNowMs()
-{
-    using namespace std::chrono;
-    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
-}
-
 void GatewayDashboardBridge::updateGatewaySamples(const QList<GatewaySample> &samples, qint64 hostMs)
 {
     if (!m_active || m_ended)
@@ -414,6 +408,7 @@ WaveChartBridge *GatewayDashboardBridge::chartOf(NodeCharts &node, size_t type)
         chart->setFrameRate(m_frameRate);
         chart->setPlaying(m_playing);
         chart->setOrigin({m_device, node.id});
+        chart->setClock(m_clock);
         chart->restoreChoices(m_choices.value(choiceKey(node.id, type)));
         nameChart(chart, node.id);
     }

@@ -8,6 +8,7 @@
 #include <QTimer>
 #include <QVariantList>
 
+#include "app/source_clock.h"
 #include "chart/marker_list.h"
 #include "wave/gateway_node_model.h"
 #include "wave/gateway_node_tracker.h"
@@ -92,10 +93,14 @@ public:
     /// A paused dashboard freezes its charts; the table goes on.
     Q_INVOKABLE void setPlaying(bool playing);
 
-    /// Milliseconds of the monotonic clock for host times.
-    static qint64 hostNowMs();
+    /// The session's clock, before the first samples.
+    void setClock(const SharedClock &clock) { m_clock = clock; }
+    /// Milliseconds of the clock, for host times.
+    qint64 hostNowMs() const { return m_clock->steadyMs(); }
     /// Takes the samples of a batch that arrived at `hostMs`.
-    void updateGatewaySamples(const QList<GatewaySample> &samples, qint64 hostMs = hostNowMs());
+    void updateGatewaySamples(const QList<GatewaySample> &samples, qint64 hostMs);
+    /// The same for one that arrives now.
+    void updateGatewaySamples(const QList<GatewaySample> &samples) { updateGatewaySamples(samples, hostNowMs()); }
     /// The gateway's product, for files and pictures.
     void setDevice(const QString &device);
     /// Batches per second, and so each node's samples per second.
@@ -112,7 +117,8 @@ public:
     /// Clears nodes and samples: another gateway may be connected next.
     void clear();
     /// Brings the table up to date as of `hostMs`; called automatically while active.
-    void refresh(qint64 hostMs = hostNowMs());
+    void refresh(qint64 hostMs);
+    void refresh() { refresh(hostNowMs()); }
     /// The language has changed: updates the texts.
     void retranslate();
 
@@ -154,6 +160,7 @@ private:
     void syncObserved();
     int selectedTypeCount() const;
 
+    SharedClock m_clock = std::make_shared<SourceClock>();
     GatewayNodeTracker m_tracker;
     GatewayNodeModel m_nodeModel;
     std::vector<NodeCharts> m_charts;                         ///< at most kMaxChosenNodes, by ascending id

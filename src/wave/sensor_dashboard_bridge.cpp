@@ -128,6 +128,12 @@ void SensorDashboardBridge::setLinked(bool linked)
     emit linkedChanged();
 }
 
+void SensorDashboardBridge::setClock(const SharedClock &clock)
+{
+    for (WaveChartBridge *chart : std::as_const(m_bridges))
+        chart->setClock(clock);
+}
+
 void SensorDashboardBridge::setOrigin(const SampleOrigin &origin)
 {
     for (WaveChartBridge *chart : std::as_const(m_bridges))

@@ -7,6 +7,7 @@
 #include <QStringList>
 #include <QVariantList>
 
+#include "app/source_clock.h"
 #include "chart/marker_list.h"
 #include "wave/sensor_types.h"
 #include "wave/wave_chart_bridge.h"
@@ -84,6 +85,8 @@ public:
     void setPlaying(bool playing);
     /// The origin of the samples, for files and pictures.
     void setOrigin(const SampleOrigin &origin);
+    /// The session's clock.
+    void setClock(const SharedClock &clock);
     /// Samples per second.
     void setFrameRate(unsigned int samplesPerSecond);
     /// Active while the dashboard is open. Becoming inactive empties the charts.

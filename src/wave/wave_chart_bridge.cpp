@@ -1,9 +1,6 @@
 #include "wave/wave_chart_bridge.h"
 
-#include <QDateTime>
-
 #include <algorithm>
-#include <chrono>
 #include <cmath>
 #include <stdexcept>
 #include <utility>
@@ -14,12 +11,6 @@
 namespace {
 
 constexpr qsizetype kMaxBreakMarks = 64;
-
-qint64 hostNowMs()
-{
-    using namespace std::chrono;
-    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
-}
 
 } // namespace
 
@@ -144,13 +135,13 @@ void WaveChartBridge::pushSample(const float *values, int n, unsigned int timest
         m_model.breakLine(WaveformDataModel::Part::Cut);
         m_gaps.changeClock();
     }
-    const SampleGaps::Step step = m_gaps.add(timestampMs, hostNowMs());
+    const SampleGaps::Step step = m_gaps.add(timestampMs, m_clock->steadyMs());
     if (step.missing > 0 || step.jumped) {
         m_model.breakLine(WaveformDataModel::Part::Gap);
         missing = step.missing;
     }
     m_model.pushSample(values, std::min(n, channelCount()), timestampMs);
-    m_newestUtcMs = QDateTime::currentMSecsSinceEpoch();
+    m_newestUtcMs = m_clock->wallMs();
     const double nowSec = double(m_model.timestampAtSampleOffset(0)) / 1000.0;
     if (m_pendingBreak)
         addMark(m_breakMarks, {nowSec, *std::exchange(m_pendingBreak, std::nullopt)});

@@ -10,6 +10,7 @@
 #include <memory>
 #include <optional>
 
+#include "app/source_clock.h"
 #include "link/sample_gaps.h"
 #include "session/stream_event.h"
 #include "wave/curve_break.h"
@@ -114,6 +115,8 @@ public:
     /// The origin of the samples, as far as the owner knows.
     const SampleOrigin &origin() const { return m_origin; }
     void setOrigin(const SampleOrigin &origin) { m_origin = origin; }
+    /// The session's clock, for when samples arrive.
+    void setClock(const SharedClock &clock) { m_clock = clock; }
     qint64 utcMsAt(double timeSec) const override { return m_newestUtcMs + qRound64((timeSec - liveLagSec()) * 1000); }
 
     /// The displayed samples: all, or those that the trigger has caught.
@@ -208,6 +211,7 @@ private:
     QList<BreakMark> m_missingMarks;
     std::optional<CurveBreak> m_pendingBreak; ///< waits for the first sample after it
     SampleGaps m_gaps;
+    SharedClock m_clock = std::make_shared<SourceClock>();
     qint64 m_newestUtcMs = 0;
     SampleOrigin m_origin;
     ViewChoices m_choices;

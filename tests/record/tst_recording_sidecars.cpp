@@ -57,7 +57,7 @@ private slots:
         RecordingContext context;
         context.product = QStringLiteral("a long name that is shorter later");
         files.setContext(context);
-        files.beginFile(csv);
+        files.beginFile(csv, QDateTime::currentDateTimeUtc());
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files),
                  QStringList{QStringLiteral("walk.v2_20250303_140509.json")}); // no marker, no file for them
         context = {QStringLiteral("MZ221"),     QStringLiteral("MZ221 V1.6"),   {},    {}, 100, 99,
@@ -70,7 +70,7 @@ private slots:
         QVERIFY(running[QStringLiteral("end_time")].isNull());
         files.addMarker({1, 0, QStringLiteral("one")});
         files.addMarker({2, 0, QStringLiteral("two")});
-        files.endFile(42, {});
+        files.endFile(QDateTime::currentDateTimeUtc(), 42, {});
         QCOMPARE(description(csv)[QStringLiteral("records")].toInt(), 42);
         QCOMPARE(contents(RecordingSidecars::markersPath(csv)).count('\n'), 3);
         for (const char *key : {"format", "start_time", "end_time", "mounting", "program_version", "host"})
@@ -88,27 +88,27 @@ private slots:
             QVERIFY(other.open(QIODevice::WriteOnly) && other.write("mine") == 4);
         }
         RecordingSidecars files;
-        files.beginFile(csv);
+        files.beginFile(csv, QDateTime::currentDateTimeUtc());
         QVERIFY(files.error().startsWith(RecordingSidecars::descriptionPath(csv)));
         files.addMarker({1, 0, QStringLiteral("one")});
         QVERIFY(files.error().startsWith(RecordingSidecars::markersPath(csv)));
-        files.endFile(1, {});
+        files.endFile(QDateTime::currentDateTimeUtc(), 1, {});
         QCOMPARE(contents(RecordingSidecars::descriptionPath(csv)), QByteArray("mine"));
         QCOMPARE(contents(RecordingSidecars::markersPath(csv)), QByteArray("mine"));
 
         const QString linked = folder.filePath(QStringLiteral("b.csv"));
         const QString victim = folder.filePath(QStringLiteral("victim"));
         QVERIFY(QFile::link(victim, RecordingSidecars::descriptionPath(linked)));
-        files.beginFile(linked);
+        files.beginFile(linked, QDateTime::currentDateTimeUtc());
         QVERIFY(!QFileInfo::exists(victim));
 
         // What takes the place of an open file later is not touched either.
         const QString moved = folder.filePath(QStringLiteral("c.csv"));
         const QString path = RecordingSidecars::descriptionPath(moved);
-        files.beginFile(moved);
+        files.beginFile(moved, QDateTime::currentDateTimeUtc());
         QVERIFY(QFile::rename(path, path + u'2'));
         QVERIFY(QFile::copy(RecordingSidecars::descriptionPath(csv), path));
-        files.endFile(1, {});
+        files.endFile(QDateTime::currentDateTimeUtc(), 1, {});
         QCOMPARE(contents(path), QByteArray("mine"));
     }
 

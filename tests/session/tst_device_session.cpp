@@ -106,6 +106,7 @@ struct Bench
         case Action::Download:
         case Action::StopDownload:
         case Action::StartRecording:
+        case Action::StartCapture:
         case Action::Quit:
             break; // done by others, who check first
         }

@@ -227,7 +227,7 @@ private slots:
         bridge.setPlaying(true);
         bridge.setEnded(true);
         bridge.updateGatewaySamples({sampleOf(1, 300), sampleOf(7, 300)});
-        bridge.refresh(GatewayDashboardBridge::hostNowMs() + 60000);
+        bridge.refresh(bridge.hostNowMs() + 60000);
         QCOMPARE(bridge.summary(), QStringLiteral("Nodes 2 · connection ended"));
         QCOMPARE(text(*bridge.nodeModel(), 0, GatewayNodeModel::StateTextRole), QStringLiteral("Ended"));
         QCOMPARE(text(*bridge.nodeModel(), 0, GatewayNodeModel::AgeTextRole), QStringLiteral("–"));
