@@ -135,7 +135,8 @@ void DeviceSession::openSource(const SourceAddress &address)
     m_lastFrameNs = -1;
     m_lastReadNs = -1;
     if (address.kind == SourceKind::File) {
-        m_capture->stop(); // what is played back has other times, and is in a file already
+        m_capture->stop();  // what is played back has other times, and is in a file already
+        m_recorder->stop(); // one that waits for its device must not go on with this
         m_playback->prepare();
     }
     if (!m_isReturning)

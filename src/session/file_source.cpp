@@ -84,7 +84,8 @@ int FileSource::weight(qsizetype bytes)
 
 template <typename Signal> void FileSource::passOn(Signal signal, const QByteArray &bytes, qint64 timeNs)
 {
-    m_player->acknowledge(1 - weight(bytes.size())); // the player has counted it as one
+    if (const int counted = weight(bytes.size()); counted > 1)
+        m_player->acknowledge(1 - counted); // the player has counted it as one
     emit(this->*signal)(bytes, timeNs);
 }
 

@@ -7,16 +7,19 @@
 
 namespace {
 
-constexpr int kRetryMs = 2; // not all consumers call wake()
+constexpr int kRetryMs = 2;   // not all consumers call wake()
+constexpr int kReportAt = 16; // of what the player has outstanding, a quarter
 
 } // namespace
 
 PlaybackInbox::PlaybackInbox(std::shared_ptr<SourceClock> clock, QObject *parent)
-    : QObject(parent), m_clock(std::move(clock)), m_retry(this)
+    : QObject(parent), m_clock(std::move(clock)), m_retry(this), m_report(this)
 {
     m_retry.setSingleShot(true);
     m_retry.setInterval(kRetryMs);
     connect(&m_retry, &QTimer::timeout, this, &PlaybackInbox::goOn);
+    m_report.setSingleShot(true);
+    connect(&m_report, &QTimer::timeout, this, &PlaybackInbox::report);
 }
 
 void PlaybackInbox::setActive(bool active)
@@ -25,7 +28,9 @@ void PlaybackInbox::setActive(bool active)
     ++m_generation;
     m_items.clear();
     m_weight = 0;
+    m_done = 0;
     m_retry.stop();
+    m_report.stop();
     m_clock->release();
 }
 
@@ -62,7 +67,7 @@ void PlaybackInbox::startAgain()
 {
     if (!m_isActive)
         return;
-    int weight = m_weight;
+    int weight = m_weight + m_done;
     for (const Item &item : m_items)
         weight += item.weight;
     setActive(true);
@@ -95,7 +100,6 @@ void PlaybackInbox::goOn()
     if (std::exchange(m_isGoingOn, true))
         return;
     const quint32 generation = m_generation;
-    int weight = 0;
     while (generation == m_generation && !m_items.empty()) {
         if (m_items.front().kind == Kind::Payload && mustWait()) {
             m_retry.start(kRetryMs);
@@ -112,11 +116,11 @@ void PlaybackInbox::goOn()
             emit payloadDue(item.payload);
             break;
         case Kind::End:
-            weight += std::exchange(m_weight, 0);
+            m_done += std::exchange(m_weight, 0);
             break;
         case Kind::Sent:
             m_clock->hold(item.timeNs);
-            weight += item.weight;
+            m_done += item.weight;
             emit sentDue();
             break;
         }
@@ -126,6 +130,14 @@ void PlaybackInbox::goOn()
         return;
     if (m_items.empty() && m_weight == 0)
         m_clock->release();
-    if (weight > 0)
-        emit dealtWith(weight);
+    if (m_done >= kReportAt)
+        report();
+    else if (m_done > 0 && !m_report.isActive())
+        m_report.start(0);
+}
+
+void PlaybackInbox::report()
+{
+    m_report.stop();
+    emit dealtWith(std::exchange(m_done, 0));
 }

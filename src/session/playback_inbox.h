@@ -68,12 +68,15 @@ private:
 
     void add(Item &&item);
     void goOn();
+    void report();
     bool mustWait() const;
 
     std::shared_ptr<SourceClock> m_clock;
     std::deque<Item> m_items;
     std::vector<Consumer> m_consumers;
     QTimer m_retry;
+    QTimer m_report;  ///< dealtWith(), once for all chunks that arrived together
+    int m_done = 0;   ///< to be reported
     int m_weight = 0; ///< of the chunk that has begun
     quint32 m_generation = 0;
     bool m_isActive = false;

@@ -84,6 +84,7 @@ void PlaybackBar::layOut()
     m_note->setProperty("role", QStringLiteral("secondary"));
     m_note->setWordWrap(true);
     m_reached->setProperty("role", QStringLiteral("secondary"));
+    m_reached->setWordWrap(true);
 
     auto *rows = new QVBoxLayout(this);
     rows->setContentsMargins(theme::kGrid, theme::kGrid, theme::kGrid, theme::kGrid);
@@ -96,10 +97,11 @@ void PlaybackBar::layOut()
     rows->addLayout(timeRow);
     auto *row = new QHBoxLayout;
     row->setSpacing(theme::kGrid);
-    for (QWidget *widget : std::initializer_list<QWidget *>{m_step, m_rate, m_loop, m_skip, m_markers, m_reached})
+    for (QWidget *widget : std::initializer_list<QWidget *>{m_step, m_rate, m_loop, m_skip, m_markers})
         row->addWidget(widget);
-    row->addWidget(m_note, 1);
+    row->addWidget(m_reached, 1);
     rows->addLayout(row);
+    rows->addWidget(m_note);
     // In the order in which they are seen.
     QWidget *before = m_play;
     for (QWidget *next : std::initializer_list<QWidget *>{m_position, m_step, m_rate, m_loop, m_skip, m_markers}) {
@@ -137,6 +139,7 @@ void PlaybackBar::onFile()
     }
     m_timer.start();
     const QSignalBlocker blocker(m_position);
+    m_note->setVisible(m_session->isReconstruction());
     m_position->setRange(0, positions(m_playback->file().endNs - m_playback->file().startNs));
     m_position->setValue(0);
     m_note->setText(m_session->isReconstruction()

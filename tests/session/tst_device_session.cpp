@@ -16,16 +16,16 @@ using State = SessionState;
 using Action = SessionAction;
 
 constexpr int kBaud = 921600;
-constexpr std::array kActions{
-    Action::OpenPort,     Action::ClosePort,         Action::Identify, Action::SendCommand,  Action::StartRecording,
-    Action::TryBaudRates, Action::ConnectBootloader, Action::Download, Action::StopDownload, Action::RestartDevice,
-    Action::Quit};
+constexpr std::array kActions{Action::OpenPort,     Action::ClosePort,         Action::Identify,
+                              Action::SendCommand,  Action::StartRecording,    Action::StartCapture,
+                              Action::TryBaudRates, Action::ConnectBootloader, Action::Download,
+                              Action::StopDownload, Action::RestartDevice,     Action::Quit};
 
 /// The allowed actions, in the order of kActions: y for yes.
 constexpr std::pair<State, const char *> kAllowed[] = {
-    {State::Closed, "y.........y"},   {State::Opening, "yy........y"}, {State::Identifying, "yy..y.y...y"},
-    {State::Live, "yyyyy.y...y"},     {State::Silent, "yyyyyyy...y"},  {State::Bootloader, "yy....yy.yy"},
-    {State::Updating, "........y.."}, {State::Closing, "..........y"},
+    {State::Closed, "y..........y"},   {State::Opening, "yy.........y"}, {State::Identifying, "yy..yy.y...y"},
+    {State::Live, "yyyyyy.y...y"},     {State::Silent, "yyyyyyyy...y"},  {State::Bootloader, "yy.....yy.yy"},
+    {State::Updating, ".........y.."}, {State::Closing, "...........y"},
 };
 
 const QByteArray kImage(64 * 32, '\x5A');
