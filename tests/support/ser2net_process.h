@@ -8,6 +8,10 @@
 #include <QTemporaryDir>
 #include <QUdpSocket>
 
+#include <csignal>
+
+#include <sys/prctl.h>
+
 #include "link/source_address.h"
 #include "support/files.h"
 
@@ -48,6 +52,8 @@ public:
     /// Starts it, again if need be, and waits until it listens.
     bool start()
     {
+        m_process.setChildProcessModifier(
+            [] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); }); // also with a test that is killed
         m_process.start(program(), {QStringLiteral("-n"), QStringLiteral("-c"), config(), QStringLiteral("-u")});
         for (const QDeadlineTimer limit(kTimeoutMs); !limit.hasExpired() && !isListening();)
             m_process.waitForFinished(5);
