@@ -24,7 +24,7 @@ constexpr int kEndMs = 25000; ///< a download without a device takes this long t
 constexpr int kEffectMs = 400;
 constexpr int kPacket = 512;
 constexpr int kPackets = 250;
-constexpr char kLetters[] = "COILSBUX"; ///< in the order of SessionState
+constexpr char kLetters[] = "COILSBUXW"; ///< in the order of SessionState
 
 void press(form_base &window, const char *opener, const char *className, const char *button)
 {
@@ -200,6 +200,8 @@ bool StateTable::bringTo(SessionState state)
         m_user.act(QStringLiteral("open"), [port](form_base &window) { openPort(window, port, kBaud); });
     };
     switch (state) {
+    case State::Waiting: // a pseudo-terminal is never waited for: another device could take its path
+        return false;
     case State::Closed:
         break;
     case State::Opening:
