@@ -897,6 +897,21 @@
     </message>
 </context>
 <context>
+    <name>FileOpening</name>
+    <message>
+        <source>Open a capture or a recording</source>
+        <translation>打开捕获或记录</translation>
+    </message>
+    <message>
+        <source>Captures and recordings (*.mcap *.csv)</source>
+        <translation>捕获和记录 (*.mcap *.csv)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>所有文件 (*)</translation>
+    </message>
+</context>
+<context>
     <name>GatewayDashboard</name>
     <message>
         <source>Pause</source>
@@ -1071,7 +1086,7 @@ Pa</translation>
     </message>
     <message>
         <source>Alt+Up</source>
-        <translation>Alt+Up</translation>
+        <translation>Alt+↑</translation>
     </message>
     <message>
         <source>Move the node and its charts down</source>
@@ -1079,7 +1094,7 @@ Pa</translation>
     </message>
     <message>
         <source>Alt+Down</source>
-        <translation>Alt+Down</translation>
+        <translation>Alt+↓</translation>
     </message>
     <message>
         <source>%1 nodes are already shown. Remove one first.</source>
@@ -1173,6 +1188,18 @@ Pa</translation>
     <message>
         <source>The folder %1 cannot be written: settings and logs of this run are not kept.</source>
         <translation>文件夹 %1 不可写：本次运行的设置和日志不会保留。</translation>
+    </message>
+    <message>
+        <source>&amp;Close file</source>
+        <translation>关闭文件(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Close port</source>
+        <translation>关闭串口(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Play back a capture or a CSV recording (%1)</source>
+        <translation>回放捕获或 CSV 记录 (%1)</translation>
     </message>
 </context>
 <context>
@@ -1350,6 +1377,121 @@ Pa</translation>
     <message>
         <source>PNG at %1 times the size</source>
         <translation>PNG，尺寸放大到 %1 倍</translation>
+    </message>
+</context>
+<context>
+    <name>PlaybackBar</name>
+    <message>
+        <source>Unthrottled</source>
+        <translation>不限速</translation>
+    </message>
+    <message>
+        <source>Reconstructed from a CSV recording: fields that it does not hold are 0, and times are spread over each second.</source>
+        <translation>由 CSV 记录重建:其中没有的字段为 0,时间在每一秒内均匀分布。</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>暂停</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>继续</translation>
+    </message>
+    <message>
+        <source>At the end</source>
+        <translation>已到末尾</translation>
+    </message>
+    <message>
+        <source>reached: %1</source>
+        <translation>实际:%1</translation>
+    </message>
+    <message>
+        <source>%1. This computer cannot keep up; nothing is left out.</source>
+        <translation>%1。本机跟不上速度;不会丢弃任何数据。</translation>
+    </message>
+    <message>
+        <source>Play the whole file</source>
+        <translation>播放整个文件</translation>
+    </message>
+    <message>
+        <source>Play from</source>
+        <translation>播放起点</translation>
+    </message>
+    <message>
+        <source>Play to</source>
+        <translation>播放终点</translation>
+    </message>
+    <message>
+        <source>The end</source>
+        <translation>结尾</translation>
+    </message>
+    <message>
+        <source>The start</source>
+        <translation>开头</translation>
+    </message>
+    <message>
+        <source>Here (%1)</source>
+        <translation>当前位置 (%1)</translation>
+    </message>
+    <message>
+        <source>Playback</source>
+        <translation>回放</translation>
+    </message>
+    <message>
+        <source>Play or pause (Space)</source>
+        <translation>播放或暂停 (空格键)</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>步进</translation>
+    </message>
+    <message>
+        <source>Play one packet</source>
+        <translation>播放一个数据包</translation>
+    </message>
+    <message>
+        <source>How fast the file is played</source>
+        <translation>文件的播放速度</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>速率</translation>
+    </message>
+    <message>
+        <source>Position in the file</source>
+        <translation>文件中的位置</translation>
+    </message>
+    <message>
+        <source>Position and length</source>
+        <translation>位置和长度</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>循环</translation>
+    </message>
+    <message>
+        <source>Play again from the start when the end is reached</source>
+        <translation>到达末尾后从头再播放</translation>
+    </message>
+    <message>
+        <source>Skip gaps</source>
+        <translation>跳过空隙</translation>
+    </message>
+    <message>
+        <source>Skip times without data of more than 2 s</source>
+        <translation>跳过超过 2 秒无数据的时段</translation>
+    </message>
+    <message>
+        <source>Part...</source>
+        <translation>片段...</translation>
+    </message>
+    <message>
+        <source>Play from marker to marker</source>
+        <translation>在标记之间播放</translation>
+    </message>
+    <message>
+        <source>Rate that is reached</source>
+        <translation>实际达到的速度</translation>
     </message>
 </context>
 <context>
@@ -1752,6 +1894,10 @@ Pa</translation>
     <message>
         <source>Unconnected...</source>
         <translation>未连接</translation>
+    </message>
+    <message>
+        <source>Playing back %1</source>
+        <translation>正在回放 %1</translation>
     </message>
 </context>
 <context>
@@ -2406,6 +2552,26 @@ Pa</translation>
     <message>
         <source>Ctrl+F9</source>
         <translation>Ctrl+F9</translation>
+    </message>
+    <message>
+        <source>&amp;New window</source>
+        <translation>新建窗口(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+N</source>
+        <translation>Ctrl+Shift+N</translation>
+    </message>
+    <message>
+        <source>Opens another window for another device</source>
+        <translation>为另一台设备打开新窗口</translation>
+    </message>
+    <message>
+        <source>Open &amp;file...</source>
+        <translation>打开文件(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+O</source>
+        <translation>Ctrl+Shift+O</translation>
     </message>
 </context>
 <context>
@@ -4129,6 +4295,20 @@ Do not unplug the device.</source>
 Waiting for the device...</source>
         <translation>连接已断开。
 正在等待设备...</translation>
+    </message>
+    <message>
+        <source>This is a file already: capturing it again would add nothing.</source>
+        <translation>这已经是一个文件:再次捕获没有意义。</translation>
+    </message>
+    <message>
+        <source>The file is being opened.</source>
+        <translation>正在打开文件。</translation>
+    </message>
+    <message>
+        <source>Playing back %1
+%2 packets/s</source>
+        <translation>正在回放 %1
+%2 包/秒</translation>
     </message>
 </context>
 <context>

@@ -897,6 +897,21 @@
     </message>
 </context>
 <context>
+    <name>FileOpening</name>
+    <message>
+        <source>Open a capture or a recording</source>
+        <translation>キャプチャまたは記録を開く</translation>
+    </message>
+    <message>
+        <source>Captures and recordings (*.mcap *.csv)</source>
+        <translation>キャプチャと記録 (*.mcap *.csv)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>すべてのファイル (*)</translation>
+    </message>
+</context>
+<context>
     <name>GatewayDashboard</name>
     <message>
         <source>Pause</source>
@@ -1174,6 +1189,18 @@ Pa</translation>
         <source>The folder %1 cannot be written: settings and logs of this run are not kept.</source>
         <translation>フォルダー %1 に書き込めないため、今回の設定とログは保存されません。</translation>
     </message>
+    <message>
+        <source>&amp;Close file</source>
+        <translation>ファイルを閉じる(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Close port</source>
+        <translation>ポートを閉じる(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Play back a capture or a CSV recording (%1)</source>
+        <translation>キャプチャまたは CSV 記録を再生 (%1)</translation>
+    </message>
 </context>
 <context>
     <name>MarkerList</name>
@@ -1350,6 +1377,121 @@ Pa</translation>
     <message>
         <source>PNG at %1 times the size</source>
         <translation>%1 倍サイズの PNG</translation>
+    </message>
+</context>
+<context>
+    <name>PlaybackBar</name>
+    <message>
+        <source>Unthrottled</source>
+        <translation>速度制限なし</translation>
+    </message>
+    <message>
+        <source>Reconstructed from a CSV recording: fields that it does not hold are 0, and times are spread over each second.</source>
+        <translation>CSV 記録から再構成しています。記録にない項目は 0 になり、時刻は各 1 秒に均等に割り当てられます。</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>再開</translation>
+    </message>
+    <message>
+        <source>At the end</source>
+        <translation>終端です</translation>
+    </message>
+    <message>
+        <source>reached: %1</source>
+        <translation>実際: %1</translation>
+    </message>
+    <message>
+        <source>%1. This computer cannot keep up; nothing is left out.</source>
+        <translation>%1。このコンピューターでは追いつけません。データの省略はありません。</translation>
+    </message>
+    <message>
+        <source>Play the whole file</source>
+        <translation>ファイル全体を再生</translation>
+    </message>
+    <message>
+        <source>Play from</source>
+        <translation>再生の開始位置</translation>
+    </message>
+    <message>
+        <source>Play to</source>
+        <translation>再生の終了位置</translation>
+    </message>
+    <message>
+        <source>The end</source>
+        <translation>終端</translation>
+    </message>
+    <message>
+        <source>The start</source>
+        <translation>先頭</translation>
+    </message>
+    <message>
+        <source>Here (%1)</source>
+        <translation>現在位置 (%1)</translation>
+    </message>
+    <message>
+        <source>Playback</source>
+        <translation>再生</translation>
+    </message>
+    <message>
+        <source>Play or pause (Space)</source>
+        <translation>再生または一時停止 (スペース)</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>ステップ</translation>
+    </message>
+    <message>
+        <source>Play one packet</source>
+        <translation>1 パケットを再生</translation>
+    </message>
+    <message>
+        <source>How fast the file is played</source>
+        <translation>ファイルの再生速度</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>記録レート</translation>
+    </message>
+    <message>
+        <source>Position in the file</source>
+        <translation>ファイル内の位置</translation>
+    </message>
+    <message>
+        <source>Position and length</source>
+        <translation>位置と長さ</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>ループ</translation>
+    </message>
+    <message>
+        <source>Play again from the start when the end is reached</source>
+        <translation>終端に達したら先頭から再生</translation>
+    </message>
+    <message>
+        <source>Skip gaps</source>
+        <translation>空白をスキップ</translation>
+    </message>
+    <message>
+        <source>Skip times without data of more than 2 s</source>
+        <translation>データのない時間が 2 秒を超える部分をスキップ</translation>
+    </message>
+    <message>
+        <source>Part...</source>
+        <translation>区間...</translation>
+    </message>
+    <message>
+        <source>Play from marker to marker</source>
+        <translation>マーカー間を再生</translation>
+    </message>
+    <message>
+        <source>Rate that is reached</source>
+        <translation>実際の速度</translation>
     </message>
 </context>
 <context>
@@ -1752,6 +1894,10 @@ Pa</translation>
     <message>
         <source>Unconnected...</source>
         <translation>未接続...</translation>
+    </message>
+    <message>
+        <source>Playing back %1</source>
+        <translation>%1 を再生中</translation>
     </message>
 </context>
 <context>
@@ -2406,6 +2552,26 @@ Pa</translation>
     <message>
         <source>Ctrl+F9</source>
         <translation>Ctrl+F9</translation>
+    </message>
+    <message>
+        <source>&amp;New window</source>
+        <translation>新しいウィンドウ(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+N</source>
+        <translation>Ctrl+Shift+N</translation>
+    </message>
+    <message>
+        <source>Opens another window for another device</source>
+        <translation>別のデバイス用にウィンドウを開きます</translation>
+    </message>
+    <message>
+        <source>Open &amp;file...</source>
+        <translation>ファイルを開く(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+O</source>
+        <translation>Ctrl+Shift+O</translation>
     </message>
 </context>
 <context>
@@ -4129,6 +4295,20 @@ Do not unplug the device.</source>
 Waiting for the device...</source>
         <translation>接続が切れました。
 デバイスを待っています...</translation>
+    </message>
+    <message>
+        <source>This is a file already: capturing it again would add nothing.</source>
+        <translation>これはすでにファイルです。再度キャプチャする必要はありません。</translation>
+    </message>
+    <message>
+        <source>The file is being opened.</source>
+        <translation>ファイルを開いています。</translation>
+    </message>
+    <message>
+        <source>Playing back %1
+%2 packets/s</source>
+        <translation>%1 を再生中
+%2 パケット/秒</translation>
     </message>
 </context>
 <context>

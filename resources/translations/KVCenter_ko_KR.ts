@@ -897,6 +897,21 @@
     </message>
 </context>
 <context>
+    <name>FileOpening</name>
+    <message>
+        <source>Open a capture or a recording</source>
+        <translation>캡처 또는 기록 열기</translation>
+    </message>
+    <message>
+        <source>Captures and recordings (*.mcap *.csv)</source>
+        <translation>캡처 및 기록 (*.mcap *.csv)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>모든 파일 (*)</translation>
+    </message>
+</context>
+<context>
     <name>GatewayDashboard</name>
     <message>
         <source>Pause</source>
@@ -1174,6 +1189,18 @@ Pa</translation>
         <source>The folder %1 cannot be written: settings and logs of this run are not kept.</source>
         <translation>%1 폴더에 쓸 수 없어 이번 실행의 설정과 로그가 저장되지 않습니다.</translation>
     </message>
+    <message>
+        <source>&amp;Close file</source>
+        <translation>파일 닫기(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Close port</source>
+        <translation>포트 닫기(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Play back a capture or a CSV recording (%1)</source>
+        <translation>캡처 또는 CSV 기록 재생 (%1)</translation>
+    </message>
 </context>
 <context>
     <name>MarkerList</name>
@@ -1350,6 +1377,121 @@ Pa</translation>
     <message>
         <source>PNG at %1 times the size</source>
         <translation>%1배 크기의 PNG</translation>
+    </message>
+</context>
+<context>
+    <name>PlaybackBar</name>
+    <message>
+        <source>Unthrottled</source>
+        <translation>속도 제한 없음</translation>
+    </message>
+    <message>
+        <source>Reconstructed from a CSV recording: fields that it does not hold are 0, and times are spread over each second.</source>
+        <translation>CSV 기록에서 재구성했습니다. 기록에 없는 항목은 0이며 시간은 매초 안에 고르게 분배됩니다.</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>일시 정지</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>재개</translation>
+    </message>
+    <message>
+        <source>At the end</source>
+        <translation>끝에 있음</translation>
+    </message>
+    <message>
+        <source>reached: %1</source>
+        <translation>실제: %1</translation>
+    </message>
+    <message>
+        <source>%1. This computer cannot keep up; nothing is left out.</source>
+        <translation>%1. 이 컴퓨터가 따라가지 못합니다. 빠지는 데이터는 없습니다.</translation>
+    </message>
+    <message>
+        <source>Play the whole file</source>
+        <translation>파일 전체 재생</translation>
+    </message>
+    <message>
+        <source>Play from</source>
+        <translation>재생 시작 위치</translation>
+    </message>
+    <message>
+        <source>Play to</source>
+        <translation>재생 끝 위치</translation>
+    </message>
+    <message>
+        <source>The end</source>
+        <translation>끝</translation>
+    </message>
+    <message>
+        <source>The start</source>
+        <translation>처음</translation>
+    </message>
+    <message>
+        <source>Here (%1)</source>
+        <translation>현재 위치 (%1)</translation>
+    </message>
+    <message>
+        <source>Playback</source>
+        <translation>재생</translation>
+    </message>
+    <message>
+        <source>Play or pause (Space)</source>
+        <translation>재생 또는 일시 정지 (스페이스)</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>한 단계</translation>
+    </message>
+    <message>
+        <source>Play one packet</source>
+        <translation>패킷 하나 재생</translation>
+    </message>
+    <message>
+        <source>How fast the file is played</source>
+        <translation>파일 재생 속도</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>기록 속도</translation>
+    </message>
+    <message>
+        <source>Position in the file</source>
+        <translation>파일 내 위치</translation>
+    </message>
+    <message>
+        <source>Position and length</source>
+        <translation>위치와 길이</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>반복</translation>
+    </message>
+    <message>
+        <source>Play again from the start when the end is reached</source>
+        <translation>끝에 도달하면 처음부터 다시 재생</translation>
+    </message>
+    <message>
+        <source>Skip gaps</source>
+        <translation>공백 건너뛰기</translation>
+    </message>
+    <message>
+        <source>Skip times without data of more than 2 s</source>
+        <translation>데이터 없는 시간이 2초를 넘으면 건너뛰기</translation>
+    </message>
+    <message>
+        <source>Part...</source>
+        <translation>구간...</translation>
+    </message>
+    <message>
+        <source>Play from marker to marker</source>
+        <translation>마커 사이 재생</translation>
+    </message>
+    <message>
+        <source>Rate that is reached</source>
+        <translation>실제 속도</translation>
     </message>
 </context>
 <context>
@@ -1752,6 +1894,10 @@ Pa</translation>
     <message>
         <source>Unconnected...</source>
         <translation>연결 안 됨...</translation>
+    </message>
+    <message>
+        <source>Playing back %1</source>
+        <translation>%1 재생 중</translation>
     </message>
 </context>
 <context>
@@ -2406,6 +2552,26 @@ Pa</translation>
     <message>
         <source>Ctrl+F9</source>
         <translation>Ctrl+F9</translation>
+    </message>
+    <message>
+        <source>&amp;New window</source>
+        <translation>새 창(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+N</source>
+        <translation>Ctrl+Shift+N</translation>
+    </message>
+    <message>
+        <source>Opens another window for another device</source>
+        <translation>다른 장치를 위한 창을 엽니다</translation>
+    </message>
+    <message>
+        <source>Open &amp;file...</source>
+        <translation>파일 열기(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+O</source>
+        <translation>Ctrl+Shift+O</translation>
     </message>
 </context>
 <context>
@@ -4129,6 +4295,20 @@ Do not unplug the device.</source>
 Waiting for the device...</source>
         <translation>연결이 끊어졌습니다.
 장치를 기다리는 중...</translation>
+    </message>
+    <message>
+        <source>This is a file already: capturing it again would add nothing.</source>
+        <translation>이미 파일입니다. 다시 캡처할 필요가 없습니다.</translation>
+    </message>
+    <message>
+        <source>The file is being opened.</source>
+        <translation>파일을 여는 중입니다.</translation>
+    </message>
+    <message>
+        <source>Playing back %1
+%2 packets/s</source>
+        <translation>%1 재생 중
+%2 패킷/초</translation>
     </message>
 </context>
 <context>

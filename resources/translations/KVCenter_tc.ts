@@ -897,6 +897,21 @@
     </message>
 </context>
 <context>
+    <name>FileOpening</name>
+    <message>
+        <source>Open a capture or a recording</source>
+        <translation>開啟擷取或記錄</translation>
+    </message>
+    <message>
+        <source>Captures and recordings (*.mcap *.csv)</source>
+        <translation>擷取和記錄 (*.mcap *.csv)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>所有檔案 (*)</translation>
+    </message>
+</context>
+<context>
     <name>GatewayDashboard</name>
     <message>
         <source>Pause</source>
@@ -1071,7 +1086,7 @@ Pa</translation>
     </message>
     <message>
         <source>Alt+Up</source>
-        <translation>Alt+Up</translation>
+        <translation>Alt+↑</translation>
     </message>
     <message>
         <source>Move the node and its charts down</source>
@@ -1079,7 +1094,7 @@ Pa</translation>
     </message>
     <message>
         <source>Alt+Down</source>
-        <translation>Alt+Down</translation>
+        <translation>Alt+↓</translation>
     </message>
     <message>
         <source>%1 nodes are already shown. Remove one first.</source>
@@ -1173,6 +1188,18 @@ Pa</translation>
     <message>
         <source>The folder %1 cannot be written: settings and logs of this run are not kept.</source>
         <translation>資料夾 %1 無法寫入：本次執行的設定與日誌將不會保留。</translation>
+    </message>
+    <message>
+        <source>&amp;Close file</source>
+        <translation>關閉檔案(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Close port</source>
+        <translation>關閉序列埠(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Play back a capture or a CSV recording (%1)</source>
+        <translation>播放擷取或 CSV 記錄 (%1)</translation>
     </message>
 </context>
 <context>
@@ -1350,6 +1377,121 @@ Pa</translation>
     <message>
         <source>PNG at %1 times the size</source>
         <translation>PNG，尺寸放大為 %1 倍</translation>
+    </message>
+</context>
+<context>
+    <name>PlaybackBar</name>
+    <message>
+        <source>Unthrottled</source>
+        <translation>不限速</translation>
+    </message>
+    <message>
+        <source>Reconstructed from a CSV recording: fields that it does not hold are 0, and times are spread over each second.</source>
+        <translation>由 CSV 記錄重建:其中沒有的欄位為 0,時間在每一秒內均勻分布。</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>暫停</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>繼續</translation>
+    </message>
+    <message>
+        <source>At the end</source>
+        <translation>已到結尾</translation>
+    </message>
+    <message>
+        <source>reached: %1</source>
+        <translation>實際:%1</translation>
+    </message>
+    <message>
+        <source>%1. This computer cannot keep up; nothing is left out.</source>
+        <translation>%1。本機跟不上速度;不會捨棄任何資料。</translation>
+    </message>
+    <message>
+        <source>Play the whole file</source>
+        <translation>播放整個檔案</translation>
+    </message>
+    <message>
+        <source>Play from</source>
+        <translation>播放起點</translation>
+    </message>
+    <message>
+        <source>Play to</source>
+        <translation>播放終點</translation>
+    </message>
+    <message>
+        <source>The end</source>
+        <translation>結尾</translation>
+    </message>
+    <message>
+        <source>The start</source>
+        <translation>開頭</translation>
+    </message>
+    <message>
+        <source>Here (%1)</source>
+        <translation>目前位置 (%1)</translation>
+    </message>
+    <message>
+        <source>Playback</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>Play or pause (Space)</source>
+        <translation>播放或暫停 (空白鍵)</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>步進</translation>
+    </message>
+    <message>
+        <source>Play one packet</source>
+        <translation>播放一個封包</translation>
+    </message>
+    <message>
+        <source>How fast the file is played</source>
+        <translation>檔案的播放速度</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>速率</translation>
+    </message>
+    <message>
+        <source>Position in the file</source>
+        <translation>檔案中的位置</translation>
+    </message>
+    <message>
+        <source>Position and length</source>
+        <translation>位置和長度</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>循環</translation>
+    </message>
+    <message>
+        <source>Play again from the start when the end is reached</source>
+        <translation>到達結尾後從頭再播放</translation>
+    </message>
+    <message>
+        <source>Skip gaps</source>
+        <translation>略過空隙</translation>
+    </message>
+    <message>
+        <source>Skip times without data of more than 2 s</source>
+        <translation>略過超過 2 秒無資料的時段</translation>
+    </message>
+    <message>
+        <source>Part...</source>
+        <translation>片段...</translation>
+    </message>
+    <message>
+        <source>Play from marker to marker</source>
+        <translation>在標記之間播放</translation>
+    </message>
+    <message>
+        <source>Rate that is reached</source>
+        <translation>實際達到的速度</translation>
     </message>
 </context>
 <context>
@@ -1752,6 +1894,10 @@ Pa</translation>
     <message>
         <source>Unconnected...</source>
         <translation>未連線</translation>
+    </message>
+    <message>
+        <source>Playing back %1</source>
+        <translation>正在播放 %1</translation>
     </message>
 </context>
 <context>
@@ -2406,6 +2552,26 @@ Pa</translation>
     <message>
         <source>Ctrl+F9</source>
         <translation>Ctrl+F9</translation>
+    </message>
+    <message>
+        <source>&amp;New window</source>
+        <translation>新增視窗(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+N</source>
+        <translation>Ctrl+Shift+N</translation>
+    </message>
+    <message>
+        <source>Opens another window for another device</source>
+        <translation>為另一台裝置開啟新視窗</translation>
+    </message>
+    <message>
+        <source>Open &amp;file...</source>
+        <translation>開啟檔案(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+O</source>
+        <translation>Ctrl+Shift+O</translation>
     </message>
 </context>
 <context>
@@ -4129,6 +4295,20 @@ Do not unplug the device.</source>
 Waiting for the device...</source>
         <translation>連線已中斷。
 正在等待裝置...</translation>
+    </message>
+    <message>
+        <source>This is a file already: capturing it again would add nothing.</source>
+        <translation>這已經是一個檔案:再次擷取沒有意義。</translation>
+    </message>
+    <message>
+        <source>The file is being opened.</source>
+        <translation>正在開啟檔案。</translation>
+    </message>
+    <message>
+        <source>Playing back %1
+%2 packets/s</source>
+        <translation>正在播放 %1
+%2 封包/秒</translation>
     </message>
 </context>
 <context>
