@@ -16,6 +16,8 @@ constexpr int kDriverSlackKib = 8 * 1024;
 constexpr int kShownStalls = 12;
 // Closed windows give back what they were drawn with. What may stay: libraries, types, glyphs.
 constexpr int kKeptKib = 60 * 1024;
+constexpr qsizetype kFewestMemoryLooks =
+    12; ///< with fewer it is not judged: memory fluctuates with what was shown last
 
 // Six samples per pixel are requested, but a renderer may have only four; and replies that are not text contain
 // characters that a font has no rules for.
@@ -34,18 +36,18 @@ double median(QList<double> values)
 struct Figure
 {
     const char *name;
-    qsizetype fewestLooks; ///< with fewer it is not judged: memory fluctuates with what was shown last
+    qsizetype fewestLooks; ///< with fewer it is not judged
     double slack;
     bool isMemory;
     double (*of)(const CampaignReport::Look &look);
 };
 
 constexpr Figure kFigures[] = {
-    {"resident memory, KiB", 12, kResidentSlackKib, true,
+    {"resident memory, KiB", kFewestMemoryLooks, kResidentSlackKib, true,
      [](const CampaignReport::Look &look) { return double(look.residentKib); }},
-    {"anonymous memory, KiB", 12, kResidentSlackKib, true,
+    {"anonymous memory, KiB", kFewestMemoryLooks, kResidentSlackKib, true,
      [](const CampaignReport::Look &look) { return double(look.anonymousKib); }},
-    {"heap in use, KiB", 12, kHeapSlackKib, true,
+    {"heap in use, KiB", kFewestMemoryLooks, kHeapSlackKib, true,
      [](const CampaignReport::Look &look) { return double(look.heapKib); }},
     {"file handles", 4, 0, false, [](const CampaignReport::Look &look) { return double(look.handles); }},
     {"threads", 4, 0, false, [](const CampaignReport::Look &look) { return double(look.threads); }},
@@ -91,7 +93,7 @@ void CampaignReport::judge(int stallLimitMs, const QString &messageLog)
         }
     }
     const auto closed = byState(*this).value(kAllClosed);
-    if (!closed.isEmpty()) {
+    if (closed.size() >= kFewestMemoryLooks) {
         QList<double> kept;
         for (const Look &look : closed)
             kept += double(look.anonymousKib - unopenedKib);

@@ -3282,8 +3282,8 @@ To try the program without a device, type demo: below. A device on another compu
         <translation>无法写入记录的附属文件：%1</translation>
     </message>
     <message>
-        <source>&amp;Continue after the cable was unplugged</source>
-        <translation>拔线重连后继续记录(&amp;C)</translation>
+        <source>Continue after the cable was unplu&amp;gged</source>
+        <translation>拔线重连后继续记录(&amp;G)</translation>
     </message>
     <message>
         <source>Not connected. Open a serial port first.</source>

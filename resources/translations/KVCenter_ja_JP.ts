@@ -3282,8 +3282,8 @@ To try the program without a device, type demo: below. A device on another compu
         <translation>記録に付随するファイルに書き込めません: %1</translation>
     </message>
     <message>
-        <source>&amp;Continue after the cable was unplugged</source>
-        <translation>ケーブルが抜けた後も記録を続ける(&amp;C)</translation>
+        <source>Continue after the cable was unplu&amp;gged</source>
+        <translation>ケーブルが抜けた後も記録を続ける(&amp;G)</translation>
     </message>
     <message>
         <source>Not connected. Open a serial port first.</source>

@@ -3282,8 +3282,8 @@ To try the program without a device, type demo: below. A device on another compu
         <translation>기록과 함께 저장되는 파일에 쓸 수 없습니다: %1</translation>
     </message>
     <message>
-        <source>&amp;Continue after the cable was unplugged</source>
-        <translation>케이블이 분리된 뒤에도 기록 계속(&amp;C)</translation>
+        <source>Continue after the cable was unplu&amp;gged</source>
+        <translation>케이블이 분리된 뒤에도 기록 계속(&amp;G)</translation>
     </message>
     <message>
         <source>Not connected. Open a serial port first.</source>

@@ -3282,8 +3282,8 @@ To try the program without a device, type demo: below. A device on another compu
         <translation>無法寫入記錄的附屬檔案：%1</translation>
     </message>
     <message>
-        <source>&amp;Continue after the cable was unplugged</source>
-        <translation>拔線重連後繼續記錄(&amp;C)</translation>
+        <source>Continue after the cable was unplu&amp;gged</source>
+        <translation>拔線重連後繼續記錄(&amp;G)</translation>
     </message>
     <message>
         <source>Not connected. Open a serial port first.</source>

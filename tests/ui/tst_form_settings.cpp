@@ -420,7 +420,7 @@ private slots:
         const auto *copy = dialog.findChild<QPushButton *>(QStringLiteral("BTN_copy"));
         for (QPushButton *button : dialog.findChildren<QPushButton *>()) {
             button->click();
-            const bool isTold = button->toolTip().contains(QLatin1String("Nothing is connected"));
+            const bool isTold = button->toolTip().contains(QLatin1String("Not connected"));
             const bool sends = button != copy && button != dialog.findChild<QPushButton *>(QStringLiteral("BTN_close"));
             QVERIFY(isTold == sends && button->isEnabled() != sends);
         }

@@ -198,7 +198,11 @@ private slots:
             panel.appendSample(sample);
         }
         panel.advance(hostMs);
-        const QImage card = panel.findChild<ValueCard *>()->grab().toImage();
+        auto *valueCard = panel.findChild<ValueCard *>();
+        const QImage card = valueCard->grab().toImage();
+        QFont nameFont = valueCard->font();
+        nameFont.setPointSizeF(nameFont.pointSizeF() * 0.85);
+        const int names = QFontMetrics(nameFont).horizontalAdvance(u'W') + 4; // beside the ends of the lines
         constexpr int kEdge = 17;
         constexpr int kTraceHeight = 160;
         double before = -1;
@@ -206,7 +210,7 @@ private slots:
         int empty = 0;
         int columns = 0;
         double roughest = 0;
-        const int right = card.width() - kEdge - 3 - int(periodMs / 12); // its newest bucket is not full
+        const int right = card.width() - kEdge - names - 3 - int(periodMs / 12); // its newest bucket is not full
         for (int x = kEdge; x < right; ++x) {
             double sum = 0;
             int count = 0;
@@ -227,7 +231,7 @@ private slots:
             stepBefore = step;
             before = sum / count;
         }
-        const int pixelsSilent = silentMs * (card.width() - 2 * kEdge) / 5000;
+        const int pixelsSilent = silentMs * (card.width() - 2 * kEdge - names) / 5000;
         QVERIFY2(std::abs(empty - pixelsSilent) <= 5, qPrintable(QString::number(empty)));
         QVERIFY2(roughest < 3, qPrintable(QString::number(roughest)));
     }
