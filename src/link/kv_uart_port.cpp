@@ -254,15 +254,7 @@ void KvUartPort::takeSent(const QByteArray &chunk, qint64 playNs)
 void KvUartPort::startAgain()
 {
     m_kboot->clear();
-    {
-        const QMutexLocker lock(&m_statsMutex);
-        m_health = {};
-        m_lastSecond = {};
-        m_txBytes = 0;
-        m_rxBytes = 0;
-        m_framesCounter = 0;
-    }
-    m_playedSecondNs = 0;
+    clearCounters();
     emit restarted();
 }
 
@@ -327,8 +319,13 @@ void KvUartPort::clear()
     m_replyAllowanceMs = 0;
     m_bootloaderMode = false;
     m_hasAskedForBootloader = false;
-    m_playedSecondNs = 0;
     m_kboot->setPlayedTime(0);
+    clearCounters();
+}
+
+void KvUartPort::clearCounters()
+{
+    m_playedSecondNs = 0;
     const QMutexLocker lock(&m_statsMutex);
     m_health = {};
     m_lastSecond = {};

@@ -170,6 +170,7 @@ private:
     void takeChunk(const QByteArray &chunk, qint64 steadyNs);
     void takeSent(const QByteArray &chunk, qint64 playNs);
     void startAgain();
+    void clearCounters();
     bool isPlayback() const { return m_address.kind == SourceKind::File; }
     void countPlayedSeconds(qint64 playNs);
     void endSecond();
