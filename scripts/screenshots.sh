@@ -195,6 +195,32 @@ scene_gateway() {
   take gateway
 }
 
+scene_overlay() {
+  device --device gateway --nodes 15 --layout 62 --rate 50
+  program '[WIRELESS_DASHBOARD]' 'NODES=1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15' OVERLAID=true
+  connected
+  keys ctrl+g
+  window '^Wireless Gateway Dashboard'
+  sleep 8
+  take overlay
+}
+
+scene_playback() {
+  device --rate 200
+  program
+  connected
+  keys ctrl+F9
+  sleep 9
+  keys ctrl+F9 ctrl+w
+  sleep 1
+  keys ctrl+shift+o
+  sleep 2
+  xdotool type "$(ls "$work"/settings/*.mcap)"
+  keys Return
+  sleep 5
+  take playback
+}
+
 scene_link_health() {
   device --device gateway --nodes 4 --rate 50 --noise 0.02
   program
