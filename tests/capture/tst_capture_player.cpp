@@ -161,7 +161,7 @@ private slots:
         QSignalSpy measured(m_player.get(), &CapturePlayer::rateMeasured);
         m_player->setRate(20);
         if (byWindow)
-            m_player->setWindow(7);
+            m_player->setWindow(14); // as many were sent as received
         else
             connect(m_player.get(), &CapturePlayer::received, this,
                     [this] { m_player->setBusy(m_received.size() == 7); });
@@ -172,7 +172,7 @@ private slots:
         QCOMPARE(measured.first().last().toBool(), false);
         const std::unique_ptr<QThread> other(QThread::create([this, byWindow] {
             if (byWindow)
-                m_player->acknowledge(93);
+                m_player->acknowledge(186);
             else
                 m_player->setBusy(false);
         }));
@@ -294,7 +294,7 @@ private slots:
         file.close();
         int count = 0;
         for (QList<TimedBytes> part = source.read(); !part.isEmpty(); part = source.read())
-            count += int(part.size());
+            count += int(std::count_if(part.cbegin(), part.cend(), [](const TimedBytes &it) { return !it.isSent; }));
         QCOMPARE(count, 40);
         QCOMPARE(source.damagedChunks(), 1);
     }
