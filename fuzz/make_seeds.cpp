@@ -15,9 +15,9 @@ int main(int argc, char **argv)
         return 2;
     }
     const QDir folder(QFile::decodeName(argv[1]));
-    const QList<seeds::Seed> all = seeds::bootloader() + seeds::capture() + seeds::csv() + seeds::hex() + seeds::models()
-                                   + seeds::reply() + seeds::settings() + seeds::snapshot() + seeds::stream()
-                                   + seeds::telnet();
+    const QList<seeds::Seed> all = seeds::bootloader() + seeds::capture() + seeds::csv() + seeds::hex()
+                                   + seeds::models() + seeds::reply() + seeds::settings() + seeds::snapshot()
+                                   + seeds::stream() + seeds::telnet();
     for (const seeds::Seed &seed : all) {
         const QString target = QLatin1String(seed.target);
         QFile file(folder.filePath(target + u'/' + QLatin1String(seed.name)));
