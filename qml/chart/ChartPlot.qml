@@ -150,7 +150,7 @@ Item {
                 id: longest
 
                 font: Theme.smallFont
-                text: plot.viewState.seriesLabels.reduce((a, b) => a.length >= b.length ? a : b, "")
+                text: plot.viewState.longestLabel
             }
             Repeater {
                 model: plot.viewState.seriesLabels.length > 1 ? plot.viewState.seriesLabels.length : 0

@@ -64,7 +64,7 @@ Flow {
         width: Math.min(implicitWidth, row.width)
         topPadding: 4
         wrapMode: Text.WordWrap
-        text: visible ? qsTr("In force: %1 Hz, as the rate is now %2 Hz").arg(Number(row.bridge.filterForceHz.toPrecision(3))).arg(row.bridge.framerate) : ""
+        text: visible ? qsTr("In force: %1 Hz, as the rate is now %2 Hz").arg(Number(row.bridge.filterForceHz.toPrecision(3))).arg(row.bridge.rateHz) : ""
         textFormat: Text.PlainText
         font: Theme.smallFont
         color: Theme.warning

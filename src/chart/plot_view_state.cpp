@@ -126,6 +126,16 @@ QStringList PlotViewState::seriesLabels() const
     return labels;
 }
 
+QString PlotViewState::longestLabel() const
+{
+    QString longest;
+    for (const QString &label : seriesLabels()) {
+        if (label.size() > longest.size())
+            longest = label;
+    }
+    return longest;
+}
+
 QList<bool> PlotViewState::seriesDashes() const
 {
     QList<bool> dashes;

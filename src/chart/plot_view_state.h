@@ -36,6 +36,7 @@ class PlotViewState : public QObject
     Q_PROPERTY(QVariantList seriesColors READ seriesColors NOTIFY colorsChanged)
     Q_PROPERTY(QList<bool> visibleSeries READ visibleSeries NOTIFY seriesChanged)
     Q_PROPERTY(QStringList seriesLabels READ seriesLabels NOTIFY seriesChanged)
+    Q_PROPERTY(QString longestLabel READ longestLabel NOTIFY seriesChanged)
     Q_PROPERTY(QList<bool> seriesDashes READ seriesDashes NOTIFY seriesChanged)
     Q_PROPERTY(QList<double> ends READ ends NOTIFY endsChanged)
     Q_PROPERTY(double xViewMin READ xViewMin NOTIFY viewChanged)
@@ -78,6 +79,8 @@ public:
     QStringList seriesNames() const;
     /// Short names, for the ends of the curves.
     QStringList seriesLabels() const;
+    /// The one with the most characters.
+    QString longestLabel() const;
     QList<bool> seriesDashes() const;
     /// QColors, as they are drawn now; they follow source and appearance.
     QVariantList seriesColors() const;

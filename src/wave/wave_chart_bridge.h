@@ -48,6 +48,7 @@ class WaveChartBridge : public QObject, public TimeSource
     Q_PROPERTY(WaveTrigger *trigger READ trigger CONSTANT)
     Q_PROPERTY(bool holds READ holds NOTIFY holdsChanged)
     Q_PROPERTY(unsigned int framerate READ framerate NOTIFY framerateChanged)
+    Q_PROPERTY(double rateHz READ rateHz NOTIFY framerateChanged)
     Q_PROPERTY(double xLimitMin READ xLimitMin CONSTANT)
     Q_PROPERTY(double xLimitMax READ xLimitMax CONSTANT)
     Q_PROPERTY(double xHistoryMin READ xHistoryMin NOTIFY viewLimitsChanged)
@@ -74,6 +75,8 @@ public:
     bool hasData() const override { return model().hasData(); }
     /// Samples per second as applied; a change during a pause takes effect when the pause ends.
     unsigned int framerate() const { return m_appliedFrameRate; }
+    /// The same, of a type that views know.
+    double rateHz() const { return m_appliedFrameRate; }
 
     double xLimitMin() const { return -60; }
     double xLimitMax() const { return 0; }

@@ -86,7 +86,7 @@ private slots:
         click(with.updater, "BTN_download");
         QTRY_VERIFY(with.find<QProgressBar>("PB_progress")->value() > 10);
         QVERIFY(!open->isEnabled());
-        QVERIFY2(open->toolTip().contains(QLatin1String("download runs")), qPrintable(open->toolTip()));
+        QVERIFY2(open->toolTip().contains(QLatin1String("download is running")), qPrintable(open->toolTip()));
         open->trigger();
         QVERIFY(openDialog<form_com_select>() == nullptr);
         QVERIFY(!with.desk.window->close());
