@@ -40,7 +40,7 @@ public:
     void setLimit(qint64 playNs);
     /// Steady nanoseconds until a time; 0 when it has come, kNever while paused.
     qint64 waitNs(qint64 playNs) const;
-    /// How far, in steady nanoseconds, time would be past the limit: the player is behind.
+    /// By how many steady nanoseconds the player is late: time would be past the limit.
     qint64 lagNs() const;
 
 private:

@@ -39,7 +39,7 @@ constexpr char kDescriptor[] = "\x0A\x45"
                                "\x62\x06"
                                "proto3";
 
-/// A varint at `*offset`, which is moved behind it. Nothing when it is cut or longer than 64 bits.
+/// A varint at `*offset`, which moves past it. Nothing when it is cut or longer than 64 bits.
 std::optional<quint64> varint(QByteArrayView bytes, qsizetype *offset)
 {
     quint64 value = 0;

@@ -4,7 +4,7 @@
 #include <QString>
 
 /// A file beside each capture while it is being written: another window or another instance of the program must not
-/// take it for one that lost its end. What a program that was killed leaves behind is recognised and removed.
+/// take it for one that lost its end. The lock of a program that was killed is recognised and removed.
 namespace capture_lock {
 
 inline QString pathOf(const QString &capture)

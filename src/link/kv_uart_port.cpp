@@ -509,8 +509,9 @@ void KvUartPort::endSecond()
     m_lastSecond.txBytesLastSecond = m_txBytes;
     m_lastSecond.rxBytesLastSecond = m_rxBytes;
     m_lastSecond.framesLastSecond = m_framesCounter;
-    m_lastSecond.txLoadPercent = loadPercent(m_txBytes, m_address.baudRate, bitsPerCharacter);
-    m_lastSecond.rxLoadPercent = loadPercent(m_rxBytes, m_address.baudRate, bitsPerCharacter);
+    const int bitsPerSecond = m_address.kind == SourceKind::File ? 0 : m_address.baudRate; // a file has no line to load
+    m_lastSecond.txLoadPercent = loadPercent(m_txBytes, bitsPerSecond, bitsPerCharacter);
+    m_lastSecond.rxLoadPercent = loadPercent(m_rxBytes, bitsPerSecond, bitsPerCharacter);
     m_txBytes = 0;
     m_rxBytes = 0;
     m_framesCounter = 0;

@@ -1,5 +1,6 @@
 #include "wave/gateway_dashboard_bridge.h"
 
+#include <QRegularExpression>
 #include <QSettings>
 
 #include <algorithm>
@@ -222,7 +223,7 @@ void GatewayDashboardBridge::moveNode(int nodeId, int rows)
     if (from < 0 || from == to)
         return;
     ids.move(from, to);
-    // Those that are not heard now keep their places behind.
+    // Those that are not heard now follow, in their order.
     for (const int id : std::as_const(m_order)) {
         if (!ids.contains(id))
             ids += id;
@@ -460,12 +461,11 @@ void GatewayDashboardBridge::loadChoices(const QString &iniPath)
     for (NodeOverlay *overlay : m_overlays)
         overlay->setChannel(settings.value(overlay->sensorType().toUpper() + kChannelKey).toInt());
     settings.beginGroup(kChartsGroup);
-    for (int id = 0; id <= kMaxId; ++id) {
-        for (size_t type = 0; type < sensorTypes().size(); ++type) {
-            const ViewChoices choices = ViewChoices::read(settings, choiceKey(id, type));
-            if (choices != ViewChoices())
-                m_choices.insert(choiceKey(id, type), choices);
-        }
+    static const QRegularExpression kSpanKey(QStringLiteral("^(N(\\d{1,3})_([A-Z]+))_SPAN$"));
+    for (const QString &key : settings.childKeys()) {
+        const QRegularExpressionMatch match = kSpanKey.match(key);
+        if (match.hasMatch() && match.captured(2).toInt() <= kMaxId && findSensorType(match.captured(3).toLower()))
+            m_choices.insert(match.captured(1), ViewChoices::read(settings, match.captured(1)));
     }
     settings.endGroup();
     if (!settings.contains(kTypesKey))

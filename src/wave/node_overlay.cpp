@@ -59,6 +59,8 @@ void NodeOverlay::setNodes(const QList<Node> &nodes)
     m_nodes = nodes.first(std::min<qsizetype>(nodes.size(), kMaxNodes));
     ++m_generation;
     for (const Node &node : m_nodes) {
+        if (!node.chart)
+            continue;
         connect(node.chart, &WaveChartBridge::dataChanged, this, [this] {
             if (m_notifyTimer.isActive())
                 return;
