@@ -20,7 +20,8 @@ public:
     qint64 wallMs() const;
 
     bool isPlayback() const { return m_play != nullptr; }
-    /// The time is that of what is played back from now on; null: the computer's. `play` outlives this, or the next call.
+    /// The time is that of what is played back from now on; null: the computer's. `play` outlives this, or the next
+    /// call.
     void follow(const PlayClock *play);
     /// Bytes of this time are dealt with, in nanoseconds since 1970; time stands there until release().
     void hold(qint64 playNs) { m_heldNs = playNs; }

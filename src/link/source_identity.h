@@ -6,9 +6,10 @@
 
 #include "link/source_address.h"
 
-/// What distinguishes a source from all others, so that a lost one can be found again and no other is taken for it: the serial
-/// number of a USB adapter, a name that was given to the device (a link such as those in /dev/serial/by-id), or the
-/// address of a source on the network. A plain value. The functions ask the system for its ports, not for the network.
+/// What distinguishes a source from all others, so that a lost one can be found again and no other is taken for it: the
+/// serial number of a USB adapter, a name that was given to the device (a link such as those in /dev/serial/by-id), or
+/// the address of a source on the network. A plain value. The functions ask the system for its ports, not for the
+/// network.
 struct SourceIdentity
 {
     SourceAddress address;
