@@ -138,7 +138,8 @@ qsizetype FrameScan::takeChecked(const quint8 *bytes, qsizetype length)
     const quint16 crc = frameCrc(frameCrc(0, bytes, kCrcOffset), bytes + kHeaderSize, length - kHeaderSize);
     const bool fits = crc == u16At(bytes + kCrcOffset);
     if (fits && type == kTypeData) {
-        countData(length);
+        if (m_health.countData(quint64(length)))
+            m_errorNoted = false;
         if (m_sink)
             m_sink(QByteArrayView(bytes + kHeaderSize, length - kHeaderSize), m_done);
     } else if (fits || type == kTypePingResponse) { // whose check value is in another place
@@ -150,22 +151,6 @@ qsizetype FrameScan::takeChecked(const quint8 *bytes, qsizetype length)
         noteError(LinkError::Checksum);
     }
     return length;
-}
-
-/// What comes before the first good data packet is no fault, see LinkHealth.
-void FrameScan::countData(qsizetype length)
-{
-    if (m_health.dataPackets == 0) {
-        LinkHealth fresh;
-        fresh.receivedBytes = m_health.receivedBytes;
-        fresh.controlPackets = m_health.controlPackets;
-        fresh.controlBytes = m_health.controlBytes;
-        fresh.leadingBytes = m_health.rejectedBytes() + m_health.discardedBytes;
-        m_health = fresh;
-        m_errorNoted = false;
-    }
-    ++m_health.dataPackets;
-    m_health.dataBytes += quint64(length);
 }
 
 void FrameScan::noteError(LinkError error)

@@ -29,7 +29,6 @@ private:
     qsizetype takePacket(const quint8 *bytes, qsizetype size);
     qsizetype takeChecked(const quint8 *bytes, qsizetype length);
     void takeOutside(const quint8 *bytes, qsizetype size);
-    void countData(qsizetype length);
     void noteError(LinkError error);
 
     Sink m_sink;

@@ -166,7 +166,8 @@ void KbootProtocol::finishPacket()
         m_health.controlPackets++;
         m_health.controlBytes += quint64(m_frameBuffer.size());
     } else if (fits && type == kTypeData) {
-        countData();
+        if (m_health.countData(quint64(m_frameBuffer.size())))
+            m_errorNoted = false;
         m_frameBuffer.remove(0, kHeaderSize);
         emit kbootRecv(m_frameBuffer);
     } else if (fits || type == kTypePingResponse) { // whose check value is in another place
@@ -192,21 +193,6 @@ LinkHealth KbootProtocol::health() const
     if (m_decodeState != Hunting)
         health.pendingBytes = quint64(m_frameBuffer.size());
     return health;
-}
-
-void KbootProtocol::countData()
-{
-    if (m_health.dataPackets == 0) {
-        LinkHealth fresh;
-        fresh.receivedBytes = m_health.receivedBytes;
-        fresh.controlPackets = m_health.controlPackets;
-        fresh.controlBytes = m_health.controlBytes;
-        fresh.leadingBytes = m_health.rejectedBytes() + m_health.discardedBytes;
-        m_health = fresh;
-        m_errorNoted = false;
-    }
-    ++m_health.dataPackets;
-    m_health.dataBytes += quint64(m_frameBuffer.size());
 }
 
 void KbootProtocol::countDiscarded(quint8 byte)

@@ -164,7 +164,6 @@ private:
     void takeType(quint8 type);
     void finishHeader();
     void finishPacket();
-    void countData();
     void countDiscarded(quint8 byte);
     void noteError(LinkError error);
 

@@ -42,6 +42,9 @@ struct LinkHealth
     LinkError lastError = LinkError::None;
     qint64 lastErrorMs = 0; ///< the computer's clock, milliseconds since 1970; 0: none
 
+    /// Counts a good data packet of `length` bytes. True when it is the first: the counts of damage start again.
+    bool countData(quint64 length);
+
     /// Bytes of rejected packets.
     quint64 rejectedBytes() const;
     /// Rejected packets.
